@@ -1,0 +1,25 @@
+# An installed tree that a customer's own project finds with find_package(Fieldkit).
+include(CMakePackageConfigHelpers)
+
+set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Fieldkit)
+
+install(TARGETS framework companion fieldkit EXPORT FieldkitTargets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT FieldkitTargets NAMESPACE Fieldkit:: DESTINATION ${_package})
+
+# Only what lies directly in these folders is public; subfolders are internal.
+foreach(_folder framework geometry survey util controls dialogs resources)
+  file(GLOB _headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.h)
+  install(FILES ${_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/${_folder})
+endforeach()
+install(FILES ${PROJECT_SOURCE_DIR}/companion/Tesuvo.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/companion)
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake INSTALL_DESTINATION ${_package})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
+  ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake DESTINATION ${_package})

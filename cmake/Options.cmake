@@ -1,0 +1,39 @@
+# Compiler options of the project's own code, in one place.
+option(FIELDKIT_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_SHARED_LIBRARY_PREFIX "")
+string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
+set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
+
+# The order of evaluation of a formula is part of its result: no fused
+# multiply-add, no reassociation, in any build and for any source file.
+add_compile_options(-ffp-contract=off)
+
+if(FIELDKIT_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0601 WINVER=0x0601
+                          __USE_MINGW_ANSI_STDIO=1)
+  # Each module carries its own copy of the compiler's runtime, so that no
+  # further DLL has to be shipped; exceptions still cross the borders by pointer.
+  add_link_options(-static -static-libgcc -static-libstdc++)
+  # windres knows UTF-8 only when told so on the command line.
+  set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
+endif()
+
+# Warnings for the project's own code only; GoogleTest's sources stay as they are.
+add_library(fieldkit_warnings INTERFACE)
+target_compile_options(fieldkit_warnings INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>)

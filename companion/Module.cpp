@@ -1,0 +1,20 @@
+#include "Module.h"
+
+namespace {
+
+HMODULE ModuleOfThisCode(DWORD flags) {
+    static const wchar_t anchor = 0;
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | flags, &anchor, &module);
+    return module;
+}
+
+} // namespace
+
+HINSTANCE CompanionModule() {
+    return ModuleOfThisCode(GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT);
+}
+
+void PinCompanionModule() {
+    ModuleOfThisCode(GET_MODULE_HANDLE_EX_FLAG_PIN);
+}

@@ -1,0 +1,25 @@
+#include "Tesuvo.h"
+
+#include "SharedSetting.h"
+
+#include <string>
+
+namespace {
+
+constexpr wchar_t kSettingsKey[] = L"Software\\Tesuvo\\Common";
+
+std::optional<long long> StoredSetting(int nId) {
+    DWORD value = 0;
+    DWORD size = sizeof value;
+    const LSTATUS status = ::RegGetValueW(HKEY_CURRENT_USER, kSettingsKey, std::to_wstring(nId).c_str(),
+                                          RRF_RT_REG_DWORD, nullptr, &value, &size);
+    if (status != ERROR_SUCCESS)
+        return std::nullopt;
+    return value;
+}
+
+} // namespace
+
+int TVGetCommonRegInt(int nId) {
+    return GuardedSetting(nId, StoredSetting(nId));
+}

@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include "Tesuvo.h"
+
+#include <cstdlib>
+
+namespace {
+
+TEST(Settings, DecimalsComeFromTheEnvironmentWithinTheirRange) {
+    struct Row {
+        const char* stored;
+        int value;
+    };
+    const Row rows[] = {
+        {"0", 0},
+        {"3", 3},
+        {"4", 4},
+        {"5", 2},
+        {"-1", 2},
+        {"4294967296", 2},
+        {"99999999999999999999", 2},
+        {"", 2},
+        {"abc", 2},
+        {"3x", 2},
+        {" 3", 2},
+        {"3.0", 2},
+    };
+    for (const Row& row : rows) {
+        ::setenv("TESUVO_SETTING_1280", row.stored, 1);
+        EXPECT_EQ(TVGetCommonRegInt(1280), row.value) << row.stored;
+    }
+    ::unsetenv("TESUVO_SETTING_1280");
+    EXPECT_EQ(TVGetCommonRegInt(1280), 2);
+}
+
+TEST(Settings, UnknownOnesAreZeroWhateverIsStored) {
+    ::setenv("TESUVO_SETTING_1281", "3", 1);
+    EXPECT_EQ(TVGetCommonRegInt(1281), 0);
+    ::unsetenv("TESUVO_SETTING_1281");
+}
+
+} // namespace

@@ -1,0 +1,81 @@
+# shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
+# The device's screen: a virtual X display of 240 x 320 and a private Wine prefix.
+
+screen_size=240x320
+prefix=$build/wine
+system_font=/usr/share/wine/fonts/vgasys.fon
+screen_pid=
+wine_started=
+
+# A run always has a screen of its own, also on a desktop: the same size and
+# depth everywhere, and no window manager that places the windows.
+open_screen() {
+    trap close_screen EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM HUP
+    local number=$build/display
+    : >"$number"
+    Xvfb -displayfd 3 -screen 0 "${screen_size}x24" -nolisten tcp -noreset \
+        3>"$number" >"$build/xvfb.log" 2>&1 9>&- &
+    screen_pid=$!
+    wait_until 20 screen_is_up "$number" || die "Xvfb did not start, see build/xvfb.log"
+    DISPLAY=:$(<"$number")
+    export DISPLAY
+
+    export WINEPREFIX=$prefix WINEDEBUG=-all
+    export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
+    wine_started=yes
+    # A run that was killed may have left its server, bound to a screen that is gone.
+    [[ ! -d $prefix ]] || wineserver -k 9>&- || true
+    cmp -s "$root/tools/device.reg" "$prefix/device.reg" || logged make-wine-prefix make_prefix
+    [[ ! -e $system_font ]] || echo 'note: fonts-wine is installed, dialogs come out larger than on the device'
+    # Stays up between the programs, which then start quickly.
+    in_wine wineserver -p
+}
+
+screen_is_up() {
+    kill -0 "$screen_pid" 2>/dev/null || die "Xvfb stopped, see build/xvfb.log"
+    [[ -s $1 ]]
+}
+
+# Wine's background processes must not inherit the lock of this run.
+in_wine() {
+    LC_ALL=$device_locale "$@" 9>&-
+}
+
+make_prefix() {
+    rm -rf "$prefix"
+    in_wine wineboot -i
+    in_wine wine regedit /S "$root/tools/device.reg"
+    add_marlett
+    # Writes the registry to disk and ends all that still has the old settings.
+    in_wine timeout 60 wineserver -w
+    cp "$root/tools/device.reg" "$prefix/device.reg"
+}
+
+# The glyphs of scroll arrows, check marks and caption buttons. Their package
+# cannot simply be installed: it also brings a bitmap font named "System", which
+# Wine prefers to the replacement, and every dialog would change its size.
+add_marlett() {
+    local unpacked=$build/fonts-wine
+    [[ ! -e $system_font ]] || return 0
+    if [[ ! -d $unpacked ]]; then
+        cd "$build/tmp" || return
+        apt-get download fonts-wine || { apt-get update && apt-get download fonts-wine; }
+        dpkg-deb -x fonts-wine_*.deb "$unpacked"
+        rm fonts-wine_*.deb
+    fi
+    cp "$unpacked/usr/share/wine/fonts/marlett.ttf" "$prefix/drive_c/windows/Fonts/"
+}
+
+# Ends what this run started, and only that.
+close_screen() {
+    trap - EXIT
+    if [[ -n $wine_started && -d $prefix ]]; then
+        wineserver -k 9>&- || true
+    fi
+    if [[ -n $screen_pid ]]; then
+        kill "$screen_pid" 2>/dev/null || true
+        wait "$screen_pid" 2>/dev/null || true
+    fi
+}
