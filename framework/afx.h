@@ -1,0 +1,10 @@
+/// @file
+/// The framework's base: strings, run-time classes, exceptions, files and archives.
+/// Needs no window system.
+#pragma once
+
+#include "afxstr.h"
+#include "afxobj_.h"
+#include "afxerr_.h"
+#include "afxfile_.h"
+#include "afxarc_.h"

@@ -1,0 +1,138 @@
+/// @file
+/// CFile and CMemFile. Included by afx.h.
+#pragma once
+
+#include "afxobj_.h"
+#include "afxstr.h"
+
+class CFileException;
+
+/// A binary file of the system, unbuffered. Failures throw CFileException* unless the
+/// function says otherwise. On a file that is not open, operations throw invalidFile.
+class AFX_CORE CFile : public CObject {
+    DECLARE_DYNAMIC(CFile)
+public:
+    /// Combined with | for Open: one mode, one share flag, and the rest as wanted.
+    enum OpenFlags : UINT {
+        modeRead = 0x00000,
+        modeWrite = 0x00001,
+        modeReadWrite = 0x00002,
+        shareCompat = 0x00000,
+        shareExclusive = 0x00010,
+        shareDenyWrite = 0x00020,
+        shareDenyRead = 0x00030,
+        shareDenyNone = 0x00040,
+        modeNoInherit = 0x00080,
+        modeCreate = 0x01000,     ///< make the file; cut an existing one to nothing
+        modeNoTruncate = 0x02000, ///< with modeCreate: keep what exists
+        typeText = 0x04000,       ///< for derived classes; CFile itself is always binary
+        typeBinary = 0x08000,
+        osNoBuffer = 0x10000,
+        osWriteThrough = 0x20000,
+        osRandomAccess = 0x40000,
+        osSequentialScan = 0x80000
+    };
+    enum SeekPosition { begin = 0, current = 1, end = 2 };
+
+    static const HANDLE hFileNull;
+
+    CFile() = default;
+    /// Works on an open handle, which stays the caller's: the destructor does not close it.
+    explicit CFile(HANDLE hFile);
+    /// Opens the file; throws CFileException* if that fails.
+    CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
+    /// Closes the file if Open opened it.
+    ~CFile() override;
+
+    operator HANDLE() const { return m_hFile; }
+
+    virtual ULONGLONG GetPosition() const;
+    virtual CString GetFileName() const;
+    /// The file name without its extension.
+    virtual CString GetFileTitle() const;
+    virtual CString GetFilePath() const { return m_strFileName; }
+    virtual void SetFilePath(LPCTSTR lpszNewName) { m_strFileName = lpszNewName; }
+    /// Opens a file; one that is open already is closed first.
+    /// @param pError receives cause, system error and name of a failure; throws nothing.
+    /// @return zero on failure.
+    virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr);
+    /// A second object for the same open file, with the same position. The caller deletes it.
+    virtual CFile* Duplicate() const;
+    /// @param nFrom a SeekPosition.
+    /// @return the new position from the beginning.
+    virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
+    /// Cuts or extends the file; the position moves to its new end.
+    virtual void SetLength(ULONGLONG dwNewLen);
+    virtual ULONGLONG GetLength() const;
+    /// @return the bytes read: fewer than `nCount` only at the end of the file.
+    virtual UINT Read(void* lpBuf, UINT nCount);
+    /// Writes all of it, or throws (diskFull if the system took less).
+    virtual void Write(const void* lpBuf, UINT nCount);
+    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    /// Closes without regard to errors; throws nothing.
+    virtual void Abort();
+    /// Hands everything to the disk. Does nothing on a file that is not open.
+    virtual void Flush();
+    /// Closes the file. Does nothing on a file that is not open.
+    virtual void Close();
+
+    ULONGLONG SeekToEnd() { return Seek(0, end); }
+    void SeekToBegin() { Seek(0, begin); }
+
+    static void AFXAPI Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
+    static void AFXAPI Remove(LPCTSTR lpszFileName);
+
+    HANDLE m_hFile = hFileNull;
+
+protected:
+    BOOL m_bCloseOnDelete = FALSE;
+    CString m_strFileName;
+};
+
+/// A file in memory, which grows as it is written.
+class AFX_CORE CMemFile : public CFile {
+    DECLARE_DYNAMIC(CMemFile)
+public:
+    /// @param nGrowBytes the step by which the memory grows; 0 for one that cannot grow.
+    explicit CMemFile(UINT nGrowBytes = 1024);
+    /// @see Attach
+    CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
+    ~CMemFile() override;
+
+    /// Works on the caller's memory. With nGrowBytes 0 it holds a file of that size that
+    /// cannot grow; otherwise an empty file, and the memory must come from malloc, because
+    /// it may be moved. The caller frees it, after Detach if it can have moved.
+    void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
+    /// Gives the memory to the caller, who frees it with free. The file is empty then.
+    BYTE* Detach();
+
+    ULONGLONG GetPosition() const override;
+    BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
+    CFile* Duplicate() const override;
+    ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;
+    void SetLength(ULONGLONG dwNewLen) override;
+    ULONGLONG GetLength() const override;
+    UINT Read(void* lpBuf, UINT nCount) override;
+    void Write(const void* lpBuf, UINT nCount) override;
+    void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    void Abort() override;
+    void Flush() override;
+    void Close() override;
+
+protected:
+    virtual BYTE* Alloc(std::size_t nBytes);
+    virtual BYTE* Realloc(BYTE* lpMem, std::size_t nBytes);
+    virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, std::size_t nBytes);
+    virtual void Free(BYTE* lpMem);
+    /// Makes room for that many bytes; throws CMemoryException* if there is none.
+    virtual void GrowFile(std::size_t dwNewLen);
+
+    std::size_t m_nGrowBytes = 0;
+    std::size_t m_nPosition = 0;
+    std::size_t m_nBufferSize = 0;
+    std::size_t m_nFileSize = 0;
+    BYTE* m_lpBuffer = nullptr;
+    BOOL m_bAutoDelete = TRUE;
+};

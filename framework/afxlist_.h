@@ -1,0 +1,186 @@
+/// @file
+/// CList. Included by afxtempl.h.
+#pragma once
+
+#include "afxelem_.h"
+
+/// A doubly linked list. Positions last until their element is removed. A function that
+/// needs an element or position and gets none throws CInvalidArgException*.
+template <class TYPE, class ARG_TYPE = const TYPE&>
+class CList : public CObject {
+public:
+    /// The block size is taken for compatibility; every node is allocated by itself.
+    explicit CList(INT_PTR /*nBlockSize*/ = 10) {}
+    ~CList() override { RemoveAll(); }
+
+    INT_PTR GetCount() const { return m_nCount; }
+    INT_PTR GetSize() const { return m_nCount; }
+    BOOL IsEmpty() const { return m_nCount == 0 ? TRUE : FALSE; }
+
+    TYPE& GetHead() { return Node(m_pHead).data; }
+    const TYPE& GetHead() const { return Node(m_pHead).data; }
+    TYPE& GetTail() { return Node(m_pTail).data; }
+    const TYPE& GetTail() const { return Node(m_pTail).data; }
+    TYPE RemoveHead() { return Take(m_pHead); }
+    TYPE RemoveTail() { return Take(m_pTail); }
+    POSITION AddHead(ARG_TYPE newElement) { return Link(nullptr, newElement, m_pHead); }
+    POSITION AddTail(ARG_TYPE newElement) { return Link(m_pTail, newElement, nullptr); }
+    /// Puts copies of the other list's elements in front, in the same order.
+    void AddHead(const CList* pNewList);
+    /// Puts copies of the other list's elements at the end, in the same order.
+    void AddTail(const CList* pNewList);
+    void RemoveAll();
+
+    /// NULL for an empty list.
+    POSITION GetHeadPosition() const { return ToPosition(m_pHead); }
+    POSITION GetTailPosition() const { return ToPosition(m_pTail); }
+    /// The element there; the position moves on, to NULL behind the last one.
+    TYPE& GetNext(POSITION& rPosition) { return Step(rPosition, &CNode::pNext); }
+    const TYPE& GetNext(POSITION& rPosition) const { return Step(rPosition, &CNode::pNext); }
+    TYPE& GetPrev(POSITION& rPosition) { return Step(rPosition, &CNode::pPrev); }
+    const TYPE& GetPrev(POSITION& rPosition) const { return Step(rPosition, &CNode::pPrev); }
+    TYPE& GetAt(POSITION position) { return Node(position).data; }
+    const TYPE& GetAt(POSITION position) const { return Node(position).data; }
+    void SetAt(POSITION position, ARG_TYPE newElement) { Node(position).data = newElement; }
+    void RemoveAt(POSITION position) { Unlink(Node(position)); }
+    /// With NULL: at the head.
+    POSITION InsertBefore(POSITION position, ARG_TYPE newElement);
+    /// With NULL: at the tail.
+    POSITION InsertAfter(POSITION position, ARG_TYPE newElement);
+
+    /// @param startAfter the position before the first to look at; NULL for all.
+    /// @return NULL if no element is equal (CompareElements).
+    POSITION Find(ARG_TYPE searchValue, POSITION startAfter = nullptr) const;
+    /// @return NULL for an index outside of the list.
+    POSITION FindIndex(INT_PTR nIndex) const;
+
+    /// The count, then the elements by SerializeElements. Loading appends.
+    void Serialize(CArchive& ar) override;
+
+private:
+    struct CNode {
+        CNode* pPrev;
+        CNode* pNext;
+        TYPE data;
+    };
+
+    static POSITION ToPosition(CNode* pNode) { return reinterpret_cast<POSITION>(pNode); }
+    static CNode& Node(CNode* pNode) {
+        if (pNode == nullptr)
+            AfxThrowInvalidArgException();
+        return *pNode;
+    }
+    static CNode& Node(POSITION position) { return Node(reinterpret_cast<CNode*>(position)); }
+    static TYPE& Step(POSITION& rPosition, CNode* CNode::*pLink) {
+        CNode& node = Node(rPosition);
+        rPosition = ToPosition(node.*pLink);
+        return node.data;
+    }
+    POSITION Link(CNode* pPrev, ARG_TYPE newElement, CNode* pNext);
+    void Unlink(CNode& node);
+    TYPE Take(CNode* pNode);
+
+    CNode* m_pHead = nullptr;
+    CNode* m_pTail = nullptr;
+    INT_PTR m_nCount = 0;
+};
+
+template <class TYPE, class ARG_TYPE>
+POSITION CList<TYPE, ARG_TYPE>::Link(CNode* pPrev, ARG_TYPE newElement, CNode* pNext) {
+    auto* pNode = new CNode{pPrev, pNext, TYPE(newElement)};
+    (pPrev != nullptr ? pPrev->pNext : m_pHead) = pNode;
+    (pNext != nullptr ? pNext->pPrev : m_pTail) = pNode;
+    ++m_nCount;
+    return ToPosition(pNode);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::Unlink(CNode& node) {
+    (node.pPrev != nullptr ? node.pPrev->pNext : m_pHead) = node.pNext;
+    (node.pNext != nullptr ? node.pNext->pPrev : m_pTail) = node.pPrev;
+    --m_nCount;
+    delete &node;
+}
+
+template <class TYPE, class ARG_TYPE>
+TYPE CList<TYPE, ARG_TYPE>::Take(CNode* pNode) {
+    TYPE data(std::move(Node(pNode).data));
+    Unlink(*pNode);
+    return data;
+}
+
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::RemoveAll() {
+    while (m_pHead != nullptr)
+        Unlink(*m_pHead);
+}
+
+// Counted, not to the end: the other list may be this one.
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::AddHead(const CList* pNewList) {
+    if (pNewList == nullptr)
+        AfxThrowInvalidArgException();
+    POSITION position = pNewList->GetTailPosition();
+    for (INT_PTR nLeft = pNewList->m_nCount; nLeft > 0; --nLeft)
+        Link(nullptr, Step(position, &CNode::pPrev), m_pHead);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::AddTail(const CList* pNewList) {
+    if (pNewList == nullptr)
+        AfxThrowInvalidArgException();
+    POSITION position = pNewList->GetHeadPosition();
+    for (INT_PTR nLeft = pNewList->m_nCount; nLeft > 0; --nLeft)
+        Link(m_pTail, Step(position, &CNode::pNext), nullptr);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement) {
+    if (position == nullptr)
+        return AddHead(newElement);
+    CNode& node = Node(position);
+    return Link(node.pPrev, newElement, &node);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION CList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement) {
+    if (position == nullptr)
+        return AddTail(newElement);
+    CNode& node = Node(position);
+    return Link(&node, newElement, node.pNext);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION CList<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const {
+    for (CNode* pNode = startAfter != nullptr ? Node(startAfter).pNext : m_pHead; pNode != nullptr;
+         pNode = pNode->pNext) {
+        if (CompareElements(&pNode->data, &searchValue))
+            return ToPosition(pNode);
+    }
+    return nullptr;
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION CList<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const {
+    if (nIndex < 0 || nIndex >= m_nCount)
+        return nullptr;
+    CNode* pNode = m_pHead;
+    while (nIndex-- > 0)
+        pNode = pNode->pNext;
+    return ToPosition(pNode);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::Serialize(CArchive& ar) {
+    if (ar.IsStoring()) {
+        ar.WriteCount(static_cast<DWORD_PTR>(m_nCount));
+        for (CNode* pNode = m_pHead; pNode != nullptr; pNode = pNode->pNext)
+            SerializeElements<TYPE>(ar, &pNode->data, 1);
+        return;
+    }
+    for (DWORD_PTR nLeft = ar.ReadCount(); nLeft != 0; --nLeft) {
+        TYPE element{};
+        SerializeElements<TYPE>(ar, &element, 1);
+        AddTail(element);
+    }
+}

@@ -1,0 +1,155 @@
+/// @file
+/// CObject, run-time class information and the diagnostic macros. Included by afx.h.
+#pragma once
+
+#include "afxtypes.h"
+
+class CArchive;
+class CObject;
+
+/// A place in a collection; NULL for none.
+using POSITION = struct AFX_POSITION*;
+
+/// Marks the schema number of a class that reads older formats of itself too: loading
+/// another number is then no error, and Serialize asks CArchive::GetObjectSchema.
+#define VERSIONABLE_SCHEMA 0x80000000U
+
+/// What is known about a class at run time. One static object a class, made by the
+/// IMPLEMENT_ macros and filled before any code runs.
+struct AFX_CORE CRuntimeClass {
+    LPCSTR m_lpszClassName;
+    int m_nObjectSize;
+    UINT m_wSchema; ///< 0xFFFF: the class cannot be archived
+    CObject* (*m_pfnCreateObject)();
+    CRuntimeClass* (*m_pfnGetBaseClass)();
+
+    /// @return a new object owned by the caller; NULL if the class cannot be created by name.
+    CObject* CreateObject() const;
+    /// Creates an object of a class that was made known by IMPLEMENT_SERIAL.
+    static CObject* AFXAPI CreateObject(LPCSTR lpszClassName);
+    /// @return the class of that name in any module loaded now; NULL if there is none.
+    static CRuntimeClass* AFXAPI FromName(LPCSTR lpszClassName);
+    /// TRUE for the class itself too.
+    BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
+    void Store(CArchive& ar) const;
+    /// Reads what Store wrote.
+    /// @param pwSchemaNum receives the schema number in the archive.
+    /// @return NULL if no class of the archive's name is known.
+    static CRuntimeClass* AFXAPI Load(CArchive& ar, UINT* pwSchemaNum);
+};
+
+/// Makes a class known by name for as long as this object lives: a module that goes
+/// takes its classes with it.
+class AFX_CORE AFX_CLASSINIT {
+public:
+    explicit AFX_CLASSINIT(CRuntimeClass* pNewClass) noexcept;
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
+
+private:
+    friend struct CRuntimeClass;
+    CRuntimeClass* m_pClass;
+    AFX_CLASSINIT* m_pNext;
+};
+
+/// The root of the classes that know their class at run time or can be archived.
+class AFX_CORE CObject {
+public:
+    CObject(const CObject&) = delete;
+    CObject& operator=(const CObject&) = delete;
+    virtual CRuntimeClass* GetRuntimeClass() const;
+    virtual ~CObject() = default;
+
+    BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
+    BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF ? TRUE : FALSE; }
+    /// Stores or loads the members, as the archive's mode says. CObject has none.
+    virtual void Serialize(CArchive& ar);
+    virtual void AssertValid() const;
+
+    static CRuntimeClass classCObject;
+    static CRuntimeClass* AFXAPI _GetBaseClass() { return nullptr; }
+
+protected:
+    CObject() = default;
+};
+
+#define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
+
+#define DECLARE_DYNAMIC(class_name)                                                                          \
+public:                                                                                                      \
+    static CRuntimeClass class##class_name;                                                                  \
+    static CRuntimeClass* _GetBaseClass();                                                                   \
+    CRuntimeClass* GetRuntimeClass() const override;
+
+#define DECLARE_DYNCREATE(class_name)                                                                        \
+    DECLARE_DYNAMIC(class_name)                                                                              \
+    static CObject* CreateObject();
+
+/// The operator is defined inside the class, so that it needs no export of its own.
+#define DECLARE_SERIAL(class_name)                                                                           \
+    DECLARE_DYNCREATE(class_name)                                                                            \
+    friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {                                            \
+        pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name)));                        \
+        return ar;                                                                                           \
+    }
+
+#define _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                                \
+    CRuntimeClass* class_name::_GetBaseClass() {                                                             \
+        return RUNTIME_CLASS(base_class_name);                                                               \
+    }                                                                                                        \
+    CRuntimeClass class_name::class##class_name = {#class_name, static_cast<int>(sizeof(class_name)),        \
+                                                   wSchema, pfnNew, &class_name::_GetBaseClass};             \
+    CRuntimeClass* class_name::GetRuntimeClass() const {                                                     \
+        return RUNTIME_CLASS(class_name);                                                                    \
+    }
+
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
+    _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
+
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
+    CObject* class_name::CreateObject() {                                                                    \
+        return new class_name;                                                                               \
+    }                                                                                                        \
+    _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
+
+#define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                                               \
+    CObject* class_name::CreateObject() {                                                                    \
+        return new class_name;                                                                               \
+    }                                                                                                        \
+    _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, &class_name::CreateObject)                 \
+    static AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
+
+/// CArchive::ReadObject, for code that sees the archive only as a name.
+AFX_CORE CObject* AFXAPI AfxReadObject(CArchive& ar, const CRuntimeClass* pClass);
+
+AFX_CORE CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
+AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObject);
+
+/// The object as a pointer to the class; NULL if it is not of that kind.
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                 \
+    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+
+/// Reports a failed assertion and ends the program.
+[[noreturn]] AFX_CORE void AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
+AFX_CORE void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
+/// Writes to the debugger's output, elsewhere to the standard error stream.
+AFX_CORE void AfxTrace(LPCTSTR lpszFormat, ...);
+
+// Checks cost nothing in a release program. The classes are the same in both, so that
+// debug programs work with the release library.
+#ifdef _DEBUG
+#define ASSERT(f) ((f) ? (void)0 : AfxAssertFailedLine(__FILE__, __LINE__))
+#define VERIFY(f) ASSERT(f)
+#define ASSERT_VALID(pOb) (AfxAssertValidObject(pOb, __FILE__, __LINE__))
+#define STATIC_DOWNCAST(class_name, object)                                                                  \
+    (static_cast<class_name*>(AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
+#define TRACE AfxTrace
+#else
+#define ASSERT(f) ((void)0)
+#define VERIFY(f) ((void)(f))
+#define ASSERT_VALID(pOb) ((void)0)
+#define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
+#define TRACE(...) ((void)0)
+#endif
+#define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))

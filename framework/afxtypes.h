@@ -1,0 +1,78 @@
+/// @file
+/// The names of the Win32 basic types, and the export macro of the framework.
+///
+/// On Windows they come from windows.h. Elsewhere, where only the portable base
+/// of the framework is built (strings, value types, collections, archives), the
+/// few that its interface mentions are declared here with the same widths.
+#pragma once
+
+#ifdef _WIN32
+
+#ifndef UNICODE
+#error "The framework is Unicode only: define UNICODE and _UNICODE"
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#include <tchar.h>
+
+#ifdef FRAMEWORK_EXPORTS
+#define AFX_CORE __declspec(dllexport)
+#else
+#define AFX_CORE __declspec(dllimport)
+#endif
+#define AFXAPI __stdcall
+
+#else
+
+#include <cstddef>
+#include <cstdint>
+
+#define AFX_CORE
+#define AFXAPI
+#define TRUE 1
+#define FALSE 0
+#define _T(text) L##text
+
+using BOOL = int;
+using BYTE = std::uint8_t;
+using WORD = std::uint16_t;
+using DWORD = std::uint32_t;
+using UINT = unsigned int;
+using LONG = std::int32_t;
+using ULONGLONG = std::uint64_t;
+using LONGLONG = std::int64_t;
+using TCHAR = wchar_t;
+using LPTSTR = wchar_t*;
+using LPCTSTR = const wchar_t*;
+using LPWSTR = wchar_t*;
+using LPCWSTR = const wchar_t*;
+using HANDLE = void*;
+using INT_PTR = std::intptr_t;
+using UINT_PTR = std::uintptr_t;
+using DWORD_PTR = std::uintptr_t;
+using LPARAM = std::intptr_t;
+using LPSTR = char*;
+using LPCSTR = const char*;
+
+struct POINT {
+    LONG x;
+    LONG y;
+};
+struct SIZE {
+    LONG cx;
+    LONG cy;
+};
+struct RECT {
+    LONG left;
+    LONG top;
+    LONG right;
+    LONG bottom;
+};
+using LPPOINT = POINT*;
+using LPSIZE = SIZE*;
+using LPRECT = RECT*;
+using LPCRECT = const RECT*;
+
+#endif

@@ -1,0 +1,34 @@
+/// @file
+/// The operating system's file calls, in the one form that CFile needs. Failures are
+/// system error numbers (GetLastError on Windows, errno elsewhere), 0 is success.
+#pragma once
+
+#include "../afx.h"
+
+namespace filesystem {
+
+using Error = LONG;
+
+/// The share flags, one of which applies.
+constexpr UINT kShareMask = CFile::shareDenyWrite | CFile::shareDenyRead | CFile::shareDenyNone;
+/// @param flags CFile::OpenFlags.
+Error Open(LPCTSTR path, UINT flags, HANDLE& file);
+Error Close(HANDLE file);
+Error Duplicate(HANDLE file, HANDLE& copy);
+/// @param read the bytes that came before the error or the end of the file.
+Error Read(HANDLE file, void* buffer, UINT count, UINT& read);
+/// @param written fewer than `count` without an error means that the disk is full.
+Error Write(HANDLE file, const void* buffer, UINT count, UINT& written);
+/// @param from a CFile::SeekPosition.
+Error Seek(HANDLE file, LONGLONG offset, UINT from, ULONGLONG& position);
+Error SetEndOfFile(HANDLE file, ULONGLONG length);
+Error GetLength(HANDLE file, ULONGLONG& length);
+Error Flush(HANDLE file);
+Error Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock);
+Error Rename(LPCTSTR from, LPCTSTR to);
+Error Remove(LPCTSTR path);
+/// The path from the root; the path as it is if the system gives none.
+CString FullPath(LPCTSTR path);
+bool IsSeparator(wchar_t ch) noexcept;
+
+} // namespace filesystem

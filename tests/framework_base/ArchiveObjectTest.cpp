@@ -1,0 +1,230 @@
+#include "ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+constexpr int kNone = CArchiveException::none;
+constexpr int kEndOfFile = CArchiveException::endOfFile;
+constexpr int kBadIndex = CArchiveException::badIndex;
+constexpr int kBadClass = CArchiveException::badClass;
+constexpr int kBadSchema = CArchiveException::badSchema;
+
+// A chain; each link owns the next one unless it leads back.
+class CLink : public CObject {
+    DECLARE_SERIAL(CLink)
+public:
+    CLink() { ++s_alive; }
+    explicit CLink(BYTE id) : m_id(id) { ++s_alive; }
+    ~CLink() override {
+        if (m_bOwnsNext)
+            delete m_pNext;
+        --s_alive;
+    }
+    void Serialize(CArchive& ar) override {
+        if (ar.IsStoring()) {
+            ar << m_id << m_pNext;
+            return;
+        }
+        ar >> m_id;
+        const int nBefore = s_alive;
+        ar >> m_pNext;
+        m_bOwnsNext = s_alive > nBefore;
+    }
+
+    static int s_alive;
+    BYTE m_id = 0;
+    CLink* m_pNext = nullptr;
+    bool m_bOwnsNext = false;
+};
+int CLink::s_alive = 0;
+IMPLEMENT_SERIAL(CLink, CObject, 1)
+
+class CVersioned : public CObject {
+    DECLARE_SERIAL(CVersioned)
+public:
+    ~CVersioned() override { delete m_pInner; }
+    void Serialize(CArchive& ar) override {
+        if (ar.IsStoring()) {
+            ar << m_pInner;
+            return;
+        }
+        ar >> m_pInner;
+        m_first = ar.GetObjectSchema();
+        m_second = ar.GetObjectSchema();
+    }
+    CVersioned* m_pInner = nullptr;
+    UINT m_first = 0;
+    UINT m_second = 0;
+};
+IMPLEMENT_SERIAL(CVersioned, CObject, VERSIONABLE_SCHEMA | 2)
+
+class CNamed : public CObject {
+    DECLARE_DYNAMIC(CNamed)
+};
+IMPLEMENT_DYNAMIC(CNamed, CObject)
+
+// Schema, length and name, as they follow the tag of a new class.
+const std::string kLinkClass = "ffff 0100 0500 434c696e6b ";
+
+int LoadChain(const std::string& hex) {
+    std::unique_ptr<CLink> owner;
+    return Loaded(FromHex(hex), [&](CArchive& ar) {
+        CLink* p = nullptr;
+        ar >> p;
+        owner.reset(p);
+    });
+}
+
+TEST(ArchiveObject, RecordsCarryClassesOnceAndObjectsByNumber) {
+    CLink a(0xA1);
+    CLink b(0xB2);
+    a.m_pNext = &b;
+    b.m_pNext = &a;
+    const Bytes bytes = Stored([&](CArchive& ar) {
+        ar << &a << &b << static_cast<CLink*>(nullptr);
+        ar.SerializeClass(RUNTIME_CLASS(CLink));
+    });
+    const std::string expected = kLinkClass + "a1" // a is number 2, behind its class
+                                 + "0180 b2 0200"  // b: the class by number, then back to a
+                                 + "0300 0000 0180";
+    EXPECT_EQ(ToHex(FromHex(expected)), ToHex(bytes));
+
+    CLink* loaded[3] = {};
+    EXPECT_EQ(kNone, Loaded(bytes, [&](CArchive& ar) {
+                  ar >> loaded[0] >> loaded[1] >> loaded[2];
+                  ar.SerializeClass(RUNTIME_CLASS(CLink));
+              }));
+    ASSERT_TRUE(loaded[0] != nullptr && loaded[1] != nullptr);
+    const std::unique_ptr<CLink> owner(loaded[0]);
+    EXPECT_EQ(loaded[1], loaded[0]->m_pNext);
+    EXPECT_EQ(loaded[0], loaded[1]->m_pNext);
+    EXPECT_EQ(nullptr, loaded[2]);
+    EXPECT_EQ(0xB2, loaded[1]->m_id);
+}
+
+TEST(ArchiveObject, NumbersThatDoNotFitTheirTagAreLong) {
+    struct Row {
+        std::size_t count;
+        const char* tail; // the last link, which has the number count + 1, and the class behind it
+    };
+    for (const Row& row : {Row{0x7FFC, "fd 7f fe ff"}, Row{0x7FFD, "fe 7f ff 7f ff 7f 00 80"},
+                           Row{0x7FFE, "ff 7f ff 7f 00 00 ff 7f 00 80 00 80"}}) {
+        std::vector<std::unique_ptr<CLink>> links(row.count);
+        for (auto& link : links)
+            link = std::make_unique<CLink>();
+        const Bytes bytes = Stored([&](CArchive& ar) {
+            ar.WriteClass(RUNTIME_CLASS(CLink));
+            for (const auto& link : links)
+                ar.MapObject(link.get());
+            ar.WriteClass(RUNTIME_CLASS(CVersioned));
+            ar << links.back().get();
+            ar.WriteClass(RUNTIME_CLASS(CVersioned));
+        });
+        const std::string hex = ToHex(bytes);
+        EXPECT_EQ(row.tail, hex.substr(hex.size() - std::string(row.tail).size()));
+        EXPECT_EQ(kNone, Loaded(bytes, [&](CArchive& ar) {
+                      ar.ReadClass();
+                      for (const auto& link : links)
+                          ar.MapObject(link.get());
+                      ar.ReadClass(RUNTIME_CLASS(CVersioned));
+                      EXPECT_EQ(links.back().get(), ar.ReadObject(RUNTIME_CLASS(CLink)));
+                      EXPECT_EQ(RUNTIME_CLASS(CVersioned), ar.ReadClass());
+                  }));
+    }
+}
+
+TEST(ArchiveObject, DamagedRecordsThrowAndLeaveNothingBehind) {
+    struct Row {
+        const char* what;
+        std::string hex;
+        int cause;
+    };
+    for (const Row& row : {
+             Row{"sound", kLinkClass + "01 0180 02 0000", kNone},
+             Row{"unknown class", "ffff 0100 0500 434c696e78 01 0000", kBadClass},
+             Row{"empty class name", "ffff 0100 0000 01 0000", kBadClass},
+             Row{"NUL in the class name", "ffff 0100 0600 434c696e6b00 01 0000", kBadClass},
+             Row{"class of another kind", "ffff 0200 0a00 4356657273696f6e6564", kBadClass},
+             Row{"other schema", "ffff 0200 0500 434c696e6b 01 0000", kBadSchema},
+             Row{"class number 0", "0080", kBadIndex},
+             Row{"class number unknown", kLinkClass + "01 0780", kBadIndex},
+             Row{"class number of an object", kLinkClass + "01 0280", kBadIndex},
+             Row{"object number unknown", kLinkClass + "01 0700", kBadIndex},
+             Row{"object number of a class", kLinkClass + "01 0100", kBadIndex},
+             Row{"long class number", kLinkClass + "01 ff7f ffffffff", kBadIndex},
+             Row{"long object number", kLinkClass + "01 ff7f ffffff7f", kBadIndex},
+             Row{"class name of 65535 bytes", "ffff 0100 ffff 434c", kEndOfFile},
+         }) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(row.cause, LoadChain(row.hex));
+        EXPECT_EQ(0, CLink::s_alive);
+    }
+}
+
+TEST(ArchiveObject, EveryCutIsTheEndOfTheFile) {
+    const auto load = [](CArchive& ar) { delete ar.ReadObject(RUNTIME_CLASS(CLink)); };
+    const Bytes bytes = FromHex(kLinkClass + "01 0180 02 0180 03 0000");
+    EXPECT_EQ(kNone, Loaded(bytes, load));
+    EXPECT_TRUE(CutsNotNoticed(bytes, load).empty());
+    EXPECT_EQ(0, CLink::s_alive);
+}
+
+TEST(ArchiveObject, ALostObjectCannotBeReferredTo) {
+    // The outer caller swallows the failure and reads on: number 2 was destroyed.
+    const Bytes bytes = FromHex(kLinkClass + "01 0780 0200");
+    EXPECT_EQ(kBadIndex, Loaded(bytes, [](CArchive& ar) {
+                  try {
+                      ar.ReadObject(nullptr);
+                      ADD_FAILURE();
+                  } catch (CArchiveException* e) {
+                      e->Delete();
+                  }
+                  ar.ReadObject(nullptr);
+              }));
+}
+
+TEST(ArchiveObject, EndlessNestingIsRefusedBothWays) {
+    std::string hex = kLinkClass + "01";
+    for (int i = 0; i < 100'000; ++i)
+        hex += "018001";
+    EXPECT_EQ(kBadIndex, LoadChain(hex));
+    EXPECT_EQ(0, CLink::s_alive);
+
+    const auto chain = std::make_unique<CLink>();
+    CLink* pLast = chain.get();
+    for (int i = 0; i < 5000; ++i, pLast = pLast->m_pNext) {
+        pLast->m_pNext = new CLink;
+        pLast->m_bOwnsNext = true;
+    }
+    EXPECT_TRUE(Throws<CArchiveException>([&] { Stored([&](CArchive& ar) { ar << chain.get(); }); }));
+}
+
+TEST(ArchiveObject, EachObjectAsksForItsSchemaNumberOnce) {
+    const std::string name = "0a00 4356657273696f6e6564 ";
+    EXPECT_EQ(ToHex(FromHex("ffff 0200 " + name + "0000")), ToHex(Stored([](CArchive& ar) {
+                  CVersioned v;
+                  ar << &v;
+              })));
+    EXPECT_EQ(kNone, Loaded(FromHex("ffff 0100 " + name + "0180 0000"), [](CArchive& ar) {
+                  CVersioned* pOuter = nullptr;
+                  ar >> pOuter;
+                  const std::unique_ptr<CVersioned> owner(pOuter);
+                  for (const CVersioned* p : {pOuter, pOuter->m_pInner}) {
+                      EXPECT_EQ(1U, p->m_first);
+                      EXPECT_EQ(static_cast<UINT>(-1), p->m_second);
+                  }
+              }));
+}
+
+TEST(ArchiveObject, ClassesWithoutSerialAreNotSupported) {
+    CNamed named;
+    EXPECT_FALSE(named.IsSerializable());
+    EXPECT_THROW(Stored([&](CArchive& ar) { ar << &named; }), CNotSupportedException*);
+    EXPECT_THROW(Loaded({}, [](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CNamed)); }),
+                 CNotSupportedException*);
+}
+
+} // namespace

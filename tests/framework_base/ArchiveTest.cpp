@@ -1,0 +1,212 @@
+#include "AllocationMeter.h"
+#include "ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cwchar>
+#include <limits>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+constexpr int kNone = CArchiveException::none;
+constexpr int kEndOfFile = CArchiveException::endOfFile;
+constexpr int kBadIndex = CArchiveException::badIndex;
+
+template <class Value>
+void ExpectValue(const char* hex, Value value) {
+    EXPECT_EQ(hex, ToHex(Stored([&](CArchive& ar) { ar << value; })));
+    Value loaded{};
+    EXPECT_EQ(kNone, Loaded(FromHex(hex), [&](CArchive& ar) { ar >> loaded; }));
+    EXPECT_EQ(value, loaded) << hex;
+}
+
+TEST(Archive, ValuesAreLittleEndianOfFixedWidth) {
+    ExpectValue("fe", BYTE{0xFE});
+    ExpectValue("41", 'A');
+    ExpectValue("01", true);
+    ExpectValue("42 30", L'\x3042');
+    ExpectValue("fe ff", short{-2});
+    ExpectValue("34 12", WORD{0x1234});
+    ExpectValue("fe ff ff ff", -2);
+    ExpectValue("78 56 34 12", 0x12345678U);
+    ExpectValue("fe ff ff ff", LONG{-2});
+    ExpectValue("78 56 34 12", DWORD{0x12345678});
+    ExpectValue("fe ff ff ff ff ff ff ff", LONGLONG{-2});
+    ExpectValue("ef cd ab 89 67 45 23 01", ULONGLONG{0x0123456789ABCDEF});
+    ExpectValue("00 00 c0 bf", -1.5F);
+    ExpectValue("00 00 00 00 00 00 f8 bf", -1.5);
+    ExpectValue("ff ff ff ff ff ff ef 7f", std::numeric_limits<double>::max());
+}
+
+TEST(Archive, CountsTakeTwoOrSixBytes) {
+    for (const auto& [count, hex] : {std::pair{DWORD_PTR{0}, "00 00"},
+                                     {DWORD_PTR{0xFFFE}, "fe ff"},
+                                     {DWORD_PTR{0xFFFF}, "ff ff ff ff 00 00"},
+                                     {DWORD_PTR{0xFFFFFFFF}, "ff ff ff ff ff ff"}}) {
+        EXPECT_EQ(hex, ToHex(Stored([&, n = count](CArchive& ar) { ar.WriteCount(n); })));
+        DWORD_PTR loaded = 1;
+        Loaded(FromHex(hex), [&](CArchive& ar) { loaded = ar.ReadCount(); });
+        EXPECT_EQ(count, loaded);
+    }
+}
+
+std::string Head(const Bytes& bytes) {
+    return ToHex(Bytes(bytes.begin(),
+                       bytes.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(12, bytes.size()))));
+}
+
+TEST(Archive, StringsHaveTheUnicodeMarkAndALengthOfThreeSizes) {
+    struct Row {
+        CString text;
+        const char* head;
+        std::size_t size;
+    };
+    for (const Row& row : {Row{L"", "ff fe ff 00", 4}, Row{L"A\x3042", "ff fe ff 02 41 00 42 30", 8},
+                           Row{CString(L'x', 254), "ff fe ff fe 78 00 78 00 78 00 78 00", 4 + 508},
+                           Row{CString(L'x', 255), "ff fe ff ff ff 00 78 00 78 00 78 00", 6 + 510},
+                           Row{CString(L'x', 0xFFFD), "ff fe ff ff fd ff 78 00 78 00 78 00", 6 + 0x1FFFA},
+                           Row{CString(L'x', 0xFFFE), "ff fe ff ff ff ff fe ff 00 00 78 00", 10 + 0x1FFFC},
+                           Row{CString(L"a\0b", 3), "ff fe ff 03 61 00 00 00 62 00", 10}}) {
+        const Bytes bytes = Stored([&](CArchive& ar) { ar << row.text; });
+        EXPECT_EQ(row.head, Head(bytes));
+        EXPECT_EQ(row.size, bytes.size());
+        CString loaded;
+        EXPECT_EQ(kNone, Loaded(bytes, [&](CArchive& ar) { ar >> loaded; }));
+        ASSERT_EQ(row.text.GetLength(), loaded.GetLength());
+        EXPECT_EQ(0, std::wmemcmp(row.text, loaded, static_cast<std::size_t>(loaded.GetLength())));
+    }
+}
+
+// The length counts UTF-16 units, also where a character of the program is wider.
+TEST(Archive, CharactersBeyondTheBasicPlaneAreSurrogates) {
+    const CString text = L"\U0001F600z";
+    const char* hex = "ff fe ff 03 3d d8 00 de 7a 00";
+    EXPECT_EQ(hex, ToHex(Stored([&](CArchive& ar) { ar << text; })));
+    CString loaded;
+    Loaded(FromHex(hex), [&](CArchive& ar) { ar >> loaded; });
+    EXPECT_STREQ(text, loaded);
+    const char* lone = "ff fe ff 02 00 de 3d d8";
+    Loaded(FromHex(lone), [&](CArchive& ar) { ar >> loaded; });
+    EXPECT_EQ(lone, ToHex(Stored([&](CArchive& ar) { ar << loaded; })));
+}
+
+TEST(Archive, StringsOfOddFormLoadOrFail) {
+    struct Row {
+        const char* hex;
+        int cause;
+        LPCTSTR text;
+    };
+    for (const Row& row :
+         {Row{"03 61 62 63", kNone, L"abc"}, Row{"ff 01 00 61", kNone, L"a"},
+          Row{"ff ff ff 01 00 00 00 61", kNone, L"a"}, Row{"ff fe ff ff 01 00 61 00", kNone, L"a"},
+          Row{"ff fe ff ff fe ff 01 61 00", kBadIndex, L"old"}, // the mark twice
+          Row{"ff fe ff ff ff ff ff ff ff 7f 61 00", kEndOfFile, L"old"},
+          Row{"ff fe ff ff ff ff 00 00 00 80 61 00", kBadIndex, L"old"},
+          Row{"ff ff ff ff ff ff ff 61", kBadIndex, L"old"}, Row{"ff fd ff 61", kEndOfFile, L"old"}}) {
+        SCOPED_TRACE(row.hex);
+        CString text = L"old";
+        TakeLargestAllocation();
+        EXPECT_EQ(row.cause, Loaded(FromHex(row.hex), [&](CArchive& ar) { ar >> text; }));
+        EXPECT_LT(TakeLargestAllocation(), 100'000U);
+        EXPECT_STREQ(row.text, text);
+    }
+}
+
+TEST(Archive, EveryCutIsTheEndOfTheFile) {
+    const auto store = [](CArchive& ar) {
+        ar << 1.5 << WORD{2} << CString(L'x', 300) << CString(L"z");
+        ar.WriteCount(0x12345);
+    };
+    const auto load = [](CArchive& ar) {
+        double d;
+        WORD w;
+        CString s;
+        ar >> d >> w >> s >> s;
+        ar.ReadCount();
+    };
+    const Bytes bytes = Stored(store);
+    EXPECT_EQ(kNone, Loaded(bytes, load));
+    EXPECT_TRUE(CutsNotNoticed(bytes, load).empty());
+}
+
+TEST(Archive, ReadGivesWhatIsThere) {
+    Bytes buffer(1000);
+    EXPECT_EQ(kNone, Loaded(Bytes(300, 7), [&](CArchive& ar) {
+                  EXPECT_EQ(299U, ar.Read(buffer.data(), 299));
+                  EXPECT_EQ(1U, ar.Read(buffer.data(), 1000));
+                  EXPECT_EQ(0U, ar.Read(buffer.data(), 1));
+              }));
+}
+
+TEST(Archive, TheWrongDirectionThrows) {
+    CMemFile file;
+    CArchive storing(&file, CArchive::store | CArchive::bNoFlushOnDelete);
+    CArchive loading(&file, CArchive::load);
+    const auto causeOf = [](auto use) {
+        try {
+            use();
+        } catch (CArchiveException* e) {
+            const std::unique_ptr<CArchiveException> owner(e);
+            return e->m_cause;
+        }
+        return kNone;
+    };
+    int i = 0;
+    CString s;
+    EXPECT_EQ(CArchiveException::writeOnly, causeOf([&] { storing >> i; }));
+    EXPECT_EQ(CArchiveException::writeOnly, causeOf([&] { storing >> s; }));
+    EXPECT_EQ(CArchiveException::readOnly, causeOf([&] { loading << i; }));
+    storing.Close();
+    EXPECT_EQ(CArchiveException::genericException, causeOf([&] { storing << i; }));
+    EXPECT_THROW(CArchive(nullptr, CArchive::load), CInvalidArgException*);
+}
+
+TEST(Archive, ClosingALoadedArchiveLeavesTheFileBehindTheLastByteUsed) {
+    Bytes bytes = FromHex("01 02 03 04");
+    CMemFile file(bytes.data(), 4);
+    BYTE by = 0;
+    {
+        CArchive ar(&file, CArchive::load);
+        ar >> by;
+    }
+    EXPECT_EQ(1U, file.GetPosition());
+    EXPECT_EQ(1U, file.Read(&by, 1));
+    EXPECT_EQ(2, by);
+}
+
+TEST(Archive, TheCallersBufferIsUsed) {
+    CMemFile file;
+    BYTE buffer[128] = {};
+    CArchive ar(&file, CArchive::store, sizeof(buffer), buffer);
+    ar << BYTE{9};
+    EXPECT_EQ(9, buffer[0]);
+    ar.Close();
+    EXPECT_EQ("09", ToHex(ContentOf(file)));
+}
+
+class FullDisk : public CMemFile {
+public:
+    void Write(const void*, UINT) override { AfxThrowFileException(CFileException::diskFull); }
+};
+
+TEST(Archive, AWriteErrorReachesTheCallerOnce) {
+    FullDisk file;
+    const auto storeAnd = [&file](auto then) {
+        CArchive ar(&file, CArchive::store);
+        ar << 1;
+        then(ar);
+    };
+    EXPECT_TRUE(Throws<CFileException>([&] { storeAnd([](CArchive& ar) { ar.Close(); }); }));
+    EXPECT_TRUE(Throws<CFileException>([&] { storeAnd([](CArchive&) {}); }))
+        << "the destructor must not lose data silently";
+    EXPECT_THROW(storeAnd([](CArchive&) { throw std::runtime_error("first"); }), std::runtime_error);
+    EXPECT_TRUE(Throws<CArchiveException>(
+        [&] { storeAnd([](CArchive&) { AfxThrowArchiveException(CArchiveException::badIndex); }); }));
+    EXPECT_NO_THROW(storeAnd([](CArchive& ar) { ar.Abort(); }));
+    EXPECT_NO_THROW(CArchive(&file, CArchive::store | CArchive::bNoFlushOnDelete) << 1);
+}
+
+} // namespace

@@ -1,0 +1,263 @@
+#include "afxcoll.h"
+#include "afxtempl.h"
+
+#include "AllocationMeter.h"
+#include "ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+static_assert(std::is_base_of_v<CObject, CStringList> && std::is_base_of_v<CObject, CUIntArray>);
+static_assert(std::is_same_v<decltype(CStringList().GetHeadPosition()), POSITION>);
+static_assert(std::is_same_v<decltype(CStringList().RemoveHead()), CString>);
+static_assert(std::is_same_v<decltype(CUIntArray().GetSize()), INT_PTR>);
+static_assert(std::is_same_v<decltype(std::declval<CPtrList&>().GetNext(std::declval<POSITION&>())), void*&>);
+
+CString Joined(const CStringList& list) {
+    CString forwards;
+    CString backwards;
+    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
+        forwards += list.GetNext(pos);
+    for (POSITION pos = list.GetTailPosition(); pos != nullptr;)
+        backwards += list.GetPrev(pos);
+    EXPECT_STREQ(forwards, CString(backwards).MakeReverse()) << "the links disagree";
+    EXPECT_EQ(forwards.GetLength(), list.GetCount());
+    return forwards;
+}
+
+CString Joined(const CStringArray& array) {
+    CString all;
+    for (INT_PTR i = 0; i < array.GetSize(); ++i)
+        all += array[i];
+    return all;
+}
+
+void Fill(CStringList& list, LPCTSTR letters) {
+    for (; *letters != L'\0'; ++letters)
+        list.AddTail(CString(*letters));
+}
+
+void Fill(CStringArray& array, LPCTSTR letters) {
+    for (; *letters != L'\0'; ++letters)
+        array.Add(CString(*letters));
+}
+
+TEST(List, AddsInsertsAndRemovesAnywhere) {
+    CStringList list(3);
+    EXPECT_TRUE(list.IsEmpty() && list.GetHeadPosition() == nullptr);
+    const POSITION b = list.AddHead(L"b");
+    const POSITION d = list.AddTail(L"d");
+    list.AddHead("a");
+    list.InsertBefore(d, L"c");
+    list.InsertAfter(d, L"e");
+    EXPECT_STREQ(L"abcde", Joined(list));
+    list.InsertBefore(nullptr, L"0");
+    list.InsertAfter(nullptr, L"9");
+    EXPECT_STREQ(L"0abcde9", Joined(list));
+    list.RemoveAt(b);
+    list.RemoveAt(list.GetHeadPosition());
+    list.RemoveAt(list.GetTailPosition());
+    list.SetAt(d, L"D");
+    EXPECT_STREQ(L"acDe", Joined(list));
+    EXPECT_STREQ(L"a", list.RemoveHead());
+    EXPECT_STREQ(L"e", list.RemoveTail());
+    EXPECT_STREQ(L"cD", Joined(list));
+    list.GetHead() = L"x";
+    EXPECT_STREQ(L"x", list.GetAt(list.FindIndex(0)));
+    list.RemoveAll();
+    EXPECT_EQ(0, list.GetCount());
+}
+
+TEST(List, FindsByValueAndByIndex) {
+    CStringList list;
+    Fill(list, L"aba");
+    const POSITION first = list.Find(L"a");
+    EXPECT_EQ(list.GetHeadPosition(), first);
+    EXPECT_EQ(list.GetTailPosition(), list.Find(L"a", first));
+    EXPECT_EQ(nullptr, list.Find(L"x"));
+    EXPECT_STREQ(L"b", list.GetAt(list.FindIndex(1)));
+    EXPECT_EQ(nullptr, list.FindIndex(3));
+    EXPECT_EQ(nullptr, list.FindIndex(-1));
+}
+
+TEST(List, TakesListsAndItself) {
+    CStringList list;
+    CStringList more;
+    Fill(list, L"ab");
+    Fill(more, L"xy");
+    list.AddHead(&more);
+    list.AddTail(&more);
+    EXPECT_STREQ(L"xyabxy", Joined(list));
+    more.AddTail(&more);
+    more.AddHead(&more);
+    EXPECT_STREQ(L"xyxyxyxy", Joined(more));
+    list.AddTail(list.GetHead());
+    EXPECT_STREQ(L"xyabxyx", Joined(list));
+}
+
+TEST(List, MissingElementsThrow) {
+    CPtrList list;
+    POSITION none = nullptr;
+    EXPECT_THROW(list.GetHead(), CInvalidArgException*);
+    EXPECT_THROW(list.RemoveTail(), CInvalidArgException*);
+    EXPECT_THROW(list.GetNext(none), CInvalidArgException*);
+    EXPECT_THROW(list.RemoveAt(none), CInvalidArgException*);
+    EXPECT_THROW(list.AddTail(static_cast<CPtrList*>(nullptr)), CInvalidArgException*);
+    int value = 0;
+    list.AddTail(&value);
+    EXPECT_EQ(list.GetHeadPosition(), list.Find(&value));
+}
+
+TEST(Array, GrowsShrinksAndMoves) {
+    CStringArray array;
+    EXPECT_EQ(-1, array.GetUpperBound());
+    EXPECT_EQ(nullptr, array.GetData());
+    Fill(array, L"abc");
+    EXPECT_EQ(3, array.Add(L"d"));
+    array.InsertAt(1, L"x", 2);
+    EXPECT_STREQ(L"axxbcd", Joined(array));
+    array.RemoveAt(1, 2);
+    array.RemoveAt(3);
+    EXPECT_STREQ(L"abc", Joined(array));
+    array.SetAtGrow(5, L"f");
+    EXPECT_EQ(6, array.GetSize());
+    EXPECT_STREQ(L"", array[4]);
+    array.SetSize(2, 10);
+    array.SetSize(4); // what was cut off must not come back
+    EXPECT_STREQ(L"ab", Joined(array));
+    array.InsertAt(0, array[1]);
+    array.Add(array[0]);
+    EXPECT_STREQ(L"babb", Joined(array));
+    array.FreeExtra();
+    EXPECT_STREQ(L"babb", Joined(array));
+    array.RemoveAll();
+    EXPECT_TRUE(array.IsEmpty());
+}
+
+TEST(Array, TakesArraysAndItself) {
+    CStringArray array;
+    CStringArray more;
+    Fill(array, L"ab");
+    Fill(more, L"xy");
+    EXPECT_EQ(2, array.Append(more));
+    EXPECT_EQ(4, array.Append(array));
+    EXPECT_STREQ(L"abxyabxy", Joined(array));
+    more.InsertAt(1, &array);
+    EXPECT_STREQ(L"xabxyabxyy", Joined(more));
+    more.Copy(array);
+    more.Copy(more);
+    EXPECT_STREQ(L"abxyabxy", Joined(more));
+}
+
+TEST(Array, OutsideThrows) {
+    CUIntArray array;
+    array.SetSize(2);
+    EXPECT_EQ(0U, array[1]);
+    EXPECT_THROW(array[2], CInvalidArgException*);
+    EXPECT_THROW(array.SetAt(-1, 1), CInvalidArgException*);
+    EXPECT_THROW(array.InsertAt(-1, 1), CInvalidArgException*);
+    EXPECT_THROW(array.RemoveAt(1, 2), CInvalidArgException*);
+    EXPECT_THROW(array.RemoveAt(0, -1), CInvalidArgException*);
+    EXPECT_THROW(array.SetSize(-1), CInvalidArgException*);
+    EXPECT_THROW(array.SetSize(INTPTR_MAX), CMemoryException*);
+    EXPECT_THROW(array.InsertAt(INTPTR_MAX, 1, 9), CMemoryException*);
+    EXPECT_EQ(2, array.GetSize());
+}
+
+TEST(Map, FindsItsKeysAndWalksThemOnce) {
+    CMap<CString, LPCTSTR, int, int> map;
+    map.InitHashTable(17);
+    for (int i = 0; i < 100; ++i) {
+        CString key;
+        key.Format(L"key%d", i);
+        map.SetAt(key, i);
+    }
+    map[L"key7"] = 707;
+    EXPECT_TRUE(map.RemoveKey(L"key8"));
+    EXPECT_FALSE(map.RemoveKey(L"key8"));
+    int value = -1;
+    EXPECT_TRUE(map.Lookup(L"key7", value));
+    EXPECT_EQ(707, value);
+    EXPECT_FALSE(map.Lookup(L"key8", value));
+    EXPECT_EQ(707, value);
+
+    int sum = 0;
+    int steps = 0;
+    CString key;
+    for (POSITION pos = map.GetStartPosition(); pos != nullptr; ++steps) {
+        map.GetNextAssoc(pos, key, value);
+        sum += value;
+        map.RemoveKey(key); // the entry just visited may go
+    }
+    EXPECT_EQ(99, steps);
+    EXPECT_EQ(99 * 100 / 2 - 8 + 700, sum);
+    EXPECT_TRUE(map.IsEmpty());
+}
+
+template <class Collection>
+std::string HexOf(Collection& collection) {
+    return ToHex(Stored([&](CArchive& ar) { collection.Serialize(ar); }));
+}
+
+TEST(Collection, ArchivesHoldCountAndElements) {
+    CStringList list;
+    Fill(list, L"ab");
+    EXPECT_EQ("02 00 ff fe ff 01 61 00 ff fe ff 01 62 00", HexOf(list));
+    CStringArray array;
+    Fill(array, L"ab");
+    EXPECT_EQ(HexOf(list), HexOf(array));
+    CUIntArray numbers;
+    numbers.Add(0x12345678);
+    EXPECT_EQ("01 00 78 56 34 12", HexOf(numbers));
+    CMap<int, int, CString, LPCTSTR> map;
+    map[2] = L"x";
+    EXPECT_EQ("01 00 02 00 00 00 ff fe ff 01 78 00", HexOf(map));
+
+    const Bytes stored = FromHex(HexOf(list));
+    Loaded(stored, [&](CArchive& ar) { list.Serialize(ar); });
+    EXPECT_STREQ(L"abab", Joined(list)); // a list appends
+    Loaded(stored, [&](CArchive& ar) { array.Serialize(ar); });
+    EXPECT_STREQ(L"ab", Joined(array)); // an array is replaced
+}
+
+TEST(Collection, LargeOnesSurviveTheRoundTrip) {
+    CArray<double, double> numbers;
+    CArray<CString> strings;
+    for (int i = 0; i < 70'000; ++i) {
+        numbers.Add(i / 7.0);
+        strings.Add(CString(L'x', i % 5));
+    }
+    const Bytes bytes = Stored([&](CArchive& ar) {
+        numbers.Serialize(ar);
+        strings.Serialize(ar);
+    });
+    CArray<double, double> loadedNumbers;
+    CArray<CString> loadedStrings;
+    Loaded(bytes, [&](CArchive& ar) {
+        loadedNumbers.Serialize(ar);
+        loadedStrings.Serialize(ar);
+    });
+    ASSERT_EQ(numbers.GetSize(), loadedNumbers.GetSize());
+    EXPECT_TRUE(std::equal(numbers.GetData(), numbers.GetData() + 70'000, loadedNumbers.GetData()));
+    ASSERT_EQ(strings.GetSize(), loadedStrings.GetSize());
+    EXPECT_TRUE(std::equal(strings.GetData(), strings.GetData() + 70'000, loadedStrings.GetData()));
+}
+
+TEST(Collection, DamagedArchivesThrowWithoutTakingMemory) {
+    CStringList list;
+    CStringArray strings;
+    CUIntArray numbers;
+    CMap<int, int, int, int> map;
+    for (CObject* pObject : std::initializer_list<CObject*>{&list, &strings, &numbers, &map}) {
+        for (const char* hex : {"fe ff 01", "ff ff ff ff ff ff 01", "ff ff ff ff ff 7f 01", "ff ff"}) {
+            TakeLargestAllocation();
+            EXPECT_EQ(CArchiveException::endOfFile,
+                      Loaded(FromHex(hex), [&](CArchive& ar) { pObject->Serialize(ar); }))
+                << hex;
+            EXPECT_LT(TakeLargestAllocation(), 100'000U);
+        }
+    }
+}
+
+} // namespace

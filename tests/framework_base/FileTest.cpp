@@ -1,0 +1,211 @@
+#include "ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+namespace {
+
+static_assert(std::is_same_v<decltype(std::declval<const CFile&>().GetLength()), ULONGLONG>);
+static_assert(std::is_same_v<decltype(std::declval<CFile&>().Read(nullptr, 0)), UINT>);
+static_assert(std::is_same_v<decltype(std::declval<CFile&>().SetFilePath(nullptr)), void>);
+static_assert(CFile::modeCreate == 0x1000 && CFile::modeNoTruncate == 0x2000 &&
+              CFile::shareDenyWrite == 0x20 && CFile::shareDenyNone == 0x40 && CFile::typeBinary == 0x8000);
+
+constexpr UINT kCreate = CFile::modeCreate | CFile::modeReadWrite;
+
+class File : public testing::Test {
+protected:
+    File() {
+        static int s_count = 0;
+        m_folder = std::filesystem::temp_directory_path() /
+                   ("fieldkit-" + std::to_string(std::rand()) + "-" + std::to_string(++s_count));
+        std::filesystem::create_directories(m_folder);
+    }
+    ~File() override { std::filesystem::remove_all(m_folder); }
+
+    CString Path(LPCTSTR name) const {
+        CString path(m_folder.c_str());
+        return path + static_cast<TCHAR>(std::filesystem::path::preferred_separator) + name;
+    }
+    CString Make(LPCTSTR name, const char* content) const {
+        const CString path = Path(name);
+        CFile(path, kCreate).Write(content, static_cast<UINT>(std::strlen(content)));
+        return path;
+    }
+    static std::string Text(LPCTSTR path) {
+        CFile file(path, CFile::modeRead | CFile::shareDenyNone);
+        const Bytes bytes = ContentOf(file);
+        return {bytes.begin(), bytes.end()};
+    }
+    static int CauseOf(const std::function<void()>& use) {
+        try {
+            use();
+        } catch (CFileException* e) {
+            const std::unique_ptr<CFileException> owner(e);
+            return e->m_cause;
+        }
+        return CFileException::none;
+    }
+
+    std::filesystem::path m_folder;
+};
+
+TEST_F(File, OpenFlagsDecideOnMakingAndCutting) {
+    const CString path = Make(L"a", "12345");
+    CFile(path, CFile::modeWrite).Write("x", 1);
+    EXPECT_EQ("x2345", Text(path));
+    CFile(path, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Write("y", 1);
+    EXPECT_EQ("y2345", Text(path));
+    CFile(path, CFile::modeCreate | CFile::modeWrite).Write("z", 1);
+    EXPECT_EQ("z", Text(path));
+    CFile(Path(L"new"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Write("n", 1);
+    EXPECT_EQ("n", Text(Path(L"new")));
+}
+
+TEST_F(File, FailuresToOpenAreReportedNotThrown) {
+    CFile file;
+    CFileException error;
+    EXPECT_FALSE(file.Open(Path(L"none"), CFile::modeRead, &error));
+    EXPECT_EQ(CFileException::fileNotFound, error.m_cause);
+    EXPECT_GT(error.m_lOsError, 0);
+    EXPECT_STREQ(Path(L"none"), error.m_strFileName);
+    EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
+    EXPECT_FALSE(file.Open(Path(L"none"), CFile::modeRead));
+    EXPECT_FALSE(file.Open(L"", kCreate));
+    EXPECT_FALSE(file.Open(nullptr, CFile::modeRead));
+    EXPECT_FALSE(file.Open(CString(m_folder.c_str()), CFile::modeRead, &error));
+    EXPECT_EQ(CFileException::accessDenied, error.m_cause);
+    EXPECT_EQ(CFileException::fileNotFound, CauseOf([&] { CFile(Path(L"none"), CFile::modeRead); }));
+}
+
+TEST_F(File, SharingKeepsOthersOut) {
+    const CString path = Make(L"a", "1");
+    CFile first;
+    CFileException error;
+    ASSERT_TRUE(first.Open(path, CFile::modeRead | CFile::shareExclusive));
+    EXPECT_FALSE(CFile().Open(path, CFile::modeRead | CFile::shareDenyWrite, &error));
+    EXPECT_EQ(CFileException::sharingViolation, error.m_cause);
+    EXPECT_FALSE(CFile().Open(path, kCreate));
+    ASSERT_TRUE(first.Open(path, CFile::modeRead | CFile::shareDenyWrite)); // lets go of itself first
+    EXPECT_TRUE(CFile().Open(path, CFile::modeRead | CFile::shareDenyWrite));
+    first.Close();
+    EXPECT_EQ("1", Text(path));
+}
+
+TEST_F(File, ReadsWritesAndSeeks) {
+    CFile file(Path(L"a"), kCreate);
+    file.Write("abcdef", 6);
+    EXPECT_EQ(6U, file.GetPosition());
+    EXPECT_EQ(2U, file.Seek(2, CFile::begin));
+    EXPECT_EQ(3U, file.Seek(1, CFile::current));
+    EXPECT_EQ(5U, file.Seek(-1, CFile::end));
+    char buffer[8] = {};
+    EXPECT_EQ(1U, file.Read(buffer, 8));
+    EXPECT_EQ('f', buffer[0]);
+    EXPECT_EQ(0U, file.Read(buffer, 8));
+    EXPECT_EQ(CFileException::badSeek, CauseOf([&] { file.Seek(-1, CFile::begin); }));
+    file.SetLength(3);
+    EXPECT_EQ(3U, file.GetPosition());
+    file.SetLength(4);
+    file.Flush();
+    EXPECT_EQ(4U, file.SeekToEnd());
+    file.Close();
+    EXPECT_EQ(std::string("abc\0", 4), Text(Path(L"a")));
+}
+
+TEST_F(File, AFileThatIsNotOpenThrowsInvalidFile) {
+    char c = 0;
+    CFile file;
+    const std::function<void()> uses[] = {[&] { file.Read(&c, 1); },     [&] { file.Write(&c, 1); },
+                                          [&] { file.SeekToBegin(); },   [&] { file.GetLength(); },
+                                          [&] { file.SetLength(1); },    [&] { file.GetPosition(); },
+                                          [&] { file.LockRange(0, 1); }, [&] { delete file.Duplicate(); }};
+    for (const auto& use : uses)
+        EXPECT_EQ(CFileException::invalidFile, CauseOf(use)) << &use - uses;
+    EXPECT_NO_THROW(file.Close());
+    EXPECT_NO_THROW(file.Flush());
+    EXPECT_NO_THROW(file.Abort());
+}
+
+TEST_F(File, WritingToAReadOnlyHandleThrowsWithTheName) {
+    const CString path = Make(L"a", "1");
+    CFile file(path, CFile::modeRead);
+    try {
+        file.Write("x", 1);
+        ADD_FAILURE();
+    } catch (CFileException* e) {
+        EXPECT_STREQ(path, e->m_strFileName);
+        EXPECT_GT(e->m_lOsError, 0);
+        e->Delete();
+    }
+}
+
+TEST_F(File, KnowsItsNames) {
+    CFile file(Path(L"x.y.txt"), kCreate);
+    EXPECT_STREQ(Path(L"x.y.txt"), file.GetFilePath());
+    EXPECT_STREQ(L"x.y.txt", file.GetFileName());
+    EXPECT_STREQ(L"x.y", file.GetFileTitle());
+    file.SetFilePath(L".hidden");
+    EXPECT_STREQ(L".hidden", file.GetFileTitle());
+    file.Close();
+    EXPECT_STREQ(L"", file.GetFilePath());
+    CFile relative;
+    EXPECT_FALSE(relative.Open(L"fieldkit-none", CFile::modeRead));
+    CFileException error;
+    relative.Open(L"fieldkit-none", CFile::modeRead, &error);
+    EXPECT_GT(error.m_strFileName.GetLength(), 14) << "the path must be complete";
+}
+
+TEST_F(File, NamesMayBeJapanese) {
+    const CString path = Make(L"\x6E2C\x70B9.txt", "1");
+    EXPECT_TRUE(std::filesystem::exists(m_folder / u8"\u6E2C\u70B9.txt"));
+    CFile::Rename(path, Path(L"\x65B0"));
+    EXPECT_FALSE(std::filesystem::exists(m_folder / u8"\u6E2C\u70B9.txt"));
+    EXPECT_EQ("1", Text(Path(L"\x65B0")));
+}
+
+TEST_F(File, RenameReplacesNothing) {
+    const CString a = Make(L"a", "A");
+    const CString b = Make(L"b", "B");
+    EXPECT_EQ(CFileException::accessDenied, CauseOf([&] { CFile::Rename(a, b); }));
+    EXPECT_EQ("B", Text(b));
+    EXPECT_EQ(CFileException::fileNotFound, CauseOf([&] { CFile::Rename(Path(L"none"), Path(L"c")); }));
+    CFile::Remove(a);
+    EXPECT_EQ(CFileException::fileNotFound, CauseOf([&] { CFile::Remove(a); }));
+    EXPECT_THROW(CFile::Remove(nullptr), CInvalidArgException*);
+}
+
+TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
+    const CString path = Make(L"a", "123");
+    CFile file(path, CFile::modeRead | CFile::shareDenyNone);
+    char c = 0;
+    {
+        CFile guest(static_cast<HANDLE>(file));
+        EXPECT_EQ(1U, guest.Read(&c, 1));
+    }
+    const std::unique_ptr<CFile> twin(file.Duplicate());
+    EXPECT_STREQ(path, twin->GetFilePath());
+    file.Close();
+    EXPECT_EQ(1U, twin->Read(&c, 1)); // outlives the first, and shared its position
+    EXPECT_EQ('2', c);
+}
+
+TEST_F(File, RangesAreLockedAndReleased) {
+    CFile file(Path(L"a"), kCreate);
+    EXPECT_NO_THROW(file.LockRange(2, 3));
+    EXPECT_NO_THROW(file.UnlockRange(2, 3));
+}
+
+#ifndef _WIN32
+TEST_F(File, AFullDiskIsReported) {
+    CFile file(L"/dev/full", CFile::modeWrite);
+    EXPECT_EQ(CFileException::diskFull, CauseOf([&] { file.Write("x", 1); }));
+}
+#endif
+
+} // namespace

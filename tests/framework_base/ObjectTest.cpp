@@ -1,0 +1,127 @@
+#define _DEBUG 1 // the checks of a debug program, against the library as it is
+#include "afxcoll.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+static_assert(std::has_virtual_destructor_v<CObject> && !std::is_copy_constructible_v<CObject>);
+static_assert(std::is_same_v<decltype(std::declval<const CObject&>().GetRuntimeClass()), CRuntimeClass*>);
+static_assert(VERSIONABLE_SCHEMA == 0x80000000);
+
+class CShape : public CObject {
+    DECLARE_DYNAMIC(CShape)
+public:
+    void AssertValid() const override { ASSERT(m_bValid); }
+    bool m_bValid = true;
+};
+IMPLEMENT_DYNAMIC(CShape, CObject)
+
+class CSquare : public CShape {
+    DECLARE_DYNCREATE(CSquare)
+};
+IMPLEMENT_DYNCREATE(CSquare, CShape)
+
+TEST(Object, KnowsItsClass) {
+    CSquare square;
+    EXPECT_STREQ("CSquare", square.GetRuntimeClass()->m_lpszClassName);
+    EXPECT_EQ(static_cast<int>(sizeof(CSquare)), RUNTIME_CLASS(CSquare)->m_nObjectSize);
+    EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CSquare)) && square.IsKindOf(RUNTIME_CLASS(CShape)) &&
+                square.IsKindOf(RUNTIME_CLASS(CObject)));
+    EXPECT_FALSE(CShape().IsKindOf(RUNTIME_CLASS(CSquare)));
+
+    CObject* pObject = &square;
+    EXPECT_EQ(&square, DYNAMIC_DOWNCAST(CSquare, pObject));
+    EXPECT_EQ(&square, STATIC_DOWNCAST(CShape, pObject));
+    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CStringList, pObject));
+    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CSquare, nullptr));
+}
+
+TEST(Object, IsCreatedByItsClassAndByName) {
+    const std::unique_ptr<CObject> square(RUNTIME_CLASS(CSquare)->CreateObject());
+    EXPECT_TRUE(square->IsKindOf(RUNTIME_CLASS(CSquare)));
+    EXPECT_EQ(nullptr, RUNTIME_CLASS(CShape)->CreateObject());
+    const std::unique_ptr<CObject> list(CRuntimeClass::CreateObject("CStringList"));
+    ASSERT_NE(nullptr, list);
+    EXPECT_TRUE(list->IsKindOf(RUNTIME_CLASS(CStringList)) && list->IsSerializable());
+    EXPECT_EQ(nullptr, CRuntimeClass::CreateObject("CNobody"));
+    EXPECT_EQ(nullptr, CRuntimeClass::FromName(nullptr));
+}
+
+TEST(Object, NamesGoWithTheModuleThatBroughtThem) {
+    CRuntimeClass first = CShape::classCShape;
+    CRuntimeClass second = CShape::classCShape;
+    first.m_lpszClassName = "CFirst";
+    second.m_lpszClassName = "CSecond";
+    auto firstModule = std::make_unique<AFX_CLASSINIT>(&first);
+    const AFX_CLASSINIT secondModule(&second);
+    EXPECT_EQ(&first, CRuntimeClass::FromName("CFirst"));
+    firstModule.reset(); // not in the order of loading
+    EXPECT_EQ(nullptr, CRuntimeClass::FromName("CFirst"));
+    EXPECT_EQ(&second, CRuntimeClass::FromName("CSecond"));
+    EXPECT_NE(nullptr, CRuntimeClass::FromName("CStringArray"));
+}
+
+TEST(ObjectDeathTest, FailedChecksEndADebugProgram) {
+    CShape shape;
+    ASSERT_VALID(&shape);
+    VERIFY(shape.m_bValid);
+    EXPECT_DEATH(ASSERT(!shape.m_bValid), "Assertion failed: .*ObjectTest.cpp, line");
+    EXPECT_DEATH(static_cast<void>(STATIC_DOWNCAST(CSquare, static_cast<CObject*>(&shape))),
+                 "Assertion failed");
+    shape.m_bValid = false;
+    EXPECT_DEATH(ASSERT_VALID(&shape), "Assertion failed");
+}
+
+TEST(Exception, SayWhatHappenedToWhichFile) {
+    const auto text = [](const CException& e) {
+        TCHAR buffer[100] = L"?";
+        UINT context = 1;
+        const BOOL given = e.GetErrorMessage(buffer, 100, &context);
+        EXPECT_EQ(0U, context);
+        EXPECT_EQ(given != 0, buffer[0] != L'\0');
+        return CString(buffer);
+    };
+    EXPECT_STREQ(L"a%s.txt was not found.",
+                 text(CFileException(CFileException::fileNotFound, 2, L"a%s.txt")));
+    EXPECT_STREQ(L"The disk is full while accessing an unnamed file.",
+                 text(CFileException(CFileException::diskFull)));
+    EXPECT_STREQ(L"x has a bad format.", text(CArchiveException(CArchiveException::badIndex, L"x")));
+    EXPECT_STREQ(L"An unknown error occurred while accessing x.", text(CArchiveException(99, L"x")));
+    EXPECT_STREQ(L"Out of memory.", text(CMemoryException()));
+    EXPECT_STREQ(L"", text(CUserException())); // the user was told already
+
+    TCHAR small[4];
+    EXPECT_TRUE(CMemoryException().GetErrorMessage(small, 4));
+    EXPECT_STREQ(L"Out", small);
+    EXPECT_FALSE(CMemoryException().GetErrorMessage(small, 0));
+}
+
+TEST(Exception, AreCaughtByEveryBaseAndDeletedByTheCatcher) {
+    const auto caught = [](void (*raise)(), CRuntimeClass* pClass) {
+        try {
+            raise();
+        } catch (CException* e) {
+            EXPECT_TRUE(e->IsKindOf(pClass)) << pClass->m_lpszClassName;
+            e->Delete(); // does nothing to the ones that always exist
+            return;
+        }
+        ADD_FAILURE();
+    };
+    for (int i = 0; i < 2; ++i) {
+        caught([] { AfxThrowMemoryException(); }, RUNTIME_CLASS(CMemoryException));
+        caught([] { AfxThrowNotSupportedException(); }, RUNTIME_CLASS(CNotSupportedException));
+        caught([] { AfxThrowResourceException(); }, RUNTIME_CLASS(CResourceException));
+        caught([] { AfxThrowUserException(); }, RUNTIME_CLASS(CSimpleException));
+        caught([] { AfxThrowInvalidArgException(); }, RUNTIME_CLASS(CInvalidArgException));
+        caught([] { AfxThrowFileException(CFileException::badSeek, 7, L"f"); },
+               RUNTIME_CLASS(CFileException));
+        caught([] { AfxThrowArchiveException(CArchiveException::badClass); },
+               RUNTIME_CLASS(CArchiveException));
+    }
+    EXPECT_NO_THROW(CFileException::ThrowOsError(0));
+}
+
+} // namespace

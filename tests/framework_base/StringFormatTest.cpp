@@ -1,0 +1,69 @@
+#include "afx.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+
+namespace {
+
+template <class... Args>
+CString Formatted(LPCTSTR format, Args... args) {
+    CString s = L"old";
+    s.Format(format, args...);
+    return s;
+}
+
+TEST(StringFormat, TextFormsMeanWideUnlessNarrowIsAsked) {
+    EXPECT_STREQ(L"<ab>", Formatted(L"<%s>", L"ab"));
+    EXPECT_STREQ(L"<ab>", Formatted(L"<%ls>", L"ab"));
+    EXPECT_STREQ(L"<ab>", Formatted(L"<%S>", "ab"));
+    EXPECT_STREQ(L"<ab>", Formatted(L"<%hs>", "ab"));
+    EXPECT_STREQ(L"<ab>", Formatted(L"<%lS>", L"ab"));
+    EXPECT_STREQ(L"\x6E2C\x3059", Formatted(L"\x6E2C%s", L"\x3059"));
+    EXPECT_STREQ(L"a\x6E2Cz", Formatted(L"%c%c%C", L'a', L'\x6E2C', 'z'));
+    EXPECT_STREQ(L"(null)", Formatted(L"%s", static_cast<LPCTSTR>(nullptr)));
+    EXPECT_STREQ(L"[   ab][ab   ][a]", Formatted(L"[%5s][%-5s][%.1s]", L"ab", L"ab", L"ab"));
+    EXPECT_STREQ(L"[   ab][ab   ]", Formatted(L"[%*s][%*s]", 5, L"ab", -5, L"ab"));
+    const wchar_t unterminated[] = {L'a', L'b'};
+    EXPECT_STREQ(L"ab", Formatted(L"%.*s", 2, unterminated));
+}
+
+TEST(StringFormat, NumbersAreTheSameEverywhere) {
+    EXPECT_STREQ(L"-7|+7| 7|007|7  ", Formatted(L"%d|%+d|% d|%03d|%-3d", -7, 7, 7, 7, 7));
+    EXPECT_STREQ(L"4294967295 ff FF 0xff 377", Formatted(L"%u %x %X %#x %o", ~0U, 255, 255, 255, 255));
+    EXPECT_STREQ(L"9223372036854775807", Formatted(L"%I64d", INT64_MAX));
+    EXPECT_STREQ(L"18446744073709551615", Formatted(L"%I64u", UINT64_MAX));
+    EXPECT_STREQ(L"-9223372036854775808", Formatted(L"%lld", INT64_MIN));
+    EXPECT_STREQ(L"5 6 7", Formatted(L"%Id %zu %I32d", INT_PTR{5}, std::size_t{6}, 7));
+    EXPECT_STREQ(L"-2 65534", Formatted(L"%ld %hu", -2L, -2));
+    EXPECT_STREQ(L"3.142 -0.5 1e+20 1.5E-07", Formatted(L"%.3f %g %g %.1E", 3.14159, -0.5, 1e20, 1.5e-7));
+    EXPECT_STREQ(L"  1.50|1.50  |001.50", Formatted(L"%6.2f|%-6.2lf|%06.2f", 1.5, 1.5, 1.5));
+    EXPECT_STREQ(L"inf nan", Formatted(L"%f %g", HUGE_VAL, std::abs(std::nan(""))));
+    const auto address = static_cast<INT_PTR>(0xAB);
+    const CString pointer = Formatted(L"%p", reinterpret_cast<void*>(address));
+    EXPECT_EQ(static_cast<int>(2 * sizeof(void*)), pointer.GetLength());
+    EXPECT_STREQ(L"00AB", pointer.Right(4));
+}
+
+TEST(StringFormat, OddFormatsDoNoHarm) {
+    EXPECT_STREQ(L"100%", Formatted(L"%d%%", 100));
+    EXPECT_STREQ(L"y", Formatted(L"%y"));
+    EXPECT_STREQ(L"end", Formatted(L"end%"));
+    EXPECT_STREQ(L"end", Formatted(L"end%-08.3l"));
+    EXPECT_STREQ(L"", Formatted(nullptr));
+    EXPECT_EQ(1'000'000, Formatted(L"%99999999999999d", 1).GetLength());
+}
+
+TEST(StringFormat, ArgumentsMayBeTheTextItself) {
+    CString s = L"ab";
+    s.Format(L"%s-%s", s.GetString(), s.GetString());
+    EXPECT_STREQ(L"ab-ab", s);
+    s.AppendFormat(L"/%s%d", s.GetString(), 1);
+    EXPECT_STREQ(L"ab-ab/ab-ab1", s);
+    const CString big(L'x', 5000);
+    s.Format(L"%s%s", big.GetString(), L"!");
+    EXPECT_EQ(5001, s.GetLength());
+}
+
+} // namespace

@@ -1,0 +1,232 @@
+#include "afx.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <functional>
+#include <utility>
+
+namespace {
+
+static_assert(std::is_convertible_v<const CString&, LPCTSTR>);
+static_assert(std::is_nothrow_move_constructible_v<CString>);
+static_assert(std::is_same_v<decltype(std::declval<const CString&>()[0]), TCHAR>);
+static_assert(std::is_same_v<decltype(std::declval<const CString&>().GetLength()), int>);
+static_assert(std::is_same_v<decltype(std::declval<CString&>().GetBuffer(1)), LPTSTR>);
+
+const LPCTSTR kNullText = nullptr;
+const LPCSTR kNullNarrow = nullptr;
+
+struct Made {
+    const char* what;
+    CString actual;
+    std::wstring expected;
+};
+
+void ExpectAll(const std::vector<Made>& table) {
+    for (const Made& row : table) {
+        SCOPED_TRACE(row.what);
+        const std::wstring actual(row.actual.GetString(), static_cast<std::size_t>(row.actual.GetLength()));
+        EXPECT_TRUE(actual == row.expected) << "got: " << testing::PrintToString(actual);
+    }
+}
+
+TEST(String, IsConstructedFromEveryKindOfText) {
+    ExpectAll({
+        {"empty", {}, L""},
+        {"null", kNullText, L""},
+        {"null narrow", kNullNarrow, L""},
+        {"null with length", {kNullText, 5}, L""},
+        {"narrow", "abc", L"abc"},
+        {"narrow with length", {"abc", 2}, L"ab"},
+        {"repeated", {L'x', 3}, L"xxx"},
+        {"repeated never", {L'x', -1}, L""},
+        {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
+        {"negative length", {L"abc", -1}, L""},
+    });
+}
+
+TEST(String, ExtractsWithClampedArguments) {
+    const CString s = L"abcdef";
+    ExpectAll({
+        {"Mid", s.Mid(2), L"cdef"},
+        {"Mid counted", s.Mid(2, 3), L"cde"},
+        {"Mid behind the end", s.Mid(9, 2), L""},
+        {"Mid overflowing", s.Mid(3, INT_MAX), L"def"},
+        {"Mid negative start", s.Mid(-2, 3), L"abc"},
+        {"Mid negative count", s.Mid(2, -3), L""},
+        {"Left", s.Left(2), L"ab"},
+        {"Left too long", s.Left(99), L"abcdef"},
+        {"Left negative", s.Left(-1), L""},
+        {"Right", s.Right(2), L"ef"},
+        {"Right too long", s.Right(99), L"abcdef"},
+        {"Right negative", s.Right(INT_MIN), L""},
+        {"SpanIncluding", s.SpanIncluding(L"cab"), L"abc"},
+        {"SpanIncluding NULL", s.SpanIncluding(nullptr), L""},
+        {"SpanExcluding", s.SpanExcluding(L"fd"), L"abc"},
+        {"SpanExcluding NULL", s.SpanExcluding(nullptr), L"abcdef"},
+    });
+}
+
+TEST(String, Concatenates) {
+    const CString a = L"a";
+    const CString b = L"b";
+    ExpectAll({
+        {"string + string", a + b, L"ab"},
+        {"string + text", a + L"x", L"ax"},
+        {"text + string", L"x" + a, L"xa"},
+        {"string + narrow", a + "x", L"ax"},
+        {"narrow + string", "x" + a, L"xa"},
+        {"string + character", a + L'x', L"ax"},
+        {"character + string", L'x' + a, L"xa"},
+        {"string + narrow character", a + 'x', L"ax"},
+        {"narrow character + string", 'x' + a, L"xa"},
+        {"string + NULL", a + kNullText, L"a"},
+    });
+}
+
+TEST(String, EditsInPlace) {
+    const auto edited = [](LPCTSTR text, const std::function<void(CString&)>& edit) {
+        CString s = text;
+        edit(s);
+        return s;
+    };
+    ExpectAll({
+        {"upper", edited(L"aB1", [](CString& s) { s.MakeUpper(); }), L"AB1"},
+        {"lower", edited(L"aB1", [](CString& s) { s.MakeLower(); }), L"ab1"},
+        {"reverse", edited(L"abc", [](CString& s) { s.MakeReverse(); }), L"cba"},
+        {"insert", edited(L"ac", [](CString& s) { s.Insert(1, L"b"); }), L"abc"},
+        {"insert character", edited(L"ac", [](CString& s) { s.Insert(1, L'b'); }), L"abc"},
+        {"insert far behind", edited(L"a", [](CString& s) { s.Insert(99, L"b"); }), L"ab"},
+        {"insert before", edited(L"a", [](CString& s) { s.Insert(-5, L"b"); }), L"ba"},
+        {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
+        {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
+        {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
+        {"delete behind", edited(L"ab", [](CString& s) { s.Delete(7); }), L"ab"},
+        {"delete none", edited(L"ab", [](CString& s) { s.Delete(0, -1); }), L"ab"},
+        {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
+        {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
+        {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
+        {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
+        {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
+        {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
+        {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
+        {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
+        {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
+        {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
+        {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
+        {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
+        {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"},
+    });
+}
+
+TEST(String, ReplacesAndRemovesAndCounts) {
+    struct Row {
+        LPCTSTR text, from, to, expected;
+        int count;
+    };
+    for (const Row& row : {Row{L"aXbX", L"X", L"--", L"a--b--", 2}, Row{L"aaa", L"aa", L"b", L"ba", 1},
+                           Row{L"abc", L"b", nullptr, L"ac", 1}, Row{L"abc", L"", L"x", L"abc", 0},
+                           Row{L"abc", nullptr, L"x", L"abc", 0}, Row{L"", L"a", L"b", L"", 0}}) {
+        CString s = row.text;
+        EXPECT_EQ(row.count, s.Replace(row.from, row.to)) << testing::PrintToString(row.text);
+        EXPECT_STREQ(row.expected, s);
+    }
+    CString s = L"banana";
+    EXPECT_EQ(3, s.Replace(L'a', L'o'));
+    EXPECT_EQ(2, s.Remove(L'n'));
+    EXPECT_STREQ(L"booo", s);
+    EXPECT_EQ(1, s.Replace(s, s.GetString() + 3));
+    EXPECT_STREQ(L"o", s);
+}
+
+TEST(String, FindsFromTheStartGiven) {
+    const CString s = L"abcabc";
+    EXPECT_EQ(1, s.Find(L'b'));
+    EXPECT_EQ(4, s.Find(L'b', 2));
+    EXPECT_EQ(-1, s.Find(L'b', 5));
+    EXPECT_EQ(-1, s.Find(L'b', 99));
+    EXPECT_EQ(-1, s.Find(L'b', -1));
+    EXPECT_EQ(3, s.Find(L"abc", 1));
+    EXPECT_EQ(-1, s.Find(L"abcd"));
+    EXPECT_EQ(-1, s.Find(nullptr));
+    EXPECT_EQ(6, s.Find(L"", 6));
+    EXPECT_EQ(-1, s.Find(L"", 7));
+    EXPECT_EQ(5, s.ReverseFind(L'c'));
+    EXPECT_EQ(-1, s.ReverseFind(L'x'));
+    EXPECT_EQ(1, s.FindOneOf(L"xcb"));
+    EXPECT_EQ(-1, s.FindOneOf(L""));
+}
+
+TEST(String, Compares) {
+    const CString s = L"abc";
+    EXPECT_EQ(0, s.Compare(L"abc"));
+    EXPECT_LT(s.Compare(L"abd"), 0);
+    EXPECT_GT(s.Compare(L"ab"), 0);
+    EXPECT_GT(s.Compare(nullptr), 0);
+    EXPECT_EQ(0, s.CompareNoCase(L"ABC"));
+    EXPECT_LT(s.CompareNoCase(L"ABD"), 0);
+    EXPECT_GT(s.CompareNoCase(L"AB"), 0);
+    EXPECT_LT(CString(L"_").CompareNoCase(L"A"), 0); // case is folded downwards
+
+    EXPECT_TRUE(s == L"abc" && L"abc" == s && s == CString(s) && s == "abc" && CString(L"a") == L'a');
+    EXPECT_TRUE(s != L"abd" && L"abd" != s && s != CString() && L'a' != s);
+    EXPECT_TRUE(s < L"abd" && L"abb" < s && s < CString(L"b"));
+    EXPECT_TRUE(s > L"abb" && L"abd" > s && s > CString());
+    EXPECT_TRUE(s <= L"abc" && L"abc" <= s && s <= CString(s));
+    EXPECT_TRUE(s >= L"abc" && L"abc" >= s && s >= CString(s));
+    EXPECT_FALSE(s < L"abc" || L"abc" > s || s <= L"abb" || L"abb" >= s);
+}
+
+TEST(String, IndexOutsideThrows) {
+    CString s = L"ab";
+    EXPECT_EQ(L'b', s[1]);
+    EXPECT_EQ(L'\0', s.GetAt(2));
+    EXPECT_THROW(s.GetAt(3), CInvalidArgException*);
+    EXPECT_THROW(s[-1], CInvalidArgException*);
+    EXPECT_THROW(s.SetAt(2, L'x'), CInvalidArgException*);
+}
+
+TEST(String, BufferIsWrittenAndReleased) {
+    CString s = L"keep";
+    LPTSTR p = s.GetBuffer(10);
+    EXPECT_STREQ(L"keep", p);
+    p[4] = L'!';
+    p[5] = L'\0';
+    s.ReleaseBuffer();
+    EXPECT_EQ(5, s.GetLength());
+    EXPECT_STREQ(L"keep!", s);
+    s.GetBuffer(-1);
+    s.ReleaseBuffer(2);
+    EXPECT_STREQ(L"ke", s);
+    s.GetBufferSetLength(3)[2] = L'y';
+    EXPECT_STREQ(L"key", s);
+    s.Empty();
+    EXPECT_TRUE(s.IsEmpty());
+}
+
+TEST(String, TokenizesUntilNoneIsLeft) {
+    const CString s = L"%one%#two##";
+    int at = 0;
+    EXPECT_STREQ(L"one", s.Tokenize(L"%#", at));
+    EXPECT_EQ(5, at);
+    EXPECT_STREQ(L"two", s.Tokenize(L"%#", at));
+    EXPECT_STREQ(L"", s.Tokenize(L"%#", at));
+    EXPECT_EQ(-1, at);
+    EXPECT_STREQ(L"", s.Tokenize(L"%#", at));
+}
+
+#ifndef _WIN32
+TEST(String, NarrowTextIsUtf8WithDamageReplaced) {
+    ExpectAll({
+        {"Japanese", "\xE6\xB8\xAC", L"\x6E2C"},
+        {"four bytes", "\xF0\x9F\x98\x80", L"\x1F600"},
+        {"cut", "\xE6\xB8", L"\xFFFD\xFFFD"},
+        {"over-long", "\xC0\x80", L"\xFFFD\xFFFD"},
+        {"surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+        {"stray", "a\x80z", L"a\xFFFDz"},
+    });
+}
+#endif
+
+} // namespace

@@ -1,0 +1,108 @@
+#include "atltypes.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+static_assert(std::is_base_of_v<RECT, CRect> && sizeof(CRect) == sizeof(RECT));
+static_assert(std::is_base_of_v<POINT, CPoint> && sizeof(CPoint) == sizeof(POINT));
+static_assert(std::is_base_of_v<SIZE, CSize> && sizeof(CSize) == sizeof(SIZE));
+static_assert(std::is_same_v<decltype(CPoint() - CPoint()), CSize>);
+static_assert(std::is_same_v<decltype(CPoint() - CSize()), CPoint>);
+static_assert(std::is_same_v<decltype(CSize() + CPoint()), CPoint>);
+static_assert(std::is_convertible_v<CRect&, LPRECT> && std::is_convertible_v<const CRect&, LPCRECT>);
+
+std::string Text(const CRect& r) {
+    return std::to_string(r.left) + " " + std::to_string(r.top) + " " + std::to_string(r.right) + " " +
+           std::to_string(r.bottom);
+}
+
+TEST(Types, PointsAndSizesCalculate) {
+    EXPECT_TRUE(CPoint(5, 7) == CPoint(2, 3) + CSize(3, 4));
+    EXPECT_TRUE(CSize(3, 4) == CPoint(5, 7) - CPoint(2, 3));
+    EXPECT_TRUE(CPoint(-1, -2) == -CPoint(1, 2));
+    EXPECT_TRUE(CPoint(-3, 5) == CPoint(LPARAM{0x0005FFFD})); // signed words
+    EXPECT_TRUE(CSize(-3, 5) == CSize(DWORD{0x0005FFFD}));
+    EXPECT_TRUE(CPoint(1, 2) != CPoint(1, 3) && CPoint(1, 2) != CPoint(2, 2));
+    CPoint p(1, 1);
+    p.Offset(CSize(1, 2));
+    p += POINT{10, 10};
+    p -= SIZE{1, 1};
+    EXPECT_TRUE(p == CPoint(11, 12));
+}
+
+TEST(Types, RectCombinations) {
+    struct Row {
+        CRect a, b;
+        const char *common, *around, *rest;
+    };
+    const Row table[] = {
+        {{0, 0, 4, 4}, {2, 2, 6, 6}, "2 2 4 4", "0 0 6 6", "0 0 4 4"},
+        {{0, 0, 4, 4}, {4, 0, 6, 4}, "0 0 0 0", "0 0 6 4", "0 0 4 4"}, // touching is not common
+        {{0, 0, 4, 4}, {2, 0, 6, 4}, "2 0 4 4", "0 0 6 4", "0 0 2 4"},
+        {{0, 0, 4, 4}, {-1, -1, 2, 9}, "0 0 2 4", "-1 -1 4 9", "2 0 4 4"},
+        {{0, 0, 4, 4}, {-1, 3, 9, 9}, "0 3 4 4", "-1 0 9 9", "0 0 4 3"},
+        {{0, 0, 4, 4}, {0, -2, 4, 1}, "0 0 4 1", "0 -2 4 4", "0 1 4 4"},
+        {{0, 0, 4, 4}, {1, 0, 2, 4}, "1 0 2 4", "0 0 4 4", "0 0 4 4"}, // would leave two
+        {{0, 0, 4, 4}, {-1, -1, 9, 9}, "0 0 4 4", "-1 -1 9 9", "0 0 0 0"},
+        {{0, 0, 4, 4}, {3, 3, 3, 3}, "0 0 0 0", "0 0 4 4", "0 0 4 4"}, // empty ones do not count
+        {{4, 4, 0, 0}, {1, 1, 2, 2}, "0 0 0 0", "1 1 2 2", "0 0 0 0"},
+        {{9, 9, 9, 9}, {8, 8, 8, 8}, "0 0 0 0", "0 0 0 0", "0 0 0 0"},
+    };
+    for (const Row& row : table) {
+        SCOPED_TRACE(Text(row.a) + " with " + Text(row.b));
+        CRect result;
+        EXPECT_EQ(std::string(row.common) != "0 0 0 0", result.IntersectRect(row.a, row.b) != 0);
+        EXPECT_EQ(row.common, Text(result));
+        EXPECT_EQ(row.common, Text(row.a & row.b));
+        EXPECT_EQ(std::string(row.around) != "0 0 0 0", result.UnionRect(row.a, row.b) != 0);
+        EXPECT_EQ(row.around, Text(result));
+        result = row.a;
+        EXPECT_EQ(std::string(row.rest) != "0 0 0 0", result.SubtractRect(result, row.b) != 0);
+        EXPECT_EQ(row.rest, Text(result));
+    }
+}
+
+TEST(Types, RectChanges) {
+    const CRect r(10, 20, 30, 60);
+    const auto changed = [&r](auto change) {
+        CRect copy(r);
+        change(copy);
+        return Text(copy);
+    };
+    EXPECT_EQ("9 18 31 62", changed([](CRect& c) { c.InflateRect(1, 2); }));
+    EXPECT_EQ("9 18 33 64", changed([](CRect& c) { c.InflateRect(1, 2, 3, 4); }));
+    EXPECT_EQ("11 22 27 56", changed([](CRect& c) { c.DeflateRect(CRect(1, 2, 3, 4)); }));
+    EXPECT_EQ("11 22 31 62", changed([](CRect& c) { c += CPoint(1, 2); }));
+    EXPECT_EQ("9 18 29 58", changed([](CRect& c) { c -= CSize(1, 2); }));
+    EXPECT_EQ("0 5 20 45", changed([](CRect& c) { c.MoveToXY(0, 5); }));
+    EXPECT_EQ("5 20 25 60", changed([](CRect& c) { c.MoveToX(5); }));
+    EXPECT_EQ("1 2 30 60", changed([](CRect& c) { c.TopLeft() = CPoint(1, 2); }));
+    EXPECT_EQ("10 20 31 62", changed([](CRect& c) { c.BottomRight().Offset(1, 2); }));
+    CRect turned(30, 60, 10, 20);
+    turned.NormalizeRect();
+    EXPECT_TRUE(turned == r);
+    EXPECT_TRUE(r.Size() == CSize(20, 40) && r.CenterPoint() == CPoint(20, 40));
+}
+
+// The optimizer must see that a corner is a part of the rectangle.
+int WriteCornerAndReadBack(CRect& r) {
+    r.left = 1;
+    r.TopLeft().x = 5;
+    return r.left;
+}
+
+TEST(Types, CornersAreTheRectItself) {
+    CRect r;
+    EXPECT_EQ(5, WriteCornerAndReadBack(r));
+}
+
+TEST(Types, RightAndBottomLieOutside) {
+    const CRect r(0, 0, 2, 3);
+    EXPECT_TRUE(r.PtInRect(CPoint(0, 0)) && r.PtInRect(CPoint(1, 2)));
+    EXPECT_FALSE(r.PtInRect(CPoint(2, 0)) || r.PtInRect(CPoint(0, 3)) || r.PtInRect(CPoint(-1, 0)));
+    EXPECT_TRUE(CRect(1, 1, 1, 5).IsRectEmpty() && CRect(1, 1, 5, 0).IsRectEmpty() && !r.IsRectEmpty());
+    EXPECT_TRUE(CRect().IsRectNull() && !CRect(1, 1, 1, 1).IsRectNull());
+}
+
+} // namespace
