@@ -1,0 +1,149 @@
+/// @file
+/// The application and its thread, module state and the resource chain.
+/// Included by afxwin.h.
+#pragma once
+
+/// The user-interface thread: its message loop and main window.
+class AFX_CORE CWinThread : public CCmdTarget {
+    DECLARE_DYNAMIC(CWinThread)
+public:
+    CWinThread();
+    ~CWinThread() override;
+
+    CWnd* m_pMainWnd = nullptr;   ///< The program ends when it is destroyed.
+    CWnd* m_pActiveWnd = nullptr; ///< Not used by the framework itself.
+    DWORD m_nThreadID = 0;
+    MSG m_msgCur = {}; ///< The message being pumped.
+
+    /// Opens the main window, or runs the main dialog. @return FALSE: end without a message loop.
+    virtual BOOL InitInstance();
+    /// The message loop. @return the exit code.
+    virtual int Run();
+    /// @return the exit code of the program.
+    virtual int ExitInstance();
+    /// @return TRUE if the message shall go no further.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    /// Fetches, translates and dispatches one message. @return FALSE on WM_QUIT.
+    virtual BOOL PumpMessage();
+    /// Called while the queue is empty. @return TRUE to be called again.
+    virtual BOOL OnIdle(LONG lCount);
+    virtual BOOL IsIdleMessage(MSG* pMsg);
+    /// An exception left a window procedure: tells the user and deletes it.
+    virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+};
+
+/// The application: one static object of a class derived from it in each program.
+class AFX_CORE CWinApp : public CWinThread {
+    DECLARE_DYNAMIC(CWinApp)
+public:
+    explicit CWinApp(LPCTSTR lpszAppName = nullptr);
+    ~CWinApp() override;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPTSTR m_lpCmdLine = nullptr; ///< Without the program's own name; not owned.
+    int m_nCmdShow = SW_SHOWNORMAL;
+    CString m_strAppName; ///< Caption of message boxes without one.
+    LPCTSTR m_pszAppName = nullptr;
+    LPCTSTR m_pszProfileName = nullptr;
+
+    virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+
+    HICON LoadIcon(UINT nIDResource) const;
+    HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
+    HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
+
+    /// Keeps the program's settings under Software\<key>\<application name> of the user.
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    /// A null entry deletes the section, a null value the entry.
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /// @param ppData receives memory that the caller frees with delete[]
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+
+    int Run() override;
+
+private:
+    HKEY OpenSectionKey(LPCTSTR lpszSection) const;
+
+    CString m_strRegistryKey;
+};
+
+/// Shows the wait cursor while it exists.
+class AFX_CORE CWaitCursor {
+public:
+    CWaitCursor();
+    ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    void Restore();
+};
+
+AFX_CORE CWinThread* AFXAPI AfxGetThread();
+AFX_CORE CWinApp* AFXAPI AfxGetApp();
+/// The active in-place or main window of the thread; null without one.
+AFX_CORE CWnd* AFXAPI AfxGetMainWnd();
+AFX_CORE HINSTANCE AFXAPI AfxGetInstanceHandle();
+AFX_CORE HINSTANCE AFXAPI AfxGetResourceHandle();
+AFX_CORE void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
+AFX_CORE LPCTSTR AFXAPI AfxGetAppName();
+
+/// Prepares the framework in a program that has its own main function.
+AFX_CORE BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+/// What the program's entry point calls: InitInstance, Run, ExitInstance.
+AFX_CORE int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+AFX_CORE void AFXAPI AfxPostQuitMessage(int nExitCode);
+AFX_CORE BOOL AFXAPI AfxPumpMessage();
+
+AFX_CORE int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
+AFX_CORE int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
+
+/// Registers a window class once. @return its name, which stays valid.
+/// @throw CResourceException* if the system refuses
+AFX_CORE LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
+                                            HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
+
+// --- Extension modules ---------------------------------------------------------------
+
+/// State of a DLL that extends the framework: a static object of the DLL.
+struct AFX_EXTENSION_MODULE {
+    BOOL bInitialized = FALSE;
+    HMODULE hModule = nullptr;
+    HMODULE hResource = nullptr; ///< Where its resources are; set to hModule by the start.
+};
+
+/// Call at DLL_PROCESS_ATTACH, then create a CDynLinkLibrary.
+AFX_CORE BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
+/// Call at DLL_PROCESS_DETACH: takes the module's link records out of the chain.
+/// @param bAll not used
+AFX_CORE void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
+
+/// The link record of an extension module: while it exists, resources are searched in
+/// the module as well. Created with new; AfxTermExtensionModule deletes it.
+class AFX_CORE CDynLinkLibrary : public CObject {
+    DECLARE_DYNAMIC(CDynLinkLibrary)
+public:
+    explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
+    ~CDynLinkLibrary() override;
+
+    HMODULE m_hModule;
+    HMODULE m_hResource;
+    BOOL m_bSystem;
+
+private:
+    CDynLinkLibrary(const CDynLinkLibrary&) = delete;
+    CDynLinkLibrary& operator=(const CDynLinkLibrary&) = delete;
+};
+
+/// The module that holds a resource: the application first, then the extension modules
+/// in the order of their loading, then the framework; the application if none has it.
+AFX_CORE HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszResource, LPCTSTR lpszType);
+/// The module that holds a string. A block of sixteen strings may be spread over modules,
+/// so it is the string that is looked for, not the block. Null if none has it.
+AFX_CORE HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
+/// @return the length without terminator; 0 and an empty text if there is no such string.
+AFX_CORE int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);

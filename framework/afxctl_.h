@@ -1,0 +1,198 @@
+/// @file
+/// The system's controls. Included by afxwin.h.
+///
+/// A member function that is one message to the control means what that message means;
+/// what a control answers on failure (LB_ERR and the like) is its result.
+#pragma once
+
+/// Sends a message whose result is a number, an index or a flag.
+inline int AfxSendInt(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return static_cast<int>(::SendMessage(hWnd, message, wParam, lParam));
+}
+
+/// Sends a message whose lParam is a pointer.
+inline int AfxSendPointer(HWND hWnd, UINT message, WPARAM wParam, const void* pParam) {
+    return AfxSendInt(hWnd, message, wParam, reinterpret_cast<LPARAM>(pParam));
+}
+
+/// Sends a message whose result is a handle of the kind that lParam gives, or null.
+template <class Handle>
+Handle AfxSendHandle(HWND hWnd, UINT message, WPARAM wParam, Handle hParam) {
+    return reinterpret_cast<Handle>(::SendMessage(hWnd, message, wParam, reinterpret_cast<LPARAM>(hParam)));
+}
+
+/// A static text, icon or bitmap.
+class AFX_CORE CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+public:
+    CStatic() = default;
+    virtual BOOL Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                        UINT nID = 0xFFFF);
+    using CWnd::Create;
+
+    /// The picture is not owned. @return the previous one
+    HICON SetIcon(HICON hIcon) { return AfxSendHandle(m_hWnd, STM_SETIMAGE, IMAGE_ICON, hIcon); }
+    HICON GetIcon() const { return AfxSendHandle(m_hWnd, STM_GETIMAGE, IMAGE_ICON, HICON()); }
+    HBITMAP SetBitmap(HBITMAP hBitmap) { return AfxSendHandle(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
+    HBITMAP GetBitmap() const { return AfxSendHandle(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP, HBITMAP()); }
+
+    /// Draws an SS_OWNERDRAW static; override it.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+};
+
+/// A push button, check box, radio button or group box.
+class AFX_CORE CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+public:
+    CButton() = default;
+    virtual BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    /// @return BST_... bits
+    UINT GetState() const { return static_cast<UINT>(AfxSendInt(m_hWnd, BM_GETSTATE)); }
+    /// Shows the button pressed or not; sends no click.
+    void SetState(BOOL bHighlight) { AfxSendInt(m_hWnd, BM_SETSTATE, static_cast<WPARAM>(bHighlight)); }
+    int GetCheck() const { return AfxSendInt(m_hWnd, BM_GETCHECK); }
+    /// @param nCheck 0 off, 1 on, 2 undecided (three-state boxes)
+    void SetCheck(int nCheck) { AfxSendInt(m_hWnd, BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
+    /// @return the BS_... style without what all windows have
+    UINT GetButtonStyle() const { return GetStyle() & 0xFFFF; }
+    void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE) {
+        AfxSendInt(m_hWnd, BM_SETSTYLE, nStyle, bRedraw);
+    }
+    /// The picture is not owned. @return the previous one
+    HICON SetIcon(HICON hIcon) { return AfxSendHandle(m_hWnd, BM_SETIMAGE, IMAGE_ICON, hIcon); }
+    HICON GetIcon() const { return AfxSendHandle(m_hWnd, BM_GETIMAGE, IMAGE_ICON, HICON()); }
+    HBITMAP SetBitmap(HBITMAP hBitmap) { return AfxSendHandle(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
+    HBITMAP GetBitmap() const { return AfxSendHandle(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP, HBITMAP()); }
+
+    /// Draws a BS_OWNERDRAW button; override it.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+};
+
+/// An entry field. Positions and lengths count characters from 0.
+class AFX_CORE CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+public:
+    CEdit() = default;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    // --- Selection -------------------------------------------------------------------
+    /// @return start in the low word, end (behind the last character) in the high word
+    DWORD GetSel() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, EM_GETSEL)); }
+    void GetSel(int& nStartChar, int& nEndChar) const;
+    /// (0, -1) selects all; a start of -1 takes the selection away.
+    void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
+    /// As GetSel gives it; 0xFFFF stands for -1.
+    void SetSel(DWORD dwSelection, BOOL bNoScroll = FALSE);
+    void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE) {
+        AfxSendPointer(m_hWnd, EM_REPLACESEL, static_cast<WPARAM>(bCanUndo), lpszNewText);
+    }
+
+    // --- Text ------------------------------------------------------------------------
+    BOOL GetModify() const { return AfxSendInt(m_hWnd, EM_GETMODIFY); }
+    void SetModify(BOOL bModified = TRUE) {
+        AfxSendInt(m_hWnd, EM_SETMODIFY, static_cast<WPARAM>(bModified));
+    }
+    /// @param nMax longest text that the user can type; 0 is the system's own limit
+    void SetLimitText(UINT nMax) { AfxSendInt(m_hWnd, EM_SETLIMITTEXT, nMax); }
+    void LimitText(int nChars = 0) { AfxSendInt(m_hWnd, EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
+    UINT GetLimitText() const { return static_cast<UINT>(AfxSendInt(m_hWnd, EM_GETLIMITTEXT)); }
+    BOOL SetReadOnly(BOOL bReadOnly = TRUE) {
+        return AfxSendInt(m_hWnd, EM_SETREADONLY, static_cast<WPARAM>(bReadOnly));
+    }
+    void SetPasswordChar(TCHAR ch) { AfxSendInt(m_hWnd, EM_SETPASSWORDCHAR, ch); }
+    TCHAR GetPasswordChar() const { return static_cast<TCHAR>(AfxSendInt(m_hWnd, EM_GETPASSWORDCHAR)); }
+
+    // --- Clipboard and undo ------------------------------------------------------------
+    void Cut() { AfxSendInt(m_hWnd, WM_CUT); }
+    void Copy() { AfxSendInt(m_hWnd, WM_COPY); }
+    void Paste() { AfxSendInt(m_hWnd, WM_PASTE); }
+    void Clear() { AfxSendInt(m_hWnd, WM_CLEAR); }
+    BOOL CanUndo() const { return AfxSendInt(m_hWnd, EM_CANUNDO); }
+    BOOL Undo() { return AfxSendInt(m_hWnd, EM_UNDO); }
+    void EmptyUndoBuffer() { AfxSendInt(m_hWnd, EM_EMPTYUNDOBUFFER); }
+
+    // --- Lines -------------------------------------------------------------------------
+    int GetLineCount() const { return AfxSendInt(m_hWnd, EM_GETLINECOUNT); }
+    int GetFirstVisibleLine() const { return AfxSendInt(m_hWnd, EM_GETFIRSTVISIBLELINE); }
+    /// Copies a line without a terminator. The buffer's first word holds its size in characters.
+    /// @return the characters copied
+    int GetLine(int nIndex, LPTSTR lpszBuffer) const {
+        return AfxSendPointer(m_hWnd, EM_GETLINE, static_cast<WPARAM>(nIndex), lpszBuffer);
+    }
+    int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
+    /// @param nIndex a character, -1 the caret's
+    int LineFromChar(int nIndex = -1) const {
+        return AfxSendInt(m_hWnd, EM_LINEFROMCHAR, static_cast<WPARAM>(nIndex));
+    }
+    /// @return the first character of a line (-1: the caret's)
+    int LineIndex(int nLine = -1) const {
+        return AfxSendInt(m_hWnd, EM_LINEINDEX, static_cast<WPARAM>(nLine));
+    }
+    /// @param nLine a character of the line, -1 the caret's
+    int LineLength(int nLine = -1) const {
+        return AfxSendInt(m_hWnd, EM_LINELENGTH, static_cast<WPARAM>(nLine));
+    }
+    void LineScroll(int nLines, int nChars = 0) {
+        AfxSendInt(m_hWnd, EM_LINESCROLL, static_cast<WPARAM>(nChars), nLines);
+    }
+    BOOL FmtLines(BOOL bAddEOL) { return AfxSendInt(m_hWnd, EM_FMTLINES, static_cast<WPARAM>(bAddEOL)); }
+
+    // --- Layout ------------------------------------------------------------------------
+    void GetRect(LPRECT lpRect) const { AfxSendPointer(m_hWnd, EM_GETRECT, 0, lpRect); }
+    void SetRect(LPCRECT lpRect) { AfxSendPointer(m_hWnd, EM_SETRECT, 0, lpRect); }
+    void SetRectNP(LPCRECT lpRect) { AfxSendPointer(m_hWnd, EM_SETRECTNP, 0, lpRect); }
+    /// @param nLeft, nRight pixels
+    void SetMargins(UINT nLeft, UINT nRight) {
+        AfxSendInt(m_hWnd, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(nLeft, nRight));
+    }
+    /// @return left in the low word, right in the high word
+    DWORD GetMargins() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, EM_GETMARGINS)); }
+    /// Tab stops in dialog units: the default, one distance for all, or each.
+    void SetTabStops() { AfxSendPointer(m_hWnd, EM_SETTABSTOPS, 0, nullptr); }
+    BOOL SetTabStops(const int& cxEachStop) { return AfxSendPointer(m_hWnd, EM_SETTABSTOPS, 1, &cxEachStop); }
+    BOOL SetTabStops(int nTabStops, LPINT rgTabStops) {
+        return AfxSendPointer(m_hWnd, EM_SETTABSTOPS, static_cast<WPARAM>(nTabStops), rgTabStops);
+    }
+    CPoint PosFromChar(UINT nChar) const;
+    /// @return the nearest character in the low word, its line in the high word
+    int CharFromPos(CPoint pt) const { return AfxSendInt(m_hWnd, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)); }
+};
+
+/// A scroll bar that is a window of its own.
+class AFX_CORE CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
+public:
+    CScrollBar() = default;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
+    /// @return the previous position
+    int SetScrollPos(int nPos, BOOL bRedraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, nPos, bRedraw); }
+    void GetScrollRange(LPINT lpMinPos, LPINT lpMaxPos) const {
+        ::GetScrollRange(m_hWnd, SB_CTL, lpMinPos, lpMaxPos);
+    }
+    void SetScrollRange(int nMinPos, int nMaxPos, BOOL bRedraw = TRUE) {
+        ::SetScrollRange(m_hWnd, SB_CTL, nMinPos, nMaxPos, bRedraw);
+    }
+    void ShowScrollBar(BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, bShow); }
+    BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) {
+        return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags);
+    }
+    /// Both set cbSize; GetScrollInfo sets fMask as well.
+    BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
+    BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
+    /// @return the largest position that the thumb can reach
+    int GetScrollLimit();
+};
+
+#include "afxbox_.h"

@@ -1,0 +1,23 @@
+/// @file
+/// The window classes of the framework: applications, windows, dialogs, controls,
+/// drawing. Include this first in a source file that deals with windows.
+#pragma once
+
+#include "afx.h"
+#include "afxcoll.h"
+#include "afxtempl.h"
+#include "atltypes.h"
+
+#ifndef _WIN32
+#error "afxwin.h needs the Win32 API; natively only afx.h and the collections are available"
+#endif
+
+#include <commctrl.h>
+
+#include "afxmsg_.h"
+#include "afxgdi_.h"
+#include "afxwnd_.h"
+#include "afxapp_.h"
+#include "afxdlg_.h"
+#include "afxctl_.h"
+#include "afxdd_.h"

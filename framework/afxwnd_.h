@@ -1,0 +1,328 @@
+/// @file
+/// CCmdTarget and CWnd: command routing and the window class that all others
+/// derive from. Included by afxwin.h.
+#pragma once
+
+class CDataExchange;
+class CFont;
+class CRgn;
+class CScrollBar;
+struct AFX_CMDHANDLERINFO;
+
+/// An object with a message map.
+class AFX_CORE CCmdTarget : public CObject {
+    DECLARE_DYNAMIC(CCmdTarget)
+public:
+    /// Routes a command or notification to the first handler found for it.
+    /// @param nID    command or control identifier
+    /// @param nCode  notification code; CN_COMMAND for a command
+    /// @param pExtra an AFX_NOTIFY if it comes from WM_NOTIFY, null if from WM_COMMAND
+    /// @param pInfo  not used by this framework; pass null
+    /// @return TRUE if a handler took it.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo);
+
+    /// Shows and hides the wait cursor; calls nest.
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    void RestoreWaitCursor();
+
+protected:
+    CCmdTarget() = default;
+    static const AFX_MSGMAP* GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+};
+
+/// What OnCmdMsg carries in pExtra for a WM_NOTIFY message.
+struct AFX_NOTIFY {
+    LRESULT* pResult;
+    NMHDR* pNMHDR;
+};
+
+/// The state of the modal loop and of the device shell that a window keeps.
+enum AFX_WND_FLAGS : UINT {
+    WF_MODALLOOP = 0x0001,     ///< A modal loop runs for this window.
+    WF_CONTINUEMODAL = 0x0002, ///< ...and shall go on.
+    WF_FULLSCREEN = 0x0010,    ///< Covers the work area, with the device's title bar.
+    WF_OKBUTTON = 0x0020,      ///< The title bar carries an OK button.
+    WF_SHOWSET = 0x0040,       ///< ShowWindow has been called for it.
+    WF_CAPTIONACTIVE = 0x0080, ///< The title bar is drawn as that of the active window.
+};
+
+/// Option flags of CWnd::RunModalLoop.
+enum : DWORD { MLF_NOIDLEMSG = 0x0001, MLF_NOKICKIDLE = 0x0002, MLF_SHOWONIDLE = 0x0004 };
+
+/// Sent to a window whose modal loop is idle; lParam counts the times in a row.
+constexpr UINT WM_KICKIDLE = 0x036A;
+
+/// Sent by the pen input system to ask which gestures a point takes; see
+/// CWnd::GetGestureStatus.
+constexpr UINT AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS = 0x02CC;
+/// Answer: no press-and-hold at this point.
+constexpr ULONG AFX_TABLET_DISABLE_PRESSANDHOLD = 0x00000001;
+
+/// Extended style of the device: the title bar carries an OK button that sends IDOK.
+/// Desktop Windows has no such style; the framework keeps it and draws the button.
+constexpr DWORD WS_EX_CAPTIONOKBTN = 0x80000000;
+
+/// A window of the system, or the C++ side of one.
+///
+/// One permanent CWnd at most belongs to a window: the one that created it or was
+/// attached or subclassed to it. FromHandle gives a temporary object for any other
+/// window; it is valid until the program is next idle. A CWnd that still has a
+/// window destroys it in its destructor.
+class AFX_CORE CWnd : public CCmdTarget {
+    DECLARE_DYNCREATE(CWnd)
+public:
+    CWnd() = default;
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr; ///< The window, or null.
+
+    operator HWND() const { return m_hWnd; }
+    /// The window; null also for a null object, as applications expect of this one function.
+    HWND GetSafeHwnd() const;
+    bool operator==(const CWnd& other) const { return m_hWnd == other.m_hWnd; }
+    bool operator!=(const CWnd& other) const { return m_hWnd != other.m_hWnd; }
+
+    // --- Object and window ---------------------------------------------------------
+    /// The object of a window, a temporary one if it has no permanent one; null for null.
+    static CWnd* FromHandle(HWND hWnd);
+    /// The permanent object of a window, or null.
+    static CWnd* FromHandlePermanent(HWND hWnd);
+    /// Deletes the temporary objects that nothing can hold any more; called when idle.
+    static void DeleteTempMap();
+    BOOL Attach(HWND hWndNew);
+    HWND Detach();
+    /// Attaches this object to a window and routes its messages through the message map.
+    BOOL SubclassWindow(HWND hWnd);
+    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
+    HWND UnsubclassWindow();
+    /// Called just before a window is attached to this object, its first message still to come.
+    virtual void PreSubclassWindow();
+
+    // --- Creation ------------------------------------------------------------------
+    /// Creates a child window. @return FALSE if the system refuses.
+    virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                        CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
+    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
+                  int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
+    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                  const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
+    /// Lets a derived class change the creation parameters. @return FALSE to give up.
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL DestroyWindow();
+
+    // --- Style and state -----------------------------------------------------------
+    DWORD GetStyle() const;
+    /// Includes WS_EX_CAPTIONOKBTN, which the framework keeps itself.
+    DWORD GetExStyle() const;
+    /// @param nFlags SetWindowPos flags for a redraw of the frame, or 0 for none.
+    BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    BOOL EnableWindow(BOOL bEnable = TRUE);
+    BOOL IsWindowEnabled() const;
+    BOOL ShowWindow(int nCmdShow);
+    BOOL IsWindowVisible() const;
+    BOOL IsIconic() const;
+    BOOL IsZoomed() const;
+    int GetDlgCtrlID() const;
+    int SetDlgCtrlID(int nID);
+    HICON SetIcon(HICON hIcon, BOOL bBigIcon);
+    HICON GetIcon(BOOL bBigIcon) const;
+
+    // --- Text and font -------------------------------------------------------------
+    void SetWindowText(LPCTSTR lpszString);
+    int GetWindowText(LPTSTR lpszString, int nMaxCount) const;
+    void GetWindowText(CString& rString) const;
+    int GetWindowTextLength() const;
+    void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
+    CFont* GetFont() const;
+
+    // --- Place and size ------------------------------------------------------------
+    void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
+    void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
+    BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+    void GetWindowRect(LPRECT lpRect) const;
+    void GetClientRect(LPRECT lpRect) const;
+    void ClientToScreen(LPPOINT lpPoint) const;
+    void ClientToScreen(LPRECT lpRect) const;
+    void ScreenToClient(LPPOINT lpPoint) const;
+    void ScreenToClient(LPRECT lpRect) const;
+    void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
+    void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
+    enum AdjustType { adjustBorder = 0, adjustOutside = 1 };
+    /// Turns a client rectangle into the rectangle of the window around it.
+    virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder);
+    /// Centres on pAlternateOwner, else on the owner (or parent, for a child), else on the screen;
+    /// a window with an invisible or minimised owner, too. Never leaves the work area.
+    void CenterWindow(CWnd* pAlternateOwner = nullptr);
+    void BringWindowToTop();
+
+    // --- Relations -----------------------------------------------------------------
+    CWnd* GetParent() const;
+    CWnd* SetParent(CWnd* pWndNewParent);
+    /// The owner set by SetOwner, else the parent.
+    CWnd* GetOwner() const;
+    void SetOwner(CWnd* pOwnerWnd);
+    CWnd* GetTopLevelParent() const;
+    CWnd* GetDlgItem(int nID) const;
+    void GetDlgItem(int nID, HWND* phWnd) const;
+    CWnd* GetWindow(UINT nCmd) const;
+    CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
+    BOOL IsChild(const CWnd* pWnd) const;
+    static CWnd* GetActiveWindow();
+    CWnd* SetActiveWindow();
+    static CWnd* GetForegroundWindow();
+    BOOL SetForegroundWindow();
+    static CWnd* GetFocus();
+    CWnd* SetFocus();
+    static CWnd* GetCapture();
+    CWnd* SetCapture();
+    static CWnd* GetDesktopWindow();
+    static CWnd* WindowFromPoint(POINT point);
+    /// The top-level window that should own a dialog of pParent (the main window for null).
+    /// @param pWndTop receives a top-level window to disable as well, or null
+    static CWnd* GetSafeOwner(CWnd* pParent = nullptr, HWND* pWndTop = nullptr);
+
+    // --- Painting ------------------------------------------------------------------
+    CDC* GetDC();
+    CDC* GetWindowDC();
+    int ReleaseDC(CDC* pDC);
+    CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
+    void EndPaint(LPPAINTSTRUCT lpPaint);
+    void Invalidate(BOOL bErase = TRUE);
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
+    void ValidateRect(LPCRECT lpRect);
+    void UpdateWindow();
+    BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, CRgn* prgnUpdate = nullptr,
+                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
+    void SetRedraw(BOOL bRedraw = TRUE);
+
+    // --- Messages ------------------------------------------------------------------
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE);
+    /// The message that the calling thread is handling. A handler may rewrite it before
+    /// it calls Default().
+    static MSG* GetCurrentMessage();
+    /// Default processing of the current message.
+    LRESULT Default();
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr);
+    BOOL KillTimer(UINT_PTR nIDEvent);
+    int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
+    /// Sees each message of the thread's queue before it is translated and dispatched.
+    /// @return TRUE if the message shall go no further.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    BOOL PreTranslateInput(LPMSG lpMsg);
+    /// Walks from the message's window up to hWndStop and offers it to each.
+    static BOOL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
+
+    // --- Dialog items --------------------------------------------------------------
+    void SetDlgItemText(int nID, LPCTSTR lpszString);
+    int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
+    int GetDlgItemText(int nID, CString& rString) const;
+    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
+    UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const;
+    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    void CheckDlgButton(int nIDButton, UINT nCheck);
+    UINT IsDlgButtonChecked(int nIDButton) const;
+    void CheckRadioButton(int nIDFirst, int nIDLast, int nIDCheckButton);
+    int GetCheckedRadioButton(int nIDFirst, int nIDLast) const;
+    /// Runs the initialisation data (RT_DLGINIT) of a dialog template.
+    BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    BOOL IsDialogMessage(LPMSG lpMsg);
+    /// Exchanges data between members and controls.
+    /// @param bSaveAndValidate TRUE: from the controls, FALSE: to them
+    /// @return FALSE if a value was refused; the user has been told and stands in its field.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+
+    // --- Modal loop ----------------------------------------------------------------
+    int RunModalLoop(DWORD dwFlags = 0);
+    virtual BOOL ContinueModal();
+    virtual void EndModalLoop(int nResult);
+
+    // --- Routing -------------------------------------------------------------------
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override;
+    /// Offers the current message to the control it came from.
+    /// @return TRUE if the control has handled it.
+    BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
+    static BOOL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
+
+protected:
+    UINT m_nFlags = 0; ///< AFX_WND_FLAGS
+    int m_nModalResult = 0;
+
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// A notification of this control that its parent hands back.
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// Last call for a window: the object may delete itself.
+    virtual void PostNcDestroy();
+    virtual void DoDataExchange(CDataExchange* pDX);
+    /// Which pen gestures a point (client coordinates) takes. Here: no press-and-hold, so
+    /// that a press reaches the control at once and not after the system's pause.
+    virtual ULONG GetGestureStatus(CPoint ptTouch);
+    /// The window procedure to go back to; null before the window is attached.
+    virtual WNDPROC* GetSuperWndProcAddr();
+
+    // --- Handlers: each forwards to default processing --------------------------------
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnNcDestroy();
+    afx_msg void OnClose();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnMove(int x, int y);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    /// The control's own choice first (its reflected CtlColor), then the system's.
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+    afx_msg LRESULT OnCompareItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTabletQueryGesture(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CDialog;
+    friend class CDeviceCaption;
+    friend struct AfxWndAccess;
+
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+
+    /// What the window did before this object was attached to it.
+    LRESULT CallSuper(UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND m_hWndOwner = nullptr;
+    WNDPROC m_pfnSuper = nullptr;
+};

@@ -1,0 +1,277 @@
+#include "DeviceCaption.h"
+#include "DialogTemplate.h"
+#include "WndProc.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+// clang-format on
+
+struct AfxDialogAccess {
+    static INT_PTR CALLBACK DlgProc(HWND hWnd, UINT message, WPARAM, LPARAM);
+};
+
+/// The system's dialog procedure: all messages but one go through the message map.
+INT_PTR CALLBACK AfxDialogAccess::DlgProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
+    if (message != WM_INITDIALOG)
+        return FALSE;
+    auto* pDialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hWnd));
+    if (pDialog == nullptr)
+        return TRUE;
+    try {
+        return pDialog->OnInitDialog();
+    } catch (CException* e) { // must not travel through the system's frames
+        if (CWinThread* pThread = AfxGetThread())
+            pThread->ProcessWndProcException(e, CWnd::GetCurrentMessage());
+        else
+            e->Delete();
+        pDialog->EndDialog(-1);
+        return FALSE;
+    }
+}
+
+// --- Construction -----------------------------------------------------------------------------
+
+CDialog::CDialog() = default;
+
+CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
+    if (IS_INTRESOURCE(lpszTemplateName))
+        m_nIDHelp = LOWORD(reinterpret_cast<DWORD_PTR>(lpszTemplateName));
+}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {
+    m_nIDHelp = nIDTemplate;
+}
+
+CDialog::~CDialog() {
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+    delete m_pWndEmptyCB;
+}
+
+// --- Modeless -----------------------------------------------------------------------------------
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    m_lpszTemplateName = lpszTemplateName;
+    m_lpDialogTemplate = nullptr;
+    return CreateFromResource(pParentWnd);
+}
+
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+    m_nIDHelp = nIDTemplate;
+    return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
+    return CreateDlgIndirect(lpDialogTemplate, pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd());
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    if (m_pParentWnd == nullptr)
+        m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+/// Creates the window from the template in memory, else from the named resource.
+BOOL CDialog::CreateFromResource(CWnd* pParentWnd) {
+    if (m_lpDialogTemplate != nullptr)
+        return CreateDlgIndirect(m_lpDialogTemplate, pParentWnd);
+    const HINSTANCE hInstance = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
+    const HRSRC hResource = ::FindResource(hInstance, m_lpszTemplateName, RT_DIALOG);
+    if (hResource == nullptr)
+        return FALSE;
+    return CreateDlgIndirect(
+        static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(hInstance, hResource))), pParentWnd);
+}
+
+BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
+    if (m_hWnd != nullptr)
+        return FALSE;
+    // The framework shows the dialog itself, so that one that hides in OnInitDialog stays hidden.
+    CDialogTemplateCopy copy(lpDialogTemplate);
+    if (!copy.IsValid())
+        return FALSE;
+    if (copy.HasCaptionOkButton())
+        m_nFlags |= WF_OKBUTTON;
+    m_nFlags &= ~static_cast<UINT>(WF_SHOWSET);
+    CCreateHook hook(this);
+    const HWND hWnd = ::CreateDialogIndirectParam(AfxGetInstanceHandle(), copy.Get(), HandleOf(pParentWnd),
+                                                  AfxDialogAccess::DlgProc, 0);
+    if (!hook.Unhook())
+        PostNcDestroy();
+    if (hWnd == nullptr)
+        return FALSE;
+    const bool bEnding = m_nFlags & WF_MODALLOOP && !(m_nFlags & WF_CONTINUEMODAL);
+    if (copy.WasVisible() && !(m_nFlags & WF_SHOWSET) && !bEnding)
+        ShowWindow(SW_SHOWNORMAL);
+    return TRUE;
+}
+
+// --- Modal ----------------------------------------------------------------------------------------
+
+HWND CDialog::PreModal() {
+    CWnd* pOwner = GetSafeOwner(m_pParentWnd, &m_hWndDisabled);
+    return HandleOf(pOwner);
+}
+
+void CDialog::PostModal() {
+    if (m_hWndDisabled != nullptr)
+        ::EnableWindow(m_hWndDisabled, TRUE);
+    m_hWndDisabled = nullptr;
+}
+
+namespace {
+
+/// Keeps the owner of a modal dialog disabled, on whatever path the dialog ends.
+class COwnerLock {
+public:
+    explicit COwnerLock(HWND hWnd) : m_hWnd(hWnd != nullptr && ::IsWindowEnabled(hWnd) ? hWnd : nullptr) {
+        if (m_hWnd != nullptr)
+            ::EnableWindow(m_hWnd, FALSE);
+    }
+    ~COwnerLock() { Release(); }
+    COwnerLock(const COwnerLock&) = delete;
+    COwnerLock& operator=(const COwnerLock&) = delete;
+
+    void Release() {
+        if (m_hWnd != nullptr)
+            ::EnableWindow(m_hWnd, TRUE);
+        m_hWnd = nullptr;
+    }
+
+private:
+    HWND m_hWnd;
+};
+
+} // namespace
+
+INT_PTR CDialog::DoModal() {
+    if (m_hWnd != nullptr)
+        return -1;
+    const CModalScope scope;
+    const HWND hWndFocus = ::GetFocus();
+    const HWND hWndOwner = PreModal();
+    COwnerLock lock(hWndOwner);
+
+    m_nModalResult = -1;
+    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL; // EndDialog may come from OnInitDialog already
+    if (CreateFromResource(CWnd::FromHandle(hWndOwner)) && (m_nFlags & WF_CONTINUEMODAL))
+        RunModalLoop(MLF_SHOWONIDLE);
+    m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
+
+    // The owner is enabled while the dialog is still there: otherwise the system would have
+    // no window of this program to activate, and another program's would come to the front.
+    lock.Release();
+    if (m_hWnd != nullptr) {
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd)
+            ::SetActiveWindow(hWndOwner);
+        DestroyWindow();
+    }
+    PostModal();
+    if (hWndOwner != nullptr && ::GetActiveWindow() == hWndOwner && ::IsChild(hWndOwner, hWndFocus))
+        ::SetFocus(hWndFocus);
+    return m_nModalResult;
+}
+
+void CDialog::EndDialog(int nResult) {
+    if (m_nFlags & WF_MODALLOOP)
+        EndModalLoop(nResult);
+    else
+        ::EndDialog(m_hWnd, nResult);
+}
+
+// --- Initialisation ---------------------------------------------------------------------------------
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    if (m_lpDialogTemplate == nullptr)
+        ExecuteDlgInit(m_lpszTemplateName);
+    return Default(); // calls OnInitDialog through the system's dialog procedure
+}
+
+BOOL CDialog::OnInitDialog() {
+    if (m_bFullScreen && !(GetStyle() & WS_CHILD))
+        EnterFullScreen();
+    if (!UpdateData(FALSE)) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::EnterFullScreen() {
+    CDeviceCaption::EnterFullScreen(this);
+    auto* pBar = new CCeCommandBar;
+    delete m_pWndEmptyCB;
+    m_pWndEmptyCB = pBar;
+    pBar->Create(this);
+}
+
+void CDialog::OnSetFont(CFont*) {}
+
+void CDialog::PostNcDestroy() {
+    delete m_pWndEmptyCB;
+    m_pWndEmptyCB = nullptr;
+    CWnd::PostNcDestroy();
+}
+
+// --- Keys, commands, controls -------------------------------------------------------------------------
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    // The device's screen knows no hovering: a move without contact, which desktop mice and
+    // touch screens report before each press, is not for the dialog's surface.
+    const bool bHover = pMsg->message == WM_MOUSEMOVE && !(pMsg->wParam & (MK_LBUTTON | MK_RBUTTON));
+    if (bHover && pMsg->hwnd == m_hWnd)
+        return TRUE;
+    return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pInfo))
+        return TRUE;
+    // Menu and tool bar commands that the dialog does not know go on to its parent and to the
+    // application; notifications and system commands are its own business.
+    const bool bRouted = pExtra == nullptr && nCode == CN_COMMAND && nID >= 0x8000 && nID < 0xF000;
+    if (!bRouted)
+        return FALSE;
+    if (CWnd* pParent = GetParent(); pParent != nullptr && pParent->OnCmdMsg(nID, nCode, pExtra, pInfo))
+        return TRUE;
+    CWinThread* pThread = AfxGetThread();
+    return pThread != nullptr && pThread->OnCmdMsg(nID, nCode, pExtra, pInfo);
+}
+
+void CDialog::MapDialogRect(LPRECT lpRect) const {
+    ::MapDialogRect(m_hWnd, lpRect);
+}
+void CDialog::NextDlgCtrl() const {
+    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, 0);
+}
+void CDialog::PrevDlgCtrl() const {
+    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, 0);
+}
+void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
+    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE);
+}
+void CDialog::SetDefID(UINT nID) {
+    ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0);
+}
+DWORD CDialog::GetDefID() const {
+    return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0));
+}

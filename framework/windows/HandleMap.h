@@ -1,0 +1,89 @@
+// Which object belongs to which handle: permanent ones that applications made, and
+// temporary ones that FromHandle made for foreign handles.
+#pragma once
+
+#include "afxwin.h"
+
+#include <algorithm>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+/// A handle map of one kind for one thread.
+///
+/// A temporary object must live as long as anybody up the stack may hold it. Each is
+/// therefore marked with the depth of the message loop in which it was last asked for,
+/// and a loop that is idle deletes only those of its own depth or deeper.
+template <class Object, class Handle>
+class CHandleMap {
+public:
+    /// @param pMember the object's member that holds its handle
+    explicit CHandleMap(Handle Object::*pMember) : m_pMember(pMember) {}
+    ~CHandleMap() { DeleteTemporary(0); }
+    CHandleMap(const CHandleMap&) = delete;
+    CHandleMap& operator=(const CHandleMap&) = delete;
+
+    Object* Permanent(Handle handle) const {
+        const auto it = m_permanent.find(handle);
+        return it == m_permanent.end() ? nullptr : it->second;
+    }
+
+    void SetPermanent(Handle handle, Object* pObject) { m_permanent[handle] = pObject; }
+
+    void Remove(Handle handle) {
+        m_permanent.erase(handle);
+        Forget(handle);
+    }
+
+    /// The permanent object, else a temporary one that `make` creates.
+    template <class Make>
+    Object* FromHandle(Handle handle, int nDepth, Make make) {
+        if (handle == nullptr)
+            return nullptr;
+        if (Object* pObject = Permanent(handle))
+            return pObject;
+        auto& slot = m_temporary[handle];
+        if (slot.pObject == nullptr) {
+            slot.pObject.reset(make());
+            slot.pObject.get()->*m_pMember = handle;
+            slot.nDepth = nDepth;
+        }
+        slot.nDepth = std::min(slot.nDepth, nDepth);
+        return slot.pObject.get();
+    }
+
+    void DeleteTemporary(int nDepth) {
+        std::erase_if(m_orphans, [nDepth](const CSlot& slot) { return slot.nDepth >= nDepth; });
+        for (auto it = m_temporary.begin(); it != m_temporary.end();) {
+            if (it->second.nDepth < nDepth) {
+                ++it;
+                continue;
+            }
+            // Another's handle: the object must not release it.
+            it->second.pObject.get()->*m_pMember = nullptr;
+            it = m_temporary.erase(it);
+        }
+    }
+
+private:
+    struct CSlot {
+        std::unique_ptr<Object> pObject;
+        int nDepth = 0;
+    };
+
+    void Forget(Handle handle) {
+        const auto it = m_temporary.find(handle);
+        if (it == m_temporary.end())
+            return;
+        it->second.pObject.get()->*m_pMember = nullptr;
+        // Somebody up the stack may still hold the object: keep it, without a handle,
+        // until the loop is idle. Only then is its slot free for a new use of the handle.
+        m_orphans.push_back({std::move(it->second.pObject), it->second.nDepth});
+        m_temporary.erase(it);
+    }
+
+    Handle Object::*m_pMember;
+    std::unordered_map<Handle, Object*> m_permanent;
+    std::unordered_map<Handle, CSlot> m_temporary;
+    std::vector<CSlot> m_orphans;
+};

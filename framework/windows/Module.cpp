@@ -1,0 +1,136 @@
+// Module state: which module holds which resource.
+#include "afxwin.h"
+
+#include <algorithm>
+#include <vector>
+
+IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
+
+namespace {
+
+struct CModuleState {
+    HINSTANCE hFramework = nullptr;
+    HINSTANCE hInstance = nullptr;
+    HINSTANCE hResource = nullptr;
+    std::vector<CDynLinkLibrary*> libraries; ///< In the order of their loading.
+};
+
+CModuleState& State() {
+    static CModuleState state;
+    return state;
+}
+
+/// The modules that are searched, in order.
+std::vector<HINSTANCE> SearchOrder() {
+    std::vector<HINSTANCE> order = {AfxGetResourceHandle()};
+    for (const CDynLinkLibrary* pLibrary : State().libraries)
+        order.push_back(pLibrary->m_hResource);
+    order.push_back(State().hFramework);
+    return order;
+}
+
+/// The text of a string resource inside a module's image, with its length; not terminated.
+LPCTSTR FindString(HINSTANCE hInstance, UINT nID, int* pnLength) {
+    LPCTSTR pszText = nullptr;
+    *pnLength = ::LoadString(hInstance, nID, reinterpret_cast<LPTSTR>(&pszText), 0);
+    return *pnLength > 0 ? pszText : nullptr;
+}
+
+} // namespace
+
+BOOL APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
+    if (dwReason == DLL_PROCESS_ATTACH)
+        State().hFramework = hInstance;
+    return TRUE;
+}
+
+// --- The application's module ------------------------------------------------------------------
+
+HINSTANCE AFXAPI AfxGetInstanceHandle() {
+    return State().hInstance != nullptr ? State().hInstance : ::GetModuleHandle(nullptr);
+}
+
+HINSTANCE AFXAPI AfxGetResourceHandle() {
+    return State().hResource != nullptr ? State().hResource : AfxGetInstanceHandle();
+}
+
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
+    State().hResource = hInstResource;
+}
+
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
+    State().hInstance = hInstance;
+    const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES};
+    ::InitCommonControlsEx(&controls);
+    if (CWinApp* pApp = AfxGetApp()) {
+        pApp->m_hInstance = hInstance;
+        pApp->m_lpCmdLine = lpCmdLine;
+        pApp->m_nCmdShow = nCmdShow;
+    }
+    return TRUE;
+}
+
+// --- Extension modules ---------------------------------------------------------------------------
+
+BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
+    if (state.bInitialized)
+        return TRUE;
+    state.bInitialized = TRUE;
+    state.hModule = hModule;
+    state.hResource = hModule;
+    return TRUE;
+}
+
+void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
+    if (!state.bInitialized)
+        return;
+    const std::vector<CDynLinkLibrary*> libraries = State().libraries;
+    for (CDynLinkLibrary* pLibrary : libraries)
+        if (pLibrary->m_hModule == state.hModule)
+            delete pLibrary;
+    state.bInitialized = FALSE;
+}
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
+    : m_hModule(state.hModule), m_hResource(state.hResource), m_bSystem(bSystem) {
+    State().libraries.push_back(this);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary() {
+    std::erase(State().libraries, this);
+}
+
+// --- Search ------------------------------------------------------------------------------------------
+
+HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszResource, LPCTSTR lpszType) {
+    for (const HINSTANCE hInstance : SearchOrder())
+        if (::FindResource(hInstance, lpszResource, lpszType) != nullptr)
+            return hInstance;
+    return AfxGetResourceHandle();
+}
+
+HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID) {
+    int nLength = 0;
+    for (const HINSTANCE hInstance : SearchOrder())
+        if (FindString(hInstance, nID, &nLength) != nullptr)
+            return hInstance;
+    return nullptr;
+}
+
+int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
+    lpszBuf[0] = 0;
+    const HINSTANCE hInstance = AfxFindStringResourceHandle(nID);
+    return hInstance != nullptr ? ::LoadString(hInstance, nID, lpszBuf, static_cast<int>(nMaxBuf)) : 0;
+}
+
+BOOL CString::LoadString(UINT nID) {
+    int nLength = 0;
+    const HINSTANCE hInstance = AfxFindStringResourceHandle(nID);
+    const LPCTSTR pszText = hInstance != nullptr ? FindString(hInstance, nID, &nLength) : nullptr;
+    if (pszText == nullptr) {
+        Empty();
+        return FALSE;
+    }
+    *this = CString(pszText, nLength);
+    return TRUE;
+}

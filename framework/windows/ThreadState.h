@@ -1,0 +1,41 @@
+// What the framework keeps for each thread.
+#pragma once
+
+#include "HandleMap.h"
+
+class CThreadState {
+public:
+    static CThreadState& Get();
+
+    CHandleMap<CWnd, HWND> m_windows{&CWnd::m_hWnd};
+    CHandleMap<CDC, HDC> m_contexts{&CDC::m_hDC};
+    CHandleMap<CGdiObject, HGDIOBJ> m_gdiObjects{&CGdiObject::m_hObject};
+
+    /// The message being handled; what Default() replays.
+    MSG m_msgLast = {};
+    /// The object that waits for the window that is just being created.
+    CWnd* m_pWndInit = nullptr;
+    HHOOK m_hCreateHook = nullptr;
+    /// Modal windows, one inside the other.
+    int m_nModalDepth = 0;
+    /// The control whose data is being exchanged; keeps DDX from being entered twice.
+    HWND m_hLockoutNotifyWindow = nullptr;
+    CWinThread* m_pThread = nullptr;
+
+    /// Deletes the temporary objects made at the present depth or deeper.
+    void DeleteTemporaries();
+};
+
+/// The time of a modal window. Temporary objects made in it end with it; those that the
+/// callers around it may hold stay.
+class CModalScope {
+public:
+    CModalScope() { ++CThreadState::Get().m_nModalDepth; }
+    ~CModalScope() {
+        CThreadState& state = CThreadState::Get();
+        state.DeleteTemporaries();
+        --state.m_nModalDepth;
+    }
+    CModalScope(const CModalScope&) = delete;
+    CModalScope& operator=(const CModalScope&) = delete;
+};
