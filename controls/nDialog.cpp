@@ -1,0 +1,182 @@
+#include "controls/nDialog.h"
+
+#include <afxext.h>
+
+namespace {
+
+/// Menu resource that an application may have for the command bar of its dialogs.
+constexpr UINT IDR_COMMAND_BAR = 130;
+constexpr LPARAM COMMAND_BAR_BUTTON_SIZE = 32 | 15 << 16;
+
+// The part of the device's screen between its two bars.
+constexpr int SCREEN_LEFT = 0;
+constexpr int SCREEN_RIGHT = 240;
+constexpr int SCREEN_TOP = 26;
+constexpr int SCREEN_BOTTOM = 294;
+
+constexpr SIZE FRAME_THICKNESS = {1, 1};
+
+/// Draws the drag frame on the screen by inverting it; the frame before, if there is one, is
+/// inverted back in the same call.
+void DrawFrame(const CRect& frame, const CRect* pPrevious) {
+    CWindowDC screen(nullptr);
+    screen.DrawDragRect(frame, FRAME_THICKNESS, pPrevious != nullptr ? LPCRECT(*pPrevious) : nullptr,
+                        FRAME_THICKNESS);
+}
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CnDialog, CDialog)
+    ON_WM_CLOSE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_WININICHANGE()
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+// clang-format on
+
+CnDialog::CnDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(nIDTemplate, pParentWnd) {}
+
+void CnDialog::SetOption(DWORD dwOption) {
+    m_dwOption |= dwOption;
+    if (Has(OptionPopup))
+        m_bFullScreen = FALSE;
+}
+
+void CnDialog::SetBKColor(DWORD crColor) {
+    m_crBk = crColor;
+    m_dwOption |= OptionBackgroundColor;
+}
+
+void CnDialog::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+}
+
+BOOL CnDialog::OnInitDialog() {
+    CDialog::OnInitDialog();
+    SetIcon(m_hIcon, TRUE);
+    SetIcon(m_hIcon, FALSE);
+    if (Has(OptionBackgroundColor)) {
+        m_brBk.DeleteObject(); // a second run of the same dialog object
+        m_brBk.CreateSolidBrush(m_crBk);
+    }
+    if (!Has(OptionPopup))
+        InitFullScreen();
+    else if (Has(OptionOkButton))
+        ModifyStyleEx(0, WS_EX_CAPTIONOKBTN, 0);
+    if (Has(OptionNoCommandBar) && m_pWndEmptyCB != nullptr)
+        m_pWndEmptyCB->DestroyWindow();
+    if (Has(OptionHidden))
+        ShowWindow(SW_HIDE);
+    return TRUE;
+}
+
+void CnDialog::InitFullScreen() {
+    ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
+    if (auto* pBar = dynamic_cast<CCeCommandBar*>(m_pWndEmptyCB);
+        pBar != nullptr && Has(OptionBarButtonSize)) {
+        pBar->InsertMenuBar(IDR_COMMAND_BAR);
+        pBar->SendMessage(TB_SETBUTTONSIZE, 0, COMMAND_BAR_BUTTON_SIZE);
+    }
+    if (!Has(OptionOkButton))
+        SHDoneButton(m_hWnd, SHDB_HIDE);
+    ShowWindow(SW_SHOWMAXIMIZED);
+}
+
+// --- Ending ----------------------------------------------------------------------------------
+
+void CnDialog::OnOK() {
+    CDialog::OnOK();
+}
+void CnDialog::OnCancel() {
+    CDialog::OnCancel();
+}
+void CnDialog::OnClose() {
+    OnCancel();
+}
+
+BOOL CnDialog::PreTranslateMessage(MSG* pMsg) {
+    const bool bEndingKey = pMsg->wParam == VK_RETURN || pMsg->wParam == VK_ESCAPE;
+    if (pMsg->message == WM_KEYDOWN && Has(OptionSwallowKeys) && bEndingKey)
+        return TRUE;
+    return CDialog::PreTranslateMessage(pMsg);
+}
+
+// --- Colours ---------------------------------------------------------------------------------
+
+HBRUSH CnDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+    const HBRUSH hDefault = CDialog::OnCtlColor(pDC, pWnd, nCtlColor);
+    if (!Has(OptionBackgroundColor))
+        return hDefault;
+    if (pWnd == this)
+        return m_brBk;
+    if (nCtlColor != CTLCOLOR_STATIC)
+        return hDefault;
+    pDC->SetBkMode(TRANSPARENT);
+    return m_brBk;
+}
+
+// --- Dragging --------------------------------------------------------------------------------
+
+void CnDialog::OnLButtonDown(UINT nFlags, CPoint point) {
+    if (Has(OptionDrag)) {
+        GetWindowRect(m_rcDrag);
+        DrawFrame(m_rcDrag, nullptr);
+        m_ptPress = point;
+        SetCapture();
+    }
+    if (Has(OptionForwardPress))
+        CWnd::OnLButtonDown(nFlags, point);
+    else
+        Default();
+}
+
+/// Where the frame goes for a pen at `point` (client coordinates), kept in reach.
+CRect CnDialog::DragCandidate(CPoint point) const {
+    CRect frame;
+    GetWindowRect(frame);
+    frame.OffsetRect(point - m_ptPress);
+    if (frame.top < SCREEN_TOP)
+        frame.OffsetRect(0, SCREEN_TOP - frame.top);
+    else if (frame.bottom > SCREEN_BOTTOM)
+        frame.OffsetRect(0, SCREEN_BOTTOM - frame.bottom);
+    // At the right the frame may hang out until its left edge has left the screen too; then
+    // it comes back whole, in one jump.
+    if (frame.left < SCREEN_LEFT)
+        frame.OffsetRect(-frame.left, 0);
+    else if (frame.left > SCREEN_RIGHT)
+        frame.OffsetRect(SCREEN_RIGHT - frame.right, 0);
+    return frame;
+}
+
+void CnDialog::OnMouseMove(UINT, CPoint point) {
+    if (Has(OptionDrag)) {
+        const CRect candidate = DragCandidate(point);
+        if (!candidate.EqualRect(m_rcDrag)) {
+            DrawFrame(candidate, &m_rcDrag);
+            m_rcDrag = candidate;
+        }
+    }
+    Default();
+}
+
+void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
+    if (Has(OptionDrag)) {
+        DrawFrame(m_rcDrag, nullptr);
+        CRect place = m_rcDrag;
+        // A child stands in its parent's coordinates. For a popup GetParent gives the owner,
+        // whose coordinates are not the popup's.
+        if (CWnd* pParent = GetParent(); pParent != nullptr && (GetStyle() & WS_CHILD))
+            pParent->ScreenToClient(place);
+        ReleaseCapture();
+        MoveWindow(place.left, place.top, place.Width(), place.Height(), TRUE);
+        RedrawWindow(nullptr, nullptr, 0);
+    }
+    CDialog::OnLButtonUp(nFlags, point);
+}
+
+void CnDialog::OnWinIniChange(LPCTSTR lpszSection) {
+    CDialog::OnWinIniChange(lpszSection);
+}

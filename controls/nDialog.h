@@ -1,0 +1,71 @@
+/// @file
+/// CnDialog: the base of dialogs for a small screen worked with a stylus.
+#pragma once
+
+#include <afxwin.h>
+
+#include "geometry/Export.h"
+
+/// A dialog that follows one word of options: full screen or popup, OK button in the title
+/// bar, keys, dragging with the stylus, background colour.
+///
+/// Options and colour are set between construction and DoModal or Create, by derived classes
+/// usually in their constructors. Without options the dialog is full screen and its title
+/// bar has no OK button.
+class FIELDKIT_API CnDialog : public CDialog {
+public:
+    /// Bits of the option word. A derived class may use others for itself.
+    enum Option : DWORD {
+        OptionOkButton = 0x00001,        ///< OK button in the title bar.
+        OptionBarButtonSize = 0x00002,   ///< Full screen: command bar buttons of 32 x 15 pixels.
+        OptionHidden = 0x00100,          ///< Hidden at the end of OnInitDialog.
+        OptionPopup = 0x00200,           ///< Not full screen.
+        OptionForwardPress = 0x00400,    ///< A press goes to CWnd::OnLButtonDown.
+        OptionNoCommandBar = 0x01000,    ///< The empty command bar is destroyed.
+        OptionSwallowKeys = 0x02000,     ///< Enter and Escape do nothing.
+        OptionDrag = 0x10000,            ///< The stylus drags the dialog by its surface.
+        OptionBackgroundColor = 0x20000, ///< Set by SetBKColor.
+    };
+
+    /// @param nIDTemplate template, searched in the application and in the library
+    /// @param pParentWnd  owner; null for the application's main window
+    CnDialog(UINT nIDTemplate, CWnd* pParentWnd);
+
+    /// Adds option bits; no call takes any away.
+    void SetOption(DWORD dwOption);
+    /// Colours the dialog's surface and its static texts. Call before the dialog is created.
+    void SetBKColor(DWORD crColor);
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+    void OnCancel() override;
+
+    afx_msg void OnClose();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool Has(Option option) const { return (m_dwOption & option) != 0; }
+    void InitFullScreen();
+    CRect DragCandidate(CPoint point) const;
+
+    DWORD m_dwOption = 0;
+
+protected:
+    CString m_str; ///< For derived classes; not used here.
+
+private:
+    CPoint m_ptPress;
+    CRect m_rcDrag;      ///< The drag frame last drawn, on the screen.
+    COLORREF m_crBk = 0; ///< Meaningful with OptionBackgroundColor only.
+    CBrush m_brBk;
+};

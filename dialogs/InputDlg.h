@@ -1,0 +1,31 @@
+/// @file
+/// CInputDlg: asks for one line of text.
+#pragma once
+
+#include "controls/nDialog.h"
+
+/// A popup dialog with a message, one entry field, OK and cancel.
+///
+/// Message and caption are given as texts or as string resource ids, which are loaded at
+/// construction.
+class FIELDKIT_API CInputDlg : public CnDialog {
+public:
+    CInputDlg(int nMessageId, int nCaptionId, CWnd* pParent);
+    CInputDlg(const wchar_t* pszMessage, int nCaptionId, CWnd* pParent);
+    CInputDlg(int nMessageId, const wchar_t* pszCaption, CWnd* pParent);
+    CInputDlg(const wchar_t* pszMessage, const wchar_t* pszCaption, CWnd* pParent);
+
+    /// The text that the field shows at first. Call before DoModal.
+    void SetString(CString str);
+    /// The text entered, if DoModal gave IDOK; else what SetString was given.
+    CString GetString() const;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+
+private:
+    CString m_strMessage;
+    CString m_strCaption;
+    CString m_strValue;
+};

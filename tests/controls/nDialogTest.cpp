@@ -1,0 +1,329 @@
+#include "controls/nDialog.h"
+
+#include "support/DialogTemplate.h"
+#include "support/Leftovers.h"
+#include "support/ModalScript.h"
+
+namespace {
+
+constexpr int IDC_TEXT = 100;
+constexpr int IDC_EDIT = 101;
+constexpr COLORREF YELLOW = RGB(255, 255, 160);
+
+/// A dialog of 60 x 40 units with a static text, an edit field and an OK button.
+class Dialog : public CnDialog {
+public:
+    explicit Dialog(DWORD dwOption, CWnd* pOwner = nullptr) : CnDialog(0, pOwner) {
+        constexpr DWORD STYLE = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+        m_template = fx::DialogTemplate(60, 40, STYLE, L"題名");
+        m_template.Add(WC_STATIC, L"M", IDC_TEXT, SS_LEFT, 2, 2, 20, 10);
+        m_template.Add(WC_EDIT, L"", IDC_EDIT, WS_TABSTOP, 2, 14, 40, 10);
+        m_template.Add(WC_BUTTON, L"OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 2, 26, 30, 12);
+        InitModalIndirect(m_template.Get(), pOwner);
+        SetOption(dwOption);
+    }
+
+    CRect Rect() const {
+        CRect rect;
+        GetWindowRect(rect);
+        return rect;
+    }
+    bool HasOkButton() const { return (GetExStyle() & WS_EX_CAPTIONOKBTN) != 0; }
+    HWND Bar() const { return m_pWndEmptyCB != nullptr ? m_pWndEmptyCB->m_hWnd : nullptr; }
+
+private:
+    fx::DialogTemplate m_template;
+};
+
+CRect Screen() {
+    return CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+}
+
+/// Runs a look at the open dialog, then ends it.
+template <class Look>
+void WhileOpen(Dialog& dlg, Look look) {
+    fx::ModalScript script;
+    script.Then([] {}); // the loop shows the dialog when it is idle for the first time
+    script.Then([&] {
+        look();
+        dlg.EndDialog(IDOK);
+    });
+    script.Run([&] { return dlg.DoModal(); });
+}
+
+// --- What the option word decides --------------------------------------------------------
+
+TEST(nDialog, OptionsDecideScreenAndTitleBar) {
+    constexpr DWORD OK = CnDialog::OptionOkButton;
+    constexpr DWORD POPUP = CnDialog::OptionPopup;
+    constexpr DWORD NO_BAR = CnDialog::OptionNoCommandBar;
+    struct Row {
+        DWORD options;
+        bool full;
+        bool okButton;
+        bool bar;
+    };
+    const Row rows[] = {
+        {0, true, false, true},           {OK, true, true, true},
+        {POPUP, false, false, false},     {POPUP | OK, false, true, false},
+        {OK | NO_BAR, true, true, false}, {POPUP | NO_BAR, false, false, false},
+    };
+    for (const Row& row : rows) {
+        Dialog dlg(row.options);
+        WhileOpen(dlg, [&] {
+            EXPECT_EQ(dlg.Rect() == Screen(), row.full) << row.options;
+            EXPECT_EQ(dlg.HasOkButton(), row.okButton) << row.options;
+            EXPECT_EQ(dlg.Bar() != nullptr, row.bar) << row.options;
+            EXPECT_TRUE(dlg.IsWindowVisible()) << row.options;
+        });
+    }
+}
+
+TEST(nDialog, OptionsAddUpInAnyOrder) {
+    for (const bool bPopupFirst : {true, false}) {
+        Dialog dlg(bPopupFirst ? CnDialog::OptionPopup : CnDialog::OptionOkButton);
+        dlg.SetOption(bPopupFirst ? CnDialog::OptionOkButton : CnDialog::OptionPopup);
+        EXPECT_FALSE(dlg.m_bFullScreen) << "known before the window is made";
+        WhileOpen(dlg, [&] {
+            EXPECT_TRUE(dlg.HasOkButton());
+            EXPECT_NE(dlg.Rect(), Screen());
+        });
+    }
+}
+
+TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
+    Dialog dlg(CnDialog::OptionBarButtonSize);
+    WhileOpen(dlg, [&] {
+        CRect client;
+        dlg.GetClientRect(client);
+        EXPECT_EQ(client, CRect(0, 0, Screen().right, Screen().bottom - 26));
+        CRect bar;
+        ::GetWindowRect(dlg.Bar(), bar);
+        EXPECT_EQ(bar, CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
+        EXPECT_EQ(LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)), 32);
+        EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
+    });
+}
+
+TEST(nDialog, HiddenStaysHidden) {
+    for (const DWORD dwScreen : {0U, static_cast<unsigned>(CnDialog::OptionPopup)}) {
+        Dialog dlg(CnDialog::OptionHidden | dwScreen);
+        WhileOpen(dlg, [&] { EXPECT_FALSE(dlg.IsWindowVisible()); });
+    }
+}
+
+TEST(nDialog, TakesItsIconForBothSizes) {
+    Dialog dlg(CnDialog::OptionPopup);
+    dlg.m_hIcon = ::LoadIcon(nullptr, IDI_INFORMATION);
+    WhileOpen(dlg, [&] {
+        EXPECT_EQ(dlg.GetIcon(TRUE), dlg.m_hIcon);
+        EXPECT_EQ(dlg.GetIcon(FALSE), dlg.m_hIcon);
+    });
+}
+
+// --- Ending ------------------------------------------------------------------------------
+
+TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
+    struct Row {
+        DWORD option;
+        WORD key;
+        INT_PTR result;
+    };
+    const Row rows[] = {
+        {0, VK_RETURN, IDOK},
+        {0, VK_ESCAPE, IDCANCEL},
+        {CnDialog::OptionSwallowKeys, VK_RETURN, 77},
+        {CnDialog::OptionSwallowKeys, VK_ESCAPE, 77},
+    };
+    for (const Row& row : rows) {
+        Dialog dlg(CnDialog::OptionPopup | row.option);
+        fx::ModalScript script;
+        script.Then([&] { pen::TypeKeys({row.key}); });
+        int nWaited = 0;
+        if (row.result == 77)
+            script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.option << ' ' << row.key;
+    }
+}
+
+TEST(nDialog, TitleBarButtonsWorkWithThePen) {
+    struct Row {
+        const char* what;
+        DWORD options;
+        int fromRight; ///< Place of the tap in the title bar.
+        INT_PTR result;
+    };
+    const Row rows[] = {
+        {"OK, full screen", CnDialog::OptionOkButton, 45, IDOK},
+        {"close, full screen", CnDialog::OptionOkButton, 12, IDCANCEL},
+        {"close without OK", 0, 12, IDCANCEL},
+        {"OK, popup", CnDialog::OptionOkButton | CnDialog::OptionPopup, 45, IDOK},
+    };
+    for (const Row& row : rows) {
+        Dialog dlg(row.options);
+        fx::ModalScript script;
+        script.Then([&] { pen::Tap(CPoint(dlg.Rect().right - row.fromRight, dlg.Rect().top + 13)); });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.what;
+    }
+}
+
+TEST(nDialog, PenLiftedBesideTheOkButtonDoesNothing) {
+    Dialog dlg(CnDialog::OptionOkButton);
+    fx::ModalScript script;
+    script.Then([&] { pen::Drag(CPoint(dlg.Rect().right - 45, 13), CPoint(60, 100)); });
+    int nWaited = 0;
+    script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), 77);
+}
+
+TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
+    class Asking : public Dialog {
+    public:
+        using Dialog::Dialog;
+        void OnCancel() override {
+            ++m_nAsked;
+            if (m_nAsked == 2)
+                Dialog::OnCancel();
+        }
+        int m_nAsked = 0;
+    };
+    Asking dlg(CnDialog::OptionPopup);
+    fx::ModalScript script;
+    script.Then([&] { dlg.PostMessage(WM_CLOSE); });
+    script.Until([&] { return dlg.m_nAsked == 1; }).Then([&] { dlg.PostMessage(WM_CLOSE); });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dlg.m_nAsked, 2);
+}
+
+// --- Colour ------------------------------------------------------------------------------
+
+TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
+    Dialog dlg(CnDialog::OptionPopup);
+    dlg.SetBKColor(YELLOW);
+    WhileOpen(dlg, [&] {
+        dlg.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        const auto colorIn = [&](int nID) {
+            CRect rect;
+            dlg.GetDlgItem(nID)->GetClientRect(rect);
+            CClientDC dc(dlg.GetDlgItem(nID));
+            return dc.GetPixel(rect.right - 3, rect.bottom - 3);
+        };
+        CClientDC surface(&dlg);
+        CRect client;
+        dlg.GetClientRect(client);
+        EXPECT_EQ(surface.GetPixel(client.right - 2, client.bottom - 2), YELLOW);
+        EXPECT_EQ(colorIn(IDC_TEXT), YELLOW);
+        EXPECT_EQ(colorIn(IDC_EDIT), ::GetSysColor(COLOR_WINDOW));
+    });
+}
+
+// --- Dragging ----------------------------------------------------------------------------
+
+/// Sends a press, a move and a release, all as client points of the dialog as it stands.
+void DragBy(Dialog& dlg, CSize offset) {
+    const CPoint press(10, 10);
+    const CPoint end = press + offset;
+    dlg.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(press.x, press.y));
+    dlg.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(end.x, end.y));
+    dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(end.x, end.y));
+}
+
+TEST(nDialog, DragKeepsTheFrameInReach) {
+    struct Row {
+        const char* what;
+        CPoint from;
+        CPoint to;
+        CPoint stands;
+    };
+    const CSize size(140, 100);
+    const Row rows[] = {
+        {"free", {20, 40}, {60, 90}, {60, 90}},
+        {"top", {20, 40}, {20, 10}, {20, 26}},
+        {"top edge itself", {20, 40}, {20, 26}, {20, 26}},
+        {"bottom", {20, 40}, {20, 250}, {20, 194}},
+        {"left", {20, 40}, {-5, 40}, {0, 40}},
+        {"hanging out at the right stays", {20, 40}, {230, 40}, {230, 40}},
+        {"left edge on the border stays", {20, 40}, {240, 40}, {240, 40}},
+        {"gone at the right comes back whole", {20, 40}, {250, 40}, {100, 40}},
+    };
+    for (const Row& row : rows) {
+        Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
+        WhileOpen(dlg, [&] {
+            dlg.MoveWindow(CRect(row.from, size));
+            DragBy(dlg, row.to - row.from);
+            EXPECT_EQ(dlg.Rect(), CRect(row.stands, size)) << row.what;
+            EXPECT_NE(::GetCapture(), dlg.m_hWnd) << row.what;
+        });
+    }
+}
+
+TEST(nDialog, DialogWithAnOwnerLandsWhereItsFrameWas) {
+    fx::Frame owner(CSize(200, 200));
+    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &owner);
+    WhileOpen(dlg, [&] {
+        dlg.MoveWindow(20, 60, 140, 100);
+        DragBy(dlg, CSize(30, 40));
+        EXPECT_EQ(dlg.Rect(), CRect(CPoint(50, 100), CSize(140, 100)));
+    });
+}
+
+TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
+    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
+    CRect start;
+    const auto strip = [] { // the desktop at the left edge, which the frame crosses
+        CWindowDC screen(nullptr);
+        std::vector<COLORREF> colors;
+        for (int y = 0; y < Screen().bottom; ++y)
+            for (int x = 0; x < 40; x += 3)
+                colors.push_back(screen.GetPixel(x, y));
+        return colors;
+    };
+    std::vector<COLORREF> before;
+    std::vector<COLORREF> during;
+    fx::ModalScript script;
+    script.Then([&] { dlg.MoveWindow(60, 60, 140, 100); });
+    script.Then([&] {
+        start = dlg.Rect();
+        before = strip();
+        pen::Down(start.CenterPoint());
+        pen::Move(start.CenterPoint() + CSize(-30, 40));
+        pen::Move(start.CenterPoint() + CSize(-40, 60));
+    });
+    script.Then([&] {
+        during = strip();
+        pen::Up(start.CenterPoint() + CSize(-40, 60));
+    });
+    script.Until([&] { return dlg.Rect() != start; }).Then([&] {
+        EXPECT_EQ(dlg.Rect(), start + CPoint(-40, 60));
+        dlg.MoveWindow(start);
+    });
+    script.Then([&] {
+        EXPECT_NE(during, before) << "the frame shows";
+        EXPECT_EQ(strip(), before) << "and goes";
+        dlg.EndDialog(IDOK);
+    });
+    script.Run([&] { return dlg.DoModal(); });
+}
+
+TEST(nDialog, WithoutTheOptionNothingIsDragged) {
+    Dialog dlg(CnDialog::OptionPopup);
+    WhileOpen(dlg, [&] {
+        const CRect before = dlg.Rect();
+        DragBy(dlg, CSize(30, 40));
+        EXPECT_EQ(dlg.Rect(), before);
+    });
+}
+
+// --- Leaving nothing behind --------------------------------------------------------------
+
+TEST(nDialog, TwoHundredOpensLeaveNothing) {
+    for (const DWORD options : {0x20003UL, 0x30201UL}) {
+        fx::ExpectNothingLeft([&] {
+            Dialog dlg(options);
+            dlg.SetBKColor(YELLOW);
+            WhileOpen(dlg, [] {});
+        });
+    }
+}
+
+} // namespace

@@ -1,0 +1,129 @@
+// Counts what a program holds, to prove that opening and closing leaves nothing behind.
+#pragma once
+
+#include "FrameworkEnvironment.h"
+
+#include <winternl.h>
+
+#include <functional>
+
+namespace fx {
+
+struct Leftovers {
+    int nWindows = 0;
+    int nGdiObjects = 0;
+    int nHandles = 0;
+    size_t nHeapBytes = 0;
+
+    static Leftovers Now() {
+        Leftovers now;
+        ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&now.nWindows));
+        now.nGdiObjects = GdiObjects();
+        now.nHandles = Handles();
+        now.nHeapBytes = HeapBytes();
+        return now;
+    }
+
+private:
+    static BOOL CALLBACK CountWindow(HWND hWnd, LPARAM lParam) {
+        ++*reinterpret_cast<int*>(lParam);
+        ::EnumChildWindows(
+            hWnd,
+            [](HWND, LPARAM lCount) -> BOOL {
+                ++*reinterpret_cast<int*>(lCount);
+                return TRUE;
+            },
+            lParam);
+        return TRUE;
+    }
+
+    /// A function of the system's own library that has no import library.
+    template <class Fn>
+    static Fn Native(const char* pszName) {
+        const FARPROC pfn = ::GetProcAddress(::GetModuleHandle(L"ntdll.dll"), pszName);
+        return reinterpret_cast<Fn>(reinterpret_cast<void*>(pfn));
+    }
+
+    /// GetGuiResources knows nothing under Wine; the table that it would count does.
+    static int GdiObjects() {
+        struct Entry {
+            UINT64 object;
+            UINT owner;
+            BYTE generation;
+            BYTE type; ///< 0: free
+            BYTE flags[2];
+            UINT64 user;
+        };
+        constexpr size_t TABLE_IN_PEB = 0xF8; // 64-bit process
+        constexpr int ENTRIES = 0x4000;
+        using QueryFn = NTSTATUS(NTAPI*)(HANDLE, PROCESSINFOCLASS, PVOID, ULONG, PULONG);
+        PROCESS_BASIC_INFORMATION info = {};
+        Native<QueryFn>("NtQueryInformationProcess")(::GetCurrentProcess(), ProcessBasicInformation, &info,
+                                                     sizeof info, nullptr);
+        const auto* pPeb = reinterpret_cast<const BYTE*>(info.PebBaseAddress);
+        const Entry* pTable = *reinterpret_cast<Entry* const*>(pPeb + TABLE_IN_PEB);
+        int nCount = 0;
+        for (int i = 0; i < ENTRIES; ++i)
+            nCount += pTable[i].type != 0;
+        return nCount;
+    }
+
+    /// GetProcessHandleCount says 0 under Wine; the list of all handles is right.
+    static int Handles() {
+        struct Handle {
+            USHORT process;
+            USHORT trace;
+            BYTE rest[20];
+        };
+        struct List {
+            ULONG nCount;
+            Handle handles[1];
+        };
+        constexpr ULONG SYSTEM_HANDLES = 16;
+        using QueryFn = NTSTATUS(NTAPI*)(ULONG, PVOID, ULONG, PULONG);
+        std::vector<BYTE> memory(1 << 20);
+        Native<QueryFn>("NtQuerySystemInformation")(SYSTEM_HANDLES, memory.data(),
+                                                    static_cast<ULONG>(memory.size()), nullptr);
+        const auto* pList = reinterpret_cast<const List*>(memory.data());
+        int nCount = 0;
+        for (ULONG i = 0; i < pList->nCount; ++i)
+            nCount += pList->handles[i].process == ::GetCurrentProcessId();
+        return nCount;
+    }
+
+    static size_t HeapBytes() {
+        HANDLE heaps[64];
+        const DWORD nHeaps = ::GetProcessHeaps(64, heaps);
+        size_t nBytes = 0;
+        for (DWORD i = 0; i < nHeaps; ++i) {
+            PROCESS_HEAP_ENTRY entry = {};
+            ::HeapLock(heaps[i]);
+            while (::HeapWalk(heaps[i], &entry))
+                if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                    nBytes += entry.cbData;
+            ::HeapUnlock(heaps[i]);
+        }
+        return nBytes;
+    }
+};
+
+/// Runs something that opens and closes a dialog 200 times and expects to find everything
+/// as it was. The first runs fill caches of the system, so that they do not count.
+inline void ExpectNothingLeft(const std::function<void()>& openAndClose) {
+    constexpr int WARM_UP = 20;
+    constexpr int OPENS = 200;
+    // A leaked string or window object would be more than this for each open.
+    constexpr size_t HEAP_SLACK = OPENS * 32;
+    for (int i = 0; i < WARM_UP; ++i)
+        openAndClose();
+    const Leftovers before = Leftovers::Now();
+    for (int i = 0; i < OPENS; ++i)
+        openAndClose();
+    const Leftovers after = Leftovers::Now();
+    EXPECT_EQ(after.nWindows, before.nWindows);
+    EXPECT_EQ(after.nGdiObjects, before.nGdiObjects);
+    EXPECT_EQ(after.nHandles, before.nHandles);
+    EXPECT_LE(after.nHeapBytes, before.nHeapBytes + HEAP_SLACK);
+}
+
+} // namespace fx
