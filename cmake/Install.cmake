@@ -3,7 +3,11 @@ include(CMakePackageConfigHelpers)
 
 set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Fieldkit)
 
-install(TARGETS framework companion fieldkit EXPORT FieldkitTargets
+set(_installed framework companion fieldkit)
+if(WIN32)
+  list(APPEND _installed winmain)
+endif()
+install(TARGETS ${_installed} EXPORT FieldkitTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
