@@ -16,7 +16,6 @@ begin() {
     export HOME=$build/home TMPDIR=$build/tmp LC_ALL=C.UTF-8
     export XDG_CACHE_HOME=$HOME/.cache XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share
     export XDG_RUNTIME_DIR=$HOME
-    unset XAUTHORITY
     cd "$root"
 }
 

@@ -7,17 +7,27 @@ app_pid=
 pen_pause=0.05
 
 run_demo() {
-    local scenario=$root/samples/fieldbook/demo.sh
-    if [[ ! -f $scenario ]]; then
-        echo 'the sample application has no scenario yet: nothing to show'
-        return
-    fi
     build_sample
+    if [[ -n ${DISPLAY:-} ]]; then
+        show_sample
+    else
+        drive_sample
+    fi
+}
+
+show_sample() {
+    close_when_over
+    open_wine
+    echo 'the fieldbook is on your screen; close it with its X to end'
+    in_wine wine "$build/fieldbook/fieldbook.exe" >"$build/demo.log" 2>&1 </dev/null
+}
+
+drive_sample() {
     open_screen
     rm -rf "$demo_shots"
     mkdir -p "$demo_shots"
     # shellcheck source=/dev/null
-    source "$scenario"
+    source "$root/samples/fieldbook/demo.sh"
     stop_app
     printf 'pictures in %s\n' "${demo_shots#"$root"/}"
 }
@@ -28,7 +38,7 @@ build_sample() {
     logged install cmake --install "$build/win64"
     logged configure-fieldbook cmake -S "$root/samples/fieldbook" -B "$build/fieldbook" -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
-        -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release
+        -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release -DFIELDBOOK_TESTS=ON
     logged build-fieldbook ninja -C "$build/fieldbook" -j"$(nproc)"
 }
 

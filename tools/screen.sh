@@ -7,12 +7,10 @@ system_font=/usr/share/wine/fonts/vgasys.fon
 screen_pid=
 wine_started=
 
-# A run always has a screen of its own, also on a desktop: the same size and
-# depth everywhere, and no window manager that places the windows.
+# A screen of the run's own, also on a desktop: the same size and depth
+# everywhere, and no window manager that places the windows.
 open_screen() {
-    trap close_screen EXIT
-    trap 'exit 130' INT
-    trap 'exit 143' TERM HUP
+    close_when_over
     local number=$build/display
     : >"$number"
     Xvfb -displayfd 3 -screen 0 "${screen_size}x24" -nolisten tcp -noreset \
@@ -21,7 +19,18 @@ open_screen() {
     wait_until 20 screen_is_up "$number" || die "Xvfb did not start, see build/xvfb.log"
     DISPLAY=:$(<"$number")
     export DISPLAY
+    unset XAUTHORITY
+    open_wine
+}
 
+close_when_over() {
+    trap close_screen EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM HUP
+}
+
+# Wine on the display in use; the prefix opens a desktop of the device's size there.
+open_wine() {
     export WINEPREFIX=$prefix WINEDEBUG=-all
     export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
     wine_started=yes

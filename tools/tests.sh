@@ -5,7 +5,7 @@ test_timeout=300
 passed=0
 failed=0
 
-# run_tests NAME: every program whose name contains NAME.
+# run_tests NAME: every program whose name contains NAME, the sample's too.
 run_tests() {
     local preset program found=
     for preset in "${presets[@]}"; do
@@ -14,6 +14,11 @@ run_tests() {
             found=yes
             run_test_program "$preset" "$program"
         done
+    done
+    for program in "$build"/fieldbook/tests/test_*"$1"*.exe; do
+        [[ -x $program ]] || continue
+        found=yes
+        run_test_program sample "$program"
     done
     [[ -n $found ]] || die "no test program matches \"$1\""
     printf '%d passed, %d failed\n' "$passed" "$failed"
@@ -62,7 +67,7 @@ start_test() {
     case $preset in
     host) timeout -k 5 "$test_timeout" "$@" ;;
     arm) timeout -k 5 "$test_timeout" qemu-arm -L /usr/arm-linux-gnueabi "$@" ;;
-    win64) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
+    win64 | sample) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
     esac
 }
 

@@ -24,7 +24,7 @@ END_MESSAGE_MAP()
 // clang-format on
 
 CMainDlg::CMainDlg(const CString& strPath)
-    : CnDialog(IDD_MAIN, nullptr), m_strPath(strPath), m_questions(*this, m_book) {
+    : CnDialog(IDD_MAIN, nullptr), m_strPath(strPath), m_journal(strPath), m_questions(*this, m_book) {
     // A main window that a stray Enter or Escape closes would be a nuisance.
     SetOption(OptionSwallowKeys);
 }
@@ -70,7 +70,7 @@ void CMainDlg::OnLines() {
     if (!m_questions.AskPoint(IDS_LINE1_START, a1) || !m_questions.AskPoint(IDS_LINE1_END, a2) ||
         !m_questions.AskPoint(IDS_LINE2_START, b1) || !m_questions.AskPoint(IDS_LINE2_END, b2))
         return;
-    ShowResult(*this, IDS_LINES, IDS_INTERSECTION, IntersectLines(a1, a2, b1, b2));
+    ShowResult(*this, m_journal, IDS_LINES, IDS_INTERSECTION, IntersectLines(a1, a2, b1, b2));
 }
 
 void CMainDlg::OnLineCircle() {
@@ -81,7 +81,8 @@ void CMainDlg::OnLineCircle() {
         !m_questions.AskPoint(IDS_CIRCLE_CENTRE, centre) ||
         !m_questions.AskRadius(IDS_CIRCLE_RADIUS, dRadius))
         return;
-    ShowResult(*this, IDS_LINE_CIRCLE, IDS_INTERSECTION, IntersectLineCircle(p1, p2, centre, dRadius));
+    ShowResult(*this, m_journal, IDS_LINE_CIRCLE, IDS_INTERSECTION,
+               IntersectLineCircle(p1, p2, centre, dRadius));
 }
 
 void CMainDlg::OnCircles() {
@@ -93,7 +94,7 @@ void CMainDlg::OnCircles() {
         !m_questions.AskRadius(IDS_CIRCLE1_RADIUS, dRadius1) ||
         !m_questions.AskPoint(IDS_CIRCLE2_CENTRE, c2) || !m_questions.AskRadius(IDS_CIRCLE2_RADIUS, dRadius2))
         return;
-    ShowResult(*this, IDS_CIRCLES, IDS_INTERSECTION, IntersectCircles(c1, dRadius1, c2, dRadius2));
+    ShowResult(*this, m_journal, IDS_CIRCLES, IDS_INTERSECTION, IntersectCircles(c1, dRadius1, c2, dRadius2));
 }
 
 void CMainDlg::OnArcCentre() {
@@ -107,7 +108,7 @@ void CMainDlg::OnArcCentre() {
     std::vector<CString> notes;
     if (result.verdict == Verdict::Found)
         notes.push_back(Text(IDS_RADIUS_LINE, Distance(result.points[0], start)));
-    ShowResult(*this, IDS_ARC_CENTRE, IDS_CENTRE, result, notes);
+    ShowResult(*this, m_journal, IDS_ARC_CENTRE, IDS_CENTRE, result, notes);
 }
 
 void CMainDlg::OnTangents() {
@@ -122,7 +123,7 @@ void CMainDlg::OnTangents() {
     constexpr double RADIUS_LIMIT = 0.010; // metres
     if (std::fabs(dStart - dEnd) > RADIUS_LIMIT)
         notes.push_back(Text(IDS_RADII_DIFFER));
-    ShowResult(*this, IDS_TANGENTS, IDS_CORNER, FindTangentCorners(start, centre, end), notes);
+    ShowResult(*this, m_journal, IDS_TANGENTS, IDS_CORNER, FindTangentCorners(start, centre, end), notes);
 }
 
 void CMainDlg::OnPointList() {

@@ -4,6 +4,7 @@
 
 #include "controls/nDialog.h"
 
+#include "Journal.h"
 #include "PointFile.h"
 #include "Questions.h"
 
@@ -35,5 +36,6 @@ private:
     CString m_strPath;
     CPointBook m_book;
     std::vector<CBadLine> m_badLines;
+    CJournal m_journal;
     CQuestions m_questions;
 };

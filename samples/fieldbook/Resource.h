@@ -77,3 +77,4 @@
 #define IDS_NO_HEIGHT 2306
 #define IDS_HEIGHT 2307
 #define IDS_NO_FILE 2308
+#define IDS_NO_JOURNAL 2309

@@ -14,33 +14,40 @@ UINT TextId(UINT nFirstId, Enum first, Enum value) {
     return nFirstId + static_cast<UINT>(value) - static_cast<UINT>(first);
 }
 
-void AddPoints(CResultDlg& dialog, UINT nPointId, const std::vector<CCoordinate>& points) {
+/// The points as lines; several are numbered.
+std::vector<CString> PointLines(UINT nPointId, const std::vector<CCoordinate>& points) {
     const CString strPoint = Text(nPointId);
+    std::vector<CString> lines;
     int nNumber = 0;
     for (const CCoordinate& point : points) {
         ++nNumber;
         CString strHeading = strPoint;
         if (points.size() > 1)
             strHeading.AppendFormat(L"%d", nNumber);
-        dialog.AddString(strHeading);
-        dialog.AddString(L"  N  " + point.GetNString());
-        dialog.AddString(L"  E  " + point.GetEString());
+        lines.push_back(strHeading);
+        lines.push_back(L"  N  " + point.GetNString());
+        lines.push_back(L"  E  " + point.GetEString());
     }
+    return lines;
 }
 
 } // namespace
 
-void ShowResult(CWnd& parent, UINT nTitleId, UINT nPointId, const CResult& result,
+void ShowResult(CWnd& parent, CJournal& journal, UINT nTitleId, UINT nPointId, const CResult& result,
                 const std::vector<CString>& notes) {
     const bool bFound = result.verdict == Verdict::Found;
+    std::vector<CString> lines = PointLines(nPointId, result.points);
+    if (!bFound)
+        lines.push_back(Text(TextId(IDS_VERDICT_FIRST, Verdict::SamePoint, result.verdict)));
+    lines.insert(lines.end(), notes.begin(), notes.end());
+
+    const CString strTitle = Text(nTitleId);
+    journal.Append(strTitle, lines);
     const CString strMessage =
         bFound ? Text(IDS_FOUND, static_cast<int>(result.points.size())) : Text(IDS_NOT_FOUND);
-    CResultDlg dialog(strMessage, Text(nTitleId), &parent);
-    if (!bFound)
-        dialog.AddString(Text(TextId(IDS_VERDICT_FIRST, Verdict::SamePoint, result.verdict)));
-    AddPoints(dialog, nPointId, result.points);
-    for (const CString& strNote : notes)
-        dialog.AddString(strNote);
+    CResultDlg dialog(strMessage, strTitle, &parent);
+    for (const CString& strLine : lines)
+        dialog.AddString(strLine);
     dialog.DoModal();
 }
 

@@ -3,6 +3,7 @@
 # points and what must come out are in data/README.md.
 
 fieldbook=$build/fieldbook/fieldbook.exe
+journal=$build/fieldbook/points_results.txt
 
 # Buttons of the main screen, from the top.
 lines=(120 69)
@@ -27,6 +28,7 @@ answer() {
     done
 }
 
+rm -f "$journal"
 start_app "$fieldbook"
 wait_window 野帳
 shot 01-main
@@ -93,6 +95,12 @@ tap 196 13 # the OK button of the title bar
 key Escape # must not close a main window
 tap "${close_button[@]}"
 wait_exit
+
+# The journal holds what the dialogs showed, in the device's code page.
+iconv -f CP932 -t UTF-8 "$journal" | tr -d '\r' >"$build/demo/results.txt"
+cat "$build/demo/results.txt"
+diff "$root/samples/fieldbook/demo-results.txt" "$build/demo/results.txt" ||
+    die 'the computed coordinates are not the expected ones'
 
 start_app "$fieldbook" "Z:${root//\//\\}\\samples\\fieldbook\\data\\points_bad.csv"
 wait_window 読み込みの結果

@@ -1,0 +1,31 @@
+#include "Journal.h"
+
+#include "Resource.h"
+#include "Text.h"
+#include "util/AsciiFile.h"
+
+CJournal::CJournal(const CString& strPointsPath) {
+    const int nDot = strPointsPath.ReverseFind(L'.');
+    const int nSlash = strPointsPath.ReverseFind(L'\\');
+    m_strPath = (nDot > nSlash ? strPointsPath.Left(nDot) : strPointsPath) + L"_results.txt";
+}
+
+void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines) {
+    if (!m_bWritable)
+        return;
+    try {
+        CAsciiFile file;
+        CFileException error;
+        if (!file.Open(m_strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite, &error))
+            AfxThrowFileException(error.m_cause, error.m_lOsError, m_strPath);
+        file.SeekToEnd();
+        file.WriteString(strTitle);
+        for (const CString& strLine : lines)
+            file.WriteString(strLine);
+        file.Close();
+    } catch (CFileException* e) {
+        e->Delete();
+        m_bWritable = false;
+        AfxMessageBox(Text(IDS_NO_JOURNAL));
+    }
+}

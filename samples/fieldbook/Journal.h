@@ -1,0 +1,20 @@
+// The journal of the day: every result shown, kept in a text file beside the points.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+class CJournal {
+public:
+    /// @param strPointsPath the points file; the journal gets its name with "_results.txt"
+    explicit CJournal(const CString& strPointsPath);
+
+    /// Appends a title and its lines. A journal that cannot be written is told once and then
+    /// left alone: the results themselves are on the screen.
+    void Append(const CString& strTitle, const std::vector<CString>& lines);
+
+private:
+    CString m_strPath;
+    bool m_bWritable = true;
+};
