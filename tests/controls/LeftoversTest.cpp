@@ -7,7 +7,7 @@
 namespace {
 
 TEST(Leftovers, CountWhatIsHeld) {
-    { const fx::Frame first; } // the first window of a thread brings one of the input method along
+    const fx::Frame first; // the first window of a thread brings one of the input method along
     const fx::Leftovers before = fx::Leftovers::Now();
     {
         const fx::Frame frame;

@@ -82,4 +82,6 @@ inline std::string Utf8(const CString& str) {
 } // namespace fx
 
 /// Failed comparisons of CString print the text, not the bytes of the object.
-inline void PrintTo(const CString& str, std::ostream* os) { *os << '"' << fx::Utf8(str) << '"'; }
+inline void PrintTo(const CString& str, std::ostream* os) {
+    *os << '"' << fx::Utf8(str) << '"';
+}

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "FrameworkEnvironment.h"
-
-#include <winternl.h>
+#include "GdiHandles.h"
 
 #include <functional>
 
@@ -18,7 +17,7 @@ struct Leftovers {
     static Leftovers Now() {
         Leftovers now;
         ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&now.nWindows));
-        now.nGdiObjects = GdiObjects();
+        now.nGdiObjects = CountGdiHandles();
         now.nHandles = Handles();
         now.nHeapBytes = HeapBytes();
         return now;
@@ -44,36 +43,15 @@ private:
         return reinterpret_cast<Fn>(reinterpret_cast<void*>(pfn));
     }
 
-    /// GetGuiResources knows nothing under Wine; the table that it would count does.
-    static int GdiObjects() {
-        struct Entry {
-            UINT64 object;
-            UINT owner;
-            BYTE generation;
-            BYTE type; ///< 0: free
-            BYTE flags[2];
-            UINT64 user;
-        };
-        constexpr size_t TABLE_IN_PEB = 0xF8; // 64-bit process
-        constexpr int ENTRIES = 0x4000;
-        using QueryFn = NTSTATUS(NTAPI*)(HANDLE, PROCESSINFOCLASS, PVOID, ULONG, PULONG);
-        PROCESS_BASIC_INFORMATION info = {};
-        Native<QueryFn>("NtQueryInformationProcess")(::GetCurrentProcess(), ProcessBasicInformation, &info,
-                                                     sizeof info, nullptr);
-        const auto* pPeb = reinterpret_cast<const BYTE*>(info.PebBaseAddress);
-        const Entry* pTable = *reinterpret_cast<Entry* const*>(pPeb + TABLE_IN_PEB);
-        int nCount = 0;
-        for (int i = 0; i < ENTRIES; ++i)
-            nCount += pTable[i].type != 0;
-        return nCount;
-    }
-
     /// GetProcessHandleCount says 0 under Wine; the list of all handles is right.
     static int Handles() {
         struct Handle {
-            USHORT process;
-            USHORT trace;
-            BYTE rest[20];
+            ULONG nProcess;
+            BYTE type;
+            BYTE flags;
+            USHORT value;
+            void* pObject;
+            ULONG access;
         };
         struct List {
             ULONG nCount;
@@ -87,7 +65,7 @@ private:
         const auto* pList = reinterpret_cast<const List*>(memory.data());
         int nCount = 0;
         for (ULONG i = 0; i < pList->nCount; ++i)
-            nCount += pList->handles[i].process == ::GetCurrentProcessId();
+            nCount += LOWORD(pList->handles[i].nProcess) == LOWORD(::GetCurrentProcessId());
         return nCount;
     }
 

@@ -1,0 +1,245 @@
+// Dialog data exchange and validation.
+#include "ExchangeForm.h"
+
+#include <limits>
+
+namespace {
+
+using namespace fx; // the form's identifiers
+
+class DataExchange : public testing::Test {
+protected:
+    ExchangeForm m_form;
+    MessageRecorder m_recorder;
+};
+
+// --- Refusal ----------------------------------------------------------------------------------
+
+TEST_F(DataExchange, RefusalPutsTheFocusIntoTheFieldWithItsTextSelected) {
+    int nFirst = 0;
+    int nSecond = 7;
+    m_form.m_exchange = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, ID_FIRST, nFirst);
+        DDX_Text(pDX, ID_SECOND, nSecond);
+    };
+    m_form.m_first.SetWindowText(L"1");
+    m_form.m_second.SetWindowText(L"two");
+    m_form.m_first.SetFocus();
+    EXPECT_FALSE(m_form.UpdateData());
+    EXPECT_EQ(nFirst, 1) << "fields before the refused one have been read";
+    EXPECT_EQ(nSecond, 7);
+    EXPECT_EQ(::GetFocus(), m_form.m_second.m_hWnd);
+    EXPECT_EQ(m_form.m_second.GetSel(), static_cast<DWORD>(MAKELONG(0, 3)));
+}
+
+TEST_F(DataExchange, MissingControlIsAnErrorNotACrash) {
+    int nValue = 3;
+    CEdit edit;
+    const std::function<void(CDataExchange*)> exchanges[] = {
+        [&](CDataExchange* pDX) { DDX_Text(pDX, 999, nValue); },
+        [&](CDataExchange* pDX) { DDX_Control(pDX, 999, edit); },
+    };
+    for (const auto& exchange : exchanges) {
+        m_form.m_exchange = exchange;
+        m_recorder.m_prompts.clear();
+        EXPECT_FALSE(m_form.UpdateData(FALSE));
+        EXPECT_EQ(m_recorder.m_prompts.size(), 1U);
+    }
+    EXPECT_EQ(edit.m_hWnd, nullptr);
+}
+
+// --- Text -------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
+    CString strValue = L"東京 100";
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, ID_FIRST, strValue); };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(m_form.TextOf(m_form.m_first), strValue);
+    m_form.m_first.SetSel(2, 2);
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(m_form.m_first.GetSel(), static_cast<DWORD>(MAKELONG(2, 2)));
+    m_form.m_first.SetWindowText(L"");
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_TRUE(strValue.IsEmpty());
+}
+
+class Listening : public ExchangeForm {
+public:
+    int m_nChanges = 0;
+
+protected:
+    afx_msg void OnChange() { ++m_nChanges; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Listening, ExchangeForm)
+ON_EN_CHANGE(ID_FIRST, &Listening::OnChange)
+END_MESSAGE_MAP()
+
+TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
+    Listening form;
+    CString strValue = L"written";
+    form.m_exchange = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, ID_FIRST, strValue);
+        EXPECT_FALSE(form.UpdateData()) << "an exchange inside of an exchange";
+    };
+    EXPECT_TRUE(form.UpdateData(FALSE));
+    EXPECT_EQ(form.m_nChanges, 0);
+    form.m_first.SendMessage(WM_CHAR, L'x', 1);
+    EXPECT_EQ(form.m_nChanges, 1);
+}
+
+// --- Buttons and lists --------------------------------------------------------------------------
+
+TEST_F(DataExchange, CheckBoxHasThreeStates) {
+    int nValue = 0;
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Check(pDX, ID_CHECK, nValue); };
+    for (const auto& [nSet, nShown] : {std::pair{1, 1}, {2, 2}, {0, 0}, {3, 0}, {-1, 0}}) {
+        nValue = nSet;
+        EXPECT_TRUE(m_form.UpdateData(FALSE));
+        EXPECT_EQ(m_form.m_check.GetCheck(), nShown) << nSet;
+        EXPECT_TRUE(m_form.UpdateData());
+        EXPECT_EQ(nValue, nShown) << nSet;
+    }
+}
+
+TEST_F(DataExchange, RadioButtonsCountWithinTheirGroup) {
+    int nValue = -1;
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, ID_RADIO, nValue); };
+    m_form.m_radio[3].SetCheck(BST_CHECKED);
+    for (const int nSet : {2, 0, -1}) {
+        nValue = nSet;
+        EXPECT_TRUE(m_form.UpdateData(FALSE));
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(m_form.m_radio[i].GetCheck(), i == nSet) << i;
+        nValue = 55;
+        EXPECT_TRUE(m_form.UpdateData());
+        EXPECT_EQ(nValue, nSet);
+    }
+    EXPECT_EQ(m_form.m_radio[3].GetCheck(), BST_CHECKED) << "another group's";
+}
+
+TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
+    int nList = 1;
+    int nCombo = 2;
+    m_form.m_exchange = [&](CDataExchange* pDX) {
+        DDX_LBIndex(pDX, ID_LIST, nList);
+        DDX_CBIndex(pDX, ID_DROPLIST, nCombo);
+    };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(m_form.m_list.GetCurSel(), 1);
+    EXPECT_EQ(m_form.m_dropList.GetCurSel(), 2);
+    m_form.m_list.SetCurSel(-1);
+    m_form.m_dropList.SetCurSel(0);
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(nList, -1);
+    EXPECT_EQ(nCombo, 0);
+
+    CString strList = L"be";
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_LBString(pDX, ID_LIST, strList); };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(strList, L"Beta");
+    m_form.m_list.SetCurSel(-1);
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_TRUE(strList.IsEmpty());
+}
+
+TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
+    CString strValue;
+    int nID = 0;
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_CBString(pDX, nID, strValue); };
+    const struct {
+        int nID;
+        LPCTSTR pszValue;
+        LPCTSTR pszBack;
+        int nSelected;
+    } cases[] = {
+        {ID_COMBO, L"Beta", L"Beta", 2},
+        {ID_COMBO, L"free text", L"free text", -1},
+        {ID_COMBO, L"Al", L"Al", -1},
+        {ID_COMBO, L"", L"", -1},
+        {ID_DROPLIST, L"Beta", L"Beta", 2},
+        {ID_DROPLIST, L"alphab", L"alphabet", 1},
+        {ID_DROPLIST, L"Alpha", L"Alpha", 0},
+        {ID_COMBO, L"BETA", L"BETA", 2}, // found without regard to case, shown as given
+    };
+    for (const auto& c : cases) {
+        nID = c.nID;
+        strValue = c.pszValue;
+        m_form.m_combo.SetCurSel(-1);
+        EXPECT_TRUE(m_form.UpdateData(FALSE));
+        EXPECT_EQ((nID == ID_COMBO ? m_form.m_combo : m_form.m_dropList).GetCurSel(), c.nSelected)
+            << Utf8(c.pszValue);
+        EXPECT_TRUE(m_form.UpdateData());
+        EXPECT_EQ(strValue, c.pszBack);
+    }
+}
+
+TEST_F(DataExchange, ControlIsAttachedOnce) {
+    m_form.m_first.UnsubclassWindow();
+    CEdit edit;
+    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Control(pDX, ID_FIRST, edit); };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(edit.GetDlgCtrlID(), ID_FIRST);
+    EXPECT_EQ(CWnd::FromHandlePermanent(edit), &edit);
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_TRUE(m_form.UpdateData());
+}
+
+// --- Rules --------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
+    const struct {
+        std::function<void(CDataExchange*)> check;
+        LPCTSTR pszPrompt; ///< Null if it passes.
+    } cases[] = {
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, -3, -3, 8); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, 8, -3, 8); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, 9, -3, 8); }, L"-3 から 8 までの整数を入力してください。"},
+        {[](CDataExchange* p) { DDV_MinMaxLong(p, -4, -3, 8); }, L"-3 から 8 までの整数を入力してください。"},
+        {[](CDataExchange* p) { DDV_MinMaxUInt(p, 4000000000U, 1, 5); },
+         L"1 から 5 までの整数を入力してください。"},
+        {[](CDataExchange* p) { DDV_MinMaxDWord(p, 4000000000U, 1, 4294967295U); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxDouble(p, 1.5, 1.5, 2); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxDouble(p, 1.4, 1.5, 2); },
+         L"1.5 から 2 までの数値を入力してください。"},
+        {[](CDataExchange* p) { DDV_MinMaxDouble(p, std::numeric_limits<double>::quiet_NaN(), 0, 1); },
+         L"0 から 1 までの数値を入力してください。"},
+        {[](CDataExchange* p) { DDV_MinMaxFloat(p, 2.5F, 0, 2); },
+         L"0 から 2 までの数値を入力してください。"},
+        {[](CDataExchange* p) { DDV_MaxChars(p, L"三文字", 3); }, nullptr},
+        {[](CDataExchange* p) { DDV_MaxChars(p, L"abcd", 3); }, L"3 文字以内で入力してください。"},
+    };
+    for (size_t i = 0; i < std::size(cases); ++i) {
+        m_form.m_exchange = [&](CDataExchange* pDX) {
+            CString strText;
+            DDX_Text(pDX, ID_FIRST, strText);
+            cases[i].check(pDX);
+        };
+        m_recorder.m_prompts.clear();
+        const auto expected =
+            cases[i].pszPrompt != nullptr ? std::vector<CString>{cases[i].pszPrompt} : std::vector<CString>{};
+        EXPECT_EQ(m_form.UpdateData() == FALSE, cases[i].pszPrompt != nullptr) << i;
+        EXPECT_EQ(m_recorder.m_prompts, expected) << i;
+        EXPECT_TRUE(m_form.UpdateData(FALSE)) << i << ": what the program itself shows is not refused";
+    }
+}
+
+TEST_F(DataExchange, LongestTextAlsoLimitsTyping) {
+    CString strEdit;
+    CString strCombo;
+    m_form.m_exchange = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, ID_FIRST, strEdit);
+        DDV_MaxChars(pDX, strEdit, 4);
+        DDX_CBString(pDX, ID_COMBO, strCombo);
+        DDV_MaxChars(pDX, strCombo, 2);
+    };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(m_form.m_first.GetLimitText(), 4U);
+    COMBOBOXINFO info = {};
+    ASSERT_TRUE(m_form.m_combo.GetComboBoxInfo(&info));
+    EXPECT_EQ(::SendMessage(info.hwndItem, EM_GETLIMITTEXT, 0, 0), 2);
+}
+
+} // namespace

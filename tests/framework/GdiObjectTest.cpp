@@ -1,0 +1,148 @@
+// Pens, brushes, fonts, bitmaps, regions: what they create and who deletes it.
+#include "Canvas.h"
+#include "support/GdiHandles.h"
+
+namespace {
+
+bool Exists(HGDIOBJ hObject) {
+    return ::GetObjectType(hObject) != 0;
+}
+
+TEST(GdiObject, OwnerDeletesItsHandleAndAForeignOneStays) {
+    HBRUSH hOwned = nullptr;
+    const HBRUSH hForeign = ::CreateSolidBrush(RGB(4, 5, 6));
+    {
+        CBrush brush(RGB(1, 2, 3));
+        hOwned = brush;
+        CBrush::FromHandle(hForeign);
+        CGdiObject::DeleteTempMap();
+    }
+    EXPECT_FALSE(Exists(hOwned));
+    EXPECT_TRUE(Exists(hForeign));
+    ::DeleteObject(hForeign);
+}
+
+TEST(GdiObject, HandleHasOneObjectOfTheClassThatFits) {
+    CBrush brush(RGB(1, 2, 3));
+    EXPECT_EQ(CBrush::FromHandle(brush), &brush);
+    EXPECT_EQ(CGdiObject::FromHandle(brush.m_hObject), &brush);
+    EXPECT_EQ(CBrush::FromHandle(nullptr), nullptr);
+
+    const HPEN hPen = ::CreatePen(PS_SOLID, 1, 0);
+    CGdiObject* const pObject = CGdiObject::FromHandle(hPen);
+    EXPECT_TRUE(pObject->IsKindOf(RUNTIME_CLASS(CPen)));
+    EXPECT_EQ(CPen::FromHandle(hPen), pObject);
+    EXPECT_TRUE(pObject->DeleteObject());
+    EXPECT_FALSE(Exists(hPen));
+    CGdiObject::DeleteTempMap();
+}
+
+TEST(GdiObject, CreatingAgainDeletesWhatWasThere) {
+    CPen pen(PS_SOLID, 1, RGB(9, 9, 9));
+    const HPEN hFirst = pen;
+    ASSERT_TRUE(pen.CreatePen(PS_DASH, 1, RGB(8, 8, 8)));
+    EXPECT_FALSE(Exists(hFirst));
+    const HPEN hSecond = pen;
+    EXPECT_EQ(pen.Detach(), hSecond);
+    EXPECT_EQ(pen.Detach(), nullptr);
+    EXPECT_FALSE(pen.DeleteObject());
+    EXPECT_TRUE(::DeleteObject(hSecond)) << "given up, so still there";
+    EXPECT_FALSE(pen.Attach(nullptr));
+}
+
+TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {
+    CBrush last;
+    {
+        CBrush first;
+        ASSERT_TRUE(first.CreateStockObject(GRAY_BRUSH));
+        ASSERT_TRUE(last.CreateStockObject(GRAY_BRUSH));
+        EXPECT_EQ(first, last);
+    }
+    EXPECT_EQ(CBrush::FromHandle(last), &last);
+    LOGBRUSH logBrush = {};
+    EXPECT_NE(last.GetLogBrush(&logBrush), 0);
+    EXPECT_EQ(logBrush.lbColor, RGB(128, 128, 128));
+}
+
+TEST(GdiObject, CreatesWhatItIsAskedFor) {
+    CPen pen(PS_DOT, 1, RGB(10, 20, 30));
+    LOGPEN logPen = {};
+    ASSERT_NE(pen.GetLogPen(&logPen), 0);
+    EXPECT_EQ(logPen.lopnStyle, static_cast<UINT>(PS_DOT));
+    EXPECT_EQ(logPen.lopnColor, RGB(10, 20, 30));
+
+    LOGBRUSH logBrush = {};
+    CBrush hatch(HS_CROSS, RGB(1, 1, 1));
+    ASSERT_NE(hatch.GetLogBrush(&logBrush), 0);
+    EXPECT_EQ(logBrush.lbStyle, static_cast<UINT>(BS_HATCHED));
+    CBrush system;
+    ASSERT_TRUE(system.CreateSysColorBrush(COLOR_HIGHLIGHT));
+    ASSERT_NE(system.GetLogBrush(&logBrush), 0);
+    EXPECT_EQ(logBrush.lbColor, ::GetSysColor(COLOR_HIGHLIGHT));
+
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(16, 8, 1, 1, nullptr));
+    BITMAP info = {};
+    ASSERT_NE(bitmap.GetBitmap(&info), 0);
+    EXPECT_EQ(CSize(info.bmWidth, info.bmHeight), CSize(16, 8));
+    CBrush pattern(&bitmap);
+    EXPECT_EQ(::GetObjectType(pattern), static_cast<DWORD>(OBJ_BRUSH));
+    EXPECT_FALSE(pattern.CreatePatternBrush(nullptr));
+    EXPECT_FALSE(bitmap.LoadBitmap(L"no such bitmap"));
+    EXPECT_NE(bitmap.m_hObject, nullptr);
+
+    CRgn left;
+    CRgn right;
+    ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10));
+    ASSERT_TRUE(right.CreateRectRgn(5, 0, 20, 10));
+    EXPECT_EQ(left.CombineRgn(&left, &right, RGN_AND), SIMPLEREGION);
+    CRect box;
+    left.GetRgnBox(box);
+    EXPECT_EQ(box, CRect(5, 0, 10, 10));
+}
+
+TEST(GdiObject, PointFontHasThePixelsOfItsPointsOnTheDevice) {
+    CWindowDC screen(nullptr);
+    const int nDotsPerInch = screen.GetDeviceCaps(LOGPIXELSY);
+    CFont font;
+    LOGFONT logFont = {};
+    ASSERT_TRUE(font.CreatePointFont(180, L"MS UI Gothic", &screen));
+    ASSERT_NE(font.GetLogFont(&logFont), 0);
+    EXPECT_EQ(logFont.lfHeight, -nDotsPerInch / 4) << "18 of 72 points in an inch";
+    EXPECT_EQ(CString(logFont.lfFaceName), L"MS UI Gothic");
+    ASSERT_TRUE(font.CreatePointFont(90, L"A face name that is longer than thirty-two characters"));
+    ASSERT_NE(font.GetLogFont(&logFont), 0);
+    EXPECT_EQ(logFont.lfHeight, -nDotsPerInch / 8);
+}
+
+TEST(GdiObject, NothingIsLeftBehind) {
+    CDC::GetHalftoneBrush(); // kept on purpose, once
+    fx::Frame frame;
+    { const CClientDC dc(&frame); } // the system keeps a context or two for the next time
+    { const CWindowDC dc(nullptr); }
+    const int nBefore = fx::CountGdiHandles();
+    const HBRUSH hProbe = ::CreateSolidBrush(RGB(5, 6, 7));
+    ASSERT_GT(fx::CountGdiHandles(), nBefore) << "the count must notice a leak";
+    ::DeleteObject(hProbe);
+    for (int i = 0; i < 20; ++i) {
+        fx::Canvas canvas;
+        CBrush brush(RGB(i, 2, 3));
+        CPen pen(PS_SOLID, 1, RGB(i, 0, 0));
+        CFont font;
+        font.CreatePointFont(90, L"System");
+        canvas.m_dc.SelectObject(&font);
+        canvas.m_dc.FillRect(CRect(0, 0, 9, 9), &brush);
+        canvas.m_dc.FillSolidRect(0, 0, 5, 5, RGB(i, 1, 1));
+        canvas.m_dc.DrawDragRect(CRect(0, 0, 20, 20), CSize(1, 1), CRect(2, 2, 22, 22), CSize(2, 2));
+        canvas.m_dc.SelectStockObject(SYSTEM_FONT);
+        const CClientDC client(&frame);
+        const CWindowDC screen(nullptr);
+        frame.InvalidateRect(nullptr);
+        const CPaintDC paint(&frame);
+    }
+    CDC::DeleteTempMap();
+    CGdiObject::DeleteTempMap();
+    EXPECT_EQ(fx::CountGdiHandles(), nBefore);
+}
+
+} // namespace

@@ -1,0 +1,281 @@
+// Message maps: which handler a message finds, and what it is given.
+#include "support/FrameworkEnvironment.h"
+
+#include <string>
+
+namespace {
+
+const UINT g_nRegistered = ::RegisterWindowMessage(L"FieldkitTestMessage");
+constexpr UINT WM_BASE_ONLY = WM_APP + 1;
+constexpr UINT WM_BOTH = WM_APP + 2;
+constexpr UINT WM_REWRITE = WM_APP + 3;
+constexpr UINT WM_NESTED = WM_APP + 4;
+
+class BaseWnd : public fx::Frame {
+public:
+    std::string m_log;
+
+    void Log(const std::string& text) { m_log += m_log.empty() ? text : ", " + text; }
+    std::string TakeLog() { return std::exchange(m_log, {}); }
+
+protected:
+    afx_msg LRESULT OnBaseOnly(WPARAM wParam, LPARAM lParam) {
+        Log("base");
+        return static_cast<LRESULT>(wParam) + lParam;
+    }
+    afx_msg LRESULT OnBoth(WPARAM, LPARAM) {
+        Log("base");
+        return 1;
+    }
+    afx_msg void OnBaseCommand() { Log("base command"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(BaseWnd, CWnd)
+ON_MESSAGE(WM_BASE_ONLY, &BaseWnd::OnBaseOnly)
+ON_MESSAGE(WM_BOTH, &BaseWnd::OnBoth)
+ON_COMMAND(100, &BaseWnd::OnBaseCommand)
+ON_COMMAND(101, &BaseWnd::OnBaseCommand)
+END_MESSAGE_MAP()
+
+class DerivedWnd : public BaseWnd {
+protected:
+    afx_msg LRESULT OnBoth(WPARAM, LPARAM) {
+        Log("derived");
+        return 2;
+    }
+    afx_msg LRESULT OnRegistered(WPARAM wParam, LPARAM) {
+        Log("registered");
+        return static_cast<LRESULT>(wParam);
+    }
+    afx_msg LRESULT OnRewrite(WPARAM, LPARAM lParam) {
+        MSG* pMsg = GetCurrentMessage();
+        pMsg->message = WM_SETTEXT;
+        pMsg->wParam = 0;
+        pMsg->lParam = lParam;
+        return Default();
+    }
+    afx_msg LRESULT OnNested(WPARAM, LPARAM) {
+        SendMessage(WM_BASE_ONLY, 1, 2);
+        Log(GetCurrentMessage()->message == WM_NESTED ? "still current" : "lost");
+        return 0;
+    }
+    afx_msg void OnCommand100() { Log("derived command"); }
+    afx_msg void OnRange(UINT nID) { Log("range " + std::to_string(nID)); }
+    afx_msg void OnClicked() { Log("clicked"); }
+    afx_msg void OnChange() { Log("change"); }
+    afx_msg void OnControlRange(UINT nID) { Log("control range " + std::to_string(nID)); }
+    afx_msg void OnCode(NMHDR* pNMHDR, LRESULT* pResult) {
+        Log("notify " + std::to_string(pNMHDR->idFrom));
+        *pResult = 5;
+    }
+    afx_msg void OnCodeRange(UINT nID, NMHDR*, LRESULT* pResult) {
+        Log("notify range " + std::to_string(nID));
+        *pResult = 6;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(DerivedWnd, BaseWnd)
+ON_MESSAGE(WM_BOTH, &DerivedWnd::OnBoth)
+ON_MESSAGE(WM_REWRITE, &DerivedWnd::OnRewrite)
+ON_MESSAGE(WM_NESTED, &DerivedWnd::OnNested)
+ON_REGISTERED_MESSAGE(g_nRegistered, &DerivedWnd::OnRegistered)
+ON_COMMAND(100, &DerivedWnd::OnCommand100)
+ON_COMMAND_RANGE(200, 210, &DerivedWnd::OnRange)
+ON_BN_CLICKED(300, &DerivedWnd::OnClicked)
+ON_EN_CHANGE(301, &DerivedWnd::OnChange)
+ON_CONTROL_RANGE(EN_CHANGE, 302, 305, &DerivedWnd::OnControlRange)
+ON_NOTIFY(-50, 400, &DerivedWnd::OnCode)
+ON_NOTIFY_RANGE(-51, 400, 402, &DerivedWnd::OnCodeRange)
+END_MESSAGE_MAP()
+
+TEST(MessageMap, DerivedMapComesFirstAndTheBaseMapTakesTheRest) {
+    DerivedWnd wnd;
+    EXPECT_EQ(wnd.SendMessage(WM_BOTH), 2);
+    EXPECT_EQ(wnd.SendMessage(WM_BASE_ONLY, 30, 12), 42);
+    EXPECT_EQ(wnd.SendMessage(g_nRegistered, 9), 9);
+    EXPECT_EQ(wnd.TakeLog(), "derived, base, registered");
+    EXPECT_EQ(wnd.SendMessage(WM_APP + 99), 0);
+    EXPECT_EQ(wnd.TakeLog(), "");
+}
+
+TEST(MessageMap, DefaultReplaysTheCurrentMessageAsAHandlerHasRewrittenIt) {
+    DerivedWnd wnd;
+    wnd.SendMessage(WM_REWRITE, 0, reinterpret_cast<LPARAM>(L"rewritten"));
+    CString strText;
+    wnd.GetWindowText(strText);
+    EXPECT_EQ(strText, L"rewritten");
+}
+
+TEST(MessageMap, OuterMessageIsCurrentAgainAfterANestedOne) {
+    DerivedWnd wnd;
+    wnd.SendMessage(WM_NESTED);
+    EXPECT_EQ(wnd.TakeLog(), "base, still current");
+}
+
+TEST(MessageMap, CommandsFindTheirHandlerByIdentifierAndCode) {
+    DerivedWnd wnd;
+    const HWND hControl =
+        ::CreateWindow(WC_STATIC, L"", WS_CHILD, 0, 0, 5, 5, wnd, nullptr, nullptr, nullptr);
+    const struct {
+        WORD nID;
+        WORD nCode;
+        bool bControl;
+        const char* pszLog;
+    } cases[] = {
+        {100, 0, false, "derived command"},
+        {101, 0, false, "base command"},
+        {199, 0, false, ""},
+        {200, 0, false, "range 200"},
+        {210, 0, false, "range 210"},
+        {211, 0, false, ""},
+        {300, BN_CLICKED, true, "clicked"},
+        {300, BN_DOUBLECLICKED, true, ""},
+        {301, EN_CHANGE, true, "change"},
+        {301, EN_UPDATE, true, ""},
+        {304, EN_CHANGE, true, "control range 304"},
+        {100, 1, false, "derived command"}, // an accelerator
+    };
+    for (const auto& c : cases) {
+        const bool bHandled = wnd.SendMessage(WM_COMMAND, MAKEWPARAM(c.nID, c.nCode),
+                                              reinterpret_cast<LPARAM>(c.bControl ? hControl : nullptr)) != 0;
+        EXPECT_EQ(wnd.TakeLog(), c.pszLog) << c.nID << " code " << c.nCode;
+        EXPECT_EQ(bHandled, *c.pszLog != 0) << c.nID << " code " << c.nCode;
+    }
+}
+
+TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
+    DerivedWnd wnd;
+    const auto send = [&](UINT_PTR nID, UINT nCode) {
+        NMHDR header = {nullptr, nID, nCode};
+        return wnd.SendMessage(WM_NOTIFY, nID, reinterpret_cast<LPARAM>(&header));
+    };
+    EXPECT_EQ(send(400, static_cast<UINT>(-50)), 5);
+    EXPECT_EQ(send(402, static_cast<UINT>(-51)), 6);
+    EXPECT_EQ(send(403, static_cast<UINT>(-51)), 0);
+    EXPECT_EQ(wnd.TakeLog(), "notify 400, notify range 402");
+}
+
+// --- What handlers are given ----------------------------------------------------------------
+
+class Unpacking : public fx::Frame {
+public:
+    std::string m_log;
+
+protected:
+    void Log(const char* pszName, std::initializer_list<long long> values) {
+        m_log = pszName;
+        for (const long long n : values)
+            m_log += ' ' + std::to_string(n);
+    }
+    afx_msg void OnSize(UINT nType, int cx, int cy) { Log("size", {nType, cx, cy}); }
+    afx_msg void OnMove(int x, int y) { Log("move", {x, y}); }
+    afx_msg void OnTimer(UINT_PTR nID) { Log("timer", {static_cast<long long>(nID)}); }
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt) { Log("down", {nFlags, pt.x, pt.y}); }
+    afx_msg void OnMouseMove(UINT nFlags, CPoint pt) { Log("mouse", {nFlags, pt.x, pt.y}); }
+    afx_msg void OnKeyDown(UINT nChar, UINT nRep, UINT nFlags) { Log("key", {nChar, nRep, nFlags}); }
+    afx_msg void OnChar(UINT nChar, UINT nRep, UINT nFlags) { Log("char", {nChar, nRep, nFlags}); }
+    afx_msg void OnSetFocus(CWnd* pOld) { Log("focus", {pOld == this}); }
+    afx_msg void OnEnable(BOOL bEnable) { Log("enable", {bEnable}); }
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus) { Log("show", {bShow, nStatus}); }
+    afx_msg void OnActivate(UINT nState, CWnd* pOther, BOOL bMin) {
+        Log("activate", {nState, pOther == this, bMin});
+    }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { Log("capture", {pWnd == this}); }
+    afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
+        Log("vscroll", {nCode, nPos, pBar == nullptr});
+    }
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam) { Log("sys", {nID, lParam}); }
+    afx_msg UINT OnGetDlgCode() {
+        Log("code", {});
+        return DLGC_WANTARROWS;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Unpacking, CWnd)
+ON_WM_SIZE()
+ON_WM_MOVE()
+ON_WM_TIMER()
+ON_WM_LBUTTONDOWN()
+ON_WM_MOUSEMOVE()
+ON_WM_KEYDOWN()
+ON_WM_CHAR()
+ON_WM_SETFOCUS()
+ON_WM_ENABLE()
+ON_WM_SHOWWINDOW()
+ON_WM_ACTIVATE()
+ON_WM_CAPTURECHANGED()
+ON_WM_VSCROLL()
+ON_WM_SYSCOMMAND()
+ON_WM_GETDLGCODE()
+END_MESSAGE_MAP()
+
+TEST(MessageMap, HandlersGetTheMessagesParametersUnpacked) {
+    Unpacking wnd;
+    const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd);
+    const struct {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+        const char* pszLog;
+    } cases[] = {
+        {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200), "size 2 300 200"},
+        {WM_MOVE, 0, MAKELPARAM(-3, 26), "move -3 26"},
+        {WM_TIMER, 77, 0, "timer 77"},
+        {WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-5, -7), "down 1 -5 -7"}, // captured, outside
+        {WM_MOUSEMOVE, 0, MAKELPARAM(10, 20), "mouse 0 10 20"},
+        {WM_KEYDOWN, VK_RETURN, 0x001C0003, "key 13 3 28"},
+        {WM_CHAR, L'ア', 1, "char 12450 1 0"},
+        {WM_SETFOCUS, static_cast<WPARAM>(self), 0, "focus 1"},
+        {WM_ENABLE, TRUE, 0, "enable 1"},
+        {WM_SHOWWINDOW, FALSE, SW_PARENTCLOSING, "show 0 1"},
+        {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), self, "activate 2 1 1"},
+        {WM_CAPTURECHANGED, 0, self, "capture 1"},
+        {WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "vscroll 5 55 1"},
+        {WM_SYSCOMMAND, SC_CLOSE, 8, "sys 61536 8"},
+        {WM_GETDLGCODE, 0, 0, "code"},
+    };
+    for (const auto& c : cases) {
+        wnd.SendMessage(c.message, c.wParam, c.lParam);
+        EXPECT_EQ(wnd.m_log, c.pszLog);
+    }
+    EXPECT_EQ(wnd.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
+}
+
+class Colored : public fx::Frame {
+public:
+    UINT m_nType = 99;
+    CWnd* m_pControl = nullptr;
+
+protected:
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+        m_nType = nCtlColor;
+        m_pControl = pWnd;
+        pDC->SetTextColor(RGB(1, 2, 3));
+        return static_cast<HBRUSH>(::GetStockObject(LTGRAY_BRUSH));
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Colored, CWnd)
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
+    Colored wnd;
+    CStatic control;
+    ASSERT_TRUE(control.Create(L"", WS_CHILD, CRect(0, 0, 5, 5), &wnd));
+    CClientDC dc(&control);
+    for (UINT nType = CTLCOLOR_MSGBOX; nType <= CTLCOLOR_STATIC; ++nType) {
+        const LRESULT lResult = wnd.SendMessage(WM_CTLCOLORMSGBOX + nType, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                reinterpret_cast<LPARAM>(control.m_hWnd));
+        EXPECT_EQ(wnd.m_nType, nType);
+        EXPECT_EQ(wnd.m_pControl, &control);
+        EXPECT_EQ(reinterpret_cast<HBRUSH>(lResult), ::GetStockObject(LTGRAY_BRUSH));
+    }
+    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3)) << "the handler draws on the control's context";
+}
+
+} // namespace

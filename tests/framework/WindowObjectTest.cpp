@@ -1,0 +1,259 @@
+// Which object belongs to which window, and who outlives whom.
+#include "support/FrameworkEnvironment.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+HWND CreateForeign(HWND hWndParent = nullptr) {
+    return ::CreateWindow(WC_STATIC, L"foreign", hWndParent != nullptr ? WS_CHILD : WS_POPUP, 0, 0, 10, 10,
+                          hWndParent, nullptr, nullptr, nullptr);
+}
+
+/// A foreign window for the time of a test.
+class Foreign {
+public:
+    ~Foreign() { ::DestroyWindow(m_hWnd); }
+    operator HWND() const { return m_hWnd; }
+
+private:
+    HWND m_hWnd = CreateForeign();
+};
+
+WNDPROC ProcedureOf(HWND hWnd) {
+    return reinterpret_cast<WNDPROC>(::GetWindowLongPtr(hWnd, GWLP_WNDPROC));
+}
+
+/// Tells when it goes.
+class Watched : public CWnd {
+public:
+    explicit Watched(int* pnDeleted = nullptr) : m_pnDeleted(pnDeleted) {}
+    ~Watched() override {
+        if (m_pnDeleted != nullptr)
+            ++*m_pnDeleted;
+    }
+
+private:
+    int* m_pnDeleted;
+};
+
+/// Lives on the heap as long as its window.
+class SelfDeleting : public Watched {
+public:
+    using Watched::Watched;
+
+protected:
+    void PostNcDestroy() override { delete this; }
+    afx_msg LRESULT OnEnd(WPARAM, LPARAM) {
+        DestroyWindow();
+        return 42;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(SelfDeleting, Watched)
+ON_MESSAGE(WM_APP, &SelfDeleting::OnEnd)
+END_MESSAGE_MAP()
+
+BOOL CreateChild(CWnd& child, CWnd* pParent) {
+    return child.Create(WC_STATIC, L"", WS_CHILD, CRect(0, 0, 5, 5), pParent, 1);
+}
+
+TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
+    const Foreign window;
+    CWnd* const pWnd = CWnd::FromHandle(window);
+    ASSERT_NE(pWnd, nullptr);
+    EXPECT_EQ(pWnd->m_hWnd, window);
+    EXPECT_EQ(CWnd::FromHandle(window), pWnd);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+}
+
+TEST(WindowObject, NullObjectHasNoWindow) {
+    CWnd* volatile pNone = nullptr;
+    EXPECT_EQ(pNone->GetSafeHwnd(), nullptr);
+}
+
+TEST(WindowObject, DeletingTemporaryObjectsLeavesTheirWindowsAlone) {
+    const Foreign window;
+    CWnd::FromHandle(window);
+    CWnd::DeleteTempMap();
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_EQ(CWnd::FromHandle(window)->m_hWnd, window);
+}
+
+TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
+    const Foreign window;
+    CWnd wnd;
+    ASSERT_TRUE(wnd.Attach(window));
+    EXPECT_EQ(CWnd::FromHandle(window), &wnd);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), &wnd);
+    EXPECT_EQ(wnd.Detach(), window);
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
+    EXPECT_TRUE(::IsWindow(window));
+}
+
+TEST(WindowObject, AttachRefusesWhatWouldMakeTwoOfOne) {
+    const Foreign window;
+    const Foreign other;
+    CWnd wnd;
+    CWnd second;
+    EXPECT_FALSE(wnd.Attach(nullptr));
+    ASSERT_TRUE(wnd.Attach(window));
+    EXPECT_FALSE(second.Attach(window));
+    EXPECT_FALSE(wnd.Attach(other));
+    EXPECT_EQ(wnd.Detach(), window);
+}
+
+TEST(WindowObject, IsAttachedBeforeTheFirstMessage) {
+    class Early : public CWnd {
+    public:
+        std::vector<UINT> m_messages;
+        int m_nPrepared = 0;
+        void PreSubclassWindow() override {
+            EXPECT_NE(m_hWnd, nullptr);
+            EXPECT_TRUE(m_messages.empty());
+            ++m_nPrepared;
+        }
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            m_messages.push_back(message);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    Early wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, WC_STATIC, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+    EXPECT_EQ(wnd.m_nPrepared, 1);
+    EXPECT_NE(std::find(wnd.m_messages.begin(), wnd.m_messages.end(), UINT(WM_NCCREATE)),
+              wnd.m_messages.end());
+}
+
+TEST(WindowObject, ParentNotificationsOfCreationDoNotTakeThePlaceOfTheNewWindow) {
+    // A window that creates children while it is created itself must not lose its object to one.
+    class WithChild : public CWnd {
+    public:
+        CWnd m_child;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_CREATE)
+                CreateChild(m_child, this);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    WithChild wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, WC_STATIC, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+    ASSERT_NE(wnd.m_child.m_hWnd, nullptr);
+    EXPECT_NE(wnd.m_hWnd, wnd.m_child.m_hWnd);
+    EXPECT_EQ(::GetParent(wnd.m_child.m_hWnd), wnd.m_hWnd);
+    EXPECT_EQ(CWnd::FromHandlePermanent(wnd.m_child.m_hWnd), &wnd.m_child);
+}
+
+TEST(WindowObject, SubclassingEndsWithTheOldProcedureBack) {
+    class Deaf : public CWnd {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            return message == WM_APP ? 7 : CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    const Foreign window;
+    const WNDPROC pfnBefore = ProcedureOf(window);
+    Deaf wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window));
+    EXPECT_EQ(::SendMessage(window, WM_APP, 0, 0), 7);
+    EXPECT_EQ(wnd.GetWindowTextLength(), 7) << "what the object does not handle reaches the old procedure";
+    EXPECT_EQ(wnd.UnsubclassWindow(), window);
+    EXPECT_EQ(ProcedureOf(window), pfnBefore);
+    EXPECT_EQ(::SendMessage(window, WM_APP, 0, 0), 0);
+}
+
+TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
+    fx::Frame frame;
+    const HWND hItem = CreateForeign(frame);
+    ::SetWindowLongPtr(hItem, GWLP_ID, 5);
+    CWnd item;
+    CWnd second;
+    EXPECT_FALSE(item.SubclassDlgItem(6, &frame));
+    EXPECT_TRUE(item.SubclassDlgItem(5, &frame));
+    EXPECT_EQ(item.m_hWnd, hItem);
+    EXPECT_FALSE(second.SubclassDlgItem(5, &frame));
+}
+
+// --- Destruction ----------------------------------------------------------------------------
+
+TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
+    HWND hCreated = nullptr;
+    const HWND hAttached = CreateForeign();
+    {
+        fx::Frame frame;
+        hCreated = frame;
+        CWnd attached;
+        attached.Attach(hAttached);
+    }
+    EXPECT_FALSE(::IsWindow(hCreated));
+    EXPECT_FALSE(::IsWindow(hAttached));
+    EXPECT_EQ(CWnd::FromHandlePermanent(hCreated), nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(hAttached), nullptr);
+}
+
+TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
+    fx::Frame frame;
+    const HWND hWnd = frame;
+    ::DestroyWindow(hWnd);
+    EXPECT_EQ(frame.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(hWnd), nullptr);
+    EXPECT_FALSE(frame.DestroyWindow());
+}
+
+TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildren) {
+    CWnd child;
+    CWnd grandchild;
+    auto pFrame = std::make_unique<fx::Frame>();
+    ASSERT_TRUE(CreateChild(child, pFrame.get()));
+    ASSERT_TRUE(CreateChild(grandchild, &child));
+    pFrame.reset();
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    EXPECT_EQ(grandchild.m_hWnd, nullptr);
+}
+
+TEST(WindowDestruction, ChildObjectFirstTakesItsWindowFromTheParent) {
+    fx::Frame frame;
+    {
+        CWnd child;
+        ASSERT_TRUE(CreateChild(child, &frame));
+    }
+    EXPECT_EQ(::GetWindow(frame, GW_CHILD), nullptr);
+}
+
+TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
+    int nDeleted = 0;
+    fx::Frame frame;
+    auto* pWnd = new SelfDeleting(&nDeleted);
+    ASSERT_TRUE(CreateChild(*pWnd, &frame));
+    EXPECT_TRUE(pWnd->DestroyWindow());
+    EXPECT_EQ(nDeleted, 1) << "by its own call";
+
+    pWnd = new SelfDeleting(&nDeleted);
+    ASSERT_TRUE(CreateChild(*pWnd, &frame));
+    EXPECT_EQ(pWnd->SendMessage(WM_APP), 42);
+    EXPECT_EQ(nDeleted, 2) << "inside a handler of its own";
+
+    ASSERT_TRUE(CreateChild(*new SelfDeleting(&nDeleted), &frame));
+    frame.DestroyWindow();
+    EXPECT_EQ(nDeleted, 3) << "with its parent";
+
+    EXPECT_FALSE((new SelfDeleting(&nDeleted))->Create(L"no such class", L"", 0, CRect(), nullptr, 1));
+    EXPECT_EQ(nDeleted, 4) << "when the window could not be created";
+}
+
+TEST(WindowDestruction, TemporaryObjectIsEmptyWhenItsHandleIsTakenOver) {
+    const Foreign window;
+    CWnd* const pTemporary = CWnd::FromHandle(window);
+    CWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window));
+    wnd.UnsubclassWindow();
+    // Whoever still holds the temporary object finds no window in it, or the right one.
+    EXPECT_TRUE(pTemporary->m_hWnd == nullptr || pTemporary->m_hWnd == window);
+    CWnd::DeleteTempMap();
+    EXPECT_TRUE(::IsWindow(window));
+}
+
+} // namespace
