@@ -55,9 +55,6 @@ protected:
 
     virtual void OnOK();
     virtual void OnCancel();
-    /// Called before and after DoModal creates and destroys the window.
-    virtual HWND PreModal();
-    virtual void PostModal();
     void PostNcDestroy() override;
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd);
 
@@ -70,6 +67,4 @@ private:
 
     BOOL CreateFromResource(CWnd* pParentWnd);
     void EnterFullScreen();
-
-    HWND m_hWndDisabled = nullptr; ///< Top-level window disabled while modal.
 };

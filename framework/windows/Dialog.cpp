@@ -1,5 +1,6 @@
 #include "DeviceCaption.h"
 #include "DialogTemplate.h"
+#include "ModalOwner.h"
 #include "WndProc.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -116,69 +117,18 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 
 // --- Modal ----------------------------------------------------------------------------------------
 
-HWND CDialog::PreModal() {
-    CWnd* pOwner = GetSafeOwner(m_pParentWnd, &m_hWndDisabled);
-    return HandleOf(pOwner);
-}
-
-void CDialog::PostModal() {
-    if (m_hWndDisabled != nullptr)
-        ::EnableWindow(m_hWndDisabled, TRUE);
-    m_hWndDisabled = nullptr;
-}
-
-namespace {
-
-/// Keeps the owner of a modal dialog disabled, on whatever path the dialog ends.
-class COwnerLock {
-public:
-    explicit COwnerLock(HWND hWnd) : m_hWnd(hWnd != nullptr && ::IsWindowEnabled(hWnd) ? hWnd : nullptr) {
-        if (m_hWnd != nullptr)
-            ::EnableWindow(m_hWnd, FALSE);
-    }
-    ~COwnerLock() { Release(); }
-    COwnerLock(const COwnerLock&) = delete;
-    COwnerLock& operator=(const COwnerLock&) = delete;
-
-    void Release() {
-        if (m_hWnd != nullptr)
-            ::EnableWindow(m_hWnd, TRUE);
-        m_hWnd = nullptr;
-    }
-
-private:
-    HWND m_hWnd;
-};
-
-} // namespace
-
 INT_PTR CDialog::DoModal() {
     if (m_hWnd != nullptr)
         return -1;
     const CModalScope scope;
-    const HWND hWndFocus = ::GetFocus();
-    const HWND hWndOwner = PreModal();
-    COwnerLock lock(hWndOwner);
+    CModalOwner owner(m_pParentWnd);
 
     m_nModalResult = -1;
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL; // EndDialog may come from OnInitDialog already
-    if (CreateFromResource(CWnd::FromHandle(hWndOwner)) && (m_nFlags & WF_CONTINUEMODAL))
+    if (CreateFromResource(CWnd::FromHandle(owner.Handle())) && (m_nFlags & WF_CONTINUEMODAL))
         RunModalLoop(MLF_SHOWONIDLE);
     m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-
-    // The owner is enabled while the dialog is still there: otherwise the system would have
-    // no window of this program to activate, and another program's would come to the front.
-    lock.Release();
-    if (m_hWnd != nullptr) {
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-        if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd)
-            ::SetActiveWindow(hWndOwner);
-        DestroyWindow();
-    }
-    PostModal();
-    if (hWndOwner != nullptr && ::GetActiveWindow() == hWndOwner && ::IsChild(hWndOwner, hWndFocus))
-        ::SetFocus(hWndFocus);
+    owner.Close(this);
     return m_nModalResult;
 }
 

@@ -1,0 +1,179 @@
+/// @file
+/// The list view. Included by afxcmn.h.
+#pragma once
+
+/// A list view. Items, sub-items and columns count from 0; -1 stands for none and for
+/// failure; sub-item 0 is the item itself.
+class AFX_CORE CListCtrl : public CWnd {
+    DECLARE_DYNAMIC(CListCtrl)
+public:
+    CListCtrl() = default;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    // --- Columns -----------------------------------------------------------------------
+    BOOL GetColumn(int nCol, LVCOLUMN* pColumn) const {
+        return AfxSendPointer(m_hWnd, LVM_GETCOLUMN, static_cast<WPARAM>(nCol), pColumn);
+    }
+    BOOL SetColumn(int nCol, const LVCOLUMN* pColumn) {
+        return AfxSendPointer(m_hWnd, LVM_SETCOLUMN, static_cast<WPARAM>(nCol), pColumn);
+    }
+    /// @return the new column
+    int InsertColumn(int nCol, const LVCOLUMN* pColumn) {
+        return AfxSendPointer(m_hWnd, LVM_INSERTCOLUMN, static_cast<WPARAM>(nCol), pColumn);
+    }
+    /// @param nFormat  LVCFMT_...
+    /// @param nWidth   pixels, -1 the control's choice
+    /// @param nSubItem the sub-item that the column shows, -1 none in particular
+    int InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat = LVCFMT_LEFT, int nWidth = -1,
+                     int nSubItem = -1);
+    BOOL DeleteColumn(int nCol) { return AfxSendInt(m_hWnd, LVM_DELETECOLUMN, static_cast<WPARAM>(nCol)); }
+    int GetColumnWidth(int nCol) const {
+        return AfxSendInt(m_hWnd, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(nCol));
+    }
+    /// @param cx pixels, or LVSCW_AUTOSIZE, LVSCW_AUTOSIZE_USEHEADER
+    BOOL SetColumnWidth(int nCol, int cx) {
+        return AfxSendInt(m_hWnd, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(nCol), MAKELPARAM(cx, 0));
+    }
+    int GetStringWidth(LPCTSTR lpsz) const { return AfxSendPointer(m_hWnd, LVM_GETSTRINGWIDTH, 0, lpsz); }
+
+    // --- Items -------------------------------------------------------------------------
+    int GetItemCount() const { return AfxSendInt(m_hWnd, LVM_GETITEMCOUNT); }
+    /// Makes room for so many items; an LVS_OWNERDATA list then has them.
+    void SetItemCount(int nItems) { AfxSendInt(m_hWnd, LVM_SETITEMCOUNT, static_cast<WPARAM>(nItems)); }
+    /// @param dwFlags LVSICF_... @return TRUE on success
+    BOOL SetItemCountEx(int nCount, DWORD dwFlags = LVSICF_NOINVALIDATEALL) {
+        return AfxSendInt(m_hWnd, LVM_SETITEMCOUNT, static_cast<WPARAM>(nCount),
+                          static_cast<LPARAM>(dwFlags));
+    }
+    /// @return where the item is: in a sorted list not where it was wanted
+    int InsertItem(const LVITEM* pItem) { return AfxSendPointer(m_hWnd, LVM_INSERTITEM, 0, pItem); }
+    int InsertItem(int nItem, LPCTSTR lpszItem) { return InsertItem(LVIF_TEXT, nItem, lpszItem, 0, 0, 0, 0); }
+    int InsertItem(int nItem, LPCTSTR lpszItem, int nImage) {
+        return InsertItem(LVIF_TEXT | LVIF_IMAGE, nItem, lpszItem, 0, 0, nImage, 0);
+    }
+    /// @param nMask LVIF_...: which of the other values count
+    int InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask, int nImage,
+                   LPARAM lParam);
+    BOOL DeleteItem(int nItem) { return AfxSendInt(m_hWnd, LVM_DELETEITEM, static_cast<WPARAM>(nItem)); }
+    BOOL DeleteAllItems() { return AfxSendInt(m_hWnd, LVM_DELETEALLITEMS); }
+    BOOL GetItem(LVITEM* pItem) const { return AfxSendPointer(m_hWnd, LVM_GETITEM, 0, pItem); }
+    BOOL SetItem(const LVITEM* pItem) { return AfxSendPointer(m_hWnd, LVM_SETITEM, 0, pItem); }
+    BOOL SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                 UINT nStateMask, LPARAM lParam);
+    /// @param nLen room at lpszText with the terminator @return the characters written
+    int GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const;
+    /// The whole text, however long; empty if there is no such item.
+    CString GetItemText(int nItem, int nSubItem) const;
+    BOOL SetItemText(int nItem, int nSubItem, LPCTSTR lpszText);
+    /// 0 if there is no such item.
+    DWORD_PTR GetItemData(int nItem) const;
+    BOOL SetItemData(int nItem, DWORD_PTR dwData);
+    /// @param pfnCompare negative if its first item shall stand before its second; it is
+    ///   given the items' data and then dwData
+    BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
+    /// @param nStart the search begins behind this item; -1 at the top
+    int FindItem(const LVFINDINFO* pFindInfo, int nStart = -1) const {
+        return AfxSendPointer(m_hWnd, LVM_FINDITEM, static_cast<WPARAM>(nStart), pFindInfo);
+    }
+
+    // --- State and selection -----------------------------------------------------------
+    UINT GetItemState(int nItem, UINT nMask) const {
+        return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_GETITEMSTATE, static_cast<WPARAM>(nItem), nMask));
+    }
+    BOOL SetItemState(int nItem, const LVITEM* pItem) {
+        return AfxSendPointer(m_hWnd, LVM_SETITEMSTATE, static_cast<WPARAM>(nItem), pItem);
+    }
+    /// @param nItem -1 is all items
+    /// @param nMask the bits of nState (LVIS_...) that are set or cleared
+    BOOL SetItemState(int nItem, UINT nState, UINT nMask);
+    /// @param nFlags LVNI_... @return the next item behind nItem (-1: from the top) of that kind
+    int GetNextItem(int nItem, int nFlags) const {
+        return AfxSendInt(m_hWnd, LVM_GETNEXTITEM, static_cast<WPARAM>(nItem), MAKELPARAM(nFlags, 0));
+    }
+    UINT GetSelectedCount() const { return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_GETSELECTEDCOUNT)); }
+    /// Walks over the selected items, which must not change meanwhile. Null: there is none.
+    POSITION GetFirstSelectedItemPosition() const;
+    /// @param pos from GetFirstSelectedItemPosition; moved to the next one, null behind the last
+    int GetNextSelectedItem(POSITION& pos) const;
+    /// The item that a selection by Shift starts from.
+    int GetSelectionMark() const { return AfxSendInt(m_hWnd, LVM_GETSELECTIONMARK); }
+    int SetSelectionMark(int iIndex) { return AfxSendInt(m_hWnd, LVM_SETSELECTIONMARK, 0, iIndex); }
+    /// The check boxes of LVS_EX_CHECKBOXES.
+    BOOL GetCheck(int nItem) const;
+    BOOL SetCheck(int nItem, BOOL fCheck = TRUE);
+    UINT GetCallbackMask() const { return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_GETCALLBACKMASK)); }
+    BOOL SetCallbackMask(UINT nMask) { return AfxSendInt(m_hWnd, LVM_SETCALLBACKMASK, nMask); }
+
+    // --- Places ------------------------------------------------------------------------
+    /// @param nCode LVIR_...
+    BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
+    /// @param nArea LVIR_... @param ref written only on success
+    BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) const;
+    BOOL GetItemPosition(int nItem, LPPOINT lpPoint) const {
+        return AfxSendPointer(m_hWnd, LVM_GETITEMPOSITION, static_cast<WPARAM>(nItem), lpPoint);
+    }
+    BOOL SetItemPosition(int nItem, POINT pt) {
+        return AfxSendPointer(m_hWnd, LVM_SETITEMPOSITION32, static_cast<WPARAM>(nItem), &pt);
+    }
+    BOOL GetViewRect(LPRECT lpRect) const { return AfxSendPointer(m_hWnd, LVM_GETVIEWRECT, 0, lpRect); }
+    int HitTest(LVHITTESTINFO* pHitTestInfo) const {
+        return AfxSendPointer(m_hWnd, LVM_HITTEST, 0, pHitTestInfo);
+    }
+    /// @param pt client coordinates @param pFlags receives LVHT_...; may be null
+    int HitTest(CPoint pt, UINT* pFlags = nullptr) const;
+    int SubItemHitTest(LPLVHITTESTINFO pInfo) { return AfxSendPointer(m_hWnd, LVM_SUBITEMHITTEST, 0, pInfo); }
+    BOOL EnsureVisible(int nItem, BOOL bPartialOK) {
+        return AfxSendInt(m_hWnd, LVM_ENSUREVISIBLE, static_cast<WPARAM>(nItem), MAKELPARAM(bPartialOK, 0));
+    }
+    /// @param size pixels; in a report the height is rounded to whole lines
+    BOOL Scroll(CSize size) { return AfxSendInt(m_hWnd, LVM_SCROLL, static_cast<WPARAM>(size.cx), size.cy); }
+    int GetTopIndex() const { return AfxSendInt(m_hWnd, LVM_GETTOPINDEX); }
+    int GetCountPerPage() const { return AfxSendInt(m_hWnd, LVM_GETCOUNTPERPAGE); }
+    /// Draws both items and those between them again when the window is next painted.
+    BOOL RedrawItems(int nFirst, int nLast) {
+        return AfxSendInt(m_hWnd, LVM_REDRAWITEMS, static_cast<WPARAM>(nFirst), nLast);
+    }
+    BOOL Update(int nItem) { return AfxSendInt(m_hWnd, LVM_UPDATE, static_cast<WPARAM>(nItem)); }
+    /// @param nCode LVA_...
+    BOOL Arrange(UINT nCode) { return AfxSendInt(m_hWnd, LVM_ARRANGE, nCode); }
+
+    // --- Looks -------------------------------------------------------------------------
+    /// LVS_EX_... styles
+    DWORD GetExtendedStyle() const {
+        return static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_GETEXTENDEDLISTVIEWSTYLE));
+    }
+    /// @param dwNewStyle all that shall be set from now on @return the previous ones
+    DWORD SetExtendedStyle(DWORD dwNewStyle) {
+        return static_cast<DWORD>(
+            AfxSendInt(m_hWnd, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(dwNewStyle)));
+    }
+    /// @param nImageList LVSIL_... @return null if there is none
+    CImageList* GetImageList(int nImageList) const;
+    /// @param pImageList must outlive the control or be taken away; null takes it away
+    /// @return the previous list
+    CImageList* SetImageList(CImageList* pImageList, int nImageListType);
+    COLORREF GetBkColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, LVM_GETBKCOLOR)); }
+    BOOL SetBkColor(COLORREF cr) { return AfxSendInt(m_hWnd, LVM_SETBKCOLOR, 0, static_cast<LPARAM>(cr)); }
+    COLORREF GetTextColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, LVM_GETTEXTCOLOR)); }
+    BOOL SetTextColor(COLORREF cr) {
+        return AfxSendInt(m_hWnd, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(cr));
+    }
+    COLORREF GetTextBkColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, LVM_GETTEXTBKCOLOR)); }
+    BOOL SetTextBkColor(COLORREF cr) {
+        return AfxSendInt(m_hWnd, LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(cr));
+    }
+
+    // --- Editing -----------------------------------------------------------------------
+    /// Begins to edit an item's text in place. @return the entry field, null on failure
+    CEdit* EditLabel(int nItem);
+    CEdit* GetEditControl() const;
+
+    /// Draws an item of an LVS_OWNERDRAWFIXED list; override it.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+};

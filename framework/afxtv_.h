@@ -1,0 +1,126 @@
+/// @file
+/// The tree view. Included by afxcmn.h.
+#pragma once
+
+/// A tree view. Null stands for no item and for failure.
+class AFX_CORE CTreeCtrl : public CWnd {
+    DECLARE_DYNAMIC(CTreeCtrl)
+public:
+    CTreeCtrl() = default;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    // --- Items -------------------------------------------------------------------------
+    UINT GetCount() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETCOUNT)); }
+    HTREEITEM InsertItem(LPTVINSERTSTRUCT lpInsertStruct);
+    /// @param nMask TVIF_...: which of the other values count
+    HTREEITEM InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                         UINT nStateMask, LPARAM lParam, HTREEITEM hParent, HTREEITEM hInsertAfter);
+    /// @param hInsertAfter a child of hParent, or TVI_FIRST, TVI_LAST, TVI_SORT
+    HTREEITEM InsertItem(LPCTSTR lpszItem, HTREEITEM hParent = TVI_ROOT, HTREEITEM hInsertAfter = TVI_LAST) {
+        return InsertItem(TVIF_TEXT, lpszItem, 0, 0, 0, 0, 0, hParent, hInsertAfter);
+    }
+    HTREEITEM InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage, HTREEITEM hParent = TVI_ROOT,
+                         HTREEITEM hInsertAfter = TVI_LAST) {
+        return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, lpszItem, nImage, nSelectedImage, 0, 0,
+                          0, hParent, hInsertAfter);
+    }
+    /// Deletes the item's children as well.
+    BOOL DeleteItem(HTREEITEM hItem) { return AfxSendPointer(m_hWnd, TVM_DELETEITEM, 0, hItem); }
+    BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
+    BOOL GetItem(TVITEM* pItem) const { return AfxSendPointer(m_hWnd, TVM_GETITEM, 0, pItem); }
+    BOOL SetItem(TVITEM* pItem) { return AfxSendPointer(m_hWnd, TVM_SETITEM, 0, pItem); }
+    BOOL SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                 UINT nStateMask, LPARAM lParam);
+    /// The whole text, however long; empty if there is no such item.
+    CString GetItemText(HTREEITEM hItem) const;
+    BOOL SetItemText(HTREEITEM hItem, LPCTSTR lpszItem);
+    /// @param nImage, nSelectedImage written only on success
+    BOOL GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) const;
+    BOOL SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage);
+    /// @return the TVIS_... bits of nStateMask
+    UINT GetItemState(HTREEITEM hItem, UINT nStateMask) const;
+    BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask);
+    /// 0 if there is no such item.
+    DWORD_PTR GetItemData(HTREEITEM hItem) const;
+    BOOL SetItemData(HTREEITEM hItem, DWORD_PTR dwData);
+    /// The check boxes of TVS_CHECKBOXES.
+    BOOL GetCheck(HTREEITEM hItem) const;
+    BOOL SetCheck(HTREEITEM hItem, BOOL fCheck = TRUE);
+
+    // --- Relations ---------------------------------------------------------------------
+    /// @param nCode TVGN_...
+    HTREEITEM GetNextItem(HTREEITEM hItem, UINT nCode) const {
+        return AfxSendHandle(m_hWnd, TVM_GETNEXTITEM, nCode, hItem);
+    }
+    HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
+    HTREEITEM GetParentItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PARENT); }
+    /// The first child.
+    HTREEITEM GetChildItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_CHILD); }
+    HTREEITEM GetNextSiblingItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_NEXT); }
+    HTREEITEM GetPrevSiblingItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PREVIOUS); }
+    HTREEITEM GetFirstVisibleItem() const { return GetNextItem(nullptr, TVGN_FIRSTVISIBLE); }
+    HTREEITEM GetNextVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_NEXTVISIBLE); }
+    HTREEITEM GetPrevVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PREVIOUSVISIBLE); }
+    HTREEITEM GetSelectedItem() const { return GetNextItem(nullptr, TVGN_CARET); }
+    HTREEITEM GetDropHilightItem() const { return GetNextItem(nullptr, TVGN_DROPHILITE); }
+    /// As the item itself says (its number of children), shown or not.
+    BOOL ItemHasChildren(HTREEITEM hItem) const;
+
+    // --- Operations --------------------------------------------------------------------
+    /// @param nCode TVE_...
+    BOOL Expand(HTREEITEM hItem, UINT nCode) { return AfxSendPointer(m_hWnd, TVM_EXPAND, nCode, hItem); }
+    /// @param nCode TVGN_CARET, TVGN_DROPHILITE or TVGN_FIRSTVISIBLE
+    BOOL Select(HTREEITEM hItem, UINT nCode) { return AfxSendPointer(m_hWnd, TVM_SELECTITEM, nCode, hItem); }
+    /// Opens the item's parents, too. @param hItem null takes the selection away
+    BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); }
+    BOOL SelectDropTarget(HTREEITEM hItem) { return Select(hItem, TVGN_DROPHILITE); }
+    BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
+    /// Opens the item's parents and scrolls as far as it takes.
+    /// @return TRUE if it had to scroll and opened nothing
+    BOOL EnsureVisible(HTREEITEM hItem) { return AfxSendPointer(m_hWnd, TVM_ENSUREVISIBLE, 0, hItem); }
+    /// Sorts the direct children of an item by their texts.
+    BOOL SortChildren(HTREEITEM hItem) { return AfxSendPointer(m_hWnd, TVM_SORTCHILDREN, 0, hItem); }
+    BOOL SortChildrenCB(LPTVSORTCB pSort) { return AfxSendPointer(m_hWnd, TVM_SORTCHILDRENCB, 0, pSort); }
+
+    // --- Places ------------------------------------------------------------------------
+    /// @return FALSE, with the rectangle as it was, if the item is not visible
+    BOOL GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const;
+    HTREEITEM HitTest(TVHITTESTINFO* pHitTestInfo) const;
+    /// @param pt client coordinates @param pFlags receives TVHT_...; may be null
+    HTREEITEM HitTest(CPoint pt, UINT* pFlags = nullptr) const;
+    /// How many items the window has room for.
+    UINT GetVisibleCount() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETVISIBLECOUNT)); }
+
+    // --- Looks -------------------------------------------------------------------------
+    /// Pixels from one level to the next.
+    UINT GetIndent() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETINDENT)); }
+    void SetIndent(UINT nIndent) { AfxSendInt(m_hWnd, TVM_SETINDENT, nIndent); }
+    SHORT GetItemHeight() const { return static_cast<SHORT>(AfxSendInt(m_hWnd, TVM_GETITEMHEIGHT)); }
+    /// @param cyHeight pixels, -1 the default @return the previous height
+    SHORT SetItemHeight(SHORT cyHeight) {
+        return static_cast<SHORT>(AfxSendInt(m_hWnd, TVM_SETITEMHEIGHT, static_cast<WPARAM>(cyHeight)));
+    }
+    /// @param nImage TVSIL_... @return null if there is none
+    CImageList* GetImageList(UINT nImage) const;
+    /// @param pImageList must outlive the control or be taken away; null takes it away
+    /// @return the previous list
+    CImageList* SetImageList(CImageList* pImageList, int nImageListType);
+    /// Colours: -1 is the system's. The setters return the previous one.
+    COLORREF GetBkColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_GETBKCOLOR)); }
+    COLORREF SetBkColor(COLORREF clr) {
+        return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_SETBKCOLOR, 0, static_cast<LPARAM>(clr)));
+    }
+    COLORREF GetTextColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_GETTEXTCOLOR)); }
+    COLORREF SetTextColor(COLORREF clr) {
+        return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(clr)));
+    }
+
+    // --- Editing -----------------------------------------------------------------------
+    /// Begins to edit an item's text in place. @return the entry field, null on failure
+    CEdit* EditLabel(HTREEITEM hItem);
+    CEdit* GetEditControl() const;
+    BOOL EndEditLabelNow(BOOL bCancel) {
+        return AfxSendInt(m_hWnd, TVM_ENDEDITLABELNOW, static_cast<WPARAM>(bCancel));
+    }
+};

@@ -1,0 +1,212 @@
+// Property sheets on the device's screen.
+#include "SheetProbe.h"
+
+namespace {
+
+CRect WorkArea() {
+    CRect rect;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &rect, 0);
+    return rect;
+}
+
+/// What title bar and command bar leave of the screen.
+CRect InnerArea() {
+    CRect rect = WorkArea();
+    rect.DeflateRect(0, AFX_DEVICE_BAR_HEIGHT);
+    return rect;
+}
+
+bool Contains(const CRect& outer, const CRect& inner) {
+    CRect both;
+    both.UnionRect(outer, inner);
+    return both == outer && inner.Width() > 0 && inner.Height() > 0;
+}
+
+int CountCommandBars(const CWnd& wnd) {
+    int nCount = 0;
+    for (HWND h = ::GetWindow(wnd, GW_CHILD); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT))
+        nCount += ::GetDlgCtrlID(h) == static_cast<int>(AFX_IDW_TOOLBAR) ? 1 : 0;
+    return nCount;
+}
+
+/// The tabs fill the inner area, and the pages what is left of the tabs.
+void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage*>& pages) {
+    EXPECT_EQ(fx::WindowRect(sheet.m_hWnd), WorkArea());
+    const CRect tabs = fx::WindowRect(sheet.GetTabControl()->m_hWnd);
+    EXPECT_EQ(tabs, InnerArea());
+    const CRect bar = fx::WindowRect(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
+    EXPECT_EQ(bar.bottom, WorkArea().bottom);
+    CRect free(CPoint(0, 0), tabs.Size());
+    sheet.GetTabControl()->SendMessage(TCM_ADJUSTRECT, FALSE,
+                                       reinterpret_cast<LPARAM>(static_cast<LPRECT>(free)));
+    free.OffsetRect(tabs.TopLeft());
+    EXPECT_LT(free.Height(), tabs.Height() - 10) << "no room for the tabs' names";
+    for (const CPropertyPage* pPage : pages)
+        EXPECT_EQ(fx::WindowRect(pPage->m_hWnd), free);
+}
+
+TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
+    fx::Sheet sheet;
+    fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE);
+    fx::Page added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
+    sheet.AddPage(&wide);
+    fx::ModalScript script;
+    script
+        .Then([&] {
+            ExpectLaidOut(sheet, {&sheet.m_a});
+            EXPECT_TRUE(sheet.m_a.IsWindowVisible());
+            for (const UINT nID : {static_cast<UINT>(IDOK), static_cast<UINT>(IDCANCEL), ID_APPLY_NOW})
+                EXPECT_FALSE(sheet.ShowsButton(nID)) << nID;
+            EXPECT_NE(sheet.m_pWndEmptyCB, nullptr);
+            sheet.SetActivePage(1);
+            sheet.SetActivePage(&wide);
+        })
+        .Then([&] {
+            ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide});
+            EXPECT_TRUE(wide.IsWindowVisible());
+            EXPECT_FALSE(sheet.m_a.IsWindowVisible());
+            sheet.AddPage(&added);
+            sheet.SetActivePage(&added);
+        })
+        .Then([&] {
+            ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide, &added});
+            sheet.ShowWindow(SW_SHOWMAXIMIZED);
+            added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
+            ExpectLaidOut(sheet, {&added});
+            sheet.EndDialog(1);
+        });
+    script.Run([&] { return sheet.DoModal(); });
+    EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
+}
+
+/// What a full-screen sheet class of an application does: all its own settings first, the
+/// base class last.
+class EarlySheet : public fx::Sheet {
+public:
+    bool m_bOkButton = false;
+    bool m_bOwnBar = true;
+    int m_nShow = SW_SHOWMAXIMIZED;
+    BOOL m_bResult = FALSE;
+    CCeCommandBar m_bar;
+
+    BOOL OnInitDialog() override {
+        ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
+        if (m_bOwnBar)
+            m_bar.Create(this, 0x50002800, AFX_IDW_TOOLBAR);
+        if (!m_bOkButton)
+            SHDoneButton(m_hWnd, SHDB_HIDE);
+        ShowWindow(m_nShow);
+        m_bResult = CPropertySheet::OnInitDialog();
+        return m_bResult;
+    }
+
+protected:
+    afx_msg void OnCancel() { m_log += "sheet.cancel "; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(EarlySheet, CPropertySheet)
+ON_COMMAND(IDCANCEL, &EarlySheet::OnCancel)
+END_MESSAGE_MAP()
+
+TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
+    const struct {
+        bool bOkButton;
+        bool bOwnBar;
+        int nShow;
+    } cases[] = {{false, true, SW_SHOWMAXIMIZED},
+                 {true, true, SW_SHOWMAXIMIZED},
+                 {true, false, SW_SHOWMAXIMIZED},
+                 {true, true, SW_HIDE}};
+    for (const auto& c : cases) {
+        EarlySheet sheet;
+        sheet.m_bOkButton = c.bOkButton;
+        sheet.m_bOwnBar = c.bOwnBar;
+        sheet.m_nShow = c.nShow;
+        fx::ModalScript script;
+        script.Then([&] {
+            EXPECT_TRUE(sheet.m_bResult);
+            EXPECT_EQ(sheet.IsWindowVisible(), c.nShow != SW_HIDE);
+            EXPECT_EQ(fx::FindOkButton(sheet).x != -1, c.bOkButton);
+            EXPECT_EQ(CountCommandBars(sheet), 1);
+            EXPECT_EQ(sheet.m_pWndEmptyCB == nullptr, c.bOwnBar);
+            ExpectLaidOut(sheet, {&sheet.m_a});
+            sheet.EndDialog(5);
+        });
+        EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), 5);
+    }
+}
+
+TEST(FullScreenSheet, HandlerForCancelReplacesItForTheTitleBarAndTheKeyToo) {
+    EarlySheet sheet;
+    fx::ModalScript script;
+    script.Then([&] { pen::Tap(fx::FindCloseButton(sheet)); })
+        .Then([&] { pen::TypeKeys({VK_ESCAPE}); })
+        .Then([&] { sheet.PressButton(PSBTN_CANCEL); })
+        .Then([&] {
+            EXPECT_EQ(sheet.TakeLog(), "a.init a.set sheet.cancel sheet.cancel sheet.cancel ");
+            sheet.PressButton(PSBTN_OK);
+        });
+    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
+}
+
+TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
+    fx::Sheet sheet;
+    sheet.SetWizardMode();
+    fx::ModalScript script;
+    script.Then([&] {
+        EXPECT_EQ(fx::FindOkButton(sheet).x, -1);
+        const CRect page = fx::WindowRect(sheet.m_a.m_hWnd);
+        EXPECT_TRUE(Contains(InnerArea(), page));
+        CRect last;
+        for (const UINT nID : {ID_WIZBACK, ID_WIZNEXT, static_cast<UINT>(IDCANCEL)}) {
+            const CRect button = fx::WindowRect(sheet.Button(nID));
+            EXPECT_TRUE(sheet.ShowsButton(nID)) << nID;
+            EXPECT_TRUE(Contains(InnerArea(), button)) << nID;
+            CRect overlap;
+            EXPECT_FALSE(overlap.IntersectRect(button, page)) << nID;
+            EXPECT_FALSE(overlap.IntersectRect(button, last)) << nID;
+            last = button;
+        }
+        EXPECT_EQ(fx::WindowRect(sheet.Button(ID_WIZFINISH)), fx::WindowRect(sheet.Button(ID_WIZNEXT)));
+        sheet.EndDialog(1);
+    });
+    script.Run([&] { return sheet.DoModal(); });
+}
+
+TEST(PopupSheet, KeepsTheSystemsLayoutWithItsButtons) {
+    fx::Sheet sheet;
+    sheet.m_bFullScreen = FALSE;
+    fx::ModalScript script;
+    script.Then([&] {
+        EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
+        EXPECT_EQ(fx::FindOkButton(sheet).x, -1);
+        EXPECT_TRUE(sheet.ShowsButton(IDOK));
+        ::SendMessage(sheet.Button(IDOK), BM_CLICK, 0, 0);
+    });
+    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
+}
+
+TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
+    fx::Sheet sheet;
+    sheet.m_bFullScreen = FALSE;
+    ASSERT_TRUE(sheet.Create());
+    EXPECT_FALSE(sheet.ShowsButton(IDOK));
+    EXPECT_FALSE(sheet.ShowsButton(IDCANCEL));
+    const CRect window = fx::WindowRect(sheet.m_hWnd);
+    const CRect tabs = fx::WindowRect(sheet.GetTabControl()->m_hWnd);
+    EXPECT_LT(window.bottom - tabs.bottom, 30);
+    EXPECT_GT(window.bottom, tabs.bottom);
+}
+
+TEST(PopupSheet, CanBeAChildOfAWindow) {
+    fx::Frame frame(CSize(230, 250));
+    fx::Sheet sheet;
+    ASSERT_TRUE(sheet.Create(&frame, WS_CHILD | WS_VISIBLE));
+    EXPECT_EQ(::GetParent(sheet), frame.m_hWnd);
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    EXPECT_EQ(sheet.GetStyle() & WS_CAPTION, 0U);
+    EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr) << "never full screen";
+}
+
+} // namespace

@@ -1,0 +1,120 @@
+// Property sheets and pages that write down what happens to them.
+#pragma once
+
+#include "support/ModalScript.h"
+
+#include "afxdlgs.h"
+
+#include <string>
+
+namespace fx {
+
+constexpr UINT ID_PAGE_GENERAL = 300;
+constexpr UINT ID_PAGE_VIEW = 301;
+constexpr UINT ID_PAGE_WIDE = 302;
+constexpr UINT ID_PAGE_UNKNOWN = 303;
+constexpr int IDC_NUMBER = 10;
+
+/// A page with a number between 0 and 100.
+class Page : public CPropertyPage {
+public:
+    Page(std::string& log, const char* pszName, UINT nIDTemplate, UINT nIDCaption = 0)
+        : CPropertyPage(nIDTemplate, nIDCaption), m_log(log), m_name(pszName) {}
+
+    int m_nNumber = 0;
+    BOOL m_bApply = TRUE;
+    BOOL m_bCancel = TRUE;
+    bool m_bSawCreation = false;
+
+    BOOL OnInitDialog() override {
+        Log("init");
+        return CPropertyPage::OnInitDialog();
+    }
+    BOOL OnSetActive() override {
+        Log("set");
+        return CPropertyPage::OnSetActive();
+    }
+    BOOL OnKillActive() override {
+        Log("kill");
+        return CPropertyPage::OnKillActive();
+    }
+    BOOL OnApply() override {
+        Log("apply");
+        return m_bApply && CPropertyPage::OnApply();
+    }
+    BOOL OnQueryCancel() override { return m_bCancel; }
+    void OnOK() override { Log("ok"); }
+    void OnCancel() override { Log("cancel"); }
+    BOOL OnWizardFinish() override {
+        Log("finish");
+        return TRUE;
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        if (GetDlgItem(IDC_NUMBER) == nullptr)
+            return;
+        DDX_Text(pDX, IDC_NUMBER, m_nNumber);
+        DDV_MinMaxInt(pDX, m_nNumber, 0, 100);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_bSawCreation = m_bSawCreation || message == WM_NCCREATE;
+        return CPropertyPage::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    void Log(const char* pszEvent) { m_log += m_name + '.' + pszEvent + ' '; }
+
+    std::string& m_log;
+    std::string m_name;
+};
+
+/// A sheet of the pages a and b.
+class Sheet : public CPropertySheet {
+public:
+    Sheet() : CPropertySheet(L"設定") {
+        AddPage(&m_a);
+        AddPage(&m_b);
+    }
+    ~Sheet() override { DestroyWindow(); } // before the pages go
+
+    std::string m_log;
+    Page m_a{m_log, "a", ID_PAGE_GENERAL};
+    Page m_b{m_log, "b", ID_PAGE_VIEW};
+    bool m_bSawCreation = false;
+
+    std::string TakeLog() { return std::exchange(m_log, {}); }
+
+    HWND Button(UINT nID) const { return ::GetDlgItem(m_hWnd, static_cast<int>(nID)); }
+    bool ShowsButton(UINT nID) const { return (::GetWindowLong(Button(nID), GWL_STYLE) & WS_VISIBLE) != 0; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_bSawCreation = m_bSawCreation || message == WM_NCCREATE;
+        return CPropertySheet::WindowProc(message, wParam, lParam);
+    }
+};
+
+inline CRect WindowRect(HWND hWnd) {
+    CRect rect;
+    ::GetWindowRect(hWnd, rect);
+    return rect;
+}
+
+/// Where a window's title bar reacts as a button, from the right; (-1, -1) for nowhere.
+inline CPoint FindTitleButton(const CWnd& wnd, LRESULT lHit) {
+    const CRect rect = WindowRect(wnd.m_hWnd);
+    const int y = rect.top + AFX_DEVICE_BAR_HEIGHT / 2;
+    for (int x = rect.right - 1; x > rect.left; --x)
+        if (wnd.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, y)) == lHit)
+            return CPoint(x - 3, y);
+    return CPoint(-1, -1);
+}
+inline CPoint FindOkButton(const CWnd& wnd) {
+    return FindTitleButton(wnd, HTOBJECT);
+}
+inline CPoint FindCloseButton(const CWnd& wnd) {
+    return FindTitleButton(wnd, HTHELP);
+}
+
+} // namespace fx
