@@ -68,7 +68,7 @@ public:
     int Run() override;
 
 private:
-    HKEY OpenSectionKey(LPCTSTR lpszSection) const;
+    HKEY OpenSectionKey(LPCTSTR lpszSection, BOOL bWrite) const;
 
     CString m_strRegistryKey;
 };

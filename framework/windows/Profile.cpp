@@ -18,19 +18,22 @@ void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
 }
 
 /// The open key of a section; null if no registry key has been set or the system refuses.
-HKEY CWinApp::OpenSectionKey(LPCTSTR lpszSection) const {
+HKEY CWinApp::OpenSectionKey(LPCTSTR lpszSection, BOOL bWrite) const {
     if (m_strRegistryKey.IsEmpty())
         return nullptr;
     const CString strPath =
         CString(_T("Software\\")) + m_strRegistryKey + _T("\\") + m_pszProfileName + _T("\\") + lpszSection;
     HKEY hKey = nullptr;
-    ::RegCreateKeyEx(HKEY_CURRENT_USER, strPath, 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, &hKey,
-                     nullptr);
+    if (bWrite)
+        ::RegCreateKeyEx(HKEY_CURRENT_USER, strPath, 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, &hKey,
+                         nullptr);
+    else // looking must not leave an empty key behind
+        ::RegOpenKeyEx(HKEY_CURRENT_USER, strPath, 0, KEY_READ, &hKey);
     return hKey;
 }
 
 UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault) {
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, FALSE));
     DWORD dwValue = 0;
     DWORD dwType = 0;
     DWORD dwSize = sizeof dwValue;
@@ -40,13 +43,13 @@ UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault
 }
 
 BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue) {
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, TRUE));
     return ::RegSetValueEx(key.get(), lpszEntry, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&nValue),
                            sizeof nValue) == ERROR_SUCCESS;
 }
 
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault) {
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, FALSE));
     DWORD dwType = 0;
     DWORD dwSize = 0;
     if (::RegQueryValueEx(key.get(), lpszEntry, nullptr, &dwType, nullptr, &dwSize) != ERROR_SUCCESS ||
@@ -63,10 +66,10 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
 
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue) {
     if (lpszEntry == nullptr) {
-        const CKey key(OpenSectionKey(_T("")));
+        const CKey key(OpenSectionKey(_T(""), TRUE));
         return ::RegDeleteKey(key.get(), lpszSection) == ERROR_SUCCESS;
     }
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, TRUE));
     if (lpszValue == nullptr)
         return ::RegDeleteValue(key.get(), lpszEntry) == ERROR_SUCCESS;
     const auto nBytes = static_cast<DWORD>((wcslen(lpszValue) + 1) * sizeof(TCHAR));
@@ -77,7 +80,7 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
     *ppData = nullptr;
     *pBytes = 0;
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, FALSE));
     DWORD dwType = 0;
     DWORD dwSize = 0;
     if (::RegQueryValueEx(key.get(), lpszEntry, nullptr, &dwType, nullptr, &dwSize) != ERROR_SUCCESS ||
@@ -92,6 +95,6 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
 }
 
 BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes) {
-    const CKey key(OpenSectionKey(lpszSection));
+    const CKey key(OpenSectionKey(lpszSection, TRUE));
     return ::RegSetValueEx(key.get(), lpszEntry, 0, REG_BINARY, pData, nBytes) == ERROR_SUCCESS;
 }

@@ -65,7 +65,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
         if (!ContinueModal())
             break;
         if (!AfxPumpMessage()) { // WM_QUIT: end this loop, and let the outer ones see it too
-            AfxPostQuitMessage(static_cast<int>(CThreadState::Get().m_pThread->m_msgCur.wParam));
+            AfxPostQuitMessage(static_cast<int>(AfxGetThread()->m_msgCur.wParam));
             m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
             return -1;
         }
