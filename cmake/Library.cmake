@@ -18,6 +18,7 @@ if(WIN32)
   target_sources(fieldkit PRIVATE $<TARGET_OBJECTS:fieldkit_resources>)
   target_compile_definitions(fieldkit PRIVATE FIELDKIT_EXPORTS)
 else()
+  list(FILTER _sources EXCLUDE REGEX "/survey/AngleEdit\\.cpp$") # a control
   add_library(fieldkit STATIC ${_sources})
   target_compile_definitions(fieldkit PUBLIC FIELDKIT_STATIC)
 endif()

@@ -1,0 +1,140 @@
+#include "controls/IconButton.h"
+
+namespace {
+
+constexpr COLORREF PUSHED_BACKGROUND = RGB(0, 0, 0);
+constexpr COLORREF PUSHED_TEXT = RGB(255, 255, 255);
+
+/// How far the contents of a pressed button sink to the right and down.
+constexpr int SINK = 1;
+
+/// The device context that the system draws the next button with, too.
+class SavedDC {
+public:
+    explicit SavedDC(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
+    ~SavedDC() { m_dc.RestoreDC(m_nSaved); }
+    SavedDC(const SavedDC&) = delete;
+    SavedDC& operator=(const SavedDC&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_nSaved;
+};
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CIconButton, CButton)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+END_MESSAGE_MAP()
+// clang-format on
+
+BOOL CIconButton::Attach(UINT nID, CWnd* pParent, HICON hIcon, int nStyle) {
+    if (!SubclassDlgItem(nID, pParent))
+        return FALSE;
+    m_hIcon = hIcon;
+    m_nStyle = static_cast<UINT>(nStyle);
+    return TRUE;
+}
+
+void CIconButton::Redraw() {
+    if (m_hWnd != nullptr) // without a window the system would redraw all there are
+        Invalidate(FALSE);
+}
+
+HICON CIconButton::SetIcon(HICON hIcon) {
+    const HICON hOld = m_hIcon;
+    if (hIcon != hOld) {
+        m_hIcon = hIcon;
+        Redraw();
+    }
+    return hOld;
+}
+
+void CIconButton::SetIconSize(SIZE* pSize) {
+    if (pSize != nullptr)
+        m_sizeIcon = *pSize;
+}
+
+void CIconButton::SetButtonStyle(UINT nStyle) {
+    if (nStyle == m_nStyle)
+        return;
+    m_nStyle = nStyle;
+    if (!Has(StyleToggle))
+        m_bPush = FALSE;
+    Redraw();
+}
+
+void CIconButton::SetPush(BOOL bPush) {
+    const BOOL bNew = bPush ? TRUE : FALSE;
+    if (!Has(StyleToggle) || bNew == m_bPush)
+        return;
+    m_bPush = bNew;
+    Redraw();
+}
+
+BOOL CIconButton::GetPush() {
+    return m_bPush;
+}
+
+// --- Drawing ---------------------------------------------------------------------------------
+
+void CIconButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    const UINT nAction = lpDrawItemStruct->itemAction;
+    const UINT nState = lpDrawItemStruct->itemState;
+    CRect rect(lpDrawItemStruct->rcItem);
+    CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
+    const SavedDC saved(dc);
+    if (nAction & (ODA_DRAWENTIRE | ODA_SELECT))
+        DrawFace(dc, rect, (nState & ODS_SELECTED) != 0 || m_bPush);
+    if (!Has(StyleFocus) || ((nState & ODS_FOCUS) == 0 && (nAction & ODA_FOCUS) == 0))
+        return;
+    // Drawn by inverting: when the focus goes, the same drawing takes it away.
+    rect.DeflateRect(::GetSystemMetrics(SM_CXBORDER) + 1, ::GetSystemMetrics(SM_CYBORDER) + 1);
+    dc.DrawFocusRect(rect);
+}
+
+void CIconButton::DrawFace(CDC& dc, const CRect& rect, bool bPushed) const {
+    CRect frame = rect;
+    dc.DrawFrameControl(frame, DFC_BUTTON, static_cast<UINT>(DFCS_BUTTONPUSH | (bPushed ? DFCS_PUSHED : 0)));
+    CPoint place;
+    place.y = (rect.Height() - m_sizeIcon.cy) / 2;
+    place.x = Has(StyleText) ? place.y : (rect.Width() - m_sizeIcon.cx) / 2;
+    if (bPushed) {
+        place.Offset(SINK, SINK);
+        dc.SetBkColor(PUSHED_BACKGROUND);
+        dc.SetTextColor(PUSHED_TEXT);
+    }
+    ::DrawIconEx(dc, place.x, place.y, m_hIcon, 0, 0, 0, nullptr, DI_NORMAL);
+    if (!Has(StyleText))
+        return;
+    CRect text = rect;
+    text.left = 2 * place.x + m_sizeIcon.cx; // the same margin on both sides of the icon
+    if (bPushed)
+        text.OffsetRect(0, SINK);
+    CString str;
+    GetWindowText(str);
+    dc.DrawText(str, text, DT_SINGLELINE | DT_VCENTER);
+}
+
+// --- Stylus ----------------------------------------------------------------------------------
+
+void CIconButton::OnLButtonDown(UINT, CPoint) {
+    Default();
+}
+
+void CIconButton::OnLButtonUp(UINT, CPoint point) {
+    CRect client;
+    GetClientRect(client);
+    if (Has(StyleToggle) && client.PtInRect(point))
+        m_bPush = !m_bPush;
+    Default();
+}
+
+/// The second of two quick taps is a press like the first, so that none is lost.
+void CIconButton::OnLButtonDblClk(UINT, CPoint) {
+    GetCurrentMessage()->message = WM_LBUTTONDOWN;
+    Default();
+}

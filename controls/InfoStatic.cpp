@@ -1,0 +1,53 @@
+#include "controls/InfoStatic.h"
+
+#include <Tesuvo.h>
+
+namespace {
+
+constexpr int ICON_INFORMATION = 39;
+constexpr int INDENT = 2;
+constexpr int INDENT_BEHIND_ICON = 16;
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CInfoStatic, CStatic)
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+// clang-format on
+
+void CInfoStatic::SetOption(DWORD dwOption) {
+    m_dwOption = dwOption;
+}
+
+void CInfoStatic::SetBkColor(DWORD crColor) {
+    m_crBk = crColor;
+}
+
+void CInfoStatic::OnPaint() {
+    CPaintDC dc(this);
+    CRect rect;
+    GetClientRect(rect);
+    dc.FillSolidRect(rect, m_crBk);
+    int nIndent = INDENT;
+    if (m_dwOption & OptionIcon) {
+        ::DrawIconEx(dc, 0, 0, TVGetCommonIcon(ICON_INFORMATION), 0, 0, 0, nullptr, DI_NORMAL);
+        nIndent = INDENT_BEHIND_ICON;
+    }
+    CString str;
+    GetWindowText(str);
+    dc.SetBkMode(OPAQUE);
+    dc.SetBkColor(m_crBk);
+    rect.left += nIndent;
+    // The dialog's font. A static without one has the system's, as the device context has.
+    CFont* const pFont = GetFont();
+    CFont* const pOldFont = pFont != nullptr ? dc.SelectObject(pFont) : nullptr;
+    dc.DrawText(str, rect, DT_SINGLELINE | DT_VCENTER);
+    if (pOldFont != nullptr)
+        dc.SelectObject(pOldFont);
+}
+
+void CInfoStatic::OnLButtonDown(UINT, CPoint) {
+    Default();
+}

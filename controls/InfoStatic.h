@@ -1,0 +1,33 @@
+/// @file
+/// CInfoStatic: a static text on a colour of its own, with an information icon on request.
+#pragma once
+
+#include <afxwin.h>
+
+#include "geometry/Export.h"
+
+/// A one-line static text. Neither setter redraws: invalidate the control if it is visible.
+class FIELDKIT_API CInfoStatic : public CStatic {
+public:
+    /// Bits of the option word.
+    enum Option : DWORD {
+        OptionIcon = 0x1, ///< The shared information icon stands before the text.
+    };
+
+    CInfoStatic() = default;
+
+    /// Replaces the option word.
+    void SetOption(DWORD dwOption);
+    /// Sets the colour behind the text, white at first.
+    void SetBkColor(DWORD crColor);
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    COLORREF m_crBk = RGB(255, 255, 255);
+    DWORD m_dwOption = 0;
+};

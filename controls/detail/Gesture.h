@@ -1,0 +1,8 @@
+// The answer of the controls to the device's question about press-and-hold.
+#pragma once
+
+#include <afxwin.h>
+
+/// Result of NM_RECOGNIZEGESTURE: the control has dealt with the stylus, so the device shows
+/// neither its tap-and-hold circle nor a context menu.
+constexpr LRESULT GESTURE_HANDLED = 1;

@@ -1,0 +1,41 @@
+#include "controls/nListCtrl.h"
+
+#include "controls/detail/Gesture.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CnListCtrl, CListCtrl)
+    ON_WM_LBUTTONDOWN()
+    ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, &CnListCtrl::OnItemchanged)
+    ON_NOTIFY_REFLECT(NM_RECOGNIZEGESTURE, &CnListCtrl::OnRecognizeGesture)
+END_MESSAGE_MAP()
+// clang-format on
+
+void CnListCtrl::SetOption(DWORD dwOption) {
+    m_dwOption = dwOption;
+}
+
+void CnListCtrl::OnLButtonDown(UINT, CPoint) {
+    Default();
+}
+
+void CnListCtrl::OnItemchanged(NMHDR*, LRESULT* pResult) {
+    *pResult = 0;
+    if ((m_dwOption & OptionNoSelection) != 0 && !m_bClearing)
+        ClearSelection();
+}
+
+/// Each item that is cleared brings a notification of its own. They are not answered one in
+/// the other, which would use up the stack for a long list with everything selected.
+void CnListCtrl::ClearSelection() {
+    constexpr UINT MASK = LVIS_SELECTED | LVIS_FOCUSED;
+    m_bClearing = true;
+    for (int nLast = -1, nItem = -1; (nItem = GetNextItem(nLast, LVNI_SELECTED)) > nLast; nLast = nItem)
+        SetItemState(nItem, ~MASK, MASK);
+    m_bClearing = false;
+    // An item with the focus alone may keep it.
+    GetNextItem(-1, LVNI_FOCUSED);
+}
+
+void CnListCtrl::OnRecognizeGesture(NMHDR*, LRESULT* pResult) {
+    *pResult = GESTURE_HANDLED;
+}

@@ -1,0 +1,22 @@
+#include "controls/nPropertyPage.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CnPropertyPage, CPropertyPage)
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+// clang-format on
+
+CnPropertyPage::CnPropertyPage(int nIDTemplate) : CPropertyPage(static_cast<UINT>(nIDTemplate)) {}
+
+void CnPropertyPage::DoDataExchange(CDataExchange* pDX) {
+    CPropertyPage::DoDataExchange(pDX);
+}
+
+BOOL CnPropertyPage::OnInitDialog() {
+    CDialog::OnInitDialog();
+    return TRUE;
+}
+
+void CnPropertyPage::OnLButtonDown(UINT, CPoint) {
+    Default();
+}

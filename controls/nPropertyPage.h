@@ -1,0 +1,23 @@
+/// @file
+/// CnPropertyPage: a page of a CnPropertySheet.
+#pragma once
+
+#include <afxdlgs.h>
+
+#include "geometry/Export.h"
+
+/// A page of a property sheet that is set up like a plain dialog.
+class FIELDKIT_API CnPropertyPage : public CPropertyPage {
+public:
+    /// @param nIDTemplate template, searched in the application and in the library; its
+    ///                    title is the text of the tab
+    explicit CnPropertyPage(int nIDTemplate);
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+
+    DECLARE_MESSAGE_MAP()
+};

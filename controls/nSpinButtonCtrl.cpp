@@ -1,0 +1,18 @@
+#include "controls/nSpinButtonCtrl.h"
+
+#include "controls/detail/Gesture.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CnSpinButtonCtrl, CSpinButtonCtrl)
+    ON_WM_LBUTTONDOWN()
+    ON_NOTIFY_REFLECT(NM_RECOGNIZEGESTURE, &CnSpinButtonCtrl::OnRecognizeGesture)
+END_MESSAGE_MAP()
+// clang-format on
+
+void CnSpinButtonCtrl::OnLButtonDown(UINT, CPoint) {
+    Default();
+}
+
+void CnSpinButtonCtrl::OnRecognizeGesture(NMHDR*, LRESULT* pResult) {
+    *pResult = GESTURE_HANDLED;
+}

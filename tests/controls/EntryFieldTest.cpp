@@ -1,0 +1,124 @@
+// The entry fields and the soft input panel.
+#include "SipCalls.h"
+#include "Stage.h"
+
+#include "controls/nComboBox.h"
+#include "controls/nEdit.h"
+
+namespace {
+
+constexpr int IDC_EDIT = 100;
+constexpr int IDC_COMBO = 101;
+constexpr int IDC_OTHER = 102;
+constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;
+
+/// An edit, a combo box and a plain edit to go to.
+class FieldStage : public fx::Stage {
+public:
+    FieldStage() {
+        CreateItem(WC_EDIT, IDC_EDIT, WS_BORDER, CRect(5, 5, 150, 25));
+        CreateItem(WC_COMBOBOX, IDC_COMBO, CBS_DROPDOWN, CRect(5, 35, 150, 120));
+        CreateItem(WC_EDIT, IDC_OTHER, WS_BORDER, CRect(5, 65, 150, 85)); // above the panel
+    }
+    ~FieldStage() override { DestroyWindow(); } // before the fields
+
+    void TapOther() { Tap(*GetDlgItem(IDC_OTHER)); }
+
+    CnEdit m_edit;
+    CnComboBox m_combo;
+
+private:
+    void CreateItem(LPCTSTR pszClass, int nID, DWORD dwStyle, CRect rect) {
+        ::CreateWindowEx(0, pszClass, nullptr, VISIBLE_CHILD | dwStyle, rect.left, rect.top, rect.Width(),
+                         rect.Height(), m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(nID)), nullptr,
+                         nullptr);
+    }
+};
+
+TEST(EntryField, OptionDecidesThePanelsMode) {
+    constexpr int NONE = -2;
+    const struct {
+        DWORD dwOption;
+        int nMode;
+    } rows[] = {{0x0, NONE}, {0x1, 0}, {0x2, 1},    {0x3, 0}, {0x4, 2},   {0x5, 0},          {0x6, 1},
+                {0x7, 0},    {0x9, 0}, {0x8, NONE}, {0xE, 1}, {0x10C, 2}, {0xFFFFFFF8, NONE}};
+    for (const auto& row : rows) {
+        fx::SipCalls calls;
+        FieldStage stage;
+        ASSERT_TRUE(stage.m_edit.Attach(IDC_EDIT, &stage, row.dwOption));
+        ASSERT_TRUE(stage.m_combo.Attach(IDC_COMBO, &stage, row.dwOption));
+        for (const CWnd* pField : {static_cast<CWnd*>(&stage.m_edit), static_cast<CWnd*>(&stage.m_combo)}) {
+            stage.TapOther();
+            calls.Take();
+            stage.Tap(*pField);
+            const std::vector<int> shown = row.nMode == NONE ? std::vector<int>() : std::vector{row.nMode};
+            EXPECT_EQ(calls.Take(), shown) << row.dwOption;
+            stage.TapOther();
+            const std::vector<int> closed =
+                row.nMode == NONE ? std::vector<int>() : std::vector{fx::SipCalls::CLOSE};
+            EXPECT_EQ(calls.Take(), closed) << row.dwOption;
+        }
+    }
+}
+
+TEST(EntryField, GoingFromFieldToFieldEndsWithThePanelOfTheLast) {
+    fx::SipCalls calls;
+    FieldStage stage;
+    stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1);
+    stage.m_combo.Attach(IDC_COMBO, &stage, SipOptionMode2);
+    stage.Tap(stage.m_edit);
+    stage.Tap(stage.m_combo);
+    stage.Tap(stage.m_edit);
+    constexpr int CLOSE = fx::SipCalls::CLOSE;
+    EXPECT_EQ(calls.Take(), (std::vector{1, CLOSE, 2, CLOSE, 1}));
+}
+
+TEST(EntryField, ThePanelItselfComesAndGoesAndLeavesTheFocus) {
+    FieldStage stage;
+    stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1);
+    stage.TapOther();
+    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+    stage.Tap(stage.m_edit);
+    EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
+    EXPECT_EQ(::GetFocus(), stage.m_edit.m_hWnd);
+    stage.Type({'1', '2'});
+    CString str;
+    stage.m_edit.GetWindowText(str);
+    EXPECT_EQ(str, L"12");
+    stage.TapOther();
+    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+}
+
+TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {
+    fx::SipCalls calls;
+    FieldStage stage;
+    EXPECT_FALSE(stage.m_edit.Attach(999, &stage, SipOptionMode2));
+    EXPECT_FALSE(stage.m_edit.Attach(IDC_EDIT, nullptr, SipOptionMode1));
+    EXPECT_FALSE(stage.m_combo.Attach(999, &stage, SipOptionMode2));
+    ASSERT_TRUE(stage.m_edit.SubclassDlgItem(IDC_EDIT, &stage));
+    ASSERT_TRUE(stage.m_combo.SubclassDlgItem(IDC_COMBO, &stage));
+    EXPECT_FALSE(stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1)) << "it has a field already";
+    stage.Tap(stage.m_edit);
+    stage.TapOther();
+    stage.Tap(stage.m_combo);
+    EXPECT_EQ(calls.Take(), (std::vector{1, fx::SipCalls::CLOSE, 2}));
+}
+
+TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
+    FieldStage stage;
+    stage.m_edit.Attach(IDC_EDIT, &stage, 0);
+    stage.m_combo.Attach(IDC_COMBO, &stage, 0);
+    stage.m_edit.SetWindowText(L"測点 A12");
+    CPoint point = stage.m_edit.PosFromChar(4) + CPoint(1, 4);
+    stage.m_edit.ClientToScreen(&point);
+    stage.Tap(point);
+    EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(4, 4)));
+    stage.Tap(point);
+    EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(3, 6)));
+    CRect rect;
+    stage.m_combo.GetWindowRect(rect);
+    stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
+    EXPECT_TRUE(stage.m_combo.GetDroppedState());
+}
+
+} // namespace

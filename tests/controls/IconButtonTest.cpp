@@ -1,0 +1,256 @@
+// The icon button, on the screen and under the stylus.
+#include "Pixels.h"
+#include "Stage.h"
+
+#include "controls/IconButton.h"
+
+namespace {
+
+constexpr int IDC_BUTTON = 1;
+constexpr DWORD STYLE = WS_CHILD | WS_VISIBLE | BS_OWNERDRAW;
+
+class ButtonStage : public fx::Stage {
+public:
+    explicit ButtonStage(CSize size = {60, 24}, UINT nStyle = 0, LPCTSTR pszText = L"") {
+        ::CreateWindowEx(0, WC_BUTTON, pszText, STYLE, 20, 20, size.cx, size.cy, m_hWnd,
+                         reinterpret_cast<HMENU>(IDC_BUTTON), nullptr, nullptr);
+        EXPECT_TRUE(m_button.Attach(IDC_BUTTON, this, m_icon, static_cast<int>(nStyle)));
+    }
+    ~ButtonStage() override { DestroyWindow(); } // before the button
+
+    fx::Image Look() { return fx::Image::Of(m_button); }
+    CRect IconPlace() {
+        const auto image = Look();
+        return image.Around(image.Rect(), fx::MAGENTA);
+    }
+    bool AwaitsRedraw() const { return ::GetUpdateRect(m_button, nullptr, FALSE) != FALSE; }
+
+    fx::SquareIcon m_icon;
+    CIconButton m_button;
+};
+
+// --- Pixels ------------------------------------------------------------------------------
+
+TEST(IconButton, IconStandsInTheMiddleOrAtTheLeftAndSinksWhenPressed) {
+    const struct {
+        CSize button;
+        CSize icon;
+        UINT nStyle;
+        CPoint place;
+    } rows[] = {
+        {{60, 24}, {16, 16}, 0, {22, 4}},
+        {{60, 24}, {16, 16}, CIconButton::StyleText, {4, 4}},
+        {{61, 25}, {16, 16}, 0, {22, 4}},
+        {{61, 25}, {16, 16}, CIconButton::StyleText, {4, 4}},
+        // The size told decides the place, the icon keeps its own.
+        {{60, 40}, {32, 32}, 0, {14, 4}},
+        {{60, 40}, {8, 20}, CIconButton::StyleText, {10, 10}},
+    };
+    for (const auto& row : rows) {
+        ButtonStage stage(row.button, row.nStyle);
+        SIZE size = row.icon;
+        stage.m_button.SetIconSize(&size);
+        EXPECT_EQ(stage.IconPlace(), CRect(row.place, CSize(16, 16))) << row.place.x;
+        stage.m_button.SetState(TRUE);
+        EXPECT_EQ(stage.IconPlace(), CRect(row.place + CSize(1, 1), CSize(16, 16))) << row.place.x;
+    }
+}
+
+TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
+    ButtonStage stage({120, 24}, CIconButton::StyleText, L"HHH");
+    const CRect inside(22, 3, 116, 21);
+    const auto released = stage.Look();
+    stage.m_button.SetState(TRUE);
+    const auto pressed = stage.Look();
+    EXPECT_TRUE(released.Has(inside, ::GetSysColor(COLOR_BTNTEXT)));
+    EXPECT_TRUE(pressed.Has(inside, fx::WHITE));
+    const CRect text = released.Around(inside, ::GetSysColor(COLOR_BTNTEXT));
+    const CRect pressedText = pressed.Around(inside, fx::WHITE);
+    EXPECT_GE(text.left, 24);
+    EXPECT_LE(text.left, 27);
+    EXPECT_NEAR(text.CenterPoint().y, 12, 2);
+    EXPECT_EQ(pressedText, text + CPoint(2, 1));
+}
+
+TEST(IconButton, LatchedLooksPressed) {
+    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
+    stage.m_button.SetState(TRUE);
+    const auto pressed = stage.Look();
+    stage.m_button.SetState(FALSE);
+    stage.m_button.SetPush(TRUE);
+    EXPECT_TRUE(stage.Look().Difference(pressed).IsRectEmpty());
+}
+
+TEST(IconButton, FocusRectangleOnlyWithItsStyle) {
+    for (const UINT nStyle : {0U, static_cast<UINT>(CIconButton::StyleFocus)}) {
+        ButtonStage stage({60, 24}, nStyle);
+        const auto without = stage.Look();
+        stage.m_button.SetFocus();
+        fx::Pump();
+        const CRect frame = stage.Look().Difference(without);
+        EXPECT_EQ(frame, nStyle != 0 ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0));
+        stage.SetFocus();
+        fx::Pump();
+        CClientDC dc(&stage.m_button); // as it stands: the same drawing has taken it away
+        EXPECT_TRUE(fx::Image(dc, {60, 24}).Difference(without).IsRectEmpty());
+    }
+}
+
+TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
+    const struct {
+        UINT nAction;
+        UINT nState;
+        bool bFace;
+        bool bFocus;
+    } rows[] = {
+        {ODA_DRAWENTIRE, 0, true, false},
+        {ODA_SELECT, ODS_SELECTED, true, false},
+        {ODA_SELECT, ODS_SELECTED | ODS_FOCUS, true, true},
+        {ODA_FOCUS, ODS_FOCUS, false, true},
+        {ODA_FOCUS, 0, false, true}, // takes it away
+        {0, ODS_FOCUS, false, true},
+        {0, ODS_SELECTED, false, false},
+    };
+    const CSize SIZE_ = {60, 24};
+    constexpr COLORREF PAPER = RGB(10, 20, 30);
+    ButtonStage stage(SIZE_, CIconButton::StyleFocus);
+    CClientDC screen(&stage);
+    for (const auto& row : rows) {
+        CDC dc;
+        dc.CreateCompatibleDC(&screen);
+        CBitmap bitmap;
+        bitmap.CreateCompatibleBitmap(&screen, SIZE_.cx, SIZE_.cy);
+        CBitmap* const pOld = dc.SelectObject(&bitmap);
+        dc.FillSolidRect(CRect(CPoint(), SIZE_), PAPER);
+        dc.SetTextColor(RGB(1, 1, 1));
+        dc.SetBkColor(RGB(2, 2, 2));
+        DRAWITEMSTRUCT item = {};
+        item.CtlType = ODT_BUTTON;
+        item.itemAction = row.nAction;
+        item.itemState = row.nState;
+        item.hwndItem = stage.m_button;
+        item.hDC = dc;
+        item.rcItem = CRect(CPoint(), SIZE_);
+        stage.m_button.DrawItem(&item);
+        const fx::Image image(dc, SIZE_);
+        const std::string what = std::to_string(row.nAction) + ' ' + std::to_string(row.nState);
+        EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), row.bFace) << what;
+        if (!row.bFace) {
+            const CRect drawn =
+                image.Around(image.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != PAPER; });
+            EXPECT_EQ(drawn, row.bFocus ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0)) << what;
+        }
+        EXPECT_EQ(dc.GetTextColor(), RGB(1, 1, 1)) << what;
+        EXPECT_EQ(dc.GetBkColor(), RGB(2, 2, 2)) << what;
+        dc.SelectObject(pOld);
+    }
+}
+
+// --- Stylus ------------------------------------------------------------------------------
+
+TEST(IconButton, TapsClickAndFlipAToggleButtonOnly) {
+    for (const bool bToggle : {false, true}) {
+        ButtonStage stage({60, 24}, bToggle ? CIconButton::StyleToggle : 0U);
+        stage.Tap(stage.m_button);
+        EXPECT_EQ(stage.Count(IDC_BUTTON, BN_CLICKED), 1);
+        EXPECT_EQ(stage.m_button.GetPush(), bToggle);
+        EXPECT_EQ(stage.IconPlace().top, bToggle ? 5 : 4);
+    }
+}
+
+TEST(IconButton, EachOfSeveralQuickTapsIsAClick) {
+    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
+    const CPoint point = pen::Middle(stage.m_button);
+    for (int i = 0; i < 2; ++i)
+        pen::Tap(point);
+    stage.Tap(point);
+    EXPECT_EQ(stage.Count(IDC_BUTTON, BN_CLICKED), 3);
+    EXPECT_EQ(stage.Count(IDC_BUTTON, BN_DOUBLECLICKED), 0);
+    EXPECT_TRUE(stage.m_button.GetPush());
+}
+
+TEST(IconButton, ReleaseOutsideDoesNothing) {
+    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
+    CRect rect;
+    stage.m_button.GetWindowRect(rect);
+    // The right and bottom edges are outside already.
+    for (const CPoint end : {CPoint(rect.right, rect.top + 5), CPoint(rect.left + 5, rect.bottom),
+                             rect.BottomRight() + CSize(30, 30), rect.TopLeft() - CSize(3, 3)}) {
+        stage.Drag(rect.CenterPoint(), end);
+        EXPECT_FALSE(stage.m_button.GetPush()) << end.x << ' ' << end.y;
+    }
+    EXPECT_EQ(stage.Count(IDC_BUTTON, BN_CLICKED), 0);
+    stage.Drag(rect.CenterPoint(), rect.BottomRight() - CSize(1, 1));
+    EXPECT_TRUE(stage.m_button.GetPush());
+}
+
+// --- State -------------------------------------------------------------------------------
+
+TEST(IconButton, PushStateBelongsToToggleButtons) {
+    ButtonStage stage;
+    CIconButton& button = stage.m_button;
+    stage.Look();
+    button.SetPush(TRUE);
+    EXPECT_FALSE(button.GetPush());
+    EXPECT_FALSE(stage.AwaitsRedraw());
+    button.SetButtonStyle(CIconButton::StyleToggle);
+    button.SetPush(2);
+    EXPECT_EQ(button.GetPush(), TRUE);
+    button.SetButtonStyle(CIconButton::StyleToggle | CIconButton::StyleText);
+    EXPECT_TRUE(button.GetPush()) << "still a toggle button";
+    button.SetButtonStyle(CIconButton::StyleText);
+    EXPECT_FALSE(button.GetPush());
+    button.SetButtonStyle(CIconButton::StyleToggle);
+    EXPECT_FALSE(button.GetPush()) << "it has come up for good";
+}
+
+TEST(IconButton, RedrawsForChangesOnly) {
+    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
+    CIconButton& button = stage.m_button;
+    const fx::SquareIcon other;
+    SIZE size = {8, 8};
+    const struct {
+        const char* what;
+        std::function<void()> change;
+        bool bRedraws;
+    } rows[] = {
+        {"same icon", [&] { EXPECT_EQ(button.SetIcon(stage.m_icon), stage.m_icon); }, false},
+        {"other icon", [&] { EXPECT_EQ(button.SetIcon(other), stage.m_icon); }, true},
+        {"no icon", [&] { EXPECT_EQ(button.SetIcon(nullptr), other); }, true},
+        {"size", [&] { button.SetIconSize(&size); }, false},
+        {"no size", [&] { button.SetIconSize(nullptr); }, false},
+        {"same style", [&] { button.SetButtonStyle(CIconButton::StyleToggle); }, false},
+        {"pushed", [&] { button.SetPush(TRUE); }, true},
+        {"pushed again", [&] { button.SetPush(5); }, false},
+        {"other style", [&] { button.SetButtonStyle(0); }, true},
+    };
+    for (const auto& row : rows) {
+        stage.Look();
+        row.change();
+        EXPECT_EQ(stage.AwaitsRedraw(), row.bRedraws) << row.what;
+    }
+}
+
+TEST(IconButton, FailedAttachChangesNothing) {
+    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
+    EXPECT_FALSE(stage.m_button.Attach(99, &stage, nullptr, 0));
+    EXPECT_FALSE(stage.m_button.Attach(IDC_BUTTON, nullptr, nullptr, 0));
+    stage.m_button.SetPush(TRUE);
+    EXPECT_TRUE(stage.m_button.GetPush());
+    EXPECT_EQ(stage.m_button.SetIcon(nullptr), stage.m_icon);
+}
+
+TEST(IconButton, BeforeItsWindowItTouchesNoOther) {
+    fx::Frame bystander;
+    fx::Pump();
+    bystander.RedrawWindow();
+    CIconButton button;
+    fx::SquareIcon icon;
+    button.SetIcon(icon);
+    button.SetButtonStyle(CIconButton::StyleToggle);
+    button.SetPush(TRUE);
+    EXPECT_FALSE(::GetUpdateRect(bystander, nullptr, FALSE));
+    EXPECT_TRUE(button.GetPush());
+}
+
+} // namespace

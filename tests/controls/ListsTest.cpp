@@ -1,0 +1,139 @@
+// List box, list view, tree view and up-down control under the stylus.
+#include "Stage.h"
+
+#include "controls/nListBox.h"
+#include "controls/nListCtrl.h"
+#include "controls/nSpinButtonCtrl.h"
+#include "controls/nTreeCtrl.h"
+
+namespace {
+
+constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;
+constexpr UINT SELECTED_AND_FOCUSED = LVIS_SELECTED | LVIS_FOCUSED;
+
+/// All four controls, with something in them.
+class ListStage : public fx::Stage {
+public:
+    ListStage() {
+        m_listBox.Create(VISIBLE_CHILD | LBS_NOTIFY, CRect(5, 5, 105, 85), this, 1);
+        m_list.Create(VISIBLE_CHILD | LVS_LIST, CRect(110, 5, 215, 85), this, 2);
+        m_tree.Create(VISIBLE_CHILD, CRect(5, 90, 105, 170), this, 3);
+        m_spin.Create(VISIBLE_CHILD, CRect(110, 90, 130, 130), this, 4);
+        for (const LPCTSTR psz : {L"P1", L"P2", L"P3"}) {
+            m_listBox.AddString(psz);
+            m_list.InsertItem(m_list.GetItemCount(), psz);
+            m_tree.InsertItem(psz);
+        }
+        m_spin.SetRange(0, 9);
+    }
+    ~ListStage() override { DestroyWindow(); } // before the controls
+
+    void TapItem(int nItem) {
+        CRect rect;
+        m_list.GetItemRect(nItem, rect, LVIR_LABEL);
+        m_list.ClientToScreen(rect);
+        Tap(rect.CenterPoint());
+    }
+    UINT State(int nItem) const { return m_list.GetItemState(nItem, SELECTED_AND_FOCUSED); }
+
+    CnListBox m_listBox;
+    CnListCtrl m_list;
+    CnTreeCtrl m_tree;
+    CnSpinButtonCtrl m_spin;
+};
+
+TEST(Lists, PressAndHoldIsAnsweredAsDealtWith) {
+    ListStage stage;
+    for (const CWnd* pWnd : {static_cast<CWnd*>(&stage.m_listBox), static_cast<CWnd*>(&stage.m_list),
+                             static_cast<CWnd*>(&stage.m_tree), static_cast<CWnd*>(&stage.m_spin)}) {
+        EXPECT_EQ(stage.Notify(*pWnd, NM_RECOGNIZEGESTURE), 1) << pWnd->GetDlgCtrlID();
+        EXPECT_EQ(stage.Count(pWnd->GetDlgCtrlID(), NM_RECOGNIZEGESTURE), 0) << pWnd->GetDlgCtrlID();
+    }
+}
+
+TEST(Lists, TapsDoWhatTheControlsDo) {
+    ListStage stage;
+    CRect rect;
+    stage.m_listBox.GetItemRect(1, rect);
+    stage.m_listBox.ClientToScreen(rect);
+    stage.Tap(rect.CenterPoint());
+    EXPECT_EQ(stage.m_listBox.GetCurSel(), 1);
+    stage.TapItem(2);
+    EXPECT_EQ(stage.State(2), SELECTED_AND_FOCUSED);
+    const HTREEITEM hItem = stage.m_tree.GetNextItem(stage.m_tree.GetRootItem(), TVGN_NEXT);
+    stage.m_tree.GetItemRect(hItem, rect, TRUE);
+    stage.m_tree.ClientToScreen(rect);
+    stage.Tap(rect.CenterPoint());
+    EXPECT_EQ(stage.m_tree.GetSelectedItem(), hItem);
+    stage.m_spin.GetWindowRect(rect);
+    stage.Tap(CPoint(rect.CenterPoint().x, rect.bottom - 5));
+    stage.Tap(CPoint(rect.CenterPoint().x, rect.bottom - 5));
+    EXPECT_NE(stage.m_spin.GetPos(), 0);
+}
+
+// --- No selection ------------------------------------------------------------------------
+
+TEST(ListCtrl, WithoutSelectionNeitherTapNorKeysLeaveAny) {
+    ListStage stage;
+    stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
+    stage.TapItem(1);
+    stage.TapItem(2);
+    stage.Type({VK_UP, VK_SPACE, VK_HOME});
+    EXPECT_EQ(::GetFocus(), stage.m_list.m_hWnd);
+    EXPECT_EQ(stage.m_list.GetNextItem(-1, LVNI_SELECTED), -1);
+    EXPECT_EQ(stage.m_list.GetNextItem(-1, LVNI_FOCUSED), -1);
+}
+
+TEST(ListCtrl, OptionIsReplacedNotAdded) {
+    ListStage stage;
+    stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
+    stage.m_list.SetOption(0x2);
+    stage.TapItem(1);
+    EXPECT_EQ(stage.State(1), SELECTED_AND_FOCUSED);
+}
+
+TEST(ListCtrl, FocusWithoutSelectionStays) {
+    ListStage stage;
+    stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
+    stage.m_list.SetItemState(1, LVIS_FOCUSED, SELECTED_AND_FOCUSED);
+    EXPECT_EQ(stage.State(1), static_cast<UINT>(LVIS_FOCUSED));
+    stage.m_list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(stage.State(2), 0U);
+}
+
+TEST(ListCtrl, EverythingSelectedInALongListIsCleared) {
+    ListStage stage;
+    constexpr int ITEMS = 5000;
+    stage.m_list.SetRedraw(FALSE);
+    for (int i = stage.m_list.GetItemCount(); i < ITEMS; ++i)
+        stage.m_list.InsertItem(i, L"P");
+    stage.m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    ASSERT_EQ(stage.m_list.GetSelectedCount(), static_cast<UINT>(ITEMS));
+    stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
+    stage.m_list.SetItemState(7, LVIS_FOCUSED, LVIS_FOCUSED);
+    EXPECT_EQ(stage.m_list.GetSelectedCount(), 0U);
+}
+
+TEST(ListCtrl, ItemsThatRefuseToBeClearedDoNotHangIt) {
+    class Refusing : public CnListCtrl {
+    protected:
+        BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
+            const auto* const pView = reinterpret_cast<const NMLISTVIEW*>(lParam);
+            if (message != WM_NOTIFY || pView->hdr.code != LVN_ITEMCHANGING)
+                return CnListCtrl::OnChildNotify(message, wParam, lParam, pResult);
+            *pResult = (pView->uOldState & LVIS_SELECTED) != 0;
+            return TRUE;
+        }
+    };
+    fx::Stage stage;
+    Refusing list;
+    ASSERT_TRUE(list.Create(VISIBLE_CHILD | LVS_LIST, CRect(5, 5, 105, 85), &stage, 5));
+    list.InsertItem(0, L"P1");
+    list.InsertItem(1, L"P2");
+    list.SetOption(CnListCtrl::OptionNoSelection);
+    list.SetItemState(0, SELECTED_AND_FOCUSED, SELECTED_AND_FOCUSED);
+    list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(list.GetSelectedCount(), 2U);
+}
+
+} // namespace

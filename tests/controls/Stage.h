@@ -1,0 +1,75 @@
+// A window with controls to tap on.
+#pragma once
+
+#include "support/FrameworkEnvironment.h"
+#include "support/PenInput.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace fx {
+
+/// Handles messages until a condition holds, 3 seconds at most. @return whether it holds
+inline bool WaitFor(const std::function<bool()>& condition) {
+    const ULONGLONG nDeadline = ::GetTickCount64() + 3000;
+    while (!condition() && ::GetTickCount64() < nDeadline) {
+        ::Sleep(1);
+        Pump();
+    }
+    return condition();
+}
+
+/// Whether the soft input panel is on the screen; it comes and goes in its own time.
+inline bool PanelIsVisible() {
+    return ::IsWindowVisible(::FindWindow(L"TesuvoInputPanel", nullptr)) != FALSE;
+}
+
+/// An active window that knows which notifications its controls let through to it.
+class Stage : public Frame {
+public:
+    Stage() : Frame(CSize(220, 180)) {
+        SetForegroundWindow();
+        Pump();
+    }
+
+    void Tap(CPoint screenPoint) {
+        pen::Tap(screenPoint);
+        Settle();
+    }
+    void Tap(const CWnd& wnd) { Tap(pen::Middle(wnd)); }
+    void Drag(CPoint from, CPoint to) {
+        pen::Drag(from, to);
+        Settle();
+    }
+    void Type(std::initializer_list<WORD> keys) {
+        pen::TypeKeys(keys);
+        Settle();
+    }
+
+    /// Sends a notification as a control would. @return the answer
+    LRESULT Notify(const CWnd& from, UINT nCode) {
+        NMHDR header = {from.m_hWnd, static_cast<UINT_PTR>(from.GetDlgCtrlID()), nCode};
+        return SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    }
+
+    /// How often a notification has come through.
+    int Count(int nID, UINT nCode) const {
+        return static_cast<int>(std::count(m_seen.begin(), m_seen.end(), std::pair(nID, nCode)));
+    }
+
+protected:
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
+        m_seen.emplace_back(static_cast<int>(nID), static_cast<UINT>(nCode));
+        return Frame::OnCmdMsg(nID, nCode, pExtra, pInfo);
+    }
+
+private:
+    static void Settle() {
+        ::Sleep(5); // the system hands input on in its own time
+        Pump();
+    }
+
+    std::vector<std::pair<int, UINT>> m_seen;
+};
+
+} // namespace fx

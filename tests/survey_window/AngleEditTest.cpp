@@ -1,0 +1,304 @@
+// The angle field: what it shows, what it takes, and when.
+#include "controls/Stage.h"
+
+#include "survey/AngleEdit.h"
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr int IDC_ANGLE = 100;
+constexpr int IDC_OTHER = 101;
+constexpr double PI = 3.141592653589793;
+constexpr double INF = std::numeric_limits<double>::infinity();
+constexpr int WHOLE = CAngleEdit::WHOLE_SECONDS;
+constexpr int TENTHS = 0;
+
+double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
+    return (dDegrees + dMinutes / 60 + dSeconds / 3600) * PI / 180;
+}
+
+class OpenAngleEdit : public CAngleEdit {
+public:
+    using CAngleEdit::DegToRad;
+    using CAngleEdit::RadToDeg;
+    using CAngleEdit::RadToDMS;
+};
+
+/// An angle field and another one to go to.
+class AngleStage : public fx::Stage {
+public:
+    explicit AngleStage(int nMode = WHOLE) {
+        CreateItem(IDC_ANGLE, 5);
+        CreateItem(IDC_OTHER, 50);
+        EXPECT_EQ(m_angle.Attach(IDC_ANGLE, this, nMode, 0), 1);
+    }
+    ~AngleStage() override { DestroyWindow(); } // before the field
+
+    void Enter() { Tap(m_angle); }
+    void Leave() { Tap(*GetDlgItem(IDC_OTHER)); }
+    CString Text() const {
+        CString str;
+        m_angle.GetWindowText(str);
+        return str;
+    }
+
+    OpenAngleEdit m_angle;
+
+private:
+    void CreateItem(int nID, int y) {
+        ::CreateWindowEx(0, WC_EDIT, nullptr, WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, 5, y, 150,
+                         20, m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(nID)), nullptr, nullptr);
+    }
+};
+
+// --- What it shows -----------------------------------------------------------------------
+
+TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
+    const struct {
+        double dAngle;
+        LPCTSTR pszWhole;
+        LPCTSTR pszTenths;
+    } rows[] = {
+        {0.0, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
+        {-0.0, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
+        {PI / 2, L"90\uFF9F 0' 00\"", L"90\uFF9F 0' 0\".0"},
+        {Radians(12, 3, 4), L"12\uFF9F 3' 04\"", L"12\uFF9F 3' 4\".0"},
+        {Radians(12, 34, 56.7), L"12\uFF9F 34' 57\"", L"12\uFF9F 34' 56\".7"},
+        // Carries: the sum of tenths is rounded, never a part of it.
+        {Radians(12, 34, 59.96), L"12\uFF9F 35' 00\"", L"12\uFF9F 35' 0\".0"},
+        {Radians(12, 59, 59.96), L"13\uFF9F 0' 00\"", L"13\uFF9F 0' 0\".0"},
+        {Radians(359, 59, 59.96), L"360\uFF9F 0' 00\"", L"360\uFF9F 0' 0\".0"},
+        {Radians(12, 34, 59.6), L"12\uFF9F 34' 60\"", L"12\uFF9F 34' 59\".6"},
+        {Radians(12, 34, 59.94), L"12\uFF9F 34' 60\"", L"12\uFF9F 34' 59\".9"},
+        {Radians(12, 34, 59.4), L"12\uFF9F 34' 59\"", L"12\uFF9F 34' 59\".4"},
+        // The sign stands at the degrees, if there are any.
+        {Radians(-0.5), L"0\uFF9F 30' 00\"", L"0\uFF9F 30' 0\".0"},
+        {Radians(-12.5), L"-12\uFF9F 30' 00\"", L"-12\uFF9F 30' 0\".0"},
+        {Radians(-0, -59, -59.96), L"-1\uFF9F 0' 00\"", L"-1\uFF9F 0' 0\".0"},
+        {Radians(725, 10, 20), L"725\uFF9F 10' 20\"", L"725\uFF9F 10' 20\".0"},
+        // One radian, 206264.806 seconds.
+        {1.0, L"57\uFF9F 17' 45\"", L"57\uFF9F 17' 44\".8"},
+        // The golden angle, 137.50776405 degrees.
+        {PI * (3 - std::sqrt(5.0)), L"137\uFF9F 30' 28\"", L"137\uFF9F 30' 28\".0"},
+        // The obliquity of the ecliptic of the epoch 2000, 84381.448 seconds.
+        {0.40909280422232897, L"23\uFF9F 26' 21\"", L"23\uFF9F 26' 21\".4"},
+    };
+    AngleStage whole(WHOLE);
+    AngleStage tenths(TENTHS);
+    for (const auto& row : rows) {
+        whole.m_angle.SetAngle(row.dAngle);
+        EXPECT_EQ(whole.Text(), row.pszWhole) << row.dAngle;
+        tenths.m_angle.SetAngle(row.dAngle);
+        EXPECT_EQ(tenths.Text(), row.pszTenths) << row.dAngle;
+    }
+}
+
+TEST(AngleEdit, PartsOfAnAngle) {
+    const struct {
+        double dAngle;
+        int nDegree;
+        int nMinute;
+        double dSecond;
+    } rows[] = {
+        {Radians(12, 34, 56.7), 12, 34, 56.7},
+        {Radians(-12, -34, -56.7), -12, 34, 56.7},
+        {Radians(0, 0, 0.04), 0, 0, 0.0},
+        {Radians(0, 0, 0.06), 0, 0, 0.1},
+        {Radians(59652, 19, 24), 59652, 19, 24.0},
+        // Beyond the range: its end, 2147483647 tenths of a second.
+        {Radians(60000), 59652, 19, 24.7},
+        {-1e300, -59652, 19, 24.7},
+        {INF, 0, 0, 0.0},
+        {-INF, 0, 0, 0.0},
+        {std::nan(""), 0, 0, 0.0},
+    };
+    OpenAngleEdit field;
+    for (const auto& row : rows) {
+        int nDegree = 0;
+        int nMinute = 0;
+        double dSecond = 0;
+        field.RadToDMS(row.dAngle, &nDegree, &nMinute, &dSecond);
+        EXPECT_EQ(nDegree, row.nDegree) << row.dAngle;
+        EXPECT_EQ(nMinute, row.nMinute) << row.dAngle;
+        EXPECT_DOUBLE_EQ(dSecond, row.dSecond) << row.dAngle;
+    }
+}
+
+// --- What it takes -----------------------------------------------------------------------
+
+TEST(AngleEdit, PackedNumberBecomesAnAngle) {
+    const struct {
+        double dPacked;
+        double dAngle;
+    } rows[] = {
+        {0.0, 0.0},
+        {90.0, PI / 2},
+        {12.3, Radians(12, 30)},
+        {12.3456, Radians(12, 34, 56)},
+        {12.34567, Radians(12, 34, 56.7)},
+        {12.3456789, Radians(12, 34, 56.8)},
+        {12.99995, Radians(12, 99, 99.5)}, // 60 and more add up
+        {12.999996, Radians(13)},
+        {-12.3456, -Radians(12, 34, 56)},
+        {-0.3, -Radians(0, 30)},
+        {0.000004, 0.0},
+        {21474.83647, Radians(21474, 83, 64.7)},
+        // Beyond the range: its end.
+        {21475, Radians(21474, 83, 64.7)},
+        {1e300, Radians(21474, 83, 64.7)},
+        {-1.7e308, 0.0}, // infinite on the way
+        {-1e300, -Radians(21474, 83, 64.7)},
+        {std::nan(""), 0.0},
+    };
+    OpenAngleEdit field;
+    for (const auto& row : rows)
+        EXPECT_DOUBLE_EQ(field.DegToRad(row.dPacked), row.dAngle) << row.dPacked;
+}
+
+TEST(AngleEdit, AngleBecomesAPackedNumber) {
+    OpenAngleEdit field;
+    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(12, 34, 56.7)), 12.34567);
+    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(123, 4, 5.3)), 123.04053);
+    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(-12.5)), -11.7) << "the positive rest is added";
+    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(-0.5)), 0.3);
+}
+
+// --- When --------------------------------------------------------------------------------
+
+TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
+    const struct {
+        int nMode;
+        double dAngle;
+        LPCTSTR pszEntered;
+        LPCTSTR pszLeft;
+        double dLeft;
+    } rows[] = {
+        {WHOLE, PI / 2, L"90.0000", L"90\uFF9F 0' 00\"", PI / 2},
+        {WHOLE, Radians(123, 4, 5), L"123.0405", L"123\uFF9F 4' 05\"", Radians(123, 4, 5)},
+        {TENTHS, Radians(123, 4, 5.3), L"123.04053", L"123\uFF9F 4' 5\".3", Radians(123, 4, 5.3)},
+        {7, Radians(123, 4, 5.3), L"123.04053", L"123\uFF9F 4' 5\".3", Radians(123, 4, 5.3)},
+        // Whole seconds: the tenths are lost, 59.6 is edited as 60 and shown as the next minute.
+        {WHOLE, Radians(12, 34, 59.6), L"12.3460", L"12\uFF9F 35' 00\"", Radians(12, 35)},
+        // -12.5 is edited as -11.70 and comes back as 11 degrees 70 minutes.
+        {WHOLE, Radians(-12.5), L"-11.7000", L"-12\uFF9F 10' 00\"", -Radians(12, 10)},
+        {WHOLE, Radians(-0.5), L"0.3000", L"0\uFF9F 30' 00\"", Radians(0.5)},
+    };
+    for (const auto& row : rows) {
+        AngleStage stage(row.nMode);
+        stage.m_angle.SetAngle(row.dAngle);
+        stage.Enter();
+        EXPECT_EQ(stage.Text(), row.pszEntered);
+        EXPECT_EQ(stage.m_angle.GetAngle(), row.dAngle) << "nothing has been typed yet";
+        stage.Leave();
+        EXPECT_EQ(stage.Text(), row.pszLeft);
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), row.dLeft);
+    }
+}
+
+TEST(AngleEdit, TypedTextIsTakenWhenTheFocusGoes) {
+    AngleStage stage(TENTHS);
+    stage.m_angle.SetAngle(1.0);
+    stage.Enter();
+    stage.m_angle.SetSel(0, -1);
+    stage.Type({'1', '2', VK_OEM_PERIOD, '3', '4', '5', '6', '7'});
+    EXPECT_EQ(stage.Text(), L"12.34567");
+    EXPECT_EQ(stage.m_angle.GetAngle(), 1.0);
+    stage.Leave();
+    EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), Radians(12, 34, 56.7));
+    EXPECT_EQ(stage.Text(), L"12\uFF9F 34' 56\".7");
+}
+
+/// Puts a text on the clipboard.
+void Copy(const CString& str) {
+    const size_t nSize = (static_cast<size_t>(str.GetLength()) + 1) * sizeof(TCHAR);
+    const HGLOBAL hText = ::GlobalAlloc(GMEM_MOVEABLE, nSize);
+    std::memcpy(::GlobalLock(hText), str.GetString(), nSize);
+    ::GlobalUnlock(hText);
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    ::EmptyClipboard();
+    ::SetClipboardData(CF_UNICODETEXT, hText);
+    ::CloseClipboard();
+}
+
+TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
+    const struct {
+        LPCTSTR pszPasted;
+        double dAngle;
+    } rows[] = {
+        {L"", 0.0},
+        {L"  ", 0.0},
+        {L"north", 0.0},
+        {L"12\uFF9F 34' 56\"", 0.0}, // what it shows itself is no number
+        {L"nan", 0.0},
+        {L"-", 0.0},
+        {L"12.3.4", 0.0},
+        {L" 45.3 ", Radians(45, 30)},
+        {L"１２．３４", Radians(12, 34)},
+        {L"-12.3", -Radians(12, 30)},
+        {L"99999999999999999999", Radians(21474, 83, 64.7)},
+        {L"-2147483648", -Radians(21474, 83, 64.7)},
+        {L"1e305", 0.0}, // infinite once packed
+    };
+    for (const auto& row : rows) {
+        AngleStage stage;
+        stage.m_angle.SetAngle(1.0);
+        stage.Enter();
+        Copy(row.pszPasted);
+        stage.m_angle.SetSel(0, -1);
+        stage.m_angle.Clear();
+        stage.m_angle.Paste();
+        stage.Leave();
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), row.dAngle) << fx::Utf8(row.pszPasted);
+    }
+}
+
+TEST(AngleEdit, WithoutConversionFocusChangesDoNothing) {
+    AngleStage stage;
+    stage.m_angle.SetAngle(1.0);
+    stage.m_angle.SetConvActive(0);
+    stage.Enter();
+    EXPECT_EQ(stage.Text(), L"57\uFF9F 17' 45\"");
+    stage.m_angle.SetSel(0, -1);
+    stage.Type({'5'});
+    stage.Leave();
+    EXPECT_EQ(stage.Text(), L"5");
+    EXPECT_EQ(stage.m_angle.GetAngle(), 1.0);
+    stage.m_angle.SetAngle(PI / 2);
+    EXPECT_EQ(stage.Text(), L"90\uFF9F 0' 00\"") << "setting it always shows it";
+    stage.m_angle.SetConvActive(2);
+    stage.Enter();
+    EXPECT_EQ(stage.Text(), L"90.0000");
+}
+
+TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
+    AngleStage stage(TENTHS);
+    EXPECT_EQ(stage.Text(), L"");
+    EXPECT_EQ(stage.m_angle.Attach(999, &stage, WHOLE, 0), 0);
+    EXPECT_EQ(stage.m_angle.Attach(IDC_ANGLE, &stage, WHOLE, 0), 0) << "it has a field already";
+    stage.m_angle.SetAngle(Radians(1, 2, 3.4));
+    EXPECT_EQ(stage.Text(), L"1\uFF9F 2' 3\".4");
+    EXPECT_EQ(OpenAngleEdit().GetAngle(), 0.0);
+}
+
+/// The panel's own handling of focus changes stays beside the conversion.
+TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
+    AngleStage stage;
+    OpenAngleEdit field;
+    stage.m_angle.UnsubclassWindow();
+    ASSERT_EQ(field.Attach(IDC_ANGLE, &stage, WHOLE, SipOptionMode1), 1);
+    stage.Leave();
+    field.SetAngle(PI / 2);
+    stage.Tap(field);
+    EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
+    CString str;
+    field.GetWindowText(str);
+    EXPECT_EQ(str, L"90.0000");
+    stage.Leave();
+    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+    field.UnsubclassWindow();
+}
+
+} // namespace
