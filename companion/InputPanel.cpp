@@ -1,103 +1,49 @@
 #include "Tesuvo.h"
 
-#include "Module.h"
+#include "PanelWindow.h"
 
-#include <iterator>
+#include <afxext.h>
 
 namespace {
 
-constexpr wchar_t kPanelClass[] = L"TesuvoInputPanel";
-constexpr int kPanelHeight = 80;
-
-/// The calling thread's panel. The system destroys a thread's windows with the
-/// thread, so nothing has to be released here.
-thread_local HWND t_panel = nullptr;
-
-const wchar_t* ModeLabel(int nMode) {
-    switch (nMode) {
-    case 1:
-        return L"123";
-    case 2:
-        return L"かな";
-    default:
-        return L"ABC";
-    }
+void AFXAPI ShowPanel(BOOL bShow) {
+    PanelWindow& panel = PanelWindow::OfThisThread();
+    if (bShow)
+        panel.ShowAgain();
+    else
+        panel.Close();
 }
 
-void Paint(HWND hWnd) {
-    PAINTSTRUCT paint;
-    const HDC dc = ::BeginPaint(hWnd, &paint);
-    if (dc == nullptr)
-        return;
-    RECT client;
-    ::GetClientRect(hWnd, &client);
-    wchar_t label[8];
-    const int length = ::GetWindowTextW(hWnd, label, static_cast<int>(std::size(label)));
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, ::GetSysColor(COLOR_BTNTEXT));
-    ::DrawTextW(dc, label, length, &client, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
-    ::EndPaint(hWnd, &paint);
+BOOL AFXAPI GetPanelRect(LPRECT lpRect) {
+    const PanelWindow& panel = PanelWindow::OfThisThread();
+    if (!panel.IsShown())
+        return FALSE;
+    *lpRect = panel.Place();
+    return TRUE;
 }
 
-LRESULT CALLBACK PanelProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE;
-    case WM_PAINT:
-        Paint(hWnd);
-        return 0;
-    case WM_NCDESTROY:
-        t_panel = nullptr;
-        break;
-    default:
-        break;
-    }
-    return ::DefWindowProcW(hWnd, message, wParam, lParam);
-}
+/// The framework's way to the panel, as long as this library is loaded.
+class Registration {
+public:
+    Registration() : m_previous(AfxSetSipHandler(&s_handler)) {}
+    ~Registration() { AfxSetSipHandler(m_previous); }
+    Registration(const Registration&) = delete;
+    Registration& operator=(const Registration&) = delete;
 
-bool RegisterPanelClass() {
-    WNDCLASSW description{};
-    description.lpfnWndProc = PanelProc;
-    description.hInstance = CompanionModule();
-    description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    description.hbrBackground = ::GetSysColorBrush(COLOR_BTNFACE);
-    description.lpszClassName = kPanelClass;
-    return ::RegisterClassW(&description) != 0;
-}
+private:
+    static constexpr AFX_SIP_HANDLER s_handler = {ShowPanel, GetPanelRect};
 
-HWND CreatePanel() {
-    static const bool registered = RegisterPanelClass();
-    if (!registered)
-        return nullptr;
-    // A window must not outlive the code that answers its messages.
-    PinCompanionModule();
-    return ::CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, kPanelClass, L"",
-                             WS_POPUP | WS_BORDER, 0, 0, 0, 0, nullptr, nullptr, CompanionModule(), nullptr);
-}
+    const AFX_SIP_HANDLER* m_previous;
+};
 
-/// The work area of the screen on which the user is typing.
-RECT WorkArea() {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    ::GetMonitorInfoW(::MonitorFromWindow(::GetFocus(), MONITOR_DEFAULTTOPRIMARY), &info);
-    return info.rcWork;
-}
+const Registration g_registration;
 
 } // namespace
 
 void TVShowSIP(int nMode) {
-    if (t_panel == nullptr)
-        t_panel = CreatePanel();
-    if (t_panel == nullptr)
-        return;
-    ::SetWindowTextW(t_panel, ModeLabel(nMode));
-    ::InvalidateRect(t_panel, nullptr, TRUE);
-    const RECT area = WorkArea();
-    ::SetWindowPos(t_panel, HWND_TOPMOST, area.left, area.bottom - kPanelHeight, area.right - area.left,
-                   kPanelHeight, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    PanelWindow::OfThisThread().Show(nMode);
 }
 
 void TVCloseSIP() {
-    if (t_panel != nullptr)
-        ::ShowWindow(t_panel, SW_HIDE);
+    PanelWindow::OfThisThread().Close();
 }

@@ -38,8 +38,13 @@ TESUVO_API int TVGetCommonRegInt(int nId);
 
 #ifdef _WIN32
 
-/// Shows the soft input panel of the calling thread at the bottom of the work
-/// area. Neither focus nor activation changes. A panel already shown changes mode.
+/// Shows the soft input panel of the calling thread at the bottom of the work area,
+/// above the bar with its switch. Neither focus nor activation changes; the keys
+/// reach whatever has the focus as real input. A panel already shown changes mode.
+///
+/// The thread's active window is told with WM_SETTINGCHANGE (wParam SPI_SETSIPINFO)
+/// when the panel comes, goes or changes its size. The panel goes by itself when the
+/// window that had the focus is destroyed.
 ///
 /// Call it from a thread with a message loop. The library stays loaded from the
 /// first call to the end of the process.
@@ -48,6 +53,9 @@ TESUVO_API int TVGetCommonRegInt(int nId);
 TESUVO_API void TVShowSIP(int nMode);
 
 /// Hides the calling thread's soft input panel. Does nothing if none is shown.
+///
+/// It disappears when the thread's message loop is next idle and the pen is up: if
+/// TVShowSIP() follows before, as on the way from field to field, it stays.
 TESUVO_API void TVCloseSIP();
 
 /// Reads a decimal number, in the same way whatever the user's locale is.

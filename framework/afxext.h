@@ -27,6 +27,8 @@ public:
     BOOL InsertMenuBar(UINT nIDResource);
     /// Moves the bar to its place after its parent's size has changed.
     void Reposition();
+    /// Whether a point of the screen lies on the switch of the soft input panel.
+    BOOL IsSipSwitchAt(CPoint screenPoint) const;
 
 protected:
     afx_msg void OnDestroy();
@@ -40,13 +42,7 @@ private:
 
     HMENU m_hMenu = nullptr;        ///< Owned.
     HIMAGELIST m_hImages = nullptr; ///< Owned: the picture of the panel's switch.
-    BOOL m_bSipShown = FALSE;
 };
-
-/// What shows (TRUE) and hides (FALSE) the soft input panel for the command bar's button.
-using AFX_SIP_PROC = void(AFXAPI*)(BOOL bShow);
-/// Installed by whoever has a panel. @return the previous one, null if there was none.
-AFX_CORE AFX_SIP_PROC AFXAPI AfxSetSipHandler(AFX_SIP_PROC pfn);
 
 /// States of SHDoneButton.
 enum : DWORD { SHDB_SHOW = 0x0001, SHDB_HIDE = 0x0002 };
@@ -56,3 +52,39 @@ enum : DWORD { SHDB_SHOW = 0x0001, SHDB_HIDE = 0x0002 };
 /// the title bar that the framework draws follows in any case.
 /// @return FALSE if hWnd is not a window of this framework and there is no shell library.
 AFX_CORE BOOL AFXAPI SHDoneButton(HWND hWnd, DWORD dwState);
+
+// --- Soft input panel ----------------------------------------------------------------------------
+
+/// wParam of the WM_SETTINGCHANGE message that tells the active window that the soft input
+/// panel has come, gone or changed its size. By default a dialog then keeps its focused entry
+/// field clear of the panel: it moves up, or scrolls its controls if it is full screen, and
+/// goes back when the panel has gone.
+constexpr UINT SPI_SETSIPINFO = 224;
+
+/// Flags of SIPINFO and SipShowIM.
+enum : DWORD { SIPF_OFF = 0x0000, SIPF_ON = 0x0001, SIPF_DOCKED = 0x0002 };
+
+/// The state of the calling thread's soft input panel; screen coordinates.
+struct SIPINFO {
+    DWORD cbSize;          ///< Size of this structure, to be set by the caller.
+    DWORD fdwFlags;        ///< SIPF_ON if the panel is shown; SIPF_DOCKED always.
+    RECT rcVisibleDesktop; ///< The work area above the panel; all of it if none is shown.
+    RECT rcSipRect;        ///< The panel; empty if none is shown.
+};
+
+/// @return FALSE, with nothing written, for null or a wrong cbSize.
+AFX_CORE BOOL AFXAPI SipGetInfo(SIPINFO* pSipInfo);
+/// Shows (SIPF_ON) or hides (SIPF_OFF) the panel.
+/// @return FALSE if there is no panel or the flag is another one.
+AFX_CORE BOOL AFXAPI SipShowIM(DWORD dwFlag);
+
+/// What the framework asks of a soft input panel. All of it is for the calling thread's panel.
+struct AFX_SIP_HANDLER {
+    void(AFXAPI* pfnShow)(BOOL bShow);
+    /// @param lpRect receives the panel's place on the screen if it is shown
+    /// @return TRUE if it is shown
+    BOOL(AFXAPI* pfnGetRect)(LPRECT lpRect);
+};
+/// Installed by whoever has a panel. The structure must live until another takes its place.
+/// @return the previous one, null if there was none.
+AFX_CORE const AFX_SIP_HANDLER* AFXAPI AfxSetSipHandler(const AFX_SIP_HANDLER* pHandler);

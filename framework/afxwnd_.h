@@ -308,6 +308,7 @@ protected:
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg LRESULT OnCompareItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnKeyToItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTabletQueryGesture(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()

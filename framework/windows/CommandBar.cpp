@@ -1,4 +1,4 @@
-#include "afxext.h"
+#include "Sip.h"
 
 IMPLEMENT_DYNAMIC(CCeCommandBar, CWnd)
 
@@ -16,8 +16,6 @@ constexpr UINT ID_POPUP_FIRST = 0xE8F0;
 constexpr int MAX_POPUPS = 15;
 constexpr int ICON_SIZE = 16;
 constexpr COLORREF TRANSPARENT_COLOR = RGB(255, 0, 255);
-
-AFX_SIP_PROC g_pfnSip = nullptr;
 
 /// Draws a keyboard: an outlined board, three rows of keys, the space bar.
 HIMAGELIST CreateSipImage() {
@@ -49,12 +47,6 @@ CString MenuText(HMENU hMenu, int nPos) {
 }
 
 } // namespace
-
-AFX_SIP_PROC AFXAPI AfxSetSipHandler(AFX_SIP_PROC pfn) {
-    const AFX_SIP_PROC pfnOld = g_pfnSip;
-    g_pfnSip = pfn;
-    return pfnOld;
-}
 
 BOOL CCeCommandBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
     // The low word of the style holds flags of the device's bar; the tool bar has its own there.
@@ -135,6 +127,13 @@ void CCeCommandBar::Reposition() {
     SendMessage(TB_SETBUTTONINFO, ID_GAP, reinterpret_cast<LPARAM>(&info));
 }
 
+BOOL CCeCommandBar::IsSipSwitchAt(CPoint screenPoint) const {
+    CRect rect;
+    SendMessage(TB_GETRECT, ID_SIP, reinterpret_cast<LPARAM>(&rect));
+    ClientToScreen(rect);
+    return IsWindowVisible() && rect.PtInRect(screenPoint);
+}
+
 void CCeCommandBar::TrackPopup(int nIndex) {
     CRect button;
     SendMessage(TB_GETITEMRECT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(&button));
@@ -147,9 +146,7 @@ BOOL CCeCommandBar::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
     if (message == WM_COMMAND) {
         const UINT nID = LOWORD(wParam);
         if (nID == ID_SIP) {
-            m_bSipShown = !m_bSipShown;
-            if (g_pfnSip != nullptr)
-                g_pfnSip(m_bSipShown);
+            CSip::Toggle();
             return TRUE;
         }
         if (nID >= ID_POPUP_FIRST && nID < ID_POPUP_FIRST + MAX_POPUPS) {

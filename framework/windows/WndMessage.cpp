@@ -3,6 +3,7 @@
 #include "CtlColor.h"
 #include "DeviceCaption.h"
 #include "MessageMap.h"
+#include "SipRooms.h"
 #include "WndProc.h"
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -16,6 +17,8 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT lResult = 0;
     if (CDeviceCaption::OnMessage(this, message, wParam, lParam, &lResult))
         return lResult;
+    if (CSipRooms::OnMessage(this, message, wParam, lParam))
+        return TRUE;
     return CallSuper(message, wParam, lParam);
 }
 
@@ -161,6 +164,13 @@ LRESULT CWnd::OnDeleteItem(WPARAM, LPARAM lParam) {
     return Default();
 }
 
+LRESULT CWnd::OnKeyToItem(WPARAM, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (ReflectLastMsg(reinterpret_cast<HWND>(lParam), &lResult))
+        return lResult;
+    return Default();
+}
+
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {
     if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg())
         Default();
@@ -281,6 +291,8 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_VSCROLL()
     ON_MESSAGE(WM_COMPAREITEM, &CWnd::OnCompareItem)
     ON_MESSAGE(WM_DELETEITEM, &CWnd::OnDeleteItem)
+    ON_MESSAGE(WM_VKEYTOITEM, &CWnd::OnKeyToItem)
+    ON_MESSAGE(WM_CHARTOITEM, &CWnd::OnKeyToItem)
     ON_MESSAGE(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CWnd::OnTabletQueryGesture)
 END_MESSAGE_MAP()
 // clang-format on

@@ -1,134 +1,239 @@
-#include <gtest/gtest.h>
+// The soft input panel as a window: when it comes and goes, and what it leaves alone.
+#include "PanelPen.h"
+#include "support/Leftovers.h"
 
-#include "Tesuvo.h"
-
-#include <string>
 #include <thread>
 
 namespace {
 
-HWND PanelOf(DWORD thread) {
-    HWND panel = nullptr;
-    const auto find = [](HWND window, LPARAM found) -> BOOL {
-        wchar_t name[64];
-        if (::GetClassNameW(window, name, 64) == 0 || std::wstring(name) != L"TesuvoInputPanel")
-            return TRUE;
-        *reinterpret_cast<HWND*>(found) = window;
-        return FALSE;
-    };
-    ::EnumThreadWindows(thread, find, reinterpret_cast<LPARAM>(&panel));
-    return panel;
+std::wstring Title() {
+    WCHAR szTitle[32] = L"";
+    ::GetWindowText(panel::OfThread(), szTitle, 32);
+    return szTitle;
 }
 
-HWND OwnPanel() {
-    return PanelOf(::GetCurrentThreadId());
-}
+/// A window that keeps what it is told about the panel: shown or not.
+class ToldFrame : public fx::Frame {
+public:
+    std::vector<bool> m_told;
 
-std::wstring Label(HWND panel) {
-    wchar_t text[32] = L"";
-    ::GetWindowTextW(panel, text, 32);
-    return text;
-}
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        SIPINFO info = {};
+        info.cbSize = sizeof info;
+        if (message == WM_SETTINGCHANGE && wParam == SPI_SETSIPINFO && SipGetInfo(&info))
+            m_told.push_back(info.fdwFlags & SIPF_ON);
+        return fx::Frame::WindowProc(message, wParam, lParam);
+    }
+};
 
-void Pump() {
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        ::DispatchMessageW(&message);
-}
-
-/// An application window with an entry field that has the focus.
+/// A window with two entry fields that bring up the panel, and another control.
 class InputPanel : public testing::Test {
 protected:
-    void SetUp() override {
-        m_frame = ::CreateWindowExW(0, L"STATIC", L"frame", WS_POPUP | WS_VISIBLE, 10, 10, 200, 200, nullptr,
-                                    nullptr, nullptr, nullptr);
-        m_field = ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20, m_frame, nullptr,
-                                    nullptr, nullptr);
-        ::SetFocus(m_field);
-        Pump();
-        ASSERT_EQ(::GetFocus(), m_field);
+    InputPanel() {
+        m_letters.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &m_frame, 10);
+        m_digits.Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 100, 50), &m_frame, 11);
+        m_button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 60, 100, 80), &m_frame, 12);
+        m_digits.m_nMode = 1;
+        m_button.SetFocus();
+        fx::Pump();
+        m_frame.m_told.clear();
+    }
+    ~InputPanel() override { panel::Close(); }
+
+    ToldFrame m_frame;
+    panel::Field m_letters;
+    panel::Field m_digits;
+    CButton m_button;
+};
+
+/// Counts how often a window appears or disappears.
+class VisibleChanges {
+public:
+    explicit VisibleChanges(HWND hWnd) : m_hWnd(hWnd) {
+        s_nChanges = 0;
+        s_pfnOld = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Count)));
+    }
+    ~VisibleChanges() { ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_pfnOld)); }
+    VisibleChanges(const VisibleChanges&) = delete;
+    VisibleChanges& operator=(const VisibleChanges&) = delete;
+
+    int Get() const { return s_nChanges; }
+
+private:
+    static LRESULT CALLBACK Count(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        const bool bChange = message == WM_WINDOWPOSCHANGED && (reinterpret_cast<WINDOWPOS*>(lParam)->flags &
+                                                                (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) != 0;
+        s_nChanges += bChange ? 1 : 0;
+        return ::CallWindowProc(s_pfnOld, hWnd, message, wParam, lParam);
     }
 
-    void TearDown() override {
-        TVCloseSIP();
-        ::DestroyWindow(m_frame);
-    }
+    static inline int s_nChanges = 0;
+    static inline WNDPROC s_pfnOld = nullptr;
 
-    HWND m_frame = nullptr;
-    HWND m_field = nullptr;
+    HWND m_hWnd;
 };
 
 TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
     struct Row {
         int mode;
-        const wchar_t* label;
+        const wchar_t* title;
     };
     const Row rows[] = {{0, L"ABC"}, {1, L"123"}, {2, L"かな"}, {3, L"ABC"}, {-1, L"ABC"}};
     TVShowSIP(1);
-    const HWND panel = OwnPanel();
-    ASSERT_NE(panel, nullptr);
+    const HWND hPanel = panel::OfThread();
+    ASSERT_NE(hPanel, nullptr);
     for (const Row& row : rows) {
         TVShowSIP(row.mode);
-        EXPECT_EQ(OwnPanel(), panel);
-        EXPECT_TRUE(::IsWindowVisible(panel));
-        EXPECT_EQ(Label(panel), row.label);
+        EXPECT_EQ(panel::OfThread(), hPanel);
+        EXPECT_TRUE(panel::IsVisible());
+        EXPECT_EQ(Title(), row.title);
     }
+    panel::Close();
     TVCloseSIP();
-    EXPECT_FALSE(::IsWindowVisible(panel));
-    TVCloseSIP();
-    EXPECT_FALSE(::IsWindowVisible(panel));
+    panel::PumpFor(50);
+    EXPECT_FALSE(panel::IsVisible());
 }
 
-TEST_F(InputPanel, LiesAtTheBottomOfTheWorkArea) {
-    TVShowSIP(0);
-    RECT area{};
-    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
-    RECT panel{};
-    ASSERT_TRUE(::GetWindowRect(OwnPanel(), &panel));
-    EXPECT_EQ(panel.left, area.left);
-    EXPECT_EQ(panel.right, area.right);
-    EXPECT_EQ(panel.bottom, area.bottom);
-    EXPECT_EQ(panel.bottom - panel.top, 80);
-    EXPECT_NE(::GetWindowLongPtrW(OwnPanel(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+TEST_F(InputPanel, LiesAboveTheBottomBarOverTheWholeWidth) {
+    CRect area;
+    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWORKAREA, 0, area, 0));
+    for (const int nMode : {0, 1, 2}) {
+        TVShowSIP(nMode);
+        const CRect place = panel::Place();
+        EXPECT_EQ(place, CRect(area.left, place.top, area.right, area.bottom - AFX_DEVICE_BAR_HEIGHT));
+        EXPECT_EQ(place.Height(), 125);
+        EXPECT_NE(::GetWindowLongPtr(panel::OfThread(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    }
+}
+
+TEST_F(InputPanel, FrameworkKnowsItsPlace) {
+    CRect area;
+    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWORKAREA, 0, area, 0));
+    SIPINFO info = {};
+    EXPECT_FALSE(SipGetInfo(&info)) << "without a size";
+    EXPECT_FALSE(SipGetInfo(nullptr));
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(SipGetInfo(&info));
+    EXPECT_EQ(info.fdwFlags, SIPF_OFF | SIPF_DOCKED);
+    EXPECT_EQ(CRect(info.rcVisibleDesktop), area);
+    EXPECT_TRUE(CRect(info.rcSipRect).IsRectEmpty());
+
+    EXPECT_FALSE(SipShowIM(SIPF_DOCKED));
+    EXPECT_TRUE(SipShowIM(SIPF_ON));
+    EXPECT_TRUE(panel::IsVisible());
+    ASSERT_TRUE(SipGetInfo(&info));
+    EXPECT_EQ(info.fdwFlags, SIPF_ON | SIPF_DOCKED);
+    EXPECT_EQ(CRect(info.rcSipRect), panel::Place());
+    EXPECT_EQ(CRect(info.rcVisibleDesktop), CRect(area.left, area.top, area.right, panel::Place().top));
+
+    EXPECT_TRUE(SipShowIM(SIPF_OFF));
+    ASSERT_TRUE(SipGetInfo(&info));
+    EXPECT_EQ(info.fdwFlags, SIPF_OFF | SIPF_DOCKED) << "it is on its way out";
 }
 
 TEST_F(InputPanel, NeverTakesTheFocus) {
-    const HWND active = ::GetActiveWindow();
+    m_letters.SetFocus();
+    const HWND hActive = ::GetActiveWindow();
+    pen::Tap(panel::At(1, 5, 12));
+    panel::PumpFor(50);
+    EXPECT_EQ(::GetFocus(), m_letters.m_hWnd);
+    EXPECT_EQ(::GetActiveWindow(), hActive);
+    panel::Close();
+    EXPECT_EQ(::GetFocus(), m_letters.m_hWnd);
+    EXPECT_EQ(::GetActiveWindow(), hActive);
+}
+
+TEST_F(InputPanel, StaysOnTheWayFromFieldToField) {
+    m_letters.SetFocus();
+    fx::Pump();
+    const VisibleChanges changes(panel::OfThread());
+    for (int i = 0; i < 5; ++i) {
+        m_digits.SetFocus();
+        panel::PumpFor(20);
+        EXPECT_EQ(Title(), L"123");
+        m_letters.SetFocus();
+        panel::PumpFor(20);
+        EXPECT_EQ(Title(), L"ABC");
+    }
+    EXPECT_EQ(changes.Get(), 0);
+    m_button.SetFocus();
+    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+    EXPECT_EQ(changes.Get(), 1);
+}
+
+TEST_F(InputPanel, StaysUntilThePenIsLifted) {
+    m_letters.SetFocus();
+    fx::Pump();
+    pen::Down(pen::Middle(m_button)); // takes the focus and the pen
+    ASSERT_TRUE(panel::PumpUntil([this] { return ::GetFocus() == m_button.m_hWnd; }));
+    panel::PumpFor(100);
+    EXPECT_TRUE(panel::IsVisible());
+    pen::Up(pen::Middle(m_button));
+    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+}
+
+TEST_F(InputPanel, TellsTheActiveWindowWhenItComesAndGoes) {
+    m_letters.SetFocus();
+    fx::Pump();
+    m_digits.SetFocus();
+    panel::PumpFor(150);
+    EXPECT_EQ(m_frame.m_told, std::vector{true});
+    ToldFrame other;
+    other.SetFocus();
+    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+    EXPECT_EQ(other.m_told, std::vector{false});
+    EXPECT_EQ(m_frame.m_told, (std::vector{true, false}));
     TVShowSIP(0);
-    Pump();
-    EXPECT_EQ(::GetFocus(), m_field);
-    EXPECT_EQ(::GetActiveWindow(), active);
+    panel::PumpFor(150);
+    EXPECT_EQ(other.m_told, (std::vector{false, true}));
+    m_frame.SetFocus();
+    panel::PumpFor(150);
+    panel::Close();
+    EXPECT_EQ(m_frame.m_told, (std::vector{true, false, true, false})) << "active again, below the panel";
+}
 
-    const LRESULT answer = ::SendMessageW(OwnPanel(), WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(OwnPanel()),
-                                          MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
-    EXPECT_EQ(answer, MA_NOACTIVATE);
-
-    TVCloseSIP();
-    Pump();
-    EXPECT_EQ(::GetFocus(), m_field);
-    EXPECT_EQ(::GetActiveWindow(), active);
+TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
+    CEdit field; // tells nobody
+    field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 90, 100, 110), &m_frame, 13);
+    field.SetFocus();
+    TVShowSIP(0);
+    panel::PumpFor(150);
+    EXPECT_TRUE(panel::IsVisible());
+    field.DestroyWindow();
+    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
 }
 
 TEST_F(InputPanel, IsMadeAnewAfterItWasDestroyed) {
     TVShowSIP(0);
-    ::DestroyWindow(OwnPanel());
+    ::DestroyWindow(panel::OfThread());
     TVCloseSIP();
-    EXPECT_EQ(OwnPanel(), nullptr);
+    EXPECT_EQ(panel::OfThread(), nullptr);
     TVShowSIP(2);
-    EXPECT_TRUE(::IsWindowVisible(OwnPanel()));
-    EXPECT_EQ(Label(OwnPanel()), L"かな");
+    EXPECT_TRUE(panel::IsVisible());
+    EXPECT_EQ(Title(), L"かな");
+}
+
+TEST_F(InputPanel, TwoHundredTimesLeaveNothing) {
+    fx::ExpectNothingLeft([this] {
+        m_letters.SetFocus();
+        fx::Pump();
+        m_button.SetFocus();
+        panel::PumpUntil([] { return !panel::IsVisible(); });
+    });
 }
 
 TEST(InputPanelThreads, PanelEndsWithItsThread) {
     for (int round = 0; round < 2; ++round) {
-        HWND panel = nullptr;
-        std::thread([&panel] {
+        HWND hPanel = nullptr;
+        std::thread([&hPanel] {
             TVShowSIP(1);
-            panel = OwnPanel();
-            EXPECT_TRUE(::IsWindowVisible(panel));
+            hPanel = panel::OfThread();
+            EXPECT_TRUE(panel::IsVisible());
         }).join();
-        ASSERT_NE(panel, nullptr);
-        EXPECT_FALSE(::IsWindow(panel));
+        ASSERT_NE(hPanel, nullptr);
+        EXPECT_FALSE(::IsWindow(hPanel));
     }
     TVCloseSIP();
 }

@@ -1,0 +1,17 @@
+/// @file
+/// The looks of the soft input panel.
+#pragma once
+
+#include "PanelKeys.h"
+
+/// What the drawing must know beside the keys.
+struct PanelLook {
+    PanelPage page;
+    int pressed;  ///< Index of the key under the pen, -1 for none.
+    bool shifted; ///< The next character is a capital.
+    bool locked;  ///< And all after it.
+};
+
+/// Draws the keys.
+/// @param panel  size of the panel in pixels
+void DrawPanel(HDC dc, SIZE panel, const std::vector<PanelKey>& keys, const PanelLook& look);

@@ -1,0 +1,272 @@
+#include "PanelWindow.h"
+
+#include "Module.h"
+#include "PanelDrawing.h"
+
+#include <afxext.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr wchar_t PANEL_CLASS[] = L"TesuvoInputPanel";
+
+// The panel's height on the device, and the screen for which it was made.
+constexpr int PANEL_HEIGHT = 125;
+constexpr int SCREEN_WIDTH = 240;
+constexpr int SCREEN_HEIGHT = 320;
+
+constexpr UINT WM_ANNOUNCE = WM_APP;
+constexpr UINT_PTR CLOSE_TIMER = 1;
+constexpr UINT_PTR WATCH_TIMER = 2;
+constexpr UINT WATCH_INTERVAL = 100;
+
+const wchar_t* TitleOf(int mode) {
+    switch (mode) {
+    case 1:
+        return L"123";
+    case 2:
+        return L"かな";
+    default:
+        return L"ABC";
+    }
+}
+
+/// The work area of the screen on which the user is typing.
+RECT WorkArea() {
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    ::GetMonitorInfoW(::MonitorFromWindow(::GetFocus(), MONITOR_DEFAULTTOPRIMARY), &info);
+    return info.rcWork;
+}
+
+/// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow.
+RECT PlaceIn(const RECT& area) {
+    const LONG width = area.right - area.left;
+    const LONG height = std::min(width * PANEL_HEIGHT / SCREEN_WIDTH,
+                                 (area.bottom - area.top) * PANEL_HEIGHT / SCREEN_HEIGHT);
+    const LONG bottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
+    return {area.left, bottom - height, area.right, bottom};
+}
+
+} // namespace
+
+PanelWindow& PanelWindow::OfThisThread() {
+    // The system destroys a thread's windows with the thread, so nothing has to be released.
+    thread_local PanelWindow panel;
+    return panel;
+}
+
+RECT PanelWindow::Place() const {
+    RECT place{};
+    ::GetWindowRect(m_window, &place);
+    return place;
+}
+
+// --- Coming and going ------------------------------------------------------------------------
+
+bool PanelWindow::Create() {
+    static const bool registered = [] {
+        WNDCLASSW description{};
+        description.lpfnWndProc = WindowProc;
+        description.hInstance = CompanionModule();
+        description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+        description.lpszClassName = PANEL_CLASS;
+        return ::RegisterClassW(&description) != 0;
+    }();
+    if (!registered)
+        return false;
+    // A window must not outlive the code that answers its messages.
+    PinCompanionModule();
+    // Without an owner: a modal dialog cannot disable it.
+    m_window = ::CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, PANEL_CLASS, L"",
+                                 WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, CompanionModule(), nullptr);
+    return m_window != nullptr;
+}
+
+void PanelWindow::Show(int mode) {
+    if (m_window == nullptr && !Create())
+        return;
+    ::KillTimer(m_window, CLOSE_TIMER);
+    m_shown = true;
+    m_field = ::GetFocus();
+    m_below = nullptr;
+    SetMode(mode == 1 || mode == 2 ? mode : 0);
+    PutInPlace();
+    ::SetTimer(m_window, WATCH_TIMER, WATCH_INTERVAL, nullptr);
+    // Later, when the dialog that is perhaps just being made has its place on the screen.
+    ::PostMessageW(m_window, WM_ANNOUNCE, 0, 0);
+}
+
+void PanelWindow::SetMode(int mode) {
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    m_shift = Shift::Off;
+    Release();
+    ::SetWindowTextW(m_window, TitleOf(mode));
+    ::InvalidateRect(m_window, nullptr, FALSE);
+}
+
+void PanelWindow::PutInPlace() {
+    const RECT place = PlaceIn(WorkArea());
+    const RECT now = Place();
+    if (::IsWindowVisible(m_window) && ::EqualRect(&now, &place))
+        return;
+    ::SetWindowPos(m_window, HWND_TOPMOST, place.left, place.top, place.right - place.left,
+                   place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+void PanelWindow::Close() {
+    if (!IsShown())
+        return;
+    m_shown = false;
+    ::SetTimer(m_window, CLOSE_TIMER, USER_TIMER_MINIMUM, nullptr);
+}
+
+/// Not while the pen is down elsewhere: the dialog goes back to its place when the panel has
+/// gone, and a button that moves away under the pen would not be clicked.
+void PanelWindow::Hide() {
+    const HWND capture = ::GetCapture();
+    if (capture != nullptr && capture != m_window)
+        return;
+    ::KillTimer(m_window, CLOSE_TIMER);
+    ::KillTimer(m_window, WATCH_TIMER);
+    Release();
+    m_shift = Shift::Off;
+    ::ShowWindow(m_window, SW_HIDE);
+    Announce();
+}
+
+void PanelWindow::Watch() {
+    if (!m_shown)
+        return;
+    if (m_field != nullptr && !::IsWindow(m_field)) {
+        Close(); // the field went without telling
+        return;
+    }
+    if (const HWND focus = ::GetFocus(); focus != nullptr)
+        m_field = focus;
+    StayOnTop();
+    Announce();
+}
+
+/// Under Wine a window that gets the focus comes up above the topmost ones, and the system does
+/// not know. The detour makes it put the windows in order.
+void PanelWindow::StayOnTop() {
+    const HWND focus = ::GetFocus();
+    if (focus == m_below || !::IsWindowVisible(focus))
+        return;
+    m_below = focus;
+    for (const HWND place : {HWND_NOTOPMOST, HWND_TOPMOST})
+        ::SetWindowPos(m_window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+// --- Telling the application -----------------------------------------------------------------
+
+void PanelWindow::Announce() {
+    const HWND active = ::GetActiveWindow();
+    if (!m_shown) {
+        const HWND told = std::exchange(m_told, nullptr);
+        if (told != nullptr && active != told)
+            Tell(active);
+        Tell(told);
+        return;
+    }
+    const RECT place = Place();
+    if (active == nullptr || (active == m_told && ::EqualRect(&place, &m_toldPlace)))
+        return;
+    m_told = active;
+    m_toldPlace = place;
+    Tell(active);
+}
+
+void PanelWindow::Tell(HWND window) {
+    if (window != nullptr && ::IsWindow(window))
+        ::SendMessageW(window, WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
+}
+
+// --- Messages --------------------------------------------------------------------------------
+
+LRESULT CALLBACK PanelWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return OfThisThread().OnMessage(window, message, wParam, lParam);
+}
+
+LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    switch (message) {
+    case WM_MOUSEACTIVATE:
+        return MA_NOACTIVATE;
+    case AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS:
+        return AFX_TABLET_DISABLE_PRESSANDHOLD; // a key that is held must know at once
+    case WM_LBUTTONDOWN:
+        OnPress(point);
+        return 0;
+    case WM_MOUSEMOVE:
+        OnMove(point);
+        return 0;
+    case WM_LBUTTONUP:
+        OnLift();
+        return 0;
+    case WM_CAPTURECHANGED:
+        Release();
+        return 0;
+    case WM_TIMER:
+        OnTimer(wParam);
+        return 0;
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        OnPaint();
+        return 0;
+    case WM_ANNOUNCE:
+        Watch();
+        return 0;
+    case WM_DISPLAYCHANGE:
+        if (m_shown)
+            ShowAgain();
+        return 0;
+    case WM_CLOSE:
+        Close();
+        return 0;
+    case WM_NCDESTROY:
+        *this = PanelWindow();
+        break;
+    default:
+        break;
+    }
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+void PanelWindow::OnTimer(UINT_PTR timer) {
+    switch (timer) {
+    case CLOSE_TIMER:
+        Hide();
+        break;
+    case WATCH_TIMER:
+        Watch();
+        break;
+    default:
+        Repeat();
+        break;
+    }
+}
+
+void PanelWindow::OnPaint() {
+    PAINTSTRUCT paint;
+    const HDC dc = ::BeginPaint(m_window, &paint);
+    RECT client{};
+    ::GetClientRect(m_window, &client);
+    // Drawn apart and shown at once: a panel that flickers tires the eyes.
+    const HDC memory = ::CreateCompatibleDC(dc);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(dc, client.right, client.bottom);
+    const HGDIOBJ old = ::SelectObject(memory, bitmap);
+    DrawPanel(memory, {client.right, client.bottom}, Keys(),
+              {Page(), m_pressed, m_shift != Shift::Off, m_shift == Shift::Locked});
+    ::BitBlt(dc, 0, 0, client.right, client.bottom, memory, 0, 0, SRCCOPY);
+    ::SelectObject(memory, old);
+    ::DeleteObject(bitmap);
+    ::DeleteDC(memory);
+    ::EndPaint(m_window, &paint);
+}

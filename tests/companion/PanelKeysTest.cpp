@@ -1,0 +1,220 @@
+// Typing on the soft input panel with the pen.
+#include "PanelPen.h"
+#include "support/DialogTemplate.h"
+#include "support/ModalScript.h"
+
+namespace {
+
+class PanelKeys : public testing::Test {
+protected:
+    PanelKeys() {
+        m_field.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 150, 20), &m_frame, 10);
+        m_field.SetFocus();
+        TVShowSIP(0);
+        fx::Pump();
+    }
+    ~PanelKeys() override { panel::Close(); }
+
+    /// Taps, and waits until the field shows the text.
+    void ExpectAfterTaps(const std::vector<CPoint>& taps, const CString& strText) {
+        for (const CPoint& point : taps) {
+            pen::Tap(point);
+            fx::Pump();
+        }
+        panel::PumpUntil([&] { return Text() == strText; }, 1000);
+        EXPECT_EQ(Text(), strText);
+    }
+
+    CString Text() const {
+        CString strText;
+        m_field.GetWindowText(strText);
+        return strText;
+    }
+
+    void SetText(LPCTSTR pszText) {
+        m_field.SetWindowText(pszText);
+        m_field.SetSel(m_field.GetWindowTextLength(), m_field.GetWindowTextLength());
+    }
+
+    fx::Frame m_frame;
+    CEdit m_field;
+};
+
+TEST_F(PanelKeys, TypeWhatTheyShow) {
+    enum Page { Letters, Capitals, Digits, Hiragana, Katakana };
+    constexpr wchar_t NO_CHARACTER = L'*';
+    const struct {
+        Page page;
+        int nRow;
+        int nLeft;  ///< Where the row's characters begin, in pixels.
+        int nWidth; ///< Of each of them.
+        const wchar_t* pszKeys;
+    } rows[] = {
+        {Letters, 0, 0, 24, L"1234567890"},
+        {Letters, 1, 0, 24, L"qwertyuiop"},
+        {Letters, 2, 0, 24, L"asdfghjkl-"},
+        {Letters, 3, 36, 24, L"zxcvbnm"},
+        {Letters, 4, 60, 24, L"/."},
+        {Letters, 4, 108, 54, L" "},
+        {Letters, 4, 162, 24, L"+"},
+        {Capitals, 0, 0, 24, L"!\"#$%&'()@"},
+        {Capitals, 1, 0, 24, L"QWERTYUIOP"},
+        {Capitals, 2, 0, 24, L"ASDFGHJKL_"},
+        {Capitals, 3, 36, 24, L"ZXCVBNM"},
+        {Capitals, 4, 60, 24, L":,"},
+        {Capitals, 4, 162, 24, L"="},
+        {Digits, 0, 0, 60, L"789"},
+        {Digits, 1, 0, 60, L"456"},
+        {Digits, 2, 0, 60, L"123-"},
+        {Digits, 3, 0, 60, L"0."},
+        {Hiragana, 0, 0, 24, L"あかさたなはまやらわ"},
+        {Hiragana, 1, 0, 24, L"いきしちにひみ*りを"},
+        {Hiragana, 2, 0, 24, L"うくすつぬふむゆるん"},
+        {Hiragana, 3, 0, 24, L"えけせてねへめ*れー"},
+        {Hiragana, 4, 0, 24, L"おこそとのほもよろ"},
+        {Hiragana, 5, 90, 24, L"、。"},
+        {Hiragana, 5, 138, 36, L" "},
+        {Katakana, 0, 0, 24, L"アカサタナハマヤラワ"},
+        {Katakana, 1, 0, 24, L"イキシチニヒミ*リヲ"},
+        {Katakana, 2, 0, 24, L"ウクスツヌフムユルン"},
+        {Katakana, 3, 0, 24, L"エケセテネヘメ*レー"},
+        {Katakana, 4, 0, 24, L"オコソトノホモヨロ"},
+    };
+    constexpr int ROWS_OF_PAGE[] = {5, 5, 4, 6, 6};
+    constexpr int MODE_OF_PAGE[] = {0, 0, 1, 2, 2};
+    int nShown = -1;
+    for (const auto& row : rows) {
+        if (row.page != nShown) {
+            TVShowSIP(MODE_OF_PAGE[row.page]);
+            if (row.page == Capitals)
+                ExpectAfterTaps({panel::ShiftKey(), panel::ShiftKey()}, Text());
+            if (row.page == Katakana)
+                ExpectAfterTaps({panel::ScriptKey()}, Text());
+            nShown = row.page;
+        }
+        SetText(L"");
+        std::vector<CPoint> taps;
+        CString strExpected;
+        for (int i = 0; row.pszKeys[i] != 0; ++i) {
+            if (row.pszKeys[i] == NO_CHARACTER)
+                continue;
+            const int nMiddle = row.nLeft + i * row.nWidth + row.nWidth / 2;
+            taps.push_back(panel::At(row.nRow, ROWS_OF_PAGE[row.page], nMiddle));
+            strExpected += row.pszKeys[i];
+        }
+        ExpectAfterTaps(taps, strExpected);
+    }
+    ExpectAfterTaps({panel::ScriptKey()}, Text()); // the thread's panel remembers the script
+}
+
+TEST_F(PanelKeys, ShiftHoldsForOneCharacterAndTwiceForAll) {
+    const CPoint a = panel::At(2, 5, 12);
+    ExpectAfterTaps({panel::ShiftKey(), a, a}, L"Aa");
+    ExpectAfterTaps({panel::ShiftKey(), panel::ShiftKey(), a, a}, L"AaAA");
+    ExpectAfterTaps({panel::ShiftKey(), a}, L"AaAAa");
+    ExpectAfterTaps({panel::ShiftKey()}, L"AaAAa");
+    TVShowSIP(1);
+    TVShowSIP(0);
+    ExpectAfterTaps({a}, L"AaAAaa");
+}
+
+TEST_F(PanelKeys, LettersAndKanaReachEachOther) {
+    const CPoint mode = panel::At(4, 5, 15);
+    ExpectAfterTaps({mode}, L"");
+    ExpectAfterTaps({panel::At(0, 6, 12)}, L"あ");
+    ExpectAfterTaps({panel::At(5, 6, 15)}, L"あ");
+    ExpectAfterTaps({panel::At(0, 5, 12)}, L"あ1");
+}
+
+TEST_F(PanelKeys, PenMaySlideToTheKeyThatWasMeant) {
+    const CPoint q = panel::At(1, 5, 12);
+    const CPoint w = panel::At(1, 5, 36);
+    pen::Drag(q, w);
+    ExpectAfterTaps({}, L"w");
+    pen::Drag(q, CPoint(q.x, panel::Place().top - 20)); // off the panel: nothing
+    ExpectAfterTaps({w}, L"ww");
+}
+
+TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
+    const CString strText(L'x', 40);
+    SetText(strText);
+    pen::Move(panel::BackspaceKey());
+    panel::PumpFor(50); // the pointer may have been elsewhere
+    pen::Down(panel::BackspaceKey());
+    ASSERT_TRUE(panel::PumpUntil([this] { return Text().GetLength() < 40; }));
+    EXPECT_EQ(Text().GetLength(), 39) << "at once, and only one";
+    panel::PumpFor(200);
+    EXPECT_EQ(Text().GetLength(), 39) << "a hesitant finger deletes no more";
+    EXPECT_TRUE(panel::PumpUntil([this] { return Text().GetLength() < 35; }));
+    pen::Up(panel::BackspaceKey());
+    panel::PumpFor(50);
+    const int nLeft = Text().GetLength();
+    EXPECT_GT(nLeft, 20);
+    panel::PumpFor(200);
+    EXPECT_EQ(Text().GetLength(), nLeft);
+
+    pen::Down(panel::BackspaceKey());
+    pen::Move(panel::ShiftKey());
+    panel::PumpFor(700);
+    pen::Up(panel::ShiftKey());
+    ExpectAfterTaps({panel::At(2, 5, 12)}, CString(L'x', nLeft - 1) + L"a");
+}
+
+TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
+    TVShowSIP(2);
+    const CPoint voiced = panel::At(1, 6, 180);
+    const CPoint semiVoiced = panel::At(3, 6, 180);
+    const CPoint small = panel::At(4, 6, 228);
+    const struct {
+        LPCTSTR pszBefore;
+        CPoint key;
+        LPCTSTR pszAfter;
+    } rows[] = {
+        {L"あか", voiced, L"あが"}, {L"が", voiced, L"か"},     {L"ば", semiVoiced, L"ぱ"},
+        {L"ほ", semiVoiced, L"ぽ"}, {L"か", semiVoiced, L"か"}, {L"つ", small, L"っ"},
+        {L"っ", voiced, L"づ"},     {L"や", small, L"ゃ"},      {L"わ", small, L"ゎ"},
+        {L"ホ", voiced, L"ボ"},     {L"ポ", semiVoiced, L"ホ"}, {L"ウ", voiced, L"ヴ"},
+        {L"う", voiced, L"う"},     {L"八ケ", small, L"八ヶ"},  {L"け", small, L"け"},
+        {L"ヨ", small, L"ョ"},      {L"P1", voiced, L"P1"},     {L"", voiced, L""},
+        {L"ん", small, L"ん"},      {L"ー", semiVoiced, L"ー"},
+    };
+    for (const auto& row : rows) {
+        SetText(row.pszBefore);
+        ExpectAfterTaps({row.key}, row.pszAfter);
+    }
+    SetText(L"かか");
+    m_field.SetSel(1, 1);
+    ExpectAfterTaps({voiced}, L"がか");
+    m_field.SetSel(0, 2); // what is selected is not touched
+    ExpectAfterTaps({voiced}, L"がか");
+}
+
+TEST(PanelInADialog, MovesOnAndConfirmsThoughTheOwnerIsDisabled) {
+    fx::Frame owner;
+    const fx::DialogTemplate controls =
+        fx::DialogTemplate().Edit(10).Edit(11).Button(IDOK, L"OK", BS_DEFPUSHBUTTON);
+    fx::TemplateDialog dialog(controls, &owner);
+    CString strFirst;
+    CString strSecond;
+    fx::ModalScript script;
+    script
+        .Then([&] {
+            EXPECT_FALSE(owner.IsWindowEnabled());
+            dialog.GetDlgItem(10)->SetFocus();
+            TVShowSIP(0);
+        })
+        .Then([] { pen::Tap(panel::At(1, 5, 12)); })
+        .Then([] { pen::Tap(panel::NextKey()); })
+        .Then([] { pen::Tap(panel::At(1, 5, 36)); })
+        .Then([&] {
+            dialog.GetDlgItemText(10, strFirst);
+            dialog.GetDlgItemText(11, strSecond);
+            pen::Tap(panel::EnterKey());
+        });
+    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(strFirst, L"q");
+    EXPECT_EQ(strSecond, L"w");
+    panel::Close();
+}
+
+} // namespace
