@@ -1,9 +1,8 @@
 #include "PanelDrawing.h"
 
 #include <algorithm>
-#include <memory>
+#include <iterator>
 #include <string>
-#include <type_traits>
 
 namespace {
 
@@ -16,16 +15,13 @@ constexpr COLORREF FUNCTION_KEY = RGB(200, 210, 220);
 constexpr COLORREF PRESSED_KEY = RGB(0, 64, 144);
 constexpr COLORREF SHIFTED_KEY = RGB(255, 208, 96);
 
-struct DeleteObject {
-    using pointer = HGDIOBJ;
-    void operator()(HGDIOBJ object) const { ::DeleteObject(object); }
-};
-using GdiObject = std::unique_ptr<std::remove_pointer_t<HGDIOBJ>, DeleteObject>;
-
-GdiObject MakeFont(LONG height) {
-    return GdiObject(::CreateFontW(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                                   OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                   DEFAULT_PITCH | FF_DONTCARE, FONT_NAME));
+void MakeFont(CFont& font, LONG height) {
+    LOGFONTW description{};
+    description.lfHeight = -height;
+    description.lfWeight = FW_NORMAL;
+    description.lfCharSet = DEFAULT_CHARSET;
+    std::copy(std::begin(FONT_NAME), std::end(FONT_NAME), description.lfFaceName);
+    font.CreateFontIndirect(&description);
 }
 
 std::wstring LabelOf(wchar_t code, PanelPage page) {
@@ -59,47 +55,48 @@ bool IsSoundMark(wchar_t code) {
     return code == KEY_VOICED || code == KEY_SEMI_VOICED;
 }
 
-COLORREF ColourOf(const PanelKey& key, bool pressed, const PanelLook& look) {
-    if (pressed || (key.code == KEY_SHIFT && look.locked))
-        return PRESSED_KEY;
-    if (key.code == KEY_SHIFT && look.shifted)
-        return SHIFTED_KEY;
-    return IsFunctionKey(key.code) && key.code != KEY_SPACE ? FUNCTION_KEY : CHARACTER_KEY;
+bool IsFunction(wchar_t code) {
+    return (IsWord(code) && code != KEY_SPACE) || IsSoundMark(code) || code == KEY_SMALL;
 }
 
-void DrawKey(HDC dc, const PanelKey& key, bool pressed, const PanelLook& look) {
-    const COLORREF colour = ColourOf(key, pressed, look);
-    RECT cap = key.place;
+COLORREF ColourOf(wchar_t code, bool pressed, const PanelLook& look) {
+    if (pressed || (code == KEY_SHIFT && look.locked))
+        return PRESSED_KEY;
+    if (code == KEY_SHIFT && look.shifted)
+        return SHIFTED_KEY;
+    return IsFunction(code) ? FUNCTION_KEY : CHARACTER_KEY;
+}
+
+void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) {
+    const COLORREF colour = ColourOf(key.code, pressed, look);
+    CRect cap = key.place;
     ++cap.left; // the ground shows between the keys
     ++cap.top;
-    const GdiObject brush(::CreateSolidBrush(colour));
-    ::FillRect(dc, &cap, static_cast<HBRUSH>(brush.get()));
-    ::SetTextColor(dc, colour == PRESSED_KEY ? RGB(255, 255, 255) : RGB(0, 0, 0));
+    dc.FillSolidRect(cap, colour);
+    dc.SetTextColor(colour == PRESSED_KEY ? RGB(255, 255, 255) : RGB(0, 0, 0));
     const std::wstring label = LabelOf(key.code, look.page);
     if (IsSoundMark(key.code))
-        ::OffsetRect(&cap, (cap.right - cap.left) / 3, (cap.bottom - cap.top) / 2);
-    ::DrawTextW(dc, label.c_str(), static_cast<int>(label.size()), &cap,
+        cap.OffsetRect(cap.Width() / 3, cap.Height() / 2);
+    dc.DrawText(label.c_str(), static_cast<int>(label.size()), cap,
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
 }
 
 } // namespace
 
-void DrawPanel(HDC dc, SIZE panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
-    const RECT whole = {0, 0, panel.cx, panel.cy};
-    const GdiObject ground(::CreateSolidBrush(GROUND));
-    ::FillRect(dc, &whole, static_cast<HBRUSH>(ground.get()));
-    ::SetBkMode(dc, TRANSPARENT);
+void DrawPanel(CDC& dc, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
+    dc.FillSolidRect(CRect(CPoint(), panel), GROUND);
+    dc.SetBkMode(TRANSPARENT);
     // Sizes follow the smallest key of the page; two kana of a word fit into a key of 30 pixels.
-    const RECT& first = keys.front().place;
-    const LONG height = first.bottom - first.top;
-    const GdiObject characters = MakeFont(std::min(height * 3 / 4, first.right - first.left));
-    const GdiObject words = MakeFont(std::min(height * 3 / 5, panel.cx / 20));
-    const GdiObject marks = MakeFont(height * 3 / 2);
-    const HGDIOBJ old = ::SelectObject(dc, characters.get());
+    const CRect first = keys.front().place;
+    CFont characters, words, marks;
+    MakeFont(characters, std::min(first.Height() * 3 / 4, first.Width()));
+    MakeFont(words, std::min<LONG>(first.Height() * 3 / 5, panel.cx / 20));
+    MakeFont(marks, first.Height() * 3 / 2);
+    CFont* const old = dc.SelectObject(&characters);
     for (size_t at = 0; at < keys.size(); ++at) {
         const wchar_t code = keys[at].code;
-        ::SelectObject(dc, IsWord(code) ? words.get() : IsSoundMark(code) ? marks.get() : characters.get());
+        dc.SelectObject(IsWord(code) ? &words : IsSoundMark(code) ? &marks : &characters);
         DrawKey(dc, keys[at], static_cast<int>(at) == look.pressed, look);
     }
-    ::SelectObject(dc, old);
+    dc.SelectObject(old);
 }

@@ -4,6 +4,8 @@
 
 #include "PanelKeys.h"
 
+#include <afxwin.h>
+
 /// What the drawing must know beside the keys.
 struct PanelLook {
     PanelPage page;
@@ -14,4 +16,4 @@ struct PanelLook {
 
 /// Draws the keys.
 /// @param panel  size of the panel in pixels
-void DrawPanel(HDC dc, SIZE panel, const std::vector<PanelKey>& keys, const PanelLook& look);
+void DrawPanel(CDC& dc, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look);

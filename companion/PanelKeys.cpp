@@ -15,6 +15,7 @@ struct Row {
     std::string_view widths = {};
 };
 
+// \x0E, \x0F and \x10 are KEY_SHIFT, KEY_SCRIPT and KEY_MODE.
 // At 240 pixels a tenth of the width is 24 pixels, which a pen hits. Of 40 parts one is 6 pixels.
 constexpr Row LETTERS[] = {
     {L"1234567890"},
@@ -93,8 +94,4 @@ int KeyAt(const std::vector<PanelKey>& keys, POINT point) {
     const auto found = std::find_if(keys.begin(), keys.end(),
                                     [point](const PanelKey& key) { return ::PtInRect(&key.place, point); });
     return found == keys.end() ? -1 : static_cast<int>(std::distance(keys.begin(), found));
-}
-
-bool IsFunctionKey(wchar_t code) {
-    return code <= KEY_SPACE || code == KEY_VOICED || code == KEY_SEMI_VOICED || code == KEY_SMALL;
 }

@@ -33,6 +33,3 @@ std::vector<PanelKey> LayOutKeys(PanelPage page, SIZE panel);
 
 /// Index of the key at a point of the panel, -1 if the point lies outside.
 int KeyAt(const std::vector<PanelKey>& keys, POINT point);
-
-/// Whether a key does something else than typing the character that it shows.
-bool IsFunctionKey(wchar_t code);

@@ -33,6 +33,10 @@ const wchar_t* TitleOf(int mode) {
     }
 }
 
+bool IsEntryField(HWND window) {
+    return window != nullptr && (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0;
+}
+
 /// The work area of the screen on which the user is typing.
 RECT WorkArea() {
     MONITORINFO info{};
@@ -142,11 +146,12 @@ void PanelWindow::Hide() {
 void PanelWindow::Watch() {
     if (!m_shown)
         return;
-    if (m_field != nullptr && !::IsWindow(m_field)) {
-        Close(); // the field went without telling
+    const HWND focus = ::GetFocus();
+    if (m_field != nullptr && !::IsWindow(m_field) && !IsEntryField(focus)) {
+        Close(); // the field went without telling, and there is no other to type into
         return;
     }
-    if (const HWND focus = ::GetFocus(); focus != nullptr)
+    if (focus != nullptr)
         m_field = focus;
     StayOnTop();
     Announce();
@@ -218,7 +223,12 @@ LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        OnPaint();
+        try {
+            OnPaint();
+        } catch (CException* e) { // the system is out of memory; it must not see an exception
+            e->Delete();
+            ::ValidateRect(window, nullptr);
+        }
         return 0;
     case WM_ANNOUNCE:
         Watch();
@@ -254,19 +264,17 @@ void PanelWindow::OnTimer(UINT_PTR timer) {
 }
 
 void PanelWindow::OnPaint() {
-    PAINTSTRUCT paint;
-    const HDC dc = ::BeginPaint(m_window, &paint);
-    RECT client{};
-    ::GetClientRect(m_window, &client);
+    CPaintDC dc(CWnd::FromHandle(m_window));
+    CRect client;
+    ::GetClientRect(m_window, client);
     // Drawn apart and shown at once: a panel that flickers tires the eyes.
-    const HDC memory = ::CreateCompatibleDC(dc);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(dc, client.right, client.bottom);
-    const HGDIOBJ old = ::SelectObject(memory, bitmap);
-    DrawPanel(memory, {client.right, client.bottom}, Keys(),
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
+    CBitmap* const old = memory.SelectObject(&bitmap);
+    DrawPanel(memory, client.Size(), Keys(),
               {Page(), m_pressed, m_shift != Shift::Off, m_shift == Shift::Locked});
-    ::BitBlt(dc, 0, 0, client.right, client.bottom, memory, 0, 0, SRCCOPY);
-    ::SelectObject(memory, old);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(memory);
-    ::EndPaint(m_window, &paint);
+    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
+    memory.SelectObject(old);
 }

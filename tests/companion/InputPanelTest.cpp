@@ -195,13 +195,19 @@ TEST_F(InputPanel, TellsTheActiveWindowWhenItComesAndGoes) {
 }
 
 TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
-    CEdit field; // tells nobody
+    CEdit field; // these tell nobody
+    CEdit next;
     field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 90, 100, 110), &m_frame, 13);
+    next.Create(WS_CHILD | WS_VISIBLE, CRect(0, 120, 100, 140), &m_frame, 14);
     field.SetFocus();
     TVShowSIP(0);
     panel::PumpFor(150);
     EXPECT_TRUE(panel::IsVisible());
+    next.SetFocus();
     field.DestroyWindow();
+    panel::PumpFor(250);
+    EXPECT_TRUE(panel::IsVisible()) << "there is still something to type into";
+    next.DestroyWindow();
     EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
 }
 

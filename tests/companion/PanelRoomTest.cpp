@@ -102,6 +102,28 @@ TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
     RunDialog(dialog, script);
 }
 
+TEST(FullScreenDialogAndPanel, FieldStaysUnderThePenUntilItIsLifted) {
+    FieldDialog dialog({}, {20, 135}); // the panel leaves a strip of the second one
+    CRect home;
+    fx::ModalScript script;
+    script.Then([&] { dialog.m_fields[0].SetFocus(); })
+        .Until([] { return panel::IsVisible(); })
+        .Then([&] {
+            panel::PumpFor(100);
+            home = dialog.FieldRect(1);
+            ASSERT_LT(home.top + 4, panel::Place().top);
+            pen::Down(CPoint(home.CenterPoint().x, home.top + 4));
+        })
+        .Until([&] { return ::GetFocus() == dialog.m_fields[1].m_hWnd; })
+        .Then([&] {
+            panel::PumpFor(100);
+            EXPECT_EQ(dialog.FieldRect(1), home);
+            pen::Up(CPoint(home.CenterPoint().x, home.top + 4));
+        })
+        .Until([&] { return dialog.IsClear(1); });
+    RunDialog(dialog, script);
+}
+
 TEST(PopupDialogAndPanel, MovesUpWithItsButtonsAndBack) {
     const CRect home(20, 110, 220, 220);
     FieldDialog dialog(home, {50});
