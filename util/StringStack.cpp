@@ -1,0 +1,101 @@
+#include "util/StringStack.h"
+
+#include <cwchar>
+
+// Versionable: files of an older or newer schema are left to Serialize, not refused.
+IMPLEMENT_SERIAL(CStringStack, CObject, VERSIONABLE_SCHEMA | 0)
+
+CStringStack::CStringStack(int nMode, int nMax) : m_nMode(nMode), m_nMax(nMax) {}
+
+CStringStack::~CStringStack() {
+    Reset();
+}
+
+void CStringStack::Reset() {
+    m_list.RemoveAll();
+}
+
+// --- Entries ---------------------------------------------------------------------------------
+
+void CStringStack::SeparateHeaderToParam(const wchar_t* psz, CString& strHeader, CString& strParam) {
+    const CString str(psz); // psz may belong to one of the results
+    int nHeader = str.GetLength();
+    while (nHeader > 0 && str[nHeader - 1] >= L'0' && str[nHeader - 1] <= L'9')
+        --nHeader;
+    strHeader = str.Left(nHeader);
+    strParam = str.Mid(nHeader);
+}
+
+CString CStringStack::KeyOf(const wchar_t* psz) {
+    if (m_nMode != ModeHeader)
+        return psz;
+    CString strHeader;
+    CString strParam;
+    SeparateHeaderToParam(psz, strHeader, strParam);
+    return strHeader;
+}
+
+/// The first entry with this key; null if there is none.
+POSITION CStringStack::FindKey(const CString& strKey) {
+    for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;) {
+        const POSITION posEntry = pos;
+        if (std::wcscmp(KeyOf(m_list.GetNext(pos)), strKey) == 0)
+            return posEntry;
+    }
+    return nullptr;
+}
+
+void CStringStack::Add(const wchar_t* psz, int bTail) {
+    if (psz[0] == L'\0')
+        return;
+    if (const POSITION posSame = FindKey(KeyOf(psz)); posSame != nullptr) {
+        if (bTail != 0)
+            return;
+        m_list.RemoveAt(posSame);
+    }
+    if (m_list.GetCount() >= m_nMax && !m_list.IsEmpty())
+        m_list.RemoveTail();
+    if (bTail != 0)
+        m_list.AddTail(psz);
+    else
+        m_list.AddHead(psz);
+}
+
+void CStringStack::SetupList(CComboBox* pCombo) {
+    CString strText;
+    pCombo->GetWindowText(strText);
+    pCombo->ResetContent();
+    for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;)
+        pCombo->AddString(m_list.GetNext(pos));
+    pCombo->SetWindowText(strText);
+}
+
+// --- Archive ---------------------------------------------------------------------------------
+
+void CStringStack::Serialize(CArchive& ar) {
+    if (ar.IsStoring())
+        Store(ar);
+    else
+        Load(ar);
+}
+
+void CStringStack::Store(CArchive& ar) const {
+    ar << static_cast<int>(m_list.GetCount());
+    for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;)
+        ar << m_list.GetNext(pos);
+    ar << m_nMode << m_nMax;
+}
+
+void CStringStack::Load(CArchive& ar) {
+    Reset();
+    int nCount = 0;
+    ar >> nCount;
+    if (nCount < 0)
+        AfxThrowArchiveException(CArchiveException::badIndex, ar.GetFile()->GetFilePath());
+    for (; nCount > 0; --nCount) {
+        CString str;
+        ar >> str;
+        m_list.AddTail(str);
+    }
+    ar >> m_nMode >> m_nMax;
+}
