@@ -1,0 +1,101 @@
+#include "dialogs/ButtonMenuDlg.h"
+
+#include <Tesuvo.h>
+
+#include <utility>
+
+#include "dialogs/detail/LoadText.h"
+#include "resources/ResourceIds.h"
+
+namespace {
+
+constexpr int BUTTON_HEIGHT = 36; ///< Pixels, for a finger.
+constexpr int ICON_ENTRY = 26;
+constexpr int NOTHING_CHOSEN = -1;
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CButtonMenuDlg, CnDialog)
+    ON_COMMAND_RANGE(IDC_FK_MENU_FIRST, IDC_FK_MENU_LAST, &CButtonMenuDlg::OnBtnMenu)
+END_MESSAGE_MAP()
+// clang-format on
+
+CButtonMenuDlg::CButtonMenuDlg(int nTitleId, CUIntArray* pEntryIds, CWnd* pParent)
+    : CnDialog(IDD_FK_BUTTON_MENU, pParent), m_pEntryIds(pEntryIds), m_nTitleId(nTitleId),
+      m_nMenuIndex(NOTHING_CHOSEN) {
+    SetOption(OptionPopup);
+}
+
+CButtonMenuDlg::~CButtonMenuDlg() {
+    DeleteButtons(); // a dialog that was ended by neither OK nor cancel has them still
+    m_buttons.RemoveAll();
+}
+
+int CButtonMenuDlg::GetMenuIndex() const {
+    return m_nMenuIndex;
+}
+
+void CButtonMenuDlg::DoDataExchange(CDataExchange* pDX) {
+    CnDialog::DoDataExchange(pDX);
+}
+
+// --- Opening ---------------------------------------------------------------------------------
+
+BOOL CButtonMenuDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    m_nMenuIndex = NOTHING_CHOSEN; // a second run of the same dialog object
+    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * BUTTON_HEIGHT);
+    CreateButtons();
+    SetWindowText(LoadText(m_nTitleId));
+    CenterWindow();
+    ShowWindow(SW_SHOW);
+    return TRUE;
+}
+
+void CButtonMenuDlg::SetClientHeight(int nHeight) {
+    CRect rect;
+    GetClientRect(rect);
+    rect.bottom = rect.top + nHeight;
+    CalcWindowRect(rect, adjustOutside);
+    SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+}
+
+void CButtonMenuDlg::CreateButtons() {
+    DeleteButtons();
+    m_buttons.RemoveAll();
+    CRect rect;
+    GetClientRect(rect);
+    rect.bottom = rect.top + BUTTON_HEIGHT;
+    for (INT_PTR i = 0; i < m_pEntryIds->GetSize(); ++i) {
+        auto* const pButton = new CIconButton;
+        m_buttons.Add(pButton);
+        pButton->Create(LoadText(static_cast<int>(m_pEntryIds->GetAt(i))), BS_OWNERDRAW | WS_VISIBLE, rect,
+                        this, static_cast<UINT>(IDC_FK_MENU_FIRST + i));
+        pButton->SetIcon(TVGetCommonIcon(ICON_ENTRY));
+        pButton->SetButtonStyle(CIconButton::StyleText);
+        rect.OffsetRect(0, BUTTON_HEIGHT);
+    }
+}
+
+// --- Ending ----------------------------------------------------------------------------------
+
+void CButtonMenuDlg::OnBtnMenu(unsigned int nID) {
+    m_nMenuIndex = static_cast<int>(nID) - IDC_FK_MENU_FIRST;
+    OnOK();
+}
+
+void CButtonMenuDlg::OnOK() {
+    DeleteButtons();
+    CnDialog::OnOK();
+}
+
+void CButtonMenuDlg::OnCancel() {
+    DeleteButtons();
+    CnDialog::OnCancel();
+}
+
+void CButtonMenuDlg::DeleteButtons() {
+    for (INT_PTR i = 0; i < m_buttons.GetSize(); ++i)
+        delete std::exchange(m_buttons[i], nullptr);
+}

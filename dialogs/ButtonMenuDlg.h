@@ -1,0 +1,45 @@
+/// @file
+/// CButtonMenuDlg: a menu of large buttons.
+#pragma once
+
+#include "controls/IconButton.h"
+#include "controls/nDialog.h"
+
+/// A popup dialog that is a column of buttons, one for each entry of the menu. Tapping one
+/// closes it.
+///
+/// A button is 36 pixels high and as wide as the dialog, which does not scroll: a screen of
+/// 320 pixels has room for eight. Up to 21 entries can be chosen; the buttons of further ones
+/// are shown but do nothing.
+class FIELDKIT_API CButtonMenuDlg : public CnDialog {
+public:
+    /// @param nTitleId  string resource of the caption
+    /// @param pEntryIds string resources of the entries, one each; stays the caller's and must
+    ///                  be there until DoModal opens the dialog
+    CButtonMenuDlg(int nTitleId, CUIntArray* pEntryIds, CWnd* pParent);
+    ~CButtonMenuDlg() override;
+
+    /// @return the index of the entry that the last DoModal ended with; -1 if the user has
+    ///         chosen none
+    int GetMenuIndex() const;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+    void OnCancel() override;
+
+    afx_msg void OnBtnMenu(unsigned int nID);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void SetClientHeight(int nHeight);
+    void CreateButtons();
+    void DeleteButtons();
+
+    CArray<CIconButton*, CIconButton*> m_buttons; ///< Owned; null once deleted.
+    CUIntArray* m_pEntryIds;
+    int m_nTitleId;
+    int m_nMenuIndex;
+};

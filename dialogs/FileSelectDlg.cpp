@@ -1,0 +1,232 @@
+#include "dialogs/FileSelectDlg.h"
+
+#include "companion/Tesuvo.h"
+#include "dialogs/BrowseFolderDlg.h"
+#include "dialogs/ResMsgBox.h"
+#include "dialogs/detail/FolderSearch.h"
+#include "dialogs/detail/LoadText.h"
+#include "dialogs/detail/RedrawPause.h"
+#include "resources/ResourceIds.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ICON_FOLDER = 2;
+
+enum Column { ColumnName, ColumnTime, ColumnSize };
+
+/// Text of a column. Made for each of thousands of files, so it asks for no memory.
+using ShortText = wchar_t[32];
+
+/// The time of a file on the clock of the user.
+void WriteTime(const FILETIME& time, ShortText& szText) {
+    FILETIME local = {};
+    SYSTEMTIME t = {};
+    ::FileTimeToLocalFileTime(&time, &local);
+    ::FileTimeToSystemTime(&local, &t);
+    ::wsprintf(szText, L"%d/%02d/%02d %2d:%02d", t.wYear, t.wMonth, t.wDay, t.wHour, t.wMinute);
+}
+
+void WriteSize(DWORD nBytes, ShortText& szText) {
+    ::wsprintf(szText, L"%ld", static_cast<long>(nBytes));
+}
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CFileSelectDlg, CnDialog)
+    ON_NOTIFY(NM_CLICK, IDC_FK_FILE_LIST, &CFileSelectDlg::OnClickLstFiles)
+    ON_BN_CLICKED(IDC_FK_FILE_BROWSE, &CFileSelectDlg::OnBtnFile)
+END_MESSAGE_MAP()
+// clang-format on
+
+CFileSelectDlg::CFileSelectDlg(CWnd* pParent) : CnDialog(IDD_FK_FILE_SELECT, pParent) {
+    SetOption(OptionOkButton | OptionBarButtonSize);
+}
+
+// --- What the caller sets and gets -----------------------------------------------------------
+
+void CFileSelectDlg::SetMode(int nMode) {
+    m_nMode = nMode;
+}
+
+void CFileSelectDlg::SetCurrentName(CString strName) {
+    m_strCurrentName = strName;
+}
+
+void CFileSelectDlg::SetFileFolder(CString strFolder) {
+    m_strFolder = strFolder;
+    ProposeName();
+    if (m_hWnd == nullptr)
+        return;
+    ShowFolder();
+    SetCurrentFileToList();
+    UpdateData(FALSE);
+}
+
+void CFileSelectDlg::SetSubName(CString strSubName) {
+    m_strSubName = strSubName;
+    ProposeName();
+    if (m_hWnd == nullptr)
+        return;
+    ShowSubName();
+    SetCurrentFileToList();
+    UpdateData(FALSE);
+}
+
+CString CFileSelectDlg::GetFileFolder() const {
+    return m_strFolder;
+}
+
+CString CFileSelectDlg::GetSubName() const {
+    return m_strSubName;
+}
+
+CString CFileSelectDlg::GetFilePath() {
+    if (m_hWnd != nullptr)
+        UpdateItems();
+    m_strFilePath = m_strName.IsEmpty() ? CString() : PathIn(m_strFolder, m_strName);
+    return m_strFilePath;
+}
+
+// --- Names -----------------------------------------------------------------------------------
+
+CString CFileSelectDlg::WithExtension(const CString& strName) const {
+    return strName + L"." + m_strSubName;
+}
+
+void CFileSelectDlg::ProposeName() {
+    if (!m_strCurrentName.IsEmpty())
+        m_strName = WithExtension(GetSafeName(m_strCurrentName));
+}
+
+CString CFileSelectDlg::GetSafeName(CString strName) {
+    while (TVCheckFileExist(PathIn(m_strFolder, WithExtension(strName))))
+        TVIncrementName(strName);
+    return strName;
+}
+
+void CFileSelectDlg::UpdateItems() {
+    UpdateData(TRUE);
+    if (m_strName.IsEmpty())
+        return;
+    const int nDot = m_strName.ReverseFind(L'.');
+    if (nDot != -1 && nDot != m_strName.GetLength() - 1)
+        return; // any extension will do
+    m_strName = WithExtension(m_strName.TrimRight(L'.'));
+    UpdateData(FALSE);
+}
+
+// --- The dialog ------------------------------------------------------------------------------
+
+void CFileSelectDlg::DoDataExchange(CDataExchange* pDX) {
+    CnDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_FK_FILE_LIST, m_lstFiles);
+    DDX_Control(pDX, IDC_FK_FILE_BROWSE, m_btnFile);
+    DDX_Text(pDX, IDC_FK_FILE_NAME, m_strName);
+}
+
+BOOL CFileSelectDlg::OnInitDialog() {
+    m_btnFile.Attach(IDC_FK_FILE_BROWSE, this, TVGetCommonIcon(ICON_FOLDER), 0);
+    CnDialog::OnInitDialog();
+    ShowTitle();
+    ShowFolder();
+    InitColumns();
+    m_lstFiles.SetExtendedStyle(m_lstFiles.GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+    ShowSubName();
+    SetCurrentFileToList();
+    return TRUE;
+}
+
+void CFileSelectDlg::ShowTitle() {
+    constexpr int TITLES[] = {IDS_FK_OPEN_FILE, IDS_FK_SAVE_AS, IDS_FK_CREATE_NEW};
+    if (m_nMode >= ModeOpen && m_nMode <= ModeNew)
+        SetWindowText(LoadText(TITLES[m_nMode]));
+}
+
+void CFileSelectDlg::ShowFolder() {
+    SetDlgItemText(IDC_FK_FILE_FOLDER, m_strFolder);
+}
+
+void CFileSelectDlg::ShowSubName() {
+    SetDlgItemText(IDC_FK_FILE_EXTENSION, m_strSubName);
+}
+
+void CFileSelectDlg::OnOK() {
+    if ((m_nMode == ModeSave || m_nMode == ModeNew) && !MayOverwrite())
+        return;
+    CnDialog::OnOK();
+}
+
+/// Whether there is no file of the name, or the user gives it away.
+bool CFileSelectDlg::MayOverwrite() {
+    const CString strPath = GetFilePath();
+    if (!TVCheckFileExist(strPath))
+        return true;
+    CString strQuestion;
+    strQuestion.Format(IDS_FK_ASK_OVERWRITE, strPath.GetString());
+    return CResMsgBox().WarningMsgBox(strQuestion) == IDYES;
+}
+
+void CFileSelectDlg::OnBtnFile() {
+    CBrowseFolderDlg dlg(m_strFolder, this);
+    if (dlg.DoModal() != IDOK || dlg.GetSelectedFolder() == m_strFolder)
+        return;
+    m_strFolder = dlg.GetSelectedFolder();
+    ShowFolder();
+    SetCurrentFileToList();
+}
+
+// --- The list --------------------------------------------------------------------------------
+
+void CFileSelectDlg::InitColumns() {
+    struct Heading {
+        int nText;
+        int nWidth; ///< Pixels.
+    };
+    constexpr Heading HEADINGS[] = {{IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
+    for (int nColumn = ColumnName; nColumn <= ColumnSize; ++nColumn)
+        m_lstFiles.InsertColumn(nColumn, LoadText(HEADINGS[nColumn].nText), LVCFMT_LEFT,
+                                HEADINGS[nColumn].nWidth, nColumn);
+}
+
+void CFileSelectDlg::SetCurrentFileToList() {
+    const RedrawPause pause(m_lstFiles);
+    const QuietDrives quiet;
+    m_lstFiles.DeleteAllItems();
+    int nItem = 0;
+    for (FolderSearch search(SystemPath(m_strFolder)); search.Next();)
+        if (!search.IsFolder() && IsWanted(search.Name()))
+            AddFile(nItem++, search.Entry());
+}
+
+bool CFileSelectDlg::IsWanted(LPCTSTR pszFileName) const {
+    CString strExtension;
+    TVResolveFilePath(pszFileName, nullptr, nullptr, &strExtension);
+    return !strExtension.IsEmpty() && m_strSubName.Find(strExtension.MakeLower()) != -1;
+}
+
+void CFileSelectDlg::AddFile(int nItem, const WIN32_FIND_DATA& file) {
+    ShortText szText;
+    m_lstFiles.InsertItem(nItem, file.cFileName);
+    WriteTime(file.ftLastWriteTime, szText);
+    m_lstFiles.SetItemText(nItem, ColumnTime, szText);
+    WriteSize(file.nFileSizeLow, szText);
+    m_lstFiles.SetItemText(nItem, ColumnSize, szText);
+}
+
+void CFileSelectDlg::OnClickLstFiles(NMHDR* pNMHDR, LRESULT* pResult) {
+    *pResult = 0;
+    const int nItem = reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iItem;
+    if (nItem == -1)
+        return;
+    m_strName = m_lstFiles.GetItemText(nItem, ColumnName);
+    if (m_nMode == ModeNew) {
+        // The loose match lets shorter extensions pass, too: there may be less to cut off.
+        const int nExtension = m_strSubName.GetLength() + 1;
+        const CString strName = m_strName.Left(std::max(0, m_strName.GetLength() - nExtension));
+        m_strName = WithExtension(GetSafeName(strName));
+    }
+    UpdateData(FALSE);
+}

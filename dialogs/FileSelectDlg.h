@@ -1,0 +1,88 @@
+/// @file
+/// CFileSelectDlg: lets the user pick a file of a folder, or name a new one.
+#pragma once
+
+#include <afxcmn.h>
+
+#include "controls/IconButton.h"
+#include "controls/nDialog.h"
+#include "controls/nListCtrl.h"
+
+/// A full-screen dialog with the files of one folder that have the wanted extension, and a field
+/// for the name. A button changes the folder.
+///
+/// Call SetMode, SetCurrentName, SetSubName and SetFileFolder in this order, then DoModal, and
+/// after IDOK GetFilePath. The dialog itself reads, creates and deletes no file. A folder that
+/// cannot be read has an empty list; nothing is reported.
+class FIELDKIT_API CFileSelectDlg : public CnDialog {
+public:
+    enum Mode : int {
+        ModeOpen = 0, ///< OK ends the dialog, whatever the name is.
+        ModeSave = 1, ///< OK asks before it ends with the name of an existing file.
+        ModeNew = 2,  ///< As ModeSave; a tap on a file proposes a name that is still free.
+    };
+
+    /// @param pParent owner; null for the application's main window
+    explicit CFileSelectDlg(CWnd* pParent);
+
+    /// @param nMode a Mode, ModeOpen at first; others act as ModeOpen, with a title of their own
+    void SetMode(int nMode);
+    /// The name, without extension, that proposals begin with; empty for no proposals. It is
+    /// used by the next SetSubName or SetFileFolder.
+    void SetCurrentName(CString strName);
+    /// Sets the folder, and proposes a name that is free there if there is a current name. An
+    /// open dialog shows both; what has been typed into its name field is replaced.
+    /// @param strFolder without a backslash at its end; "\" or an empty text is the root, on the
+    ///   desktop that of the current drive
+    void SetFileFolder(CString strFolder);
+    /// Sets the extension, and proposes a name as SetFileFolder does.
+    /// @param strSubName in lower case, without the dot. A file is listed if its extension, in
+    ///   lower case, is found anywhere in it: "csv txt" lists both kinds. Names get the whole text
+    ///   as their extension.
+    void SetSubName(CString strSubName);
+
+    CString GetFileFolder() const;
+    CString GetSubName() const;
+    /// The path of the name in the field, or after the dialog of the last one; empty if there is
+    /// no name. While the dialog is open, a name without extension first gets one, in the field
+    /// too; ModeOpen ends with the name as it was typed.
+    CString GetFilePath();
+
+protected:
+    /// @param strName without extension
+    /// @return the name itself if the folder has no such file, else the next one by number
+    CString GetSafeName(CString strName);
+    /// Fills the list with the folder's files, in the order of the file system.
+    void SetCurrentFileToList();
+    void ShowSubName();
+    /// Reads the name from the field, and adds the extension if it has none.
+    void UpdateItems();
+
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg void OnClickLstFiles(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnBtnFile();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void InitColumns();
+    void ShowTitle();
+    void ShowFolder();
+    void ProposeName();
+    CString WithExtension(const CString& strName) const;
+    bool IsWanted(LPCTSTR pszFileName) const;
+    void AddFile(int nItem, const WIN32_FIND_DATA& file);
+    bool MayOverwrite();
+
+    CnListCtrl m_lstFiles;
+    CIconButton m_btnFile;
+    CString m_strCurrentName;
+    CString m_strName; ///< Contents of the name field.
+    CString m_strFolder;
+    CString m_strFilePath; ///< The last result of GetFilePath.
+    CString m_strSubName;
+    int m_nMode = ModeOpen;
+};

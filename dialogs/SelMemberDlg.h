@@ -1,0 +1,55 @@
+/// @file
+/// CSelMemberDlg: chooses members and their order.
+#pragma once
+
+#include "controls/IconButton.h"
+#include "controls/nDialog.h"
+#include "controls/nListBox.h"
+#include "dialogs/SelMemberItem.h"
+
+/// A popup dialog with two lists: the members that can be added, and those in use in their
+/// order. Buttons move a member across, and one in use up and down.
+///
+/// The caller fills both lists with AddSelMemberItemToList before DoModal. After IDOK they
+/// hold new items, as the user left them; after cancel they are untouched. The items are the
+/// caller's: the dialog's destructor frees none, so call FlashSelMemberList for both lists.
+class FIELDKIT_API CSelMemberDlg : public CnDialog {
+    static constexpr int ITEM_BLOCK = 10;
+
+public:
+    CPtrList m_listAvailable{ITEM_BLOCK}; ///< CSelMemberItem* that can be added.
+    CPtrList m_listCurrent{ITEM_BLOCK};   ///< CSelMemberItem* in use.
+
+    /// @param strTitle the caption
+    CSelMemberDlg(const CString& strTitle, CWnd* pParent);
+    ~CSelMemberDlg() override;
+
+    /// Deletes every item of a list and empties it.
+    static void FlashSelMemberList(CPtrList& list);
+    /// Appends a new item.
+    /// @param dwData the caller's value; CSelMemberItem::BLANK for a blank
+    /// @return the item, which belongs to whoever flashes the list
+    static CSelMemberItem* AddSelMemberItemToList(CPtrList& list, const wchar_t* pszText,
+                                                  unsigned long dwData);
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg void OnBtnAdd();
+    afx_msg void OnBtnDel();
+    afx_msg void OnBtnUp();
+    afx_msg void OnBtnDown();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void MoveCurrent(int nFrom, int nTo);
+
+    CString m_strTitle;
+    CnListBox m_lbAvailable;
+    CnListBox m_lbCurrent;
+    CIconButton m_btnUp;
+    CIconButton m_btnDown;
+};

@@ -1,0 +1,96 @@
+// Folders as the file dialogs read them: paths, entries, links.
+#pragma once
+
+#include <afx.h>
+
+#include <string>
+#include <string_view>
+
+/// The root of the device's file system; on the desktop, of the current drive.
+constexpr LPCTSTR ROOT_FOLDER = L"\\";
+
+/// The path of an entry of a folder. The root brings its own backslash: two of them at the
+/// beginning would make the entry's name the name of a server.
+inline CString PathIn(const CString& strFolder, LPCTSTR pszName) {
+    return strFolder == ROOT_FOLDER ? strFolder + pszName : strFolder + L"\\" + pszName;
+}
+
+/// The form of a folder's path that the system takes at any length and does not edit, without
+/// a backslash at its end. To be used for the system alone, never shown.
+inline std::wstring SystemPath(const CString& strFolder) {
+    // With the backslash "C:" means the root of the drive, not its current folder.
+    const CString strWanted = PathIn(strFolder, L"");
+    const DWORD nSize = ::GetFullPathName(strWanted, 0, nullptr, nullptr);
+    std::wstring path(nSize, L'\0');
+    const DWORD nLength = ::GetFullPathName(strWanted, nSize, path.data(), nullptr);
+    path.resize(nLength < nSize ? nLength : 0);
+    path.erase(path.find_last_not_of(L'\\') + 1);
+    const std::wstring_view view = path;
+    if (view.starts_with(L"\\\\?\\") || view.starts_with(L"\\\\.\\"))
+        return path;
+    if (view.starts_with(L"\\\\"))
+        return L"\\\\?\\UNC" + path.substr(1);
+    return L"\\\\?\\" + path;
+}
+
+/// Keeps the system from asking for a card that is not in its drive.
+class QuietDrives {
+public:
+    QuietDrives() { ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, &m_nPrevious); }
+    ~QuietDrives() { ::SetThreadErrorMode(m_nPrevious, nullptr); }
+    QuietDrives(const QuietDrives&) = delete;
+    QuietDrives& operator=(const QuietDrives&) = delete;
+
+private:
+    DWORD m_nPrevious = 0;
+};
+
+/// Goes over the entries of one folder, in the order of the file system. A folder that cannot
+/// be read has none.
+class FolderSearch {
+public:
+    /// @param systemPath from SystemPath, or such a path with names behind it
+    explicit FolderSearch(const std::wstring& systemPath)
+        : m_hFind(::FindFirstFile((systemPath + L"\\*.*").c_str(), &m_entry)) {}
+    ~FolderSearch() {
+        if (IsOpen())
+            ::FindClose(m_hFind);
+    }
+    FolderSearch(const FolderSearch&) = delete;
+    FolderSearch& operator=(const FolderSearch&) = delete;
+
+    /// Goes to the next entry, at first to the first one. @return false if there is none
+    bool Next() {
+        do {
+            if (!IsOpen() || (!m_bAtFirst && !::FindNextFile(m_hFind, &m_entry)))
+                return false;
+            m_bAtFirst = false;
+        } while (IsFolderItselfOrParent());
+        return true;
+    }
+
+    LPCTSTR Name() const { return m_entry.cFileName; }
+    const WIN32_FIND_DATA& Entry() const { return m_entry; }
+    bool IsFolder() const { return (m_entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0; }
+
+    /// Whether the entry stands for a place somewhere else: a symbolic link, a junction, a
+    /// mounted volume. Folders that the system keeps in a special way of its own (as one that is
+    /// synchronised with a server) are none.
+    bool IsLink() const {
+        const DWORD nTag = m_entry.dwReserved0;
+        return (m_entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+               (nTag == 0 || IsReparseTagNameSurrogate(nTag) != 0);
+    }
+
+private:
+    bool IsOpen() const { return m_hFind != INVALID_HANDLE_VALUE; }
+    /// The desktop lists "." and "..", the device does not.
+    bool IsFolderItselfOrParent() const {
+        const std::wstring_view name = m_entry.cFileName;
+        return name == L"." || name == L"..";
+    }
+
+    WIN32_FIND_DATA m_entry = {}; // before the handle, whose initialisation fills it
+    HANDLE m_hFind;
+    bool m_bAtFirst = true;
+};

@@ -1,0 +1,262 @@
+// How the file dialog makes names, and how it ends.
+#include "FileSelectStage.h"
+
+namespace {
+
+using namespace file_select;
+
+class SafeName : public CFileSelectDlg {
+public:
+    SafeName() : CFileSelectDlg(nullptr) {}
+    using CFileSelectDlg::GetSafeName;
+};
+
+/// The message box in front.
+CWnd& Box() {
+    return *CWnd::GetActiveWindow();
+}
+
+CString QuestionText() {
+    constexpr int BOX_TEXT = 0xFFFF;
+    return Text(Box(), BOX_TEXT);
+}
+
+TEST(FileSelectNames, TypedNameGetsTheExtensionUnlessItHasOne) {
+    const TestDrive drive;
+    struct Row {
+        const wchar_t* typed;
+        const wchar_t* completed;
+        const wchar_t* path;
+    };
+    const Row rows[] = {
+        {L"report", L"report.csv", L"\\report.csv"},
+        {L"report.", L"report.csv", L"\\report.csv"},
+        {L"report...", L"report.csv", L"\\report.csv"},
+        {L"report.txt", L"report.txt", L"\\report.txt"},
+        {L"a.b.", L"a.b.csv", L"\\a.b.csv"},
+        {L".x", L".x", L"\\.x"},
+        {L"...", L".csv", L"\\.csv"},
+        {L"境界　点", L"境界　点.csv", L"\\境界　点.csv"},
+        {L"𠮷か\x3099．", L"𠮷か\x3099．.csv", L"\\𠮷か\x3099．.csv"}, // a full-width stop is no dot
+        {L"", L"", L""},
+    };
+    for (const Row& row : rows) {
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetMode(CFileSelectDlg::ModeSave);
+        dlg.SetSubName(L"csv");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, row.typed);
+            EXPECT_EQ(dlg.GetFilePath(), row.path) << "while open";
+            EXPECT_EQ(Text(dlg, NAME), row.completed);
+            dlg.SetDlgItemText(NAME, row.typed);
+            caption::TapOk(dlg);
+        });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(row.typed);
+        EXPECT_EQ(dlg.GetFilePath(), row.path) << "afterwards";
+    }
+}
+
+TEST(FileSelectNames, ProposalIsTheFirstNumberThatIsFree) {
+    const TestDrive drive;
+    for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\data2.csv", L"\\P009.csv", L"\\x.txt"})
+        drive.MakeFile(pszName);
+    drive.MakeFolder(L"\\folder.csv");
+    struct Row {
+        const wchar_t* name;
+        const wchar_t* safe;
+    };
+    const Row rows[] = {{L"data", L"data3"}, {L"data1", L"data3"},  {L"data7", L"data7"},
+                        {L"P009", L"P010"},  {L"x", L"x"},          {L"new", L"new"},
+                        {L"a?b", L"a?b"},    {L"folder", L"folder"}}; // a folder is not a file
+    for (const Row& row : rows) {
+        SafeName dlg;
+        dlg.SetCurrentName(row.name);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\");
+        EXPECT_EQ(dlg.GetSafeName(row.name), row.safe);
+        EXPECT_EQ(dlg.GetFilePath(), L"\\" + CString(row.safe) + L".csv") << "before the dialog";
+        WhileOpen(dlg, [&] { EXPECT_EQ(Text(dlg, NAME), CString(row.safe) + L".csv"); });
+    }
+}
+
+TEST(FileSelectNames, WithoutCurrentNameThereIsNoProposal) {
+    const TestDrive drive;
+    CFileSelectDlg dlg(nullptr);
+    dlg.SetMode(CFileSelectDlg::ModeNew);
+    dlg.SetSubName(L"csv");
+    dlg.SetFileFolder(L"\\");
+    WhileOpen(dlg, [&] { EXPECT_EQ(Text(dlg, NAME), L""); });
+    EXPECT_EQ(dlg.GetFilePath(), L"");
+}
+
+TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
+    const TestDrive drive;
+    for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\abc.c", L"\\a.c"})
+        drive.MakeFile(pszName);
+    struct Row {
+        int mode;
+        const wchar_t* tapped;
+        const wchar_t* name;
+    };
+    const Row rows[] = {
+        {CFileSelectDlg::ModeOpen, L"data.csv", L"data.csv"},
+        {CFileSelectDlg::ModeSave, L"data.csv", L"data.csv"},
+        {CFileSelectDlg::ModeNew, L"data.csv", L"data2.csv"},
+        {CFileSelectDlg::ModeNew, L"data1.csv", L"data2.csv"},
+        {CFileSelectDlg::ModeNew, L"abc.c", L"a.csv"}, // cut by the length of ".csv"
+        {CFileSelectDlg::ModeNew, L"a.c", L".csv"},    // shorter than that
+    };
+    for (const Row& row : rows) {
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetMode(row.mode);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\");
+        fx::ModalScript script;
+        script.Then([&] { TapFile(dlg, row.tapped); });
+        script.Then([&] {
+            EXPECT_EQ(Text(dlg, NAME), row.name);
+            CRect rect;
+            List(dlg).GetWindowRect(rect);
+            pen::Tap(CPoint(rect.left + 20, rect.bottom - 30)); // below the last file
+        });
+        script.Then([&] {
+            EXPECT_EQ(Text(dlg, NAME), row.name) << "a tap beside the files changes nothing";
+            dlg.EndDialog(IDCANCEL);
+        });
+        script.Run([&] { return dlg.DoModal(); });
+    }
+}
+
+TEST(FileSelectNames, FileThatHasVanishedCanStillBeTapped) {
+    const TestDrive drive;
+    for (const int nMode : {CFileSelectDlg::ModeOpen, CFileSelectDlg::ModeNew}) {
+        drive.MakeFile(L"\\gone.csv");
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetMode(nMode);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\");
+        fx::ModalScript script;
+        script.Then([&] {
+            ::DeleteFile(L"\\gone.csv");
+            TapFile(dlg, L"gone.csv");
+        });
+        script.Then([&] { caption::TapOk(dlg); });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+        EXPECT_EQ(dlg.GetFilePath(), L"\\gone.csv");
+    }
+}
+
+TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
+    const TestDrive drive;
+    drive.MakeFolder(L"\\data");
+    drive.MakeFile(L"\\data\\old.csv");
+    for (const int nMode : {CFileSelectDlg::ModeSave, CFileSelectDlg::ModeNew}) {
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetMode(nMode);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\data");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, L"old");
+            caption::TapOk(dlg);
+        });
+        script.Then([&] {
+            EXPECT_EQ(QuestionText(), L"\\data\\old.csvは既に存在します。\n上書きしますか？");
+            EXPECT_EQ(Box().GetWindow(GW_OWNER), &dlg);
+            pen::Tap(*Box().GetDlgItem(IDNO));
+        });
+        script.Then([&] {
+            EXPECT_EQ(CWnd::GetActiveWindow(), &dlg) << "No leaves the dialog open";
+            EXPECT_EQ(Text(dlg, NAME), L"old.csv");
+            caption::TapOk(dlg);
+        });
+        script.Then([&] { pen::Tap(*Box().GetDlgItem(IDYES)); });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+        EXPECT_EQ(dlg.GetFilePath(), L"\\data\\old.csv");
+    }
+}
+
+TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
+    const TestDrive drive;
+    drive.MakeFile(L"\\old.csv");
+    struct Row {
+        int mode;
+        const wchar_t* typed;
+        const wchar_t* path;
+    };
+    for (const Row& row : {Row{0, L"old.csv", L"\\old.csv"}, Row{0, L"new", L"\\new"}, Row{0, L"", L""},
+                           Row{3, L"old.csv", L"\\old.csv"}}) {
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetMode(row.mode);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, row.typed);
+            caption::TapOk(dlg);
+        });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+        EXPECT_EQ(dlg.GetFilePath(), row.path);
+    }
+}
+
+TEST(FileSelectNames, CloseButtonCancels) {
+    const TestDrive drive;
+    drive.MakeFile(L"\\old.csv");
+    CFileSelectDlg dlg(nullptr);
+    dlg.SetMode(CFileSelectDlg::ModeSave);
+    dlg.SetCurrentName(L"seed");
+    dlg.SetSubName(L"csv");
+    fx::ModalScript script;
+    script.Then([&] {
+        dlg.SetDlgItemText(NAME, L"old.csv");
+        caption::TapClose(dlg);
+    });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dlg.GetFilePath(), L"\\seed.csv");
+}
+
+TEST(FileSelectNames, FolderButtonChangesTheFolderAndKeepsTheName) {
+    const TestDrive drive;
+    drive.MakeFolder(L"\\data");
+    drive.MakeFile(L"\\data\\in.csv");
+    drive.MakeFile(L"\\top.csv");
+    struct Row {
+        const char* what;
+        void (*end)(const CWnd&);
+        const wchar_t* folder;
+        Texts names;
+    };
+    for (const Row& row : {Row{"OK", caption::TapOk, L"\\data", {L"in.csv"}},
+                           Row{"close", caption::TapClose, L"\\", {L"top.csv"}}}) {
+        CFileSelectDlg dlg(nullptr);
+        dlg.SetSubName(L"csv");
+        dlg.SetFileFolder(L"\\");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, L"typed");
+            pen::Tap(*dlg.GetDlgItem(FOLDER_BUTTON));
+        });
+        script.Then([] {
+            CWnd* pBrowse = CWnd::GetActiveWindow();
+            auto* pTree = static_cast<CTreeCtrl*>(pBrowse->GetDlgItem(1100));
+            CRect rect;
+            pTree->GetItemRect(pTree->GetChildItem(pTree->GetRootItem()), rect, TRUE);
+            pTree->ClientToScreen(rect);
+            pen::Tap(rect.CenterPoint());
+        });
+        script.Then([&] { row.end(*CWnd::GetActiveWindow()); });
+        script.Then([&] {
+            EXPECT_EQ(CWnd::GetActiveWindow(), &dlg);
+            EXPECT_EQ(Text(dlg, FOLDER), row.folder) << row.what;
+            EXPECT_EQ(Names(dlg), row.names) << row.what;
+            EXPECT_EQ(Text(dlg, NAME), L"typed");
+            caption::TapOk(dlg);
+        });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+        EXPECT_EQ(dlg.GetFileFolder(), row.folder) << row.what;
+    }
+}
+
+} // namespace

@@ -1,0 +1,137 @@
+// A drive of the test's own, for dialogs that begin at the root of the current drive.
+#pragma once
+
+#include <afx.h>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+/// An empty drive that is the current one while the object exists. Then everything on it is
+/// deleted and the current folder is as before.
+class TestDrive {
+public:
+    TestDrive() {
+        ::GetCurrentDirectory(MAX_PATH, m_szPrevious);
+        wchar_t szTemp[MAX_PATH];
+        ::GetTempPath(MAX_PATH, szTemp);
+        static int s_nDrives = 0;
+        m_strFolder.Format(L"%sfk%u-%d", szTemp, ::GetCurrentProcessId(), ++s_nDrives);
+        ::CreateDirectory(m_strFolder, nullptr);
+        m_strLetter = FreeLetter();
+        if (!::DefineDosDevice(0, m_strLetter, m_strFolder) || !::SetCurrentDirectory(Root()))
+            DefineUnderWine();
+        Check(::SetCurrentDirectory(Root()), "no drive to test on");
+    }
+    ~TestDrive() {
+        ::SetCurrentDirectory(m_szPrevious);
+        const auto isGone = [this] { return ::GetFileAttributes(m_strFolder) == INVALID_FILE_ATTRIBUTES; };
+        if (m_unixLink.empty()) {
+            DeleteTree(m_strFolder);
+            ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
+        } else {
+            RunUnix("rm -rf '" + m_unixLink + "' '" + UnixName(m_strFolder) + "'", isGone);
+        }
+    }
+    TestDrive(const TestDrive&) = delete;
+    TestDrive& operator=(const TestDrive&) = delete;
+
+    /// "X:"
+    CString Letter() const { return m_strLetter; }
+    CString Root() const { return m_strLetter + L"\\"; }
+
+    /// @param strPath from the root, as "\a\b"; it may be of any length
+    void MakeFolder(const CString& strPath) const {
+        Check(::CreateDirectory(Long(strPath), nullptr), "cannot make a folder");
+    }
+    void MakeFile(const CString& strPath, DWORD nBytes = 0) const {
+        const HANDLE hFile = ::CreateFile(Long(strPath), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        Check(hFile != INVALID_HANDLE_VALUE, "cannot make a file");
+        ::SetFilePointer(hFile, static_cast<LONG>(nBytes), nullptr, FILE_BEGIN);
+        ::SetEndOfFile(hFile);
+        ::CloseHandle(hFile);
+    }
+    /// A link to a folder. @return false if this user may not make links
+    bool MakeLink(const CString& strPath, const CString& strTarget) const {
+        if (m_unixLink.empty())
+            return ::CreateSymbolicLink(Long(strPath), Root() + strTarget.Mid(1),
+                                        SYMBOLIC_LINK_FLAG_DIRECTORY |
+                                            SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE) != 0;
+        RunUnix("ln -s '" + UnixName(strTarget) + "' '" + UnixName(strPath) + "'",
+                [&] { return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES; });
+        return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES;
+    }
+
+    CString Long(const CString& strPath) const { return L"\\\\?\\" + m_strLetter + strPath; }
+
+private:
+    static void Check(bool bGood, const char* pszWhat) {
+        if (!bGood)
+            throw std::runtime_error(pszWhat);
+    }
+
+    static CString FreeLetter() {
+        wchar_t chLetter = L'Y';
+        while (chLetter > L'D' && (::GetLogicalDrives() & 1U << (chLetter - L'A')) != 0)
+            --chLetter;
+        return CString(chLetter) + L":";
+    }
+
+    static void DeleteTree(const CString& strFolder) {
+        WIN32_FIND_DATA entry;
+        const HANDLE hFind = ::FindFirstFile(L"\\\\?\\" + strFolder + L"\\*", &entry);
+        for (BOOL bMore = hFind != INVALID_HANDLE_VALUE; bMore; bMore = ::FindNextFile(hFind, &entry)) {
+            const CString strName = entry.cFileName;
+            const CString strPath = strFolder + L"\\" + strName;
+            ::SetFileAttributes(L"\\\\?\\" + strPath, FILE_ATTRIBUTE_NORMAL);
+            if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+                ::DeleteFile(L"\\\\?\\" + strPath);
+            else if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
+                ::RemoveDirectory(L"\\\\?\\" + strPath);
+            else if (strName != L"." && strName != L"..")
+                DeleteTree(strPath);
+        }
+        ::FindClose(hFind);
+        ::RemoveDirectory(L"\\\\?\\" + strFolder);
+    }
+
+    // --- Wine defines drives, but does not find files on them; its own are links -----------
+
+    static std::string UnixName(const CString& strPath) {
+        using Function = char*(CDECL*)(LPCWSTR);
+        const auto pfn = reinterpret_cast<Function>(reinterpret_cast<void*>(
+            ::GetProcAddress(::GetModuleHandle(L"kernel32.dll"), "wine_get_unix_file_name")));
+        char* const pszName = pfn != nullptr ? pfn(strPath) : nullptr;
+        const std::string name = pszName != nullptr ? pszName : "";
+        ::HeapFree(::GetProcessHeap(), 0, pszName);
+        return name;
+    }
+
+    /// Wine gives no handle of such a process to wait for.
+    static void RunUnix(const std::string& command, const std::function<bool()>& done) {
+        CString strLine = (L"sh -c \"" + CString(command.c_str()) + L"\"");
+        STARTUPINFO startup = {};
+        startup.cb = sizeof startup;
+        PROCESS_INFORMATION process = {};
+        ::CreateProcess(L"Z:\\bin\\sh", strLine.GetBuffer(), nullptr, nullptr, FALSE, 0, nullptr, L"Z:\\",
+                        &startup, &process);
+        constexpr int MAX_WAITS = 3000; // a minute: there may be thousands of files to delete
+        for (int i = 0; i < MAX_WAITS && !done(); ++i)
+            ::Sleep(20);
+    }
+
+    void DefineUnderWine() {
+        ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
+        const std::string folder = UnixName(m_strFolder);
+        m_unixLink = folder.substr(0, folder.find("/c:") + 1);
+        m_unixLink += {static_cast<char>(m_strLetter[0] - L'A' + 'a'), ':'};
+        RunUnix("ln -s '" + folder + "' '" + m_unixLink + "'",
+                [this] { return ::GetFileAttributes(Root()) != INVALID_FILE_ATTRIBUTES; });
+    }
+
+    wchar_t m_szPrevious[MAX_PATH];
+    CString m_strFolder;
+    CString m_strLetter;
+    std::string m_unixLink; ///< Under Wine: the link that is the drive.
+};
