@@ -187,6 +187,8 @@ void CDeviceCaption::OnSized(CWnd* pWnd, WPARAM wParam) {
 
 void CDeviceCaption::EnterFullScreen(CWnd* pWnd) {
     pWnd->m_nFlags |= WF_FULLSCREEN | WF_OKBUTTON;
+    if (::GetActiveWindow() == pWnd->m_hWnd) // it became so before the title bar was ours
+        pWnd->m_nFlags |= WF_CAPTIONACTIVE;
     KeepSystemFromDrawing(pWnd->m_hWnd);
     const CRect area = WorkArea(pWnd);
     ::SetWindowPos(pWnd->m_hWnd, nullptr, area.left, area.top, area.Width(), area.Height(),

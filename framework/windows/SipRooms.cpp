@@ -34,10 +34,6 @@ BOOL CSipRooms::OnMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam
         if (wParam == SPI_SETSIPINFO && IsTopLevelDialog(pWnd->m_hWnd))
             OfThread().Add(pWnd->m_hWnd);
         return FALSE;
-    case WM_ACTIVATE: // it may have missed the panel's leave
-        if (LOWORD(wParam) != WA_INACTIVE && !OfThread().m_rooms.empty())
-            OfThread().FollowLater();
-        return FALSE;
     case WM_NCDESTROY:
         OfThread().Remove(pWnd->m_hWnd);
         return FALSE;
