@@ -8,6 +8,7 @@
 namespace {
 
 constexpr double TWO_PI = 6.28318530717958647692;
+constexpr double SAME_DIRECTION = 1e-06; // radians
 constexpr double SAME_POINT = 0.001;
 /// Nearer to the centre than this, the library gives points no direction of their own.
 constexpr double MIN_RADIUS = 0.1;
@@ -17,7 +18,7 @@ bool IsSamePoint(const CCoordinate& a, const CCoordinate& b) {
 }
 
 bool IsParallel(CVector u, CVector v) {
-    return u.IsSameDir(v, FIELD_TOLERANCE) || u.IsSameDir(v.R_Scalar(-1), FIELD_TOLERANCE);
+    return u.IsSameDir(v, SAME_DIRECTION) || u.IsSameDir(v.R_Scalar(-1), SAME_DIRECTION);
 }
 
 CResult Failed(Verdict verdict) {
@@ -116,4 +117,9 @@ CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, 
                               second, bSplit))
         return Failed(Verdict::NoCorner);
     return bSplit ? Found(plane, {first, second}) : Found(plane, {first});
+}
+
+CCoordinate FindPolarPoint(const CCoordinate& from, double dDirection, double dDistance) {
+    const CLocalPlane plane(from);
+    return plane.ToCoordinate(CVector(dDistance * std::sin(dDirection), dDistance * std::cos(dDirection)));
 }

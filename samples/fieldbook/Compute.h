@@ -6,10 +6,6 @@
 
 #include <vector>
 
-/// What the library's tolerance is set to for this program, in metres: whatever comes closer
-/// than that touches. A coordinate of the job is known to a millimetre at best.
-constexpr double FIELD_TOLERANCE = 1e-06;
-
 /// How a computation ended.
 enum class Verdict {
     Found,
@@ -44,6 +40,10 @@ CResult FindArcCentre(const CCoordinate& start, const CCoordinate& end, double d
 /// The corners of the tangents of an arc that turns left from start to end: one, or two for
 /// an arc of half a turn and more.
 CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end);
+
+/// The point at a horizontal distance from another one, without height.
+/// @param dDirection radians, clockwise from north
+CCoordinate FindPolarPoint(const CCoordinate& from, double dDirection, double dDistance);
 
 /// The horizontal distance.
 double Distance(const CCoordinate& a, const CCoordinate& b);

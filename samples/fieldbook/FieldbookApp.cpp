@@ -1,10 +1,8 @@
 // The application object: finds the points file and runs the main dialog.
 #include <afxwin.h>
 
-#include "Compute.h"
 #include "MainDlg.h"
 #include "Tesuvo.h"
-#include "geometry/Vector.h"
 
 namespace {
 
@@ -23,7 +21,7 @@ private:
 CFieldbookApp theApp;
 
 BOOL CFieldbookApp::InitInstance() {
-    CVector::SetTolerance(FIELD_TOLERANCE);
+    SetRegistryKey(L"Fieldkit"); // the settings are kept there
     CMainDlg dialog(PointsPath());
     m_pMainWnd = &dialog;
     dialog.DoModal();

@@ -11,6 +11,7 @@ CJournal::CJournal(const CString& strPointsPath) {
 }
 
 void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines) {
+    m_entries.push_back({strTitle, lines});
     if (!m_bWritable)
         return;
     try {

@@ -4,11 +4,10 @@
 
 #include "controls/nDialog.h"
 
-#include "Journal.h"
+#include "Job.h"
 #include "PointFile.h"
-#include "Questions.h"
 
-/// Reads the points file and offers the computations.
+/// Reads the points file and leads to the other screens.
 class CMainDlg : public CnDialog {
 public:
     /// @param strPath the points file
@@ -17,13 +16,12 @@ public:
 protected:
     BOOL OnInitDialog() override;
 
-    // Each button: ask for the inputs, compute, show the result.
-    afx_msg void OnLines();
-    afx_msg void OnLineCircle();
-    afx_msg void OnCircles();
-    afx_msg void OnArcCentre();
-    afx_msg void OnTangents();
+    afx_msg void OnCompute();
+    afx_msg void OnPolar();
     afx_msg void OnPointList();
+    afx_msg void OnPointEntry();
+    afx_msg void OnJournal();
+    afx_msg void OnSettings();
     /// Tells about the lines that could not be read.
     afx_msg LRESULT OnReport(WPARAM wParam, LPARAM lParam);
 
@@ -32,10 +30,9 @@ protected:
 private:
     CString FileName() const;
     void LoadPoints();
+    void ShowPointCount();
 
-    CString m_strPath;
-    CPointBook m_book;
+    CJob m_job;
     std::vector<CBadLine> m_badLines;
-    CJournal m_journal;
-    CQuestions m_questions;
+    UINT m_nSettingsPage = 0; ///< The page of the settings that was shown last.
 };

@@ -12,6 +12,15 @@ LineFault TakeLine(const CString& strLine, CPointBook& book) {
     return book.Add(point) ? LineFault::None : LineFault::DuplicateName;
 }
 
+bool EndsInsideALine(CAsciiFile& file) {
+    if (file.GetLength() == 0)
+        return false;
+    file.Seek(-1, CFile::end);
+    char ch = 0;
+    file.Read(&ch, 1);
+    return ch != '\r' && ch != '\n';
+}
+
 } // namespace
 
 std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book) {
@@ -37,4 +46,17 @@ std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book) {
         if (fault != LineFault::None)
             badLines.push_back({nLine, fault});
     }
+}
+
+void AppendPoint(const CString& strPath, const CNamedPoint& point) {
+    CAsciiFile file;
+    CFileException error;
+    if (!file.Open(strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite, &error))
+        AfxThrowFileException(error.m_cause, error.m_lOsError, strPath);
+    const bool bEndMissing = EndsInsideALine(file);
+    file.SeekToEnd();
+    if (bEndMissing)
+        file.WriteString(L"");
+    file.WriteString(FormatPointLine(point));
+    file.Close();
 }

@@ -18,3 +18,8 @@ struct CBadLine {
 /// @return the lines that gave no point; everything else is in the book
 /// @throw CFileException* as CFile::Read; the points read so far are in the book
 std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book);
+
+/// Adds a point as the last line of a file, which is made if there is none. A last line without
+/// an end gets one, so that it stays a line of its own.
+/// @throw CFileException* if the file cannot be opened or written
+void AppendPoint(const CString& strPath, const CNamedPoint& point);

@@ -21,6 +21,14 @@ std::vector<CString> SplitAtCommas(const CString& strLine) {
     return fields;
 }
 
+CString CleanName(const CString& strName) {
+    CString strClean;
+    for (int i = 0; i < strName.GetLength(); ++i)
+        if (strName[i] > L' ' && strName[i] != L',')
+            strClean += strName[i];
+    return strClean;
+}
+
 } // namespace
 
 bool IsHeaderLine(const CString& strLine) {
@@ -33,22 +41,37 @@ LineFault ParsePointLine(const CString& strLine, CNamedPoint& point) {
         return LineFault::TooFewFields;
     if (fields.size() > MAX_FIELDS)
         return LineFault::TooManyFields;
-    if (fields[0].IsEmpty())
-        return LineFault::NoName;
+    return ParsePoint(fields[0], fields[1], fields[2], fields.size() == MAX_FIELDS ? fields[3] : CString(),
+                      point);
+}
 
+LineFault ParsePoint(const CString& strName, const CString& strN, const CString& strE, const CString& strZ,
+                     CNamedPoint& point) {
+    const CString strClean = CleanName(strName);
+    if (strClean.IsEmpty())
+        return LineFault::NoName;
     double dN = 0;
     double dE = 0;
-    if (!TVString2Double(&fields[1], &dN) || !TVString2Double(&fields[2], &dE))
+    if (!TVString2Double(&strN, &dN) || !TVString2Double(&strE, &dE))
         return LineFault::BadNumber;
     CCoordinate coordinate;
     coordinate.SetN(dN);
     coordinate.SetE(dE);
-    if (fields.size() == MAX_FIELDS && !fields[3].IsEmpty()) {
+    CString strHeight = strZ;
+    if (!strHeight.Trim().IsEmpty()) {
         double dZ = 0;
-        if (!TVString2Double(&fields[3], &dZ))
+        if (!TVString2Double(&strHeight, &dZ))
             return LineFault::BadNumber;
         coordinate.SetZ(dZ);
     }
-    point = CNamedPoint{fields[0], coordinate};
+    point = CNamedPoint{strClean, coordinate};
     return LineFault::None;
+}
+
+CString FormatPointLine(const CNamedPoint& point) {
+    CString strLine;
+    strLine.Format(L"%s,%.6f,%.6f,", point.strName.GetString(), point.point.GetN(), point.point.GetE());
+    if (point.point.IsExistZ())
+        strLine.AppendFormat(L"%.6f", point.point.GetZ());
+    return strLine;
 }

@@ -4,10 +4,10 @@
 
 #include "controls/nDialog.h"
 
-#include "PointBook.h"
+#include "EntryControls.h"
+#include "ListControls.h"
 
-/// A full-screen dialog with a row of name, northing and easting for each point, and the
-/// height of the row that is selected below. The OK button is in the title bar.
+/// A full-screen dialog with a row for each point. The OK button is in the title bar.
 class CPointListDlg : public CnDialog {
 public:
     /// @param book must outlive the dialog
@@ -16,12 +16,9 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    afx_msg void OnSelChange();
-    DECLARE_MESSAGE_MAP()
 
 private:
-    void FillList();
-
     const CPointBook& m_book;
-    CListBox m_list;
+    CPointListCtrl m_list;
+    CResultLine m_legend;
 };

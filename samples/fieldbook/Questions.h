@@ -18,8 +18,11 @@ public:
     /// @param parent, book must outlive the object
     CQuestions(CWnd& parent, const CPointBook& book) : m_parent(parent), m_book(book) {}
 
-    /// Sets the title of the questions that follow, a string id.
-    void SetTitle(UINT nTitleId) { m_nTitleId = nTitleId; }
+    /// Begins a round of questions.
+    /// @param nTitleId their title, a string id
+    void Begin(UINT nTitleId);
+    /// The points that were named in this round.
+    const std::vector<CString>& GetPointNames() const { return m_pointNames; }
 
     bool AskPoint(UINT nQuestionId, CCoordinate& point);
     /// @param dRadius more than 0
@@ -30,10 +33,12 @@ public:
 private:
     /// Takes an answer over. @return what is wrong with it; empty if it is good
     using Check = std::function<CString(const CString& strAnswer)>;
-    bool Ask(UINT nQuestionId, const Check& check);
+    /// @param nPanel the soft input panel that is shown with it, see TVShowSIP
+    bool Ask(UINT nQuestionId, int nPanel, const Check& check);
 
     CWnd& m_parent;
     const CPointBook& m_book;
     UINT m_nTitleId = 0;
+    std::vector<CString> m_pointNames;
     std::map<UINT, CString> m_lastAnswers; ///< By question.
 };

@@ -3,20 +3,65 @@
 
 #define IDD_MAIN 2001
 #define IDD_POINT_LIST 2002
+#define IDD_COMPUTE 2003
+#define IDD_POLAR 2004
+#define IDD_POINT_ENTRY 2005
+#define IDD_JOURNAL 2006
+#define IDD_COORDINATES 2007
+#define IDD_ANGLES 2008
+#define IDD_TOLERANCE 2009
 
 // Main dialog
 #define IDC_FILE_NAME 2100
 #define IDC_POINT_COUNT 2101
-#define IDC_LINES 2102
-#define IDC_LINE_CIRCLE 2103
-#define IDC_CIRCLES 2104
-#define IDC_ARC_CENTRE 2105
-#define IDC_TANGENTS 2106
-#define IDC_POINT_LIST 2107
+#define IDC_COMPUTE 2102
+#define IDC_POLAR 2103
+#define IDC_POINT_LIST 2104
+#define IDC_POINT_ENTRY 2105
+#define IDC_JOURNAL 2106
+#define IDC_SETTINGS 2107
+
+// Computations
+#define IDC_LINES 2110
+#define IDC_LINE_CIRCLE 2111
+#define IDC_CIRCLES 2112
+#define IDC_ARC_CENTRE 2113
+#define IDC_TANGENTS 2114
 
 // Point list dialog
-#define IDC_POINTS 2110
-#define IDC_HEIGHT 2111
+#define IDC_POINTS 2120
+#define IDC_LEGEND 2121
+
+// Point entry dialog
+#define IDC_KIND 2130
+#define IDC_NAME 2131
+#define IDC_N 2132
+#define IDC_E 2133
+#define IDC_Z 2134
+#define IDC_NO_HEIGHT 2135
+#define IDC_ADD 2136
+#define IDC_MESSAGE 2137
+
+// Angle dialog; its button is IDC_COMPUTE
+#define IDC_FROM 2140
+#define IDC_DIRECTION 2141
+#define IDC_TURN 2142
+#define IDC_DISTANCE 2143
+#define IDC_RESULT 2144
+#define IDC_RESULT_N 2145
+#define IDC_RESULT_E 2146
+
+// Journal dialog
+#define IDC_JOURNAL_TREE 2150
+#define IDC_JOURNAL_LINES 2151
+
+// Pages of the settings
+#define IDC_DECIMALS 2160
+#define IDC_SPIN 2161
+#define IDC_EXAMPLE 2162
+#define IDC_WHOLE_SECONDS 2163
+#define IDC_TENTHS 2164
+#define IDC_TOLERANCES 2165
 
 // Titles of the computations, the same as on their buttons
 #define IDS_LINES 2200
@@ -49,6 +94,7 @@
 #define IDS_UNKNOWN_POINT 2240
 #define IDS_BAD_RADIUS 2241
 #define IDS_BAD_ANGLE 2242
+#define IDS_BAD_DISTANCE 2243
 
 // Results
 #define IDS_FOUND 2250
@@ -74,7 +120,32 @@
 #define IDS_BAD_LINES 2303
 #define IDS_BAD_LINE 2304
 #define IDS_MORE_BAD_LINES 2305
-#define IDS_NO_HEIGHT 2306
-#define IDS_HEIGHT 2307
 #define IDS_NO_FILE 2308
 #define IDS_NO_JOURNAL 2309
+
+// Point list and point entry
+#define IDS_COLUMN_NAME 2320
+#define IDS_USED_POINTS 2321
+#define IDS_ENTER_POINT 2322
+#define IDS_NAME_TAKEN 2323
+#define IDS_ADDED 2324
+#define IDS_NOT_WRITTEN 2325
+
+// Kinds of points, in the order of the beginnings of their names
+#define IDS_KIND_FIRST 2330
+
+// Angles
+#define IDS_POLAR 2340
+#define IDS_DIRECTION_LINE 2341
+
+// Journal
+#define IDS_RESULT_NUMBER 2350
+#define IDS_COLUMN_ITEM 2351
+#define IDS_COLUMN_VALUE 2352
+
+// Settings
+#define IDS_SETTINGS 2360
+#define IDS_EXAMPLE 2361
+#define IDS_TOLERANCE 2362
+#define IDS_TOLERANCE_CHOICE 2363
+#define IDS_NOT_SAVED 2364

@@ -51,6 +51,10 @@ void ShowResult(CWnd& parent, CJournal& journal, UINT nTitleId, UINT nPointId, c
     dialog.DoModal();
 }
 
+UINT FaultTextId(LineFault fault) {
+    return TextId(IDS_FAULT_FIRST, LineFault::TooFewFields, fault);
+}
+
 void ShowBadLines(CWnd& parent, const std::vector<CBadLine>& badLines) {
     if (badLines.empty())
         return;
@@ -60,7 +64,7 @@ void ShowBadLines(CWnd& parent, const std::vector<CBadLine>& badLines) {
     CResultDlg dialog(Text(IDS_BAD_LINES, nCount), Text(IDS_BAD_LINES_TITLE), &parent);
     for (int i = 0; i < nShown; ++i) {
         const CBadLine& bad = badLines[static_cast<size_t>(i)];
-        const CString strFault = Text(TextId(IDS_FAULT_FIRST, LineFault::TooFewFields, bad.fault));
+        const CString strFault = Text(FaultTextId(bad.fault));
         dialog.AddString(Text(IDS_BAD_LINE, bad.nLine, strFault.GetString()));
     }
     if (nShown < nCount)

@@ -15,5 +15,8 @@
 void ShowResult(CWnd& parent, CJournal& journal, UINT nTitleId, UINT nPointId, const CResult& result,
                 const std::vector<CString>& notes = {});
 
+/// The string id of what is wrong with a point.
+UINT FaultTextId(LineFault fault);
+
 /// Shows which lines of a file could not be read. Shows nothing if there are none.
 void ShowBadLines(CWnd& parent, const std::vector<CBadLine>& badLines);

@@ -19,7 +19,7 @@ namespace {
 class Compute : public testing::Test {
 protected:
     void SetUp() override {
-        CVector::SetTolerance(FIELD_TOLERANCE);
+        CVector::SetTolerance(1e-6);
         CAsciiFile file;
         ASSERT_TRUE(file.Open(CString(FIELDBOOK_DATA) + L"/points.csv", CFile::modeRead));
         ReadPoints(file, m_book);
@@ -145,6 +145,14 @@ TEST_F(Compute, TangentsOfTheCurveMeetInItsCorner) {
     ExpectNone(FindTangentCorners(bc, centre, centre), Verdict::RadiusSmall);
     // On one spoke: the directions are the same, which counts as a full turn.
     ExpectNone(FindTangentCorners(bc, centre, At(-35249, 13252)), Verdict::NoCorner);
+}
+
+TEST_F(Compute, DirectionAndDistanceLeadToThePoint) {
+    constexpr double QUARTER = 3.14159265358979323846 / 2;
+    const CCoordinate t1 = Point(L"T1"); // T2 lies 30 to the north and 40 to the east
+    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, std::atan2(40, 30), 50)}}, {Point(L"T2")});
+    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, QUARTER, 10)}}, {At(-35345, 13235)});
+    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, -QUARTER, 10)}}, {At(-35345, 13215)});
 }
 
 } // namespace

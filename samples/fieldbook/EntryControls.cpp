@@ -1,0 +1,164 @@
+#include "EntryControls.h"
+
+#include "Settings.h"
+#include "Tesuvo.h"
+
+#include <cwchar>
+
+namespace {
+
+constexpr int LONGEST_NAME = 16;
+constexpr int LONGEST_NUMBER = 20;
+constexpr COLORREF RESULT_COLOR = RGB(255, 255, 224);
+constexpr int SPIN_SIZE = 42; // pixels
+constexpr int ICON_UP = 4;
+constexpr int ICON_DOWN = 5;
+
+/// @return false if the field has the focus already: then the tap shall move the caret
+bool EnterSelected(CEdit& edit) {
+    if (CWnd::GetFocus() == &edit)
+        return false;
+    edit.SetFocus();
+    edit.SetSel(0, -1);
+    return true;
+}
+
+/// Backspace and the like come as characters as well.
+bool IsControlCharacter(UINT nChar) {
+    return nChar < L' ';
+}
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CNameEdit, CnEdit)
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CNumberEdit, CnEdit)
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CDirectionEdit, CAngleEdit)
+    ON_WM_SETFOCUS()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CChoiceCombo, CnComboBox)
+    ON_CONTROL_REFLECT(CBN_DROPDOWN, &CChoiceCombo::OnDropDown)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CNoHeightButton, CIconButton)
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, &CNoHeightButton::OnClicked)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CResultLine, CInfoStatic)
+    ON_MESSAGE(WM_SETTEXT, &CResultLine::OnSetText)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CDecimalsSpin, CnSpinButtonCtrl)
+    ON_NOTIFY_REFLECT_EX(UDN_DELTAPOS, &CDecimalsSpin::OnDeltaPos)
+END_MESSAGE_MAP()
+// clang-format on
+
+void CNameEdit::PreSubclassWindow() {
+    CnEdit::PreSubclassWindow();
+    LimitText(LONGEST_NAME);
+}
+
+void CNameEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    if (nChar == L' ' || nChar == L',')
+        ::MessageBeep(MB_OK);
+    else if (nChar >= L'a' && nChar <= L'z')
+        DefWindowProc(WM_CHAR, nChar - L'a' + L'A', MAKELPARAM(nRepCnt, nFlags));
+    else
+        CnEdit::OnChar(nChar, nRepCnt, nFlags);
+}
+
+void CNumberEdit::PreSubclassWindow() {
+    CnEdit::PreSubclassWindow();
+    LimitText(LONGEST_NUMBER);
+}
+
+void CNumberEdit::OnLButtonDown(UINT nFlags, CPoint point) {
+    if (!EnterSelected(*this))
+        CnEdit::OnLButtonDown(nFlags, point);
+}
+
+void CDirectionEdit::PreSubclassWindow() {
+    CAngleEdit::PreSubclassWindow();
+    LimitText(LONGEST_NUMBER);
+}
+
+/// The number to edit is put in now, behind what the dialog has selected.
+void CDirectionEdit::OnSetFocus(CWnd* pOldWnd) {
+    CAngleEdit::OnSetFocus(pOldWnd);
+    SetSel(0, -1);
+}
+
+void CDirectionEdit::OnLButtonDown(UINT nFlags, CPoint point) {
+    if (!EnterSelected(*this))
+        CAngleEdit::OnLButtonDown(nFlags, point);
+}
+
+void CDirectionEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    if (IsControlCharacter(nChar) || std::wcschr(L"0123456789.-", static_cast<wchar_t>(nChar)) != nullptr)
+        CAngleEdit::OnChar(nChar, nRepCnt, nFlags);
+    else
+        ::MessageBeep(MB_OK);
+}
+
+void CChoiceCombo::PreSubclassWindow() {
+    CnComboBox::PreSubclassWindow();
+    LimitText(LONGEST_NAME);
+}
+
+void CChoiceCombo::OnDropDown() {
+    TVCloseSIP();
+}
+
+void CNoHeightButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    CIconButton::DrawItem(lpDrawItemStruct);
+    if (!GetPush())
+        return;
+    // In bright sun the sunken edge alone is hard to see.
+    RECT rect = lpDrawItemStruct->rcItem;
+    ::FrameRect(lpDrawItemStruct->hDC, &rect, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+    ::InflateRect(&rect, -1, -1);
+    ::FrameRect(lpDrawItemStruct->hDC, &rect, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+}
+
+BOOL CNoHeightButton::OnClicked() {
+    SetIcon(TVGetCommonIcon(GetPush() ? ICON_DOWN : ICON_UP));
+    return FALSE; // the dialog wants to know as well
+}
+
+void CResultLine::PreSubclassWindow() {
+    CInfoStatic::PreSubclassWindow();
+    SetOption(OptionIcon);
+    SetBkColor(RESULT_COLOR);
+}
+
+/// A static control draws a new text by itself, in its own way: the line is drawn again.
+LRESULT CResultLine::OnSetText(WPARAM, LPARAM) {
+    const LRESULT lResult = Default();
+    Invalidate();
+    return lResult;
+}
+
+void CDecimalsSpin::PreSubclassWindow() {
+    CnSpinButtonCtrl::PreSubclassWindow();
+    // The system makes it as narrow as a scroll bar, whatever the template says.
+    SetWindowPos(nullptr, 0, 0, SPIN_SIZE, SPIN_SIZE, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetRange(MIN_DECIMALS, MAX_DECIMALS);
+}
+
+BOOL CDecimalsSpin::OnDeltaPos(NMHDR* pNMHDR, LRESULT* pResult) {
+    const auto* pUpDown = reinterpret_cast<const NMUPDOWN*>(pNMHDR);
+    const int nNew = pUpDown->iPos + pUpDown->iDelta;
+    if (nNew < MIN_DECIMALS || nNew > MAX_DECIMALS)
+        ::MessageBeep(MB_OK);
+    *pResult = 0; // let it count, as far as it goes
+    return FALSE;
+}

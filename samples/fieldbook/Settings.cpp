@@ -1,0 +1,43 @@
+#include "Settings.h"
+
+#include "Tesuvo.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr wchar_t SECTION[] = L"Settings";
+constexpr wchar_t TENTHS[] = L"Tenths";
+constexpr wchar_t TOLERANCE[] = L"Tolerance";
+
+// All applications of the device read the decimals of coordinates here: their number minus one.
+constexpr wchar_t SHARED_SETTINGS[] = L"Software\\Tesuvo\\Common";
+constexpr wchar_t SHARED_DECIMALS[] = L"1280";
+constexpr int SHARED_DECIMALS_ID = 1280;
+
+int LoadIndex(CWinApp& app, const wchar_t* pszName, size_t nCount) {
+    const UINT nIndex = app.GetProfileInt(SECTION, pszName, 0);
+    return nIndex < nCount ? static_cast<int>(nIndex) : 0;
+}
+
+bool SaveDecimals(int nDecimals) {
+    const auto dwValue = static_cast<DWORD>(nDecimals - 1);
+    return ::RegSetKeyValue(HKEY_CURRENT_USER, SHARED_SETTINGS, SHARED_DECIMALS, REG_DWORD, &dwValue,
+                            sizeof dwValue) == ERROR_SUCCESS;
+}
+
+} // namespace
+
+CSettings LoadSettings(CWinApp& app) {
+    CSettings settings;
+    settings.nDecimals = TVGetCommonRegInt(SHARED_DECIMALS_ID) + 1;
+    settings.bTenths = LoadIndex(app, TENTHS, 2);
+    settings.nTolerance = LoadIndex(app, TOLERANCE, std::size(TOLERANCES));
+    return settings;
+}
+
+bool SaveSettings(CWinApp& app, const CSettings& settings) {
+    const bool bShared = SaveDecimals(settings.nDecimals);
+    return app.WriteProfileInt(SECTION, TENTHS, settings.bTenths) &&
+           app.WriteProfileInt(SECTION, TOLERANCE, settings.nTolerance) && bShared;
+}

@@ -1,0 +1,23 @@
+/// @file
+/// The settings that the user makes, and where they are kept.
+#pragma once
+
+#include <afxwin.h>
+
+constexpr int MIN_DECIMALS = 1;
+constexpr int MAX_DECIMALS = 5;
+
+/// What the library's tolerance can be, in metres: whatever comes closer than that touches. A
+/// coordinate of the job is known to a millimetre at best.
+constexpr double TOLERANCES[] = {1e-6, 1e-5, 1e-4};
+
+struct CSettings {
+    int nDecimals = 3;  ///< Of coordinates: the device's shared setting, MIN_ to MAX_DECIMALS.
+    int bTenths = 0;    ///< Whether seconds are shown with their tenths; 0 or 1.
+    int nTolerance = 0; ///< Index into TOLERANCES.
+};
+
+/// @param app whose profile has the settings that are not shared
+CSettings LoadSettings(CWinApp& app);
+/// @return false if they could not be written
+bool SaveSettings(CWinApp& app, const CSettings& settings);

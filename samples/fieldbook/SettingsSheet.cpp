@@ -1,0 +1,40 @@
+#include "SettingsSheet.h"
+
+#include "Resource.h"
+#include "Text.h"
+#include "geometry/Vector.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CSettingsSheet, CnPropertySheet)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+// clang-format on
+
+CSettingsSheet::CSettingsSheet(CSettings& settings, UINT& nLastPage, CWnd* pParent)
+    : CnPropertySheet(IDS_SETTINGS, pParent, nLastPage), m_settings(settings), m_edited(settings),
+      m_nLastPage(nLastPage), m_coordinates(m_edited), m_angles(m_edited), m_tolerance(m_edited) {
+    SetOption(OptionOkButton);
+    AddPage(&m_coordinates);
+    AddPage(&m_angles);
+    AddPage(&m_tolerance);
+}
+
+INT_PTR CSettingsSheet::DoModal() {
+    const INT_PTR nResult = CnPropertySheet::DoModal();
+    if (nResult == IDOK) {
+        m_settings = m_edited;
+        ApplySettings(m_settings);
+        if (!SaveSettings(*AfxGetApp(), m_settings))
+            AfxMessageBox(Text(IDS_NOT_SAVED));
+    }
+    return nResult;
+}
+
+void CSettingsSheet::OnDestroy() {
+    m_nLastPage = static_cast<UINT>(GetActiveIndex());
+    CnPropertySheet::OnDestroy();
+}
+
+void ApplySettings(const CSettings& settings) {
+    CVector::SetTolerance(TOLERANCES[settings.nTolerance]);
+}

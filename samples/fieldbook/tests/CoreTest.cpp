@@ -1,0 +1,86 @@
+#include "AngleText.h"
+#include "JournalGroups.h"
+#include "PointOrder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr double RADIANS = 3.14159265358979323846 / 180;
+
+TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
+    const struct {
+        double dDegrees;
+        bool bTenths;
+        const wchar_t* pszText;
+    } cases[] = {
+        {0, false, L"0°00'00\""},
+        {53.1301, false, L"53°07'48\""},
+        {53 + 7 / 60.0 + 48.4 / 3600, true, L"53°07'48.4\""},
+        {12 + 59 / 60.0 + 59.6 / 3600, false, L"13°00'00\""}, // the carry goes all the way
+        {12 + 59 / 60.0 + 59.96 / 3600, true, L"13°00'00.0\""},
+        {359.99999, false, L"0°00'00\""},
+        {-0.5, false, L"359°30'00\""},
+        {725.25, true, L"5°15'00.0\""},
+    };
+    for (const auto& c : cases)
+        EXPECT_TRUE(DirectionText(c.dDegrees * RADIANS, c.bTenths) == c.pszText) << c.dDegrees;
+}
+
+TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
+    const std::vector<CJournalEntry> entries = {{L"b", {}}, {L"a", {}}, {L"b", {}}};
+    const std::vector<CJournalGroup> groups = GroupByTitle(entries);
+    ASSERT_EQ(groups.size(), 2U);
+    EXPECT_TRUE(groups[0].strTitle == L"b");
+    EXPECT_EQ(groups[0].entries, (std::vector<size_t>{0, 2}));
+    EXPECT_EQ(groups[1].entries, (std::vector<size_t>{1}));
+    EXPECT_TRUE(GroupByTitle({}).empty());
+}
+
+TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {
+    const struct {
+        const wchar_t* pszLine;
+        const wchar_t* pszItem;
+        const wchar_t* pszValue;
+    } cases[] = {
+        {L"  N  -35300.000", L"N", L"-35300.000"},
+        {L"始点の半径  30.000", L"始点の半径", L"30.000"},
+        {L"注意: 半径が一致しません", L"注意: 半径が一致しません", L""},
+        {L"", L"", L""},
+    };
+    for (const auto& c : cases) {
+        const auto [strItem, strValue] = SplitLine(c.pszLine);
+        EXPECT_TRUE(strItem == c.pszItem && strValue == c.pszValue);
+    }
+}
+
+TEST(PointOrder, EachColumnSortsAndPointsWithoutHeightComeLast) {
+    const std::vector<CNamedPoint> points = {
+        {L"B", CCoordinate(3, 1, 0, 1)}, // E, N, Z; no height
+        {L"C", CCoordinate(1, 2, 9, 3)},
+        {L"A", CCoordinate(2, 2, -4, 3)},
+    };
+    const struct {
+        PointColumn column;
+        std::vector<size_t> order;
+    } cases[] = {
+        {PointColumn::Name, {2, 0, 1}},
+        {PointColumn::N, {0, 1, 2}}, // C and A are alike and stay as they were
+        {PointColumn::E, {1, 2, 0}},
+        {PointColumn::Z, {2, 1, 0}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(OrderPoints(points, c.column), c.order) << static_cast<int>(c.column);
+}
+
+TEST(PointBook, NextNameIsTheFirstFreeOne) {
+    CPointBook book;
+    for (const wchar_t* pszName : {L"T1", L"T2", L"K009"})
+        ASSERT_TRUE(book.Add({pszName, CCoordinate()}));
+    EXPECT_TRUE(book.NextName(L"T") == L"T3");
+    EXPECT_TRUE(book.NextName(L"T1") == L"T3");
+    EXPECT_TRUE(book.NextName(L"K009") == L"K010");
+    EXPECT_TRUE(book.NextName(L"BM") == L"BM1");
+}
+
+} // namespace

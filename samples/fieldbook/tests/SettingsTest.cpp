@@ -1,0 +1,56 @@
+#include "Settings.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr wchar_t COMPANY[] = L"FieldbookTest";
+constexpr wchar_t PRIVATE_KEY[] = L"Software\\FieldbookTest";
+constexpr wchar_t SHARED_KEY[] = L"Software\\Tesuvo\\Common";
+
+CWinApp g_app(L"test"); // a program has one, and it lives as long as the program
+
+class Settings : public testing::Test {
+protected:
+    void SetUp() override {
+        AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL);
+        g_app.SetRegistryKey(COMPANY);
+        m_saved = LoadSettings(g_app);
+    }
+    void TearDown() override {
+        SaveSettings(g_app, m_saved); // the decimals belong to all applications
+        ::RegDeleteTree(HKEY_CURRENT_USER, PRIVATE_KEY);
+        ::RegDeleteKey(HKEY_CURRENT_USER, PRIVATE_KEY);
+    }
+
+private:
+    CSettings m_saved;
+};
+
+TEST_F(Settings, ComeBackAsTheyWereSaved) {
+    const CSettings settings{5, 1, 2};
+    ASSERT_TRUE(SaveSettings(g_app, settings));
+    const CSettings loaded = LoadSettings(g_app);
+    EXPECT_EQ(loaded.nDecimals, 5);
+    EXPECT_EQ(loaded.bTenths, 1);
+    EXPECT_EQ(loaded.nTolerance, 2);
+
+    DWORD dwValue = 0;
+    DWORD dwSize = sizeof dwValue;
+    ASSERT_EQ(
+        ::RegGetValue(HKEY_CURRENT_USER, SHARED_KEY, L"1280", RRF_RT_REG_DWORD, nullptr, &dwValue, &dwSize),
+        ERROR_SUCCESS);
+    EXPECT_EQ(dwValue, 4U) << "the shared setting is the number of decimals minus one";
+}
+
+TEST_F(Settings, ValuesThatNoOneCanHaveSetCountAsTheDefault) {
+    for (const int nValue : {-1, 3, 1000}) {
+        g_app.WriteProfileInt(L"Settings", L"Tenths", nValue);
+        g_app.WriteProfileInt(L"Settings", L"Tolerance", nValue);
+        const CSettings loaded = LoadSettings(g_app);
+        EXPECT_EQ(loaded.bTenths, 0) << nValue;
+        EXPECT_EQ(loaded.nTolerance, 0) << nValue;
+    }
+}
+
+} // namespace
