@@ -86,11 +86,11 @@ void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) 
 void DrawPanel(CDC& dc, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
     dc.FillSolidRect(CRect(CPoint(), panel), GROUND);
     dc.SetBkMode(TRANSPARENT);
-    // Sizes follow the smallest key of the page; two kana of a word fit into a key of 30 pixels.
+    // Sizes follow the first key, than which none is smaller but all words are wider.
     const CRect first = keys.front().place;
     CFont characters, words, marks;
     MakeFont(characters, std::min(first.Height() * 3 / 4, first.Width()));
-    MakeFont(words, std::min<LONG>(first.Height() * 3 / 5, panel.cx / 20));
+    MakeFont(words, std::min(first.Height() * 3 / 5, first.Width() / 2));
     MakeFont(marks, first.Height() * 3 / 2);
     CFont* const old = dc.SelectObject(&characters);
     for (size_t at = 0; at < keys.size(); ++at) {

@@ -3,22 +3,26 @@
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 
+#include "controls/nDialog.h"
+
 namespace {
 
 constexpr int FIELD_HEIGHT = 20;
 
-/// A dialog with fields at given heights.
-class FieldDialog : public fx::TemplateDialog {
+/// A dialog of the library with fields at given heights.
+class FieldDialog : public CnDialog {
 public:
     /// @param window place on the screen; empty for a full-screen dialog
     /// @param tops   upper edges of the fields, in pixels
     FieldDialog(CRect window, std::vector<int> tops, CWnd* pParent = nullptr)
-        : fx::TemplateDialog(s_template, pParent), m_window(window), m_tops(std::move(tops)) {
-        m_bFullScreen = window.IsRectEmpty();
+        : CnDialog(0, pParent), m_window(window), m_tops(std::move(tops)) {
+        InitModalIndirect(s_template.Get());
+        if (!window.IsRectEmpty())
+            SetOption(OptionPopup);
     }
 
     BOOL OnInitDialog() override {
-        fx::TemplateDialog::OnInitDialog();
+        CnDialog::OnInitDialog();
         if (!m_bFullScreen)
             MoveWindow(m_window);
         for (size_t i = 0; i < m_tops.size(); ++i)
