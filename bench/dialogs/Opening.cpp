@@ -1,0 +1,111 @@
+#include "Opening.h"
+
+#include "BareDialogs.h"
+#include "dialogs/BrowseFolderDlg.h"
+#include "dialogs/FileSelectDlg.h"
+
+#include <cstdio>
+#include <stdexcept>
+#include <string>
+
+namespace bench {
+
+namespace {
+
+/// Where the process leaves its result, on the drive that is measured.
+constexpr LPCTSTR RESULT = L"\\result";
+
+/// A dialog that ends when it has been opened and drawn.
+template <class Dialog>
+class Opened : public Dialog {
+public:
+    using Dialog::Dialog;
+
+    Cost Open() {
+        const size_t nBytes = HeapBytes();
+        const double start = Now();
+        this->DoModal();
+        return {m_end - start, static_cast<double>(m_nBytes) - static_cast<double>(nBytes)};
+    }
+
+protected:
+    BOOL OnInitDialog() override {
+        const BOOL bResult = Dialog::OnInitDialog();
+        this->RedrawWindow(nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+        m_end = Now();
+        m_nBytes = HeapBytes();
+        this->EndDialog(IDCANCEL);
+        return bResult;
+    }
+
+private:
+    double m_end = 0;
+    size_t m_nBytes = 0;
+};
+
+Cost OpenFiles(const CString& strFolder) {
+    Opened<CFileSelectDlg> dlg(nullptr);
+    dlg.SetSubName(L"csv");
+    dlg.SetFileFolder(strFolder);
+    return dlg.Open();
+}
+
+Cost Open(What what, const CString& strFolder) {
+    switch (what) {
+    case What::BareFiles:
+        return FillBareList(strFolder);
+    case What::Files:
+        return OpenFiles(strFolder);
+    case What::BareTree:
+        return FillBareTree(L"");
+    case What::Tree:
+        return Opened<CBrowseFolderDlg>(strFolder).Open();
+    }
+    return {};
+}
+
+/// The first windows of a process load fonts and drawing code, whoever makes them.
+void WarmUp() {
+    constexpr LPCTSTR NOWHERE = L"\\nowhere";
+    FillBareList(NOWHERE);
+    FillBareTree(NOWHERE);
+    OpenFiles(NOWHERE);
+}
+
+} // namespace
+
+Cost OpenInProcess(What what, const CString& strFolder) {
+    wchar_t szProgram[MAX_PATH];
+    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+    CString strLine;
+    strLine.Format(L"\"%s\" %d \"%s\"", szProgram, static_cast<int>(what), strFolder.GetString());
+    STARTUPINFO startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    if (!::CreateProcess(szProgram, strLine.GetBuffer(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                         &startup, &process))
+        throw std::runtime_error("cannot start this program again");
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    Cost cost;
+    {
+        CFile file(RESULT, CFile::modeRead);
+        if (file.Read(&cost, sizeof cost) != sizeof cost)
+            throw std::runtime_error("no result");
+    }
+    CFile::Remove(RESULT);
+    return cost;
+}
+
+bool RunOpening(int argc, char** argv) {
+    if (argc != 3)
+        return false;
+    WarmUp();
+    const Cost cost = Open(static_cast<What>(std::stoi(argv[1])), CString(argv[2]));
+    CFile file(RESULT, CFile::modeCreate | CFile::modeWrite);
+    file.Write(&cost, sizeof cost);
+    return true;
+}
+
+} // namespace bench
