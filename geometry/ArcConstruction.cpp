@@ -1,5 +1,9 @@
 #include "geometry/Vector.h"
 
+#include "geometry/internal/Turn.h"
+
+#include <algorithm>
+
 using namespace fieldkit::geometry;
 
 namespace {
@@ -12,47 +16,58 @@ constexpr double kHalfTurnBand = 1e-08;
 constexpr int kMaxHalvings = 32;
 constexpr int kNeverEnds = -1;
 
-/// An end of an arc and what its centre sees of it.
-struct ArcEnd {
-    ArcEnd(double px, double py, double cx, double cy) : x(px), y(py), spoke(px - cx, py - cy) {
-        angle = CVector::Range0To360(spoke.Angle());
-    }
+// Ends and centre go from hand to hand as single doubles, which stay in registers.
 
-    double x;
-    double y;
-    CVector spoke;
-    double angle;
-};
-
-/// Where the tangents at the ends meet.
-int MeetTangents(ArcEnd& start, ArcEnd& end, double* px, double* py) {
-    CVector t1 = start.spoke.R_Normal(CVector::Left);
-    CVector t2 = end.spoke.R_Normal(CVector::Left);
-    return CVector::IntersectLineLine(start.x, start.y, start.x + t1.GetX(), start.y + t1.GetY(), end.x,
-                                      end.y, end.x + t2.GetX(), end.y + t2.GetY(), px, py, 0);
+/// From start counter-clockwise to end, radians; the same direction gives a full turn.
+double SweepBetween(double ux, double uy, double wx, double wy) {
+    const double from = CVector::Range0To360(CVector(ux, uy).Angle());
+    const double to = CVector::Range0To360(CVector(wx, wy).Angle());
+    return from < to ? to - from : kTwoPi - (from - to);
 }
 
-/// CVector::CalcPiOfArc with each end's direction taken once; kNeverEnds as a third result.
-int HalveArc(ArcEnd& start, ArcEnd& end, double cx, double cy, double* px1, double* py1, double* px2,
-             double* py2, int* split, int halvings) {
-    const double sweep =
-        start.angle < end.angle ? end.angle - start.angle : kTwoPi - (start.angle - end.angle);
+/// Where the tangents at the ends meet.
+int MeetTangents(double sx, double sy, double cx, double cy, double ex, double ey, double* px, double* py) {
+    CVector t1 = CVector(sx - cx, sy - cy).R_Normal(CVector::Left);
+    CVector t2 = CVector(ex - cx, ey - cy).R_Normal(CVector::Left);
+    return CVector::IntersectLineLine(sx, sy, sx + t1.GetX(), sy + t1.GetY(), ex, ey, ex + t2.GetX(),
+                                      ey + t2.GetY(), px, py, 0);
+}
+
+// Not inlined: the way of the minor arcs is to stay short.
+[[gnu::noinline]] int HalveArc(double sx, double sy, double cx, double cy, double ex, double ey, double* px1,
+                               double* py1, double* px2, double* py2, int* split, int halvings);
+
+/// CVector::CalcPiOfArc; kNeverEnds as a third result.
+int FindCorners(double sx, double sy, double cx, double cy, double ex, double ey, double* px1, double* py1,
+                double* px2, double* py2, int* split, int halvings) {
+    if (TurnBetween(sx - cx, sy - cy, ex - cx, ey - cy) != Turn::Minor)
+        return HalveArc(sx, sy, cx, cy, ex, ey, px1, py1, px2, py2, split, halvings);
+    *split = 0;
+    return MeetTangents(sx, sy, cx, cy, ex, ey, px1, py1);
+}
+
+/// The same by the sweep itself.
+int HalveArc(double sx, double sy, double cx, double cy, double ex, double ey, double* px1, double* py1,
+             double* px2, double* py2, int* split, int halvings) {
+    const double sweep = SweepBetween(sx - cx, sy - cy, ex - cx, ey - cy);
     *split = kPi <= sweep;
     if (!*split)
-        return MeetTangents(start, end, px1, py1);
+        return MeetTangents(sx, sy, cx, cy, ex, ey, px1, py1);
     if (halvings == 0)
         return kNeverEnds;
 
-    CVector turned = start.spoke.R_Rotate(sweep / 2);
-    ArcEnd middle(cx + turned.GetX(), cy + turned.GetY(), cx, cy);
-    double unusedX;
-    double unusedY;
+    CVector turned = CVector(sx - cx, sy - cy).R_Rotate(sweep / 2);
+    const double mx = cx + turned.GetX();
+    const double my = cy + turned.GetY();
+    double unused[2];
     int split1;
     int split2;
-    const int found1 = HalveArc(start, middle, cx, cy, px1, py1, &unusedX, &unusedY, &split1, halvings - 1);
+    const int found1 =
+        FindCorners(sx, sy, cx, cy, mx, my, px1, py1, &unused[0], &unused[1], &split1, halvings - 1);
     if (found1 == kNeverEnds)
         return kNeverEnds;
-    const int found2 = HalveArc(middle, end, cx, cy, px2, py2, &unusedX, &unusedY, &split2, halvings - 1);
+    const int found2 =
+        FindCorners(mx, my, cx, cy, ex, ey, px2, py2, &unused[0], &unused[1], &split2, halvings - 1);
     if (found2 == kNeverEnds)
         return kNeverEnds;
     return !split1 && !split2 && found1 && found2;
@@ -71,10 +86,11 @@ void CVector::CentreOnChord(double x1, double y1, double x2, double y2, double a
         return;
     }
 
-    const bool bMinor = a < kPi;
-    const double k = std::tan(kHalfPi - (bMinor ? a : kTwoPi - a) / 2) * half.UNorm();
     // The centre of a major arc lies on the other side of the chord.
-    CVector across = half.R_Normal(bCcw == bMinor ? Left : Right).R_Size(k);
+    const bool bMinor = a < kPi;
+    const double inner = std::min(a, kTwoPi - a); // the latter for a major arc
+    const double k = std::tan(kHalfPi - inner / 2) * half.UNorm();
+    CVector across = half.R_Normal(static_cast<Direction>(bCcw == bMinor)).R_Size(k);
     *px = x1 + (half.m_dX + across.m_dX);
     *py = y1 + (half.m_dY + across.m_dY);
 }
@@ -83,19 +99,14 @@ double CVector::CalcVertexBulge(CVector start, CVector end, CVector centre, int 
     const int turn = ccw ? 1 : -1;
     const double from = AbsAngle(turn, (start - centre).Angle());
     const double to = AbsAngle(turn, (end - centre).Angle());
-    double sweep;
-    if (ccw)
-        sweep = to + (to < from ? kTwoPi : 0) - from;
-    else
-        sweep = to - (from < to ? kTwoPi : 0) - from;
+    // The end comes after the start in the turning sense, if need be a turn later.
+    const double sweep = to + StepIfAgainst(to - from, turn * kTwoPi) - from;
     return std::tan(sweep / 4);
 }
 
 int CVector::TangentCorners(double sx, double sy, double cx, double cy, double ex, double ey, double* px1,
                             double* py1, double* px2, double* py2, int* split) {
-    ArcEnd start(sx, sy, cx, cy);
-    ArcEnd end(ex, ey, cx, cy);
-    return HalveArc(start, end, cx, cy, px1, py1, px2, py2, split, kMaxHalvings) > 0;
+    return FindCorners(sx, sy, cx, cy, ex, ey, px1, py1, px2, py2, split, kMaxHalvings) > 0;
 }
 
 int CVector::TwoPointOneLineRp(CVector p1, CVector p2, CVector dir, CVector& out) {

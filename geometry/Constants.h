@@ -25,7 +25,9 @@ inline constexpr double kDefaultTolerance = 1e-08;
 
 /// Cosine and sine of kHalfPi, to the last bit. Named instead of computed, so that a
 /// quarter turn costs no trigonometry and is the same on every platform.
+///@{
 inline constexpr double kCosHalfPi = -2.0510342851533115e-10;
 inline constexpr double kSinHalfPi = 1.0;
+///@}
 
 } // namespace fieldkit::geometry

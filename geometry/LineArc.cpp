@@ -1,6 +1,11 @@
 #include "geometry/Vector.h"
 
+#include "geometry/internal/ArcDirections.h"
+#include "geometry/internal/Turn.h"
+#include "geometry/internal/Within.h"
+
 #include <algorithm>
+#include <limits>
 
 using namespace fieldkit::geometry;
 
@@ -13,10 +18,9 @@ namespace {
 /// coordinates along that axis.
 inline int CutParallel(double rr, double offset, double centre, double t, double& a, double& b) {
     const double d = rr - offset * offset;
-    if (std::fabs(d) < t) {
-        a = b = centre;
+    a = b = centre;
+    if (std::fabs(d) < t)
         return 1;
-    }
     if (!(d > 0))
         return 0;
     const double s = std::sqrt(d);
@@ -25,47 +29,39 @@ inline int CutParallel(double rr, double offset, double centre, double t, double
     return 2;
 }
 
-/// An oblique line y = m x + k, put into the circle's equation: qa x^2 + 2 qb x + qc = 0.
-inline int CutOblique(double m, double k, double cx, double cy, double rr, double t, double& ax, double& ay,
-                      double& bx, double& by) {
-    const double qa = m * m + 1;
-    const double qb = m * k - cx - m * cy;
-    const double qc = cx * cx + cy * cy + k * k - 2 * k * cy - rr;
-    double d = qb * qb - qa * qc;
-    if (std::fabs(d) <= t)
-        d = 0;
-    if (std::fabs(d) < t) {
-        ax = bx = -qb / qa;
-        ay = by = m * ax + k;
-        return 1;
-    }
-    if (!(d > 0))
-        return 0;
-    const double s = std::sqrt(d);
-    ax = (-qb + s) / qa;
-    ay = m * ax + k;
-    bx = (-qb - s) / qa;
-    by = m * bx + k;
-    return 2;
-}
-
-/// The line through (x1, y1) and (x2, y2); the caller says what passes for horizontal or vertical.
-inline int CutCircle(bool bHorizontal, bool bVertical, double x1, double y1, double x2, double y2, double cx,
-                     double cy, double rr, double t, double& ax, double& ay, double& bx, double& by) {
+/// The horizontal or vertical line through (x1, y1).
+inline int CutAligned(bool bHorizontal, double x1, double y1, double cx, double cy, double rr, double t,
+                      double& ax, double& ay, double& bx, double& by) {
     if (bHorizontal) {
         ay = by = y1;
         return CutParallel(rr, y1 - cy, cx, t, ax, bx);
     }
-    if (bVertical) {
-        ax = bx = x1;
-        return CutParallel(rr, x1 - cx, cy, t, ay, by);
-    }
-    const double m = (y2 - y1) / (x2 - x1);
-    return CutOblique(m, y2 - m * x2, cx, cy, rr, t, ax, ay, bx, by);
+    ax = bx = x1;
+    return CutParallel(rr, x1 - cx, cy, t, ay, by);
 }
 
-bool IsInBox(double x, double y, double x1, double y1, double x2, double y2) {
-    return std::min(x1, x2) <= x && x <= std::max(x1, x2) && std::min(y1, y2) <= y && y <= std::max(y1, y2);
+/// Two abscissas or two ordinates; computed at once, above all divided.
+using Pair [[gnu::vector_size(2 * sizeof(double))]] = double;
+
+/// Any other line through (x1, y1) and (x2, y2): y = m x + k, put into the circle's equation, is
+/// qa x^2 + 2 qb x + qc = 0. For a miss the results mean nothing.
+inline int CutOblique(double x1, double y1, double x2, double y2, double cx, double cy, double rr, double t,
+                      Pair& x, Pair& y) {
+    const double m = (y2 - y1) / (x2 - x1);
+    const double k = y2 - m * x2;
+    const double qa = m * m + 1;
+    const double qb = m * k - cx - m * cy;
+    const double qc = cx * cx + cy * cy + k * k - 2 * k * cy - rr;
+    const double d = qb * qb - qa * qc;
+    // No decision here, for it would be guessed wrong time and again. A touching point is
+    // -qb / qa, and so are the roots of -0.0: plus that null leaves the sign of a null qb alone.
+    const bool bCut = d > std::max(0.0, t);
+    const bool bFound = d >= (t > 0 ? -t : std::numeric_limits<double>::denorm_min()); // cut or touched
+    const double roots[] = {-0.0, d};
+    const double s = std::sqrt(roots[bCut]);
+    x = (Pair{s, -std::fabs(s)} - qb) / qa;
+    y = m * x + k;
+    return bCut + bFound;
 }
 
 bool SegmentsMeet(CVector a, CVector b, CVector p, CVector q) {
@@ -73,36 +69,28 @@ bool SegmentsMeet(CVector a, CVector b, CVector p, CVector q) {
     return CVector::IntersectLineLine(a, b, p, q, meeting, 1) != 0;
 }
 
-/// Decides whether a point of the circle lies on the arc: the segment from it to the centre
-/// has to cross the arc's chord. An arc of half a turn or more has two chords, from its ends
-/// to its middle.
-class CArcSweep {
-public:
-    CArcSweep(CVector start, CVector end, CVector centre) : m_Start(start), m_End(end), m_Centre(centre) {
-        CVector spoke = start - centre;
-        const double from = CVector::Range0To360(spoke.Angle());
-        double to = CVector::Range0To360((end - centre).Angle());
-        if (to < from)
-            to += kTwoPi;
-        const double sweep = to - from;
-        m_bSplit = kPi <= sweep;
-        if (m_bSplit)
-            m_Middle = m_Centre + spoke.R_Rotate(sweep / 2);
-    }
-
-    bool Holds(CVector p) const {
-        if (!m_bSplit)
-            return SegmentsMeet(m_Start, m_End, p, m_Centre);
-        return SegmentsMeet(m_Start, m_Middle, p, m_Centre) || SegmentsMeet(m_Middle, m_End, p, m_Centre);
-    }
-
-private:
-    CVector m_Start;
-    CVector m_Middle;
-    CVector m_End;
-    CVector m_Centre;
-    bool m_bSplit;
-};
+/// Whether the arc holds the point p of its circle by the crossing itself: the spoke from p to the centre
+/// has to cross the arc's chord. An arc of half a turn or more has two, from its ends to its
+/// middle.
+bool ArcHolds(double sx, double sy, double ex, double ey, double cx, double cy, double px, double py) {
+    CVector s(sx, sy);
+    CVector e(ex, ey);
+    CVector c(cx, cy);
+    CVector p(px, py);
+    // The sweep itself, kPi <= sweep, only where the spokes do not tell or it has to be halved.
+    if (TurnBetween(sx - cx, sy - cy, ex - cx, ey - cy) == Turn::Minor)
+        return SegmentsMeet(s, e, p, c);
+    CVector spoke = s - c;
+    const double from = CVector::Range0To360(spoke.Angle());
+    double to = CVector::Range0To360((e - c).Angle());
+    if (to < from)
+        to += kTwoPi;
+    const double sweep = to - from;
+    if (sweep < kPi)
+        return SegmentsMeet(s, e, p, c);
+    const CVector m = c + spoke.R_Rotate(sweep / 2);
+    return SegmentsMeet(s, m, p, c) || SegmentsMeet(m, e, p, c);
+}
 
 } // namespace
 
@@ -115,19 +103,33 @@ int CVector::IntersectLineArc(double x1, double y1, double x2, double y2, double
     double ay;
     double bx;
     double by;
-    const int found = CutCircle(std::fabs(y1 - y2) < t, std::fabs(x1 - x2) < t, x1, y1, x2, y2, cx, cy, r * r,
-                                t, ax, ay, bx, by);
-    if (found == 0)
+    const bool bHorizontal = std::fabs(y1 - y2) < t;
+    int found;
+    if (bHorizontal || std::fabs(x1 - x2) < t) {
+        found = CutAligned(bHorizontal, x1, y1, cx, cy, r * r, t, ax, ay, bx, by);
+    } else {
+        Pair x;
+        Pair y;
+        found = CutOblique(x1, y1, x2, y2, cx, cy, r * r, t, x, y);
+        ax = x[0];
+        ay = y[0];
+        bx = x[1];
+        by = y[1];
+    }
+    // The segment's box first: it is exact and cheap.
+    bool bFirst = (found >= 1) & IsInBox(ax, ay, x1, y1, x2, y2);
+    bool bSecond = (found == 2) & IsInBox(bx, by, x1, y1, x2, y2);
+    if (!(bFirst | bSecond))
         return 0;
-
-    // The segment's box first: it is exact and cheap, the sweep takes two arc tangents.
-    bool bFirst = IsInBox(ax, ay, x1, y1, x2, y2);
-    bool bSecond = found == 2 && IsInBox(bx, by, x1, y1, x2, y2);
-    if (!bFirst && !bSecond)
-        return 0;
-    const CArcSweep sweep(CVector(sx, sy), CVector(ex, ey), CVector(cx, cy));
-    bFirst = bFirst && sweep.Holds(CVector(ax, ay));
-    bSecond = bSecond && sweep.Holds(CVector(bx, by));
+    const CArcDirections arc(sx, sy, ex, ey, cx, cy, r);
+    const bool bAskFirst = bFirst & !arc.CanTell(ax, ay, t);
+    const bool bAskSecond = bSecond & !arc.CanTell(bx, by, t);
+    bFirst = bFirst & arc.Holds(ax, ay);
+    bSecond = bSecond & arc.Holds(bx, by);
+    if (bAskFirst | bAskSecond) {
+        bFirst = bAskFirst ? ArcHolds(sx, sy, ex, ey, cx, cy, ax, ay) : bFirst;
+        bSecond = bAskSecond ? ArcHolds(sx, sy, ex, ey, cx, cy, bx, by) : bSecond;
+    }
 
     if (bFirst) {
         *px1 = ax;
@@ -165,18 +167,37 @@ int CVector::IntersectLineArc(double x1, double y1, double x2, double y2, double
 
 int CVector::IntersectLineArcInf(double x1, double y1, double x2, double y2, double cx, double cy,
                                  double radius, double* px1, double* py1, double* px2, double* py2) {
-    double ax;
-    double ay;
-    double bx;
-    double by;
+    const auto cutAligned = [=](bool bHorizontal) {
+        double ax;
+        double ay;
+        double bx;
+        double by;
+        const int found =
+            CutAligned(bHorizontal, x1, y1, cx, cy, radius * radius, m_dTolerance, ax, ay, bx, by);
+        if (found != 0) {
+            *px1 = ax;
+            *py1 = ay;
+            *px2 = bx;
+            *py2 = by;
+        }
+        return found;
+    };
     // Unlike the arc form, only an exactly horizontal or vertical line is taken as such.
-    const int found =
-        CutCircle(y1 == y2, x1 == x2, x1, y1, x2, y2, cx, cy, radius * radius, m_dTolerance, ax, ay, bx, by);
-    if (found == 0)
-        return 0;
-    *px1 = ax;
-    *py1 = ay;
-    *px2 = bx;
-    *py2 = by;
+    if (y1 == y2)
+        return cutAligned(true);
+    if (x1 == x2)
+        return cutAligned(false);
+
+    Pair x;
+    Pair y;
+    const int found = CutOblique(x1, y1, x2, y2, cx, cy, radius * radius, m_dTolerance, x, y);
+    // A miss is written like the rest, but to nowhere.
+    double nowhere;
+    double* const to[][4] = {{&nowhere, &nowhere, &nowhere, &nowhere}, {px1, py1, px2, py2}};
+    double* const* const out = to[found != 0];
+    *out[0] = x[0];
+    *out[1] = y[0];
+    *out[2] = x[1];
+    *out[3] = y[1];
     return found;
 }

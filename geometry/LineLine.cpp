@@ -1,6 +1,10 @@
 #include "geometry/Vector.h"
 
+#include "geometry/internal/Within.h"
+
 #include <algorithm>
+
+using namespace fieldkit::geometry;
 
 namespace {
 
@@ -14,11 +18,10 @@ bool IsSamePoint(double xa, double ya, double xb, double yb, double t) {
     return IsNull(xa - xb, t) && IsNull(ya - yb, t);
 }
 
-bool IsWithin(double v, double a, double b) {
-    return std::min(a, b) <= v && v <= std::max(a, b);
-}
-bool IsStrictlyWithin(double v, double a, double b) {
-    return std::min(a, b) < v && v < std::max(a, b);
+/// The least of four distances. One that is not a number does not count.
+double Least(double t, double a, double b, double c, double d) {
+    const double ab = std::min(std::min(t, std::fabs(a)), std::fabs(b));
+    return std::min(std::min(ab, std::fabs(c)), std::fabs(d));
 }
 
 int Store(double x, double y, double* px, double* py) {
@@ -34,12 +37,10 @@ bool IsInCommonExtent(double v, double a0, double a1, double b0, double b1) {
     return (lo <= v && v <= hi) || !(std::fabs(lo - v) >= kCoarse && std::fabs(hi - v) >= kCoarse);
 }
 
-} // namespace
-
-int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
-                               double y4, double* px, double* py, int bSegment) {
-    const double t = m_dTolerance;
-
+/// The end that line 1-2 shares with line 3-4; false when it shares none. Seldom needed, hence
+/// not inlined.
+[[gnu::noinline]] bool MeetAtEnds(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
+                                  double y4, double t, double* px, double* py) {
     if (IsSamePoint(x1, y1, x3, y3, t))
         return Store(x1, y1, px, py);
     if (IsSamePoint(x1, y1, x4, y4, t))
@@ -49,6 +50,19 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
         return Store(x2, y3, px, py);
     if (IsSamePoint(x2, y2, x4, y4, t))
         return Store(x2, y4, px, py);
+    return false;
+}
+
+} // namespace
+
+int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
+                               double y4, double* px, double* py, int bSegment) {
+    const double t = m_dTolerance;
+
+    // Ends are seldom shared: one test, of the abscissas alone, spares four of points.
+    if (Least(t, x1 - x3, x1 - x4, x2 - x3, x2 - x4) < t &&
+        MeetAtEnds(x1, y1, x2, y2, x3, y3, x4, y4, t, px, py))
+        return 1;
 
     const double dxA = x2 - x1;
     const double dyA = y2 - y1;
@@ -60,19 +74,19 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
             return 0;
         const double oy = (dyB / dxB) * (x1 - x3) + y3;
         Store(x1, oy, px, py);
-        return !bSegment || (IsWithin(x1, x3, x4) && IsWithin(oy, y3, y4));
+        return !bSegment || IsInBox(x1, oy, x3, y3, x4, y4);
     }
     if (IsNull(dxB, t)) {
         const double oy = (dyA / dxA) * (x3 - x1) + y1;
         Store(x3, oy, px, py);
-        return !bSegment || (IsWithin(x3, x1, x2) && IsWithin(oy, y3, y4));
+        return !bSegment || (IsWithin(x3, x1, x2) & IsWithin(oy, y3, y4));
     }
     if (IsNull(dyA, t)) {
         if (IsNull(dyB, t))
             return 0;
         const double ox = (dxB / dyB) * (y1 - y3) + x3;
         Store(ox, y1, px, py);
-        return !bSegment || (IsWithin(ox, x3, x4) && IsWithin(y1, y3, y4));
+        return !bSegment || IsInBox(ox, y1, x3, y3, x4, y4);
     }
     if (IsNull(dyB, t)) {
         const double ox = (dxA / dyA) * (y3 - y1) + x1;
@@ -83,13 +97,16 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
     const double mA = dyA / dxA;
     const double mB = dyB / dxB;
     const double turn = mB - mA;
-    if (IsNull(turn, t))
-        return 0;
+    const bool bParallel = IsNull(turn, t);
     const double ox = (mB * x3 - mA * x1 + y1 - y3) / turn;
     const double oy = mA * (ox - x1) + y1;
-    Store(ox, oy, px, py);
-    return !bSegment || (IsStrictlyWithin(ox, x1, x2) && IsStrictlyWithin(oy, y1, y2) &&
-                         IsStrictlyWithin(ox, x3, x4) && IsStrictlyWithin(oy, y3, y4));
+    // Parallels are written like the rest, but to nowhere: to guess them wrong would cost more.
+    double nowhere;
+    double* const to[][2] = {{px, py}, {&nowhere, &nowhere}};
+    Store(ox, oy, to[bParallel][0], to[bParallel][1]);
+    if (!bSegment)
+        return !bParallel;
+    return !bParallel & IsStrictlyInBox(ox, oy, x1, y1, x2, y2) & IsStrictlyInBox(ox, oy, x3, y3, x4, y4);
 }
 
 int CVector::Intersection(CVector a, CVector b, CVector& out, int bInfinite) {

@@ -20,16 +20,27 @@ public:
 
     /// Leaves both coordinates unset: large arrays of points cost nothing to make.
     CVector() {} // NOLINT: "= default" would make CVector() clear them
+    /// @param x,y coordinate units
     CVector(double x, double y) : m_dX(x), m_dY(y) {}
+    /// Copies both coordinates, also unset ones.
+    ///@{
     CVector(const CVector&) = default;
     CVector& operator=(const CVector&) = default;
+    ///@}
 
+    /// Sets one coordinate, in coordinate units.
+    ///@{
     void SetX(double x) { m_dX = x; }
     void SetY(double y) { m_dY = y; }
+    ///@}
+    /// One coordinate, in coordinate units.
+    ///@{
     double GetX() const { return m_dX; }
     double GetY() const { return m_dY; }
+    ///@}
     /// The coordinates as Double2Int rounds them.
     int GetIntX() const { return Double2Int(m_dX); }
+    /// See GetIntX.
     int GetIntY() const { return Double2Int(m_dY); }
 
     /// Rounds to the nearest integer, halves toward zero (2.5 gives 2, -2.5 gives -2).
@@ -43,6 +54,7 @@ public:
 
     /// Exact comparison, without any tolerance.
     int operator==(CVector v) { return m_dX == v.m_dX && m_dY == v.m_dY; }
+    /// The reverse of ==.
     int operator!=(CVector v) { return !(*this == v); }
     /// 1 when each coordinate differs by at most `tol` (a square, not a circle; inclusive).
     int Equal(CVector v, double tol) {
@@ -52,10 +64,16 @@ public:
     /// so two of them count as the same direction.
     inline int IsSameDir(CVector v, double tol);
 
+    /// Adds or subtracts the coordinates of `v`, in place.
+    ///@{
     void Add(CVector v) { *this = *this + v; }
     void Subtract(CVector v) { *this = *this - v; }
+    ///@}
+    /// The sum or the difference as a new vector; this one stays.
+    ///@{
     CVector operator+(CVector v) { return CVector(m_dX + v.m_dX, m_dY + v.m_dY); }
     CVector operator-(CVector v) { return CVector(m_dX - v.m_dX, m_dY - v.m_dY); }
+    ///@}
 
     /// Makes the length 1. A vector whose norm is exactly 0 stays as it is.
     inline void Unit();
@@ -63,19 +81,26 @@ public:
     inline CVector R_Unit();
     /// Turns by a quarter turn; the length is kept.
     void Normal(Direction d) { *this = R_Normal(d); }
+    /// The turned vector; this one stays.
     inline CVector R_Normal(Direction d);
     /// Turns by `a` radians, counter-clockwise when positive.
     void Rotate(double a) { *this = R_Rotate(a); }
+    /// The turned vector; this one stays.
+    /// @param a radians, counter-clockwise when positive
     CVector R_Rotate(double a) { return Turned(std::cos(a), std::sin(a)); }
     /// Gives the vector the length `len`, backwards when negative. A zero vector stays zero.
     inline void Size(double len);
+    /// The resized vector; this one stays.
+    /// @param len the wanted length, coordinate units
     inline CVector R_Size(double len);
     /// Multiplies both coordinates by `k`.
     void Scalar(double k) { *this = R_Scalar(k); }
+    /// The multiplied vector; this one stays.
     CVector R_Scalar(double k) { return CVector(m_dX * k, m_dY * k); }
 
     /// The length.
     double UNorm() { return std::sqrt(m_dX * m_dX + m_dY * m_dY); }
+    /// The dot product, in squared coordinate units.
     double DotProduct(CVector v) { return m_dX * v.m_dX + m_dY * v.m_dY; }
     /// The direction in -pi..pi; 0 for a vector shorter than 0.017 in both coordinates.
     inline double Angle();
@@ -119,6 +144,7 @@ public:
     /// @return 1 for an intersection, else 0.
     static int IntersectLineLine(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
                                  double y4, double* px, double* py, int bSegment);
+    /// The same for points.
     static int IntersectLineLine(CVector p1, CVector p2, CVector p3, CVector p4, CVector& out, int bSegment) {
         return IntersectLineLine(p1.m_dX, p1.m_dY, p2.m_dX, p2.m_dY, p3.m_dX, p3.m_dY, p4.m_dX, p4.m_dY,
                                  &out.m_dX, &out.m_dY, bSegment);
@@ -151,6 +177,8 @@ public:
     /// @return 1 when a point was written, else 0.
     static int IntersectLineArc(double x1, double y1, double x2, double y2, double sx, double sy, double ex,
                                 double ey, double cx, double cy, double* px, double* py);
+    /// The same for points.
+    ///@{
     static int IntersectLineArc(CVector p1, CVector p2, CVector start, CVector end, CVector centre,
                                 CVector& out1, CVector& out2) {
         return IntersectLineArc(p1.m_dX, p1.m_dY, p2.m_dX, p2.m_dY, start.m_dX, start.m_dY, end.m_dX,
@@ -161,6 +189,7 @@ public:
                                 CVector& out) {
         return IntersectLineArc(p1.m_dX, p1.m_dY, p2.m_dX, p2.m_dY, start.m_dX, start.m_dY, end.m_dX,
                                 end.m_dY, centre.m_dX, centre.m_dY, &out.m_dX, &out.m_dY);
+        ///@}
     }
 
     /// Intersects an unbounded line with a whole circle; the order of two points is that of
@@ -169,6 +198,7 @@ public:
     ///         misses, with nothing written.
     static int IntersectLineArcInf(double x1, double y1, double x2, double y2, double cx, double cy,
                                    double radius, double* px1, double* py1, double* px2, double* py2);
+    /// The same for points.
     static int IntersectLineArcInf(CVector p1, CVector p2, CVector centre, double radius, CVector& out1,
                                    CVector& out2) {
         return IntersectLineArcInf(p1.m_dX, p1.m_dY, p2.m_dX, p2.m_dY, centre.m_dX, centre.m_dY, radius,
@@ -226,6 +256,8 @@ private:
     CVector Turned(double cosine, double sine) {
         return CVector(m_dX * cosine - m_dY * sine, m_dX * sine + m_dY * cosine);
     }
+    static inline double TwoSteps(double a, double limit, const double (&steps)[4]);
+    static inline double StepIfAgainst(double a, double step);
     static double StepToLimit(double a);
     static double StepTo360(double a);
     static double StepToPM90(double a);

@@ -36,7 +36,8 @@ inline CVector CVector::R_Unit() {
 
 inline CVector CVector::R_Normal(Direction d) {
     using namespace fieldkit::geometry;
-    return Turned(kCosHalfPi, d == Left ? kSinHalfPi : -kSinHalfPi);
+    static constexpr double kSines[] = {-kSinHalfPi, kSinHalfPi};
+    return Turned(kCosHalfPi, kSines[d == Left]);
 }
 
 inline void CVector::Size(double len) {
@@ -57,11 +58,31 @@ inline double CVector::Angle() {
     return std::atan2(m_dY, m_dX);
 }
 
-// The angle ranges decide here whether there is anything to do; the steps are in AngleRange.cpp.
+// The angle ranges take the first two steps here, each of them a step or none. It is looked up,
+// because whether it is needed cannot be foreseen, and a wrong guess of the processor costs more
+// than the step. Whoever is still outside then goes on in AngleRange.cpp.
+
+namespace fieldkit::geometry {
+
+/// None or one step forwards, none or one backwards, radians.
+///@{
+inline constexpr double kTurns[] = {0, kTwoPi, 0, -kTwoPi};
+inline constexpr double kHalfTurns[] = {0, kPi, 0, -kPi};
+///@}
+
+} // namespace fieldkit::geometry
+
+inline double CVector::TwoSteps(double a, double limit, const double (&steps)[4]) {
+    // No step leads past the other end of the range: the direction is the same for both.
+    const int direction = std::signbit(a) ? 2 : 0;
+    a -= steps[(std::fabs(a) > limit) + direction];
+    return a - steps[(std::fabs(a) > limit) + direction];
+}
 
 inline double CVector::LimitAngleRange(double a) {
-    using fieldkit::geometry::kLimitPi;
-    return a <= kLimitPi && a >= -kLimitPi ? a : StepToLimit(a);
+    using namespace fieldkit::geometry;
+    a = TwoSteps(a, kLimitPi, kTurns);
+    return std::fabs(a) <= kLimitPi ? a : StepToLimit(a);
 }
 
 inline double CVector::Range0To360(double a) {
@@ -69,20 +90,22 @@ inline double CVector::Range0To360(double a) {
 }
 
 inline double CVector::RangePM90(double a) {
-    using fieldkit::geometry::kHalfPi;
-    return a <= kHalfPi && a >= -kHalfPi ? a : StepToPM90(a);
+    using namespace fieldkit::geometry;
+    a = TwoSteps(a, kHalfPi, kHalfTurns);
+    return std::fabs(a) <= kHalfPi ? a : StepToPM90(a);
+}
+
+inline double CVector::StepIfAgainst(double a, double step) {
+    return a * step < 0 ? step : 0.0; // a variable step: with a constant one it becomes a branch
 }
 
 inline double CVector::AbsAngle(int turn, double a) {
-    using fieldkit::geometry::kNullSweep;
-    using fieldkit::geometry::kTwoPi;
+    using namespace fieldkit::geometry;
     if (std::fabs(a) < kNullSweep)
         return 0;
-    if (turn == 1)
-        return a < 0 ? a + kTwoPi : a;
-    if (turn == -1)
-        return a > 0 ? a - kTwoPi : a;
-    return 0;
+    if (turn != 1 && turn != -1)
+        return 0;
+    return a + StepIfAgainst(a, turn * kTwoPi);
 }
 
 inline double CVector::CalcAngleDist(double a, double b) {

@@ -6,12 +6,6 @@
 namespace {
 
 constexpr double kNo = kUntouched;
-double More(double v) {
-    return std::nextafter(v, 1e9);
-}
-double Less(double v) {
-    return std::nextafter(v, -1e9);
-}
 
 struct ArcCase {
     const char* what;
