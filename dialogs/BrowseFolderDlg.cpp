@@ -95,7 +95,7 @@ HTREEITEM CBrowseFolderDlg::InsertFolder(HTREEITEM hParent, LPCTSTR pszName, int
         m_tree.InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM, pszName, nImage, nImage,
                           0, 0, reinterpret_cast<LPARAM>(pPath.get()), hParent, TVI_LAST);
     if (hItem != nullptr)
-        pPath.release(); // the item's from here on, see RemoveTreeItems
+        static_cast<void>(pPath.release()); // the item's from here on, see RemoveTreeItems
     return hItem;
 }
 
@@ -155,11 +155,13 @@ void CBrowseFolderDlg::ResetMemory() {
 
 void CBrowseFolderDlg::RemoveTreeItems(HTREEITEM hItem) {
     const HTREEITEM hEnd = m_tree.GetParentItem(hItem);
-    for (; hItem != nullptr; hItem = NextBelow(hItem, hEnd))
+    for (; hItem != nullptr; hItem = NextBelow(hItem, hEnd)) {
         delete PathOf(hItem);
+        m_tree.SetItemData(hItem, 0);
+    }
 }
 
-/// Null for no item.
+/// Null for no item, and for one whose path has been freed.
 CString* CBrowseFolderDlg::PathOf(HTREEITEM hItem) const {
     return reinterpret_cast<CString*>(m_tree.GetItemData(hItem));
 }

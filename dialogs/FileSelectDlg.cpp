@@ -132,10 +132,11 @@ BOOL CFileSelectDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     ShowTitle();
     ShowFolder();
+    const RedrawPause pause(m_lstFiles);
     InitColumns();
     m_lstFiles.SetExtendedStyle(m_lstFiles.GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     ShowSubName();
-    SetCurrentFileToList();
+    AddFiles();
     return TRUE;
 }
 
@@ -193,8 +194,12 @@ void CFileSelectDlg::InitColumns() {
 
 void CFileSelectDlg::SetCurrentFileToList() {
     const RedrawPause pause(m_lstFiles);
-    const QuietDrives quiet;
     m_lstFiles.DeleteAllItems();
+    AddFiles();
+}
+
+void CFileSelectDlg::AddFiles() {
+    const QuietDrives quiet;
     int nItem = 0;
     for (FolderSearch search(SystemPath(m_strFolder)); search.Next();)
         if (!search.IsFolder() && IsWanted(search.Name()))

@@ -1,7 +1,7 @@
 #include "util/AsciiFile.h"
 
 #include <cstring>
-#include <vector>
+#include <memory>
 
 namespace {
 
@@ -41,14 +41,16 @@ void CAsciiFile::WriteString(const wchar_t* psz) {
 }
 
 void CAsciiFile::AsciiToString(const unsigned char* pszAscii, int nLen, CString& str) {
-    std::vector<wchar_t> buffer(static_cast<size_t>(nLen) * 2 + 1);
-    const int n = ::MultiByteToWideChar(CP_OEMCP, 0, reinterpret_cast<LPCSTR>(pszAscii), -1, buffer.data(),
-                                        static_cast<int>(buffer.size()));
+    const int nSize = nLen * 2 + 1;
+    // Clearing it would take longer than the conversion of a usual line.
+    const auto buffer = std::make_unique_for_overwrite<wchar_t[]>(static_cast<size_t>(nSize));
+    const int n =
+        ::MultiByteToWideChar(CP_OEMCP, 0, reinterpret_cast<LPCSTR>(pszAscii), -1, buffer.get(), nSize);
     if (n < 1) {
         str.Empty();
         return;
     }
-    str = buffer.data();
+    str = buffer.get();
 }
 
 unsigned char* CAsciiFile::StringToAscii(const wchar_t* psz, unsigned char* pBuf, int nBufSize) {

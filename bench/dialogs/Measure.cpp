@@ -1,9 +1,20 @@
 #include "Measure.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <utility>
+#include <vector>
 
 namespace bench {
+
+namespace {
+
+double Median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+} // namespace
 
 double Now() {
     LARGE_INTEGER frequency;
@@ -28,35 +39,23 @@ size_t HeapBytes() {
     return nBytes;
 }
 
-Pair Compare(const std::function<Cost()>& bare, const std::function<Cost()>& ours) {
-    constexpr int RUNS = 7;
-    const auto keepBest = [](Cost& best, const Cost& next) {
-        if (next.ms < best.ms)
-            best = next;
-    };
-    Pair best = {bare(), ours()};
-    for (int i = 1; i < RUNS; ++i) {
-        keepBest(best.bare, bare());
-        keepBest(best.ours, ours());
+Pair Compare(int nRounds, const std::function<Cost()>& bare, const std::function<Cost()>& ours) {
+    std::vector<Pair> rounds;
+    for (int i = 0; i < nRounds; ++i) {
+        Pair round = {bare(), ours()};
+        round.ratio = round.ours.ms / round.bare.ms;
+        rounds.push_back(round);
     }
-    return best;
-}
-
-bool Report(const char* pszWhat, const Pair& pair, double limit) {
-    const double ratio = pair.ours.ms / pair.bare.ms;
-    std::printf("%-34s bare %8.1f ms   ours %8.1f ms   ratio %5.2f (goal %.1f)%s\n", pszWhat, pair.bare.ms,
-                pair.ours.ms, ratio, limit, ratio <= limit ? "" : "   MISSED");
-    std::fflush(stdout);
-    return ratio <= limit;
-}
-
-bool ReportMemory(const Pair& pair, int nItems) {
-    constexpr double LIMIT = 2048;
-    const double each = (pair.ours.bytes - pair.bare.bytes) / nItems;
-    std::printf("%-34s %.0f bytes for each item beyond the bare control (goal %.0f)%s\n", "", each, LIMIT,
-                each <= LIMIT ? "" : "   MISSED");
-    std::fflush(stdout);
-    return each <= LIMIT;
+    const auto median = [&rounds](auto value) {
+        std::vector<double> values;
+        for (const Pair& round : rounds)
+            values.push_back(value(round));
+        return Median(std::move(values));
+    };
+    return {
+        {median([](const Pair& p) { return p.bare.ms; }), median([](const Pair& p) { return p.bare.bytes; })},
+        {median([](const Pair& p) { return p.ours.ms; }), median([](const Pair& p) { return p.ours.bytes; })},
+        median([](const Pair& p) { return p.ratio; })};
 }
 
 } // namespace bench

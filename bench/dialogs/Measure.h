@@ -1,4 +1,4 @@
-// Times, memory and the lines that the measurements print.
+// Times, memory and the comparison of two works.
 #pragma once
 
 #include <windows.h>
@@ -21,15 +21,11 @@ struct Cost {
 struct Pair {
     Cost bare;
     Cost ours;
+    double ratio = 0; ///< Of the times, ours to bare.
 };
 
-/// Does both works by turns and takes the best time of each: what else the computer does can
-/// only add to them.
-Pair Compare(const std::function<Cost()>& bare, const std::function<Cost()>& ours);
-
-/// @param limit how many times the bare cost is allowed @return whether it was kept
-bool Report(const char* pszWhat, const Pair& pair, double limit);
-/// @param nItems what the memory is shared by
-bool ReportMemory(const Pair& pair, int nItems);
+/// Does both works by turns and takes medians. The ratio is that of works done one directly
+/// after the other: what else the computer does falls on both alike.
+Pair Compare(int nRounds, const std::function<Cost()>& bare, const std::function<Cost()>& ours);
 
 } // namespace bench

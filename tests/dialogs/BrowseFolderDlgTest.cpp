@@ -1,60 +1,11 @@
-#include "dialogs/BrowseFolderDlg.h"
+#include "BrowseFolderStage.h"
 
-#include "CaptionButtons.h"
 #include "TemplateRects.h"
-#include "TestDrive.h"
 #include "support/Leftovers.h"
-#include "support/ModalScript.h"
-
-#include <algorithm>
 
 namespace {
 
-constexpr int TREE = 1100;
-
-using Paths = std::vector<CString>;
-
-CTreeCtrl& Tree(CDialog& dlg) {
-    return *static_cast<CTreeCtrl*>(dlg.GetDlgItem(TREE));
-}
-
-const CString& PathOf(const CTreeCtrl& tree, HTREEITEM hItem) {
-    return *reinterpret_cast<const CString*>(tree.GetItemData(hItem));
-}
-
-/// All items from top to bottom. Each must stand below its folder and have its name.
-void CollectPaths(const CTreeCtrl& tree, HTREEITEM hFirst, const CString& strParent, Paths& paths) {
-    for (HTREEITEM hItem = hFirst; hItem != nullptr; hItem = tree.GetNextSiblingItem(hItem)) {
-        const CString& strPath = PathOf(tree, hItem);
-        EXPECT_EQ(strPath, strParent + L"\\" + tree.GetItemText(hItem));
-        paths.push_back(strPath);
-        CollectPaths(tree, tree.GetChildItem(hItem), strPath, paths);
-    }
-}
-
-Paths AllPaths(const CTreeCtrl& tree) {
-    Paths paths;
-    CollectPaths(tree, tree.GetChildItem(tree.GetRootItem()), L"", paths);
-    return paths;
-}
-
-/// Runs a look at the open dialog, then cancels it.
-template <class Look>
-void WhileOpen(CBrowseFolderDlg& dlg, Look look) {
-    fx::ModalScript script;
-    script.Then([&] {
-        look();
-        dlg.EndDialog(IDCANCEL);
-    });
-    script.Run([&] { return dlg.DoModal(); });
-}
-
-void TapItem(const CTreeCtrl& tree, HTREEITEM hItem) {
-    CRect rect;
-    ASSERT_TRUE(tree.GetItemRect(hItem, rect, TRUE));
-    tree.ClientToScreen(rect);
-    pen::Tap(rect.CenterPoint());
-}
+using namespace browse_folder;
 
 TEST(BrowseFolderDlg, TemplateHasItsPlacesAndStyles) {
     const TestDrive drive;
@@ -98,9 +49,7 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPath) {
         EXPECT_EQ(PathOf(tree, hRoot), L"\\");
         EXPECT_EQ(tree.GetNextSiblingItem(hRoot), nullptr);
         EXPECT_TRUE(tree.GetItemState(hRoot, TVIS_EXPANDED) & TVIS_EXPANDED);
-        Paths paths = AllPaths(tree);
-        std::sort(paths.begin(), paths.end());
-        EXPECT_EQ(paths, wanted);
+        EXPECT_EQ(SortedPaths(tree), wanted);
     });
 }
 
@@ -225,47 +174,6 @@ TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.what;
         EXPECT_EQ(dlg.GetSelectedFolder(), row.folder) << row.what;
     }
-}
-
-TEST(BrowseFolderDlg, LinkIsShownButNotEntered) {
-    const TestDrive drive;
-    drive.MakeFolder(L"\\data");
-    drive.MakeFolder(L"\\other");
-    drive.MakeFolder(L"\\other\\inside");
-    if (!drive.MakeLink(L"\\data\\loop", L"\\data") || !drive.MakeLink(L"\\data\\away", L"\\other"))
-        GTEST_SKIP() << "this user may not make links";
-    Paths wanted = {L"\\data", L"\\data\\away", L"\\data\\loop", L"\\other", L"\\other\\inside"};
-    CBrowseFolderDlg dlg(L"\\data\\away");
-    fx::ModalScript script;
-    script.Then([&] {
-        Paths paths = AllPaths(Tree(dlg));
-        std::sort(paths.begin(), paths.end());
-        EXPECT_EQ(paths, wanted);
-        caption::TapOk(dlg);
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-    EXPECT_EQ(dlg.GetSelectedFolder(), L"\\data\\away");
-}
-
-TEST(BrowseFolderDlg, PathsMayBeLongerThanTheSystemsUsualLimit) {
-    const TestDrive drive;
-    CString strPath;
-    Paths wanted;
-    for (int i = 0; i < 30; ++i) {
-        strPath += L"\\" + CString(static_cast<wchar_t>(L'a' + i % 26), 60);
-        drive.MakeFolder(strPath);
-        wanted.push_back(strPath);
-    }
-    CBrowseFolderDlg dlg(strPath);
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(AllPaths(Tree(dlg)), wanted);
-        ASSERT_NE(Tree(dlg).GetSelectedItem(), nullptr);
-        EXPECT_EQ(PathOf(Tree(dlg), Tree(dlg).GetSelectedItem()), strPath);
-        caption::TapOk(dlg);
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-    EXPECT_EQ(dlg.GetSelectedFolder(), strPath);
 }
 
 TEST(BrowseFolderDlg, SegmentsCanBeBuiltAndRemovedByDerivedDialogs) {

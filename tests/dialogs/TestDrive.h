@@ -52,6 +52,27 @@ public:
         ::SetEndOfFile(hFile);
         ::CloseHandle(hFile);
     }
+    enum Kind { Files, Folders };
+    /// Thousands of empty files or folders. Wine reads a folder for each file that it makes there.
+    /// @param pszFormat name for a double from 0 to nCount - 1
+    void MakeMany(Kind kind, const CString& strFolder, const char* pszFormat, int nCount) const {
+        const auto path = [&](int i) {
+            CString str;
+            str.Format(strFolder + L"\\" + CString(pszFormat), static_cast<double>(i));
+            return str;
+        };
+        if (m_unixLink.empty()) {
+            for (int i = 0; i < nCount; ++i)
+                kind == Files ? MakeFile(path(i)) : MakeFolder(path(i));
+            return;
+        }
+        const CString strLast = Long(path(nCount - 1));
+        const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
+        RunUnix("cd '" + UnixName(strFolder + L"\\") + "' && seq -f '" + pszFormat + "' 0 " +
+                    std::to_string(nCount - 1) + " | xargs -d '\\n' " + (kind == Files ? "touch" : "mkdir"),
+                isThere);
+        Check(isThere(), "cannot make so many");
+    }
     /// A link to a folder. @return false if this user may not make links
     bool MakeLink(const CString& strPath, const CString& strTarget) const {
         if (m_unixLink.empty())
@@ -61,6 +82,16 @@ public:
         RunUnix("ln -s '" + UnixName(strTarget) + "' '" + UnixName(strPath) + "'",
                 [&] { return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES; });
         return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES;
+    }
+
+    /// Takes the drive away, as a card that is pulled out. What is on it stays until the end.
+    void Remove() const {
+        const auto isGone = [this] { return ::GetFileAttributes(Root()) == INVALID_FILE_ATTRIBUTES; };
+        if (m_unixLink.empty())
+            ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
+        else
+            RunUnix("rm '" + m_unixLink + "'", isGone);
+        Check(isGone(), "the drive is still there");
     }
 
     CString Long(const CString& strPath) const { return L"\\\\?\\" + m_strLetter + strPath; }
@@ -103,7 +134,7 @@ private:
         const auto pfn = reinterpret_cast<Function>(reinterpret_cast<void*>(
             ::GetProcAddress(::GetModuleHandle(L"kernel32.dll"), "wine_get_unix_file_name")));
         char* const pszName = pfn != nullptr ? pfn(strPath) : nullptr;
-        const std::string name = pszName != nullptr ? pszName : "";
+        std::string name = pszName != nullptr ? pszName : "";
         ::HeapFree(::GetProcessHeap(), 0, pszName);
         return name;
     }

@@ -1,0 +1,22 @@
+// A folder into which nobody may look.
+#pragma once
+
+#include "support/FrameworkEnvironment.h"
+
+/// Keeps everybody from listing a folder while it exists. A lock is in force for all users,
+/// where missing permissions would not stop an administrator.
+class LockedFolder {
+public:
+    explicit LockedFolder(LPCTSTR pszFolder)
+        : m_hFolder(::CreateFile(pszFolder, FILE_LIST_DIRECTORY, 0, nullptr, OPEN_EXISTING,
+                                 FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {
+        WIN32_FIND_DATA entry;
+        EXPECT_EQ(::FindFirstFile(CString(pszFolder) + L"\\*", &entry), INVALID_HANDLE_VALUE);
+    }
+    ~LockedFolder() { ::CloseHandle(m_hFolder); }
+    LockedFolder(const LockedFolder&) = delete;
+    LockedFolder& operator=(const LockedFolder&) = delete;
+
+private:
+    HANDLE m_hFolder;
+};
