@@ -1,17 +1,23 @@
-# An installed tree that a customer's own project finds with find_package(Fieldkit).
+# An installed tree that a customer's own project finds with find_package(Fieldkit) or
+# pkg-config. The DLLs and the static libraries go into one tree, each with its own files.
 include(CMakePackageConfigHelpers)
 
+if(FIELDKIT_SHARED)
+  set(_kind shared)
+else()
+  set(_kind static)
+endif()
 set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Fieldkit)
 
 set(_installed framework companion fieldkit)
 if(WIN32)
   list(APPEND _installed winmain)
 endif()
-install(TARGETS ${_installed} EXPORT FieldkitTargets
+install(TARGETS ${_installed} EXPORT Fieldkit-${_kind}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(EXPORT FieldkitTargets NAMESPACE Fieldkit:: DESTINATION ${_package})
+install(EXPORT Fieldkit-${_kind} NAMESPACE Fieldkit:: DESTINATION ${_package})
 
 # Only what lies directly in these folders is public; subfolders are internal.
 foreach(_folder framework geometry survey util controls dialogs resources)
@@ -27,3 +33,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cma
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
   ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake DESTINATION ${_package})
+
+if(WIN32)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/fieldkit-${_kind}.pc.in ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endif()

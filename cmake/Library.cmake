@@ -1,5 +1,5 @@
-# The library itself: Fieldkit.dll on Windows; natively a static library of the
-# folders that need no window system.
+# The library itself: Fieldkit.dll or a static library on Windows; natively a static
+# library of the folders that need no window system.
 set(_portable geometry survey)
 set(_windows util controls dialogs)
 
@@ -8,19 +8,25 @@ foreach(_folder IN LISTS _portable)
   file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.cpp)
   list(APPEND _sources ${_found})
 endforeach()
+# The kernel takes roots of negative numbers and goes on with what they give. Reporting them in
+# errno, which nobody reads, would make each root a branch and a call.
+file(GLOB _kernel CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/geometry/*.cpp)
+set_source_files_properties(${_kernel} PROPERTIES COMPILE_OPTIONS -fno-math-errno)
 if(WIN32)
   foreach(_folder IN LISTS _windows)
     file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.cpp)
     list(APPEND _sources ${_found})
   endforeach()
-  add_library(fieldkit SHARED ${_sources})
-  set_target_properties(fieldkit PROPERTIES OUTPUT_NAME Fieldkit)
-  target_sources(fieldkit PRIVATE $<TARGET_OBJECTS:fieldkit_resources>)
+  if(FIELDKIT_SHARED)
+    list(APPEND _sources ${PROJECT_SOURCE_DIR}/resources/Module.cpp)
+  endif()
+  add_library(fieldkit ${FIELDKIT_KIND} ${_sources})
+  fieldkit_module(fieldkit Fieldkit "${PROJECT_DESCRIPTION}")
+  fieldkit_add_resources(fieldkit Fieldkit fieldkit_resources)
   target_compile_definitions(fieldkit PRIVATE FIELDKIT_EXPORTS)
 else()
   list(FILTER _sources EXCLUDE REGEX "/survey/AngleEdit\\.cpp$") # a control
   add_library(fieldkit STATIC ${_sources})
-  target_compile_definitions(fieldkit PUBLIC FIELDKIT_STATIC)
 endif()
 add_library(Fieldkit::fieldkit ALIAS fieldkit)
 target_include_directories(fieldkit PUBLIC

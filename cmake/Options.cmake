@@ -1,5 +1,7 @@
 # Compiler options of the project's own code, in one place.
 option(FIELDKIT_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
+include(CMakeDependentOption)
+cmake_dependent_option(FIELDKIT_SHARED "Build the three DLLs; OFF builds static libraries instead" ON WIN32 OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

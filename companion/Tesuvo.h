@@ -5,11 +5,17 @@
 /// Natively (no window system) only TVGetCommonRegInt() is available.
 #pragma once
 
+/// @def TESUVO_API
+/// Marks a function of the library: an undecorated C name, exported while Tesuvo.dll itself is
+/// built and imported by everybody else.
+
 #ifdef _WIN32
 
 #include <afx.h>
 
-#ifdef TESUVO_EXPORTS
+#if defined(FIELDKIT_STATIC)
+#define TESUVO_API extern "C"
+#elif defined(TESUVO_EXPORTS)
 #define TESUVO_API extern "C" __declspec(dllexport)
 #else
 #define TESUVO_API extern "C" __declspec(dllimport)

@@ -6,18 +6,26 @@
 /// few that its interface mentions are declared here with the same widths.
 #pragma once
 
+/// @def AFX_CORE
+/// Marks what the framework's DLL exports; nothing in a static or native build.
+/// @def AFXAPI
+/// The calling convention of the framework's global functions.
+
 #ifdef _WIN32
 
 #ifndef UNICODE
 #error "The framework is Unicode only: define UNICODE and _UNICODE"
 #endif
 #ifndef NOMINMAX
+/// Keeps the system's macros min and max away.
 #define NOMINMAX
 #endif
 #include <windows.h>
 #include <tchar.h>
 
-#ifdef FRAMEWORK_EXPORTS
+#if defined(FIELDKIT_STATIC)
+#define AFX_CORE
+#elif defined(FRAMEWORK_EXPORTS)
 #define AFX_CORE __declspec(dllexport)
 #else
 #define AFX_CORE __declspec(dllimport)

@@ -8,8 +8,17 @@ IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
 namespace {
 
+/// The framework's DLL, or the program that the framework is linked into.
+HINSTANCE ModuleOfThisCode() {
+    static const wchar_t chAnchor = 0;
+    HMODULE hModule = nullptr;
+    ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                        &chAnchor, &hModule);
+    return hModule;
+}
+
 struct CModuleState {
-    HINSTANCE hFramework = nullptr;
+    const HINSTANCE hFramework = ModuleOfThisCode();
     HINSTANCE hInstance = nullptr;
     HINSTANCE hResource = nullptr;
     std::vector<CDynLinkLibrary*> libraries; ///< In the order of their loading.
@@ -37,12 +46,6 @@ LPCTSTR FindString(HINSTANCE hInstance, UINT nID, int* pnLength) {
 }
 
 } // namespace
-
-BOOL APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
-    if (dwReason == DLL_PROCESS_ATTACH)
-        State().hFramework = hInstance;
-    return TRUE;
-}
 
 // --- The application's module ------------------------------------------------------------------
 

@@ -1,0 +1,145 @@
+# shellcheck shell=bash disable=SC2034,SC2154  # sourced by ./run, which sets the paths and reads the counters
+# The package that customers get: DLLs and static libraries in one tree, the sample
+# application, and a zip of it all.
+
+package_folder=$build/package
+
+# Needs the preset win64 and the sample to be built.
+run_package() {
+    make_package
+    printf '%s\n' "${package_folder#"$root"/}/$(package_name).zip"
+    print_sizes "$package_folder/$(package_name)"
+}
+
+make_package() {
+    local tree
+    tree=$package_folder/$(package_name)
+    logged configure-win64-static configure_preset win64-static
+    logged build-win64-static ninja -C "$build/win64-static" -j"$(nproc)" fieldkit winmain
+    rm -rf "$package_folder"
+    mkdir -p "$package_folder"
+    logged package assemble "$tree"
+}
+
+package_version() {
+    sed -n 's/^CMAKE_PROJECT_VERSION:[A-Z]*=//p' "$build/win64/CMakeCache.txt"
+}
+
+package_name() {
+    printf 'Fieldkit-%s-win64' "$(package_version)"
+}
+
+assemble() {
+    local tree=$1
+    cmake --install "$build/win64-static" --prefix "$tree"
+    cmake --install "$build/win64" --prefix "$tree" --strip
+    # Beside the DLLs, so that it starts with a double click.
+    x86_64-w64-mingw32-strip -o "$tree/bin/fieldbook.exe" "$build/fieldbook/fieldbook.exe"
+    cp "$root"/samples/fieldbook/data/*.csv "$tree/bin/"
+    cp "$root/LICENSE" "$tree/"
+    cp "$root/docs/package.md" "$tree/README.md"
+    cd "$package_folder" || return
+    cmake -E tar cf "$(basename "$tree").zip" --format=zip "$(basename "$tree")"
+}
+
+# The DLLs, and whatever they load that is not a part of Windows.
+print_sizes() {
+    local dll total=0 size
+    for dll in "$1"/bin/*.dll; do
+        size=$(stat -c %s "$dll")
+        total=$((total + size))
+        printf '  %-16s %8d bytes\n' "$(basename "$dll")" "$size"
+    done
+    printf '  %-16s %8d bytes, and at run time %s\n' 'all DLLs' "$total" "$(foreign_dlls "$1")"
+}
+
+foreign_dlls() {
+    local windows='advapi32|comctl32|dwmapi|gdi32|kernel32|msvcrt|shell32|user32|ole32'
+    local names
+    names=$(x86_64-w64-mingw32-objdump -p "$1"/bin/*.dll | sed -n 's/.*DLL Name: //p' | sort -uf |
+        grep -viE "^($windows|fieldkit|fieldkitfx|tesuvo)\.dll\$") || true
+    printf '%s' "${names:-nothing but Windows}" | tr '\n' ' '
+}
+
+# An outside project, built against the unpacked zip with both kinds of library, and run.
+# Needs what run_package needs, and the screen.
+test_package() {
+    local work=$build/package-test
+    make_package
+    rm -rf "$work"
+    mkdir -p "$work"
+    logged unpack-package unpack "$work"
+    local tree
+    tree=$work/$(package_name)
+    logged build-consumer build_consumer "$tree" "$work/cmake"
+    logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
+
+    local start=$EPOCHREALTIME bad=0 good=0 expected=$root/tests/package/expected.txt
+    local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll)
+    versions_expected "${files[@]}" >"$work/versions.txt"
+    check "$expected" "$work/cmake/shared.exe"
+    check "$expected" "$work/cmake/static.exe"
+    check "$expected" "$work/pkgconf/shared.exe"
+    check "$expected" "$work/pkgconf/static.exe"
+    check "$work/versions.txt" "$work/cmake/versions.exe" "${files[@]}"
+    printf 'exit 42\n' >"$work/exit.txt"
+    check "$work/exit.txt" "$work/cmake/shared_window.exe"
+    check "$work/exit.txt" "$work/cmake/static_window.exe"
+    passed=$((passed + good))
+    failed=$((failed + bad))
+    printf '%-6s %-20s %5d passed, %d failed (%s s)\n' package consumer: "$good" "$bad" "$(seconds_since "$start")"
+}
+
+unpack() {
+    cd "$1" || return
+    cmake -E tar xf "$package_folder/$(package_name).zip"
+}
+
+build_consumer() {
+    cmake -S "$root/tests/package" -B "$2" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
+        -DCMAKE_PREFIX_PATH="$1" -DEXPECTED_VERSION="$(package_version)"
+    ninja -C "$2"
+    cp "$1"/bin/*.dll "$2/"
+}
+
+build_with_pkgconf() {
+    local kind flags
+    mkdir -p "$2"
+    cp "$1"/bin/*.dll "$2/"
+    x86_64-w64-mingw32-windres -c 65001 -O coff "$root/tests/package/Consumer.rc" "$2/Consumer.o"
+    for kind in shared static; do
+        flags=$(PKG_CONFIG_LIBDIR=$1/lib/pkgconfig pkg-config --cflags --libs "fieldkit-$kind")
+        # shellcheck disable=SC2086  # a list of options
+        x86_64-w64-mingw32-g++-posix -O2 -static "$root/tests/package/Consumer.cpp" "$2/Consumer.o" \
+            $flags -o "$2/$kind.exe"
+    done
+}
+
+# versions_expected FILE...: what Versions.cpp has to print, the number in every place and
+# the licence's copyright line.
+versions_expected() {
+    local file version copyright
+    version=$(package_version)
+    copyright=$(grep '^Copyright' "$root/LICENSE")
+    for file in "$@"; do
+        printf '%s %s|%s|%s|Fieldkit|Fieldkit|%s\n' "$file" "$version" "$version" "$version" "$copyright"
+    done
+}
+
+# check EXPECTED PROGRAM ARGUMENTS...: runs it in its own folder; counts in "good" and "bad".
+check() {
+    local expected=$1 program=$2 status=0
+    local log=${program%.exe}.log
+    shift 2
+    (cd "$(dirname "$program")" && in_wine timeout -k 5 60 wine "$program" "$@") >"$log.raw" 2>&1 </dev/null || status=$?
+    ((status == 0)) || printf 'exit %d\n' "$status" >>"$log.raw"
+    tr -d '\r' <"$log.raw" >"$log"
+    if cmp -s "$expected" "$log"; then
+        good=$((good + 1))
+    else
+        bad=$((bad + 1))
+        printf '  %s, expected and found:\n' "${program#"$root"/}"
+        diff "$expected" "$log" | sed 's/^/    /' || true
+    fi
+}
