@@ -42,15 +42,20 @@ public:
     void SetButtonStyle(UINT nStyle);
     /// Latches a toggle button down or releases it, without a click. Others take no notice.
     void SetPush(BOOL bPush);
+    /// Draws frame, icon and text, and the focus rectangle of StyleFocus.
     /// @return TRUE if the button is latched down
     BOOL GetPush();
 
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
 
 protected:
+    /// A toggle button flips its push state when the pen is lifted inside of it; a double tap
+    /// counts as two taps.
+    ///@{
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    ///@}
 
     DECLARE_MESSAGE_MAP()
 

@@ -22,7 +22,10 @@ public:
     void SetBkColor(DWORD crColor);
 
 protected:
+    /// Fills the control with its colour and draws icon and text on one line, centred in its
+    /// height.
     afx_msg void OnPaint();
+    /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()

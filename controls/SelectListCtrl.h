@@ -20,6 +20,7 @@ public:
     virtual DWORD GetItemAttribute(int nItem);
 
 protected:
+    /// Asks GetItemAttribute for each item that is about to be drawn, and colours it.
     afx_msg void OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult);
 
     DECLARE_MESSAGE_MAP()

@@ -23,8 +23,11 @@ public:
     void SetOption(DWORD dwOption);
 
 protected:
+    /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    /// With OptionNoSelection takes every selection away again.
     afx_msg void OnItemchanged(NMHDR* pNMHDR, LRESULT* pResult);
+    /// Answers that the stylus is taken: no press-and-hold.
     afx_msg void OnRecognizeGesture(NMHDR* pNMHDR, LRESULT* pResult);
 
     DECLARE_MESSAGE_MAP()

@@ -14,9 +14,11 @@ public:
     explicit CnPropertyPage(int nIDTemplate);
 
 protected:
+    /// Nothing of its own; derived classes call it first.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
 
+    /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()

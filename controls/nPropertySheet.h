@@ -26,6 +26,10 @@ public:
     /// @param pParentWnd  owner; null for the application's main window
     /// @param iSelectPage page shown first, from 0
     CnPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage);
+    /// The same with the title as a text.
+    /// @param pszCaption  the title; copied
+    /// @param pParentWnd  owner; null for the application's main window
+    /// @param iSelectPage page shown first, from 0
     CnPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage);
 
     /// Replaces the option word (CnDialog's adds to it).
@@ -36,8 +40,11 @@ public:
 protected:
     BOOL OnInitDialog() override;
 
+    /// The system's own processing; with OptionForwardPress that of CWnd.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    /// A change of the system's settings; here the framework's processing.
     afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    /// Does nothing: the Cancel command does not close the sheet.
     afx_msg void OnCancel();
 
     DECLARE_MESSAGE_MAP()

@@ -13,7 +13,9 @@ public:
     CnTreeCtrl() = default;
 
 protected:
+    /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    /// Answers that the stylus is taken: no press-and-hold.
     afx_msg void OnRecognizeGesture(NMHDR* pNMHDR, LRESULT* pResult);
 
     DECLARE_MESSAGE_MAP()

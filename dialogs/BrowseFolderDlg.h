@@ -33,17 +33,21 @@ protected:
     /// @param pszPath the folder's path; "" or "\" for the root
     void MakeTreeSegment(HTREEITEM hParent, LPCTSTR pszPath);
     /// Frees the paths of an item, the siblings after it and all that is below them. The items
-    /// stay, without their data being valid.
+    /// stay, with no data.
     void RemoveTreeItems(HTREEITEM hItem);
     /// Frees what belongs to the tree: the paths of its items and its images. Does nothing when
     /// that has happened already.
     void ResetMemory();
 
+    /// Ties the tree to its control.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Takes the selected folder over and ends the dialog.
     void OnOK() override;
+    /// Ends the dialog; the folder stays what it was.
     void OnCancel() override;
 
+    /// Frees the tree of a dialog that ends in neither way, as with its application.
     afx_msg void OnDestroy();
 
     DECLARE_MESSAGE_MAP()

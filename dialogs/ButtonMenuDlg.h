@@ -24,11 +24,17 @@ public:
     int GetMenuIndex() const;
 
 protected:
+    /// Nothing of its own.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Deletes the buttons and ends the dialog.
+    ///@{
     void OnOK() override;
     void OnCancel() override;
+    ///@}
 
+    /// Takes the entry of a tapped button over and ends the dialog with IDOK.
+    /// @param nID the button's control id
     afx_msg void OnBtnMenu(unsigned int nID);
 
     DECLARE_MESSAGE_MAP()

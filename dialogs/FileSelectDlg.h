@@ -16,6 +16,7 @@
 /// cannot be read has an empty list; nothing is reported.
 class FIELDKIT_API CFileSelectDlg : public CnDialog {
 public:
+    /// What the dialog is for: its title, and what OK and a tap on a file do.
     enum Mode : int {
         ModeOpen = 0, ///< OK ends the dialog, whatever the name is.
         ModeSave = 1, ///< OK asks before it ends with the name of an existing file.
@@ -41,7 +42,9 @@ public:
     ///   as their extension.
     void SetSubName(CString strSubName);
 
+    /// The folder set last, or chosen by the user since.
     CString GetFileFolder() const;
+    /// The extension as SetSubName was given it.
     CString GetSubName() const;
     /// The path of the name in the field, or after the dialog of the last one; empty if there is
     /// no name. While the dialog is open, a name without extension first gets one, in the field
@@ -54,15 +57,22 @@ protected:
     CString GetSafeName(CString strName);
     /// Fills the list with the folder's files, in the order of the file system.
     void SetCurrentFileToList();
+    /// Shows the extension below the list.
     void ShowSubName();
     /// Reads the name from the field, and adds the extension if it has none.
     void UpdateItems();
 
+    /// Ties list and folder button to their controls, and exchanges the name.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Ends the dialog; in ModeSave and ModeNew only after the user has agreed to overwrite an
+    /// existing file.
     void OnOK() override;
 
+    /// A tap on a file puts its name into the field; in ModeNew the next name that is free. A tap
+    /// beside the files changes nothing.
     afx_msg void OnClickLstFiles(NMHDR* pNMHDR, LRESULT* pResult);
+    /// Lets the user pick another folder. The name in the field stays.
     afx_msg void OnBtnFile();
 
     DECLARE_MESSAGE_MAP()
@@ -74,6 +84,7 @@ private:
     void ProposeName();
     CString WithExtension(const CString& strName) const;
     bool IsWanted(LPCTSTR pszFileName) const;
+    void AddFiles();
     void AddFile(int nItem, const WIN32_FIND_DATA& file);
     bool MayOverwrite();
 

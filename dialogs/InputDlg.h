@@ -10,10 +10,14 @@
 /// construction.
 class FIELDKIT_API CInputDlg : public CnDialog {
 public:
+    /// The question above the field and the title, each as a text or as the id of a string
+    /// resource. The owner is pParent; null is the application's main window.
+    ///@{
     CInputDlg(int nMessageId, int nCaptionId, CWnd* pParent);
     CInputDlg(const wchar_t* pszMessage, int nCaptionId, CWnd* pParent);
     CInputDlg(int nMessageId, const wchar_t* pszCaption, CWnd* pParent);
     CInputDlg(const wchar_t* pszMessage, const wchar_t* pszCaption, CWnd* pParent);
+    ///@}
 
     /// The text that the field shows at first. Call before DoModal.
     void SetString(CString str);
@@ -21,6 +25,7 @@ public:
     CString GetString() const;
 
 protected:
+    /// Exchanges the text of the field.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
 

@@ -15,26 +15,35 @@
 class FIELDKIT_API CResMsgBox {
 public:
     CResMsgBox();
+    /// An object has no state of its own; copies are equal.
+    ///@{
     CResMsgBox(const CResMsgBox&);
     CResMsgBox& operator=(const CResMsgBox&);
+    ///@}
     virtual ~CResMsgBox();
 
     /// @param nType MB_... values
     int MsgBox(unsigned int nTextId, unsigned int nCaptionId, unsigned int nType);
+    /// The same with texts in place of ids.
+    ///@{
     int MsgBox(const wchar_t* pszText, unsigned int nCaptionId, unsigned int nType);
     int MsgBox(unsigned int nTextId, const wchar_t* pszCaption, unsigned int nType);
     int MsgBox(const wchar_t* pszText, const wchar_t* pszCaption, unsigned int nType);
+    ///@}
 
     /// An error, to be confirmed with OK.
     int ErrorMsgBox(unsigned int nTextId);
+    /// The same with the text itself.
     int ErrorMsgBox(const wchar_t* pszText);
 
     /// A question with Yes and No.
     /// @return IDYES or IDNO
     int WarningMsgBox(unsigned int nTextId);
+    /// The same with the text itself.
     int WarningMsgBox(const wchar_t* pszText);
 
     /// A piece of information, to be confirmed with OK.
     int InformationMsgBox(unsigned int nTextId);
+    /// The same with the text itself.
     int InformationMsgBox(const wchar_t* pszText);
 };

@@ -33,14 +33,23 @@ public:
                                                   unsigned long dwData);
 
 protected:
+    /// Ties both lists to their controls.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Replaces the items of both lists by new ones, as the user left them, and ends the dialog.
     void OnOK() override;
 
+    /// Puts the selected member that can be added above the selected one in use, at the end if none
+    /// is selected.
     afx_msg void OnBtnAdd();
+    /// Puts the selected member in use back to the end of those that can be added; a blank just
+    /// goes.
     afx_msg void OnBtnDel();
+    /// Moves the selected member in use by one place and keeps it selected.
+    ///@{
     afx_msg void OnBtnUp();
     afx_msg void OnBtnDown();
+    ///@}
 
     DECLARE_MESSAGE_MAP()
 

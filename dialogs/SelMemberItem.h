@@ -13,8 +13,11 @@ public:
     static constexpr unsigned long BLANK = 2;
 
     CSelMemberItem();
+    /// Copies text and data.
+    ///@{
     CSelMemberItem(const CSelMemberItem& item);
     CSelMemberItem& operator=(const CSelMemberItem& item);
+    ///@}
     ~CSelMemberItem();
 
     unsigned long m_dwData = 0; ///< The caller's value, or BLANK.

@@ -12,6 +12,7 @@ public:
 
     CWnd* m_pMainWnd = nullptr;   ///< The program ends when it is destroyed.
     CWnd* m_pActiveWnd = nullptr; ///< Not used by the framework itself.
+    /// The system's number of the thread.
     DWORD m_nThreadID = 0;
     MSG m_msgCur = {}; ///< The message being pumped.
 
@@ -27,6 +28,8 @@ public:
     virtual BOOL PumpMessage();
     /// Called while the queue is empty. @return TRUE to be called again.
     virtual BOOL OnIdle(LONG lCount);
+    /// Whether OnIdle shall be called again after a message. Here: not after paint and timer
+    /// messages, nor after mouse moves on the spot.
     virtual BOOL IsIdleMessage(MSG* pMsg);
     /// An exception left a window procedure: tells the user and deletes it.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
@@ -36,33 +39,54 @@ public:
 class AFX_CORE CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
+    /// @param lpszAppName null for the name of the program's file
     explicit CWinApp(LPCTSTR lpszAppName = nullptr);
     ~CWinApp() override;
 
+    /// The program's module.
     HINSTANCE m_hInstance = nullptr;
     LPTSTR m_lpCmdLine = nullptr; ///< Without the program's own name; not owned.
+    /// How the main window shall be shown, as the program was told.
     int m_nCmdShow = SW_SHOWNORMAL;
     CString m_strAppName; ///< Caption of message boxes without one.
+    /// The name as the constructor was given it, or that of the program's file.
     LPCTSTR m_pszAppName = nullptr;
+    /// The application's name in the settings' key.
     LPCTSTR m_pszProfileName = nullptr;
 
+    /// Shows a message box with the application's name as its caption.
+    /// @param nIDPrompt not used
+    /// @return the button, IDOK and the like; 0 if the box could not be shown
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
 
+    /// An icon of the application or an extension module; not to be destroyed. Null if there is
+    /// none.
+    ///@{
     HICON LoadIcon(UINT nIDResource) const;
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    ///@}
+    /// An icon of the system, IDI_...
     HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
+    /// A cursor of the application or an extension module; not to be destroyed. Null if there is
+    /// none.
     HCURSOR LoadCursor(UINT nIDResource) const;
+    /// A cursor of the system, IDC_...
     HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
 
     /// Keeps the program's settings under Software\<key>\<application name> of the user.
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    /// Reads or writes one setting. What is missing or of another kind reads as the default;
+    /// writing gives FALSE on failure.
+    ///@{
     UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
     BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
     CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    ///@}
     /// A null entry deletes the section, a null value the entry.
     BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
     /// @param ppData receives memory that the caller frees with delete[]
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    /// Stores bytes, which are copied. @return FALSE on failure
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
     int Run() override;
@@ -80,27 +104,44 @@ public:
     ~CWaitCursor();
     CWaitCursor(const CWaitCursor&) = delete;
     CWaitCursor& operator=(const CWaitCursor&) = delete;
+    /// Shows the wait cursor again, after a message box for example.
     void Restore();
 };
 
+/// The calling thread's object; null in a thread that has none.
 AFX_CORE CWinThread* AFXAPI AfxGetThread();
+/// The application object; null in a program without one.
 AFX_CORE CWinApp* AFXAPI AfxGetApp();
 /// The active in-place or main window of the thread; null without one.
 AFX_CORE CWnd* AFXAPI AfxGetMainWnd();
+/// The program's module.
 AFX_CORE HINSTANCE AFXAPI AfxGetInstanceHandle();
+/// Where resources are searched first: the program's module unless AfxSetResourceHandle has changed
+/// it.
 AFX_CORE HINSTANCE AFXAPI AfxGetResourceHandle();
+/// Changes where resources are searched first.
 AFX_CORE void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
+/// The application's name, as CWinApp keeps it.
 AFX_CORE LPCTSTR AFXAPI AfxGetAppName();
 
 /// Prepares the framework in a program that has its own main function.
 AFX_CORE BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 /// What the program's entry point calls: InitInstance, Run, ExitInstance.
 AFX_CORE int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+/// Ends the calling thread's message loop.
 AFX_CORE void AFXAPI AfxPostQuitMessage(int nExitCode);
+/// Runs one message of the calling thread through its loop. @return FALSE on WM_QUIT
 AFX_CORE BOOL AFXAPI AfxPumpMessage();
 
+/// Shows a message box with the application's name as its caption, owned by the window that
+/// CWnd::GetSafeOwner gives.
+/// @param nType MB_... values
+/// @param nIDHelp not used
+/// @return the button, IDOK and the like; 0 if the box could not be shown
+///@{
 AFX_CORE int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 AFX_CORE int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
+///@}
 
 /// Registers a window class once. @return its name, which stays valid.
 /// @throw CResourceException* if the system refuses
@@ -111,7 +152,9 @@ AFX_CORE LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = 
 
 /// State of a DLL that extends the framework: a static object of the DLL.
 struct AFX_EXTENSION_MODULE {
+    /// Set by AfxInitExtensionModule.
     BOOL bInitialized = FALSE;
+    /// The DLL.
     HMODULE hModule = nullptr;
     HMODULE hResource = nullptr; ///< Where its resources are; set to hModule by the start.
 };
@@ -127,11 +170,17 @@ AFX_CORE void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bA
 class AFX_CORE CDynLinkLibrary : public CObject {
     DECLARE_DYNAMIC(CDynLinkLibrary)
 public:
+    /// Links the module into the chain.
+    /// @param state a module that AfxInitExtensionModule has prepared
+    /// @param bSystem kept, not used
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     ~CDynLinkLibrary() override;
 
+    /// The DLL.
     HMODULE m_hModule;
+    /// Where its resources are.
     HMODULE m_hResource;
+    /// As the constructor was given it.
     BOOL m_bSystem;
 
 private:

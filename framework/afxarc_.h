@@ -15,6 +15,7 @@
 /// throws its own CFileException*.
 class AFX_CORE CArchive {
 public:
+    /// Combined with |: store or load, and the rest as wanted. bNoByteSwap has no effect.
     enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
 
     /// @param pFile an open file, which stays the caller's and must outlive the archive.
@@ -29,12 +30,18 @@ public:
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
 
+    /// Which way the archive goes.
+    ///@{
     BOOL IsLoading() const { return (m_nMode & load) != 0 ? TRUE : FALSE; }
     BOOL IsStoring() const { return (m_nMode & load) == 0 ? TRUE : FALSE; }
+    ///@}
+    /// The file, which is not owned.
     CFile* GetFile() const { return m_pFile; }
 
     /// Loads up to `nMax` bytes. @return the bytes loaded, fewer only at the end of the file.
     UINT Read(void* lpBuf, UINT nMax);
+    /// Stores `nMax` bytes as they are. Throws CArchiveException* (readOnly) on an archive for
+    /// loading.
     void Write(const void* lpBuf, UINT nMax);
     /// Storing: writes the buffer out. Loading: sets the file back to the first byte not used.
     void Flush();
@@ -45,6 +52,7 @@ public:
 
     /// Stores a count in 2 bytes, or from 0xFFFF on in 6.
     void WriteCount(DWORD_PTR dwCount);
+    /// Loads what WriteCount stored.
     DWORD_PTR ReadCount();
 
     /// Stores an object with its class, or a reference if it was stored before; NULL too.
@@ -53,6 +61,7 @@ public:
     /// @param pClass the class that the object must be of, or be derived from; NULL for any.
     /// @return a new object owned by the caller, or one that this archive returned before.
     CObject* ReadObject(const CRuntimeClass* pClass);
+    /// Stores a class: its name and schema number, or a reference if it was stored before.
     void WriteClass(const CRuntimeClass* pClassRef);
     /// @param pSchema receives the schema number; if NULL, GetObjectSchema returns it.
     /// @param pObTag receives the tag; NULL if only a class may come, no object reference.
@@ -65,9 +74,12 @@ public:
     void MapObject(const CObject* pOb);
     /// The schema number of the object being loaded, once for each Serialize; then -1.
     UINT GetObjectSchema();
+    /// Sets what GetObjectSchema returns next.
     void SetObjectSchema(UINT nSchema) { m_nObjectSchema = nSchema; }
 
     // int and LONG are 4 bytes, bool 1, wchar_t 2.
+    /// Stores or loads one number, little-endian, in the width of its type.
+    ///@{
     CArchive& operator<<(BYTE by);
     CArchive& operator<<(char ch);
     CArchive& operator<<(bool b);
@@ -92,12 +104,16 @@ public:
     CArchive& operator>>(double& d);
     CArchive& operator>>(LONGLONG& dwdw);
     CArchive& operator>>(ULONGLONG& dwdw);
+    ///@}
 #ifdef _WIN32
     // Types of their own there; elsewhere they are int and unsigned.
+    /// The same for the types that are types of their own on Windows.
+    ///@{
     CArchive& operator<<(LONG l);
     CArchive& operator<<(DWORD dw);
     CArchive& operator>>(LONG& l);
     CArchive& operator>>(DWORD& dw);
+    ///@}
 #endif
     /// A literal would otherwise be stored as a bool: make it a CString.
     CArchive& operator<<(const void*) = delete;
@@ -138,8 +154,12 @@ private:
     std::shared_ptr<ObjectTable> m_pObjects; // shared only because the type is incomplete here
 };
 
+/// Stores the text with its length.
 AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CString& string);
 /// Loads wide and narrow text. Throws badIndex for a length that no string can have.
 AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CString& string);
+/// WriteObject and ReadObject as operators.
+///@{
 AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);
 AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CObject*& pOb);
+///@}

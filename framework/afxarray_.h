@@ -16,8 +16,11 @@ class CArray : public CObject {
 public:
     CArray() = default;
 
+    /// The number of elements.
     INT_PTR GetSize() const { return m_nSize; }
+    /// See GetSize.
     INT_PTR GetCount() const { return m_nSize; }
+    /// Whether there is no element.
     BOOL IsEmpty() const { return m_nSize == 0 ? TRUE : FALSE; }
     /// The last valid index; -1 for an empty array.
     INT_PTR GetUpperBound() const { return m_nSize - 1; }
@@ -27,28 +30,41 @@ public:
     void SetSize(INT_PTR nNewSize, INT_PTR nGrowBy = -1);
     /// Gives back the memory beyond the last element.
     void FreeExtra() { Reallocate(m_nSize); }
+    /// Removes all elements and frees the memory.
     void RemoveAll() { SetSize(0); }
 
+    /// The element at an index, from 0.
     const TYPE& GetAt(INT_PTR nIndex) const { return m_pData[Check(nIndex)]; }
+    /// The element at an index, from 0.
     TYPE& GetAt(INT_PTR nIndex) { return m_pData[Check(nIndex)]; }
+    /// The element at an index, from 0.
     TYPE& ElementAt(INT_PTR nIndex) { return GetAt(nIndex); }
+    /// The element at an index, from 0.
     const TYPE& ElementAt(INT_PTR nIndex) const { return GetAt(nIndex); }
+    /// The element at an index, from 0.
     const TYPE& operator[](INT_PTR nIndex) const { return GetAt(nIndex); }
+    /// The element at an index, from 0.
     TYPE& operator[](INT_PTR nIndex) { return GetAt(nIndex); }
+    /// Replaces the element at an index.
     void SetAt(INT_PTR nIndex, ARG_TYPE newElement) { GetAt(nIndex) = newElement; }
     /// NULL while nothing is allocated.
     const TYPE* GetData() const { return m_pData.get(); }
+    /// @copydoc GetData() const
     TYPE* GetData() { return m_pData.get(); }
 
+    /// Replaces the element at an index, or grows the array up to it.
     void SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement);
     /// @return the index of the new element.
     INT_PTR Add(ARG_TYPE newElement);
     /// @return the index of the first appended element.
     INT_PTR Append(const CArray& src);
+    /// Replaces the content by copies of the other array's elements.
     void Copy(const CArray& src);
     /// Behind the end the array grows up to the index first.
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount = 1);
+    /// Inserts copies of the elements of another array.
     void InsertAt(INT_PTR nStartIndex, const CArray* pNewArray);
+    /// Removes `nCount` elements from an index on.
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1);
 
     /// The count, then the elements by SerializeElements. Loading replaces the content.

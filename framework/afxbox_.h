@@ -7,10 +7,13 @@ class AFX_CORE CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)
 public:
     CListBox() = default;
+    /// Creates the control as a child. @return FALSE if the system refuses
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
 
     // --- Items -----------------------------------------------------------------------
+    /// The LB_... message of the same name, with its result.
+    ///@{
     int GetCount() const { return AfxSendInt(m_hWnd, LB_GETCOUNT); }
     int AddString(LPCTSTR lpszItem) { return AfxSendPointer(m_hWnd, LB_ADDSTRING, 0, lpszItem); }
     /// @param nIndex -1 adds at the end, in a sorted list too
@@ -43,23 +46,33 @@ public:
     int SetItemDataPtr(int nIndex, void* pData) {
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
+    ///@}
     /// Finds by the beginning of the text, ignoring case.
     /// @param nStartAfter search goes on behind this item and around; -1 from the top
     int FindString(int nStartAfter, LPCTSTR lpszItem) const {
         return AfxSendPointer(m_hWnd, LB_FINDSTRING, static_cast<WPARAM>(nStartAfter), lpszItem);
     }
+    /// Finds an equal text, ignoring case.
+    /// @param nIndexStart search goes on behind this item and around; -1 from the top
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const {
         return AfxSendPointer(m_hWnd, LB_FINDSTRINGEXACT, static_cast<WPARAM>(nIndexStart), lpszFind);
     }
 
     // --- Selection: single ---------------------------------------------------------------
+    /// The selected item; LB_ERR for none. SelectString selects the first item that begins with the
+    /// text, as FindString finds it.
+    ///@{
     int GetCurSel() const { return AfxSendInt(m_hWnd, LB_GETCURSEL); }
     int SetCurSel(int nSelect) { return AfxSendInt(m_hWnd, LB_SETCURSEL, static_cast<WPARAM>(nSelect)); }
     int SelectString(int nStartAfter, LPCTSTR lpszItem) {
         return AfxSendPointer(m_hWnd, LB_SELECTSTRING, static_cast<WPARAM>(nStartAfter), lpszItem);
     }
+    ///@}
 
     // --- Selection: multiple -------------------------------------------------------------
+    /// The LB_... message of the same name, with its result. All of them are for list boxes with
+    /// multiple selection.
+    ///@{
     int GetSel(int nIndex) const { return AfxSendInt(m_hWnd, LB_GETSEL, static_cast<WPARAM>(nIndex)); }
     int SetSel(int nIndex, BOOL bSelect = TRUE) {
         return AfxSendInt(m_hWnd, LB_SETSEL, static_cast<WPARAM>(bSelect), nIndex);
@@ -77,8 +90,11 @@ public:
     int SetCaretIndex(int nIndex, BOOL bScroll = TRUE) {
         return AfxSendInt(m_hWnd, LB_SETCARETINDEX, static_cast<WPARAM>(nIndex), MAKELPARAM(bScroll, 0));
     }
+    ///@}
 
     // --- Layout --------------------------------------------------------------------------
+    /// The LB_... message of the same name, with its result; measures are pixels.
+    ///@{
     int GetTopIndex() const { return AfxSendInt(m_hWnd, LB_GETTOPINDEX); }
     int SetTopIndex(int nIndex) { return AfxSendInt(m_hWnd, LB_SETTOPINDEX, static_cast<WPARAM>(nIndex)); }
     /// Width in pixels that can be scrolled to.
@@ -96,28 +112,38 @@ public:
     int SetItemHeight(int nIndex, UINT cyItemHeight) {
         return AfxSendInt(m_hWnd, LB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0));
     }
+    ///@}
     /// @param pt client coordinates @return the nearest item
     UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
     /// Tab stops in dialog units: the default, one distance for all, or each.
     void SetTabStops() { AfxSendPointer(m_hWnd, LB_SETTABSTOPS, 0, nullptr); }
+    /// See SetTabStops(). @return FALSE on failure
+    ///@{
     BOOL SetTabStops(const int& cxEachStop) { return AfxSendPointer(m_hWnd, LB_SETTABSTOPS, 1, &cxEachStop); }
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops) {
         return AfxSendPointer(m_hWnd, LB_SETTABSTOPS, static_cast<WPARAM>(nTabStops), rgTabStops);
     }
+    ///@}
     /// Locale of the sort order.
     LCID GetLocale() const { return static_cast<LCID>(AfxSendInt(m_hWnd, LB_GETLOCALE)); }
+    /// Sets the locale of the sort order. @return the previous one, LB_ERR on failure
     LCID SetLocale(LCID nNewLocale) {
         return static_cast<LCID>(AfxSendInt(m_hWnd, LB_SETLOCALE, nNewLocale));
     }
 
     // --- Owner draw: override ---------------------------------------------------------------
+    /// Draws an item, or tells its size, in an owner-drawn list box.
+    ///@{
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    ///@}
     /// @return -1, 0 or 1 as item 1 stands before, with or behind item 2
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    /// An item is deleted: free what belongs to its data.
     virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
     /// For LBS_WANTKEYBOARDINPUT. @return -1 default action, -2 none, else an item for it
     virtual int VKeyToItem(UINT nKey, UINT nIndex);
+    /// The same for a character.
     virtual int CharToItem(UINT nKey, UINT nIndex);
 
 protected:
@@ -129,10 +155,13 @@ class AFX_CORE CComboBox : public CWnd {
     DECLARE_DYNAMIC(CComboBox)
 public:
     CComboBox() = default;
+    /// Creates the control as a child. @return FALSE if the system refuses
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
 
     // --- Items -----------------------------------------------------------------------
+    /// The CB_... message of the same name, with its result.
+    ///@{
     int GetCount() const { return AfxSendInt(m_hWnd, CB_GETCOUNT); }
     int AddString(LPCTSTR lpszString) { return AfxSendPointer(m_hWnd, CB_ADDSTRING, 0, lpszString); }
     /// @param nIndex -1 adds at the end, in a sorted list too
@@ -165,19 +194,25 @@ public:
     int SetItemDataPtr(int nIndex, void* pData) {
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
+    ///@}
     /// Finds by the beginning of the text, ignoring case.
     /// @param nStartAfter search goes on behind this item and around; -1 from the top
     int FindString(int nStartAfter, LPCTSTR lpszString) const {
         return AfxSendPointer(m_hWnd, CB_FINDSTRING, static_cast<WPARAM>(nStartAfter), lpszString);
     }
+    /// Finds an equal text, ignoring case.
+    /// @param nIndexStart search goes on behind this item and around; -1 from the top
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const {
         return AfxSendPointer(m_hWnd, CB_FINDSTRINGEXACT, static_cast<WPARAM>(nIndexStart), lpszFind);
     }
 
     // --- Selection -----------------------------------------------------------------------
+    /// The selected item; CB_ERR for none.
     int GetCurSel() const { return AfxSendInt(m_hWnd, CB_GETCURSEL); }
     /// @param nSelect -1 takes the selection away and empties the edit part
     int SetCurSel(int nSelect) { return AfxSendInt(m_hWnd, CB_SETCURSEL, static_cast<WPARAM>(nSelect)); }
+    /// Selects the first item that begins with the text, as FindString finds it. @return the item,
+    /// CB_ERR for none
     int SelectString(int nStartAfter, LPCTSTR lpszString) {
         return AfxSendPointer(m_hWnd, CB_SELECTSTRING, static_cast<WPARAM>(nStartAfter), lpszString);
     }
@@ -185,6 +220,9 @@ public:
     // --- Edit part -----------------------------------------------------------------------
     /// @return start in the low word, end in the high word
     DWORD GetEditSel() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, CB_GETEDITSEL)); }
+    /// Acts on the edit part as on an entry field of its own. nMaxChars 0 is the system's own
+    /// limit.
+    ///@{
     BOOL SetEditSel(int nStartChar, int nEndChar) {
         return AfxSendInt(m_hWnd, CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar));
     }
@@ -193,8 +231,11 @@ public:
     void Copy() { AfxSendInt(m_hWnd, WM_COPY); }
     void Paste() { AfxSendInt(m_hWnd, WM_PASTE); }
     void Clear() { AfxSendInt(m_hWnd, WM_CLEAR); }
+    ///@}
 
     // --- Drop-down list --------------------------------------------------------------------
+    /// The CB_... message of the same name, with its result; measures are pixels.
+    ///@{
     void ShowDropDown(BOOL bShowIt = TRUE) {
         AfxSendInt(m_hWnd, CB_SHOWDROPDOWN, static_cast<WPARAM>(bShowIt));
     }
@@ -221,18 +262,24 @@ public:
         return AfxSendInt(m_hWnd, CB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0));
     }
     /// Windows and places of the parts; cbSize is set here.
+    ///@}
     BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const;
     /// Locale of the sort order.
     LCID GetLocale() const { return static_cast<LCID>(AfxSendInt(m_hWnd, CB_GETLOCALE)); }
+    /// Sets the locale of the sort order. @return the previous one, CB_ERR on failure
     LCID SetLocale(LCID nNewLocale) {
         return static_cast<LCID>(AfxSendInt(m_hWnd, CB_SETLOCALE, nNewLocale));
     }
 
     // --- Owner draw: override ---------------------------------------------------------------
+    /// Draws an item, or tells its size, in an owner-drawn combo box.
+    ///@{
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    ///@}
     /// @return -1, 0 or 1 as item 1 stands before, with or behind item 2
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    /// An item is deleted: free what belongs to its data.
     virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
 
 protected:

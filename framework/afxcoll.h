@@ -9,6 +9,7 @@
 class AFX_CORE CStringList : public CList<CString, const CString&> {
     DECLARE_SERIAL(CStringList)
 public:
+    /// @copydoc CList::CList
     explicit CStringList(INT_PTR nBlockSize = 10) : CList(nBlockSize) {}
 };
 
@@ -16,6 +17,7 @@ public:
 class AFX_CORE CPtrList : public CList<void*, void*> {
     DECLARE_DYNAMIC(CPtrList)
 public:
+    /// @copydoc CList::CList
     explicit CPtrList(INT_PTR nBlockSize = 10) : CList(nBlockSize) {}
     /// Nothing: pointers mean nothing in a file.
     void Serialize(CArchive& /*ar*/) override {}

@@ -12,10 +12,11 @@
 /// One run of data exchange.
 class AFX_CORE CDataExchange {
 public:
+    /// @param bSaveAndValidate TRUE: from the controls to the members
     CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);
 
-    BOOL m_bSaveAndValidate; ///< TRUE: from the controls to the members.
-    CWnd* m_pDlgWnd;
+    BOOL m_bSaveAndValidate;         ///< TRUE: from the controls to the members.
+    CWnd* m_pDlgWnd;                 ///< The dialog.
     UINT m_idLastControl = 0;        ///< The control prepared last; Fail goes back to it.
     BOOL m_bEditLastControl = FALSE; ///< It holds text, which Fail selects.
 
@@ -34,6 +35,8 @@ AFX_CORE void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 /// Text and numbers of an edit control. Numbers are decimal, with a point in any locale;
 /// blanks around them are ignored. Writing to the control leaves an equal text alone.
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
+/// @copydoc DDX_Text(CDataExchange*,int,CString&)
+///@{
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
@@ -42,6 +45,7 @@ AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value);
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 AFX_CORE void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
+///@}
 
 /// A check box: 0 off, 1 on, 2 undecided; any other value shows as 0.
 AFX_CORE void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
@@ -51,6 +55,7 @@ AFX_CORE void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
 AFX_CORE void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 /// The selected item of a list or combo box; -1 for none.
 AFX_CORE void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
+/// See DDX_LBIndex.
 AFX_CORE void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
 /// The text of the selected item; empty for none. To the control: selects the first item
 /// that begins with the text; if there is none, the selection stays.
@@ -64,8 +69,11 @@ AFX_CORE void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
 AFX_CORE void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);
 /// Ranges, both ends allowed. Only what comes from the control is checked.
 AFX_CORE void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
+/// See DDV_MinMaxInt.
+///@{
 AFX_CORE void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
 AFX_CORE void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
 AFX_CORE void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 AFX_CORE void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal);
 AFX_CORE void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal);
+///@}

@@ -17,10 +17,13 @@ class CPropertySheet;
 constexpr UINT AFX_IDC_TAB_CONTROL = 0x3020;
 
 // Identifiers of a sheet's buttons; OK and Cancel are IDOK and IDCANCEL.
+/// Identifiers of a sheet's further buttons.
+///@{
 constexpr UINT ID_APPLY_NOW = 0x3021;
 constexpr UINT ID_WIZBACK = 0x3023;
 constexpr UINT ID_WIZNEXT = 0x3024;
 constexpr UINT ID_WIZFINISH = 0x3025;
+///@}
 
 /// One page of a property sheet: a dialog from a template, made when it is first shown.
 ///
@@ -31,6 +34,7 @@ class AFX_CORE CPropertyPage : public CDialog {
 public:
     /// @param nIDCaption string for the tab; 0 for the template's title
     explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0);
+    /// The same with the template's name.
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
     ~CPropertyPage() override;
 
@@ -61,13 +65,16 @@ public:
     virtual BOOL OnApply();
     /// Cancel: the changes are dropped. Here: calls OnCancel.
     virtual void OnReset();
+    /// Called by OnApply. Here: nothing.
     void OnOK() override;
+    /// Called by OnReset. Here: nothing.
     void OnCancel() override;
     /// Cancel has been pressed and nothing is dropped yet. @return FALSE to keep the sheet open
     virtual BOOL OnQueryCancel();
     /// The buttons of a wizard. @return 0 for the neighbouring page, -1 to stay, or the
     ///   template identifier of the page to go to
     virtual LRESULT OnWizardBack();
+    /// See OnWizardBack.
     virtual LRESULT OnWizardNext();
     /// @return FALSE to stay
     virtual BOOL OnWizardFinish();
@@ -78,7 +85,9 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     void PostNcDestroy() override;
 
+    /// Runs the page's OnInitDialog.
     afx_msg LRESULT OnInitPage(WPARAM wParam, LPARAM lParam);
+    /// Keeps the page in the sheet's area for pages.
     afx_msg LRESULT OnWindowPosChanging(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
@@ -112,6 +121,7 @@ public:
     /// @param pParentWnd  owner; the main window for null
     /// @param iSelectPage the page shown first
     explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    /// The same with the title as a text.
     explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     ~CPropertySheet() override;
 
@@ -130,8 +140,12 @@ public:
     // --- Pages, counted from 0 -----------------------------------------------------------
     /// Adds a page at the end, also while the sheet is shown.
     void AddPage(CPropertyPage* pPage);
+    /// Takes a page out of the sheet; the page itself stays. A page that is not there is ignored.
+    ///@{
     void RemovePage(CPropertyPage* pPage);
     void RemovePage(int nPage);
+    ///@}
+    /// The number of pages.
     int GetPageCount() const { return static_cast<int>(m_pages.size()); }
     /// Null if there is no such page.
     CPropertyPage* GetPage(int nPage) const;
@@ -139,9 +153,11 @@ public:
     int GetPageIndex(CPropertyPage* pPage) const;
     /// The page shown; before there is a window, the one that will be shown first.
     int GetActiveIndex() const;
+    /// The page shown; null in a sheet without pages.
     CPropertyPage* GetActivePage() const;
     /// The page shown may refuse to be left (OnKillActive).
     BOOL SetActivePage(int nPage);
+    /// The same with the page itself; FALSE if it is not in the sheet.
     BOOL SetActivePage(CPropertyPage* pPage);
 
     // --- Looks and buttons -----------------------------------------------------------------
@@ -169,17 +185,23 @@ public:
                                    ///< had to make one, else null. Owned by the sheet.
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override;
     BOOL ContinueModal() override;
 
 protected:
+    /// The owner that the sheet was constructed with.
     CWnd* m_pParentWnd = nullptr;
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 
+    /// Runs OnInitDialog.
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    /// Presses a button on behalf of PressButton.
     afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
+    /// Cancels the sheet.
     afx_msg void OnClose();
+    /// Lays tabs and pages out anew in a full-screen sheet.
     afx_msg void OnSize(UINT nType, int cx, int cy);
 
     DECLARE_MESSAGE_MAP()

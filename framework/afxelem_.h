@@ -9,6 +9,7 @@
 #include <type_traits>
 
 template <class TYPE, class ARG_TYPE>
+/// Whether two elements are equal, by their ==.
 BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pElement2) {
     return *pElement1 == *pElement2 ? TRUE : FALSE;
 }

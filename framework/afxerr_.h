@@ -31,6 +31,7 @@ class AFX_CORE CSimpleException : public CException {
     DECLARE_DYNAMIC(CSimpleException)
 public:
     CSimpleException() = default;
+    /// @copydoc CException(BOOL)
     explicit CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete) {}
 };
 
@@ -39,6 +40,7 @@ class AFX_CORE CMemoryException : public CSimpleException {
     DECLARE_DYNAMIC(CMemoryException)
 public:
     CMemoryException() = default;
+    /// @copydoc CException(BOOL)
     explicit CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const override;
 };
@@ -48,6 +50,7 @@ class AFX_CORE CNotSupportedException : public CSimpleException {
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
     CNotSupportedException() = default;
+    /// @copydoc CException(BOOL)
     explicit CNotSupportedException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const override;
 };
@@ -57,6 +60,7 @@ class AFX_CORE CResourceException : public CSimpleException {
     DECLARE_DYNAMIC(CResourceException)
 public:
     CResourceException() = default;
+    /// @copydoc CException(BOOL)
     explicit CResourceException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const override;
 };
@@ -66,6 +70,7 @@ class AFX_CORE CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
 public:
     CUserException() = default;
+    /// @copydoc CException(BOOL)
     explicit CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 };
 
@@ -74,6 +79,7 @@ class AFX_CORE CInvalidArgException : public CSimpleException {
     DECLARE_DYNAMIC(CInvalidArgException)
 public:
     CInvalidArgException() = default;
+    /// @copydoc CException(BOOL)
     explicit CInvalidArgException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const override;
 };
@@ -100,6 +106,8 @@ public:
         endOfFile
     };
 
+    /// @param lOsError the system's error number; -1 if there is none
+    /// @param lpszArchiveName the file's name; copied
     explicit CFileException(int cause = none, LONG lOsError = -1, LPCTSTR lpszArchiveName = nullptr)
         : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszArchiveName) {}
 
@@ -109,9 +117,9 @@ public:
     /// Throws for a system error; returns if `lOsError` is 0.
     static void AFXAPI ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = nullptr);
 
-    int m_cause;
-    LONG m_lOsError; ///< -1 if the system reported none
-    CString m_strFileName;
+    int m_cause;           ///< The kind of failure, one of the enumeration.
+    LONG m_lOsError;       ///< -1 if the system reported none
+    CString m_strFileName; ///< The file's name, if it is known.
 };
 
 /// An archive could not be read or written.
@@ -130,16 +138,20 @@ public:
         bufferFull
     };
 
+    /// @param lpszArchiveName the file's name; copied
     explicit CArchiveException(int cause = none, LPCTSTR lpszArchiveName = nullptr)
         : m_cause(cause), m_strFileName(lpszArchiveName) {}
 
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const override;
 
-    int m_cause;
-    CString m_strFileName;
+    int m_cause;           ///< The kind of failure, one of the enumeration.
+    CString m_strFileName; ///< The file's name, if it is known.
 };
 
 // The first five throw objects that exist from the start and so need no memory.
+/// Throw the exception of their name. Those without arguments throw objects that exist from the
+/// start, so they need no memory.
+///@{
 [[noreturn]] AFX_CORE void AFXAPI AfxThrowMemoryException();
 [[noreturn]] AFX_CORE void AFXAPI AfxThrowNotSupportedException();
 [[noreturn]] AFX_CORE void AFXAPI AfxThrowResourceException();
@@ -148,3 +160,5 @@ public:
 [[noreturn]] AFX_CORE void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
                                                         LPCTSTR lpszFileName = nullptr);
 [[noreturn]] AFX_CORE void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName = nullptr);
+
+///@}

@@ -31,6 +31,7 @@ public:
     BOOL IsSipSwitchAt(CPoint screenPoint) const;
 
 protected:
+    /// Frees menu and pictures of the bar.
     afx_msg void OnDestroy();
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     DECLARE_MESSAGE_MAP()
@@ -80,6 +81,7 @@ AFX_CORE BOOL AFXAPI SipShowIM(DWORD dwFlag);
 
 /// What the framework asks of a soft input panel. All of it is for the calling thread's panel.
 struct AFX_SIP_HANDLER {
+    /// Shows or hides the panel.
     void(AFXAPI* pfnShow)(BOOL bShow);
     /// @param lpRect receives the panel's place on the screen if it is shown
     /// @return TRUE if it is shown

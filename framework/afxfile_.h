@@ -32,9 +32,10 @@ public:
         osRandomAccess = 0x40000,
         osSequentialScan = 0x80000
     };
+    /// What Seek counts from.
     enum SeekPosition { begin = 0, current = 1, end = 2 };
 
-    static const HANDLE hFileNull;
+    static const HANDLE hFileNull; ///< Stands for no file.
 
     CFile() = default;
     /// Works on an open handle, which stays the caller's: the destructor does not close it.
@@ -44,13 +45,18 @@ public:
     /// Closes the file if Open opened it.
     ~CFile() override;
 
+    /// The open file's handle, or hFileNull.
     operator HANDLE() const { return m_hFile; }
 
+    /// The position from the beginning in bytes.
     virtual ULONGLONG GetPosition() const;
+    /// The name with extension, without folder.
     virtual CString GetFileName() const;
     /// The file name without its extension.
     virtual CString GetFileTitle() const;
+    /// The path that the file was opened with; empty for a handle of the caller's.
     virtual CString GetFilePath() const { return m_strFileName; }
+    /// Changes only what GetFilePath says.
     virtual void SetFilePath(LPCTSTR lpszNewName) { m_strFileName = lpszNewName; }
     /// Opens a file; one that is open already is closed first.
     /// @param pError receives cause, system error and name of a failure; throws nothing.
@@ -63,13 +69,18 @@ public:
     virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
     /// Cuts or extends the file; the position moves to its new end.
     virtual void SetLength(ULONGLONG dwNewLen);
+    /// The file's length in bytes.
     virtual ULONGLONG GetLength() const;
     /// @return the bytes read: fewer than `nCount` only at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
     /// Writes all of it, or throws (diskFull if the system took less).
     virtual void Write(const void* lpBuf, UINT nCount);
+    /// Locks a range of bytes against other users of the file, or releases one; for a locked range
+    /// of others lockViolation is thrown.
+    ///@{
     virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
     virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    ///@}
     /// Closes without regard to errors; throws nothing.
     virtual void Abort();
     /// Hands everything to the disk. Does nothing on a file that is not open.
@@ -77,17 +88,22 @@ public:
     /// Closes the file. Does nothing on a file that is not open.
     virtual void Close();
 
+    /// Moves to the end. @return the length in bytes
     ULONGLONG SeekToEnd() { return Seek(0, end); }
+    /// Moves to the beginning.
     void SeekToBegin() { Seek(0, begin); }
 
+    /// Renames or deletes a file. Throws CFileException* if that fails.
+    ///@{
     static void AFXAPI Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
     static void AFXAPI Remove(LPCTSTR lpszFileName);
+    ///@}
 
-    HANDLE m_hFile = hFileNull;
+    HANDLE m_hFile = hFileNull; ///< The open file, or hFileNull.
 
 protected:
-    BOOL m_bCloseOnDelete = FALSE;
-    CString m_strFileName;
+    BOOL m_bCloseOnDelete = FALSE; ///< Whether the destructor closes the file.
+    CString m_strFileName;         ///< What GetFilePath says.
 };
 
 /// A file in memory, which grows as it is written.
@@ -115,24 +131,30 @@ public:
     ULONGLONG GetLength() const override;
     UINT Read(void* lpBuf, UINT nCount) override;
     void Write(const void* lpBuf, UINT nCount) override;
+    /// Not supported: throws CNotSupportedException*.
+    ///@{
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    ///@}
     void Abort() override;
     void Flush() override;
     void Close() override;
 
 protected:
+    /// The memory's management, malloc and its like here. Derived classes override all four.
+    ///@{
     virtual BYTE* Alloc(std::size_t nBytes);
     virtual BYTE* Realloc(BYTE* lpMem, std::size_t nBytes);
     virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, std::size_t nBytes);
     virtual void Free(BYTE* lpMem);
+    ///@}
     /// Makes room for that many bytes; throws CMemoryException* if there is none.
     virtual void GrowFile(std::size_t dwNewLen);
 
-    std::size_t m_nGrowBytes = 0;
-    std::size_t m_nPosition = 0;
-    std::size_t m_nBufferSize = 0;
-    std::size_t m_nFileSize = 0;
-    BYTE* m_lpBuffer = nullptr;
-    BOOL m_bAutoDelete = TRUE;
+    std::size_t m_nGrowBytes = 0;  ///< Step of growth in bytes; 0: cannot grow.
+    std::size_t m_nPosition = 0;   ///< From the beginning, bytes.
+    std::size_t m_nBufferSize = 0; ///< Size of the memory, bytes.
+    std::size_t m_nFileSize = 0;   ///< Length of the file, bytes.
+    BYTE* m_lpBuffer = nullptr;    ///< The memory, or null.
+    BOOL m_bAutoDelete = TRUE;     ///< Whether the destructor frees the memory.
 };

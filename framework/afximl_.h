@@ -18,9 +18,11 @@ public:
 
     HIMAGELIST m_hImageList = nullptr; ///< The system's list, or null.
 
+    /// The handle, or null.
     operator HIMAGELIST() const { return m_hImageList; }
     /// The handle; null also for a null object.
     HIMAGELIST GetSafeHandle() const;
+    /// The object of a list, a temporary one if nobody owns it; null for null.
     static CImageList* FromHandle(HIMAGELIST hImageList);
     /// The owner of a list, or null.
     static CImageList* FromHandlePermanent(HIMAGELIST hImageList);
@@ -43,6 +45,7 @@ public:
     /// @param cx     width of each image; the height is the bitmap's
     /// @param crMask the colour that is transparent
     BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
+    /// The same with the bitmap's name.
     BOOL Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask);
     /// A copy of another list.
     BOOL Create(CImageList* pImageList);
@@ -50,6 +53,7 @@ public:
     BOOL DeleteImageList();
 
     // --- Images, counted from 0; -1 stands for failure ----------------------------------
+    /// The number of images.
     int GetImageCount() const { return ::ImageList_GetImageCount(m_hImageList); }
     /// The new images at the end are undefined.
     BOOL SetImageCount(UINT uNewCount) { return ::ImageList_SetImageCount(m_hImageList, uNewCount); }
@@ -60,7 +64,9 @@ public:
     int Add(CBitmap* pbmImage, COLORREF crMask);
     /// The icon is copied and stays the caller's.
     int Add(HICON hIcon) { return Replace(-1, hIcon); }
+    /// Removes an image, or all for -1. @return FALSE on failure
     BOOL Remove(int nImage) { return ::ImageList_Remove(m_hImageList, nImage); }
+    /// Replaces an image. @param pbmMask may be null @return FALSE on failure
     BOOL Replace(int nImage, CBitmap* pbmImage, CBitmap* pbmMask);
     /// @param nImage -1 adds a new image @return the image
     int Replace(int nImage, HICON hIcon) { return ::ImageList_ReplaceIcon(m_hImageList, nImage, hIcon); }
@@ -81,6 +87,7 @@ public:
     /// @param cr what masked images are drawn on; CLR_NONE is transparent
     /// @return the previous colour
     COLORREF SetBkColor(COLORREF cr) { return ::ImageList_SetBkColor(m_hImageList, cr); }
+    /// What masked images are drawn on; CLR_NONE is transparent.
     COLORREF GetBkColor() const { return ::ImageList_GetBkColor(m_hImageList); }
 
 private:

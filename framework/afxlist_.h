@@ -13,35 +13,55 @@ public:
     explicit CList(INT_PTR /*nBlockSize*/ = 10) {}
     ~CList() override { RemoveAll(); }
 
+    /// The number of elements.
     INT_PTR GetCount() const { return m_nCount; }
+    /// See GetCount.
     INT_PTR GetSize() const { return m_nCount; }
+    /// Whether there is no element.
     BOOL IsEmpty() const { return m_nCount == 0 ? TRUE : FALSE; }
 
+    /// The first element.
     TYPE& GetHead() { return Node(m_pHead).data; }
+    /// The first element.
     const TYPE& GetHead() const { return Node(m_pHead).data; }
+    /// The last element.
     TYPE& GetTail() { return Node(m_pTail).data; }
+    /// The last element.
     const TYPE& GetTail() const { return Node(m_pTail).data; }
+    /// Removes the first element and returns it.
     TYPE RemoveHead() { return Take(m_pHead); }
+    /// Removes the last element and returns it.
     TYPE RemoveTail() { return Take(m_pTail); }
+    /// Adds an element in front. @return its position
     POSITION AddHead(ARG_TYPE newElement) { return Link(nullptr, newElement, m_pHead); }
+    /// Adds an element at the end. @return its position
     POSITION AddTail(ARG_TYPE newElement) { return Link(m_pTail, newElement, nullptr); }
     /// Puts copies of the other list's elements in front, in the same order.
     void AddHead(const CList* pNewList);
     /// Puts copies of the other list's elements at the end, in the same order.
     void AddTail(const CList* pNewList);
+    /// Removes all elements.
     void RemoveAll();
 
     /// NULL for an empty list.
     POSITION GetHeadPosition() const { return ToPosition(m_pHead); }
+    /// NULL for an empty list.
     POSITION GetTailPosition() const { return ToPosition(m_pTail); }
     /// The element there; the position moves on, to NULL behind the last one.
     TYPE& GetNext(POSITION& rPosition) { return Step(rPosition, &CNode::pNext); }
+    /// @copydoc GetNext(POSITION&)
     const TYPE& GetNext(POSITION& rPosition) const { return Step(rPosition, &CNode::pNext); }
+    /// The element there; the position moves back, to NULL before the first one.
     TYPE& GetPrev(POSITION& rPosition) { return Step(rPosition, &CNode::pPrev); }
+    /// The element there; the position moves back, to NULL before the first one.
     const TYPE& GetPrev(POSITION& rPosition) const { return Step(rPosition, &CNode::pPrev); }
+    /// The element at a position.
     TYPE& GetAt(POSITION position) { return Node(position).data; }
+    /// The element at a position.
     const TYPE& GetAt(POSITION position) const { return Node(position).data; }
+    /// Replaces the element at a position.
     void SetAt(POSITION position, ARG_TYPE newElement) { Node(position).data = newElement; }
+    /// Removes the element at a position, which is not valid any more.
     void RemoveAt(POSITION position) { Unlink(Node(position)); }
     /// With NULL: at the head.
     POSITION InsertBefore(POSITION position, ARG_TYPE newElement);

@@ -14,8 +14,12 @@ public:
     /// The block size is taken for compatibility.
     explicit CMap(INT_PTR /*nBlockSize*/ = 10) {}
 
+    /// The number of entries.
+    ///@{
     INT_PTR GetCount() const { return static_cast<INT_PTR>(m_entries.size()); }
     INT_PTR GetSize() const { return GetCount(); }
+    ///@}
+    /// Whether there is no entry.
     BOOL IsEmpty() const { return m_entries.empty() ? TRUE : FALSE; }
 
     /// @return zero, with `rValue` as it was, if there is no such key.
@@ -28,8 +32,11 @@ public:
     }
     /// The value of the key, made anew if there is none.
     VALUE& operator[](ARG_KEY key) { return m_entries[KEY(key)]; }
+    /// Sets the value of a key, which is made if there is none.
     void SetAt(ARG_KEY key, ARG_VALUE newValue) { (*this)[key] = newValue; }
+    /// Removes an entry. @return zero if there is no such key
     BOOL RemoveKey(ARG_KEY key) { return m_entries.erase(KEY(key)) != 0 ? TRUE : FALSE; }
+    /// Removes all entries.
     void RemoveAll() { m_entries.clear(); }
 
     /// NULL for an empty map.

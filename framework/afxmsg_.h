@@ -13,6 +13,7 @@ class CCmdTarget;
 class CWnd;
 class CDC;
 
+/// Marks message handlers for the reader.
 #define afx_msg
 
 /// A handler with its true signature cast away; only its dispatcher knows it.
@@ -20,8 +21,8 @@ using AFX_PMSG = void (CCmdTarget::*)();
 
 /// One message on its way to a handler.
 struct AFX_MSG_CALL {
-    WPARAM wParam;
-    LPARAM lParam;
+    WPARAM wParam;    ///< As the message brought it.
+    LPARAM lParam;    ///< As the message brought it.
     UINT nID;         ///< Control or command identifier of commands and notifications.
     LRESULT* pResult; ///< Where the handler's result goes; never null.
 };
@@ -30,19 +31,21 @@ struct AFX_MSG_CALL {
 /// @return TRUE if the message counts as handled.
 using AFX_DISPATCH = BOOL (*)(CCmdTarget* pTarget, AFX_PMSG pfn, const AFX_MSG_CALL& call);
 
+/// One line of a message map.
 struct AFX_MSGMAP_ENTRY {
-    UINT nMessage; ///< Window message; 0 ends the table.
-    int nCode;     ///< Notification code, or 0.
-    UINT nID;      ///< First identifier of the range, or 0.
-    UINT nLastID;  ///< Last identifier of the range.
-    AFX_DISPATCH pfnDispatch;
-    AFX_PMSG pfn;
+    UINT nMessage;            ///< Window message; 0 ends the table.
+    int nCode;                ///< Notification code, or 0.
+    UINT nID;                 ///< First identifier of the range, or 0.
+    UINT nLastID;             ///< Last identifier of the range.
+    AFX_DISPATCH pfnDispatch; ///< Knows the handler's signature.
+    AFX_PMSG pfn;             ///< The handler.
     const UINT* pnRegistered; ///< Number of a registered message, or null.
 };
 
+/// A class's message map.
 struct AFX_MSGMAP {
     const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< Null in the root class.
-    const AFX_MSGMAP_ENTRY* lpEntries;
+    const AFX_MSGMAP_ENTRY* lpEntries;    ///< Its lines, up to one whose message is 0.
 };
 
 /// Added to a message that a parent hands back to the control that sent it.
@@ -50,18 +53,23 @@ constexpr UINT WM_REFLECT_BASE = 0xBC00;
 /// Code of plain commands (menu, toolbar, accelerator; also BN_CLICKED).
 constexpr int CN_COMMAND = 0;
 
+/// Declares a class's message map. Members that follow it are protected.
 #define DECLARE_MESSAGE_MAP()                                                                                \
 protected:                                                                                                   \
     static const AFX_MSGMAP* GetThisMessageMap();                                                            \
     const AFX_MSGMAP* GetMessageMap() const override;
 
+/// Begins the map of a class derived from baseClass, in the source file.
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
-    const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }                        \
+    const AFX_MSGMAP* theClass::GetMessageMap() const {                                                      \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
     const AFX_MSGMAP* theClass::GetThisMessageMap() {                                                        \
         using ThisClass [[maybe_unused]] = theClass;                                                         \
         using TheBaseClass = baseClass;                                                                      \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
+/// Ends a message map.
 #define END_MESSAGE_MAP()                                                                                    \
     { 0, 0, 0, 0, nullptr, nullptr, nullptr }                                                                \
     }                                                                                                        \
@@ -72,6 +80,9 @@ protected:                                                                      
 
 // --- Dispatchers, one a signature -------------------------------------------------
 
+/// Takes the handler's arguments out of the message and calls the handler: one function a
+/// signature. Only message maps name them.
+///@{
 AFX_CORE BOOL AfxDispatchMessage(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
 AFX_CORE BOOL AfxDispatchVoid(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
 AFX_CORE BOOL AfxDispatchUint(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
@@ -104,6 +115,7 @@ AFX_CORE BOOL AfxDispatchCommandEx(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
 AFX_CORE BOOL AfxDispatchNotify(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
 AFX_CORE BOOL AfxDispatchNotifyId(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
 AFX_CORE BOOL AfxDispatchNotifyEx(CCmdTarget*, AFX_PMSG, const AFX_MSG_CALL&);
+///@}
 
 /// Turns a handler into its table form after its signature has been checked.
 template <class Handler>
@@ -114,10 +126,17 @@ AFX_PMSG AfxEraseHandler(Handler pfn) {
     return erased;
 }
 
+/// Makes a line of a message map and checks the handler's signature. For the macros of this file.
 #define AFX_ENTRY_(message, code, id, last, dispatch, signature, handler)                                    \
-    {message, static_cast<int>(code), static_cast<UINT>(id), static_cast<UINT>(last), &dispatch,             \
-     AfxEraseHandler(static_cast<signature>(handler)), nullptr},
+    {message,                                                                                                \
+     static_cast<int>(code),                                                                                 \
+     static_cast<UINT>(id),                                                                                  \
+     static_cast<UINT>(last),                                                                                \
+     &dispatch,                                                                                              \
+     AfxEraseHandler(static_cast<signature>(handler)),                                                       \
+     nullptr},
 
+/// The same for a window message with its own handler name.
 #define AFX_WM_ENTRY_(message, dispatch, result, args, handler)                                              \
     AFX_ENTRY_(message, 0, 0, 0, dispatch, result(CWnd::*) args, &ThisClass::handler)
 
@@ -126,6 +145,9 @@ constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
 
 // --- Window messages --------------------------------------------------------------
 
+/// A line for the window message of this name. Its handler has the name and the signature of
+/// the CWnd member for it (OnCreate, OnDestroy...).
+///@{
 #define ON_WM_CREATE() AFX_WM_ENTRY_(WM_CREATE, AfxDispatchCreate, int, (LPCREATESTRUCT), OnCreate)
 #define ON_WM_DESTROY() AFX_WM_ENTRY_(WM_DESTROY, AfxDispatchVoid, void, (), OnDestroy)
 #define ON_WM_NCDESTROY() AFX_WM_ENTRY_(WM_NCDESTROY, AfxDispatchVoid, void, (), OnNcDestroy)
@@ -145,16 +167,13 @@ constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
     AFX_WM_ENTRY_(WM_ACTIVATE, AfxDispatchActivate, void, (UINT, CWnd*, BOOL), OnActivate)
 #define ON_WM_LBUTTONDOWN()                                                                                  \
     AFX_WM_ENTRY_(WM_LBUTTONDOWN, AfxDispatchMouse, void, (UINT, CPoint), OnLButtonDown)
-#define ON_WM_LBUTTONUP()                                                                                    \
-    AFX_WM_ENTRY_(WM_LBUTTONUP, AfxDispatchMouse, void, (UINT, CPoint), OnLButtonUp)
+#define ON_WM_LBUTTONUP() AFX_WM_ENTRY_(WM_LBUTTONUP, AfxDispatchMouse, void, (UINT, CPoint), OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK()                                                                                \
     AFX_WM_ENTRY_(WM_LBUTTONDBLCLK, AfxDispatchMouse, void, (UINT, CPoint), OnLButtonDblClk)
 #define ON_WM_RBUTTONDOWN()                                                                                  \
     AFX_WM_ENTRY_(WM_RBUTTONDOWN, AfxDispatchMouse, void, (UINT, CPoint), OnRButtonDown)
-#define ON_WM_RBUTTONUP()                                                                                    \
-    AFX_WM_ENTRY_(WM_RBUTTONUP, AfxDispatchMouse, void, (UINT, CPoint), OnRButtonUp)
-#define ON_WM_MOUSEMOVE()                                                                                    \
-    AFX_WM_ENTRY_(WM_MOUSEMOVE, AfxDispatchMouse, void, (UINT, CPoint), OnMouseMove)
+#define ON_WM_RBUTTONUP() AFX_WM_ENTRY_(WM_RBUTTONUP, AfxDispatchMouse, void, (UINT, CPoint), OnRButtonUp)
+#define ON_WM_MOUSEMOVE() AFX_WM_ENTRY_(WM_MOUSEMOVE, AfxDispatchMouse, void, (UINT, CPoint), OnMouseMove)
 #define ON_WM_KEYDOWN() AFX_WM_ENTRY_(WM_KEYDOWN, AfxDispatchKey, void, (UINT, UINT, UINT), OnKeyDown)
 #define ON_WM_KEYUP() AFX_WM_ENTRY_(WM_KEYUP, AfxDispatchKey, void, (UINT, UINT, UINT), OnKeyUp)
 #define ON_WM_CHAR() AFX_WM_ENTRY_(WM_CHAR, AfxDispatchKey, void, (UINT, UINT, UINT), OnChar)
@@ -179,36 +198,51 @@ constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
     AFX_WM_ENTRY_(WM_GETMINMAXINFO, AfxDispatchMinMax, void, (MINMAXINFO*), OnGetMinMaxInfo)
 #define ON_WM_SYSCOMMAND()                                                                                   \
     AFX_WM_ENTRY_(WM_SYSCOMMAND, AfxDispatchSysCommand, void, (UINT, LPARAM), OnSysCommand)
+///@}
 
-
+/// A line for any window message: `LRESULT memberFxn(WPARAM, LPARAM)`.
 #define ON_MESSAGE(message, memberFxn)                                                                       \
-    AFX_ENTRY_(message, 0, 0, 0, AfxDispatchMessage, LRESULT(CWnd::*)(WPARAM, LPARAM), memberFxn)
+    AFX_ENTRY_(message, 0, 0, 0, AfxDispatchMessage, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
+/// The same for a message of RegisterWindowMessage, whose number stands in a variable.
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                   \
-    {AFX_REGISTERED_, 0, 0, 0, &AfxDispatchMessage,                                                          \
-     AfxEraseHandler(static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn)), &(nMessageVariable)},
+    {AFX_REGISTERED_,                                                                                        \
+     0,                                                                                                      \
+     0,                                                                                                      \
+     0,                                                                                                      \
+     &AfxDispatchMessage,                                                                                    \
+     AfxEraseHandler(static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn)),                             \
+     &(nMessageVariable)},
 
 /// Stands in the message field of an ON_REGISTERED_MESSAGE entry.
 constexpr UINT AFX_REGISTERED_ = 0xC000;
 
 // --- Commands and notifications, in the parent's map -------------------------------
 
+/// A command: `void memberFxn()`.
 #define ON_COMMAND(id, memberFxn)                                                                            \
     AFX_ENTRY_(WM_COMMAND, CN_COMMAND, id, id, AfxDispatchCommand, void (CCmdTarget::*)(), memberFxn)
+/// A range of commands, both ends included: `void memberFxn(UINT nID)`.
 #define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
-    AFX_ENTRY_(WM_COMMAND, CN_COMMAND, id, idLast, AfxDispatchCommandId, void (CCmdTarget::*)(UINT),          \
+    AFX_ENTRY_(WM_COMMAND, CN_COMMAND, id, idLast, AfxDispatchCommandId, void (CCmdTarget::*)(UINT),         \
                memberFxn)
+/// A notification that comes as WM_COMMAND: `void memberFxn()`.
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
     AFX_ENTRY_(WM_COMMAND, wNotifyCode, id, id, AfxDispatchCommand, void (CCmdTarget::*)(), memberFxn)
+/// The same from a range of controls: `void memberFxn(UINT nID)`.
 #define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                 \
-    AFX_ENTRY_(WM_COMMAND, wNotifyCode, id, idLast, AfxDispatchCommandId, void (CCmdTarget::*)(UINT),         \
+    AFX_ENTRY_(WM_COMMAND, wNotifyCode, id, idLast, AfxDispatchCommandId, void (CCmdTarget::*)(UINT),        \
                memberFxn)
+/// A notification that comes as WM_NOTIFY: `void memberFxn(NMHDR*, LRESULT*)`.
 #define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                \
-    AFX_ENTRY_(WM_NOTIFY, wNotifyCode, id, id, AfxDispatchNotify, void (CCmdTarget::*)(NMHDR*, LRESULT*),     \
+    AFX_ENTRY_(WM_NOTIFY, wNotifyCode, id, id, AfxDispatchNotify, void (CCmdTarget::*)(NMHDR*, LRESULT*),    \
                memberFxn)
+/// The same from a range of controls: `void memberFxn(UINT nID, NMHDR*, LRESULT*)`.
 #define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                  \
     AFX_ENTRY_(WM_NOTIFY, wNotifyCode, id, idLast, AfxDispatchNotifyId,                                      \
                void (CCmdTarget::*)(UINT, NMHDR*, LRESULT*), memberFxn)
 
+/// ON_CONTROL for the notification of this name.
+///@{
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
 #define ON_STN_CLICKED(id, memberFxn) ON_CONTROL(STN_CLICKED, id, memberFxn)
@@ -226,23 +260,29 @@ constexpr UINT AFX_REGISTERED_ = 0xC000;
 #define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
 #define ON_CBN_SETFOCUS(id, memberFxn) ON_CONTROL(CBN_SETFOCUS, id, memberFxn)
 #define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
+///@}
 
 // --- Reflected messages, in the control's own map ------------------------------------
 // A handled reflected notification does not reach the parent; the _EX forms decide
 // that by their result.
 
+/// A notification that the control handles itself: `void memberFxn()`.
 #define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                           \
-    AFX_ENTRY_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchCommand, void (CCmdTarget::*)(),   \
+    AFX_ENTRY_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchCommand, void(CCmdTarget::*)(),   \
                memberFxn)
+/// The same; `BOOL memberFxn()` returns FALSE to let the parent have it as well.
 #define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn)                                                        \
-    AFX_ENTRY_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchCommandEx,                        \
-               BOOL (CCmdTarget::*)(), memberFxn)
+    AFX_ENTRY_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchCommandEx, BOOL(CCmdTarget::*)(), \
+               memberFxn)
+/// A WM_NOTIFY notification that the control handles itself: `void memberFxn(NMHDR*, LRESULT*)`.
 #define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn)                                                            \
     AFX_ENTRY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchNotify,                            \
-               void (CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+               void(CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+/// The same; `BOOL memberFxn(NMHDR*, LRESULT*)` returns FALSE to let the parent have it as well.
 #define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn)                                                         \
     AFX_ENTRY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxDispatchNotifyEx,                          \
-               BOOL (CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+               BOOL(CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+/// The control's own colours: `HBRUSH CtlColor(CDC*, UINT)`; null leaves them to the parent.
 #define ON_WM_CTLCOLOR_REFLECT()                                                                             \
     AFX_ENTRY_(AFX_WM_CTLCOLOR + WM_REFLECT_BASE, 0, 0, 0, AfxDispatchCtlColorReflect,                       \
                HBRUSH(CWnd::*)(CDC*, UINT), &ThisClass::CtlColor)

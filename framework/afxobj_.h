@@ -17,11 +17,11 @@ using POSITION = struct AFX_POSITION*;
 /// What is known about a class at run time. One static object a class, made by the
 /// IMPLEMENT_ macros and filled before any code runs.
 struct AFX_CORE CRuntimeClass {
-    LPCSTR m_lpszClassName;
-    int m_nObjectSize;
-    UINT m_wSchema; ///< 0xFFFF: the class cannot be archived
-    CObject* (*m_pfnCreateObject)();
-    CRuntimeClass* (*m_pfnGetBaseClass)();
+    LPCSTR m_lpszClassName;                ///< The class's name.
+    int m_nObjectSize;                     ///< Size of an object in bytes.
+    UINT m_wSchema;                        ///< 0xFFFF: the class cannot be archived
+    CObject* (*m_pfnCreateObject)();       ///< Makes an object; null if the class cannot be created by name.
+    CRuntimeClass* (*m_pfnGetBaseClass)(); ///< The base class; gives null for CObject.
 
     /// @return a new object owned by the caller; NULL if the class cannot be created by name.
     CObject* CreateObject() const;
@@ -31,6 +31,7 @@ struct AFX_CORE CRuntimeClass {
     static CRuntimeClass* AFXAPI FromName(LPCSTR lpszClassName);
     /// TRUE for the class itself too.
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
+    /// Stores schema number and name.
     void Store(CArchive& ar) const;
     /// Reads what Store wrote.
     /// @param pwSchemaNum receives the schema number in the archive.
@@ -42,6 +43,7 @@ struct AFX_CORE CRuntimeClass {
 /// takes its classes with it.
 class AFX_CORE AFX_CLASSINIT {
 public:
+    /// @param pNewClass must outlive this object
     explicit AFX_CLASSINIT(CRuntimeClass* pNewClass) noexcept;
     ~AFX_CLASSINIT();
     AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
@@ -58,30 +60,39 @@ class AFX_CORE CObject {
 public:
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
+    /// The object's class. Overridden by the DECLARE_ macros.
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject() = default;
 
+    /// Whether the object is of the class or of one derived from it.
     BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
+    /// Whether the class can be archived.
     BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF ? TRUE : FALSE; }
     /// Stores or loads the members, as the archive's mode says. CObject has none.
     virtual void Serialize(CArchive& ar);
+    /// Checks the object in a debug program; override it. Here: nothing.
     virtual void AssertValid() const;
 
-    static CRuntimeClass classCObject;
+    static CRuntimeClass classCObject; ///< The class information of CObject itself.
+    /// The base class of CObject: none.
     static CRuntimeClass* AFXAPI _GetBaseClass() { return nullptr; }
 
 protected:
     CObject() = default;
 };
 
+/// The class information of a class that has a DECLARE_ macro.
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
+/// Gives a class run-time information. With IMPLEMENT_DYNAMIC in the source file.
 #define DECLARE_DYNAMIC(class_name)                                                                          \
 public:                                                                                                      \
     static CRuntimeClass class##class_name;                                                                  \
     static CRuntimeClass* _GetBaseClass();                                                                   \
     CRuntimeClass* GetRuntimeClass() const override;
 
+/// The same, and objects can be made by name. With IMPLEMENT_DYNCREATE; needs a default
+/// constructor.
 #define DECLARE_DYNCREATE(class_name)                                                                        \
     DECLARE_DYNAMIC(class_name)                                                                              \
     static CObject* CreateObject();
@@ -94,6 +105,7 @@ public:                                                                         
         return ar;                                                                                           \
     }
 
+/// What the IMPLEMENT_ macros have in common.
 #define _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                                \
     CRuntimeClass* class_name::_GetBaseClass() {                                                             \
         return RUNTIME_CLASS(base_class_name);                                                               \
@@ -104,15 +116,19 @@ public:                                                                         
         return RUNTIME_CLASS(class_name);                                                                    \
     }
 
+/// The counterpart of DECLARE_DYNAMIC.
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
+/// The counterpart of DECLARE_DYNCREATE.
 #define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
     CObject* class_name::CreateObject() {                                                                    \
         return new class_name;                                                                               \
     }                                                                                                        \
     _IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
+/// The counterpart of DECLARE_SERIAL.
+/// @param wSchema version of the archived form, from 0
 #define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                                               \
     CObject* class_name::CreateObject() {                                                                    \
         return new class_name;                                                                               \
@@ -123,7 +139,9 @@ public:                                                                         
 /// CArchive::ReadObject, for code that sees the archive only as a name.
 AFX_CORE CObject* AFXAPI AfxReadObject(CArchive& ar, const CRuntimeClass* pClass);
 
+/// The object itself, or NULL if it is not of the class; what DYNAMIC_DOWNCAST uses.
 AFX_CORE CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
+/// The object itself; in a debug program an assertion fails if it is not of the class.
 AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObject);
 
 /// The object as a pointer to the class; NULL if it is not of that kind.
@@ -132,6 +150,7 @@ AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObje
 
 /// Reports a failed assertion and ends the program.
 [[noreturn]] AFX_CORE void AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
+/// Calls AssertValid, after an assertion that there is an object.
 AFX_CORE void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
 /// Writes to the debugger's output, elsewhere to the standard error stream.
 AFX_CORE void AfxTrace(LPCTSTR lpszFormat, ...);
@@ -146,10 +165,16 @@ AFX_CORE void AfxTrace(LPCTSTR lpszFormat, ...);
     (static_cast<class_name*>(AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
 #define TRACE AfxTrace
 #else
+/// Ends a debug program if the condition does not hold; nothing in a release program.
 #define ASSERT(f) ((void)0)
+/// Like ASSERT, but the expression is evaluated in a release program too.
 #define VERIFY(f) ((void)(f))
+/// Calls the object's AssertValid in a debug program.
 #define ASSERT_VALID(pOb) ((void)0)
+/// The object as a pointer to the class, checked in a debug program only.
 #define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
+/// AfxTrace in a debug program, nothing in a release program.
 #define TRACE(...) ((void)0)
 #endif
+/// Asserts that the object is of a kind.
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))

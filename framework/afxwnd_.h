@@ -23,19 +23,24 @@ public:
 
     /// Shows and hides the wait cursor; calls nest.
     void BeginWaitCursor();
+    /// Ends what BeginWaitCursor began.
     void EndWaitCursor();
+    /// Shows the wait cursor again, after a message box for example.
     void RestoreWaitCursor();
 
 protected:
     CCmdTarget() = default;
+    /// The class's message map. The message map macros define both.
+    ///@{
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
+    ///@}
 };
 
 /// What OnCmdMsg carries in pExtra for a WM_NOTIFY message.
 struct AFX_NOTIFY {
-    LRESULT* pResult;
-    NMHDR* pNMHDR;
+    LRESULT* pResult; ///< Receives the answer.
+    NMHDR* pNMHDR;    ///< The notification.
 };
 
 /// The state of the modal loop and of the device shell that a window keeps.
@@ -78,11 +83,15 @@ public:
 
     HWND m_hWnd = nullptr; ///< The window, or null.
 
+    /// The window, or null.
     operator HWND() const { return m_hWnd; }
     /// The window; null also for a null object, as applications expect of this one function.
     HWND GetSafeHwnd() const;
+    /// Whether both stand for the same window.
+    ///@{
     bool operator==(const CWnd& other) const { return m_hWnd == other.m_hWnd; }
     bool operator!=(const CWnd& other) const { return m_hWnd != other.m_hWnd; }
+    ///@}
 
     // --- Object and window ---------------------------------------------------------
     /// The object of a window, a temporary one if it has no permanent one; null for null.
@@ -91,11 +100,17 @@ public:
     static CWnd* FromHandlePermanent(HWND hWnd);
     /// Deletes the temporary objects that nothing can hold any more; called when idle.
     static void DeleteTempMap();
+    /// Makes this the permanent object of a window, whose messages still do not come here.
+    /// @return FALSE for null
     BOOL Attach(HWND hWndNew);
+    /// Gives the window up. @return what it was
     HWND Detach();
     /// Attaches this object to a window and routes its messages through the message map.
     BOOL SubclassWindow(HWND hWnd);
+    /// The same for a control of a dialog. @return FALSE if there is no such control or this object
+    /// has a window
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
+    /// Gives a subclassed window back its own procedure. @return the window
     HWND UnsubclassWindow();
     /// Called just before a window is attached to this object, its first message still to come.
     virtual void PreSubclassWindow();
@@ -104,15 +119,21 @@ public:
     /// Creates a child window. @return FALSE if the system refuses.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
+    /// Creates a window of any kind. @return FALSE if the system refuses
     BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
                   int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
+    /// The same with a rectangle and a child's identifier.
     BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                   const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
     /// Lets a derived class change the creation parameters. @return FALSE to give up.
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    /// Destroys the window; the object stays, unless its PostNcDestroy deletes it.
     virtual BOOL DestroyWindow();
 
     // --- Style and state -----------------------------------------------------------
+    /// The Win32 function of the same name for this window, with its result; identifiers are the
+    /// control's own. SetIcon returns the previous icon, which is not destroyed.
+    ///@{
     DWORD GetStyle() const;
     /// Includes WS_EX_CAPTIONOKBTN, which the framework keeps itself.
     DWORD GetExStyle() const;
@@ -129,16 +150,24 @@ public:
     int SetDlgCtrlID(int nID);
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);
     HICON GetIcon(BOOL bBigIcon) const;
+    ///@}
 
     // --- Text and font -------------------------------------------------------------
+    /// The window's text, and the font of a control; a font is not owned and must outlive the
+    /// control. nMaxCount is the room at lpszString, with the terminator.
+    ///@{
     void SetWindowText(LPCTSTR lpszString);
     int GetWindowText(LPTSTR lpszString, int nMaxCount) const;
     void GetWindowText(CString& rString) const;
     int GetWindowTextLength() const;
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
     CFont* GetFont() const;
+    ///@}
 
     // --- Place and size ------------------------------------------------------------
+    /// The Win32 function of the same name for this window. Places are pixels: of the screen, or of
+    /// the parent's client area for a child.
+    ///@{
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
@@ -150,15 +179,21 @@ public:
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
+    ///@}
+    /// What CalcWindowRect counts for: the window's frame alone, or scroll bars as well.
     enum AdjustType { adjustBorder = 0, adjustOutside = 1 };
     /// Turns a client rectangle into the rectangle of the window around it.
     virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder);
     /// Centres on pAlternateOwner, else on the owner (or parent, for a child), else on the screen;
     /// a window with an invisible or minimised owner, too. Never leaves the work area.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
+    /// Moves the window before its siblings.
     void BringWindowToTop();
 
     // --- Relations -----------------------------------------------------------------
+    /// The Win32 function of the same name. Results are objects of FromHandle, null if there is no
+    /// such window; setters return the previous one.
+    ///@{
     CWnd* GetParent() const;
     CWnd* SetParent(CWnd* pWndNewParent);
     /// The owner set by SetOwner, else the parent.
@@ -180,11 +215,15 @@ public:
     CWnd* SetCapture();
     static CWnd* GetDesktopWindow();
     static CWnd* WindowFromPoint(POINT point);
+    ///@}
     /// The top-level window that should own a dialog of pParent (the main window for null).
     /// @param pWndTop receives a top-level window to disable as well, or null
     static CWnd* GetSafeOwner(CWnd* pParent = nullptr, HWND* pWndTop = nullptr);
 
     // --- Painting ------------------------------------------------------------------
+    /// The Win32 function of the same name for this window. Who takes a context by GetDC or
+    /// GetWindowDC gives it back by ReleaseDC.
+    ///@{
     CDC* GetDC();
     CDC* GetWindowDC();
     int ReleaseDC(CDC* pDC);
@@ -197,27 +236,40 @@ public:
     BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, CRgn* prgnUpdate = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     void SetRedraw(BOOL bRedraw = TRUE);
+    ///@}
 
     // --- Messages ------------------------------------------------------------------
+    /// Sends or posts a message to this window, or sends it to all windows below it (bDeep) or to
+    /// its children only.
+    ///@{
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE);
+    ///@}
     /// The message that the calling thread is handling. A handler may rewrite it before
     /// it calls Default().
     static MSG* GetCurrentMessage();
     /// Default processing of the current message.
     LRESULT Default();
+    /// The Win32 function of the same name for this window; times in milliseconds.
+    ///@{
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr);
     BOOL KillTimer(UINT_PTR nIDEvent);
+    ///@}
+    /// Shows a message box owned by this window; without a caption the application's name. @return
+    /// the button
     int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
     /// Sees each message of the thread's queue before it is translated and dispatched.
     /// @return TRUE if the message shall go no further.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
+    /// Lets the system's dialog keys work. @return TRUE if the message was one of them
     BOOL PreTranslateInput(LPMSG lpMsg);
     /// Walks from the message's window up to hWndStop and offers it to each.
     static BOOL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
 
     // --- Dialog items --------------------------------------------------------------
+    /// The Win32 function of the same name for a control of this dialog.
+    ///@{
     void SetDlgItemText(int nID, LPCTSTR lpszString);
     int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
     int GetDlgItemText(int nID, CString& rString) const;
@@ -228,8 +280,10 @@ public:
     UINT IsDlgButtonChecked(int nIDButton) const;
     void CheckRadioButton(int nIDFirst, int nIDLast, int nIDCheckButton);
     int GetCheckedRadioButton(int nIDFirst, int nIDLast) const;
+    ///@}
     /// Runs the initialisation data (RT_DLGINIT) of a dialog template.
     BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    /// Lets the system handle a dialog key. @return TRUE if it was one
     BOOL IsDialogMessage(LPMSG lpMsg);
     /// Exchanges data between members and controls.
     /// @param bSaveAndValidate TRUE: from the controls, FALSE: to them
@@ -237,8 +291,13 @@ public:
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // --- Modal loop ----------------------------------------------------------------
+    /// Runs a message loop until ContinueModal says no.
+    /// @param dwFlags MLF_...
+    /// @return what EndModalLoop was given
     int RunModalLoop(DWORD dwFlags = 0);
+    /// Whether the modal loop goes on.
     virtual BOOL ContinueModal();
+    /// Ends the modal loop with a result.
     virtual void EndModalLoop(int nResult);
 
     // --- Routing -------------------------------------------------------------------
@@ -246,22 +305,30 @@ public:
     /// Offers the current message to the control it came from.
     /// @return TRUE if the control has handled it.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
+    /// Offers the current message to the control, if it has a permanent object.
     static BOOL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
 
 protected:
-    UINT m_nFlags = 0; ///< AFX_WND_FLAGS
-    int m_nModalResult = 0;
+    UINT m_nFlags = 0;      ///< AFX_WND_FLAGS
+    int m_nModalResult = 0; ///< What EndModalLoop was given.
 
+    /// All messages of the window come here: the message map first, then DefWindowProc.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// What the window did before this object was attached to it.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Looks for a handler in the message map. @return TRUE if one has handled the message
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// WM_COMMAND: the control itself first, then the message map. @return TRUE if handled
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    /// WM_NOTIFY, in the same order. @return TRUE if handled
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// A notification of this control that its parent hands back.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// Offers a message of the parent to this control's own map.
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Last call for a window: the object may delete itself.
     virtual void PostNcDestroy();
+    /// Override it with DDX_ and DDV_ calls; UpdateData calls it. Here: nothing.
     virtual void DoDataExchange(CDataExchange* pDX);
     /// Which pen gestures a point (client coordinates) takes. Here: no press-and-hold, so
     /// that a press reaches the control at once and not after the system's pause.
@@ -270,6 +337,10 @@ protected:
     virtual WNDPROC* GetSuperWndProcAddr();
 
     // --- Handlers: each forwards to default processing --------------------------------
+    /// The handler of the message of this name. A derived class that wants the message declares
+    /// the same member and a line in its message map. Here: default processing of the current
+    /// message; the arguments do not change it.
+    ///@{
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
@@ -310,6 +381,7 @@ protected:
     afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnKeyToItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTabletQueryGesture(WPARAM wParam, LPARAM lParam);
+    ///@}
 
     DECLARE_MESSAGE_MAP()
 

@@ -15,10 +15,16 @@ public:
     C2DLine() = default;
     /// Each makes the line as its Setup does; an undefined one where that rejects its input.
     C2DLine(double a, double b, double c);
+    /// @copydoc C2DLine(double,double,double)
+    ///@{
     C2DLine(const CCoordinate& p1, const CCoordinate& p2);
     C2DLine(const CCoordinate& p, double angle);
+    ///@}
+    /// Copies the coefficients.
+    ///@{
     C2DLine(const C2DLine& line) = default;
     const C2DLine& operator=(const C2DLine& line);
+    ///@}
     virtual ~C2DLine() = default;
 
     /// Stores the coefficients unchecked.
@@ -39,7 +45,9 @@ public:
     double GetInterceptN() const;
     /// E where N is 0; 1e+32 for an east-west line.
     double GetInterceptE() const;
+    /// 0 oblique, 1 north-south, 2 east-west, 3 undefined.
     int GetStatus() const;
+    /// Writes all three coefficients as they are stored.
     void GetParameter(double& a, double& b, double& c) const;
 
 private:

@@ -56,7 +56,9 @@ protected:
     /// Shows the angle in degrees, minutes and seconds.
     void ShowDMS();
 
+    /// Shows the packed number for editing, and the soft input panel.
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    /// Turns what was typed into the angle, and shows degrees, minutes and seconds.
     afx_msg void OnKillFocus(CWnd* pNewWnd);
 
     double m_dAngle = 0.0; ///< Radians.

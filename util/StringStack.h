@@ -18,6 +18,7 @@ class FIELDKIT_API CStringStack : public CObject {
     DECLARE_SERIAL(CStringStack)
 
 public:
+    /// What the key of a text is.
     enum Mode : int {
         ModeWhole = 0,  ///< The key is the whole text; so for every value but ModeHeader.
         ModeHeader = 1, ///< The key is the text without the digits 0 to 9 at its end.
