@@ -3,7 +3,7 @@
 
 packages=(
     g++ cmake ninja-build g++-mingw-w64-x86-64-posix g++-arm-linux-gnueabi qemu-user
-    googletest wine wine64 xvfb xdotool imagemagick fonts-ipafont-gothic locales
+    googletest valgrind pkgconf wine wine64 xvfb xdotool imagemagick fonts-ipafont-gothic locales
     # Loaded by Wine at run time; without them it draws and moves the pen differently.
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
@@ -13,18 +13,22 @@ packages=(
 device_locale=ja_JP.UTF-8
 
 install_missing() {
-    local missing=() package
-    for package in "${packages[@]}"; do
-        is_installed "$package" || missing+=("$package")
-    done
-    if ((${#missing[@]} > 0)); then
-        ((EUID == 0)) || die "as root, install: ${missing[*]}"
-        logged install-packages apt_install "${missing[@]}"
-    fi
+    require "${packages[@]}"
     if ! has_locale; then
         ((EUID == 0)) || die "as root, run: localedef -i ja_JP -f UTF-8 $device_locale"
         logged make-locale localedef -i ja_JP -f UTF-8 "$device_locale"
     fi
+}
+
+# require PACKAGE...: installs those that are missing.
+require() {
+    local missing=() package
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    ((${#missing[@]} > 0)) || return 0
+    ((EUID == 0)) || die "as root, install: ${missing[*]}"
+    logged install-packages apt_install "${missing[@]}"
 }
 
 is_installed() {

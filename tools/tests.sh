@@ -5,9 +5,15 @@ test_timeout=300
 passed=0
 failed=0
 
-# run_tests NAME: every program whose name contains NAME, the sample's too.
+# run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
+# also what is no test program: speed, tutorial, package.
 run_tests() {
     local preset program found=
+    if [[ -z $1 ]]; then
+        count_instructions
+        test_tutorial
+        test_package
+    fi
     for preset in "${presets[@]}"; do
         for program in "$build/$preset"/bin/test_*"$1"*; do
             [[ -x $program && $program != *.dll ]] || continue
