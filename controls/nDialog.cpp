@@ -1,12 +1,8 @@
 #include "controls/nDialog.h"
 
-#include <afxext.h>
+#include "controls/detail/CommandBar.h"
 
 namespace {
-
-/// Menu resource that an application may have for the command bar of its dialogs.
-constexpr UINT IDR_COMMAND_BAR = 130;
-constexpr LPARAM COMMAND_BAR_BUTTON_SIZE = 32 | 15 << 16;
 
 // The part of the device's screen between its two bars.
 constexpr int SCREEN_LEFT = 0;
@@ -75,11 +71,8 @@ BOOL CnDialog::OnInitDialog() {
 
 void CnDialog::InitFullScreen() {
     ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
-    if (auto* pBar = dynamic_cast<CCeCommandBar*>(m_pWndEmptyCB);
-        pBar != nullptr && Has(OptionBarButtonSize)) {
-        pBar->InsertMenuBar(IDR_COMMAND_BAR);
-        pBar->SendMessage(TB_SETBUTTONSIZE, 0, COMMAND_BAR_BUTTON_SIZE);
-    }
+    if (auto* pBar = dynamic_cast<CCeCommandBar*>(m_pWndEmptyCB); pBar != nullptr && Has(OptionBarButtonSize))
+        SetUpCommandBar(*pBar);
     if (!Has(OptionOkButton))
         SHDoneButton(m_hWnd, SHDB_HIDE);
     ShowWindow(SW_SHOWMAXIMIZED);

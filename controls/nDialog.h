@@ -39,16 +39,26 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
+    /// Nothing of its own; derived classes call it first.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Ends the dialog with IDOK, if the data of the controls is accepted.
     void OnOK() override;
+    /// Ends the dialog with IDCANCEL.
     void OnCancel() override;
 
+    /// Closing by the title bar or the system is cancel.
     afx_msg void OnClose();
+    /// A press begins dragging (OptionDrag): it draws the frame and captures the stylus.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    /// Moves the drag frame along with the pen; it stays within reach on the screen.
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    /// A lift ends dragging: the dialog goes where the frame is.
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    /// A change of the system's settings; here the framework's processing, which makes room for the
+    /// soft input panel.
     afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    /// The surface and the static texts get the colour of SetBKColor, all else the system's.
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
 
     DECLARE_MESSAGE_MAP()

@@ -16,6 +16,28 @@ static void ReadItem(HWND hWnd, UINT nGetLength, UINT nGetText, int nIndex, CStr
     rString.ReleaseBuffer();
 }
 
+/// Asks a list or combo box whose items are drawn by their owner.
+/// @return whether the message is such a question
+template <class Box>
+static BOOL AskOwnerDraw(Box& box, UINT message, LPARAM lParam, LRESULT* pResult) {
+    switch (message) {
+    case WM_DRAWITEM:
+        box.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return TRUE;
+    case WM_MEASUREITEM:
+        box.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return TRUE;
+    case WM_COMPAREITEM:
+        *pResult = box.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        return TRUE;
+    case WM_DELETEITEM:
+        box.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
 // --- List boxes ---------------------------------------------------------------------------
 
 BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
@@ -56,18 +78,6 @@ int CListBox::CharToItem(UINT, UINT) {
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *pResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
     case WM_VKEYTOITEM:
         *pResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
@@ -75,7 +85,8 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         *pResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return AskOwnerDraw(*this, message, lParam, pResult) ||
+               CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
 }
 
@@ -102,20 +113,6 @@ int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT) {
 void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *pResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    }
+    return AskOwnerDraw(*this, message, lParam, pResult) ||
+           CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }

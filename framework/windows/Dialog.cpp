@@ -1,3 +1,4 @@
+#include "CommandRoute.h"
 #include "DeviceCaption.h"
 #include "DialogTemplate.h"
 #include "ModalOwner.h"
@@ -194,17 +195,7 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pInfo))
-        return TRUE;
-    // Menu and tool bar commands that the dialog does not know go on to its parent and to the
-    // application; notifications and system commands are its own business.
-    const bool bRouted = pExtra == nullptr && nCode == CN_COMMAND && nID >= 0x8000 && nID < 0xF000;
-    if (!bRouted)
-        return FALSE;
-    if (CWnd* pParent = GetParent(); pParent != nullptr && pParent->OnCmdMsg(nID, nCode, pExtra, pInfo))
-        return TRUE;
-    CWinThread* pThread = AfxGetThread();
-    return pThread != nullptr && pThread->OnCmdMsg(nID, nCode, pExtra, pInfo);
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pInfo) || RouteCommand(*this, nID, nCode, pExtra, pInfo);
 }
 
 void CDialog::MapDialogRect(LPRECT lpRect) const {

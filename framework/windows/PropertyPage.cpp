@@ -187,5 +187,5 @@ BOOL CPropertyPage::OnWizardFinish() {
 
 /// Keys are the sheet's business: it knows which button Enter presses.
 BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
-    return CWnd::PreTranslateMessage(pMsg);
+    return CWnd::PreTranslateMessage(pMsg); // NOLINT(bugprone-parent-virtual-call): not as in a dialog
 }

@@ -1,3 +1,4 @@
+#include "CommandRoute.h"
 #include "ModalOwner.h"
 #include "afxdlgs.h"
 
@@ -182,6 +183,10 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (bOpen && FromHandlePermanent(hWnd) == this && !HasCurrentPage())
         EndDialog(nID);
     return TRUE;
+}
+
+BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) {
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pInfo) || RouteCommand(*this, nID, nCode, pExtra, pInfo);
 }
 
 LRESULT CPropertySheet::OnPressButton(WPARAM wParam, LPARAM) {

@@ -56,7 +56,7 @@ CString CTreeCtrl::GetItemText(HTREEITEM hItem) const {
         item.pszText[0] = 0;
         item.cchTextMax = nSize;
         GetItem(&item);
-        const CString strText(item.pszText); // the control may have put its own text there
+        CString strText(item.pszText); // the control may have put its own text there
         if (strText.GetLength() < nSize - 1)
             return strText;
     }

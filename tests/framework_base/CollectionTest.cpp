@@ -219,6 +219,11 @@ TEST(Collection, ArchivesHoldCountAndElements) {
     EXPECT_STREQ(L"abab", Joined(list)); // a list appends
     Loaded(stored, [&](CArchive& ar) { array.Serialize(ar); });
     EXPECT_STREQ(L"ab", Joined(array)); // an array is replaced
+    Loaded(FromHex("0100 03000000 fffeff01 7900"), [&](CArchive& ar) { map.Serialize(ar); });
+    Loaded(FromHex("0100 02000000 fffeff01 7a00"), [&](CArchive& ar) { map.Serialize(ar); });
+    EXPECT_STREQ(L"y", map[3]); // a map keeps what has another key
+    EXPECT_STREQ(L"z", map[2]);
+    EXPECT_EQ(2, map.GetCount());
 }
 
 TEST(Collection, LargeOnesSurviveTheRoundTrip) {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <random>
 
 namespace {
 
@@ -23,7 +23,7 @@ protected:
     File() {
         static int s_count = 0;
         m_folder = std::filesystem::temp_directory_path() /
-                   ("fieldkit-" + std::to_string(std::rand()) + "-" + std::to_string(++s_count));
+                   ("fieldkit-" + std::to_string(std::random_device{}()) + "-" + std::to_string(++s_count));
         std::filesystem::create_directories(m_folder);
     }
     ~File() override { std::filesystem::remove_all(m_folder); }
@@ -161,11 +161,12 @@ TEST_F(File, KnowsItsNames) {
     EXPECT_GT(error.m_strFileName.GetLength(), 14) << "the path must be complete";
 }
 
-TEST_F(File, NamesMayBeJapanese) {
-    const CString path = Make(L"\x6E2C\x70B9.txt", "1");
-    EXPECT_TRUE(std::filesystem::exists(m_folder / u8"\u6E2C\u70B9.txt"));
+TEST_F(File, NamesMayHaveAnyCharacters) {
+    const CString path = Make(L"\u00E9\u6E2C\u70B9\U00020BB7.txt", "1");
+    const auto expected = m_folder / u8"\u00E9\u6E2C\u70B9\U00020BB7.txt";
+    EXPECT_TRUE(std::filesystem::exists(expected));
     CFile::Rename(path, Path(L"\x65B0"));
-    EXPECT_FALSE(std::filesystem::exists(m_folder / u8"\u6E2C\u70B9.txt"));
+    EXPECT_FALSE(std::filesystem::exists(expected));
     EXPECT_EQ("1", Text(Path(L"\x65B0")));
 }
 

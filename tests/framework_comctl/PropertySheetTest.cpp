@@ -275,6 +275,27 @@ TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
     EXPECT_EQ(::GetFocus(), edit.m_hWnd);
 }
 
+TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
+    constexpr UINT ID_MENU = 0x8001;
+    constexpr UINT ID_BUTTON = 0x1001;
+    class Owner : public fx::Frame {
+    public:
+        BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
+            m_commands.push_back(nID);
+            return nID == ID_MENU || Frame::OnCmdMsg(nID, nCode, pExtra, pInfo);
+        }
+        std::vector<UINT> m_commands;
+    };
+    Owner owner;
+    fx::Sheet sheet;
+    ASSERT_TRUE(sheet.Create(&owner));
+    for (CWnd* pSource : {static_cast<CWnd*>(&sheet), static_cast<CWnd*>(&sheet.m_a)}) {
+        pSource->SendMessage(WM_COMMAND, ID_MENU);
+        pSource->SendMessage(WM_COMMAND, ID_BUTTON);
+        EXPECT_EQ(std::exchange(owner.m_commands, {}), std::vector<UINT>{ID_MENU});
+    }
+}
+
 TEST(ModelessSheet, DestroysItselfWhenItEnds) {
     fx::Sheet sheet;
     for (const UINT nID : {IDOK, IDCANCEL}) {
