@@ -1,0 +1,28 @@
+#include "afxwin.h"
+
+namespace {
+
+/// Only whole texts that end with null are converted, as their users do.
+template <class Source, class Target, class Convert>
+int ConvertText(const Source* pszSource, Target* pszTarget, int nTarget, Convert convert) {
+    for (int i = 0; i < nTarget; ++i) {
+        pszTarget[i] = convert(pszSource[i]);
+        if (pszSource[i] == 0)
+            return i + 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+int MultiByteToWideChar(UINT, DWORD, LPCSTR pszSource, int, LPWSTR pszTarget, int nTarget) {
+    return ConvertText(pszSource, pszTarget, nTarget,
+                       [](char ch) { return static_cast<wchar_t>(static_cast<unsigned char>(ch)); });
+}
+
+int WideCharToMultiByte(UINT, DWORD, LPCWSTR pszSource, int, LPSTR pszTarget, int nTarget, LPCSTR, BOOL*) {
+    return ConvertText(pszSource, pszTarget, nTarget, [](wchar_t ch) {
+        const bool bKnown = static_cast<char32_t>(ch) < 0x100;
+        return static_cast<char>(bKnown ? ch : L'?');
+    });
+}
