@@ -20,6 +20,9 @@ set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
 # multiply-add, no reassociation, in any build and for any source file.
 add_compile_options(-ffp-contract=off)
 
+# Names of source files in messages start at the tree, wherever it was built.
+add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+
 if(FIELDKIT_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
