@@ -4,6 +4,9 @@
 
 #include <cmath>
 #include <initializer_list>
+#include <utility>
+
+using fieldkit::survey::kNull;
 
 namespace {
 
@@ -12,6 +15,11 @@ constexpr double SAME_DIRECTION = 1e-06; // radians
 constexpr double SAME_POINT = 0.001;
 /// Nearer to the centre than this, the library gives points no direction of their own.
 constexpr double MIN_RADIUS = 0.1;
+
+template <class... Points>
+bool HavePositions(const Points&... points) {
+    return (HasPosition(points) && ...);
+}
 
 bool IsSamePoint(const CCoordinate& a, const CCoordinate& b) {
     return Distance(a, b) < SAME_POINT;
@@ -32,7 +40,27 @@ CResult Found(const CLocalPlane& plane, std::initializer_list<CVector> vectors) 
     return result;
 }
 
+CResult Meet(const CLocalPlane& plane, CVector p1, CVector p2, CVector p3, CVector p4) {
+    constexpr int UNBOUNDED = 0;
+    CVector meeting;
+    // The library lets lines meet in an end that they share, even if they are one and the same.
+    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, UNBOUNDED))
+        return Failed(Verdict::Parallel);
+    return Found(plane, {meeting});
+}
+
+/// The way to another point of a line. The library takes a line for parallel to an axis if its
+/// ends differ by less than the tolerance: with these 10 km that is no angle that matters.
+CVector Sight(double dDirection) {
+    constexpr double LENGTH = 1e4;
+    return CVector(LENGTH * std::sin(dDirection), LENGTH * std::cos(dDirection));
+}
+
 } // namespace
+
+bool HasPosition(const CCoordinate& point) {
+    return point.GetN() != kNull && point.GetE() != kNull;
+}
 
 double Distance(const CCoordinate& a, const CCoordinate& b) {
     return CLocalPlane(a).ToVector(b).UNorm();
@@ -40,23 +68,30 @@ double Distance(const CCoordinate& a, const CCoordinate& b) {
 
 CResult IntersectLines(const CCoordinate& a1, const CCoordinate& a2, const CCoordinate& b1,
                        const CCoordinate& b2) {
+    if (!HavePositions(a1, a2, b1, b2))
+        return Failed(Verdict::NoPosition);
     if (IsSamePoint(a1, a2) || IsSamePoint(b1, b2))
         return Failed(Verdict::SamePoint);
     const CLocalPlane plane(a1);
-    CVector p1 = plane.ToVector(a1);
-    CVector p2 = plane.ToVector(a2);
-    CVector p3 = plane.ToVector(b1);
-    CVector p4 = plane.ToVector(b2);
-    CVector meeting;
-    constexpr int UNBOUNDED = 0;
-    // The library lets lines meet in an end that they share, even if they are one and the same.
-    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, UNBOUNDED))
-        return Failed(Verdict::Parallel);
-    return Found(plane, {meeting});
+    return Meet(plane, plane.ToVector(a1), plane.ToVector(a2), plane.ToVector(b1), plane.ToVector(b2));
+}
+
+CResult IntersectBearings(const CCoordinate& a, double dDirectionA, const CCoordinate& b,
+                          double dDirectionB) {
+    if (!HavePositions(a, b))
+        return Failed(Verdict::NoPosition);
+    if (IsSamePoint(a, b))
+        return Failed(Verdict::SamePoint);
+    const CLocalPlane plane(a);
+    CVector p1 = plane.ToVector(a);
+    CVector p3 = plane.ToVector(b);
+    return Meet(plane, p1, p1 + Sight(dDirectionA), p3, p3 + Sight(dDirectionB));
 }
 
 CResult IntersectLineCircle(const CCoordinate& p1, const CCoordinate& p2, const CCoordinate& centre,
                             double dRadius) {
+    if (!HavePositions(p1, p2, centre))
+        return Failed(Verdict::NoPosition);
     if (IsSamePoint(p1, p2))
         return Failed(Verdict::SamePoint);
     const CLocalPlane plane(p1);
@@ -74,6 +109,8 @@ CResult IntersectLineCircle(const CCoordinate& p1, const CCoordinate& p2, const 
 }
 
 CResult IntersectCircles(const CCoordinate& c1, double dRadius1, const CCoordinate& c2, double dRadius2) {
+    if (!HavePositions(c1, c2))
+        return Failed(Verdict::NoPosition);
     const CLocalPlane plane(c1);
     CVector first;
     CVector second;
@@ -95,6 +132,8 @@ CResult IntersectCircles(const CCoordinate& c1, double dRadius1, const CCoordina
 }
 
 CResult FindArcCentre(const CCoordinate& start, const CCoordinate& end, double dAngle) {
+    if (!HavePositions(start, end))
+        return Failed(Verdict::NoPosition);
     if (IsSamePoint(start, end))
         return Failed(Verdict::SamePoint);
     // Neither has a centre: no arc at all, and a circle that may lie anywhere.
@@ -105,6 +144,8 @@ CResult FindArcCentre(const CCoordinate& start, const CCoordinate& end, double d
 }
 
 CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end) {
+    if (!HavePositions(start, centre, end))
+        return Failed(Verdict::NoPosition);
     if (IsSamePoint(start, end))
         return Failed(Verdict::SamePoint);
     if (Distance(centre, start) < MIN_RADIUS || Distance(centre, end) < MIN_RADIUS)
@@ -119,7 +160,48 @@ CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, 
     return bSplit ? Found(plane, {first, second}) : Found(plane, {first});
 }
 
+Verdict FindCurve(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end,
+                  CCurve& curve) {
+    constexpr int TURNS_LEFT = 1;
+    CResult tangents = FindTangentCorners(start, centre, end);
+    if (tangents.verdict != Verdict::Found)
+        return tangents.verdict;
+    const CLocalPlane plane(centre);
+    curve.dBulge = CVector::CalcVertexBulge(plane.ToVector(start), plane.ToVector(end),
+                                            plane.ToVector(centre), TURNS_LEFT);
+    curve.dSweep = 4 * std::atan(curve.dBulge);
+    curve.dRadius = Distance(centre, end);
+    curve.dLength = curve.dRadius * curve.dSweep;
+    curve.corners = std::move(tangents.points);
+    return Verdict::Found;
+}
+
 CCoordinate FindPolarPoint(const CCoordinate& from, double dDirection, double dDistance) {
     const CLocalPlane plane(from);
     return plane.ToCoordinate(CVector(dDistance * std::sin(dDirection), dDistance * std::cos(dDirection)));
+}
+
+bool FindInverse(const CCoordinate& from, const CCoordinate& to, CInverse& inverse) {
+    if (!HavePositions(from, to) || IsSamePoint(from, to))
+        return false;
+    CVector way = CLocalPlane(from).ToVector(to);
+    // The library's angles go from x to y, a direction from north to east. As a unit vector even
+    // a short way is above the length below which the library sees no direction.
+    CVector northFirst(way.GetY(), way.GetX());
+    inverse = {way.UNorm(), CVector::Range0To360(northFirst.R_Unit().Angle())};
+    return true;
+}
+
+bool FindExtent(const std::vector<CNamedPoint>& points, CCoordinate& lo, CCoordinate& hi) {
+    bool bFound = false;
+    for (const CNamedPoint& named : points) {
+        CCoordinate point = named.point;
+        if (!HasPosition(point))
+            continue;
+        // The corners of a box must be set before it can be widened.
+        if (!std::exchange(bFound, true))
+            lo = hi = point;
+        point.AddExtent(lo, hi);
+    }
+    return bFound;
 }

@@ -31,10 +31,6 @@ bool IsControlCharacter(UINT nChar) {
 } // namespace
 
 // clang-format off
-BEGIN_MESSAGE_MAP(CNameEdit, CnEdit)
-    ON_WM_CHAR()
-END_MESSAGE_MAP()
-
 BEGIN_MESSAGE_MAP(CNumberEdit, CnEdit)
     ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
@@ -49,6 +45,10 @@ BEGIN_MESSAGE_MAP(CChoiceCombo, CnComboBox)
     ON_CONTROL_REFLECT(CBN_DROPDOWN, &CChoiceCombo::OnDropDown)
 END_MESSAGE_MAP()
 
+BEGIN_MESSAGE_MAP(CNameCombo, CChoiceCombo)
+    ON_CONTROL_REFLECT(CBN_EDITCHANGE, &CNameCombo::OnEditChange)
+END_MESSAGE_MAP()
+
 BEGIN_MESSAGE_MAP(CNoHeightButton, CIconButton)
     ON_CONTROL_REFLECT_EX(BN_CLICKED, &CNoHeightButton::OnClicked)
 END_MESSAGE_MAP()
@@ -61,20 +61,6 @@ BEGIN_MESSAGE_MAP(CDecimalsSpin, CnSpinButtonCtrl)
     ON_NOTIFY_REFLECT_EX(UDN_DELTAPOS, &CDecimalsSpin::OnDeltaPos)
 END_MESSAGE_MAP()
 // clang-format on
-
-void CNameEdit::PreSubclassWindow() {
-    CnEdit::PreSubclassWindow();
-    LimitText(LONGEST_NAME);
-}
-
-void CNameEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    if (nChar == L' ' || nChar == L',')
-        ::MessageBeep(MB_OK);
-    else if (nChar >= L'a' && nChar <= L'z')
-        DefWindowProc(WM_CHAR, nChar - L'a' + L'A', MAKELPARAM(nRepCnt, nFlags));
-    else
-        CnEdit::OnChar(nChar, nRepCnt, nFlags);
-}
 
 void CNumberEdit::PreSubclassWindow() {
     CnEdit::PreSubclassWindow();
@@ -116,6 +102,20 @@ void CChoiceCombo::PreSubclassWindow() {
 
 void CChoiceCombo::OnDropDown() {
     TVCloseSIP();
+}
+
+void CNameCombo::OnEditChange() {
+    CString strText;
+    GetWindowText(strText);
+    CString strName = strText;
+    if (strName.Remove(L' ') + strName.Remove(L',') > 0)
+        ::MessageBeep(MB_OK);
+    strName.MakeUpper();
+    if (strName == strText)
+        return;
+    const int nCaret = HIWORD(GetEditSel()) - (strText.GetLength() - strName.GetLength());
+    SetWindowText(strName);
+    SetEditSel(nCaret, nCaret);
 }
 
 void CNoHeightButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {

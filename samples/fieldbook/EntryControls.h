@@ -9,14 +9,6 @@
 #include "controls/nSpinButtonCtrl.h"
 #include "survey/AngleEdit.h"
 
-/// The name of a new point: letters become capitals, and what no name may have is refused.
-class CNameEdit : public CnEdit {
-protected:
-    void PreSubclassWindow() override;
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    DECLARE_MESSAGE_MAP()
-};
-
 /// A number: the tap that enters the field selects it all, so that typing replaces it.
 class CNumberEdit : public CnEdit {
 protected:
@@ -35,12 +27,18 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// A choice, or with an entry field a name of a point: the soft input panel makes room for the
-/// list that drops down.
+/// A choice: the soft input panel makes room for the list that drops down.
 class CChoiceCombo : public CnComboBox {
 protected:
     void PreSubclassWindow() override;
     afx_msg void OnDropDown();
+    DECLARE_MESSAGE_MAP()
+};
+
+/// The name of a point: letters become capitals, and what no name may have is refused.
+class CNameCombo : public CChoiceCombo {
+protected:
+    afx_msg void OnEditChange();
     DECLARE_MESSAGE_MAP()
 };
 

@@ -1,13 +1,22 @@
-// The application object: finds the points file and runs the main dialog.
+// The application object: finds its files and runs the main menu.
 #include <afxwin.h>
 
-#include "MainDlg.h"
-#include "Tesuvo.h"
+#include "FilePath.h"
+#include "MainMenu.h"
+#include "SettingsSheet.h"
 
 namespace {
 
 constexpr wchar_t TITLE[] = L"野帳";
-constexpr wchar_t DEFAULT_FILE[] = L"points.csv";
+constexpr wchar_t POINTS_FILE[] = L"points.csv";
+constexpr wchar_t HISTORY_FILE[] = L"history.dat";
+
+/// A file beside the program.
+CString OwnFile(const wchar_t* pszName) {
+    wchar_t szProgram[MAX_PATH] = {};
+    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+    return PathIn(FolderOf(szProgram), pszName);
+}
 
 class CFieldbookApp : public CWinApp {
 public:
@@ -22,23 +31,25 @@ CFieldbookApp theApp;
 
 BOOL CFieldbookApp::InitInstance() {
     SetRegistryKey(L"Fieldkit"); // the settings are kept there
-    CMainDlg dialog(PointsPath());
-    m_pMainWnd = &dialog;
-    dialog.DoModal();
-    return FALSE; // the dialog was the whole program: no message loop
+    const CString strPath = PointsPath();
+    CJob job(OwnFile(HISTORY_FILE));
+    job.history.Load();
+    job.settings = LoadSettings(*this);
+    if (job.settings.strFolder.IsEmpty())
+        job.settings.strFolder = FolderOf(strPath);
+    ApplySettings(job.settings);
+    CMainMenu menu(job, strPath);
+    m_pMainWnd = &menu;
+    menu.DoModal();
+    job.history.Save(); // if that fails, the next day begins without it
+    return FALSE;       // the menu was the whole program: no message loop
 }
 
 /// The file of the command line, else the one beside the program.
 CString CFieldbookApp::PointsPath() const {
     CString strPath = m_lpCmdLine;
     strPath.Trim(L" \"");
-    if (!strPath.IsEmpty())
-        return strPath;
-    wchar_t szProgram[MAX_PATH] = {};
-    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
-    CString strFolder;
-    TVResolveFilePath(szProgram, &strFolder, nullptr, nullptr);
-    return strFolder + L"\\" + DEFAULT_FILE;
+    return strPath.IsEmpty() ? OwnFile(POINTS_FILE) : strPath;
 }
 
 } // namespace

@@ -1,13 +1,14 @@
 #include "Journal.h"
 
 #include "Resource.h"
-#include "Text.h"
+#include "dialogs/ResMsgBox.h"
 #include "util/AsciiFile.h"
 
-CJournal::CJournal(const CString& strPointsPath) {
+void CJournal::SetPointsPath(const CString& strPointsPath) {
     const int nDot = strPointsPath.ReverseFind(L'.');
     const int nSlash = strPointsPath.ReverseFind(L'\\');
     m_strPath = (nDot > nSlash ? strPointsPath.Left(nDot) : strPointsPath) + L"_results.txt";
+    m_bWritable = true;
 }
 
 void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines) {
@@ -27,6 +28,6 @@ void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines
     } catch (CFileException* e) {
         e->Delete();
         m_bWritable = false;
-        AfxMessageBox(Text(IDS_NO_JOURNAL));
+        CResMsgBox().ErrorMsgBox(IDS_NO_JOURNAL);
     }
 }

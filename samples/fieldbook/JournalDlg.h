@@ -5,10 +5,11 @@
 #include "controls/nDialog.h"
 
 #include "Journal.h"
+#include "LineLists.h"
 #include "ListControls.h"
 
-/// A tree of the computations with their results; the lines of the result that is selected
-/// stand below.
+/// A tree of the computations with their results; the lines of the result that is selected stand
+/// below.
 class CJournalDlg : public CnDialog {
 public:
     /// @param journal must outlive the dialog

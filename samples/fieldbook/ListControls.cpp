@@ -1,6 +1,5 @@
 #include "ListControls.h"
 
-#include "JournalGroups.h"
 #include "Resource.h"
 #include "Text.h"
 
@@ -12,7 +11,6 @@ namespace {
 constexpr int NAME_WIDTH = 46;
 constexpr int COORDINATE_WIDTH = 78;
 constexpr int HEIGHT_WIDTH = 60;
-constexpr int ITEM_WIDTH = 112;
 constexpr int ROW_HEIGHT = 22; // what a pen hits without care
 
 } // namespace
@@ -20,10 +18,6 @@ constexpr int ROW_HEIGHT = 22; // what a pen hits without care
 // clang-format off
 BEGIN_MESSAGE_MAP(CPointListCtrl, CSelectListCtrl)
     ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, &CPointListCtrl::OnColumnClick)
-END_MESSAGE_MAP()
-
-BEGIN_MESSAGE_MAP(CResultList, CnListCtrl)
-    ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CJournalTree, CnTreeCtrl)
@@ -41,12 +35,19 @@ void CPointListCtrl::Fill() {
     InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, COORDINATE_WIDTH);
     InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, COORDINATE_WIDTH);
     InsertColumn(static_cast<int>(PointColumn::Z), L"Z", LVCFMT_RIGHT, HEIGHT_WIDTH);
-    std::vector<size_t> order(m_book.GetPoints().size());
-    std::iota(order.begin(), order.end(), size_t{0});
-    SetRows(order);
+    Refresh();
 }
 
-void CPointListCtrl::SetRows(const std::vector<size_t>& order) {
+std::vector<size_t> CPointListCtrl::Order() const {
+    if (m_column)
+        return OrderPoints(m_book.GetPoints(), *m_column);
+    std::vector<size_t> order(m_book.GetPoints().size());
+    std::iota(order.begin(), order.end(), size_t{0});
+    return order;
+}
+
+void CPointListCtrl::Refresh() {
+    const std::vector<size_t> order = Order();
     SetRedraw(FALSE);
     DeleteAllItems();
     for (size_t i = 0; i < order.size(); ++i)
@@ -64,42 +65,20 @@ void CPointListCtrl::InsertRow(int nRow, size_t nPoint) {
     SetItemText(nRow, static_cast<int>(PointColumn::Z), row.point.GetZString());
 }
 
+const CNamedPoint* CPointListCtrl::GetSelectedPoint() const {
+    const int nRow = GetNextItem(-1, LVNI_SELECTED);
+    return nRow < 0 ? nullptr : &m_book.GetPoints()[GetItemData(nRow)];
+}
+
 DWORD CPointListCtrl::GetItemAttribute(int nItem) {
     const CNamedPoint& row = m_book.GetPoints()[GetItemData(nItem)];
     return m_book.IsUsed(row.strName) ? static_cast<DWORD>(AttributeHighlight) : 0;
 }
 
 void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
-    const int nColumn = reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem;
-    SetRows(OrderPoints(m_book.GetPoints(), static_cast<PointColumn>(nColumn)));
+    m_column = static_cast<PointColumn>(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem);
+    Refresh();
     *pResult = 0;
-}
-
-void CResultList::PreSubclassWindow() {
-    CnListCtrl::PreSubclassWindow();
-    SetOption(OptionNoSelection);
-    InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, ITEM_WIDTH);
-    InsertColumn(1, Text(IDS_COLUMN_VALUE), LVCFMT_RIGHT, ITEM_WIDTH);
-}
-
-void CResultList::OnSize(UINT nType, int cx, int cy) {
-    CnListCtrl::OnSize(nType, cx, cy);
-    SetColumnWidth(1, cx - GetColumnWidth(0));
-}
-
-void CResultList::Show(const std::vector<CString>& lines) {
-    DeleteAllItems();
-    for (size_t i = 0; i < lines.size(); ++i) {
-        const auto [strItem, strValue] = SplitLine(lines[i]);
-        InsertItem(static_cast<int>(i), strItem);
-        SetItemText(static_cast<int>(i), 1, strValue);
-    }
-    // A sentence stands in the first column alone: then it has the whole width.
-    CRect rect;
-    GetClientRect(&rect);
-    const bool bSentence = lines.size() == 1;
-    SetColumnWidth(0, bSentence ? rect.Width() : ITEM_WIDTH);
-    SetColumnWidth(1, bSentence ? 0 : rect.Width() - ITEM_WIDTH);
 }
 
 void CJournalTree::PreSubclassWindow() {

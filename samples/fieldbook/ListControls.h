@@ -6,8 +6,9 @@
 #include "PointOrder.h"
 #include "controls/SelectListCtrl.h"
 #include "controls/nListBox.h"
-#include "controls/nListCtrl.h"
 #include "controls/nTreeCtrl.h"
+
+#include <optional>
 
 /// The points with their coordinates, those used in computations in cyan. A tap on a heading
 /// sorts by that column.
@@ -17,6 +18,10 @@ public:
     explicit CPointListCtrl(const CPointBook& book) : m_book(book) {}
     /// Makes the columns and shows the points in the book's order.
     void Fill();
+    /// Shows the points as they are now, in the order that the user has chosen.
+    void Refresh();
+    /// @return the point whose row is selected; null if none is. Valid until the book changes.
+    const CNamedPoint* GetSelectedPoint() const;
 
     DWORD GetItemAttribute(int nItem) override;
 
@@ -26,21 +31,11 @@ protected:
 
 private:
     void InsertRow(int nRow, size_t nPoint);
-    /// Sets the rows, each an index of a point.
-    void SetRows(const std::vector<size_t>& order);
+    /// The rows, each an index of a point.
+    std::vector<size_t> Order() const;
 
     const CPointBook& m_book;
-};
-
-/// The lines of a result: what and how much. Nothing in it can be selected.
-class CResultList : public CnListCtrl {
-public:
-    void Show(const std::vector<CString>& lines);
-
-protected:
-    void PreSubclassWindow() override;
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    DECLARE_MESSAGE_MAP()
+    std::optional<PointColumn> m_column; ///< By which the rows are sorted; at first by none.
 };
 
 /// The results of the day. A tap on a title opens and closes it, not only one on its small box.

@@ -1,10 +1,10 @@
 #include "PointEntryDlg.h"
 
-#include "PointFile.h"
+#include "BadLines.h"
 #include "Resource.h"
-#include "ShowResult.h"
 #include "Tesuvo.h"
 #include "Text.h"
+#include "dialogs/ResMsgBox.h"
 
 #include <iterator>
 
@@ -14,6 +14,16 @@ constexpr int ICON_UP = 4;
 
 /// What the names of a kind of points begin with, in the order of their texts.
 constexpr const wchar_t* KIND_PREFIXES[] = {L"T", L"K", L"BM", L"P"};
+
+/// A coordinate as it can be typed, with all decimals that the points file keeps; nothing for one
+/// that is missing.
+CString NumberText(double dValue) {
+    CString strText;
+    if (dValue == fieldkit::survey::kNull)
+        return strText;
+    strText.Format(L"%.6f", dValue);
+    return strText.TrimRight(L'0').TrimRight(L'.');
+}
 
 } // namespace
 
@@ -44,6 +54,7 @@ void CPointEntryDlg::AttachControls() {
     constexpr DWORD NO_PANEL = 0;
     m_kind.Attach(IDC_KIND, this, NO_PANEL);
     m_name.Attach(IDC_NAME, this, SipOptionMode0);
+    m_job.history.GetStack().SetupList(&m_name);
     m_n.Attach(IDC_N, this, SipOptionMode1);
     m_e.Attach(IDC_E, this, SipOptionMode1);
     m_z.Attach(IDC_Z, this, SipOptionMode1);
@@ -66,29 +77,48 @@ void CPointEntryDlg::OnNoHeight() {
     m_z.EnableWindow(!m_noHeight.GetPush());
 }
 
+void CPointEntryDlg::ShowPoint(const CNamedPoint& point) {
+    m_name.SetWindowText(point.strName);
+    m_n.SetWindowText(NumberText(point.point.GetN()));
+    m_e.SetWindowText(NumberText(point.point.GetE()));
+    m_z.SetWindowText(NumberText(point.point.GetZ()));
+}
+
+bool CPointEntryDlg::IsBlank() const {
+    return TextOf(m_n).IsEmpty() && TextOf(m_e).IsEmpty() && TextOf(m_z).IsEmpty();
+}
+
+void CPointEntryDlg::OnOK() {
+    if (IsBlank() || Add())
+        CnDialog::OnOK();
+}
+
 void CPointEntryDlg::OnAdd() {
+    Add();
+}
+
+bool CPointEntryDlg::Add() {
     CNamedPoint point;
     const CString strZ = m_noHeight.GetPush() ? CString() : TextOf(m_z);
     const LineFault fault = ParsePoint(TextOf(m_name), TextOf(m_n), TextOf(m_e), strZ, point);
-    if (fault != LineFault::None)
-        AfxMessageBox(Text(FaultTextId(fault)));
-    else if (!m_job.book.Add(point))
-        AfxMessageBox(Text(IDS_NAME_TAKEN, point.strName.GetString()));
-    else
-        Take(point);
+    if (fault != LineFault::None) {
+        CResMsgBox().ErrorMsgBox(FaultTextId(fault));
+        return false;
+    }
+    if (!Take(point)) {
+        CResMsgBox().ErrorMsgBox(Text(IDS_NAME_TAKEN, point.strName.GetString()));
+        return false;
+    }
+    m_job.history.Add(point.strName);
+    return true;
 }
 
-/// The point is in the book already; the file follows, and the fields are made ready for the next.
-void CPointEntryDlg::Take(const CNamedPoint& point) {
-    try {
-        AppendPoint(m_job.strPath, point);
-    } catch (CFileException* e) {
-        e->Delete();
-        AfxMessageBox(Text(IDS_NOT_WRITTEN));
-    }
+/// The fields are made ready for the next point.
+bool CPointEntryDlg::Take(const CNamedPoint& point) {
+    if (!m_job.book.Add(point))
+        return false;
     m_message.SetWindowText(Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount()));
-    m_name.SetWindowText(m_job.book.NextName(point.strName));
-    for (CNumberEdit* pField : {&m_n, &m_e, &m_z})
-        pField->SetWindowText(L"");
+    ShowPoint({m_job.book.NextName(point.strName), CCoordinate()});
     GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
+    return true;
 }

@@ -7,7 +7,7 @@
 #include "EntryControls.h"
 #include "Job.h"
 
-/// Takes points over into the book and the points file, one after the other.
+/// Takes points over into the book, one after the other. Each coordinate may be left blank.
 class CPointEntryDlg : public CnDialog {
 public:
     /// @param job must outlive the dialog
@@ -15,6 +15,15 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    /// Takes over what has been typed, too.
+    void OnOK() override;
+    /// Takes over the point that has been entered.
+    /// @return false, with nothing changed, if another point has its name
+    virtual bool Take(const CNamedPoint& point);
+
+    void ShowPoint(const CNamedPoint& point);
+    /// @return false if the fields hold no good point, which the user is told
+    bool Add();
 
     afx_msg void OnAdd();
     /// Proposes the next free name of the kind.
@@ -22,14 +31,15 @@ protected:
     afx_msg void OnNoHeight();
     DECLARE_MESSAGE_MAP()
 
+    CJob& m_job;
+
 private:
     void AttachControls();
-    void Take(const CNamedPoint& point);
     CString TextOf(const CWnd& control) const;
+    bool IsBlank() const;
 
-    CJob& m_job;
     CChoiceCombo m_kind;
-    CNameEdit m_name;
+    CNameCombo m_name;
     CNumberEdit m_n;
     CNumberEdit m_e;
     CNumberEdit m_z;

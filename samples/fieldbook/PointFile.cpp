@@ -1,37 +1,52 @@
 #include "PointFile.h"
 
+#include "Export.h"
+#include "FileReplacement.h"
 #include "LineReader.h"
 
 namespace {
 
-LineFault TakeLine(const CString& strLine, CPointBook& book) {
-    CNamedPoint point;
-    const LineFault fault = ParsePointLine(strLine, point);
-    if (fault != LineFault::None)
-        return fault;
-    return book.Add(point) ? LineFault::None : LineFault::DuplicateName;
-}
+/// Takes the lines of one file in their order.
+class CPointReader {
+public:
+    explicit CPointReader(CPointBook& book) : m_book(book) {}
 
-bool EndsInsideALine(CAsciiFile& file) {
-    if (file.GetLength() == 0)
-        return false;
-    file.Seek(-1, CFile::end);
-    char ch = 0;
-    file.Read(&ch, 1);
-    return ch != '\r' && ch != '\n';
-}
+    LineFault Take(const CString& strLine) {
+        if (strLine.IsEmpty())
+            return LineFault::None;
+        if (!m_bFormatKnown) {
+            m_bFormatKnown = RecogniseFormat(strLine, m_format);
+            if (m_format.bHeader)
+                return LineFault::None;
+        }
+        CNamedPoint point;
+        const LineFault fault = ParsePointLine(strLine, m_format.chSeparator, point);
+        if (fault != LineFault::None)
+            return fault;
+        return m_book.Add(point) ? LineFault::None : LineFault::DuplicateName;
+    }
+
+    const CLineFormat& GetFormat() const { return m_format; }
+
+private:
+    CPointBook& m_book;
+    CLineFormat m_format;
+    bool m_bFormatKnown = false;
+};
 
 } // namespace
 
-std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book) {
-    std::vector<CBadLine> badLines;
-    CLineReader reader(file);
+CReadReport ReadPoints(CAsciiFile& file, CPointBook& book) {
+    CReadReport report;
+    CPointReader points(book);
+    CLineReader lines(file);
     CString strLine;
     for (int nLine = 1;; ++nLine) {
         LineFault fault = LineFault::None;
-        switch (reader.Next(strLine)) {
+        switch (lines.Next(strLine)) {
         case CLineReader::Line::End:
-            return badLines;
+            report.format = points.GetFormat();
+            return report;
         case CLineReader::Line::TooLong:
             fault = LineFault::TooLong;
             break;
@@ -39,24 +54,29 @@ std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book) {
             fault = LineFault::NotTerminated;
             break;
         case CLineReader::Line::Text:
-            if (!strLine.IsEmpty() && !(nLine == 1 && IsHeaderLine(strLine)))
-                fault = TakeLine(strLine, book);
+            fault = points.Take(strLine);
             break;
         }
         if (fault != LineFault::None)
-            badLines.push_back({nLine, fault});
+            report.badLines.push_back({nLine, fault});
     }
 }
 
-void AppendPoint(const CString& strPath, const CNamedPoint& point) {
-    CAsciiFile file;
-    CFileException error;
-    if (!file.Open(strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite, &error))
-        AfxThrowFileException(error.m_cause, error.m_lOsError, strPath);
-    const bool bEndMissing = EndsInsideALine(file);
-    file.SeekToEnd();
-    if (bEndMissing)
-        file.WriteString(L"");
-    file.WriteString(FormatPointLine(point));
-    file.Close();
+void SavePoints(const CString& strPath, const CPointBook& book, const CLineFormat& format) {
+    ExportPoints(strPath, book.GetPoints(), {Column::Name, Column::N, Column::E, Column::Z}, format);
+}
+
+bool KeepBackup(const CString& strPath) {
+    try {
+        CFile original(strPath, CFile::modeRead | CFile::shareDenyWrite);
+        RewriteFile(strPath + L".bak", [&original](CFile& copy) {
+            char block[4096];
+            while (const UINT nRead = original.Read(block, sizeof block))
+                copy.Write(block, nRead);
+        });
+        return true;
+    } catch (CFileException* pError) {
+        pError->Delete();
+        return false;
+    }
 }

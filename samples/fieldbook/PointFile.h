@@ -1,5 +1,5 @@
 /// @file
-/// Reading of points files: text in the OEM code page, one point a line.
+/// Reading and writing of points files: text in the OEM code page, one point a line.
 #pragma once
 
 #include "PointLine.h"
@@ -13,13 +13,26 @@ struct CBadLine {
     LineFault fault;
 };
 
-/// Adds the points of a file to a book. Empty lines and a header in line 1 are skipped.
-/// @param file open for reading
-/// @return the lines that gave no point; everything else is in the book
-/// @throw CFileException* as CFile::Read; the points read so far are in the book
-std::vector<CBadLine> ReadPoints(CAsciiFile& file, CPointBook& book);
+/// What there is to tell of a file that was read.
+struct CReadReport {
+    std::vector<CBadLine> badLines; ///< The lines that gave no point.
+    CLineFormat format;             ///< As the file is written; it can be saved in the same way.
+};
 
-/// Adds a point as the last line of a file, which is made if there is none. A last line without
-/// an end gets one, so that it stays a line of its own.
-/// @throw CFileException* if the file cannot be opened or written
-void AppendPoint(const CString& strPath, const CNamedPoint& point);
+/// Adds the points of a file to a book. Separator and header are recognised by the first line
+/// of three fields and more. Empty lines and the header are skipped.
+/// @param file open for reading
+/// @return what was left out; everything else is in the book
+/// @throw CFileException* as CFile::Read; the points read so far are in the book
+CReadReport ReadPoints(CAsciiFile& file, CPointBook& book);
+
+/// Writes all points of a book in place of the file that may be there. That one stays whole
+/// until the new one is complete: a full disk or a crash loses nothing. The book stays marked
+/// as modified.
+/// @throw CFileException* if the file cannot be written; the old one is as it was
+void SavePoints(const CString& strPath, const CPointBook& book, const CLineFormat& format);
+
+/// Copies a file to one with ".bak" behind its name, before lines that could not be read are
+/// lost by saving. An older copy is replaced.
+/// @return false if that failed; an older copy is as it was
+bool KeepBackup(const CString& strPath);

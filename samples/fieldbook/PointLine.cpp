@@ -2,41 +2,87 @@
 
 #include "Tesuvo.h"
 
+#include <cmath>
 #include <vector>
+
+using fieldkit::survey::kNull;
 
 namespace {
 
-constexpr wchar_t HEADER[] = L"name,N,E,Z";
 constexpr size_t MIN_FIELDS = 3;
 constexpr size_t MAX_FIELDS = 4;
+// Together they keep every line within the 511 bytes that the file class writes.
+constexpr int MAX_NAME = 64;
+constexpr double NUMBER_LIMIT = 1e9;
 
-std::vector<CString> SplitAtCommas(const CString& strLine) {
+std::vector<CString> Split(const CString& strLine, wchar_t chSeparator) {
     std::vector<CString> fields;
     int nStart = 0;
-    for (int nComma = strLine.Find(L','); nComma >= 0; nComma = strLine.Find(L',', nStart)) {
-        fields.push_back(strLine.Mid(nStart, nComma - nStart));
-        nStart = nComma + 1;
+    for (int nEnd = strLine.Find(chSeparator); nEnd >= 0; nEnd = strLine.Find(chSeparator, nStart)) {
+        fields.push_back(strLine.Mid(nStart, nEnd - nStart));
+        nStart = nEnd + 1;
     }
     fields.push_back(strLine.Mid(nStart));
     return fields;
 }
 
+bool IsOneOf(const CString& strField, const std::vector<const wchar_t*>& words) {
+    for (const wchar_t* pszWord : words)
+        if (strField.CompareNoCase(pszWord) == 0)
+            return true;
+    return false;
+}
+
+/// Only titles that tell the order of the columns: with E before N, all points would be
+/// mirrored. X is north, as in the country's plane coordinates.
+bool IsHeader(const std::vector<CString>& fields) {
+    return IsOneOf(fields[1], {L"N", L"X", L"X座標"}) && IsOneOf(fields[2], {L"E", L"Y", L"Y座標"});
+}
+
 CString CleanName(const CString& strName) {
     CString strClean;
     for (int i = 0; i < strName.GetLength(); ++i)
-        if (strName[i] > L' ' && strName[i] != L',')
+        if (strName[i] > L' ' && strName[i] != L',' && strName[i] != L';')
             strClean += strName[i];
     return strClean;
 }
 
-} // namespace
-
-bool IsHeaderLine(const CString& strLine) {
-    return strLine.CompareNoCase(HEADER) == 0;
+/// @param dValue the null value for a blank text; written on success only
+bool ParseNumber(CString strText, double& dValue) {
+    if (strText.Trim().IsEmpty()) {
+        dValue = kNull;
+        return true;
+    }
+    if (strText.FindOneOf(L",，") >= 0 && strText.FindOneOf(L".．") < 0)
+        return false;
+    return TVString2Double(&strText, &dValue) != FALSE;
 }
 
-LineFault ParsePointLine(const CString& strLine, CNamedPoint& point) {
-    const std::vector<CString> fields = SplitAtCommas(strLine);
+/// Whether a text is the same after its way through a file.
+bool SurvivesCodePage(const CString& strText) {
+    constexpr int MAX_BYTES = 4; // of a character, in any code page
+    char bytes[MAX_NAME * MAX_BYTES + 1];
+    wchar_t back[MAX_NAME + 1];
+    return ::WideCharToMultiByte(CP_OEMCP, 0, strText, -1, bytes, sizeof bytes, nullptr, nullptr) != 0 &&
+           ::MultiByteToWideChar(CP_OEMCP, 0, bytes, -1, back, MAX_NAME + 1) != 0 && strText == back;
+}
+
+} // namespace
+
+bool RecogniseFormat(const CString& strLine, CLineFormat& format) {
+    // Commas last: between semicolons they can be part of a number.
+    for (const wchar_t chSeparator : {L';', L','}) {
+        const std::vector<CString> fields = Split(strLine, chSeparator);
+        if (fields.size() < MIN_FIELDS)
+            continue;
+        format = CLineFormat{chSeparator, IsHeader(fields)};
+        return true;
+    }
+    return false;
+}
+
+LineFault ParsePointLine(const CString& strLine, wchar_t chSeparator, CNamedPoint& point) {
+    const std::vector<CString> fields = Split(strLine, chSeparator);
     if (fields.size() < MIN_FIELDS)
         return LineFault::TooFewFields;
     if (fields.size() > MAX_FIELDS)
@@ -47,31 +93,30 @@ LineFault ParsePointLine(const CString& strLine, CNamedPoint& point) {
 
 LineFault ParsePoint(const CString& strName, const CString& strN, const CString& strE, const CString& strZ,
                      CNamedPoint& point) {
-    const CString strClean = CleanName(strName);
-    if (strClean.IsEmpty())
+    CNamedPoint candidate{CleanName(strName), CCoordinate()};
+    if (candidate.strName.IsEmpty())
         return LineFault::NoName;
     double dN = 0;
     double dE = 0;
-    if (!TVString2Double(&strN, &dN) || !TVString2Double(&strE, &dE))
+    double dZ = 0;
+    if (!ParseNumber(strN, dN) || !ParseNumber(strE, dE) || !ParseNumber(strZ, dZ))
         return LineFault::BadNumber;
-    CCoordinate coordinate;
-    coordinate.SetN(dN);
-    coordinate.SetE(dE);
-    CString strHeight = strZ;
-    if (!strHeight.Trim().IsEmpty()) {
-        double dZ = 0;
-        if (!TVString2Double(&strHeight, &dZ))
-            return LineFault::BadNumber;
-        coordinate.SetZ(dZ);
-    }
-    point = CNamedPoint{strClean, coordinate};
-    return LineFault::None;
+    candidate.point.SetN(dN);
+    candidate.point.SetE(dE);
+    candidate.point.SetZ(dZ);
+    const LineFault fault = CheckPoint(candidate);
+    if (fault == LineFault::None)
+        point = candidate;
+    return fault;
 }
 
-CString FormatPointLine(const CNamedPoint& point) {
-    CString strLine;
-    strLine.Format(L"%s,%.6f,%.6f,", point.strName.GetString(), point.point.GetN(), point.point.GetE());
-    if (point.point.IsExistZ())
-        strLine.AppendFormat(L"%.6f", point.point.GetZ());
-    return strLine;
+LineFault CheckPoint(const CNamedPoint& point) {
+    if (point.strName.IsEmpty())
+        return LineFault::NoName;
+    if (point.strName.GetLength() > MAX_NAME || !SurvivesCodePage(point.strName))
+        return LineFault::BadName;
+    for (const double dMember : {point.point.GetN(), point.point.GetE(), point.point.GetZ()})
+        if (!(std::fabs(dMember) < NUMBER_LIMIT))
+            return LineFault::BadNumber;
+    return LineFault::None;
 }

@@ -5,20 +5,29 @@
 #include "controls/nDialog.h"
 
 #include "EntryControls.h"
+#include "Job.h"
 #include "ListControls.h"
 
-/// A full-screen dialog with a row for each point. The OK button is in the title bar.
+/// A full-screen dialog with a row for each point, where points can be changed and removed. The
+/// OK button is in the title bar.
 class CPointListDlg : public CnDialog {
 public:
-    /// @param book must outlive the dialog
-    CPointListDlg(const CPointBook& book, CWnd* pParent);
+    /// @param job must outlive the dialog
+    CPointListDlg(CJob& job, CWnd* pParent);
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    afx_msg void OnEdit();
+    afx_msg void OnRemove();
+    DECLARE_MESSAGE_MAP()
 
 private:
-    const CPointBook& m_book;
+    /// @return the name in the row that is selected; empty if none is, which the user is told
+    CString SelectedName() const;
+    void ShowLegend();
+
+    CJob& m_job;
     CPointListCtrl m_list;
     CResultLine m_legend;
 };

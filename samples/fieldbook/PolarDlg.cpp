@@ -1,10 +1,11 @@
 #include "PolarDlg.h"
 
 #include "AngleText.h"
-#include "Compute.h"
+#include "ReportDlg.h"
 #include "Resource.h"
 #include "Tesuvo.h"
 #include "Text.h"
+#include "dialogs/ResMsgBox.h"
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CPolarDlg, CnDialog)
@@ -19,12 +20,13 @@ CPolarDlg::CPolarDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POLAR, pParent), m
 BOOL CPolarDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     AttachControls();
-    for (const CNamedPoint& point : m_job.book.GetPoints())
-        m_from.AddString(point.strName);
-    m_from.SetCurSel(0);
+    m_job.history.GetStack().SetupList(&m_from);
+    if (m_from.GetCount() > 0)
+        m_from.SetCurSel(0); // the name entered last
     m_direction.SetAngle(0);
     m_turn.SetAngle(0);
-    return TRUE;
+    GetDlgItem(IDC_COMPUTE)->SetFocus(); // the panel comes with the first field that is tapped
+    return FALSE;
 }
 
 void CPolarDlg::AttachControls() {
@@ -34,11 +36,6 @@ void CPolarDlg::AttachControls() {
     m_direction.Attach(IDC_DIRECTION, this, nMode, SipOptionMode1);
     m_turn.Attach(IDC_TURN, this, nMode, SipOptionMode1);
     m_distance.Attach(IDC_DISTANCE, this, SipOptionMode1);
-    m_result.SubclassDlgItem(IDC_RESULT, this);
-    m_resultN.SubclassDlgItem(IDC_RESULT_N, this);
-    m_resultE.SubclassDlgItem(IDC_RESULT_E, this);
-    m_resultN.SetOption(0);
-    m_resultE.SetOption(0);
 }
 
 void CPolarDlg::OnCompute() {
@@ -46,30 +43,31 @@ void CPolarDlg::OnCompute() {
     GetDlgItem(IDC_COMPUTE)->SetFocus();
     CString strName;
     m_from.GetWindowText(strName);
-    const CCoordinate* pFrom = m_job.book.Find(strName);
-    if (pFrom == nullptr) {
-        AfxMessageBox(Text(IDS_UNKNOWN_POINT, strName.GetString()));
+    const CCoordinate* const pFrom = m_job.book.Find(strName);
+    if (pFrom == nullptr || !HasPosition(*pFrom)) {
+        const UINT nTextId = pFrom == nullptr ? IDS_UNKNOWN_POINT : IDS_POINT_WITHOUT_NE;
+        CResMsgBox().ErrorMsgBox(Text(nTextId, strName.GetString()));
         return;
     }
     CString strDistance;
     m_distance.GetWindowText(strDistance);
     double dDistance = 0;
     if (!TVString2Double(&strDistance, &dDistance) || dDistance < 0) {
-        AfxMessageBox(Text(IDS_BAD_DISTANCE));
+        CResMsgBox().ErrorMsgBox(IDS_BAD_DISTANCE);
         return;
     }
-    const double dDirection = m_direction.GetAngle() + m_turn.GetAngle();
     m_job.book.MarkUsed(strName);
-    Show(DirectionText(dDirection, m_job.settings.bTenths != 0),
-         FindPolarPoint(*pFrom, dDirection, dDistance));
+    m_job.history.Add(strName);
+    ShowReport(m_job, Report({strName, *pFrom}, dDistance), *this);
 }
 
-void CPolarDlg::Show(const CString& strDirection, const CCoordinate& point) {
-    const CString strLine = Text(IDS_DIRECTION_LINE, strDirection.GetString());
-    const CString strN = L"N  " + point.GetNString();
-    const CString strE = L"E  " + point.GetEString();
-    m_result.SetWindowText(strLine);
-    m_resultN.SetWindowText(strN);
-    m_resultE.SetWindowText(strE);
-    m_job.journal.Append(Text(IDS_POLAR), {strLine, L"  " + strN, L"  " + strE});
+CReport CPolarDlg::Report(const CNamedPoint& from, double dDistance) {
+    const double dDirection = m_direction.GetAngle() + m_turn.GetAngle();
+    const CCoordinate point = FindPolarPoint(from.point, dDirection, dDistance);
+    CReport report = MakeReport(IDS_POLAR, IDS_NEW_POINT, {Verdict::Found, {point}});
+    const CString strDirection = DirectionText(dDirection, m_job.settings.bTenths != 0);
+    report.notes.push_back(Text(IDS_DIRECTION_LINE, strDirection.GetString()));
+    report.drawing.AddPoint(from.strName, from.point, Role::Given);
+    report.drawing.AddLine(from.point, point, false, Role::Given);
+    return report;
 }

@@ -6,9 +6,10 @@
 
 #include "EntryControls.h"
 #include "Job.h"
+#include "Report.h"
 
-/// Adds an angle to a direction, both typed as d.mmss and shown in degrees, minutes and
-/// seconds, and goes a distance that way.
+/// Adds an angle to a direction, both typed as d.mmss and shown in degrees, minutes and seconds,
+/// and goes a distance that way.
 class CPolarDlg : public CnDialog {
 public:
     /// @param job must outlive the dialog
@@ -21,14 +22,11 @@ protected:
 
 private:
     void AttachControls();
-    void Show(const CString& strDirection, const CCoordinate& point);
+    CReport Report(const CNamedPoint& from, double dDistance);
 
     CJob& m_job;
-    CChoiceCombo m_from;
+    CNameCombo m_from;
     CDirectionEdit m_direction;
     CDirectionEdit m_turn;
     CNumberEdit m_distance;
-    CResultLine m_result;
-    CResultLine m_resultN;
-    CResultLine m_resultE;
 };

@@ -1,76 +1,93 @@
 #include "Questions.h"
 
+#include "Compute.h"
+#include "NameDlg.h"
 #include "PackedAngle.h"
 #include "Resource.h"
 #include "Tesuvo.h"
 #include "Text.h"
 #include "dialogs/InputDlg.h"
+#include "dialogs/ResMsgBox.h"
 
 namespace {
 
-constexpr int LETTERS = 0;
-constexpr int DIGITS = 1;
-
-/// The soft input panel while a question is on the screen: its entry field is a plain one.
-class CPanel {
+/// The soft input panel with its digits: the entry field of the dialog is a plain one.
+class CDigitPanel {
 public:
-    explicit CPanel(int nMode) { TVShowSIP(nMode); }
-    ~CPanel() { TVCloseSIP(); }
-    CPanel(const CPanel&) = delete;
-    CPanel& operator=(const CPanel&) = delete;
+    CDigitPanel() {
+        constexpr int DIGITS = 1;
+        TVShowSIP(DIGITS);
+    }
+    ~CDigitPanel() { TVCloseSIP(); }
+    CDigitPanel(const CDigitPanel&) = delete;
+    CDigitPanel& operator=(const CDigitPanel&) = delete;
 };
-
-INT_PTR RunWithPanel(CDialog& dialog, int nPanel) {
-    const CPanel panel(nPanel);
-    return dialog.DoModal();
-}
 
 } // namespace
 
 void CQuestions::Begin(UINT nTitleId) {
     m_nTitleId = nTitleId;
-    m_pointNames.clear();
+    m_points.clear();
 }
 
-bool CQuestions::Ask(UINT nQuestionId, int nPanel, const Check& check) {
+bool CQuestions::Ask(UINT nQuestionId, const Put& put, const Check& check) {
     CString strAnswer = m_lastAnswers[nQuestionId];
     for (;;) {
-        CInputDlg dialog(static_cast<int>(nQuestionId), static_cast<int>(m_nTitleId), &m_parent);
-        dialog.SetString(strAnswer);
-        if (RunWithPanel(dialog, nPanel) != IDOK)
+        if (!put(strAnswer))
             return false;
-        strAnswer = dialog.GetString();
         const CString strProblem = check(strAnswer);
         if (strProblem.IsEmpty())
             break;
-        AfxMessageBox(strProblem);
+        CResMsgBox().ErrorMsgBox(strProblem);
     }
     m_lastAnswers[nQuestionId] = strAnswer;
     return true;
 }
 
+bool CQuestions::AskNumber(UINT nQuestionId, const Check& check) {
+    const auto put = [&](CString& strAnswer) {
+        CInputDlg dialog(static_cast<int>(nQuestionId), static_cast<int>(m_nTitleId), &m_parent);
+        dialog.SetString(strAnswer);
+        const CDigitPanel panel;
+        if (dialog.DoModal() != IDOK)
+            return false;
+        strAnswer = dialog.GetString();
+        return true;
+    };
+    return Ask(nQuestionId, put, check);
+}
+
 bool CQuestions::AskPoint(UINT nQuestionId, CCoordinate& point) {
-    return Ask(nQuestionId, LETTERS, [&](const CString& strAnswer) {
-        CString strName = strAnswer;
-        strName.Remove(L' '); // the names in the book have no blanks either
-        const CCoordinate* pFound = m_book.Find(strName);
+    const auto put = [&](CString& strName) {
+        CNameDlg dialog(Text(nQuestionId), Text(m_nTitleId), m_job.history, &m_parent);
+        dialog.SetName(strName);
+        if (dialog.DoModal() != IDOK)
+            return false;
+        strName = dialog.GetName();
+        return true;
+    };
+    return Ask(nQuestionId, put, [&](const CString& strName) {
+        const CCoordinate* const pFound = m_job.book.Find(strName);
         if (pFound == nullptr)
             return Text(IDS_UNKNOWN_POINT, strName.GetString());
+        if (!HasPosition(*pFound))
+            return Text(IDS_POINT_WITHOUT_NE, strName.GetString());
         point = *pFound;
-        m_pointNames.push_back(strName);
+        m_points.push_back({strName, point});
+        m_job.history.Add(strName);
         return CString();
     });
 }
 
 bool CQuestions::AskRadius(UINT nQuestionId, double& dRadius) {
-    return Ask(nQuestionId, DIGITS, [&](const CString& strAnswer) {
+    return AskNumber(nQuestionId, [&](const CString& strAnswer) {
         const bool bGood = TVString2Double(&strAnswer, &dRadius) && dRadius > 0;
         return bGood ? CString() : Text(IDS_BAD_RADIUS);
     });
 }
 
 bool CQuestions::AskAngle(UINT nQuestionId, double& dAngle) {
-    return Ask(nQuestionId, DIGITS, [&](const CString& strAnswer) {
+    return AskNumber(nQuestionId, [&](const CString& strAnswer) {
         return ParsePackedAngle(strAnswer, dAngle) ? CString() : Text(IDS_BAD_ANGLE);
     });
 }

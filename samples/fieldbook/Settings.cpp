@@ -2,6 +2,7 @@
 
 #include "Tesuvo.h"
 
+#include <cwchar>
 #include <iterator>
 
 namespace {
@@ -9,6 +10,11 @@ namespace {
 constexpr wchar_t SECTION[] = L"Settings";
 constexpr wchar_t TENTHS[] = L"Tenths";
 constexpr wchar_t TOLERANCE[] = L"Tolerance";
+constexpr wchar_t FOLDER[] = L"Folder";
+constexpr wchar_t COLUMNS[] = L"Columns";
+
+/// The letters of the columns, in the order of Column.
+constexpr wchar_t COLUMN_LETTERS[] = L"PNEZ-";
 
 // All applications of the device read the decimals of coordinates here: their number minus one.
 constexpr wchar_t SHARED_SETTINGS[] = L"Software\\Tesuvo\\Common";
@@ -18,6 +24,22 @@ constexpr int SHARED_DECIMALS_ID = 1280;
 int LoadIndex(CWinApp& app, const wchar_t* pszName, size_t nCount) {
     const UINT nIndex = app.GetProfileInt(SECTION, pszName, 0);
     return nIndex < nCount ? static_cast<int>(nIndex) : 0;
+}
+
+CString LettersOf(const std::vector<Column>& columns) {
+    CString strLetters;
+    for (const Column column : columns)
+        strLetters += COLUMN_LETTERS[static_cast<size_t>(column)];
+    return strLetters;
+}
+
+/// @return the columns of letters that mean something
+std::vector<Column> ColumnsOf(const CString& strLetters) {
+    std::vector<Column> columns;
+    for (int i = 0; i < strLetters.GetLength(); ++i)
+        if (const wchar_t* const pszFound = std::wcschr(COLUMN_LETTERS, strLetters[i]))
+            columns.push_back(static_cast<Column>(pszFound - COLUMN_LETTERS));
+    return columns;
 }
 
 bool SaveDecimals(int nDecimals) {
@@ -33,11 +55,17 @@ CSettings LoadSettings(CWinApp& app) {
     settings.nDecimals = TVGetCommonRegInt(SHARED_DECIMALS_ID) + 1;
     settings.bTenths = LoadIndex(app, TENTHS, 2);
     settings.nTolerance = LoadIndex(app, TOLERANCE, std::size(TOLERANCES));
+    settings.strFolder = app.GetProfileString(SECTION, FOLDER);
+    const std::vector<Column> columns = ColumnsOf(app.GetProfileString(SECTION, COLUMNS));
+    if (!columns.empty())
+        settings.columns = columns;
     return settings;
 }
 
 bool SaveSettings(CWinApp& app, const CSettings& settings) {
     const bool bShared = SaveDecimals(settings.nDecimals);
     return app.WriteProfileInt(SECTION, TENTHS, settings.bTenths) &&
-           app.WriteProfileInt(SECTION, TOLERANCE, settings.nTolerance) && bShared;
+           app.WriteProfileInt(SECTION, TOLERANCE, settings.nTolerance) &&
+           app.WriteProfileString(SECTION, FOLDER, settings.strFolder) &&
+           app.WriteProfileString(SECTION, COLUMNS, LettersOf(settings.columns)) && bShared;
 }

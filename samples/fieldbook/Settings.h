@@ -2,6 +2,8 @@
 /// The settings that the user makes, and where they are kept.
 #pragma once
 
+#include "Export.h"
+
 #include <afxwin.h>
 
 constexpr int MIN_DECIMALS = 1;
@@ -15,6 +17,8 @@ struct CSettings {
     int nDecimals = 3;  ///< Of coordinates: the device's shared setting, MIN_ to MAX_DECIMALS.
     int bTenths = 0;    ///< Whether seconds are shown with their tenths; 0 or 1.
     int nTolerance = 0; ///< Index into TOLERANCES.
+    CString strFolder;  ///< Where the file dialogs begin; empty if none has been chosen yet.
+    std::vector<Column> columns = {Column::Name, Column::N, Column::E, Column::Z}; ///< Of the export.
 };
 
 /// @param app whose profile has the settings that are not shared

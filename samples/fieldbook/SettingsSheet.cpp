@@ -1,7 +1,7 @@
 #include "SettingsSheet.h"
 
 #include "Resource.h"
-#include "Text.h"
+#include "dialogs/ResMsgBox.h"
 #include "geometry/Vector.h"
 
 // clang-format off
@@ -24,8 +24,7 @@ INT_PTR CSettingsSheet::DoModal() {
     if (nResult == IDOK) {
         m_settings = m_edited;
         ApplySettings(m_settings);
-        if (!SaveSettings(*AfxGetApp(), m_settings))
-            AfxMessageBox(Text(IDS_NOT_SAVED));
+        KeepSettings(m_settings);
     }
     return nResult;
 }
@@ -33,6 +32,11 @@ INT_PTR CSettingsSheet::DoModal() {
 void CSettingsSheet::OnDestroy() {
     m_nLastPage = static_cast<UINT>(GetActiveIndex());
     CnPropertySheet::OnDestroy();
+}
+
+void KeepSettings(const CSettings& settings) {
+    if (!SaveSettings(*AfxGetApp(), settings))
+        CResMsgBox().ErrorMsgBox(IDS_NOT_SAVED);
 }
 
 void ApplySettings(const CSettings& settings) {

@@ -6,8 +6,8 @@
 
 #include "SettingsPages.h"
 
-/// Takes the settings over, keeps them and puts them into force when its OK button, in the
-/// title bar, is tapped.
+/// Takes the settings over, keeps them and puts them into force when its OK button, in the title
+/// bar, is tapped.
 class CSettingsSheet : public CnPropertySheet {
 public:
     /// @param settings  changed by OK
@@ -28,6 +28,9 @@ private:
     CAnglesPage m_angles;
     CTolerancePage m_tolerance;
 };
+
+/// Saves the settings, and tells the user if that fails.
+void KeepSettings(const CSettings& settings);
 
 /// Tells the library about the settings that it does not read itself.
 void ApplySettings(const CSettings& settings);

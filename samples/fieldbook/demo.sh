@@ -1,31 +1,47 @@
 # shellcheck shell=bash disable=SC2154  # sourced by tools/demo.sh, which sets the paths
-# The fieldbook at work, with the pen alone: each screen and each computation. The
-# points and what must come out are in data/README.md.
+# A day with the fieldbook, with the pen and the panel alone: each screen, each computation,
+# each dialog. The points and what must come out are in data/README.md.
 
 fieldbook=$build/fieldbook/fieldbook.exe
-points=$build/fieldbook/points.csv
-journal=$build/fieldbook/points_results.txt
+data=$root/samples/fieldbook/data
+# The job lies on the device's own disk: the folder dialog shows all of it.
+job=$WINEPREFIX/drive_c/fieldbook
 
-# Buttons of the main screen, from the top.
-compute=(120 69)
-polar=(120 106)
-point_list=(120 144)
-point_entry=(120 181)
-journal_screen=(120 218)
-settings=(120 256)
+# Entries of the main menu and of the file menu, from the top.
+point_entry=(120 47)
+point_list=(120 83)
+compute=(120 119)
+plan=(120 155)
+journal=(120 191)
+file_menu=(120 227)
+export=(120 263)
+settings=(120 299)
+open=(120 100)
+new=(120 136)
+save=(120 172)
+save_as=(120 208)
+folder=(120 244)
 
-# Buttons of the screen of computations, from the top.
-lines=(120 57)
-line_circle=(120 108)
-circles=(120 159)
-arc_centre=(120 210)
-tangents=(120 260)
+# Buttons of the screen of computations.
+lines=(62 63)
+line_circle=(179 63)
+circles=(62 101)
+bearings=(179 101)
+arc_centre=(62 158)
+curve=(179 158)
+polar=(62 214)
+inverse=(179 214)
+extent=(62 252)
+
+# Buttons at the bottom of the point list and of a result.
+left_button=(62 258)
+right_button=(179 258)
 
 ok_button=(196 13) # in the title bar
 close_button=(227 13)
+menu_close=(229 13)
 input_cancel=(172 146)
-result_ok=(62 241)
-message_ok=(121 194)
+sip_button=(217 307) # with the file dialogs, whose bar has wide buttons
 
 # The keys of the soft input panel, which lies on the screen from y = 169 to 294. Shift stands
 # before a capital.
@@ -78,7 +94,7 @@ digits_next() { tap 210 216; }
 answer() {
     local text
     for text in "$@"; do
-        if [[ $text == [0-9]* ]]; then
+        if [[ $text == [0-9-]* ]]; then
             digits "$text"
             digits_enter
         else
@@ -88,20 +104,40 @@ answer() {
     done
 }
 
+# The buttons of message boxes, whose place depends on their text.
+message_ok() { tap 121 "$1"; }
+message_yes() { tap 73 "$1"; }
+message_no() { tap 171 "$1"; }
+
 # Whatever an earlier run has left, and for whoever comes next.
-reset_settings() {
+reset() {
     local key
     for key in 'HKCU\Software\Tesuvo\Common' 'HKCU\Software\Fieldkit'; do
         wine reg delete "$key" /f >>"$build/demo.log" 2>&1 </dev/null 9>&- || true
     done
+    rm -f "$build/fieldbook/history.dat"
 }
 
-cp "$root/samples/fieldbook/data/points.csv" "$points"
-rm -f "$journal"
-reset_settings
+start_fieldbook() {
+    cd "$job" || return
+    start_app "$fieldbook" "C:\\fieldbook\\$1"
+    cd "$root" || return
+    wait_window "${2:-野帳}"
+}
 
-start_app "$fieldbook"
-wait_window 野帳
+# expect NAME TEXT: the last line of a file of the job begins with TEXT.
+expect() {
+    tail -n 1 "$job/$1" | iconv -f CP932 -t UTF-8 | grep -q "^$2" || die "$1 does not end with $2"
+}
+
+rm -rf "$job"
+mkdir -p "$job/backup"
+cp "$data/points.csv" "$data/boundary.csv" "$data/points_bad.csv" "$job"
+reset
+
+# --- Computations -------------------------------------------------------------------------------
+
+start_fieldbook points.csv
 shot 01-main
 tap "${compute[@]}"
 shot 02-computations
@@ -113,148 +149,354 @@ letters K99
 shot 04-lines-unknown-name
 letters_enter
 shot 05-lines-unknown-name-told
-tap "${message_ok[@]}"
-shot 06-lines-asked-again
+message_ok 194
 letters_backspace
 letters_backspace
 letters 4
 letters_enter
-shot 07-lines-result
-tap "${result_ok[@]}"
-
-tap "${lines[@]}"
-shot 08-lines-last-name-proposed
-tap "${input_cancel[@]}"
+shot 06-lines-result
+tap "${left_button[@]}"
+shot 07-lines-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
 
 tap "${line_circle[@]}"
 answer W1 W2 CC1
-shot 09-line-circle-radius
+shot 08-line-circle-radius
 answer 30
-shot 10-line-circle-result
-tap "${result_ok[@]}"
+shot 09-line-circle-result
+tap 120 105
+shot 10-second-solution-chosen
+tap "${left_button[@]}"
+shot 11-line-circle-plan
+tap "${close_button[@]}"
+tap "${right_button[@]}"
+shot 12-keep-name-proposed
+for ((i = 0; i < 2; ++i)); do letters_backspace; done
+letters K1
+letters_enter
+shot 13-keep-name-taken
+message_ok 194
+for ((i = 0; i < 2; ++i)); do letters_backspace; done
+letters P1
+letters_enter
+shot 14-point-kept
+tap "${ok_button[@]}"
 
 tap "${line_circle[@]}"
 for ((i = 0; i < 3; ++i)); do letters_enter; done
 digits_backspace
 digits_backspace
 answer 13
-shot 11-line-circle-none
-tap "${result_ok[@]}"
+shot 15-line-circle-none
+tap "${ok_button[@]}"
 
 tap "${circles[@]}"
 answer T1 40 T2
-shot 12-circles-second-radius
+shot 16-circles-second-radius
 answer 30
-shot 13-circles-result
-tap "${result_ok[@]}"
+shot 17-circles-result
+tap "${left_button[@]}"
+shot 18-circles-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
+
+tap "${bearings[@]}"
+answer T1
+shot 19-bearings-direction
+answer 0 T2 270
+shot 20-bearings-result
+tap "${left_button[@]}"
+shot 21-bearings-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
 
 tap "${arc_centre[@]}"
 answer BC EC
 digits 90.0000
-shot 14-arc-centre-angle
+shot 22-arc-centre-angle
 digits_enter
-shot 15-arc-centre-result
-tap "${result_ok[@]}"
+shot 23-arc-centre-result
+tap "${ok_button[@]}"
 
-tap "${tangents[@]}"
-shot 16-tangents-first-point
+tap "${curve[@]}"
 answer BC CC1 EC
-shot 17-tangents-result
-tap "${result_ok[@]}"
+shot 24-curve-result
+tap "${left_button[@]}"
+shot 25-curve-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
+
+tap "${inverse[@]}"
+answer T1 T2
+shot 26-inverse-result
+tap "${ok_button[@]}"
+
+tap "${extent[@]}"
+shot 27-extent-result
+tap "${left_button[@]}"
+shot 28-extent-plan
+tap "${close_button[@]}"
 tap "${ok_button[@]}"
 
 tap "${polar[@]}"
-shot 18-polar
+shot 29-polar
+tap 223 41
+shot 30-polar-names-entered-lately
+tap 100 55
 tap 120 67
 digits 23.0748
-shot 19-polar-direction-typed
+shot 31-polar-direction-typed
 digits_next
 digits 30
 tap 120 119
-shot 20-polar-angles-shown
+shot 32-polar-angles-shown
 digits 50
 digits_enter
-shot 21-polar-result
+shot 33-polar-result
+tap "${ok_button[@]}"
+tap "${ok_button[@]}"
 tap "${ok_button[@]}"
 
+# --- The plan -----------------------------------------------------------------------------------
+
+tap "${plan[@]}"
+shot 34a-plan
+tap 39 262
+tap 39 262
+shot 34b-plan-larger
+drag 120 150 40 190
+shot 34c-plan-dragged
+tap 121 262
+shot 34d-plan-smaller
+tap 201 262
+shot 34e-plan-whole
+tap "${close_button[@]}"
+
+# --- Points -------------------------------------------------------------------------------------
+
 tap "${point_entry[@]}"
-shot 22-point-entry
-tap 220 38
-shot 23-point-entry-kinds
+shot 35-point-entry
+tap 220 41
+shot 36-point-entry-kinds
+tap 100 70
 tap 100 67
-tap 100 67
-shot 24-point-entry-name
+shot 37-point-entry-name
 tap 100 93
 digits -35300.5
 tap 100 119
 digits 13200.25
-tap 100 144
-shot 25-point-entry-numbers
+tap 100 145
 digits 24.5
-shot 26-point-entry-complete
+shot 38-point-entry-complete
 digits_enter
-shot 27-point-added
-tap 200 144
-shot 28-point-entry-no-height
+shot 39-point-added
+tap 200 145
+shot 40-point-entry-no-height
 tap 100 67
 letters_backspace
 letters_backspace
 letters k1
-shot 29-point-entry-capitals
+shot 41-point-entry-capitals
 tap 100 93
 digits 1
 tap 100 119
 digits 2
 digits_enter
-shot 30-point-entry-duplicate
-tap "${message_ok[@]}"
-tap "${ok_button[@]}"
+shot 42-point-entry-duplicate
+message_ok 194
+tap "${close_button[@]}"
+shot 43-main-unsaved
 
 tap "${point_list[@]}"
 wait_window 点の一覧
-shot 31-point-list
+shot 44-point-list
 tap 90 38
-shot 32-point-list-sorted
+shot 45-point-list-sorted
+tap "${left_button[@]}"
+shot 46-point-list-none-selected
+message_ok 194
+tap 20 70
+shot 47-point-list-selected
+tap "${left_button[@]}"
+shot 48-point-edit
+tap 100 145
+for ((i = 0; i < 6; ++i)); do digits_backspace; done
+shot 49-point-edit-height-removed
+digits_enter
+shot 50-point-list-changed
+tap 20 84
+tap "${right_button[@]}"
+shot 51-point-list-remove
+message_no 190
+tap "${right_button[@]}"
+message_yes 190
+shot 52-point-list-removed
 tap "${ok_button[@]}"
 
-tap "${journal_screen[@]}"
-shot 33-journal
+# --- Journal and settings -----------------------------------------------------------------------
+
+tap "${journal[@]}"
+shot 53-journal
 tap 90 62
-shot 34-journal-open
+shot 54-journal-open
 tap 70 84
-shot 35-journal-result
+shot 55-journal-result
 tap "${ok_button[@]}"
 
 tap "${settings[@]}"
-shot 36-settings-coordinates
+shot 56-settings-coordinates
 tap 168 88
-shot 37-settings-two-decimals
+shot 57-settings-two-decimals
 tap 84 36
 tap 60 112
-shot 38-settings-angles
+shot 58-settings-angles
 tap 138 36
 tap 60 122
-shot 39-settings-tolerance
+shot 59-settings-tolerance
 tap "${ok_button[@]}"
+
+# --- Export -------------------------------------------------------------------------------------
+
+tap "${export[@]}"
+shot 60-export-columns
+tap 40 119
+tap 108 140
+shot 61-export-blank-added
+tap 140 133
+tap 108 184
+shot 62-export-member-removed
+tap 140 119
+tap 221 157
+shot 63-export-member-moved
+tap 112 235
+shot 64-export-file
+tap "${ok_button[@]}"
+shot 65-export-done
+message_ok 190
+
+# --- Files --------------------------------------------------------------------------------------
+
+tap "${file_menu[@]}"
+shot 66-file-menu
+tap "${save_as[@]}"
+shot 67-save-as-name-proposed
+tap 100 115
+shot 68-save-as-existing
+tap "${ok_button[@]}"
+shot 69-overwrite-question
+message_no 190
+shot 70-overwrite-refused
+tap 222 62
+shot 71-folders
+tap 34 58
+shot 72-folders-open
+tap 80 74
+tap "${ok_button[@]}"
+shot 73-folder-changed
+tap 130 38
+tap "${sip_button[@]}"
+for ((i = 0; i < 14; ++i)); do letters_backspace; done
+letters day1
+shot 74-save-as-name-typed
+tap "${ok_button[@]}"
+shot 75-saved-in-folder
+tap "${file_menu[@]}"
+tap "${save_as[@]}"
+tap 60 101
+tap "${ok_button[@]}"
+shot 76-overwrite-question-again
+message_yes 190
+shot 77-overwritten
+
 tap "${point_list[@]}"
-shot 40-point-list-two-decimals
+tap 20 84
+tap "${right_button[@]}"
+message_yes 190
 tap "${ok_button[@]}"
-tap "${close_button[@]}"
+tap "${file_menu[@]}"
+tap "${open[@]}"
+shot 78-unsaved-question
+message_no 194
+shot 79-unsaved-given-up-question
+message_no 194
+shot 80-stayed
+tap "${file_menu[@]}"
+tap "${save[@]}"
+shot 81-saved
+
+tap "${file_menu[@]}"
+tap "${new[@]}"
+shot 82-new
+tap "${ok_button[@]}"
+shot 83-new-made
+tap "${file_menu[@]}"
+tap "${folder[@]}"
+shot 84-working-folder
+tap 60 58
+tap "${ok_button[@]}"
+tap "${file_menu[@]}"
+tap "${open[@]}"
+shot 85-open
+tap 60 101
+tap "${ok_button[@]}"
+shot 86-other-file-open
+
+# --- The next day -------------------------------------------------------------------------------
+
+tap "${point_list[@]}"
+shot 87-points-without-coordinates
+tap 20 84
+tap "${right_button[@]}"
+message_yes 190
+tap "${ok_button[@]}"
+tap "${menu_close[@]}"
+shot 88-leaving-unsaved
+message_yes 194
 wait_exit
 
-# The journal holds what the dialogs showed, in the device's code page.
-iconv -f CP932 -t UTF-8 "$journal" | tr -d '\r' >"$build/demo/results.txt"
-cat "$build/demo/results.txt"
-diff "$root/samples/fieldbook/demo-results.txt" "$build/demo/results.txt" ||
+start_fieldbook boundary.csv
+tap "${compute[@]}"
+tap "${inverse[@]}"
+tap 210 119
+shot 89-names-of-the-day-before
+tap 60 138
+shot 90-name-chosen
+tap 62 203
+shot 91-second-point
+tap "${input_cancel[@]}"
+tap "${ok_button[@]}"
+tap "${export[@]}"
+shot 92-columns-of-the-day-before
+tap 195 235
+tap "${menu_close[@]}"
+wait_exit
+
+start_fieldbook points_bad.csv 読み込みの結果
+shot 93-bad-lines
+tap 62 241
+tap "${point_list[@]}"
+tap 20 84
+tap "${right_button[@]}"
+message_yes 190
+tap "${ok_button[@]}"
+tap "${file_menu[@]}"
+tap "${save[@]}"
+shot 94-backup-kept
+message_ok 190
+shot 95-saved-without-bad-lines
+tap "${menu_close[@]}"
+wait_exit
+reset
+
+# --- What is left on the disk -------------------------------------------------------------------
+
+# The journal holds what the screens showed, in the device's code page.
+iconv -f CP932 -t UTF-8 "$job/points_results.txt" | tr -d '\r' >"$demo_shots/results.txt"
+cat "$demo_shots/results.txt"
+diff "$root/samples/fieldbook/demo-results.txt" "$demo_shots/results.txt" ||
     die 'the computed coordinates are not the expected ones'
-tail -n 1 "$points" | grep -q '^K5,-35300.500000,13200.250000,24.500000' ||
-    die 'the point that was entered is not in the file'
-
-start_app "$fieldbook" "Z:${root//\//\\}\\samples\\fieldbook\\data\\points_bad.csv"
-wait_window 読み込みの結果
-shot 41-bad-lines
-tap "${result_ok[@]}"
-shot 42-main-after-bad-lines
-tap "${close_button[@]}"
-wait_exit
-reset_settings
+expect backup/day1.csv 'K5,-35300.500000,13200.250000,24.500000'
+expect export.csv '13200.250000,K5,24.500000,'
+cmp -s "$data/points_bad.csv" "$job/points_bad.csv.bak" || die 'the file with bad lines was not kept'
+cmp -s "$data/points.csv" "$job/points.csv" || die 'the file that was not saved has changed'

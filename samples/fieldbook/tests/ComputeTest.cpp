@@ -15,6 +15,8 @@ void PrintTo(const CCoordinate& point, std::ostream* pOut) {
 
 namespace {
 
+constexpr double QUARTER = 3.14159265358979323846 / 2; // of a turn
+
 /// On the shipped points, which are laid out for round results; see data/README.md.
 class Compute : public testing::Test {
 protected:
@@ -148,11 +150,118 @@ TEST_F(Compute, TangentsOfTheCurveMeetInItsCorner) {
 }
 
 TEST_F(Compute, DirectionAndDistanceLeadToThePoint) {
-    constexpr double QUARTER = 3.14159265358979323846 / 2;
     const CCoordinate t1 = Point(L"T1"); // T2 lies 30 to the north and 40 to the east
     ExpectPoints({Verdict::Found, {FindPolarPoint(t1, std::atan2(40, 30), 50)}}, {Point(L"T2")});
     ExpectPoints({Verdict::Found, {FindPolarPoint(t1, QUARTER, 10)}}, {At(-35345, 13235)});
     ExpectPoints({Verdict::Found, {FindPolarPoint(t1, -QUARTER, 10)}}, {At(-35345, 13215)});
+}
+
+TEST_F(Compute, SightsFromTwoPointsMeet) {
+    const CCoordinate t1 = Point(L"T1");
+    const CCoordinate t2 = Point(L"T2"); // (30, 40) from T1
+    const double dToT2 = std::atan2(40, 30);
+    ExpectPoints(IntersectBearings(t1, 0, t2, -QUARTER), {At(-35315, 13225)});
+    ExpectPoints(IntersectBearings(t1, 2 * QUARTER, t2, QUARTER), {At(-35315, 13225)}); // behind both
+    ExpectPoints(IntersectBearings(t1, dToT2, t2, 0), {t2});
+    ExpectPoints(IntersectBearings(t1, 0.5, At(-35315, 13225 + 30 * std::tan(0.5)), 2), // on the way
+                 {At(-35315, 13225 + 30 * std::tan(0.5))});
+
+    CVector::SetTolerance(1e-4);
+    ExpectPoints(IntersectBearings(t1, 5e-7, At(-25345, 13325), -QUARTER), {At(-25345, 13225.005)}); // 10 km
+    CVector::SetTolerance(1e-6);
+
+    ExpectNone(IntersectBearings(t1, 1, t2, 1), Verdict::Parallel);
+    ExpectNone(IntersectBearings(t1, 1, t2, 1 + 2 * QUARTER), Verdict::Parallel);
+    ExpectNone(IntersectBearings(t1, dToT2, t2, dToT2), Verdict::Parallel); // one and the same line
+    ExpectNone(IntersectBearings(t1, 1, t1, 2), Verdict::SamePoint);
+}
+
+TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
+    const CCoordinate t1 = Point(L"T1");
+    for (const double dDistance : {0.002, 0.016, 50.0, 1e6}) // the second: below what the kernel sees
+        for (int nDegrees = 0; nDegrees < 360; nDegrees += 15) {
+            const double dDirection = nDegrees * QUARTER / 90;
+            CInverse inverse{};
+            ASSERT_TRUE(FindInverse(t1, FindPolarPoint(t1, dDirection, dDistance), inverse));
+            EXPECT_NEAR(inverse.dDistance, dDistance, 1e-9);
+            // The points carry their coordinates to about 1e-11 m.
+            EXPECT_NEAR(std::remainder(inverse.dDirection - dDirection, 4 * QUARTER), 0,
+                        2e-9 + 1e-11 / dDistance);
+            EXPECT_GE(inverse.dDirection, 0);
+        }
+    CInverse inverse{1, 2};
+    EXPECT_FALSE(FindInverse(t1, t1, inverse));
+    EXPECT_EQ(inverse.dDirection, 2);
+}
+
+TEST_F(Compute, CurveOfTheRoad) {
+    const CCoordinate bc = Point(L"BC");
+    const CCoordinate ec = Point(L"EC");
+    const CCoordinate centre = Point(L"CC1");
+    CCurve curve{};
+    ASSERT_EQ(FindCurve(bc, centre, ec, curve), Verdict::Found);
+    EXPECT_NEAR(curve.dRadius, 30, 1e-9);
+    EXPECT_NEAR(curve.dSweep, QUARTER, 1e-8);
+    EXPECT_NEAR(curve.dLength, 30 * QUARTER, 1e-6);
+    EXPECT_NEAR(curve.dBulge, std::tan(QUARTER / 4), 1e-8);
+    ExpectPoints({Verdict::Found, curve.corners}, {Point(L"IP1")});
+
+    ASSERT_EQ(FindCurve(ec, centre, bc, curve), Verdict::Found);
+    EXPECT_NEAR(curve.dSweep, 3 * QUARTER, 1e-8);
+    EXPECT_EQ(curve.corners.size(), 2U);
+
+    EXPECT_EQ(FindCurve(bc, centre, bc, curve), Verdict::SamePoint);
+    EXPECT_NEAR(curve.dSweep, 3 * QUARTER, 1e-8) << "not written";
+}
+
+TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
+    CCoordinate north; // N alone
+    north.SetN(1000);
+    CCoordinate height;
+    height.SetZ(99);
+    const auto Found = [](std::vector<CCoordinate> points, CCoordinate& lo, CCoordinate& hi) {
+        std::vector<CNamedPoint> named;
+        for (const CCoordinate& point : points)
+            named.push_back({L"P", point});
+        return FindExtent(named, lo, hi);
+    };
+    CCoordinate lo = At(7, 7);
+    CCoordinate hi = At(8, 8);
+    EXPECT_FALSE(Found({}, lo, hi));
+    EXPECT_FALSE(Found({north, height}, lo, hi));
+    EXPECT_EQ(lo.GetN(), 7);
+
+    // All beyond the origin: what is not there yet must not count as zero.
+    ASSERT_TRUE(Found({height, At(20, 300), north, CCoordinate(200, 10, 5, 3), At(15, 400)}, lo, hi));
+    EXPECT_EQ(lo.GetN(), 10);
+    EXPECT_EQ(lo.GetE(), 200);
+    EXPECT_EQ(hi.GetN(), 20);
+    EXPECT_EQ(hi.GetE(), 400);
+    EXPECT_EQ(lo.GetZ(), 5);
+    EXPECT_EQ(hi.GetZ(), 5);
+
+    ASSERT_TRUE(Found({At(3, 4)}, lo, hi));
+    EXPECT_TRUE(lo.GetN() == 3 && hi.GetE() == 4);
+    EXPECT_FALSE(lo.IsExistZ());
+}
+
+TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
+    const CCoordinate p = At(1, 2);
+    const CCoordinate q = At(3, 4);
+    CCoordinate half;
+    half.SetN(5);
+    for (const CCoordinate& none : {half, CCoordinate()}) {
+        EXPECT_FALSE(HasPosition(none));
+        ExpectNone(IntersectLines(p, q, none, At(9, 9)), Verdict::NoPosition);
+        ExpectNone(IntersectBearings(p, 0, none, 1), Verdict::NoPosition);
+        ExpectNone(IntersectLineCircle(p, q, none, 3), Verdict::NoPosition);
+        ExpectNone(IntersectCircles(none, 1, p, 1), Verdict::NoPosition);
+        ExpectNone(FindArcCentre(p, none, 1), Verdict::NoPosition);
+        CCurve curve{};
+        EXPECT_EQ(FindCurve(p, q, none, curve), Verdict::NoPosition);
+        CInverse inverse{};
+        EXPECT_FALSE(FindInverse(none, p, inverse));
+    }
 }
 
 } // namespace

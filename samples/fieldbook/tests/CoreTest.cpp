@@ -73,14 +73,4 @@ TEST(PointOrder, EachColumnSortsAndPointsWithoutHeightComeLast) {
         EXPECT_EQ(OrderPoints(points, c.column), c.order) << static_cast<int>(c.column);
 }
 
-TEST(PointBook, NextNameIsTheFirstFreeOne) {
-    CPointBook book;
-    for (const wchar_t* pszName : {L"T1", L"T2", L"K009"})
-        ASSERT_TRUE(book.Add({pszName, CCoordinate()}));
-    EXPECT_TRUE(book.NextName(L"T") == L"T3");
-    EXPECT_TRUE(book.NextName(L"T1") == L"T3");
-    EXPECT_TRUE(book.NextName(L"K009") == L"K010");
-    EXPECT_TRUE(book.NextName(L"BM") == L"BM1");
-}
-
 } // namespace

@@ -28,12 +28,19 @@ private:
 };
 
 TEST_F(Settings, ComeBackAsTheyWereSaved) {
-    const CSettings settings{5, 1, 2};
+    CSettings settings;
+    settings.nDecimals = 5;
+    settings.bTenths = 1;
+    settings.nTolerance = 2;
+    settings.strFolder = L"\\測量\\現場 1";
+    settings.columns = {Column::Blank, Column::E, Column::Blank, Column::Name};
     ASSERT_TRUE(SaveSettings(g_app, settings));
     const CSettings loaded = LoadSettings(g_app);
     EXPECT_EQ(loaded.nDecimals, 5);
     EXPECT_EQ(loaded.bTenths, 1);
     EXPECT_EQ(loaded.nTolerance, 2);
+    EXPECT_TRUE(loaded.strFolder == settings.strFolder);
+    EXPECT_EQ(loaded.columns, settings.columns);
 
     DWORD dwValue = 0;
     DWORD dwSize = sizeof dwValue;
@@ -51,6 +58,8 @@ TEST_F(Settings, ValuesThatNoOneCanHaveSetCountAsTheDefault) {
         EXPECT_EQ(loaded.bTenths, 0) << nValue;
         EXPECT_EQ(loaded.nTolerance, 0) << nValue;
     }
+    g_app.WriteProfileString(L"Settings", L"Columns", L"?!");
+    EXPECT_EQ(LoadSettings(g_app).columns, CSettings().columns) << "a file without columns has no sense";
 }
 
 } // namespace

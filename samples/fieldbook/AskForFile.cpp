@@ -1,0 +1,32 @@
+#include "AskForFile.h"
+
+#include "Resource.h"
+#include "SettingsSheet.h"
+#include "Tesuvo.h"
+#include "dialogs/FileSelectDlg.h"
+#include "dialogs/ResMsgBox.h"
+
+/// The soft input panel comes up as it was last when its button is tapped: for a name that
+/// must be with letters.
+static void PreparePanel() {
+    constexpr int LETTERS = 0;
+    TVShowSIP(LETTERS);
+    TVCloseSIP();
+}
+
+CString AskForFile(CWnd& parent, CSettings& settings, int nMode, const CString& strName) {
+    CFileSelectDlg dialog(&parent);
+    dialog.SetMode(nMode);
+    dialog.SetCurrentName(strName);
+    dialog.SetSubName(L"csv");
+    dialog.SetFileFolder(settings.strFolder);
+    PreparePanel();
+    if (dialog.DoModal() != IDOK)
+        return CString();
+    settings.strFolder = dialog.GetFileFolder();
+    KeepSettings(settings);
+    const CString strPath = dialog.GetFilePath();
+    if (strPath.IsEmpty())
+        CResMsgBox().ErrorMsgBox(IDS_NO_NAME);
+    return strPath;
+}

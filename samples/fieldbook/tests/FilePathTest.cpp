@@ -1,0 +1,46 @@
+#include "FilePath.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(FilePath, FoldersAreNamedFromTheRootAsTheFileDialogsDo) {
+    wchar_t szCurrent[MAX_PATH] = {};
+    ::GetCurrentDirectory(MAX_PATH, szCurrent);
+    const CString strDrive = CString(szCurrent).Left(2);
+    const CString strOther = strDrive.CompareNoCase(L"Q:") == 0 ? L"R:" : L"Q:";
+
+    EXPECT_TRUE(FolderOf(strDrive + L"\\job 7\\points.csv") == L"\\job 7");
+    EXPECT_TRUE(FolderOf(strDrive + L"\\points.csv") == L"\\");
+    EXPECT_TRUE(FolderOf(L"\\job/day.1/points.csv") == L"\\job\\day.1");
+    EXPECT_TRUE(FolderOf(L"points.csv") == CString(szCurrent).Mid(2));
+    EXPECT_TRUE(FolderOf(strOther + L"\\job\\points.csv") == strOther + L"\\job");
+}
+
+TEST(FilePath, OneFileIsKnownByEachOfItsPaths) {
+    wchar_t szCurrent[MAX_PATH] = {};
+    ::GetCurrentDirectory(MAX_PATH, szCurrent);
+    const CString strFull = PathIn(szCurrent, L"Points.csv");
+    EXPECT_TRUE(IsSamePath(strFull, L"points.csv"));
+    EXPECT_TRUE(IsSamePath(strFull.Mid(2), L".\\day\\..\\points.csv"));
+    EXPECT_FALSE(IsSamePath(strFull, L"points1.csv"));
+    EXPECT_TRUE(PathIn(L"\\", L"points.csv") == L"\\points.csv");
+}
+
+TEST(FilePath, NamesComeWithAndWithoutTheirExtension) {
+    const struct {
+        const wchar_t* pszPath;
+        const wchar_t* pszName;
+        const wchar_t* pszTitle;
+    } cases[] = {
+        {L"\\job\\points.csv", L"points.csv", L"points"},
+        {L"C:\\job.7\\points", L"points", L"points"},
+        {L"現場.1.csv", L"現場.1.csv", L"現場.1"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(FileNameOf(c.pszPath) == c.pszName);
+        EXPECT_TRUE(TitleOf(c.pszPath) == c.pszTitle);
+    }
+}
+
+} // namespace

@@ -1,0 +1,109 @@
+#include "History.h"
+
+#include "TestFile.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// What Save writes is all that a history tells without a window.
+std::string ContentOf(CHistory& history, const CTestFile& file) {
+    EXPECT_TRUE(history.Save());
+    return file.Read();
+}
+
+/// A good archive of something else.
+std::string ArchiveOfAList(const CTestFile& file) {
+    {
+        CFile target(file.GetPath(), CFile::modeCreate | CFile::modeWrite);
+        CArchive archive(&target, CArchive::store);
+        CStringList list;
+        list.AddTail(L"T1");
+        archive << &list;
+    }
+    return file.Read();
+}
+
+class History : public testing::Test {
+protected:
+    const CTestFile m_file{L"fieldbook-history.dat"};
+};
+
+TEST_F(History, ComesBackFromItsFileAndGoesOnAsBefore) {
+    CHistory history(m_file.GetPath());
+    for (const wchar_t* pszName : {L"T1", L"境界7", L"K2", L"T2", L""})
+        history.Add(pszName);
+    const std::string saved = ContentOf(history, m_file);
+
+    CHistory loaded(m_file.GetPath());
+    loaded.Load();
+    EXPECT_EQ(ContentOf(loaded, m_file), saved);
+
+    loaded.Add(L"K3"); // the same kind as K2
+    history.Add(L"K3");
+    EXPECT_EQ(ContentOf(loaded, m_file), ContentOf(history, m_file));
+}
+
+TEST_F(History, KeepsTheLastOfEachKindAndTwentyKinds) {
+    CHistory all(m_file.GetPath());
+    for (int i = 0; i < 50; ++i) {
+        CString strName;
+        strName.Format(L"%c%d", L'A' + i / 2, i);
+        all.Add(strName);
+    }
+    CHistory last(m_file.GetPath());
+    for (int i = 11; i < 50; i += 2) {
+        CString strName;
+        strName.Format(L"%c%d", L'A' + i / 2, i);
+        last.Add(strName);
+    }
+    EXPECT_EQ(ContentOf(all, m_file), ContentOf(last, m_file));
+}
+
+TEST_F(History, AbsentAndDamagedFilesGiveAnEmptyOne) {
+    CHistory empty(m_file.GetPath());
+    const std::string nothing = ContentOf(empty, m_file);
+    empty.Add(L"T1");
+    const std::string whole = ContentOf(empty, m_file);
+
+    std::vector<std::string> damaged = {"", std::string(1000, '\0'), std::string(1000, '\xff'),
+                                        "T1,1,2,3\r\n"};
+    damaged.push_back(ArchiveOfAList(m_file));
+    for (size_t nLength = 1; nLength < whole.size(); ++nLength)
+        damaged.push_back(whole.substr(0, nLength));
+    for (const std::string& content : damaged) {
+        m_file.Write(content);
+        CHistory history(m_file.GetPath());
+        history.Add(L"before");
+        history.Load();
+        EXPECT_EQ(ContentOf(history, m_file), nothing) << content.size();
+    }
+
+    ::DeleteFile(m_file.GetPath());
+    CHistory history(m_file.GetPath());
+    history.Load();
+    EXPECT_EQ(ContentOf(history, m_file), nothing);
+}
+
+TEST_F(History, NoFlippedBitDoesHarm) {
+    CHistory first(m_file.GetPath());
+    first.Add(L"T1");
+    const std::string whole = ContentOf(first, m_file);
+    for (size_t nBit = 0; nBit < whole.size() * 8; ++nBit) {
+        std::string content = whole;
+        content[nBit / 8] = static_cast<char>(content[nBit / 8] ^ (1 << nBit % 8));
+        m_file.Write(content);
+        CHistory history(m_file.GetPath());
+        history.Load();
+        history.Add(L"K1");
+        EXPECT_TRUE(history.Save()) << nBit;
+    }
+}
+
+TEST_F(History, FileThatCannotBeWrittenIsTold) {
+    CHistory history(L"no such folder\\history.dat");
+    history.Add(L"T1");
+    EXPECT_FALSE(history.Save());
+}
+
+} // namespace

@@ -1,0 +1,220 @@
+#include "PlanScale.h"
+
+#include "PlanClip.h"
+#include "PlanSpace.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+constexpr double TWO_PI = 6.28318530717958647692;
+const CSize VIEW(240, 232);
+const CRect VIEW_RECT(0, 0, 240, 232);
+
+CCoordinate At(double dN, double dE) {
+    CCoordinate point;
+    point.SetN(dN);
+    point.SetE(dE);
+    return point;
+}
+
+void ExpectPixel(CVector pixel, double dX, double dY) {
+    EXPECT_NEAR(pixel.GetX(), dX, 1e-6);
+    EXPECT_NEAR(pixel.GetY(), dY, 1e-6);
+}
+
+TEST(PlanScale, ShowsTheWholeBoxNorthUpWithOneScale) {
+    const struct {
+        const char* pszCase;
+        double dHeight;
+        double dWidth;
+    } cases[] = {{"wide", 10, 100}, {"high", 100, 10}, {"line to the east", 0, 50}, {"country", 1e6, 1e6}};
+    for (const auto& box : cases) {
+        SCOPED_TRACE(box.pszCase);
+        const CCoordinate lo = At(-35300, 13200);
+        const CCoordinate hi = At(-35300 + box.dHeight, 13200 + box.dWidth);
+        const CPlanScale scale(lo, hi, VIEW);
+        CVector southWest = scale.ToPixel(lo);
+        CVector northEast = scale.ToPixel(hi);
+        EXPECT_GE(southWest.GetX(), 20);
+        EXPECT_LE(southWest.GetY(), VIEW.cy - 20);
+        EXPECT_LE(northEast.GetX(), VIEW.cx - 20);
+        EXPECT_GE(northEast.GetY(), 20);
+        CVector diagonal = northEast - southWest;
+        EXPECT_NEAR(diagonal.GetX(), box.dWidth * scale.GetFactor(), 1e-6);
+        EXPECT_NEAR(diagonal.GetY(), -box.dHeight * scale.GetFactor(), 1e-6);
+        EXPECT_GT(diagonal.UNorm(), 160); // and as large as there is room
+    }
+}
+
+TEST(PlanScale, PutsASinglePointIntoTheMiddle) {
+    const CPlanScale scale(At(7, 3), At(7, 3), VIEW);
+    ExpectPixel(scale.ToPixel(At(7, 3)), 120, 116);
+    EXPECT_LT(scale.GetFactor(), 100); // some surroundings are to be seen
+}
+
+TEST(PlanScale, ZoomsAboutTheMiddleWithinLimits) {
+    const CPlanScale whole(At(0, 0), At(100, 100), VIEW);
+    const CPlanScale larger = whole.Zoomed(2);
+    ExpectPixel(larger.ToPixel(At(50, 50)), 120, 116);
+    EXPECT_DOUBLE_EQ(larger.GetFactor(), 2 * whole.GetFactor());
+    CPlanScale scale = whole;
+    for (int i = 0; i < 100; ++i)
+        scale = scale.Zoomed(0.5);
+    EXPECT_GT(scale.GetFactor(), whole.GetFactor() / 10);
+    for (int i = 0; i < 100; ++i)
+        scale = scale.Zoomed(2);
+    EXPECT_LT(scale.GetFactor(), 1e6);
+}
+
+TEST(PlanScale, PanMovesThePlanWithThePenAndBack) {
+    const CPlanScale whole = CPlanScale(At(0, 0), At(100, 100), VIEW).Zoomed(4);
+    CVector before = whole.ToPixel(At(20, 30));
+    const CPlanScale panned = whole.Panned(CSize(-50, 17));
+    ExpectPixel(panned.ToPixel(At(20, 30)), before.GetX() - 50, before.GetY() + 17);
+    ExpectPixel(panned.Panned(CSize(50, -17)).ToPixel(At(20, 30)), before.GetX(), before.GetY());
+}
+
+TEST(PlanScale, BarHasARoundLength) {
+    const struct {
+        double dFactor;
+        const wchar_t* pszText;
+        int nPixels;
+    } cases[] = {
+        {1, L"50 m", 50},    {0.9, L"100 m", 90},    {0.91, L"50 m", 46}, {4, L"20 m", 80},
+        {8, L"10 m", 80},    {90, L"1 m", 90},       {200, L"0.2 m", 40}, {20000, L"0.002 m", 40},
+        {0.09, L"1 km", 90}, {1e-5, L"5000 km", 50},
+    };
+    for (const auto& example : cases) {
+        SCOPED_TRACE(example.dFactor);
+        const CScaleBar bar = FindScaleBar(example.dFactor, 90);
+        EXPECT_STREQ(ScaleBarText(bar.dLength), example.pszText);
+        EXPECT_EQ(bar.nPixels, example.nPixels);
+    }
+}
+
+TEST(PlanClip, CutsLinesAtTheBorders) {
+    const struct {
+        const char* pszCase;
+        CSegment line;
+        bool bUnbounded;
+        bool bSeen;
+        CSegment seen;
+    } cases[] = {
+        {"inside", {{10, 20}, {30, 40}}, false, true, {{10, 20}, {30, 40}}},
+        {"inside, without ends", {{10, 20}, {11, 21}}, true, true, {{0, 10}, {222, 232}}},
+        {"through", {{-1e9, 100}, {1e9, 100}}, false, true, {{0, 100}, {240, 100}}},
+        {"down the border", {{0, -5}, {0, 500}}, false, true, {{0, 0}, {0, 232}}},
+        {"beside", {{-5, 0}, {-5, 300}}, true, false, {}},
+        {"past a corner", {{-20, 10}, {10, -20}}, true, false, {}},
+        {"ends before", {{-200, 100}, {-100, 100}}, false, false, {}},
+        {"ends before, without ends", {{-200, 100}, {-100, 100}}, true, true, {{0, 100}, {240, 100}}},
+        {"point", {{5, 5}, {5, 5}}, false, true, {{5, 5}, {5, 5}}},
+        {"point without direction", {{5, 5}, {5, 5}}, true, false, {}},
+    };
+    for (const auto& example : cases) {
+        SCOPED_TRACE(example.pszCase);
+        CSegment line = example.line;
+        ASSERT_EQ(ClipSegment(line, VIEW_RECT, example.bUnbounded), example.bSeen);
+        if (!example.bSeen)
+            continue;
+        ExpectPixel(line.start, example.seen.start.GetX(), example.seen.start.GetY());
+        ExpectPixel(line.end, example.seen.end.GetX(), example.seen.end.GetY());
+    }
+}
+
+double LengthOf(const std::vector<CSegment>& pieces) {
+    double dLength = 0;
+    for (const CSegment& piece : pieces) {
+        CVector start = piece.start;
+        dLength += (start - piece.end).UNorm();
+    }
+    return dLength;
+}
+
+TEST(PlanClip, ArcsKeepToTheirCircleInTheView) {
+    const struct {
+        const char* pszCase;
+        CVector centre;
+        double dRadius;
+        double dStart;
+        double dSweep;
+        double dLength; ///< Pixels in the view.
+    } cases[] = {
+        {"whole circle", {120, 116}, 50, 0, TWO_PI, 50 * TWO_PI},
+        {"quarter to the upper right", {0, 232}, 100, 0, TWO_PI / 4, 25 * TWO_PI},
+        {"its other three quarters", {0, 232}, 100, TWO_PI / 4, TWO_PI * 3 / 4, 0},
+        {"long arc that starts outside", {120, 0}, 40, TWO_PI / 8, TWO_PI * 7 / 8, 20 * TWO_PI},
+        {"almost a line, from the side", {120 + 1e7, 116}, 1e7, 0, TWO_PI, 232},
+        {"beyond all whole numbers", {120, 100 - 1e12}, 1e12, 0, TWO_PI, 240},
+        {"around the view", {120, 116}, 1e6, 0, TWO_PI, 0},
+        {"a dot", {120, 116}, 0.1, 0, TWO_PI, 0.1 * TWO_PI},
+        {"beside", {-500, 116}, 400, 0, TWO_PI, 0},
+    };
+    for (const auto& example : cases) {
+        SCOPED_TRACE(example.pszCase);
+        const std::vector<CSegment> pieces =
+            ClipArc(example.centre, example.dRadius, example.dStart, example.dSweep, VIEW_RECT);
+        EXPECT_NEAR(LengthOf(pieces), example.dLength, 0.01 * example.dLength + 0.2);
+        EXPECT_LT(pieces.size(), 300U);
+        for (const CSegment& piece : pieces) {
+            CVector start = piece.start;
+            EXPECT_NEAR((start - example.centre).UNorm(), example.dRadius, 0.3);
+            EXPECT_TRUE(VIEW_RECT.left <= start.GetX() && start.GetX() <= VIEW_RECT.right);
+            EXPECT_TRUE(VIEW_RECT.top <= start.GetY() && start.GetY() <= VIEW_RECT.bottom);
+        }
+    }
+}
+
+const CSize NAME(30, 14);
+
+TEST(PlanSpace, NamesLieInTheViewAndOnNoOtherName) {
+    CPlanSpace space(VIEW);
+    std::vector<CRect> names;
+    // All at one border and all with the same mark: after a few there is no room.
+    const CRect mark(229, 100, 236, 107);
+    space.Put(mark, Space::Mark);
+    CRect place;
+    while (space.PlaceName(mark, NAME, Space::Line, place))
+        names.push_back(place);
+    EXPECT_GE(names.size(), 2U);
+    EXPECT_LT(names.size(), 13U);
+    for (size_t i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(names[i] & VIEW_RECT, names[i]);
+        EXPECT_TRUE((names[i] & mark).IsRectEmpty());
+        for (size_t j = 0; j < i; ++j)
+            EXPECT_TRUE((names[i] & names[j]).IsRectEmpty());
+    }
+}
+
+TEST(PlanSpace, NameKeepsOffALineWhileThereIsRoomElsewhere) {
+    CPlanSpace space(VIEW);
+    const CRect mark(117, 113, 124, 120);
+    space.PutLine(CPoint(120, 116), CPoint(240, 80), Space::Line); // through the best place
+    CRect place;
+    ASSERT_TRUE(space.PlaceName(mark, NAME, Space::Line, place));
+    CPlanSpace full(VIEW);
+    for (int y = 0; y < VIEW.cy; ++y)
+        full.PutLine(CPoint(0, y), CPoint(VIEW.cx, y), Space::Line);
+    CRect onLine;
+    EXPECT_FALSE(full.PlaceName(mark, NAME, Space::Free, onLine));
+    ASSERT_TRUE(full.PlaceName(mark, NAME, Space::Line, onLine));
+    EXPECT_NE(place, onLine);
+}
+
+TEST(PlanSpace, OnlyAllowedNamesLieOnMarksAndNoneOnAName) {
+    CPlanSpace space(VIEW);
+    space.Put(VIEW_RECT, Space::Mark);
+    const CRect mark(117, 113, 124, 120);
+    CRect place;
+    EXPECT_FALSE(space.PlaceName(mark, NAME, Space::Line, place));
+    EXPECT_TRUE(space.PlaceName(mark, NAME, Space::Mark, place));
+    space.Put(VIEW_RECT, Space::Taken);
+    EXPECT_FALSE(space.PlaceName(mark, NAME, Space::Mark, place));
+    EXPECT_FALSE(CPlanSpace(VIEW).PlaceName(mark, CSize(300, 14), Space::Mark, place));
+    EXPECT_FALSE(CPlanSpace(CSize(0, 0)).PlaceName(mark, NAME, Space::Mark, place));
+}
+
+} // namespace
