@@ -25,7 +25,7 @@ void MakeFont(CFont& font, LONG height) {
 }
 
 std::wstring LabelOf(wchar_t code, PanelPage page) {
-    const bool kana = page == PanelPage::Hiragana || page == PanelPage::Katakana;
+    const bool letters = page == PanelPage::Letters || page == PanelPage::Capitals;
     switch (code) {
     case KEY_BACKSPACE:
         return L"BS";
@@ -40,7 +40,7 @@ std::wstring LabelOf(wchar_t code, PanelPage page) {
     case KEY_SCRIPT:
         return page == PanelPage::Katakana ? L"かな" : L"カナ";
     case KEY_MODE:
-        return kana ? L"ABC" : L"かな";
+        return letters ? L"かな" : L"ABC";
     default:
         return std::wstring(1, code);
     }

@@ -37,7 +37,7 @@ constexpr Row DIGITS[] = {
     {L"789\b"},
     {L"456\t"},
     {L"123-"},
-    {L"0.\r", "112"},
+    {L"0.\x10\r", "3324"},
 };
 
 // The gaps of the table of kana take the marks.

@@ -17,7 +17,7 @@ enum KeyCode : wchar_t {
     KEY_SPACE = L' ',
     KEY_SHIFT = L'\x0E',
     KEY_SCRIPT = L'\x0F', ///< Hiragana or katakana.
-    KEY_MODE = L'\x10',   ///< Letters or kana.
+    KEY_MODE = L'\x10',   ///< From letters to kana, from kana and digits to letters.
     KEY_VOICED = L'゛',   ///< Changes the character before the caret, as the next two.
     KEY_SEMI_VOICED = L'゜',
     KEY_SMALL = L'小',

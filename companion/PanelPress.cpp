@@ -116,7 +116,7 @@ void PanelWindow::Act(wchar_t code) {
         ::InvalidateRect(m_window, nullptr, FALSE);
         return;
     case KEY_MODE:
-        return SetMode(m_mode == 2 ? 0 : 2);
+        return SetMode(m_mode == 0 ? 2 : 0); // letters lead to kana, all else to letters
     default:
         TypeCharacter(code);
         if (m_shift == Shift::Once)
