@@ -75,7 +75,7 @@ test_package() {
     logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
 
     local start=$EPOCHREALTIME bad=0 good=0 expected=$root/tests/package/expected.txt
-    local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll)
+    local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
@@ -100,7 +100,7 @@ build_consumer() {
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
         -DCMAKE_PREFIX_PATH="$1" -DEXPECTED_VERSION="$(package_version)"
     ninja -C "$2"
-    cp "$1"/bin/*.dll "$2/"
+    cp "$1"/bin/*.dll "$1"/bin/fieldbook.exe "$2/"
 }
 
 build_with_pkgconf() {
