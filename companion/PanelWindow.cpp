@@ -21,6 +21,7 @@ constexpr UINT WM_ANNOUNCE = WM_APP;
 constexpr UINT_PTR CLOSE_TIMER = 1;
 constexpr UINT_PTR WATCH_TIMER = 2;
 constexpr UINT WATCH_INTERVAL = 100;
+constexpr int RAISES = 10; // one a watch, so for a second
 
 const wchar_t* TitleOf(int mode) {
     switch (mode) {
@@ -157,13 +158,28 @@ void PanelWindow::Watch() {
     Announce();
 }
 
-/// Under Wine a window that gets the focus comes up above the topmost ones, and the system does
-/// not know. The detour makes it put the windows in order.
+/// Whether the system sees a window above the panel: the list of a combo box, which belongs there.
+bool PanelWindow::IsBelowAnother() const {
+    HWND above = ::GetWindow(m_window, GW_HWNDPREV);
+    while (above != nullptr && !::IsWindowVisible(above))
+        above = ::GetWindow(above, GW_HWNDPREV);
+    return above != nullptr;
+}
+
+/// Under Wine a window that gets the focus comes up above the topmost ones, and once more when the
+/// screen has confirmed it; the system does not know of either. So the confirmation is taken in
+/// first, and for a while the panel is raised again, should it come late. The detour makes the
+/// system put the windows in order.
 void PanelWindow::StayOnTop() {
     const HWND focus = ::GetFocus();
-    if (focus == m_below || !::IsWindowVisible(focus))
+    if (!::IsWindowVisible(focus) || IsBelowAnother())
         return;
-    m_below = focus;
+    if (std::exchange(m_below, focus) != focus)
+        m_raises = RAISES;
+    if (m_raises == 0)
+        return;
+    --m_raises;
+    ::GetQueueStatus(QS_ALLINPUT);
     for (const HWND place : {HWND_NOTOPMOST, HWND_TOPMOST})
         ::SetWindowPos(m_window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

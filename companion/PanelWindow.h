@@ -34,6 +34,7 @@ private:
     void PutInPlace();
     void SetMode(int mode);
     void Watch();
+    bool IsBelowAnother() const;
     void StayOnTop();
     void Hide();
     void Announce();
@@ -55,6 +56,7 @@ private:
     bool m_shown = false;   ///< Wanted by the application; the window follows.
     HWND m_field = nullptr; ///< What has the focus while the panel is shown.
     HWND m_below = nullptr; ///< The focused window over which the panel has been put.
+    int m_raises = 0;       ///< How often it is still to be put there.
     HWND m_told = nullptr;  ///< The window that knows that the panel is shown, ...
     RECT m_toldPlace = {};  ///< ... and where.
     Shift m_shift = Shift::Off;
