@@ -82,9 +82,7 @@ TEST(EntryField, ThePanelItselfComesAndGoesAndLeavesTheFocus) {
     EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
     EXPECT_EQ(::GetFocus(), stage.m_edit.m_hWnd);
     stage.Type({'1', '2'});
-    CString str;
-    stage.m_edit.GetWindowText(str);
-    EXPECT_EQ(str, L"12");
+    EXPECT_EQ(fx::TextOf(stage.m_edit), L"12");
     stage.TapOther();
     EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
 }
@@ -115,8 +113,7 @@ TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(4, 4)));
     stage.Tap(point);
     EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(3, 6)));
-    CRect rect;
-    stage.m_combo.GetWindowRect(rect);
+    const CRect rect = fx::RectOf(stage.m_combo);
     stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
     EXPECT_TRUE(stage.m_combo.GetDroppedState());
 }

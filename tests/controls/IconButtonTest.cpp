@@ -171,8 +171,7 @@ TEST(IconButton, EachOfSeveralQuickTapsIsAClick) {
 
 TEST(IconButton, ReleaseOutsideDoesNothing) {
     ButtonStage stage({60, 24}, CIconButton::StyleToggle);
-    CRect rect;
-    stage.m_button.GetWindowRect(rect);
+    const CRect rect = fx::RectOf(stage.m_button);
     // The right and bottom edges are outside already.
     for (const CPoint end : {CPoint(rect.right, rect.top + 5), CPoint(rect.left + 5, rect.bottom),
                              rect.BottomRight() + CSize(30, 30), rect.TopLeft() - CSize(3, 3)}) {

@@ -65,7 +65,7 @@ TEST(Lists, TapsDoWhatTheControlsDo) {
     stage.m_tree.ClientToScreen(rect);
     stage.Tap(rect.CenterPoint());
     EXPECT_EQ(stage.m_tree.GetSelectedItem(), hItem);
-    stage.m_spin.GetWindowRect(rect);
+    rect = fx::RectOf(stage.m_spin);
     stage.Tap(CPoint(rect.CenterPoint().x, rect.bottom - 5));
     stage.Tap(CPoint(rect.CenterPoint().x, rect.bottom - 5));
     EXPECT_NE(stage.m_spin.GetPos(), 0);

@@ -1,44 +1,32 @@
 // The property sheet on the device's screen.
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include "controls/nPropertyPage.h"
 #include "controls/nPropertySheet.h"
 
 namespace {
 
+using fx::Screen;
+using fx::WhileOpen;
+
 constexpr int IDD_FIRST = 201;
 constexpr int IDD_SECOND = 202;
-constexpr UINT IDS_CAPTION = 210;
 constexpr int IDC_TEXT = 100;
-constexpr UINT WM_TEST = WM_APP + 1;
 
 class Page : public CnPropertyPage {
 public:
     explicit Page(int nIDTemplate) : CnPropertyPage(nIDTemplate) {}
 
     CString m_strText = L"P1";
-    BOOL m_bInitResult = FALSE;
-    int m_nExchanges = 0;
-    int m_nPresses = 0;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
         CnPropertyPage::DoDataExchange(pDX);
         DDX_Text(pDX, IDC_TEXT, m_strText);
-        ++m_nExchanges;
     }
-    BOOL OnInitDialog() override { return m_bInitResult = CnPropertyPage::OnInitDialog(); }
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point) {
-        ++m_nPresses;
-        CnPropertyPage::OnLButtonDown(nFlags, point);
-    }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Page, CnPropertyPage)
-ON_WM_LBUTTONDOWN()
-END_MESSAGE_MAP()
 
 class Sheet : public CnPropertySheet {
 public:
@@ -48,11 +36,7 @@ public:
         AddPage(&m_second);
     }
 
-    CRect Rect() const {
-        CRect rect;
-        GetWindowRect(rect);
-        return rect;
-    }
+    CRect Rect() const { return fx::RectOf(m_hWnd); }
     bool HasOkButton() const { return (m_nFlags & WF_OKBUTTON) != 0; }
     HWND Bar() const { return ::GetDlgItem(m_hWnd, 0xE800); }
 
@@ -62,29 +46,7 @@ public:
 
 protected:
     BOOL OnInitDialog() override { return m_bInitResult = CnPropertySheet::OnInitDialog(); }
-    afx_msg LRESULT OnTest(WPARAM wParam, LPARAM) { return static_cast<LRESULT>(wParam) + 1; }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Sheet, CnPropertySheet)
-ON_MESSAGE(WM_TEST, &Sheet::OnTest)
-END_MESSAGE_MAP()
-
-CRect Screen() {
-    return CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
-}
-
-/// Runs a look at the open sheet, then ends it.
-template <class Look>
-void WhileOpen(CnPropertySheet& sheet, Look look) {
-    fx::ModalScript script;
-    script.Then([] {}); // the sheet has been shown, if it shows itself
-    script.Then([&] {
-        look();
-        sheet.EndDialog(IDOK);
-    });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
-}
 
 /// Gives input, lets it be handled, and expects the sheet to be still there.
 template <class Input>
@@ -114,13 +76,11 @@ TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
 TEST(nPropertySheet, CommandBarStandsBelowThePages) {
     Sheet sheet(CnPropertySheet::OptionCommandBar);
     WhileOpen(sheet, [&] {
-        CRect bar;
-        ::GetWindowRect(sheet.Bar(), bar);
+        const CRect bar = fx::RectOf(sheet.Bar());
         EXPECT_EQ(bar, CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
         EXPECT_EQ(::SendMessage(sheet.Bar(), TB_GETBUTTONSIZE, 0, 0) & 0xFFFF, 32);
         EXPECT_TRUE(::IsWindowVisible(sheet.Bar()));
-        CRect page;
-        sheet.GetActivePage()->GetWindowRect(page);
+        const CRect page = fx::RectOf(*sheet.GetActivePage());
         EXPECT_GE(page.left, 0);
         EXPECT_LE(page.right, Screen().right);
         EXPECT_GT(page.Width(), 200);
@@ -162,38 +122,6 @@ TEST(nPropertySheet, OtherKeysReachThePage) {
     script.Then([&] { pen::Tap(CPoint(sheet.Rect().right - 45, 13)); });
     EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK) << "the OK button of the title bar";
     EXPECT_EQ(sheet.m_first.m_strText, L"P178");
-}
-
-TEST(nPropertySheet, PagesStartLikeDialogs) {
-    Sheet sheet;
-    WhileOpen(sheet, [&] {
-        EXPECT_EQ(sheet.SendMessage(WM_TEST, 41), 42);
-        EXPECT_TRUE(sheet.m_first.m_bInitResult);
-        EXPECT_EQ(sheet.m_first.m_nExchanges, 1);
-        CString str;
-        sheet.m_first.GetDlgItemText(IDC_TEXT, str);
-        EXPECT_EQ(str, L"P1");
-        EXPECT_EQ(sheet.m_second.m_hWnd, nullptr) << "not before it is shown";
-        sheet.SetActivePage(1);
-        EXPECT_TRUE(sheet.m_second.m_bInitResult);
-        sheet.m_second.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 50));
-        EXPECT_EQ(sheet.m_second.m_nPresses, 1);
-    });
-}
-
-TEST(nPropertySheet, StartsWithTheSelectedPageAndATitleFromTheResources) {
-    Page first(IDD_FIRST);
-    Page second(IDD_SECOND);
-    CnPropertySheet sheet(IDS_CAPTION, nullptr, 1);
-    sheet.AddPage(&first);
-    sheet.AddPage(&second);
-    EXPECT_TRUE(sheet.IsKindOf(RUNTIME_CLASS(CnPropertySheet)));
-    WhileOpen(sheet, [&] {
-        EXPECT_EQ(sheet.GetActiveIndex(), 1);
-        CString str;
-        sheet.GetWindowText(str);
-        EXPECT_EQ(str, L"測点の設定");
-    });
 }
 
 TEST(nPropertySheet, TwoHundredOpensLeaveNothing) {

@@ -3,8 +3,12 @@
 #include "support/DialogTemplate.h"
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 namespace {
+
+using fx::Screen;
+using fx::WhileOpen;
 
 constexpr int IDC_TEXT = 100;
 constexpr int IDC_EDIT = 101;
@@ -23,33 +27,13 @@ public:
         SetOption(dwOption);
     }
 
-    CRect Rect() const {
-        CRect rect;
-        GetWindowRect(rect);
-        return rect;
-    }
+    CRect Rect() const { return fx::RectOf(m_hWnd); }
     bool HasOkButton() const { return (GetExStyle() & WS_EX_CAPTIONOKBTN) != 0; }
     HWND Bar() const { return m_pWndEmptyCB != nullptr ? m_pWndEmptyCB->m_hWnd : nullptr; }
 
 private:
     fx::DialogTemplate m_template;
 };
-
-CRect Screen() {
-    return CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
-}
-
-/// Runs a look at the open dialog, then ends it.
-template <class Look>
-void WhileOpen(Dialog& dlg, Look look) {
-    fx::ModalScript script;
-    script.Then([] {}); // the loop shows the dialog when it is idle for the first time
-    script.Then([&] {
-        look();
-        dlg.EndDialog(IDOK);
-    });
-    script.Run([&] { return dlg.DoModal(); });
-}
 
 // --- What the option word decides --------------------------------------------------------
 
@@ -97,9 +81,7 @@ TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
         CRect client;
         dlg.GetClientRect(client);
         EXPECT_EQ(client, CRect(0, 0, Screen().right, Screen().bottom - 26));
-        CRect bar;
-        ::GetWindowRect(dlg.Bar(), bar);
-        EXPECT_EQ(bar, CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
+        EXPECT_EQ(fx::RectOf(dlg.Bar()), CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
         EXPECT_EQ(LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)), 32);
         EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
     });
@@ -144,36 +126,6 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
             script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.option << ' ' << row.key;
     }
-}
-
-TEST(nDialog, TitleBarButtonsWorkWithThePen) {
-    struct Row {
-        const char* what;
-        DWORD options;
-        int fromRight; ///< Place of the tap in the title bar.
-        INT_PTR result;
-    };
-    const Row rows[] = {
-        {"OK, full screen", CnDialog::OptionOkButton, 45, IDOK},
-        {"close, full screen", CnDialog::OptionOkButton, 12, IDCANCEL},
-        {"close without OK", 0, 12, IDCANCEL},
-        {"OK, popup", CnDialog::OptionOkButton | CnDialog::OptionPopup, 45, IDOK},
-    };
-    for (const Row& row : rows) {
-        Dialog dlg(row.options);
-        fx::ModalScript script;
-        script.Then([&] { pen::Tap(CPoint(dlg.Rect().right - row.fromRight, dlg.Rect().top + 13)); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.what;
-    }
-}
-
-TEST(nDialog, PenLiftedBesideTheOkButtonDoesNothing) {
-    Dialog dlg(CnDialog::OptionOkButton);
-    fx::ModalScript script;
-    script.Then([&] { pen::Drag(CPoint(dlg.Rect().right - 45, 13), CPoint(60, 100)); });
-    int nWaited = 0;
-    script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), 77);
 }
 
 TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {

@@ -1,24 +1,10 @@
 #include "BrowseFolderStage.h"
 
-#include "TemplateRects.h"
 #include "support/Leftovers.h"
 
 namespace {
 
 using namespace browse_folder;
-
-TEST(BrowseFolderDlg, TemplateHasItsPlacesAndStyles) {
-    const TestDrive drive;
-    CBrowseFolderDlg dlg;
-    WhileOpen(dlg, [&] {
-        ExpectControls(dlg, {138, 154}, {{TREE, WC_TREEVIEW, {2, 4, 134, 147}}});
-        CString strTitle;
-        dlg.GetWindowText(strTitle);
-        EXPECT_EQ(strTitle, L"フォルダの選択");
-        constexpr DWORD STYLE = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
-        EXPECT_EQ(Tree(dlg).GetStyle() & STYLE, STYLE);
-    });
-}
 
 TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPath) {
     const TestDrive drive;
@@ -45,6 +31,7 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPath) {
     WhileOpen(dlg, [&] {
         const CTreeCtrl& tree = Tree(dlg);
         const HTREEITEM hRoot = tree.GetRootItem();
+        EXPECT_EQ(fx::TextOf(dlg), L"フォルダの選択");
         EXPECT_EQ(tree.GetItemText(hRoot), L"ﾙｰﾄ");
         EXPECT_EQ(PathOf(tree, hRoot), L"\\");
         EXPECT_EQ(tree.GetNextSiblingItem(hRoot), nullptr);
@@ -141,7 +128,7 @@ TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
                 EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(row.folder);
             }
         });
-        script.Then([&] { caption::TapOk(dlg); });
+        script.Then([&] { fx::TapOk(dlg); });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
         EXPECT_EQ(dlg.GetSelectedFolder(), CString(row.folder)) << "taken over as it was";
     }
@@ -159,9 +146,9 @@ TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
         const wchar_t* folder;
     };
     const Row rows[] = {
-        {"folder, OK", false, caption::TapOk, IDOK, L"\\data"},
-        {"root, OK", true, caption::TapOk, IDOK, L"\\"},
-        {"folder, close", false, caption::TapClose, IDCANCEL, L"\\data\\site"},
+        {"folder, OK", false, fx::TapOk, IDOK, L"\\data"},
+        {"root, OK", true, fx::TapOk, IDOK, L"\\"},
+        {"folder, close", false, fx::TapClose, IDCANCEL, L"\\data\\site"},
     };
     for (const Row& row : rows) {
         CBrowseFolderDlg dlg(L"\\data\\site");

@@ -3,9 +3,9 @@
 
 #include "dialogs/BrowseFolderDlg.h"
 
-#include "CaptionButtons.h"
 #include "TestDrive.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include <algorithm>
 
@@ -13,6 +13,7 @@ namespace browse_folder {
 
 constexpr int TREE = 1100;
 
+using fx::WhileOpen;
 using Paths = std::vector<CString>;
 
 inline CTreeCtrl& Tree(CDialog& dlg) {
@@ -43,17 +44,6 @@ inline Paths SortedPaths(const CTreeCtrl& tree) {
     Paths paths = AllPaths(tree);
     std::sort(paths.begin(), paths.end());
     return paths;
-}
-
-/// Runs a look at the open dialog, then cancels it.
-template <class Look>
-void WhileOpen(CBrowseFolderDlg& dlg, Look look) {
-    fx::ModalScript script;
-    script.Then([&] {
-        look();
-        dlg.EndDialog(IDCANCEL);
-    });
-    script.Run([&] { return dlg.DoModal(); });
 }
 
 inline void TapItem(const CTreeCtrl& tree, HTREEITEM hItem) {

@@ -43,7 +43,7 @@ TEST(BrowseFolderTrouble, OneOfFiveThousandFoldersCanBePicked) {
     });
     script.Then([&] {
         strLast = PathOf(Tree(dlg), Tree(dlg).GetSelectedItem());
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetSelectedFolder(), strLast);
@@ -61,7 +61,7 @@ TEST(BrowseFolderTrouble, LinkIsShownButNotEntered) {
     fx::ModalScript script;
     script.Then([&] {
         EXPECT_EQ(SortedPaths(Tree(dlg)), wanted);
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetSelectedFolder(), L"\\data\\away");
@@ -82,7 +82,7 @@ TEST(BrowseFolderTrouble, PathsMayBeLongerThanTheSystemsUsualLimit) {
         EXPECT_EQ(AllPaths(Tree(dlg)), wanted);
         ASSERT_NE(Tree(dlg).GetSelectedItem(), nullptr);
         EXPECT_EQ(PathOf(Tree(dlg), Tree(dlg).GetSelectedItem()), strPath);
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetSelectedFolder(), strPath);
@@ -109,7 +109,7 @@ TEST(BrowseFolderTrouble, CardMayBeTakenOutWhileItsFoldersAreShown) {
         drive.Remove();
         TapItem(Tree(dlg), Tree(dlg).GetChildItem(Tree(dlg).GetRootItem()));
     });
-    script.Then([&] { caption::TapOk(dlg); });
+    script.Then([&] { fx::TapOk(dlg); });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetSelectedFolder(), L"\\card");
     CBrowseFolderDlg again(L"\\card");
@@ -138,7 +138,7 @@ TEST(BrowseFolderTrouble, OkAfterTheMemoryHasBeenFreedKeepsTheFolder) {
         dlg.ResetMemory();
         EXPECT_EQ(Tree(dlg).GetItemData(hSelected), 0U);
         EXPECT_EQ(Tree(dlg).GetImageList(TVSIL_NORMAL), nullptr) << "images that exist no more";
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetSelectedFolder(), L"\\a");

@@ -1,10 +1,8 @@
 #include "dialogs/ButtonMenuDlg.h"
 
-#include "TemplateRects.h"
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
-
-#include <Tesuvo.h>
+#include "support/TitleBar.h"
 
 namespace {
 
@@ -36,21 +34,12 @@ INT_PTR RunMenu(Menu& menu, std::initializer_list<std::function<void()>> steps) 
     return script.Run([&] { return menu.m_dlg.DoModal(); });
 }
 
-/// The X in the title bar.
-CPoint CloseBox(const CWnd& dlg) {
-    CRect rect;
-    dlg.GetWindowRect(rect);
-    return CPoint(rect.right - 12, rect.top + 14);
-}
-
 TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
     const CString texts[] = {L"ファイルを開く", L"ファイル名を付けて保存", L"新規作成"};
     for (const int nEntries : {0, 1, 3, 8, 25}) {
         Menu menu(nEntries);
         const auto look = [&] {
-            CString str;
-            menu.m_dlg.GetWindowText(str);
-            EXPECT_EQ(str, L"インフォメーション");
+            EXPECT_EQ(fx::TextOf(menu.m_dlg), L"インフォメーション");
             CRect client;
             menu.m_dlg.GetClientRect(client);
             CRect units(0, 0, 133, 0);
@@ -58,36 +47,19 @@ TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
             EXPECT_EQ(client, CRect(0, 0, units.right, nEntries * BUTTON_HEIGHT));
             for (int i = 0; i < nEntries; ++i) {
                 ASSERT_NE(menu.Button(i), nullptr) << i;
-                CRect rect;
-                menu.Button(i)->GetWindowRect(rect);
+                CRect rect = fx::RectOf(*menu.Button(i));
                 menu.m_dlg.ScreenToClient(rect);
                 EXPECT_EQ(rect, CRect(CPoint(0, i * BUTTON_HEIGHT), CSize(client.Width(), BUTTON_HEIGHT)));
-                menu.Button(i)->GetWindowText(str);
-                EXPECT_EQ(str, texts[i % 3]);
+                EXPECT_EQ(fx::TextOf(*menu.Button(i)), texts[i % 3]);
                 EXPECT_TRUE(menu.Button(i)->IsWindowVisible());
             }
             EXPECT_EQ(menu.Button(nEntries), nullptr);
         };
-        EXPECT_EQ(RunMenu(menu, {look, [&] { pen::Tap(CloseBox(menu.m_dlg)); }}), IDCANCEL) << nEntries;
+        EXPECT_EQ(RunMenu(menu, {look, [&] { pen::Tap(fx::FindTitleButton(menu.m_dlg, HTCLOSE)); }}),
+                  IDCANCEL)
+            << nEntries;
         EXPECT_EQ(menu.m_dlg.GetMenuIndex(), -1);
     }
-}
-
-TEST(ButtonMenuDlg, ButtonsShowTheSharedIconAtTheirLeft) {
-    Menu menu(1);
-    RunMenu(menu, {[&] {
-                auto* const pButton = dynamic_cast<CIconButton*>(menu.Button(0));
-                ASSERT_NE(pButton, nullptr);
-                pButton->UpdateWindow();
-                CClientDC dc(pButton);
-                const COLORREF face = ::GetSysColor(COLOR_3DFACE);
-                int nDrawn = 0; // where an icon of 16 pixels stands in a button of 36
-                for (int x = 10; x < 26; ++x)
-                    nDrawn += dc.GetPixel(x, 18) != face ? 1 : 0;
-                EXPECT_GT(nDrawn, 8);
-                EXPECT_EQ(pButton->SetIcon(nullptr), TVGetCommonIcon(26));
-                menu.m_dlg.EndDialog(IDCANCEL);
-            }});
 }
 
 TEST(ButtonMenuDlg, TappingAnEntryEndsItWithTheIndex) {
@@ -121,26 +93,11 @@ TEST(ButtonMenuDlg, ANewRunForgetsTheChoiceBefore) {
     EXPECT_EQ(menu.m_dlg.GetMenuIndex(), 1);
     menu.m_ids.RemoveAt(0); // the next run shows what the array holds then
     const auto look = [&] {
-        CString str;
-        menu.Button(0)->GetWindowText(str);
-        EXPECT_EQ(str, L"ファイル名を付けて保存");
+        EXPECT_EQ(fx::TextOf(*menu.Button(0)), L"ファイル名を付けて保存");
         EXPECT_EQ(menu.Button(2), nullptr);
     };
-    EXPECT_EQ(RunMenu(menu, {look, [&] { pen::Tap(CloseBox(menu.m_dlg)); }}), IDCANCEL);
+    EXPECT_EQ(RunMenu(menu, {look, [&] { pen::Tap(fx::FindTitleButton(menu.m_dlg, HTCLOSE)); }}), IDCANCEL);
     EXPECT_EQ(menu.m_dlg.GetMenuIndex(), -1);
-}
-
-TEST(ButtonMenuDlg, MissingTextsAreEmpty) {
-    CUIntArray ids;
-    ids.Add(1599);
-    CButtonMenuDlg dlg(1598, &ids, nullptr);
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(dlg.GetWindowTextLength(), 0);
-        EXPECT_EQ(dlg.GetDlgItem(FIRST_BUTTON)->GetWindowTextLength(), 0);
-        pen::Tap(*dlg.GetDlgItem(FIRST_BUTTON));
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
 }
 
 TEST(ButtonMenuDlg, TwoHundredOpensLeaveNothingHoweverTheyEnd) {

@@ -41,16 +41,14 @@ TEST(FileSelectNames, TypedNameGetsTheExtensionUnlessItHasOne) {
         {L"", L"", L""},
     };
     for (const Row& row : rows) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(CFileSelectDlg::ModeSave);
-        dlg.SetSubName(L"csv");
+        CsvDlg dlg(CFileSelectDlg::ModeSave, L"");
         fx::ModalScript script;
         script.Then([&] {
             dlg.SetDlgItemText(NAME, row.typed);
             EXPECT_EQ(dlg.GetFilePath(), row.path) << "while open";
             EXPECT_EQ(Text(dlg, NAME), row.completed);
             dlg.SetDlgItemText(NAME, row.typed);
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(row.typed);
         EXPECT_EQ(dlg.GetFilePath(), row.path) << "afterwards";
@@ -82,10 +80,7 @@ TEST(FileSelectNames, ProposalIsTheFirstNumberThatIsFree) {
 
 TEST(FileSelectNames, WithoutCurrentNameThereIsNoProposal) {
     const TestDrive drive;
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetMode(CFileSelectDlg::ModeNew);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\");
+    CsvDlg dlg(CFileSelectDlg::ModeNew);
     WhileOpen(dlg, [&] { EXPECT_EQ(Text(dlg, NAME), L""); });
     EXPECT_EQ(dlg.GetFilePath(), L"");
 }
@@ -108,16 +103,12 @@ TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
         {CFileSelectDlg::ModeNew, L"a.c", L".csv"},    // shorter than that
     };
     for (const Row& row : rows) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(row.mode);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
+        CsvDlg dlg(row.mode);
         fx::ModalScript script;
         script.Then([&] { TapFile(dlg, row.tapped); });
         script.Then([&] {
             EXPECT_EQ(Text(dlg, NAME), row.name);
-            CRect rect;
-            List(dlg).GetWindowRect(rect);
+            const CRect rect = fx::RectOf(List(dlg));
             pen::Tap(CPoint(rect.left + 20, rect.bottom - 30)); // below the last file
         });
         script.Then([&] {
@@ -132,16 +123,13 @@ TEST(FileSelectNames, FileThatHasVanishedCanStillBeTapped) {
     const TestDrive drive;
     for (const int nMode : {CFileSelectDlg::ModeOpen, CFileSelectDlg::ModeNew}) {
         drive.MakeFile(L"\\gone.csv");
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(nMode);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
+        CsvDlg dlg(nMode);
         fx::ModalScript script;
         script.Then([&] {
             ::DeleteFile(L"\\gone.csv");
             TapFile(dlg, L"gone.csv");
         });
-        script.Then([&] { caption::TapOk(dlg); });
+        script.Then([&] { fx::TapOk(dlg); });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
         EXPECT_EQ(dlg.GetFilePath(), L"\\gone.csv");
     }
@@ -152,14 +140,11 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
     drive.MakeFolder(L"\\data");
     drive.MakeFile(L"\\data\\old.csv");
     for (const int nMode : {CFileSelectDlg::ModeSave, CFileSelectDlg::ModeNew}) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(nMode);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\data");
+        CsvDlg dlg(nMode, L"\\data");
         fx::ModalScript script;
         script.Then([&] {
             dlg.SetDlgItemText(NAME, L"old");
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         script.Then([&] {
             EXPECT_EQ(QuestionText(), L"\\data\\old.csvは既に存在します。\n上書きしますか？");
@@ -169,7 +154,7 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
         script.Then([&] {
             EXPECT_EQ(CWnd::GetActiveWindow(), &dlg) << "No leaves the dialog open";
             EXPECT_EQ(Text(dlg, NAME), L"old.csv");
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         script.Then([&] { pen::Tap(*Box().GetDlgItem(IDYES)); });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
@@ -187,14 +172,11 @@ TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
     };
     for (const Row& row : {Row{0, L"old.csv", L"\\old.csv"}, Row{0, L"new", L"\\new"}, Row{0, L"", L""},
                            Row{3, L"old.csv", L"\\old.csv"}}) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(row.mode);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
+        CsvDlg dlg(row.mode);
         fx::ModalScript script;
         script.Then([&] {
             dlg.SetDlgItemText(NAME, row.typed);
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
         EXPECT_EQ(dlg.GetFilePath(), row.path);
@@ -204,14 +186,13 @@ TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
 TEST(FileSelectNames, CloseButtonCancels) {
     const TestDrive drive;
     drive.MakeFile(L"\\old.csv");
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetMode(CFileSelectDlg::ModeSave);
+    CsvDlg dlg(CFileSelectDlg::ModeSave, L"");
     dlg.SetCurrentName(L"seed");
-    dlg.SetSubName(L"csv");
+    dlg.SetSubName(L"csv"); // proposes it
     fx::ModalScript script;
     script.Then([&] {
         dlg.SetDlgItemText(NAME, L"old.csv");
-        caption::TapClose(dlg);
+        fx::TapClose(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
     EXPECT_EQ(dlg.GetFilePath(), L"\\seed.csv");
@@ -228,11 +209,9 @@ TEST(FileSelectNames, FolderButtonChangesTheFolderAndKeepsTheName) {
         const wchar_t* folder;
         Texts names;
     };
-    for (const Row& row : {Row{"OK", caption::TapOk, L"\\data", {L"in.csv"}},
-                           Row{"close", caption::TapClose, L"\\", {L"top.csv"}}}) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
+    for (const Row& row :
+         {Row{"OK", fx::TapOk, L"\\data", {L"in.csv"}}, Row{"close", fx::TapClose, L"\\", {L"top.csv"}}}) {
+        CsvDlg dlg;
         fx::ModalScript script;
         script.Then([&] {
             dlg.SetDlgItemText(NAME, L"typed");
@@ -252,7 +231,7 @@ TEST(FileSelectNames, FolderButtonChangesTheFolderAndKeepsTheName) {
             EXPECT_EQ(Text(dlg, FOLDER), row.folder) << row.what;
             EXPECT_EQ(Names(dlg), row.names) << row.what;
             EXPECT_EQ(Text(dlg, NAME), L"typed");
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
         EXPECT_EQ(dlg.GetFileFolder(), row.folder) << row.what;

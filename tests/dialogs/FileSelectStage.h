@@ -3,9 +3,9 @@
 
 #include "dialogs/FileSelectDlg.h"
 
-#include "CaptionButtons.h"
 #include "TestDrive.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 namespace file_select {
 
@@ -15,7 +15,18 @@ constexpr int FOLDER_BUTTON = 1153;
 constexpr int FOLDER = 1154;
 constexpr int EXTENSION = 1155;
 
+using fx::WhileOpen;
 using Texts = std::vector<CString>;
+
+/// A dialog for files whose extension is csv.
+class CsvDlg : public CFileSelectDlg {
+public:
+    explicit CsvDlg(int nMode = ModeOpen, LPCTSTR pszFolder = L"\\") : CFileSelectDlg(nullptr) {
+        SetMode(nMode);
+        SetSubName(L"csv");
+        SetFileFolder(pszFolder);
+    }
+};
 
 inline CListCtrl& List(CDialog& dlg) {
     return *static_cast<CListCtrl*>(dlg.GetDlgItem(LIST));
@@ -47,17 +58,6 @@ inline void TapFile(CDialog& dlg, LPCTSTR pszName) {
     List(dlg).GetItemRect(static_cast<int>(it - names.begin()), rect, LVIR_LABEL);
     List(dlg).ClientToScreen(rect);
     pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
-}
-
-/// Runs a look at the open dialog, then cancels it.
-template <class Look>
-void WhileOpen(CFileSelectDlg& dlg, Look look) {
-    fx::ModalScript script;
-    script.Then([&] {
-        look();
-        dlg.EndDialog(IDCANCEL);
-    });
-    script.Run([&] { return dlg.DoModal(); });
 }
 
 } // namespace file_select

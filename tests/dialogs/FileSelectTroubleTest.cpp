@@ -13,9 +13,7 @@ TEST(FileSelectTrouble, FilesComeInOneGo) {
     constexpr int FILES = 1000;
     const TestDrive drive;
     drive.MakeMany(TestDrive::Files, L"", "%03.0f.csv", FILES);
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\");
+    CsvDlg dlg;
     FillWatch watch(WC_LISTVIEW);
     const auto expectOneGo = [&] {
         EXPECT_EQ(watch.nInserted, FILES);
@@ -39,9 +37,7 @@ TEST(FileSelectTrouble, LastOfTwentyThousandFilesCanBePicked) {
     constexpr int FILES = 20000;
     const TestDrive drive;
     drive.MakeMany(TestDrive::Files, L"", "%05.0f.csv", FILES);
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\");
+    CsvDlg dlg;
     CString strLast;
     fx::ModalScript script;
     script.Then([&] {
@@ -50,7 +46,7 @@ TEST(FileSelectTrouble, LastOfTwentyThousandFilesCanBePicked) {
         strLast = List(dlg).GetItemText(FILES - 1, 0);
         TapFile(dlg, strLast);
     });
-    script.Then([&] { caption::TapOk(dlg); });
+    script.Then([&] { fx::TapOk(dlg); });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetFilePath(), L"\\" + strLast);
 }
@@ -61,9 +57,7 @@ TEST(FileSelectTrouble, FolderThatMayNotBeReadIsEmptyAndCanBeLeft) {
     drive.MakeFile(L"\\locked\\in.csv");
     drive.MakeFile(L"\\top.csv");
     const LockedFolder locked(L"\\locked");
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\locked");
+    CsvDlg dlg(CFileSelectDlg::ModeOpen, L"\\locked");
     WhileOpen(dlg, [&] {
         EXPECT_EQ(Names(dlg), Texts());
         dlg.SetFileFolder(L"\\");
@@ -74,10 +68,7 @@ TEST(FileSelectTrouble, FolderThatMayNotBeReadIsEmptyAndCanBeLeft) {
 TEST(FileSelectTrouble, CardMayBeTakenOutWhileItsFilesAreShown) {
     const TestDrive drive;
     drive.MakeFile(L"\\a.csv");
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetMode(CFileSelectDlg::ModeNew);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\");
+    CsvDlg dlg(CFileSelectDlg::ModeNew);
     fx::ModalScript script;
     script.Then([&] {
         drive.Remove();
@@ -92,12 +83,12 @@ TEST(FileSelectTrouble, CardMayBeTakenOutWhileItsFilesAreShown) {
         ASSERT_NE(&browse, &dlg);
         const auto& tree = *static_cast<CTreeCtrl*>(browse.GetDlgItem(1100));
         EXPECT_EQ(tree.GetCount(), 1U) << "the root alone";
-        caption::TapClose(browse);
+        fx::TapClose(browse);
     });
     script.Then([&] {
         dlg.SetFileFolder(L"\\");
         EXPECT_EQ(Names(dlg), Texts());
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetFilePath(), L"\\a.csv");
@@ -136,21 +127,18 @@ TEST(FileSelectTrouble, EveryWayToWriteAnExistingNameIsAskedAbout) {
         {strDeep, L"old"},
     };
     for (const Row& row : rows) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(CFileSelectDlg::ModeSave);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(row.folder);
+        CsvDlg dlg(CFileSelectDlg::ModeSave, row.folder);
         fx::ModalScript script;
         script.Then([&] {
             EXPECT_EQ(Names(dlg), Texts{L"old.csv"});
             dlg.SetDlgItemText(NAME, row.typed);
-            caption::TapOk(dlg);
+            fx::TapOk(dlg);
         });
         script.Then([&] {
             ASSERT_NE(CWnd::GetActiveWindow(), &dlg) << "no question";
             pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(IDNO));
         });
-        script.Then([&] { caption::TapClose(dlg); });
+        script.Then([&] { fx::TapClose(dlg); });
         EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL)
             << fx::Utf8(row.folder) << " " << fx::Utf8(row.typed);
     }
@@ -160,23 +148,17 @@ TEST(FileSelectTrouble, EveryWayToWriteAnExistingNameIsAskedAbout) {
 
 TEST(FileSelectTrouble, NameIsTypedWithThePenOnTheInputPanel) {
     const TestDrive drive;
-    CFileSelectDlg dlg(nullptr);
-    dlg.SetMode(CFileSelectDlg::ModeSave);
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\");
+    CsvDlg dlg(CFileSelectDlg::ModeSave);
     fx::ModalScript script;
     script.Then([&] {
         pen::Tap(*dlg.GetDlgItem(NAME));
-        CRect bar;
         ASSERT_NE(dlg.m_pWndEmptyCB, nullptr);
-        dlg.m_pWndEmptyCB->GetWindowRect(bar);
+        const CRect bar = fx::RectOf(*dlg.m_pWndEmptyCB);
         pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y)); // the switch of the panel
     });
     script.Until([] { return panel::IsVisible(); });
     script.Then([&] {
-        CRect field;
-        dlg.GetDlgItem(NAME)->GetWindowRect(field);
-        EXPECT_LT(field.bottom, panel::Place().top);
+        EXPECT_LT(fx::RectOf(*dlg.GetDlgItem(NAME)).bottom, panel::Place().top);
         constexpr int ROWS = 5;
         for (const int x : {18, 42, 66})
             pen::Tap(panel::At(1, ROWS, x));
@@ -184,7 +166,7 @@ TEST(FileSelectTrouble, NameIsTypedWithThePenOnTheInputPanel) {
     script.Until([&] { return Text(dlg, NAME).GetLength() == 3; });
     script.Then([&] {
         EXPECT_EQ(Text(dlg, NAME), L"qwe");
-        caption::TapOk(dlg);
+        fx::TapOk(dlg);
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_EQ(dlg.GetFilePath(), L"\\qwe.csv");

@@ -1,6 +1,5 @@
 #include "dialogs/InputDlg.h"
 
-#include "TemplateRects.h"
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
 
@@ -34,41 +33,18 @@ TEST(InputDlg, TextsComeAsStringsOrFromResources) {
         {noId, L"文", L"題"},
     };
     for (const Row& row : rows) {
-        fx::ModalScript script;
-        script.Then([&] {
-            CString strCaption;
-            row.dlg.GetWindowText(strCaption);
-            EXPECT_EQ(strCaption, row.caption);
+        fx::WhileOpen(row.dlg, [&] {
+            EXPECT_EQ(fx::TextOf(row.dlg), row.caption);
             EXPECT_EQ(Text(row.dlg, MESSAGE), row.message);
-            row.dlg.EndDialog(IDCANCEL);
         });
-        script.Run([&] { return row.dlg.DoModal(); });
     }
-}
-
-TEST(InputDlg, TemplateHasItsPlacesAndTexts) {
-    CInputDlg dlg(L"文", L"題", nullptr);
-    fx::ModalScript script;
-    script.Then([&] {
-        ExpectControls(dlg, {131, 57},
-                       {{MESSAGE, WC_STATIC, {3, 3, 126, 20}},
-                        {VALUE, WC_EDIT, {9, 23, 113, 11}},
-                        {IDOK, WC_BUTTON, {9, 39, 50, 14}},
-                        {IDCANCEL, WC_BUTTON, {72, 39, 50, 14}}});
-        EXPECT_EQ(Text(dlg, IDCANCEL), L"キャンセル");
-        EXPECT_EQ(dlg.GetDefID(), MAKELONG(IDOK, DC_HASDEFID));
-        EXPECT_TRUE(dlg.GetDlgItem(VALUE)->GetStyle() & ES_AUTOHSCROLL);
-        dlg.EndDialog(IDCANCEL);
-    });
-    script.Run([&] { return dlg.DoModal(); });
 }
 
 TEST(InputDlg, OpensWithTheCaretBehindTheTextAndNothingSelected) {
     for (const CString& strValue : {CString(), CString(L"abc"), CString(L'x', 200)}) {
         CInputDlg dlg(L"文", L"題", nullptr);
         dlg.SetString(strValue);
-        fx::ModalScript script;
-        script.Then([&] {
+        fx::WhileOpen(dlg, [&] {
             EXPECT_EQ(CWnd::GetFocus(), dlg.GetDlgItem(VALUE));
             int nStart = -1;
             int nEnd = -1;
@@ -76,9 +52,7 @@ TEST(InputDlg, OpensWithTheCaretBehindTheTextAndNothingSelected) {
             EXPECT_EQ(nStart, strValue.GetLength());
             EXPECT_EQ(nEnd, strValue.GetLength());
             EXPECT_EQ(Text(dlg, VALUE), strValue);
-            dlg.EndDialog(IDCANCEL);
         });
-        script.Run([&] { return dlg.DoModal(); });
     }
 }
 
@@ -101,19 +75,13 @@ TEST(InputDlg, GivesBackWhatWasTypedAfterOkOnly) {
 TEST(InputDlg, CentresOnItsOwnerInsideTheScreen) {
     fx::Frame owner(CSize(100, 200));
     CInputDlg dlg(L"文", L"題", &owner);
-    fx::ModalScript script;
-    script.Then([&] {
-        CRect ownerRect;
-        CRect rect;
-        owner.GetWindowRect(ownerRect);
-        dlg.GetWindowRect(rect);
-        EXPECT_NEAR(rect.CenterPoint().y, ownerRect.CenterPoint().y, 1);
+    fx::WhileOpen(dlg, [&] {
+        const CRect rect = fx::RectOf(dlg);
+        EXPECT_NEAR(rect.CenterPoint().y, fx::RectOf(owner).CenterPoint().y, 1);
         EXPECT_GE(rect.left, 0);
         EXPECT_LE(rect.right, 240);
         EXPECT_FALSE(owner.IsWindowEnabled());
-        dlg.EndDialog(IDCANCEL);
     });
-    script.Run([&] { return dlg.DoModal(); });
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include <thread>
 
@@ -27,8 +28,8 @@ Shown Look() {
     constexpr int TEXT_ID = 0xFFFF; // the system's, for the one static that is not an icon
     CWnd* const pBox = CWnd::GetActiveWindow();
     Shown shown;
-    pBox->GetWindowText(shown.strCaption);
-    pBox->GetWindowRect(shown.rect);
+    shown.strCaption = fx::TextOf(*pBox);
+    shown.rect = fx::RectOf(*pBox);
     shown.hOwner = ::GetWindow(pBox->m_hWnd, GW_OWNER);
     shown.nFocus = ::GetDlgCtrlID(::GetFocus());
     for (int nID = IDOK; nID <= IDNO; ++nID)
@@ -37,10 +38,9 @@ Shown Look() {
     for (CWnd* p = pBox->GetWindow(GW_CHILD); p != nullptr; p = p->GetWindow(GW_HWNDNEXT)) {
         if (!p->IsWindowVisible())
             continue;
-        shown.parts.emplace_back();
-        p->GetWindowRect(shown.parts.back());
+        shown.parts.push_back(fx::RectOf(*p));
         if (static_cast<WORD>(p->GetDlgCtrlID()) == TEXT_ID && (p->GetStyle() & SS_TYPEMASK) != SS_ICON)
-            p->GetWindowText(shown.strText);
+            shown.strText = fx::TextOf(*p);
     }
     return shown;
 }
@@ -130,7 +130,7 @@ CString Joined(CString str) {
 
 TEST(ResMsgBox, LongTextsStayOnTheScreen) {
     CResMsgBox box;
-    const CRect screen(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    const CRect screen = fx::Screen();
     const CString texts[] = {
         CString(L'A', 200) + L".TXTは既に存在します。\n上書きしますか？",
         CString(L'境', 100) + L"は既に存在します。\n上書きしますか？",

@@ -1,10 +1,7 @@
 #include "dialogs/SelMemberDlg.h"
 
-#include "TemplateRects.h"
 #include "support/Leftovers.h"
 #include "support/ModalScript.h"
-
-#include <Tesuvo.h>
 
 #include <map>
 
@@ -160,65 +157,25 @@ TEST(SelMemberDlg, CancelLeavesTheVeryItemsGiven) {
     EXPECT_EQ(Members::InList(members.m_dlg.m_listCurrent), L"xy");
 }
 
-TEST(SelMemberDlg, TemplateHasItsPlacesAndTexts) {
-    Members members(L"a", L"x");
-    members.Run(L"", [&] {
-        CSelMemberDlg& dlg = members.m_dlg;
-        ExpectControls(dlg, {134, 99},
-                       {{LEFT, WC_LISTBOX, {4, 13, 49, 63}},
-                        {1003, WC_BUTTON, {54, 19, 13, 22}},
-                        {1004, WC_BUTTON, {54, 47, 13, 22}},
-                        {RIGHT, WC_LISTBOX, {68, 13, 48, 63}},
-                        {1008, WC_BUTTON, {118, 18, 13, 13}},
-                        {1009, WC_BUTTON, {118, 35, 13, 13}},
-                        {IDOK, WC_BUTTON, {39, 83, 44, 12}},
-                        {IDCANCEL, WC_BUTTON, {86, 83, 44, 12}}});
-        struct Text {
-            int nID;
-            const wchar_t* psz;
-        };
-        for (const Text& text : {Text{1003, L">>"}, Text{1004, L"<<"}, Text{1008, L"↑"}, Text{1009, L"↓"},
-                                 Text{IDOK, L"OK"}, Text{IDCANCEL, L"キャンセル"}}) {
-            CString str;
-            dlg.GetDlgItemText(text.nID, str);
-            EXPECT_EQ(str, text.psz);
-        }
-        for (const int nID : {1008, 1009})
-            EXPECT_EQ(dlg.GetDlgItem(nID)->GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_OWNERDRAW));
-        dlg.EndDialog(IDCANCEL);
-    });
-}
-
 /// The label with that text; the labels share one id.
 CWnd* Label(CWnd& dlg, const CString& strText) {
     for (CWnd* p = dlg.GetWindow(GW_CHILD); p != nullptr; p = p->GetWindow(GW_HWNDNEXT)) {
-        CString str;
-        p->GetWindowText(str);
-        if (str == strText)
+        if (fx::TextOf(*p) == strText)
             return p;
     }
     return nullptr;
 }
 
-TEST(SelMemberDlg, LabelsStandOverTheListsAndHoldTheirTexts) {
+TEST(SelMemberDlg, LabelsHoldTheirTexts) {
     Members members(L"", L"");
     members.Run(L"", [&] {
-        struct Row {
-            const wchar_t* text;
-            CPoint place;
-        };
-        for (const Row& row : {Row{L"追加可能要素", {4, 3}}, Row{L"現在の設定", {69, 3}}}) {
-            CWnd* const pLabel = Label(members.m_dlg, row.text);
+        for (const wchar_t* pszText : {L"追加可能要素", L"現在の設定"}) {
+            CWnd* const pLabel = Label(members.m_dlg, pszText);
             ASSERT_NE(pLabel, nullptr);
-            CRect rect;
-            pLabel->GetWindowRect(rect);
-            members.m_dlg.ScreenToClient(rect);
-            CRect place(row.place, CSize(0, 0));
-            members.m_dlg.MapDialogRect(place);
-            EXPECT_EQ(rect.TopLeft(), place.TopLeft());
+            const CRect rect = fx::RectOf(*pLabel);
             CClientDC dc(pLabel);
             dc.SelectObject(pLabel->GetFont());
-            const CSize size = dc.GetTextExtent(row.text);
+            const CSize size = dc.GetTextExtent(pszText);
             EXPECT_LE(size.cx, rect.Width());
             EXPECT_LE(size.cy, rect.Height());
         }
@@ -229,29 +186,8 @@ TEST(SelMemberDlg, LabelsStandOverTheListsAndHoldTheirTexts) {
 TEST(SelMemberDlg, TheCaptionIsTheTitleEvenAnEmptyOne) {
     for (const CString& strTitle : {CString(L"出力する項目"), CString()}) {
         CSelMemberDlg dlg(strTitle, nullptr);
-        fx::ModalScript script;
-        script.Then([&] {
-            CString str;
-            dlg.GetWindowText(str);
-            EXPECT_EQ(str, strTitle);
-            dlg.EndDialog(IDCANCEL);
-        });
-        script.Run([&] { return dlg.DoModal(); });
+        fx::WhileOpen(dlg, [&] { EXPECT_EQ(fx::TextOf(dlg), strTitle); });
     }
-}
-
-TEST(SelMemberDlg, UpAndDownShowTheSharedArrows) {
-    Members members(L"", L"");
-    members.Run(L"", [&] {
-        for (const auto& [nID, nIcon] : {std::pair(1008, 4), std::pair(1009, 5)}) {
-            auto* const pButton = dynamic_cast<CIconButton*>(members.m_dlg.GetDlgItem(nID));
-            ASSERT_NE(pButton, nullptr);
-            EXPECT_EQ(pButton->SetIcon(nullptr), TVGetCommonIcon(nIcon));
-        }
-        EXPECT_NE(dynamic_cast<CnListBox*>(members.m_dlg.GetDlgItem(LEFT)), nullptr);
-        EXPECT_NE(dynamic_cast<CnListBox*>(members.m_dlg.GetDlgItem(RIGHT)), nullptr);
-        members.m_dlg.EndDialog(IDCANCEL);
-    });
 }
 
 TEST(SelMemberDlg, TwoHundredOpensLeaveNothing) {
@@ -261,17 +197,6 @@ TEST(SelMemberDlg, TwoHundredOpensLeaveNothing) {
         const WPARAM nButton = nOpen++ % 2 == 0 ? IDOK : IDCANCEL;
         members.Run(L"", [&] { members.m_dlg.PostMessage(WM_COMMAND, nButton); });
     });
-}
-
-TEST(SelMemberDlg, ItemsOutliveTheDialog) {
-    std::unique_ptr<CSelMemberItem> pItem;
-    {
-        CSelMemberDlg dlg(L"項目", nullptr);
-        pItem.reset(dlg.AddSelMemberItemToList(dlg.m_listCurrent, L"点名", 7));
-    }
-    const CSelMemberItem copy = *pItem;
-    EXPECT_EQ(copy.m_strText, L"点名");
-    EXPECT_EQ(copy.m_dwData, 7U);
 }
 
 } // namespace

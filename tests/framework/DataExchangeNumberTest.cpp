@@ -43,7 +43,7 @@ public:
     CString Shown(Number value) {
         m_value = value;
         EXPECT_TRUE(m_form.UpdateData(FALSE));
-        return m_form.TextOf(m_form.m_first);
+        return fx::TextOf(m_form.m_first);
     }
 
 private:

@@ -54,7 +54,7 @@ TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
     CString strValue = L"東京 100";
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, ID_FIRST, strValue); };
     EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(m_form.TextOf(m_form.m_first), strValue);
+    EXPECT_EQ(TextOf(m_form.m_first), strValue);
     m_form.m_first.SetSel(2, 2);
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(m_form.m_first.GetSel(), static_cast<DWORD>(MAKELONG(2, 2)));

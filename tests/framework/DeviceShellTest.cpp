@@ -2,44 +2,24 @@
 // the command bar. The screen is the device's or larger.
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 namespace {
 
 constexpr UINT ID_FULL_SCREEN = 300;
 
-CRect WorkArea() {
-    CRect rect;
-    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &rect, 0);
-    return rect;
-}
-
-/// Where the first OK button from the right edge reacts; none is at (-1, -1).
-CPoint FindOkButton(const CWnd& wnd) {
-    CRect rect;
-    wnd.GetWindowRect(rect);
-    const auto hit = [&](int x) {
-        return wnd.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, rect.top + AFX_DEVICE_BAR_HEIGHT / 2)) ==
-               HTOBJECT;
-    };
-    for (int x = rect.right - 1; x > rect.left; --x)
-        if (hit(x))
-            return CPoint(x - 3, rect.top + AFX_DEVICE_BAR_HEIGHT / 2);
-    return CPoint(-1, -1);
-}
-
 TEST(FullScreenDialog, CoversTheWorkAreaAndItsOkButtonSendsIdOk) {
     CDialog dialog(ID_FULL_SCREEN);
     fx::ModalScript script;
     script.Then([&] {
-        CRect rect;
-        dialog.GetWindowRect(rect);
-        EXPECT_EQ(rect, WorkArea());
+        const CRect rect = fx::RectOf(dialog);
+        EXPECT_EQ(rect, fx::WorkArea());
         CRect client;
         dialog.GetClientRect(client);
         dialog.ClientToScreen(client);
         EXPECT_EQ(client.top, rect.top + AFX_DEVICE_BAR_HEIGHT);
         EXPECT_NE(dialog.m_pWndEmptyCB, nullptr);
-        pen::Tap(FindOkButton(dialog));
+        fx::TapOk(dialog);
     });
     EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
     EXPECT_EQ(dialog.m_pWndEmptyCB, nullptr);
@@ -49,11 +29,11 @@ TEST(FullScreenDialog, OkButtonIsHiddenAndShownByTheDoneButtonCall) {
     CDialog dialog(ID_FULL_SCREEN);
     fx::ModalScript script;
     script.Then([&] {
-        EXPECT_GT(FindOkButton(dialog).x, 0);
+        EXPECT_GT(fx::FindOkButton(dialog).x, 0);
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_HIDE));
-        EXPECT_EQ(FindOkButton(dialog).x, -1);
+        EXPECT_EQ(fx::FindOkButton(dialog).x, -1);
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_SHOW));
-        EXPECT_GT(FindOkButton(dialog).x, 0);
+        EXPECT_GT(fx::FindOkButton(dialog).x, 0);
         dialog.EndDialog(1);
     });
     script.Run([&] { return dialog.DoModal(); });
@@ -70,10 +50,9 @@ TEST(FullScreenDialog, CommandBarStandsAtTheBottomAndItsSwitchShowsThePanel) {
     CPoint sip;
     script
         .Then([&] {
-            CRect bar;
-            dialog.m_pWndEmptyCB->GetWindowRect(bar);
-            EXPECT_EQ(bar, CRect(WorkArea().left, WorkArea().bottom - AFX_DEVICE_BAR_HEIGHT, WorkArea().right,
-                                 WorkArea().bottom));
+            const CRect bar = fx::RectOf(*dialog.m_pWndEmptyCB);
+            EXPECT_EQ(bar, CRect(fx::WorkArea().left, fx::WorkArea().bottom - AFX_DEVICE_BAR_HEIGHT,
+                                 fx::WorkArea().right, fx::WorkArea().bottom));
             sip = CPoint(bar.right - 14, bar.CenterPoint().y);
             pen::Tap(sip);
         })
@@ -89,16 +68,14 @@ TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {
     fx::TemplateDialog dialog(dialogTemplate);
     fx::ModalScript script;
     script.Then([&] {
-        CRect rect;
-        dialog.GetWindowRect(rect);
-        EXPECT_LT(rect.Height(), WorkArea().Height());
+        EXPECT_LT(fx::RectOf(dialog).Height(), fx::WorkArea().Height());
         EXPECT_EQ(dialog.m_pWndEmptyCB, nullptr);
-        EXPECT_EQ(FindOkButton(dialog).x, -1);
+        EXPECT_EQ(fx::FindOkButton(dialog).x, -1);
         EXPECT_TRUE(dialog.ModifyStyleEx(0, WS_EX_CAPTIONOKBTN));
         EXPECT_NE(dialog.GetExStyle() & WS_EX_CAPTIONOKBTN, 0U);
         EXPECT_EQ(static_cast<DWORD>(::GetWindowLong(dialog, GWL_EXSTYLE)) & WS_EX_CAPTIONOKBTN, 0U)
             << "the desktop must not see it";
-        pen::Tap(FindOkButton(dialog));
+        fx::TapOk(dialog);
     });
     EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
 }
@@ -111,7 +88,7 @@ TEST(PopupDialog, OkButtonLeftWithThePenDownDoesNothing) {
     script
         .Then([&] {
             dialog.ModifyStyleEx(0, WS_EX_CAPTIONOKBTN);
-            const CPoint button = FindOkButton(dialog);
+            const CPoint button = fx::FindOkButton(dialog);
             pen::Drag(button, button + CPoint(0, 60));
         })
         .Then([&] {

@@ -57,23 +57,6 @@ TEST(DragRect, AWholeDragLeavesThePictureAsItWas) {
     EXPECT_EQ(Pixels(canvas.m_dc), shown) << "only the last frame was on the screen";
 }
 
-TEST(DragRect, MovingTouchesOnlyWhatChanges) {
-    fx::Canvas canvas;
-    const CRect rect(10, 10, 30, 30);
-    canvas.m_dc.DrawDragRect(rect, THIN, nullptr, THIN);
-    const auto shown = Pixels(canvas.m_dc);
-    // What the second call draws into an otherwise empty picture is what it touches.
-    fx::Canvas touched;
-    touched.m_dc.DrawDragRect(rect, THIN, rect, THIN);
-    EXPECT_EQ(touched.CountDrawn(), 0);
-    touched.m_dc.DrawDragRect(CRect(10, 10, 32, 30), THIN, rect, THIN);
-    EXPECT_EQ(touched.m_dc.GetPixel(10, 20), RGB(255, 255, 255)) << "the left side stays";
-    EXPECT_EQ(touched.m_dc.GetPixel(11, 20), RGB(255, 255, 255));
-    EXPECT_EQ(touched.CountDrawn(), 20) << "the right side, twice, and two steps of top and bottom";
-    canvas.m_dc.DrawDragRect(rect, THIN, rect, THIN);
-    EXPECT_EQ(Pixels(canvas.m_dc), shown);
-}
-
 TEST(DragRect, TakesOtherBrushesAndThicknessesBackToo) {
     fx::Canvas canvas;
     Paint(canvas.m_dc);
@@ -109,28 +92,6 @@ TEST(DragRect, DoesNotDependOnWhatElseIsSetInTheContext) {
     const std::string picture = canvas.Picture();
     EXPECT_EQ(picture.find('#') / 41, 5U) << "row of the frame's top";
     EXPECT_EQ(picture.rfind('#') / 41, 9U) << "last row inside the clipping";
-}
-
-TEST(DragRect, ComesAndGoesOnTheScreen) {
-    fx::Frame frame(CSize(120, 120));
-    fx::Pump();
-    CWindowDC screen(nullptr);
-    const CRect rect(20, 50, 80, 90);
-    const auto row = [&] {
-        std::vector<COLORREF> pixels;
-        for (int x = 15; x < 85; ++x)
-            pixels.push_back(screen.GetPixel(x, 50));
-        return pixels;
-    };
-    const auto before = row();
-    screen.DrawDragRect(rect, THIN, nullptr, THIN);
-    const auto shown = row();
-    int nChanged = 0;
-    for (size_t i = 0; i < before.size(); ++i)
-        nChanged += before[i] != shown[i] ? 1 : 0;
-    EXPECT_EQ(nChanged, 30);
-    screen.DrawDragRect(rect, THIN, nullptr, THIN);
-    EXPECT_EQ(row(), before);
 }
 
 } // namespace

@@ -48,12 +48,6 @@ public:
     CButton m_radio[4];
     CStatic m_label;
 
-    CString TextOf(const CWnd& wnd) const {
-        CString str;
-        wnd.GetWindowText(str);
-        return str;
-    }
-
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
         CWnd::DoDataExchange(pDX);

@@ -64,43 +64,6 @@ TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {
     EXPECT_EQ(logBrush.lbColor, RGB(128, 128, 128));
 }
 
-TEST(GdiObject, CreatesWhatItIsAskedFor) {
-    CPen pen(PS_DOT, 1, RGB(10, 20, 30));
-    LOGPEN logPen = {};
-    ASSERT_NE(pen.GetLogPen(&logPen), 0);
-    EXPECT_EQ(logPen.lopnStyle, static_cast<UINT>(PS_DOT));
-    EXPECT_EQ(logPen.lopnColor, RGB(10, 20, 30));
-
-    LOGBRUSH logBrush = {};
-    CBrush hatch(HS_CROSS, RGB(1, 1, 1));
-    ASSERT_NE(hatch.GetLogBrush(&logBrush), 0);
-    EXPECT_EQ(logBrush.lbStyle, static_cast<UINT>(BS_HATCHED));
-    CBrush system;
-    ASSERT_TRUE(system.CreateSysColorBrush(COLOR_HIGHLIGHT));
-    ASSERT_NE(system.GetLogBrush(&logBrush), 0);
-    EXPECT_EQ(logBrush.lbColor, ::GetSysColor(COLOR_HIGHLIGHT));
-
-    CBitmap bitmap;
-    ASSERT_TRUE(bitmap.CreateBitmap(16, 8, 1, 1, nullptr));
-    BITMAP info = {};
-    ASSERT_NE(bitmap.GetBitmap(&info), 0);
-    EXPECT_EQ(CSize(info.bmWidth, info.bmHeight), CSize(16, 8));
-    CBrush pattern(&bitmap);
-    EXPECT_EQ(::GetObjectType(pattern), static_cast<DWORD>(OBJ_BRUSH));
-    EXPECT_FALSE(pattern.CreatePatternBrush(nullptr));
-    EXPECT_FALSE(bitmap.LoadBitmap(L"no such bitmap"));
-    EXPECT_NE(bitmap.m_hObject, nullptr);
-
-    CRgn left;
-    CRgn right;
-    ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10));
-    ASSERT_TRUE(right.CreateRectRgn(5, 0, 20, 10));
-    EXPECT_EQ(left.CombineRgn(&left, &right, RGN_AND), SIMPLEREGION);
-    CRect box;
-    left.GetRgnBox(box);
-    EXPECT_EQ(box, CRect(5, 0, 10, 10));
-}
-
 TEST(GdiObject, PointFontHasThePixelsOfItsPointsOnTheDevice) {
     CWindowDC screen(nullptr);
     const int nDotsPerInch = screen.GetDeviceCaps(LOGPIXELSY);

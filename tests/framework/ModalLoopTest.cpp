@@ -114,13 +114,10 @@ TEST(ModalDialog, WithoutItsTemplateFailsAndLeavesTheOwnerEnabled) {
 TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
     fx::Frame owner;
     Form form(&owner);
-    fx::ModalScript script;
-    script.Then([&] {
+    fx::WhileOpen(form, [&] {
         EXPECT_FALSE(owner.IsWindowEnabled());
         EXPECT_EQ(::GetWindow(form, GW_OWNER), owner.m_hWnd);
-        form.EndDialog(1);
     });
-    script.Run([&] { return form.DoModal(); });
     EXPECT_EQ(form.m_bOwnerEnabledAtEnd, true);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
@@ -130,9 +127,7 @@ TEST(ModalDialog, OwnerThatWasDisabledBeforeStaysDisabled) {
     fx::Frame owner;
     owner.EnableWindow(FALSE);
     Form form(&owner);
-    fx::ModalScript script;
-    script.Then([&] { form.EndDialog(1); });
-    script.Run([&] { return form.DoModal(); });
+    fx::WhileOpen(form, [] {});
     EXPECT_FALSE(owner.IsWindowEnabled());
 }
 
@@ -141,13 +136,10 @@ TEST(ModalDialog, ParentThatIsAChildIsReplacedByItsTopLevelWindow) {
     CStatic child;
     ASSERT_TRUE(child.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &owner));
     Form form(&child);
-    fx::ModalScript script;
-    script.Then([&] {
+    fx::WhileOpen(form, [&] {
         EXPECT_EQ(::GetWindow(form, GW_OWNER), owner.m_hWnd);
         EXPECT_FALSE(owner.IsWindowEnabled());
-        form.EndDialog(1);
     });
-    script.Run([&] { return form.DoModal(); });
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
@@ -159,12 +151,7 @@ TEST(ModalDialog, FocusGoesBackToTheControlThatHadIt) {
     ASSERT_TRUE(second.Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 50, 50), &owner, 2));
     second.SetFocus();
     Form form(&owner);
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(::GetFocus(), ::GetDlgItem(form, ID_EDIT));
-        form.EndDialog(1);
-    });
-    script.Run([&] { return form.DoModal(); });
+    fx::WhileOpen(form, [&] { EXPECT_EQ(::GetFocus(), ::GetDlgItem(form, ID_EDIT)); });
     EXPECT_EQ(::GetFocus(), second.m_hWnd);
 }
 
@@ -282,9 +269,7 @@ TEST(ModalDialog, TemporaryObjectsOfTheCallerSurviveIt) {
         ::CreateWindow(WC_STATIC, L"", WS_CHILD, 0, 0, 5, 5, owner, nullptr, nullptr, nullptr);
     CWnd* const pHeld = CWnd::FromHandle(hForeign);
     Form form(&owner);
-    fx::ModalScript script;
-    script.Then([&] { CWnd::FromHandle(hForeign); }).Then([&] { form.EndDialog(1); });
-    script.Run([&] { return form.DoModal(); });
+    fx::WhileOpen(form, [&] { CWnd::FromHandle(hForeign); });
     EXPECT_EQ(CWnd::FromHandle(hForeign), pHeld);
     EXPECT_EQ(pHeld->m_hWnd, hForeign);
 }

@@ -68,16 +68,6 @@ TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
     EXPECT_EQ(CWnd::FromHandle(window), pWnd);
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
-}
-
-TEST(WindowObject, NullObjectHasNoWindow) {
-    CWnd* volatile pNone = nullptr;
-    EXPECT_EQ(pNone->GetSafeHwnd(), nullptr);
-}
-
-TEST(WindowObject, DeletingTemporaryObjectsLeavesTheirWindowsAlone) {
-    const Foreign window;
-    CWnd::FromHandle(window);
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(window));
     EXPECT_EQ(CWnd::FromHandle(window)->m_hWnd, window);
@@ -85,26 +75,18 @@ TEST(WindowObject, DeletingTemporaryObjectsLeavesTheirWindowsAlone) {
 
 TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
     const Foreign window;
+    const Foreign other;
     CWnd wnd;
+    EXPECT_FALSE(wnd.Attach(nullptr));
     ASSERT_TRUE(wnd.Attach(window));
     EXPECT_EQ(CWnd::FromHandle(window), &wnd);
     EXPECT_EQ(CWnd::FromHandlePermanent(window), &wnd);
+    EXPECT_FALSE(CWnd().Attach(window)) << "two objects of one window";
+    EXPECT_FALSE(wnd.Attach(other)) << "two windows of one object";
     EXPECT_EQ(wnd.Detach(), window);
     EXPECT_EQ(wnd.m_hWnd, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
     EXPECT_TRUE(::IsWindow(window));
-}
-
-TEST(WindowObject, AttachRefusesWhatWouldMakeTwoOfOne) {
-    const Foreign window;
-    const Foreign other;
-    CWnd wnd;
-    CWnd second;
-    EXPECT_FALSE(wnd.Attach(nullptr));
-    ASSERT_TRUE(wnd.Attach(window));
-    EXPECT_FALSE(second.Attach(window));
-    EXPECT_FALSE(wnd.Attach(other));
-    EXPECT_EQ(wnd.Detach(), window);
 }
 
 TEST(WindowObject, IsAttachedBeforeTheFirstMessage) {
@@ -242,18 +224,6 @@ TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
 
     EXPECT_FALSE((new SelfDeleting(&nDeleted))->Create(L"no such class", L"", 0, CRect(), nullptr, 1));
     EXPECT_EQ(nDeleted, 4) << "when the window could not be created";
-}
-
-TEST(WindowDestruction, TemporaryObjectIsEmptyWhenItsHandleIsTakenOver) {
-    const Foreign window;
-    CWnd* const pTemporary = CWnd::FromHandle(window);
-    CWnd wnd;
-    ASSERT_TRUE(wnd.SubclassWindow(window));
-    wnd.UnsubclassWindow();
-    // Whoever still holds the temporary object finds no window in it, or the right one.
-    EXPECT_TRUE(pTemporary->m_hWnd == nullptr || pTemporary->m_hWnd == window);
-    CWnd::DeleteTempMap();
-    EXPECT_TRUE(::IsWindow(window));
 }
 
 } // namespace

@@ -8,12 +8,6 @@
 
 namespace {
 
-static_assert(std::is_base_of_v<CObject, CStringList> && std::is_base_of_v<CObject, CUIntArray>);
-static_assert(std::is_same_v<decltype(CStringList().GetHeadPosition()), POSITION>);
-static_assert(std::is_same_v<decltype(CStringList().RemoveHead()), CString>);
-static_assert(std::is_same_v<decltype(CUIntArray().GetSize()), INT_PTR>);
-static_assert(std::is_same_v<decltype(std::declval<CPtrList&>().GetNext(std::declval<POSITION&>())), void*&>);
-
 CString Joined(const CStringList& list) {
     CString forwards;
     CString backwards;

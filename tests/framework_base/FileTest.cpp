@@ -10,12 +10,6 @@
 
 namespace {
 
-static_assert(std::is_same_v<decltype(std::declval<const CFile&>().GetLength()), ULONGLONG>);
-static_assert(std::is_same_v<decltype(std::declval<CFile&>().Read(nullptr, 0)), UINT>);
-static_assert(std::is_same_v<decltype(std::declval<CFile&>().SetFilePath(nullptr)), void>);
-static_assert(CFile::modeCreate == 0x1000 && CFile::modeNoTruncate == 0x2000 &&
-              CFile::shareDenyWrite == 0x20 && CFile::shareDenyNone == 0x40 && CFile::typeBinary == 0x8000);
-
 constexpr UINT kCreate = CFile::modeCreate | CFile::modeReadWrite;
 
 class File : public testing::Test {
@@ -194,12 +188,6 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
     file.Close();
     EXPECT_EQ(1U, twin->Read(&c, 1)); // outlives the first, and shared its position
     EXPECT_EQ('2', c);
-}
-
-TEST_F(File, RangesAreLockedAndReleased) {
-    CFile file(Path(L"a"), kCreate);
-    EXPECT_NO_THROW(file.LockRange(2, 3));
-    EXPECT_NO_THROW(file.UnlockRange(2, 3));
 }
 
 #ifndef _WIN32

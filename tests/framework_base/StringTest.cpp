@@ -8,12 +8,6 @@
 
 namespace {
 
-static_assert(std::is_convertible_v<const CString&, LPCTSTR>);
-static_assert(std::is_nothrow_move_constructible_v<CString>);
-static_assert(std::is_same_v<decltype(std::declval<const CString&>()[0]), TCHAR>);
-static_assert(std::is_same_v<decltype(std::declval<const CString&>().GetLength()), int>);
-static_assert(std::is_same_v<decltype(std::declval<CString&>().GetBuffer(1)), LPTSTR>);
-
 const LPCTSTR kNullText = nullptr;
 const LPCSTR kNullNarrow = nullptr;
 
@@ -65,23 +59,6 @@ TEST(String, ExtractsWithClampedArguments) {
         {"SpanIncluding NULL", s.SpanIncluding(nullptr), L""},
         {"SpanExcluding", s.SpanExcluding(L"fd"), L"abc"},
         {"SpanExcluding NULL", s.SpanExcluding(nullptr), L"abcdef"},
-    });
-}
-
-TEST(String, Concatenates) {
-    const CString a = L"a";
-    const CString b = L"b";
-    ExpectAll({
-        {"string + string", a + b, L"ab"},
-        {"string + text", a + L"x", L"ax"},
-        {"text + string", L"x" + a, L"xa"},
-        {"string + narrow", a + "x", L"ax"},
-        {"narrow + string", "x" + a, L"xa"},
-        {"string + character", a + L'x', L"ax"},
-        {"character + string", L'x' + a, L"xa"},
-        {"string + narrow character", a + 'x', L"ax"},
-        {"narrow character + string", 'x' + a, L"xa"},
-        {"string + NULL", a + kNullText, L"a"},
     });
 }
 

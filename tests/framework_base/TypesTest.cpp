@@ -4,14 +4,6 @@
 
 namespace {
 
-static_assert(std::is_base_of_v<RECT, CRect> && sizeof(CRect) == sizeof(RECT));
-static_assert(std::is_base_of_v<POINT, CPoint> && sizeof(CPoint) == sizeof(POINT));
-static_assert(std::is_base_of_v<SIZE, CSize> && sizeof(CSize) == sizeof(SIZE));
-static_assert(std::is_same_v<decltype(CPoint() - CPoint()), CSize>);
-static_assert(std::is_same_v<decltype(CPoint() - CSize()), CPoint>);
-static_assert(std::is_same_v<decltype(CSize() + CPoint()), CPoint>);
-static_assert(std::is_convertible_v<CRect&, LPRECT> && std::is_convertible_v<const CRect&, LPCRECT>);
-
 std::string Text(const CRect& r) {
     return std::to_string(r.left) + " " + std::to_string(r.top) + " " + std::to_string(r.right) + " " +
            std::to_string(r.bottom);

@@ -3,15 +3,9 @@
 
 namespace {
 
-CRect WorkArea() {
-    CRect rect;
-    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &rect, 0);
-    return rect;
-}
-
 /// What title bar and command bar leave of the screen.
 CRect InnerArea() {
-    CRect rect = WorkArea();
+    CRect rect = fx::WorkArea();
     rect.DeflateRect(0, AFX_DEVICE_BAR_HEIGHT);
     return rect;
 }
@@ -31,18 +25,18 @@ int CountCommandBars(const CWnd& wnd) {
 
 /// The tabs fill the inner area, and the pages what is left of the tabs.
 void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage*>& pages) {
-    EXPECT_EQ(fx::WindowRect(sheet.m_hWnd), WorkArea());
-    const CRect tabs = fx::WindowRect(sheet.GetTabControl()->m_hWnd);
+    EXPECT_EQ(fx::RectOf(sheet.m_hWnd), fx::WorkArea());
+    const CRect tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
     EXPECT_EQ(tabs, InnerArea());
-    const CRect bar = fx::WindowRect(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
-    EXPECT_EQ(bar.bottom, WorkArea().bottom);
+    const CRect bar = fx::RectOf(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
+    EXPECT_EQ(bar.bottom, fx::WorkArea().bottom);
     CRect free(CPoint(0, 0), tabs.Size());
     sheet.GetTabControl()->SendMessage(TCM_ADJUSTRECT, FALSE,
                                        reinterpret_cast<LPARAM>(static_cast<LPRECT>(free)));
     free.OffsetRect(tabs.TopLeft());
     EXPECT_LT(free.Height(), tabs.Height() - 10) << "no room for the tabs' names";
     for (const CPropertyPage* pPage : pages)
-        EXPECT_EQ(fx::WindowRect(pPage->m_hWnd), free);
+        EXPECT_EQ(fx::RectOf(pPage->m_hWnd), free);
 }
 
 TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
@@ -140,7 +134,7 @@ TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
 TEST(FullScreenSheet, HandlerForCancelReplacesItForTheTitleBarAndTheKeyToo) {
     EarlySheet sheet;
     fx::ModalScript script;
-    script.Then([&] { pen::Tap(fx::FindCloseButton(sheet)); })
+    script.Then([&] { fx::TapClose(sheet); })
         .Then([&] { pen::TypeKeys({VK_ESCAPE}); })
         .Then([&] { sheet.PressButton(PSBTN_CANCEL); })
         .Then([&] {
@@ -156,11 +150,11 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
     fx::ModalScript script;
     script.Then([&] {
         EXPECT_EQ(fx::FindOkButton(sheet).x, -1);
-        const CRect page = fx::WindowRect(sheet.m_a.m_hWnd);
+        const CRect page = fx::RectOf(sheet.m_a.m_hWnd);
         EXPECT_TRUE(Contains(InnerArea(), page));
         CRect last;
         for (const UINT nID : {ID_WIZBACK, ID_WIZNEXT, static_cast<UINT>(IDCANCEL)}) {
-            const CRect button = fx::WindowRect(sheet.Button(nID));
+            const CRect button = fx::RectOf(sheet.Button(nID));
             EXPECT_TRUE(sheet.ShowsButton(nID)) << nID;
             EXPECT_TRUE(Contains(InnerArea(), button)) << nID;
             CRect overlap;
@@ -168,7 +162,7 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
             EXPECT_FALSE(overlap.IntersectRect(button, last)) << nID;
             last = button;
         }
-        EXPECT_EQ(fx::WindowRect(sheet.Button(ID_WIZFINISH)), fx::WindowRect(sheet.Button(ID_WIZNEXT)));
+        EXPECT_EQ(fx::RectOf(sheet.Button(ID_WIZFINISH)), fx::RectOf(sheet.Button(ID_WIZNEXT)));
         sheet.EndDialog(1);
     });
     script.Run([&] { return sheet.DoModal(); });
@@ -193,8 +187,8 @@ TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
     ASSERT_TRUE(sheet.Create());
     EXPECT_FALSE(sheet.ShowsButton(IDOK));
     EXPECT_FALSE(sheet.ShowsButton(IDCANCEL));
-    const CRect window = fx::WindowRect(sheet.m_hWnd);
-    const CRect tabs = fx::WindowRect(sheet.GetTabControl()->m_hWnd);
+    const CRect window = fx::RectOf(sheet.m_hWnd);
+    const CRect tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
     EXPECT_LT(window.bottom - tabs.bottom, 30);
     EXPECT_GT(window.bottom, tabs.bottom);
 }

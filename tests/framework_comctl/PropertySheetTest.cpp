@@ -26,10 +26,8 @@ TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
         INT_PTR nResult;
         const char* pszLog;
     } cases[] = {
-        {"OK in the title bar", [](fx::Sheet& s) { pen::Tap(fx::FindOkButton(s)); }, IDOK,
-         "a.kill a.apply a.ok "},
-        {"Close in the title bar", [](fx::Sheet& s) { pen::Tap(fx::FindCloseButton(s)); }, IDCANCEL,
-         "a.cancel "},
+        {"OK in the title bar", [](fx::Sheet& s) { fx::TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
+        {"Close in the title bar", [](fx::Sheet& s) { fx::TapClose(s); }, IDCANCEL, "a.cancel "},
         {"Enter", [](fx::Sheet&) { pen::TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
         {"Escape", [](fx::Sheet&) { pen::TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
         {"PressButton", [](fx::Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, "a.kill a.apply a.ok "},
@@ -154,20 +152,15 @@ TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
                                                     reinterpret_cast<LPARAM>(&item));
                      EXPECT_STREQ(szName, names[i]);
                  }
-                 CString strTitle;
-                 s.GetWindowText(strTitle);
-                 EXPECT_EQ(strTitle, L"設定");
+                 EXPECT_EQ(fx::TextOf(s), L"設定");
                  s.SetTitle(L"別の名");
-                 s.GetWindowText(strTitle);
-                 EXPECT_EQ(strTitle, L"別の名");
+                 EXPECT_EQ(fx::TextOf(s), L"別の名");
                  s.EndDialog(1);
              }});
     CPropertySheet fromId(40010);
     fromId.AddPage(&named);
     ASSERT_TRUE(fromId.Create());
-    CString strTitle;
-    fromId.GetWindowText(strTitle);
-    EXPECT_EQ(strTitle, L"設定");
+    EXPECT_EQ(fx::TextOf(fromId), L"設定");
 }
 
 TEST(ModalSheet, PagesCanBeAddedAndRemovedBeforeAndWhileItRuns) {
@@ -205,28 +198,6 @@ TEST(ModalSheet, StartsWithThePageThatWasChosen) {
                  EXPECT_EQ(CWnd::GetFocus()->GetSafeHwnd(), s.m_b.GetDlgItem(fx::IDC_NUMBER)->GetSafeHwnd());
                  s.EndDialog(1);
              }});
-}
-
-TEST(ModalSheet, SiblingsAreAskedInOrderUntilOneAnswers) {
-    class Answering : public CPropertyPage {
-    public:
-        Answering() : CPropertyPage(fx::ID_PAGE_VIEW) {}
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message == PSM_QUERYSIBLINGS)
-                return static_cast<LRESULT>(wParam) + lParam;
-            return CPropertyPage::WindowProc(message, wParam, lParam);
-        }
-    };
-    fx::Sheet sheet;
-    Answering answering;
-    sheet.AddPage(&answering);
-    RunSheet(sheet, {[&](fx::Sheet& s) {
-                 EXPECT_EQ(s.m_a.QuerySiblings(3, 4), 0) << "a page that has not been made yet cannot answer";
-                 s.SetActivePage(2);
-                 EXPECT_EQ(s.m_a.QuerySiblings(3, 4), 7);
-                 s.EndDialog(1);
-             }});
-    EXPECT_EQ(answering.QuerySiblings(3, 4), 0);
 }
 
 TEST(ModalSheet, WithoutPageOrTemplateIsNotShown) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include "afxdlgs.h"
 
@@ -94,27 +95,5 @@ protected:
         return CPropertySheet::WindowProc(message, wParam, lParam);
     }
 };
-
-inline CRect WindowRect(HWND hWnd) {
-    CRect rect;
-    ::GetWindowRect(hWnd, rect);
-    return rect;
-}
-
-/// Where a window's title bar reacts as a button, from the right; (-1, -1) for nowhere.
-inline CPoint FindTitleButton(const CWnd& wnd, LRESULT lHit) {
-    const CRect rect = WindowRect(wnd.m_hWnd);
-    const int y = rect.top + AFX_DEVICE_BAR_HEIGHT / 2;
-    for (int x = rect.right - 1; x > rect.left; --x)
-        if (wnd.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, y)) == lHit)
-            return CPoint(x - 3, y);
-    return CPoint(-1, -1);
-}
-inline CPoint FindOkButton(const CWnd& wnd) {
-    return FindTitleButton(wnd, HTOBJECT);
-}
-inline CPoint FindCloseButton(const CWnd& wnd) {
-    return FindTitleButton(wnd, HTHELP);
-}
 
 } // namespace fx

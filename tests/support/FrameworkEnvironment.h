@@ -71,6 +71,19 @@ inline void Pump() {
     }
 }
 
+inline CString TextOf(const CWnd& wnd) {
+    CString str;
+    wnd.GetWindowText(str);
+    return str;
+}
+
+/// On the screen.
+inline CRect RectOf(HWND hWnd) {
+    CRect rect;
+    ::GetWindowRect(hWnd, rect);
+    return rect;
+}
+
 /// For messages of tests, which are 8-bit.
 inline std::string Utf8(const CString& str) {
     const int nSize = ::WideCharToMultiByte(CP_UTF8, 0, str, str.GetLength(), nullptr, 0, nullptr, nullptr);

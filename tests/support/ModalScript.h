@@ -106,4 +106,15 @@ private:
     int m_nTicks = 0; ///< Waited for a window to be ready.
 };
 
+/// Runs a look at an open modal dialog or sheet, then cancels it.
+template <class Dialog, class Look>
+void WhileOpen(Dialog& dialog, Look look) {
+    ModalScript script;
+    script.Then([&] {
+        look();
+        dialog.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDCANCEL);
+}
+
 } // namespace fx

@@ -18,11 +18,6 @@ namespace {
 constexpr double kNull = 1e-37;
 constexpr int kDecimals = 1280;
 
-static_assert(std::has_virtual_destructor_v<CCoordinate>);
-static_assert(std::is_same_v<unsigned short (CCoordinate::*)() const, decltype(&CCoordinate::GetExist)>);
-static_assert(std::is_same_v<const CCoordinate& (CCoordinate::*)(const CCoordinate&),
-                             decltype(&CCoordinate::operator+=)>);
-
 /// The device's shared setting of decimals for the time of a test.
 class CDecimalsScope {
 public:

@@ -39,11 +39,7 @@ public:
 
     void Enter() { Tap(m_angle); }
     void Leave() { Tap(*GetDlgItem(IDC_OTHER)); }
-    CString Text() const {
-        CString str;
-        m_angle.GetWindowText(str);
-        return str;
-    }
+    CString Text() const { return fx::TextOf(m_angle); }
 
     OpenAngleEdit m_angle;
 
@@ -293,9 +289,7 @@ TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
     field.SetAngle(PI / 2);
     stage.Tap(field);
     EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
-    CString str;
-    field.GetWindowText(str);
-    EXPECT_EQ(str, L"90.0000");
+    EXPECT_EQ(fx::TextOf(field), L"90.0000");
     stage.Leave();
     EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
     field.UnsubclassWindow();
