@@ -5,6 +5,7 @@
 bench_dialogs() {
     local folder=$build/bench/dialogs
     logged build-bench-dialogs ninja -C "$build/win64" -j"$(nproc)" bench_dialogs
+    rm -rf "$folder" # an interrupted run leaves its thousands of files
     mkdir -p "$folder"
     # Wine's background processes would hold a pipe open for ever.
     local status=0

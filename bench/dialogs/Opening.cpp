@@ -64,12 +64,15 @@ Cost Open(What what, const CString& strFolder) {
     return {};
 }
 
-/// The first windows of a process load fonts and drawing code, whoever makes them.
+/// The first windows of a process load fonts and drawing code, whoever makes them. The pause lets
+/// the desktop repaint what they covered, which would go on beside the measured one.
 void WarmUp() {
+    constexpr DWORD PAUSE = 300; // ms
     constexpr LPCTSTR NOWHERE = L"\\nowhere";
     FillBareList(NOWHERE);
     FillBareTree(NOWHERE);
     OpenFiles(NOWHERE);
+    ::Sleep(PAUSE);
 }
 
 } // namespace

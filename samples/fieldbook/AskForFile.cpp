@@ -25,7 +25,7 @@ CString AskForFile(CWnd& parent, CSettings& settings, int nMode, const CString& 
         return CString();
     settings.strFolder = dialog.GetFileFolder();
     KeepSettings(settings);
-    const CString strPath = dialog.GetFilePath();
+    CString strPath = dialog.GetFilePath();
     if (strPath.IsEmpty())
         CResMsgBox().ErrorMsgBox(IDS_NO_NAME);
     return strPath;

@@ -23,8 +23,10 @@ CCoordinate Flat(const CCoordinate& point) {
 /// The ends of an arc, and where it runs farthest to the east, north, west and south.
 std::vector<CCoordinate> CornersOf(const CDrawnArc& arc) {
     std::vector<double> angles = {arc.dStart, arc.dStart + arc.dSweep};
-    for (double d = std::ceil(arc.dStart / QUARTER) * QUARTER; d < arc.dStart + arc.dSweep; d += QUARTER)
-        angles.push_back(d);
+    const double dEnd = arc.dStart + arc.dSweep;
+    for (int nQuarter = static_cast<int>(std::ceil(arc.dStart / QUARTER)); nQuarter * QUARTER < dEnd;
+         ++nQuarter)
+        angles.push_back(nQuarter * QUARTER);
     CCoordinate centre;
     arc.circle.GetCenter(centre);
     const double dRadius = arc.circle.GetRadius();
