@@ -24,21 +24,6 @@ double Now() {
     return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-size_t HeapBytes() {
-    HANDLE heaps[64];
-    const DWORD nHeaps = std::min<DWORD>(64, ::GetProcessHeaps(64, heaps));
-    size_t nBytes = 0;
-    for (DWORD i = 0; i < nHeaps; ++i) {
-        PROCESS_HEAP_ENTRY entry = {};
-        ::HeapLock(heaps[i]);
-        while (::HeapWalk(heaps[i], &entry))
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
-                nBytes += entry.cbData;
-        ::HeapUnlock(heaps[i]);
-    }
-    return nBytes;
-}
-
 Pair Compare(int nRounds, const std::function<Cost()>& bare, const std::function<Cost()>& ours) {
     std::vector<Pair> rounds;
     for (int i = 0; i < nRounds; ++i) {

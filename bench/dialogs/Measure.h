@@ -1,17 +1,16 @@
 // Times, memory and the comparison of two works.
 #pragma once
 
-#include <windows.h>
+#include "support/HeapBytes.h"
 
-#include <cstddef>
 #include <functional>
 
 namespace bench {
 
 /// Milliseconds since some fixed moment.
 double Now();
-/// Bytes in use in all heaps of the process.
-size_t HeapBytes();
+
+using fx::HeapBytes;
 
 struct Cost {
     double ms = 0;

@@ -3,6 +3,7 @@
 
 #include "FrameworkEnvironment.h"
 #include "GdiHandles.h"
+#include "HeapBytes.h"
 
 #include <functional>
 
@@ -67,21 +68,6 @@ private:
         for (ULONG i = 0; i < pList->nCount; ++i)
             nCount += LOWORD(pList->handles[i].nProcess) == LOWORD(::GetCurrentProcessId());
         return nCount;
-    }
-
-    static size_t HeapBytes() {
-        HANDLE heaps[64];
-        const DWORD nHeaps = ::GetProcessHeaps(64, heaps);
-        size_t nBytes = 0;
-        for (DWORD i = 0; i < nHeaps; ++i) {
-            PROCESS_HEAP_ENTRY entry = {};
-            ::HeapLock(heaps[i]);
-            while (::HeapWalk(heaps[i], &entry))
-                if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
-                    nBytes += entry.cbData;
-            ::HeapUnlock(heaps[i]);
-        }
-        return nBytes;
     }
 };
 
