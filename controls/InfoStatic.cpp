@@ -13,6 +13,8 @@ constexpr int INDENT_BEHIND_ICON = 16;
 // clang-format off
 BEGIN_MESSAGE_MAP(CInfoStatic, CStatic)
     ON_WM_PAINT()
+    ON_WM_ENABLE()
+    ON_MESSAGE(WM_SETTEXT, &CInfoStatic::OnSetText)
     ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
 // clang-format on
@@ -46,6 +48,17 @@ void CInfoStatic::OnPaint() {
     dc.DrawText(str, rect, DT_SINGLELINE | DT_VCENTER);
     if (pOldFont != nullptr)
         dc.SelectObject(pOldFont);
+}
+
+/// The system's static draws itself at once when its text or state changes, in its own look.
+LRESULT CInfoStatic::OnSetText(WPARAM wParam, LPARAM lParam) {
+    const LRESULT lResult = ::DefWindowProc(m_hWnd, WM_SETTEXT, wParam, lParam);
+    Invalidate(FALSE);
+    return lResult;
+}
+
+void CInfoStatic::OnEnable(BOOL) {
+    Invalidate(FALSE);
 }
 
 void CInfoStatic::OnLButtonDown(UINT, CPoint) {

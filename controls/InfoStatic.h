@@ -25,6 +25,11 @@ protected:
     /// Fills the control with its colour and draws icon and text on one line, centred in its
     /// height.
     afx_msg void OnPaint();
+    /// A new text is drawn in the control's own look, which does not change when it is disabled.
+    ///@{
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnEnable(BOOL bEnable);
+    ///@}
     /// The system's own processing alone.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 

@@ -65,6 +65,29 @@ TEST_F(InfoStatic, TextIsIndentedBehindTheIconAndCentredOnItsColour) {
     EXPECT_EQ(Ink(Look(), YELLOW, CRect(CPoint(), SIZE_)), plain) << "the option word is replaced";
 }
 
+TEST_F(InfoStatic, KeepsItsLookWhenItGetsAnotherTextOrIsDisabled) {
+    m_text.SetBkColor(YELLOW);
+    m_text.SetOption(CInfoStatic::OptionIcon);
+    m_text.SetWindowText(L"H情報H");
+    const auto wanted = Look();
+    const auto expectNow = [&](const char* pszWhat) {
+        m_text.UpdateWindow();
+        CClientDC dc(&m_text);
+        const fx::Image now(dc, SIZE_);
+        for (int y = 0; y < SIZE_.cy; ++y)
+            for (int x = 0; x < SIZE_.cx; ++x)
+                ASSERT_EQ(now.At(x, y), wanted.At(x, y)) << pszWhat << ' ' << x << ' ' << y;
+    };
+    m_text.SetWindowText(L"");
+    m_text.SetWindowText(L"H情報H");
+    expectNow("text");
+    EXPECT_EQ(fx::TextOf(m_text), L"H情報H");
+    m_text.EnableWindow(FALSE);
+    expectNow("disabled");
+    m_text.EnableWindow(TRUE);
+    expectNow("enabled");
+}
+
 TEST_F(InfoStatic, TextHasTheFontOfItsDialog) {
     m_text.SetWindowText(L"H");
     CFont font;
