@@ -76,6 +76,10 @@ void CnDialog::InitFullScreen() {
     if (!Has(OptionOkButton))
         SHDoneButton(m_hWnd, SHDB_HIDE);
     ShowWindow(SW_SHOWMAXIMIZED);
+    // Showing the dialog has focused its first control. A derived class may attach that only
+    // now: the focus comes again, and is noticed, when the initialisation is over.
+    if (const CWnd* pFocus = GetFocus(); pFocus != nullptr && IsChild(pFocus))
+        ::SetFocus(nullptr);
 }
 
 // --- Ending ----------------------------------------------------------------------------------

@@ -120,9 +120,14 @@ void CAngleEdit::OnSetFocus(CWnd* pOldWnd) {
     CnEdit::OnSetFocus(pOldWnd);
     if (m_nConvActive == 0)
         return;
+    int nStart = 0;
+    int nEnd = 0;
+    GetSel(nStart, nEnd);
+    const bool bAllSelected = nStart == 0 && nEnd == GetWindowTextLength(); // by the Tab key
     CString str;
     str.Format(ShowsTenths() ? _T("%.05lf") : _T("%.04lf"), RadToDeg(m_dAngle));
     SetWindowText(str);
+    SetSel(bAllSelected ? 0 : str.GetLength(), -1);
 }
 
 void CAngleEdit::OnKillFocus(CWnd* pNewWnd) {

@@ -14,8 +14,7 @@ protected:
         CnDialog::OnInitDialog();
         m_edtEast.Attach(IDC_EAST, this, SipOptionMode1);
         m_edtNorth.Attach(IDC_NORTH, this, SipOptionMode1);
-        GetDlgItem(IDC_COMPUTE)->SetFocus();
-        return FALSE;
+        return TRUE;
     }
     void DoDataExchange(CDataExchange* pDX) override {
         CnDialog::DoDataExchange(pDX);

@@ -7,6 +7,8 @@
 #include "controls/nComboBox.h"
 #include "controls/nDialog.h"
 #include "controls/nEdit.h"
+#include "controls/nPropertyPage.h"
+#include "controls/nPropertySheet.h"
 
 namespace {
 
@@ -29,20 +31,27 @@ void AddChoice(fx::DialogTemplate& dialogTemplate) {
 /// A full-screen dialog with a surface of magenta.
 class FirstFieldDialog : public CnDialog {
 public:
-    explicit FirstFieldDialog(AddField addField, CWnd* pParent = nullptr) : CnDialog(0, pParent) {
+    /// When the fields are attached; the base class shows the dialog.
+    enum Order { BeforeBase, AfterBase };
+
+    explicit FirstFieldDialog(AddField addField, CWnd* pParent = nullptr, Order order = AfterBase)
+        : CnDialog(0, pParent), m_order(order) {
         addField(m_template);
         InitModalIndirect(m_template.Get(), pParent);
         SetBKColor(fx::MAGENTA);
     }
     BOOL OnInitDialog() override {
+        if (m_order == AfterBase)
+            CnDialog::OnInitDialog();
         m_edit.Attach(IDC_EDIT, this, SipOptionMode0);
         m_combo.Attach(IDC_COMBO, this, SipOptionMode1);
-        return CnDialog::OnInitDialog();
+        return m_order == AfterBase ? TRUE : CnDialog::OnInitDialog();
     }
 
     CnComboBox m_combo;
 
 private:
+    Order m_order;
     fx::DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
     CnEdit m_edit;
 };
@@ -68,11 +77,38 @@ void RunDialog(CDialog& dialog, fx::ModalScript& script) {
 
 TEST(PanelOverDialog, IsSeenWhenTheDialogOpensWithItsFieldFocused) {
     for (const AddField addField : {AddEdit, AddCombo, AddChoice}) {
-        FirstFieldDialog dlg(addField);
-        fx::ModalScript script;
-        script.Until(PanelIsSeen);
-        RunDialog(dlg, script);
+        for (const auto order : {FirstFieldDialog::BeforeBase, FirstFieldDialog::AfterBase}) {
+            FirstFieldDialog dlg(addField, nullptr, order);
+            fx::ModalScript script;
+            script.Until(PanelIsSeen);
+            RunDialog(dlg, script);
+        }
     }
+}
+
+/// A page whose first field is attached last of all.
+class FirstFieldPage : public CnPropertyPage {
+public:
+    FirstFieldPage() : CnPropertyPage(201) {}
+
+protected:
+    BOOL OnInitDialog() override {
+        CnPropertyPage::OnInitDialog();
+        m_edit.Attach(IDC_EDIT, this, SipOptionMode0);
+        return TRUE;
+    }
+
+private:
+    CnEdit m_edit;
+};
+
+TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
+    FirstFieldPage page;
+    CnPropertySheet sheet(L"設定", nullptr, 0);
+    sheet.AddPage(&page);
+    fx::ModalScript script;
+    script.Until(fx::PanelIsVisible).Then([&] { sheet.EndDialog(IDOK); });
+    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {

@@ -1,6 +1,9 @@
 // The angle field: what it shows, what it takes, and when.
 #include "controls/Stage.h"
+#include "support/DialogTemplate.h"
+#include "support/ModalScript.h"
 
+#include "controls/nDialog.h"
 #include "survey/AngleEdit.h"
 
 #include <cmath>
@@ -277,6 +280,58 @@ TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
     stage.m_angle.SetAngle(Radians(1, 2, 3.4));
     EXPECT_EQ(stage.Text(), L"1\uFF9F 2' 3\".4");
     EXPECT_EQ(OpenAngleEdit().GetAngle(), 0.0);
+}
+
+/// A full-screen dialog with two angles, attached when the base class has shown it.
+class AngleDialog : public CnDialog {
+public:
+    AngleDialog() : CnDialog(0, nullptr) {
+        m_template.Edit(IDC_ANGLE).Edit(IDC_OTHER);
+        InitModalIndirect(m_template.Get(), nullptr);
+    }
+    BOOL OnInitDialog() override {
+        CnDialog::OnInitDialog();
+        m_first.Attach(IDC_ANGLE, this, WHOLE, 0);
+        m_first.SetAngle(PI / 2);
+        m_second.Attach(IDC_OTHER, this, WHOLE, 0);
+        m_second.SetAngle(PI / 4);
+        return TRUE;
+    }
+
+    CAngleEdit m_first;
+    CAngleEdit m_second;
+
+private:
+    fx::DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
+};
+
+TEST(AngleEdit, FirstFieldOfAScreenKeepsAnAngleThatNobodyTouches) {
+    AngleDialog dlg;
+    fx::ModalScript script;
+    script.Then([&] {
+        EXPECT_EQ(fx::TextOf(dlg.m_first), L"90.0000");
+        dlg.SendMessage(WM_COMMAND, IDOK);
+    });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+    EXPECT_DOUBLE_EQ(dlg.m_first.GetAngle(), PI / 2);
+}
+
+TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
+    AngleDialog dlg;
+    fx::ModalScript script;
+    script.Then([] { pen::TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB}); });
+    script.Then([] { pen::TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB}); });
+    script.Then([&] {
+        EXPECT_DOUBLE_EQ(dlg.m_first.GetAngle(), Radians(2, 30));
+        EXPECT_DOUBLE_EQ(dlg.m_second.GetAngle(), Radians(4, 15));
+        pen::Tap(dlg.m_second);
+    });
+    script.Then([] { pen::TypeKeys({'6'}); });
+    script.Then([&] {
+        EXPECT_EQ(fx::TextOf(dlg.m_second), L"4.15006") << "a tap beside the text leaves the caret there";
+        dlg.EndDialog(IDOK);
+    });
+    script.Run([&] { return dlg.DoModal(); });
 }
 
 /// The panel's own handling of focus changes stays beside the conversion.
