@@ -2,6 +2,8 @@
 
 #include "controls/detail/CommandBar.h"
 
+#include <utility>
+
 namespace {
 
 // The part of the device's screen between its two bars.
@@ -28,6 +30,7 @@ BEGIN_MESSAGE_MAP(CnDialog, CDialog)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
+    ON_WM_CAPTURECHANGED()
     ON_WM_WININICHANGE()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
@@ -119,6 +122,7 @@ HBRUSH CnDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
 
 void CnDialog::OnLButtonDown(UINT nFlags, CPoint point) {
     if (Has(OptionDrag)) {
+        TakeFrame();
         GetWindowRect(m_rcDrag);
         DrawFrame(m_rcDrag, nullptr);
         m_ptPress = point;
@@ -128,6 +132,14 @@ void CnDialog::OnLButtonDown(UINT nFlags, CPoint point) {
         CWnd::OnLButtonDown(nFlags, point);
     else
         Default();
+}
+
+/// Erases the drag frame from the screen. @return where it was; empty if there was none
+CRect CnDialog::TakeFrame() {
+    const CRect frame = std::exchange(m_rcDrag, CRect());
+    if (!frame.IsRectEmpty())
+        DrawFrame(frame, nullptr);
+    return frame;
 }
 
 /// Where the frame goes for a pen at `point` (client coordinates), kept in reach.
@@ -149,7 +161,7 @@ CRect CnDialog::DragCandidate(CPoint point) const {
 }
 
 void CnDialog::OnMouseMove(UINT, CPoint point) {
-    if (Has(OptionDrag)) {
+    if (Has(OptionDrag) && !m_rcDrag.IsRectEmpty()) {
         const CRect candidate = DragCandidate(point);
         if (!candidate.EqualRect(m_rcDrag)) {
             DrawFrame(candidate, &m_rcDrag);
@@ -160,9 +172,8 @@ void CnDialog::OnMouseMove(UINT, CPoint point) {
 }
 
 void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
-    if (Has(OptionDrag)) {
-        DrawFrame(m_rcDrag, nullptr);
-        CRect place = m_rcDrag;
+    // There is no frame when the pen came down elsewhere: on a child dialog that has closed.
+    if (CRect place = TakeFrame(); !place.IsRectEmpty()) {
         // A child stands in its parent's coordinates. For a popup GetParent gives the owner,
         // whose coordinates are not the popup's.
         if (CWnd* pParent = GetParent(); pParent != nullptr && (GetStyle() & WS_CHILD))
@@ -172,6 +183,13 @@ void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
         RedrawWindow(nullptr, nullptr, 0);
     }
     CDialog::OnLButtonUp(nFlags, point);
+}
+
+/// Something has come in between, as a dialog that opens: the lift will not be seen.
+void CnDialog::OnCaptureChanged(CWnd* pWnd) {
+    if (pWnd != this)
+        TakeFrame();
+    CDialog::OnCaptureChanged(pWnd);
 }
 
 void CnDialog::OnWinIniChange(LPCTSTR lpszSection) {

@@ -55,6 +55,8 @@ protected:
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     /// A lift ends dragging: the dialog goes where the frame is.
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    /// A press that goes to another window ends dragging; the dialog stays where it is.
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
     /// A change of the system's settings; here the framework's processing, which makes room for the
     /// soft input panel.
     afx_msg void OnWinIniChange(LPCTSTR lpszSection);
@@ -67,6 +69,7 @@ private:
     bool Has(Option option) const { return (m_dwOption & option) != 0; }
     void InitFullScreen();
     CRect DragCandidate(CPoint point) const;
+    CRect TakeFrame();
 
     DWORD m_dwOption = 0;
 
@@ -75,7 +78,7 @@ protected:
 
 private:
     CPoint m_ptPress;
-    CRect m_rcDrag;      ///< The drag frame last drawn, on the screen.
+    CRect m_rcDrag;      ///< The drag frame on the screen; empty while there is none.
     COLORREF m_crBk = 0; ///< Meaningful with OptionBackgroundColor only.
     CBrush m_brBk;
 };

@@ -219,42 +219,81 @@ TEST(nDialog, DialogWithAnOwnerLandsWhereItsFrameWas) {
     });
 }
 
+/// The left edge of the screen, which a frame crosses that is dragged there.
+std::vector<COLORREF> LeftEdge() {
+    CWindowDC screen(nullptr);
+    std::vector<COLORREF> colors;
+    for (int y = 0; y < Screen().bottom; ++y)
+        for (int x = 0; x < 40; x += 3)
+            colors.push_back(screen.GetPixel(x, y));
+    return colors;
+}
+
 TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
-    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
-    CRect start;
-    const auto strip = [] { // the desktop at the left edge, which the frame crosses
-        CWindowDC screen(nullptr);
-        std::vector<COLORREF> colors;
-        for (int y = 0; y < Screen().bottom; ++y)
-            for (int x = 0; x < 40; x += 3)
-                colors.push_back(screen.GetPixel(x, y));
-        return colors;
+    using Interrupt = void (*)(Dialog&);
+    struct Row {
+        const char* what;
+        Interrupt interrupt; ///< What comes in between before the pen is lifted.
+        CSize moved;
     };
-    std::vector<COLORREF> before;
-    std::vector<COLORREF> during;
-    fx::ModalScript script;
-    script.Then([&] { dlg.MoveWindow(60, 60, 140, 100); });
-    script.Then([&] {
-        start = dlg.Rect();
-        before = strip();
-        pen::Down(start.CenterPoint());
-        pen::Move(start.CenterPoint() + CSize(-30, 40));
-        pen::Move(start.CenterPoint() + CSize(-40, 60));
+    const Row rows[] = {
+        {"nothing", [](Dialog&) {}, {-40, 60}},
+        {"capture lost", [](Dialog&) { ::ReleaseCapture(); }, {0, 0}},
+        {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
+        {"another dialog",
+         [](Dialog& dlg) {
+             Dialog child(CnDialog::OptionPopup, &dlg);
+             WhileOpen(child, [] {});
+         },
+         {0, 0}},
+    };
+    fx::Frame background(CSize(240, 320)); // the desktop draws itself in its own time
+    for (const Row& row : rows) {
+        Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &background);
+        CRect start;
+        std::vector<COLORREF> before;
+        fx::ModalScript script;
+        script.Then([&] { dlg.MoveWindow(60, 60, 140, 100); });
+        script.Then([&] {
+            start = dlg.Rect();
+            before = LeftEdge();
+            pen::Down(start.CenterPoint());
+            pen::Move(start.CenterPoint() + CSize(-30, 40));
+        });
+        script.Then([&] {
+            EXPECT_NE(LeftEdge(), before) << "the frame shows";
+            row.interrupt(dlg);
+        });
+        script.Then([&] { pen::Move(start.CenterPoint() + CSize(-40, 60)); });
+        script.Then([&] {
+            EXPECT_EQ(LeftEdge() == before, row.moved == CSize()) << row.what;
+            pen::Up(start.CenterPoint() + CSize(-40, 60));
+        });
+        script.Then([&] {
+            EXPECT_EQ(dlg.Rect(), start + row.moved) << row.what;
+            dlg.MoveWindow(start);
+        });
+        script.Then([&] {
+            EXPECT_EQ(LeftEdge(), before) << row.what;
+            dlg.EndDialog(IDOK);
+        });
+        script.Run([&] { return dlg.DoModal(); });
+    }
+}
+
+TEST(nDialog, LiftWithoutAPressMovesNothing) {
+    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
+    WhileOpen(dlg, [&] {
+        const auto lift = [&](CPoint end) {
+            dlg.MoveWindow(20, 60, 140, 100);
+            dlg.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(end.x, end.y));
+            dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(end.x, end.y));
+            EXPECT_EQ(dlg.Rect(), CRect(CPoint(20, 60), CSize(140, 100)));
+        };
+        lift(CPoint(30, 30));
+        DragBy(dlg, CSize(30, 40));
+        lift(CPoint(90, 90)); // the press before is over
     });
-    script.Then([&] {
-        during = strip();
-        pen::Up(start.CenterPoint() + CSize(-40, 60));
-    });
-    script.Until([&] { return dlg.Rect() != start; }).Then([&] {
-        EXPECT_EQ(dlg.Rect(), start + CPoint(-40, 60));
-        dlg.MoveWindow(start);
-    });
-    script.Then([&] {
-        EXPECT_NE(during, before) << "the frame shows";
-        EXPECT_EQ(strip(), before) << "and goes";
-        dlg.EndDialog(IDOK);
-    });
-    script.Run([&] { return dlg.DoModal(); });
 }
 
 TEST(nDialog, WithoutTheOptionNothingIsDragged) {
