@@ -1,0 +1,93 @@
+# shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
+# How much the tests notice: plants faults into a folder's sources, one at a time, and runs the
+# folder's tests. All faults are in one build; a number in the environment chooses one.
+
+mutants_folder=$build/mutants
+
+# Each folder, the build that has its tests, and those tests.
+mutants_table='
+geometry host geometry
+survey host survey
+framework/base host framework_base
+framework/windows win64 framework framework_comctl
+companion win64 companion
+util win64 util
+controls win64 controls survey_window
+dialogs win64 dialogs
+'
+
+# run_mutants FOLDER: of all folders without one. False when a fault survives unexplained.
+run_mutants() {
+    local folder preset tests status=0 found=
+    require python3 python3-clang-14 libclang1-14
+    while read -r -u 4 folder preset tests; do
+        [[ -n $folder && $folder == "${1:-$folder}" ]] || continue
+        found=yes
+        # shellcheck disable=SC2086  # a list
+        mutants_of "$folder" "$preset" $tests || status=1
+    done 4<<<"$mutants_table"
+    [[ -n $found ]] || die "not a folder with tests of its own: $1"
+    return $status
+}
+
+mutants_of() {
+    local folder=$1 preset=$2 name=${1//\//_}
+    local faults=$mutants_folder/$name.json programs=("${@:3}") workers through=()
+    if [[ $preset == win64 && -z $screen_pid ]]; then open_screen; fi
+    logged "mutants-$name" build_mutants "$folder" "$preset" "$faults" "${programs[@]}"
+    programs=("${programs[@]/#/$mutants_folder/tree/build/$preset/bin/test_}")
+    workers=$(nproc)
+    if [[ $preset == win64 ]]; then
+        programs=("${programs[@]/%/.exe}")
+        through=(--through wine)
+        workers=1 # the windows of two programs would take the focus from each other
+    fi
+    logged "reach-$name" see_reach "$preset" "${programs[@]}"
+    printf '%s\n' "$folder:"
+    in_wine /usr/bin/python3 "$root/tools/mutants/judge.py" "${through[@]}" --workers "$workers" \
+        --explained "$root/tools/mutants/explained.txt" "$faults" "${programs[@]}" 2>&1 </dev/null
+}
+
+# build_mutants FOLDER PRESET FAULTS TEST...: a copy of the tree in which FOLDER has all its
+# faults. Places that only the compiler evaluates show up as errors and are left out.
+build_mutants() {
+    local folder=$1 preset=$2 faults=$3 tree=$mutants_folder/tree round
+    local left_out=$mutants_folder/left_out log=$mutants_folder/compile.log arguments=()
+    shift 3
+    mkdir -p "$tree"
+    git ls-files -z --cached --others --exclude-standard | tar --null -cf - -T - | tar -xf - -C "$tree"
+    cmake --preset "$preset" -S "$root" -B "$build/$preset"
+    if [[ $preset == win64 ]]; then
+        windows_arguments
+        arguments=("${tidy_windows[@]}")
+    fi
+    cmake --preset "$preset" -S "$tree" -B "$tree/build/$preset" -DFIELDKIT_SANITIZE=OFF \
+        -DCMAKE_CXX_FLAGS="-w -include $root/tools/mutants/Mutant.h" \
+        -DFIELDKIT_TEST_SOURCES="$root/tools/mutants/Reach.cpp"
+    : >"$left_out"
+    for round in 1 2 3 4 5 6; do
+        /usr/bin/python3 "$root/tools/mutants/plant.py" "$build/$preset/compile_commands.json" "$root" \
+            "$tree" "$folder" "$left_out" -- "${arguments[@]}" >"$faults"
+        echo "round $round"
+        if ninja -C "$tree/build/$preset" -j"$(nproc)" -k 0 "${@/#/test_}" >"$log" 2>&1; then
+            return
+        fi
+        /usr/bin/python3 "$root/tools/mutants/errors.py" "$log" "$tree/build/$preset" "$tree" "$faults" >>"$left_out"
+    done
+    tail -n 30 "$log"
+    return 1
+}
+
+# see_reach PRESET PROGRAM...: which tests get to which faults, PROGRAM.reached.txt.
+see_reach() {
+    local preset=$1 program
+    shift
+    for program in "$@"; do
+        head -c 65536 /dev/zero >"$program.reached"
+        rm -f "$program.reached.txt"
+        case $preset in
+        host) MUTANT_REACH=$program.reached "$program" ;;
+        win64) MUTANT_REACH=Z:$program.reached in_wine timeout -k 5 900 wine "$program" ;;
+        esac
+    done
+}

@@ -1,0 +1,32 @@
+// Part of each test program of the mutants' build: writes down which faults a test reaches.
+#include "Mutant.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+
+namespace {
+
+class CReach : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { std::memset(m_pReached, 0, SIZE); }
+    void OnTestEnd(const testing::TestInfo& test) override {
+        m_file << test.test_suite_name() << '.' << test.name() << ' ' << test.result()->elapsed_time();
+        for (int i = 0; i < SIZE; ++i)
+            if (m_pReached[i] != 0)
+                m_file << ' ' << i;
+        m_file << std::endl;
+    }
+
+    static constexpr int SIZE = 1 << 16;
+    unsigned char* m_pReached = fkmutant::Map();
+    std::ofstream m_file{std::string(std::getenv("MUTANT_REACH")) + ".txt"};
+};
+
+const bool g_bListening = [] {
+    if (std::getenv("MUTANT_REACH") != nullptr)
+        testing::UnitTest::GetInstance()->listeners().Append(new CReach);
+    return true;
+}();
+
+} // namespace
