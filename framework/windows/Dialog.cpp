@@ -108,7 +108,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
                                                   AfxDialogAccess::DlgProc, 0);
     if (!hook.Unhook())
         PostNcDestroy();
-    if (hWnd == nullptr)
+    if (hWnd == nullptr || FromHandlePermanent(hWnd) != this) // OnInitDialog may have destroyed it
         return FALSE;
     const bool bEnding = m_nFlags & WF_MODALLOOP && !(m_nFlags & WF_CONTINUEMODAL);
     if (copy.WasVisible() && !(m_nFlags & WF_SHOWSET) && !bEnding)
@@ -119,18 +119,12 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 // --- Modal ----------------------------------------------------------------------------------------
 
 INT_PTR CDialog::DoModal() {
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr || (m_nFlags & WF_MODALLOOP)) // it runs already, with or without its window
         return -1;
-    const CModalScope scope;
-    CModalOwner owner(m_pParentWnd);
-
-    m_nModalResult = -1;
-    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL; // EndDialog may come from OnInitDialog already
-    if (CreateFromResource(CWnd::FromHandle(owner.Handle())) && (m_nFlags & WF_CONTINUEMODAL))
+    CModalWindow modal(this, m_pParentWnd);
+    if (CreateFromResource(CWnd::FromHandle(modal.Owner())) && modal.GoesOn())
         RunModalLoop(MLF_SHOWONIDLE);
-    m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-    owner.Close(this);
-    return m_nModalResult;
+    return modal.Close();
 }
 
 void CDialog::EndDialog(int nResult) {

@@ -24,13 +24,17 @@ public:
 
     HWND Handle() const { return m_hWnd; }
 
-    /// Destroys the modal window. The owner is enabled while it is still there: otherwise the
+    /// Destroys the modal window, if there still is one. The owner is enabled while it is still there: otherwise the
     /// system would have no window of this program to activate, and another program's would
     /// come to the front.
     void Close(CWnd* pModal) {
         Enable();
-        if (pModal->m_hWnd == nullptr)
+        if (pModal == nullptr || pModal->m_hWnd == nullptr) {
+            // It has gone while the owner was disabled, and the system may have found no other.
+            if (m_hWnd != nullptr && ::GetActiveWindow() == nullptr)
+                ::SetActiveWindow(m_hWnd);
             return;
+        }
         pModal->SetWindowPos(nullptr, 0, 0, 0, 0,
                              SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
         if (m_hWnd != nullptr && ::GetActiveWindow() == pModal->m_hWnd)
@@ -52,4 +56,34 @@ private:
     HWND m_hWnd = nullptr;
     HWND m_hWndTop = nullptr; ///< A top-level window disabled as well.
     bool m_bDisabled = false;
+};
+
+/// A window from the moment when it is about to be modal until all is as before, on whatever path
+/// that ends: the window destroyed, its owner enabled.
+class CModalWindow {
+public:
+    CModalWindow(CWnd* pWnd, CWnd* pParentWnd) : m_pWnd(pWnd), m_scope(pWnd), m_owner(pParentWnd) {
+        AfxWndAccess::ModalResult(pWnd) = -1;
+        // The end may come already while the window is being made.
+        AfxWndAccess::Flags(pWnd) |= WF_MODALLOOP | WF_CONTINUEMODAL;
+    }
+    ~CModalWindow() { Close(); }
+    CModalWindow(const CModalWindow&) = delete;
+    CModalWindow& operator=(const CModalWindow&) = delete;
+
+    HWND Owner() const { return m_owner.Handle(); }
+    bool GoesOn() const { return m_scope.IsAlive() && (AfxWndAccess::Flags(m_pWnd) & WF_CONTINUEMODAL); }
+
+    /// @return what the window was ended with, else -1
+    int Close() {
+        if (m_scope.IsAlive())
+            AfxWndAccess::Flags(m_pWnd) &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
+        m_owner.Close(m_scope.IsAlive() ? m_pWnd : nullptr);
+        return m_scope.IsAlive() ? AfxWndAccess::ModalResult(m_pWnd) : -1;
+    }
+
+private:
+    CWnd* m_pWnd;
+    CModalScope m_scope;
+    CModalOwner m_owner;
 };

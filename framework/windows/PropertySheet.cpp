@@ -131,18 +131,13 @@ void CPropertySheet::PostNcDestroy() {
 // --- Modal ----------------------------------------------------------------------------------
 
 INT_PTR CPropertySheet::DoModal() {
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr || (m_nFlags & WF_MODALLOOP)) // it runs already, with or without its window
         return -1;
-    const CModalScope scope;
-    CModalOwner owner(m_pParentWnd);
+    CModalWindow modal(this, m_pParentWnd);
     m_dwStyle = STYLE_DEFAULT;
-    m_nModalResult = -1;
-    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL; // EndDialog may come from OnInitDialog already
-    if (CreateSheet(owner.Handle()) && (m_nFlags & WF_CONTINUEMODAL))
+    if (CreateSheet(modal.Owner()) && modal.GoesOn())
         RunModalLoop(MLF_SHOWONIDLE);
-    m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-    owner.Close(this);
-    return m_nModalResult;
+    return modal.Close();
 }
 
 /// The system marks a sheet that has ended by having no page any more.

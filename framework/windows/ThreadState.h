@@ -3,6 +3,8 @@
 
 #include "HandleMap.h"
 
+class CModalScope;
+
 class CThreadState {
 public:
     static CThreadState& Get();
@@ -18,6 +20,7 @@ public:
     HHOOK m_hCreateHook = nullptr;
     /// Modal windows, one inside the other.
     int m_nModalDepth = 0;
+    CModalScope* m_pModal = nullptr; ///< The innermost one.
     /// The control whose data is being exchanged; keeps DDX from being entered twice.
     HWND m_hLockoutNotifyWindow = nullptr;
     CWinThread* m_pThread = nullptr;
@@ -30,12 +33,17 @@ public:
 /// callers around it may hold stay.
 class CModalScope {
 public:
-    CModalScope() { ++CThreadState::Get().m_nModalDepth; }
-    ~CModalScope() {
-        CThreadState& state = CThreadState::Get();
-        state.DeleteTemporaries();
-        --state.m_nModalDepth;
-    }
+    explicit CModalScope(CWnd* pWnd);
+    ~CModalScope();
     CModalScope(const CModalScope&) = delete;
     CModalScope& operator=(const CModalScope&) = delete;
+
+    /// False if the window's object has been deleted meanwhile, whatever it may be that did so.
+    bool IsAlive() const { return m_pWnd != nullptr; }
+    /// Tells the scopes of an object that it is being deleted.
+    static void Forget(const CWnd* pWnd);
+
+private:
+    CWnd* m_pWnd;
+    CModalScope* m_pOuter;
 };

@@ -2,6 +2,8 @@
 // windows above its target.
 #include "WndProc.h"
 
+#include <utility>
+
 BOOL CWnd::PreTranslateMessage(MSG*) {
     return FALSE;
 }
@@ -38,44 +40,51 @@ bool IsIdleMessage() {
 } // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    const CModalScope scope;
+    const CModalScope scope(this);
     const HWND hWnd = m_hWnd;
     const HWND hWndParent = ::GetParent(hWnd);
     bool bShow = (dwFlags & MLF_SHOWONIDLE) && !(m_nFlags & WF_SHOWSET) && !(GetStyle() & WS_VISIBLE);
     bool bIdle = true;
+    bool bQuit = false;
     LONG lIdle = 0;
+    m_nModalResult = -1;
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
 
+    // Whatever is called may destroy the window, or even this object.
+    const auto goesOn = [&] {
+        return scope.IsAlive() && m_hWnd == hWnd && ::IsWindow(hWnd) && ContinueModal();
+    };
     const auto onIdle = [&] {
-        if (bShow) {
+        if (std::exchange(bShow, false)) {
             ShowWindow(SW_SHOWNORMAL);
-            UpdateWindow();
-            bShow = false;
+            ::UpdateWindow(hWnd);
         }
         if (!(dwFlags & MLF_NOIDLEMSG) && hWndParent != nullptr && lIdle == 0)
             ::SendMessage(hWndParent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(hWnd));
         bIdle = !(dwFlags & MLF_NOKICKIDLE) &&
-                SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, static_cast<LPARAM>(lIdle++)) != 0;
+                ::SendMessage(hWnd, WM_KICKIDLE, MSGF_DIALOGBOX, static_cast<LPARAM>(lIdle++)) != 0;
         CThreadState::Get().DeleteTemporaries();
     };
 
-    while (ContinueModal()) {
-        while (bIdle && ContinueModal() && QueueIsEmpty())
+    while (goesOn()) {
+        if (bIdle && QueueIsEmpty()) {
             onIdle();
-        if (!ContinueModal())
-            break;
+            continue;
+        }
         if (!AfxPumpMessage()) { // WM_QUIT: end this loop, and let the outer ones see it too
             AfxPostQuitMessage(static_cast<int>(AfxGetThread()->m_msgCur.wParam));
-            m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-            return -1;
+            bQuit = true;
+            break;
         }
         if (IsIdleMessage()) {
             bIdle = true;
             lIdle = 0;
         }
     }
+    if (!scope.IsAlive())
+        return -1;
     m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-    return m_nModalResult;
+    return bQuit ? -1 : m_nModalResult;
 }
 
 BOOL CWnd::ContinueModal() {

@@ -168,6 +168,8 @@ void CWnd::PostNcDestroy() {}
 CWnd::~CWnd() {
     if (m_hWnd != nullptr)
         DestroyWindow();
+    if (m_nFlags & WF_MODALLOOP)
+        CModalScope::Forget(this);
 }
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
@@ -246,5 +248,9 @@ void CWnd::OnNcDestroy() {
     }
     Detach();
     m_nFlags &= ~static_cast<UINT>(WF_FULLSCREEN | WF_SHOWSET);
+    if (m_nFlags & WF_MODALLOOP) { // destroyed without having been ended, perhaps by its owner
+        m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
+        ::PostMessage(nullptr, WM_NULL, 0, 0); // wakes the loop
+    }
     PostNcDestroy();
 }

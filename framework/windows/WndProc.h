@@ -36,4 +36,5 @@ struct AfxWndAccess {
     }
     static WNDPROC* SuperProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
     static UINT& Flags(CWnd* pWnd) { return pWnd->m_nFlags; }
+    static int& ModalResult(CWnd* pWnd) { return pWnd->m_nModalResult; }
 };
