@@ -89,6 +89,8 @@ protected:
     afx_msg LRESULT OnInitPage(WPARAM wParam, LPARAM lParam);
     /// Keeps the page in the sheet's area for pages.
     afx_msg LRESULT OnWindowPosChanging(WPARAM wParam, LPARAM lParam);
+    /// Takes the focus off a page that is hidden.
+    afx_msg LRESULT OnWindowPosChanged(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 

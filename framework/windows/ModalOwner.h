@@ -24,8 +24,8 @@ public:
 
     HWND Handle() const { return m_hWnd; }
 
-    /// Destroys the modal window, if there still is one. The owner is enabled while it is still there: otherwise the
-    /// system would have no window of this program to activate, and another program's would
+    /// Destroys the modal window, if there still is one. The owner is enabled while it is still there:
+    /// otherwise the system would have no window of this program to activate, and another program's would
     /// come to the front.
     void Close(CWnd* pModal) {
         Enable();

@@ -1,3 +1,4 @@
+#include "DialogKeys.h"
 #include "DialogTemplate.h"
 #include "WndProc.h"
 #include "afxdlgs.h"
@@ -8,6 +9,7 @@ IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 BEGIN_MESSAGE_MAP(CPropertyPage, CDialog)
     ON_MESSAGE(WM_INITDIALOG, &CPropertyPage::OnInitPage)
     ON_MESSAGE(WM_WINDOWPOSCHANGING, &CPropertyPage::OnWindowPosChanging)
+    ON_MESSAGE(WM_WINDOWPOSCHANGED, &CPropertyPage::OnWindowPosChanged)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -91,6 +93,22 @@ LRESULT CPropertyPage::OnWindowPosChanging(WPARAM, LPARAM lParam) {
         pPos->flags &= ~static_cast<UINT>(SWP_NOMOVE | SWP_NOSIZE);
     }
     return Default();
+}
+
+/// The system leaves the focus where it is when it hides a page. It goes to the tabs: an entry field
+/// of the next page would raise the soft input panel unasked.
+LRESULT CPropertyPage::OnWindowPosChanged(WPARAM, LPARAM lParam) {
+    const HWND hSheet = ::GetParent(m_hWnd);
+    const bool bHidden = (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_HIDEWINDOW) != 0;
+    const LRESULT lResult = Default();
+    if (!bHidden || !::IsChild(m_hWnd, ::GetFocus()))
+        return lResult;
+    const HWND hTab = ::GetDlgItem(hSheet, static_cast<int>(AFX_IDC_TAB_CONTROL));
+    if (hTab != nullptr && CDialogKeys::IsReachable(hTab))
+        ::SetFocus(hTab);
+    else
+        CDialogKeys::FocusReachable(hSheet);
+    return lResult;
 }
 
 // --- Operations -----------------------------------------------------------------------------

@@ -1,4 +1,5 @@
 #include "CommandRoute.h"
+#include "DialogKeys.h"
 #include "ModalOwner.h"
 #include "afxdlgs.h"
 
@@ -161,6 +162,7 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
         return TRUE;
     const bool bKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     const bool bMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
+    CDialogKeys::Prepare(pMsg);
     return (bKey || bMouse) && SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(pMsg));
 }
 

@@ -1,4 +1,5 @@
 // CWnd: the items of dialogs and their data.
+#include "DialogKeys.h"
 #include "WndProc.h"
 
 void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString) {
@@ -38,6 +39,7 @@ int CWnd::GetCheckedRadioButton(int nIDFirst, int nIDLast) const {
     return 0;
 }
 BOOL CWnd::IsDialogMessage(LPMSG lpMsg) {
+    CDialogKeys::Prepare(lpMsg);
     return ::IsDialogMessage(m_hWnd, lpMsg);
 }
 
