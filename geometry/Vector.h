@@ -44,7 +44,7 @@ public:
     int GetIntY() const { return Double2Int(m_dY); }
 
     /// Rounds to the nearest integer, halves toward zero (2.5 gives 2, -2.5 gives -2).
-    /// @param value must lie in the range of int; it is not checked.
+    /// @param value beyond the range of int it counts as the end of the range, NaN as 0.
     static inline int Double2Int(double value);
 
     /// Sets the distance, in coordinate units, below which the line and arc
@@ -114,9 +114,9 @@ public:
     /// @return `dst`.
     char* Show(char* dst, int prec);
 
-    // ---- Angle ranges. All take and return radians and need finite angles. They go one
-    // turn at a time, so their cost grows with the angle; one that is not finite, or so
-    // large that a turn is below its last digit, comes back as it is.
+    // ---- Angle ranges. All take and return radians. The result is that of going one step at
+    // a time, rounding included, and takes less than a microsecond. An angle that a step does
+    // not change, beyond 2^56 (2^55 for half turns) or not finite, comes back as it is.
 
     /// Into -3.141592664..3.141592664, both ends included.
     static inline double LimitAngleRange(double a);
@@ -128,7 +128,8 @@ public:
     /// Makes a sweep agree with a turning sense: `turn` 1 gives 0 or more, -1 gives 0 or
     /// less, any other value 0. Below 1e-8 a sweep is 0. One turn at most is added or taken.
     static inline double AbsAngle(int turn, double a);
-    /// The smaller gap between two directions, 0..3.141592654.
+    /// The smaller gap between two directions, 0..3.141592654. An angle beyond 2^56 or not
+    /// finite is no direction, and the result means nothing.
     static inline double CalcAngleDist(double a, double b);
 
     // ---- Lines.

@@ -5,7 +5,13 @@
 
 #include "geometry/Vector.h"
 
+#include <algorithm>
+#include <limits>
+
 inline int CVector::Double2Int(double value) {
+    constexpr double kLeast = std::numeric_limits<int>::min();
+    constexpr double kMost = std::numeric_limits<int>::max();
+    value = value == value ? std::clamp(value, kLeast, kMost) : 0;
     const double whole = static_cast<int>(value);
     const double fraction = value - whole; // exact
     if (!(std::fabs(fraction) > 0.5))
