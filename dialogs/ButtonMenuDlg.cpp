@@ -85,7 +85,19 @@ void CButtonMenuDlg::OnBtnMenu(unsigned int nID) {
     OnOK();
 }
 
+/// The button with the focus; that is the one which Enter means.
+int CButtonMenuDlg::FocusedEntry() const {
+    const CWnd* const pFocus = GetFocus();
+    const int nID = pFocus != nullptr && IsChild(pFocus) ? pFocus->GetDlgCtrlID() : 0;
+    const bool bEntry = nID >= IDC_FK_MENU_FIRST && nID <= IDC_FK_MENU_LAST;
+    return bEntry ? nID - IDC_FK_MENU_FIRST : NOTHING_CHOSEN;
+}
+
 void CButtonMenuDlg::OnOK() {
+    if (m_nMenuIndex == NOTHING_CHOSEN)
+        m_nMenuIndex = FocusedEntry();
+    if (m_nMenuIndex == NOTHING_CHOSEN)
+        return;
     DeleteButtons();
     CnDialog::OnOK();
 }

@@ -19,19 +19,19 @@ public:
     CButtonMenuDlg(int nTitleId, CUIntArray* pEntryIds, CWnd* pParent);
     ~CButtonMenuDlg() override;
 
-    /// @return the index of the entry that the last DoModal ended with; -1 if the user has
-    ///         chosen none
+    /// @return the index of the entry that the last DoModal ended with; -1 if it did not end with
+    ///         IDOK
     int GetMenuIndex() const;
 
 protected:
     /// Nothing of its own.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    /// Deletes the buttons and ends the dialog.
-    ///@{
+    /// Deletes the buttons and ends the dialog. Without a choice before it (by the Enter key), OK
+    /// chooses the button with the focus; if there is none, the dialog stays open.
     void OnOK() override;
+    /// Deletes the buttons and ends the dialog.
     void OnCancel() override;
-    ///@}
 
     /// Takes the entry of a tapped button over and ends the dialog with IDOK.
     /// @param nID the button's control id
@@ -41,6 +41,7 @@ protected:
 
 private:
     void SetClientHeight(int nHeight);
+    int FocusedEntry() const;
     void CreateButtons();
     void DeleteButtons();
 

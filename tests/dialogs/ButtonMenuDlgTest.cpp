@@ -87,6 +87,30 @@ TEST(ButtonMenuDlg, TheLastEntryThatCanBeChosenIsTheTwentyFirst) {
     EXPECT_EQ(menu.m_dlg.GetMenuIndex(), 20);
 }
 
+TEST(ButtonMenuDlg, EnterChoosesTheButtonWithTheFocusAndNothingElse) {
+    constexpr int NONE = -1;
+    const struct {
+        int nEntries;
+        int nFocus; ///< Entry.
+        int nChosen;
+    } rows[] = {{0, NONE, NONE}, {3, NONE, NONE}, {3, 1, 1}, {25, 20, 20}, {25, 21, NONE}};
+    for (const auto& row : rows) {
+        Menu menu(row.nEntries);
+        const auto enter = [&] {
+            ::SetFocus(row.nFocus == NONE ? nullptr : menu.Button(row.nFocus)->m_hWnd);
+            pen::TypeKeys({VK_RETURN});
+        };
+        // Any way to say OK, and then cancel, which comes too late if an entry was chosen.
+        const auto ok = [&] { menu.m_dlg.PostMessage(WM_COMMAND, IDOK); };
+        const auto cancel = [&] { menu.m_dlg.EndDialog(IDCANCEL); };
+        const bool bChosen = row.nChosen != NONE;
+        EXPECT_EQ(bChosen ? RunMenu(menu, {enter}) : RunMenu(menu, {enter, ok, cancel}),
+                  bChosen ? IDOK : IDCANCEL)
+            << row.nEntries << ' ' << row.nFocus;
+        EXPECT_EQ(menu.m_dlg.GetMenuIndex(), row.nChosen);
+    }
+}
+
 TEST(ButtonMenuDlg, ANewRunForgetsTheChoiceBefore) {
     Menu menu(3);
     EXPECT_EQ(RunMenu(menu, {[&] { pen::Tap(*menu.Button(1)); }}), IDOK);
