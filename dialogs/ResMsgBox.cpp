@@ -4,6 +4,9 @@
 #include "resources/ResourceIds.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -11,8 +14,14 @@ constexpr UINT ERROR_TYPE = MB_OK | MB_ICONERROR;
 constexpr UINT WARNING_TYPE = MB_YESNO | MB_ICONEXCLAMATION;
 constexpr UINT INFORMATION_TYPE = MB_OK | MB_ICONINFORMATION;
 
-/// Pixels of a message box beside its text: the icon, margins and frame.
-constexpr int AROUND_TEXT = 76;
+/// Pixels of a message box around its text: icon, buttons, margins and frame.
+constexpr int BESIDE_TEXT = 76;
+constexpr int ABOVE_AND_BELOW_TEXT = 100;
+
+/// Lines that are shown on the smallest screen.
+constexpr int FEWEST_LINES = 8;
+
+using View = std::wstring_view;
 
 CString TextOf(unsigned int nId) {
     return LoadText(static_cast<int>(nId));
@@ -43,44 +52,77 @@ bool IsAttached(wchar_t ch) {
     return IS_LOW_SURROGATE(ch) || (wType & C3_NONSPACING) != 0 || CString(L"、。？").Find(ch) >= 0;
 }
 
-/// How much of a line fits into the width: if not all, then up to a blank or any character.
-int FittingLength(const CDC& dc, const CString& strLine, int nWidth) {
-    int nFit = 0;
-    CSize size;
-    ::GetTextExtentExPoint(dc.m_hDC, strLine, strLine.GetLength(), nWidth, &nFit, nullptr, &size);
-    if (nFit >= strLine.GetLength())
-        return strLine.GetLength();
-    if (const int nBlank = strLine.Left(nFit).ReverseFind(L' '); nBlank > 0)
-        return nBlank + 1;
-    while (nFit > 1 && IsAttached(strLine[nFit]))
-        --nFit;
-    return std::max(nFit, 1);
+/// How much of a line fits into the width, disregarding words. Measures little more than that:
+/// the line may be the rest of a very long one.
+size_t CharactersWithin(const CDC& dc, View line, int nWidth) {
+    constexpr size_t FIRST_TRY = 64;
+    for (size_t nTry = FIRST_TRY;; nTry *= 2) {
+        const size_t nMeasured = std::min(nTry, line.size());
+        int nFit = 0;
+        CSize size;
+        ::GetTextExtentExPoint(dc.m_hDC, line.data(), static_cast<int>(nMeasured), nWidth, &nFit, nullptr,
+                               &size);
+        const auto nFitting = static_cast<size_t>(nFit);
+        if (nFitting < nMeasured || nMeasured == line.size())
+            return nFitting;
+    }
 }
 
-void AppendLine(CString& strText, const CDC& dc, CString strLine, int nWidth) {
+/// How much of a line to show on one: if not all, then up to a blank or any character.
+size_t FittingLength(const CDC& dc, View line, int nWidth) {
+    size_t nFit = CharactersWithin(dc, line, nWidth);
+    if (nFit >= line.size())
+        return line.size();
+    const size_t nBlank = line.substr(0, nFit).rfind(L' ');
+    if (nBlank != View::npos && nBlank > 0)
+        return nBlank + 1;
+    while (nFit > 1 && IsAttached(line[nFit]))
+        --nFit;
+    return std::max<size_t>(nFit, 1);
+}
+
+/// The lines of a text, none of them wider than that.
+std::vector<View> BreakIntoLines(const CDC& dc, View text, int nWidth) {
+    std::vector<View> lines;
     for (;;) {
-        const int nFit = FittingLength(dc, strLine, nWidth);
-        strText += strLine.Left(nFit);
-        if (nFit == strLine.GetLength())
-            return;
-        strText += L'\n';
-        strLine = strLine.Mid(nFit);
+        const size_t nEnd = std::min(text.find(L'\n'), text.size());
+        View line = text.substr(0, nEnd);
+        do {
+            const size_t nFit = FittingLength(dc, line, nWidth);
+            lines.push_back(line.substr(0, nFit));
+            line.remove_prefix(nFit);
+        } while (!line.empty());
+        if (nEnd == text.size())
+            return lines;
+        text.remove_prefix(nEnd + 1);
     }
+}
+
+/// Leaves the middle of too many lines out: the question comes last.
+void Shorten(std::vector<View>& lines, size_t nMost) {
+    constexpr size_t LAST_LINES = 4;
+    if (lines.size() <= nMost)
+        return;
+    const auto itLeftOut = lines.begin() + static_cast<std::ptrdiff_t>(nMost - LAST_LINES - 1);
+    *itLeftOut = L"\u2026";
+    lines.erase(itLeftOut + 1, lines.end() - LAST_LINES);
 }
 
 /// Breaks lines that are too long for the screen. Not every system does that with a long name,
-/// and of a box that is wider than a small screen only the middle is seen.
-CString FitToScreen(const CString& strText) {
+/// and of a box that is wider than a small screen only the middle is seen; of one that is higher,
+/// not the buttons.
+std::wstring FitToScreen(View text) {
     const MessageDC dc;
-    const int nWidth = ::GetSystemMetrics(SM_CXSCREEN) - AROUND_TEXT;
-    CString strResult;
-    int nStart = 0;
-    for (int nEnd; (nEnd = strText.Find(L'\n', nStart)) >= 0; nStart = nEnd + 1) {
-        AppendLine(strResult, dc, strText.Mid(nStart, nEnd - nStart), nWidth);
-        strResult += L'\n';
-    }
-    AppendLine(strResult, dc, strText.Mid(nStart), nWidth);
-    return strResult;
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    const int nLineHeight = metrics.tmHeight + metrics.tmExternalLeading;
+    const int nMost = (::GetSystemMetrics(SM_CYSCREEN) - ABOVE_AND_BELOW_TEXT) / nLineHeight;
+    std::vector<View> lines = BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - BESIDE_TEXT);
+    Shorten(lines, static_cast<size_t>(std::max(nMost, FEWEST_LINES)));
+    std::wstring result(lines.front());
+    for (size_t i = 1; i < lines.size(); ++i)
+        result.append(L"\n").append(lines[i]);
+    return result;
 }
 
 } // namespace
@@ -108,7 +150,12 @@ int CResMsgBox::MsgBox(unsigned int nTextId, const wchar_t* pszCaption, unsigned
 int CResMsgBox::MsgBox(const wchar_t* pszText, const wchar_t* pszCaption, unsigned int nType) {
     CWnd noOwner;
     CWnd* const pActive = CWnd::GetActiveWindow();
-    return (pActive != nullptr ? pActive : &noOwner)->MessageBox(FitToScreen(pszText), pszCaption, nType);
+    const std::wstring text = FitToScreen(pszText != nullptr ? pszText : L"");
+    const int nAnswer =
+        (pActive != nullptr ? pActive : &noOwner)->MessageBox(text.c_str(), pszCaption, nType);
+    // Not every system keeps a box open that is closed without an answer.
+    const bool bYesNo = (nType & MB_TYPEMASK) == MB_YESNO;
+    return bYesNo && nAnswer != IDYES ? IDNO : nAnswer;
 }
 
 // --- The three kinds -------------------------------------------------------------------------

@@ -10,8 +10,9 @@
 /// an owner if there is none.
 ///
 /// Text and caption are given as texts or as string resource ids, which are looked for in the
-/// application and in the library; an id without a text shows an empty one. All methods return
-/// the button tapped: IDOK, IDYES, IDNO...
+/// application and in the library; an id without a text shows an empty one. Of a text that is too
+/// long for the screen the middle is left out. All methods return the button tapped: IDOK, IDYES,
+/// IDNO...; closing a box with MB_YESNO is IDNO.
 class FIELDKIT_API CResMsgBox {
 public:
     CResMsgBox();

@@ -101,6 +101,25 @@ TEST(ResMsgBox, KeepsTheOtherPartsOfTheStyle) {
     EXPECT_EQ(WhileOpen([&] { return box.MsgBox(ANY, ANY, MB_YESNO | MB_DEFBUTTON2); }, IDYES).nFocus, IDNO);
 }
 
+TEST(ResMsgBox, AQuestionThatIsClosedWithoutAnAnswerIsANo) {
+    using Close = void (*)();
+    const Close closes[] = {
+        [] { pen::TypeKeys({VK_ESCAPE}); },
+        [] { CWnd::GetActiveWindow()->PostMessage(WM_CLOSE); },
+        [] { CWnd::GetActiveWindow()->PostMessage(WM_COMMAND, IDCANCEL); },
+    };
+    for (const Close close : closes) {
+        for (const UINT nDefault : {MB_DEFBUTTON1, MB_DEFBUTTON2}) {
+            fx::ModalScript script;
+            script.Then(close);
+            EXPECT_EQ(script.Run([&] { return CResMsgBox().MsgBox(ANY, ANY, MB_YESNO | nDefault); }), IDNO);
+        }
+        fx::ModalScript script;
+        script.Then(close);
+        EXPECT_EQ(script.Run([] { return CResMsgBox().MsgBox(ANY, ANY, MB_YESNOCANCEL); }), IDCANCEL);
+    }
+}
+
 TEST(ResMsgBox, TheActiveWindowOwnsTheBox) {
     CResMsgBox box;
     fx::Frame frame;
@@ -146,6 +165,28 @@ TEST(ResMsgBox, LongTextsStayOnTheScreen) {
         for (const CRect& part : shown.parts) {
             EXPECT_TRUE(all.IntersectRect(shown.rect, part));
             EXPECT_EQ(all, part) << "a part of it";
+        }
+    }
+}
+
+TEST(ResMsgBox, EndlessTextsLeaveTheButtonsAndTheQuestionOnTheScreen) {
+    CResMsgBox box;
+    CString strWords;
+    while (strWords.GetLength() < 400000)
+        strWords += L"the words of a long tale of wire and tape which nobody ends up reading ";
+    for (const CString& strText : {CString(L'A', 400000), CString(L'境', 400000), strWords,
+                                   CString(L'\n', 400000), CString(L'\x3099', 400000)}) {
+        const CString strQuestion = L"始\n" + strText + L"\n上書きしますか？";
+        const Shown shown = WhileOpen([&] { return box.WarningMsgBox(strQuestion); }, IDNO);
+        EXPECT_EQ(shown.strText.Left(2), L"始\n");
+        EXPECT_EQ(shown.strText.Right(9), L"\n上書きしますか？");
+        EXPECT_NE(shown.strText.Find(L"\n…\n"), -1) << "what is left out is marked";
+        CRect all;
+        all.IntersectRect(fx::Screen(), shown.rect);
+        EXPECT_EQ(all, shown.rect);
+        for (const CRect& part : shown.parts) {
+            all.IntersectRect(shown.rect, part);
+            EXPECT_EQ(all, part);
         }
     }
 }
