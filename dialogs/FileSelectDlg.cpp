@@ -3,6 +3,7 @@
 #include "companion/Tesuvo.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ResMsgBox.h"
+#include "dialogs/detail/FileName.h"
 #include "dialogs/detail/FolderSearch.h"
 #include "dialogs/detail/LoadText.h"
 #include "dialogs/detail/RedrawPause.h"
@@ -30,6 +31,18 @@ void WriteTime(const FILETIME& time, ShortText& szText) {
 
 void WriteSize(DWORD nBytes, ShortText& szText) {
     ::wsprintf(szText, L"%ld", static_cast<long>(nBytes));
+}
+
+/// The text that tells the user about a fault.
+UINT ReasonOf(NameFault fault) {
+    switch (fault) {
+    case NameFault::Ending:
+        return IDS_FK_NAME_ENDING;
+    case NameFault::Device:
+        return IDS_FK_NAME_OF_DEVICE;
+    default:
+        return IDS_FK_NAME_CHARACTER;
+    }
 }
 
 } // namespace
@@ -155,9 +168,22 @@ void CFileSelectDlg::ShowSubName() {
 }
 
 void CFileSelectDlg::OnOK() {
-    if ((m_nMode == ModeSave || m_nMode == ModeNew) && !MayOverwrite())
+    if ((m_nMode == ModeSave || m_nMode == ModeNew) && !(IsNameUsable() && MayOverwrite()))
         return;
     CnDialog::OnOK();
+}
+
+/// Whether a file of the name can be made; if not, the user is told why.
+bool CFileSelectDlg::IsNameUsable() {
+    GetFilePath(); // with the extension
+    const NameFault fault = m_strName.IsEmpty() ? NameFault::None : FaultOf(m_strName.GetString());
+    if (fault == NameFault::None)
+        return true;
+    CString strReason;
+    strReason.Format(ReasonOf(fault), m_strName.GetString());
+    CResMsgBox().ErrorMsgBox(strReason);
+    GotoDlgCtrl(GetDlgItem(IDC_FK_FILE_NAME));
+    return false;
 }
 
 /// Whether there is no file of the name, or the user gives it away.

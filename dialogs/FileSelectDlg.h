@@ -19,7 +19,7 @@ public:
     /// What the dialog is for: its title, and what OK and a tap on a file do.
     enum Mode : int {
         ModeOpen = 0, ///< OK ends the dialog, whatever the name is.
-        ModeSave = 1, ///< OK asks before it ends with the name of an existing file.
+        ModeSave = 1, ///< OK refuses a name that no file can have, and asks before an existing file.
         ModeNew = 2,  ///< As ModeSave; a tap on a file proposes a name that is still free.
     };
 
@@ -65,8 +65,8 @@ protected:
     /// Ties list and folder button to their controls, and exchanges the name.
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    /// Ends the dialog; in ModeSave and ModeNew only after the user has agreed to overwrite an
-    /// existing file.
+    /// Ends the dialog; in ModeSave and ModeNew only with a name that a file of the folder can
+    /// have, and after the user has agreed to overwrite an existing one.
     void OnOK() override;
 
     /// A tap on a file puts its name into the field; in ModeNew the next name that is free. A tap
@@ -86,6 +86,7 @@ private:
     bool IsWanted(LPCTSTR pszFileName) const;
     void AddFiles();
     void AddFile(int nItem, const WIN32_FIND_DATA& file);
+    bool IsNameUsable();
     bool MayOverwrite();
 
     CnListCtrl m_lstFiles;

@@ -1,6 +1,8 @@
 // Folders as the file dialogs read them: paths, entries, links.
 #pragma once
 
+#include "dialogs/detail/FileName.h"
+
 #include <afx.h>
 
 #include <string>
@@ -65,7 +67,7 @@ public:
             if (!IsOpen() || (!m_bAtFirst && !::FindNextFile(m_hFind, &m_entry)))
                 return false;
             m_bAtFirst = false;
-        } while (IsFolderItselfOrParent());
+        } while (!IsEntryName(Name()));
         return true;
     }
 
@@ -84,11 +86,6 @@ public:
 
 private:
     bool IsOpen() const { return m_hFind != INVALID_HANDLE_VALUE; }
-    /// The desktop lists "." and "..", the device does not.
-    bool IsFolderItselfOrParent() const {
-        const std::wstring_view name = m_entry.cFileName;
-        return name == L"." || name == L"..";
-    }
 
     WIN32_FIND_DATA m_entry = {}; // before the handle, whose initialisation fills it
     HANDLE m_hFind;

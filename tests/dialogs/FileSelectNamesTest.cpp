@@ -162,6 +162,78 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
     }
 }
 
+TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
+    const TestDrive drive;
+    drive.MakeFolder(L"\\data");
+    drive.MakeFile(L"\\secret.csv");
+    constexpr LPCTSTR CHARACTER = L"次の文字";
+    constexpr LPCTSTR ENDING = L"終わり";
+    constexpr LPCTSTR DEVICE = L"装置";
+    struct Row {
+        const wchar_t* typed;
+        const wchar_t* reason; ///< Part of it; null if the name is good.
+    };
+    const Row rows[] = {
+        {L"..\\secret.csv", CHARACTER},
+        {L"../secret.csv", CHARACTER},
+        {L"\\secret.csv", CHARACTER},
+        {L"C:secret.csv", CHARACTER},
+        {L"a.csv:b", CHARACTER},
+        {L"a?b", CHARACTER},
+        {L"a*b", CHARACTER},
+        {L"a<b", CHARACTER},
+        {L"a>b", CHARACTER},
+        {L"a|b", CHARACTER},
+        {L"a\"b", CHARACTER},
+        {L"a\tb", CHARACTER},
+        {L"a.csv ", ENDING},
+        {L"a. .", nullptr}, // becomes "a. .csv"
+        {L"NUL", DEVICE},
+        {L"nul.csv", DEVICE},
+        {L"Con .b.csv", DEVICE},
+        {L"aux", DEVICE},
+        {L"PRN.", DEVICE},
+        {L"com1", DEVICE},
+        {L"COM9.txt", DEVICE},
+        {L"lpt3", DEVICE},
+        {L"COM\u00B2", DEVICE},
+        {L"conin$", DEVICE},
+        {L"CONOUT$.x", DEVICE},
+        {L"COM0", nullptr},
+        {L"COM10", nullptr},
+        {L"NUL1", nullptr},
+        {L"a.nul", nullptr},
+        {L"CONIN", nullptr},
+        {L"ＮＵＬ", nullptr},
+        {L" a.csv", nullptr},
+        {L"a..b", nullptr},
+        {L"LPT\u00BD", nullptr},
+    };
+    int nMode = CFileSelectDlg::ModeNew;
+    for (const Row& row : rows) {
+        nMode = nMode == CFileSelectDlg::ModeNew ? CFileSelectDlg::ModeSave : CFileSelectDlg::ModeNew;
+        CsvDlg dlg(nMode, L"\\data");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, row.typed);
+            fx::TapOk(dlg);
+        });
+        if (row.reason != nullptr) {
+            script.Then([&] {
+                EXPECT_NE(QuestionText().Find(row.reason), -1) << fx::Utf8(row.typed);
+                pen::Tap(*Box().GetDlgItem(IDOK));
+            });
+            script.Then([&] {
+                EXPECT_EQ(::GetFocus(), dlg.GetDlgItem(NAME)->m_hWnd) << "to be typed again";
+                dlg.SetDlgItemText(NAME, L"good");
+                fx::TapOk(dlg);
+            });
+        }
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(row.typed);
+        EXPECT_EQ(dlg.GetFilePath() == L"\\data\\good.csv", row.reason != nullptr);
+    }
+}
+
 TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
     const TestDrive drive;
     drive.MakeFile(L"\\old.csv");

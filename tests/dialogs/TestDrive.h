@@ -73,6 +73,20 @@ public:
                 isThere);
         Check(isThere(), "cannot make so many");
     }
+    /// Empty files whose names this system would not make, as a server may have them. The last one
+    /// is an ordinary name. @return false if no other system is there to make them
+    bool MakeForeignFiles(const CString& strFolder, std::initializer_list<const char*> names) const {
+        if (m_unixLink.empty())
+            return false;
+        std::string command = "cd '" + UnixName(strFolder + L"\\") + "' && touch";
+        for (const char* pszName : names)
+            command += std::string(" '") + pszName + "'";
+        const CString strLast = Long(strFolder + L"\\" + CString(std::data(names)[names.size() - 1]));
+        const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
+        RunUnix(command, isThere);
+        Check(isThere(), "cannot make foreign files");
+        return true;
+    }
     /// A link to a folder. @return false if this user may not make links
     bool MakeLink(const CString& strPath, const CString& strTarget) const {
         if (m_unixLink.empty())
