@@ -13,7 +13,7 @@ std::optional<long long> StoredSetting(int nId) {
     DWORD size = sizeof value;
     const LSTATUS status = ::RegGetValueW(HKEY_CURRENT_USER, kSettingsKey, std::to_wstring(nId).c_str(),
                                           RRF_RT_REG_DWORD, nullptr, &value, &size);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS || size != sizeof value)
         return std::nullopt;
     return value;
 }

@@ -2,7 +2,7 @@
 
 #include "Tesuvo.h"
 
-#include <string>
+#include <vector>
 
 namespace {
 
@@ -56,12 +56,30 @@ TEST_F(Settings, DecimalsComeFromTheStoreWithinTheirRange) {
 
 TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
     EXPECT_EQ(TVGetCommonRegInt(1280), 2);
-    const wchar_t text[] = L"4";
-    ::RegSetValueExW(m_key, kDecimals, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), sizeof text);
-    EXPECT_EQ(TVGetCommonRegInt(1280), 2);
-    const ULONGLONG wide = 4;
-    ::RegSetValueExW(m_key, kDecimals, 0, REG_QWORD, reinterpret_cast<const BYTE*>(&wide), sizeof wide);
-    EXPECT_EQ(TVGetCommonRegInt(1280), 2);
+    struct Row {
+        DWORD type;
+        std::vector<BYTE> stored;
+    };
+    const Row rows[] = {
+        {REG_SZ, {'4', 0, 0, 0}},
+        {REG_EXPAND_SZ, {'4', 0, 0, 0}},
+        {REG_MULTI_SZ, {'4', 0, 0, 0, 0, 0}},
+        {REG_BINARY, {4, 0, 0, 0}},
+        {REG_NONE, {4, 0, 0, 0}},
+        {REG_DWORD_BIG_ENDIAN, {4, 0, 0, 0}},
+        {REG_QWORD, {4, 0, 0, 0, 0, 0, 0, 0}},
+        {REG_DWORD, {}}, // damaged: of another size than a number has
+        {REG_DWORD, {4}},
+        {REG_DWORD, {4, 0, 0}},
+        {REG_DWORD, {4, 0, 0, 0, 0, 0, 0, 0}},
+        {REG_BINARY, std::vector<BYTE>(100000, 4)},
+    };
+    for (const Row& row : rows) {
+        ASSERT_EQ(::RegSetValueExW(m_key, kDecimals, 0, row.type, row.stored.data(),
+                                   static_cast<DWORD>(row.stored.size())),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(TVGetCommonRegInt(1280), 2) << row.type << ' ' << row.stored.size();
+    }
 }
 
 TEST_F(Settings, UnknownOnesAreZeroWhateverIsStored) {
