@@ -113,4 +113,57 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     EXPECT_EQ(child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)), 0);
 }
 
+/// The folder that the program was started in, with a library of the shell's name in it.
+class PlantedFolder {
+public:
+    PlantedFolder() {
+        wchar_t szPath[MAX_PATH];
+        ::GetTempPath(MAX_PATH, szPath);
+        m_strFolder.Format(L"%sfk-planted%u", szPath, ::GetCurrentProcessId());
+        ::CreateDirectory(m_strFolder, nullptr);
+        ::GetModuleFileName(nullptr, szPath, MAX_PATH);
+        EXPECT_TRUE(::CopyFile(szPath, Library(), FALSE)); // any module will do
+    }
+    ~PlantedFolder() {
+        ::DeleteFile(Library());
+        ::RemoveDirectory(m_strFolder);
+    }
+    PlantedFolder(const PlantedFolder&) = delete;
+    PlantedFolder& operator=(const PlantedFolder&) = delete;
+
+    CString m_strFolder;
+
+private:
+    CString Library() const { return m_strFolder + L"\\aygshell.dll"; }
+};
+
+constexpr LPCTSTR IN_PLANTED_FOLDER = L"FK_TEST_IN_PLANTED_FOLDER";
+
+TEST(ShellLibrary, OneThatLiesInTheCurrentFolderIsNotLoaded) {
+    if (::GetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr, 0) != 0) {
+        SHDoneButton(nullptr, SHDB_HIDE);
+        ASSERT_EQ(::GetModuleHandle(L"aygshell.dll"), nullptr);
+        return;
+    }
+    // A library is looked for once, and another test may have asked: so a process of its own.
+    const PlantedFolder planted;
+    wchar_t szCommand[] = L"test --gtest_filter=ShellLibrary.*";
+    wchar_t szProgram[MAX_PATH];
+    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+    ::SetEnvironmentVariable(IN_PLANTED_FOLDER, L"1");
+    STARTUPINFO startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    const BOOL bStarted = ::CreateProcess(szProgram, szCommand, nullptr, nullptr, FALSE, 0, nullptr,
+                                          planted.m_strFolder, &startup, &process);
+    ::SetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr);
+    ASSERT_TRUE(bStarted);
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD nExitCode = 1;
+    ::GetExitCodeProcess(process.hProcess, &nExitCode);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    EXPECT_EQ(nExitCode, 0U);
+}
+
 } // namespace
