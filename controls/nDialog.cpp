@@ -31,6 +31,7 @@ BEGIN_MESSAGE_MAP(CnDialog, CDialog)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
+    ON_WM_ENABLE()
     ON_WM_WININICHANGE()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
@@ -122,9 +123,9 @@ HBRUSH CnDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
 
 void CnDialog::OnLButtonDown(UINT nFlags, CPoint point) {
     if (Has(OptionDrag)) {
-        TakeFrame();
+        HideFrame();
         GetWindowRect(m_rcDrag);
-        DrawFrame(m_rcDrag, nullptr);
+        ShowFrame(m_rcDrag);
         m_ptPress = point;
         SetCapture();
     }
@@ -134,19 +135,31 @@ void CnDialog::OnLButtonDown(UINT nFlags, CPoint point) {
         Default();
 }
 
-/// Erases the drag frame from the screen. @return where it was; empty if there was none
-CRect CnDialog::TakeFrame() {
-    const CRect frame = std::exchange(m_rcDrag, CRect());
-    if (!frame.IsRectEmpty())
-        DrawFrame(frame, nullptr);
-    return frame;
+/// Draws the frame at its new place and, in the same call, erases it at the old one.
+void CnDialog::ShowFrame(const CRect& frame) {
+    DrawFrame(frame, m_bFrameShown ? &m_rcDrag : nullptr);
+    m_rcDrag = frame;
+    m_bFrameShown = true;
+}
+
+void CnDialog::HideFrame() {
+    if (std::exchange(m_bFrameShown, false))
+        DrawFrame(m_rcDrag, nullptr);
+}
+
+/// Something has come in between, as a dialog that opens: what the pen does before its next
+/// press here belongs to that.
+void CnDialog::AbandonDrag() {
+    HideFrame();
+    m_rcDrag.SetRectEmpty();
+    m_ptPress.reset();
 }
 
 /// Where the frame goes for a pen at `point` (client coordinates), kept in reach.
 CRect CnDialog::DragCandidate(CPoint point) const {
     CRect frame;
     GetWindowRect(frame);
-    frame.OffsetRect(point - m_ptPress);
+    frame.OffsetRect(point - *m_ptPress);
     if (frame.top < SCREEN_TOP)
         frame.OffsetRect(0, SCREEN_TOP - frame.top);
     else if (frame.bottom > SCREEN_BOTTOM)
@@ -161,19 +174,19 @@ CRect CnDialog::DragCandidate(CPoint point) const {
 }
 
 void CnDialog::OnMouseMove(UINT, CPoint point) {
-    if (Has(OptionDrag) && !m_rcDrag.IsRectEmpty()) {
+    if (Has(OptionDrag) && m_ptPress) {
         const CRect candidate = DragCandidate(point);
-        if (!candidate.EqualRect(m_rcDrag)) {
-            DrawFrame(candidate, &m_rcDrag);
-            m_rcDrag = candidate;
-        }
+        if (!candidate.EqualRect(m_rcDrag))
+            ShowFrame(candidate);
     }
     Default();
 }
 
 void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
-    // There is no frame when the pen came down elsewhere: on a child dialog that has closed.
-    if (CRect place = TakeFrame(); !place.IsRectEmpty()) {
+    // An empty frame is none: the pen came down elsewhere, on a dialog that has closed.
+    if (Has(OptionDrag) && !m_rcDrag.IsRectEmpty()) {
+        HideFrame();
+        CRect place = m_rcDrag;
         // A child stands in its parent's coordinates. For a popup GetParent gives the owner,
         // whose coordinates are not the popup's.
         if (CWnd* pParent = GetParent(); pParent != nullptr && (GetStyle() & WS_CHILD))
@@ -185,11 +198,16 @@ void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
     CDialog::OnLButtonUp(nFlags, point);
 }
 
-/// Something has come in between, as a dialog that opens: the lift will not be seen.
 void CnDialog::OnCaptureChanged(CWnd* pWnd) {
-    if (pWnd != this)
-        TakeFrame();
+    if (m_bFrameShown && pWnd != this)
+        AbandonDrag();
     CDialog::OnCaptureChanged(pWnd);
+}
+
+void CnDialog::OnEnable(BOOL bEnable) {
+    if (!bEnable)
+        AbandonDrag();
+    CDialog::OnEnable(bEnable);
 }
 
 void CnDialog::OnWinIniChange(LPCTSTR lpszSection) {

@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
 #include "geometry/Export.h"
 
 /// A dialog that follows one word of options: full screen or popup, OK button in the title
@@ -55,8 +57,12 @@ protected:
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     /// A lift ends dragging: the dialog goes where the frame is.
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    /// A press that goes to another window ends dragging; the dialog stays where it is.
+    /// A capture that is lost, or a dialog that opens above, ends dragging; this dialog stays
+    /// where it is.
+    ///@{
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnEnable(BOOL bEnable);
+    ///@}
     /// A change of the system's settings; here the framework's processing, which makes room for the
     /// soft input panel.
     afx_msg void OnWinIniChange(LPCTSTR lpszSection);
@@ -69,7 +75,9 @@ private:
     bool Has(Option option) const { return (m_dwOption & option) != 0; }
     void InitFullScreen();
     CRect DragCandidate(CPoint point) const;
-    CRect TakeFrame();
+    void ShowFrame(const CRect& frame);
+    void HideFrame();
+    void AbandonDrag();
 
     DWORD m_dwOption = 0;
 
@@ -77,8 +85,9 @@ protected:
     CString m_str; ///< For derived classes; not used here.
 
 private:
-    CPoint m_ptPress;
-    CRect m_rcDrag;      ///< The drag frame on the screen; empty while there is none.
+    std::optional<CPoint> m_ptPress = CPoint(); ///< None after an abandoned drag.
+    CRect m_rcDrag;                             ///< The drag frame last drawn, on the screen.
+    bool m_bFrameShown = false;
     COLORREF m_crBk = 0; ///< Meaningful with OptionBackgroundColor only.
     CBrush m_brBk;
 };
