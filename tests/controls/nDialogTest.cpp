@@ -283,8 +283,7 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
         });
         script.Then([&] { pen::Move(press + CSize(-55, 50)); });
         script.Then([&] {
-            if (row.moved == CSize())
-                EXPECT_TRUE(EdgeIsBlank()) << row.what;
+            EXPECT_TRUE(EdgeIsBlank() || row.moved != CSize()) << row.what;
             pen::Up(press + CSize(-40, 60));
         });
         script.Then([&] {
