@@ -147,6 +147,7 @@ BOOL CFileSelectDlg::OnInitDialog() {
     ShowFolder();
     const RedrawPause pause(m_lstFiles);
     InitColumns();
+    ChooseListFont();
     m_lstFiles.SetExtendedStyle(m_lstFiles.GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     ShowSubName();
     AddFiles();
@@ -216,6 +217,34 @@ void CFileSelectDlg::InitColumns() {
     for (int nColumn = ColumnName; nColumn <= ColumnSize; ++nColumn)
         m_lstFiles.InsertColumn(nColumn, LoadText(HEADINGS[nColumn].nText), LVCFMT_LEFT,
                                 HEADINGS[nColumn].nWidth, nColumn);
+}
+
+/// In a wide font the end of the time would be cut off. The list then gets the widest form of the
+/// dialog's font in which any time fits its column; the height stays, so that it can be read.
+void CFileSelectDlg::ChooseListFont() {
+    constexpr LPCTSTR WIDEST_TIME = L"2000/00/00 00:00";
+    constexpr int CELL_MARGINS = 12;
+    const int nRoom = m_lstFiles.GetColumnWidth(ColumnTime) - CELL_MARGINS;
+    CFont* const pDialogFont = GetFont();
+    LOGFONT look = {};
+    if (pDialogFont == nullptr || !pDialogFont->GetLogFont(&look))
+        return;
+    CClientDC dc(&m_lstFiles);
+    CFont* const pOldFont = dc.SelectObject(pDialogFont);
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    look.lfWidth = metrics.tmAveCharWidth;
+    m_lstFiles.SetFont(pDialogFont, FALSE);
+    m_fontList.DeleteObject(); // of another run
+    while (dc.GetTextExtent(WIDEST_TIME).cx > nRoom && --look.lfWidth > 0) {
+        dc.SelectObject(pDialogFont);
+        m_fontList.DeleteObject();
+        m_fontList.CreateFontIndirect(&look);
+        dc.SelectObject(&m_fontList);
+    }
+    dc.SelectObject(pOldFont);
+    if (m_fontList.GetSafeHandle() != nullptr)
+        m_lstFiles.SetFont(&m_fontList);
 }
 
 void CFileSelectDlg::SetCurrentFileToList() {

@@ -79,6 +79,7 @@ protected:
 
 private:
     void InitColumns();
+    void ChooseListFont();
     void ShowTitle();
     void ShowFolder();
     void ProposeName();
@@ -89,6 +90,7 @@ private:
     bool IsNameUsable();
     bool MayOverwrite();
 
+    CFont m_fontList; ///< Before the list, which uses it.
     CnListCtrl m_lstFiles;
     CIconButton m_btnFile;
     CString m_strCurrentName;

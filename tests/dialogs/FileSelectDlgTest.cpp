@@ -209,4 +209,20 @@ TEST(FileSelectDlg, TwoHundredOpensLeaveNothing) {
     });
 }
 
+TEST(FileSelectDlg, AnyTimeFitsItsColumnInTheHeightOfTheDialogsText) {
+    const TestDrive drive;
+    CsvDlg dlg;
+    for (int nRun = 0; nRun < 2; ++nRun)
+        WhileOpen(dlg, [&] {
+            constexpr int CELL_MARGINS = 12;
+            EXPECT_EQ(List(dlg).GetColumnWidth(1), 119);
+            EXPECT_LE(List(dlg).GetStringWidth(L"2026/12/28 23:58") + CELL_MARGINS, 119);
+            LOGFONT list = {};
+            LOGFONT dialog = {};
+            List(dlg).GetFont()->GetLogFont(&list);
+            dlg.GetFont()->GetLogFont(&dialog);
+            EXPECT_EQ(list.lfHeight, dialog.lfHeight);
+        });
+}
+
 } // namespace
