@@ -169,6 +169,8 @@ void CFileSelectDlg::ShowSubName() {
 }
 
 void CFileSelectDlg::OnOK() {
+    if (!IsWindowEnabled())
+        return; // an OK that came twice, while the first one's question is open
     if ((m_nMode == ModeSave || m_nMode == ModeNew) && !(IsNameUsable() && MayOverwrite()))
         return;
     CnDialog::OnOK();

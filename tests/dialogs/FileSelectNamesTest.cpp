@@ -162,6 +162,24 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
     }
 }
 
+TEST(FileSelectNames, OkThatComesTwiceAsksOnce) {
+    const TestDrive drive;
+    drive.MakeFile(L"\\old.csv");
+    CsvDlg dlg(CFileSelectDlg::ModeSave, L"\\");
+    fx::ModalScript script;
+    script.Then([&] {
+        dlg.SetDlgItemText(NAME, L"old");
+        dlg.PostMessage(WM_COMMAND, IDOK);
+        dlg.PostMessage(WM_COMMAND, IDOK);
+    });
+    script.Then([&] { pen::Tap(*Box().GetDlgItem(IDNO)); });
+    script.Then([&] {
+        EXPECT_EQ(CWnd::GetActiveWindow(), &dlg) << "no other question";
+        ::PostMessage(CWnd::GetActiveWindow()->m_hWnd, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
+}
+
 TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
     const TestDrive drive;
     drive.MakeFolder(L"\\data");
