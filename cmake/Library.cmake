@@ -1,7 +1,7 @@
 # The library itself: Fieldkit.dll or a static library on Windows; natively a static
 # library of the folders that need no window system.
-set(_portable geometry survey)
-set(_windows util controls dialogs)
+set(_portable geometry survey util)
+set(_windows controls dialogs)
 
 set(_sources "")
 foreach(_folder IN LISTS _portable)
@@ -25,7 +25,9 @@ if(WIN32)
   fieldkit_add_resources(fieldkit Fieldkit fieldkit_resources)
   target_compile_definitions(fieldkit PRIVATE FIELDKIT_EXPORTS)
 else()
-  list(FILTER _sources EXCLUDE REGEX "/survey/AngleEdit\\.cpp$") # a control
+  list(FILTER _sources EXCLUDE REGEX "/(AngleEdit|StringStackCombo)\\.cpp$") # they use controls
+  file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/util/host/*.cpp)
+  list(APPEND _sources ${_found})
   add_library(fieldkit STATIC ${_sources})
 endif()
 add_library(Fieldkit::fieldkit ALIAS fieldkit)

@@ -1,7 +1,5 @@
 #include "Tesuvo.h"
 
-#include "PathParts.h"
-
 #include <string>
 #include <string_view>
 
@@ -41,11 +39,6 @@ std::wstring LongForm(const std::wstring& full) {
     return L"\\\\?\\" + full;
 }
 
-void Assign(CString* pTarget, std::wstring_view text) {
-    if (pTarget != nullptr)
-        *pTarget = CString(text.data(), static_cast<int>(text.size()));
-}
-
 } // namespace
 
 BOOL TVCheckFileExist(LPCTSTR pszPath) {
@@ -57,13 +50,4 @@ BOOL TVCheckFileExist(LPCTSTR pszPath) {
     const CQuietDrives quiet;
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-void TVResolveFilePath(LPCTSTR pszPath, CString* pFolder, CString* pName, CString* pExtension) {
-    // The path may be the text of one of the results: copy it before they are written.
-    const std::wstring path = pszPath != nullptr ? pszPath : L"";
-    const PathParts parts = SplitPath(path);
-    Assign(pFolder, parts.folder);
-    Assign(pName, parts.name);
-    Assign(pExtension, parts.extension);
 }

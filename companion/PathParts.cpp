@@ -1,5 +1,9 @@
 #include "PathParts.h"
 
+#include "Tesuvo.h"
+
+#include <string>
+
 namespace {
 
 using View = std::wstring_view;
@@ -44,6 +48,11 @@ View WithoutTrailingDots(View name) {
     return last == View::npos ? name : name.substr(0, last + 1);
 }
 
+void Assign(CString* pTarget, std::wstring_view text) {
+    if (pTarget != nullptr)
+        *pTarget = CString(text.data(), static_cast<int>(text.size()));
+}
+
 } // namespace
 
 PathParts SplitPath(View path) {
@@ -65,4 +74,13 @@ PathParts SplitPath(View path) {
         parts.name = parts.name.substr(0, dot);
     }
     return parts;
+}
+
+void TVResolveFilePath(LPCTSTR pszPath, CString* pFolder, CString* pName, CString* pExtension) {
+    // The path may be the text of one of the results: copy it before they are written.
+    const std::wstring path = pszPath != nullptr ? pszPath : L"";
+    const PathParts parts = SplitPath(path);
+    Assign(pFolder, parts.folder);
+    Assign(pName, parts.name);
+    Assign(pExtension, parts.extension);
 }

@@ -2,29 +2,21 @@
 /// The device's companion library: soft input panel, shared settings and icons,
 /// and a few helpers for numbers and file names.
 ///
-/// Natively (no window system) only TVGetCommonRegInt() is available.
+/// Natively (no window system) the settings, the numbers and the names are available.
 #pragma once
 
 /// @def TESUVO_API
 /// Marks a function of the library: an undecorated C name, exported while Tesuvo.dll itself is
 /// built and imported by everybody else.
 
-#ifdef _WIN32
-
 #include <afx.h>
 
-#if defined(FIELDKIT_STATIC)
+#if defined(FIELDKIT_STATIC) || !defined(_WIN32)
 #define TESUVO_API extern "C"
 #elif defined(TESUVO_EXPORTS)
 #define TESUVO_API extern "C" __declspec(dllexport)
 #else
 #define TESUVO_API extern "C" __declspec(dllimport)
-#endif
-
-#else
-
-#define TESUVO_API extern "C"
-
 #endif
 
 /// Reads an integer of the settings that all applications of the device share.
@@ -41,6 +33,41 @@
 /// @return the stored value; the default if it is absent, of another type or out
 ///         of its range; 0 for an unknown setting
 TESUVO_API int TVGetCommonRegInt(int nId);
+
+/// Reads a decimal number, in the same way whatever the user's locale is.
+///
+/// Blanks around it, one sign, digits with an optional point, commas between
+/// complete groups of three digits, and an exponent are accepted, in half width
+/// and in full width. The result is the double nearest to the text. A number
+/// too large for a double, or too close to zero for any but zero, is refused.
+///
+/// @param pText   the text
+/// @param pValue  receives the number; written on success only
+/// @return TRUE on success; FALSE if the whole text is not a number or an
+///         argument is null
+TESUVO_API BOOL TVString2Double(const CString* pText, double* pValue);
+
+/// Replaces a name by the next numbered one: the digits (0 to 9) at its end are
+/// counted up by one and keep their leading zeros, so P009 becomes P010 and P999
+/// becomes P1000. A name without a number at its end gets a 1: P becomes P1.
+///
+/// The number may have any length.
+///
+/// @param strName  the name, without folder and extension; replaced
+TESUVO_API void TVIncrementName(CString& strName);
+
+/// Splits a path into its parts, as text: the file system is not asked.
+///
+/// Both kinds of slash separate. The folder comes without a slash at its end, unless
+/// it is the root of a drive. The extension comes without its dot. Dots at the end
+/// are left out, since the file system ignores them; dots at the beginning belong
+/// to the name.
+///
+/// @param pszPath     the path; null counts as empty
+/// @param pFolder     receives drive and folder, may be null
+/// @param pName       receives the name without extension, may be null
+/// @param pExtension  receives the extension, may be null
+TESUVO_API void TVResolveFilePath(LPCTSTR pszPath, CString* pFolder, CString* pName, CString* pExtension);
 
 #ifdef _WIN32
 
@@ -64,19 +91,6 @@ TESUVO_API void TVShowSIP(int nMode);
 /// TVShowSIP() follows before, as on the way from field to field, it stays.
 TESUVO_API void TVCloseSIP();
 
-/// Reads a decimal number, in the same way whatever the user's locale is.
-///
-/// Blanks around it, one sign, digits with an optional point, commas between
-/// complete groups of three digits, and an exponent are accepted, in half width
-/// and in full width. The result is the double nearest to the text. A number
-/// too large for a double, or too close to zero for any but zero, is refused.
-///
-/// @param pText   the text
-/// @param pValue  receives the number; written on success only
-/// @return TRUE on success; FALSE if the whole text is not a number or an
-///         argument is null
-TESUVO_API BOOL TVString2Double(const CString* pText, double* pValue);
-
 /// The device's shared icon of the given number, 16 x 16 pixels.
 ///
 /// 2 folder button, 4 up, 5 down, 26 menu entry, 31 folder, 32 folder on a storage
@@ -92,27 +106,5 @@ TESUVO_API HICON TVGetCommonIcon(int nIndex);
 ///
 /// @param pszPath  the path; null and malformed ones give FALSE
 TESUVO_API BOOL TVCheckFileExist(LPCTSTR pszPath);
-
-/// Replaces a name by the next numbered one: the digits (0 to 9) at its end are
-/// counted up by one and keep their leading zeros, so P009 becomes P010 and P999
-/// becomes P1000. A name without a number at its end gets a 1: P becomes P1.
-///
-/// The number may have any length.
-///
-/// @param strName  the name, without folder and extension; replaced
-TESUVO_API void TVIncrementName(CString& strName);
-
-/// Splits a path into its parts, as text: the file system is not asked.
-///
-/// Both kinds of slash separate. The folder comes without a slash at its end, unless
-/// it is the root of a drive. The extension comes without its dot. Dots at the end
-/// are left out, since the file system ignores them; dots at the beginning belong
-/// to the name.
-///
-/// @param pszPath     the path; null counts as empty
-/// @param pFolder     receives drive and folder, may be null
-/// @param pName       receives the name without extension, may be null
-/// @param pExtension  receives the extension, may be null
-TESUVO_API void TVResolveFilePath(LPCTSTR pszPath, CString* pFolder, CString* pName, CString* pExtension);
 
 #endif

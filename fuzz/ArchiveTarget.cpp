@@ -1,6 +1,9 @@
 // Texts, lists, arrays, maps and objects that refer to each other, loaded from any bytes.
 #include "Targets.h"
 
+#include <afxcoll.h>
+#include <afxtempl.h>
+
 #include <set>
 #include <vector>
 

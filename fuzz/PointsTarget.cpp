@@ -1,30 +1,16 @@
 // The line reader with what the sample application makes of its lines: points, names, angles.
+#include "GivenFile.h"
 #include "Targets.h"
 
 #include "LineReader.h"
 #include "PackedAngle.h"
 #include "PointBook.h"
 #include "PointLine.h"
+#include "Tesuvo.h"
 
 #include <cmath>
 
 namespace {
-
-/// A file whose content is given.
-class CGivenFile : public CAsciiFile {
-public:
-    CGivenFile(const std::uint8_t* pData, std::size_t nSize) {
-        m_content.Write(pData, static_cast<UINT>(nSize));
-        m_content.SeekToBegin();
-    }
-    ULONGLONG GetPosition() const override { return m_content.GetPosition(); }
-    ULONGLONG GetLength() const override { return m_content.GetLength(); }
-    ULONGLONG Seek(LONGLONG nOffset, UINT nFrom) override { return m_content.Seek(nOffset, nFrom); }
-    UINT Read(void* pBuffer, UINT nCount) override { return m_content.Read(pBuffer, nCount); }
-
-private:
-    CMemFile m_content;
-};
 
 void CheckLine(const CString& strLine) {
     constexpr int kLongest = 511;

@@ -39,5 +39,14 @@ TEST(Seeds, OfPointsFilesAreRead) {
 TEST(Seeds, OfFileNamesAreRead) {
     FeedAll("Path", FuzzPath);
 }
+TEST(Seeds, OfTextLinesAreRead) {
+    FeedAll("Lines", FuzzLines);
+}
+TEST(Seeds, OfNumbersAreRead) {
+    FeedAll("Number", FuzzNumber);
+}
+TEST(Seeds, OfConversionsAreFormatted) {
+    FeedAll("Format", FuzzFormat);
+}
 
 } // namespace

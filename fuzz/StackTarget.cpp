@@ -7,11 +7,12 @@
 
 namespace {
 
-std::vector<CString> TextsOf(CStringStack& stack) {
-    CComboBox combo;
-    stack.SetupList(&combo);
-    return combo.GetItems();
-}
+struct Content {
+    std::vector<CString> texts;
+    int nMode = 0;
+    int nCapacity = 0;
+    bool operator==(const Content&) const = default;
+};
 
 bool Load(CFile& file, CStringStack& stack) {
     file.SeekToBegin();
@@ -25,14 +26,31 @@ bool Load(CFile& file, CStringStack& stack) {
     }
 }
 
-void CheckStoring(CStringStack& stack) {
+/// What a stack holds, read from its archive without its help.
+Content Stored(CStringStack& stack, CMemFile& file) {
+    CArchive storing(&file, CArchive::store);
+    stack.Serialize(storing);
+    storing.Close();
+    file.SeekToBegin();
+    CArchive ar(&file, CArchive::load);
+    int nCount = 0;
+    ar >> nCount;
+    Content content;
+    content.texts.resize(static_cast<std::size_t>(nCount));
+    for (CString& strText : content.texts)
+        ar >> strText;
+    ar >> content.nMode >> content.nCapacity;
+    return content;
+}
+
+Content CheckStoring(CStringStack& stack) {
     CMemFile file;
-    CArchive ar(&file, CArchive::store);
-    stack.Serialize(ar);
-    ar.Close();
+    CMemFile fileAgain;
+    const Content content = Stored(stack, file);
     CStringStack again;
     Promise(Load(file, again), "what a stack stores can be loaded");
-    Promise(TextsOf(again) == TextsOf(stack), "the texts are the same after that");
+    Promise(Stored(again, fileAgain) == content, "it is the same after that");
+    return content;
 }
 
 } // namespace
@@ -42,13 +60,12 @@ void FuzzStack(const std::uint8_t* pData, std::size_t nSize) {
     file.Write(pData, static_cast<UINT>(nSize));
     CStringStack stack;
     Load(file, stack);
-    CheckStoring(stack); // also of what a damaged file left
+    const Content before = CheckStoring(stack); // also of what a damaged file left
 
-    const std::size_t nBefore = TextsOf(stack).size();
     stack.Add(L"P12", 1);
     stack.Add(L"P13", 0);
-    const std::vector<CString> texts = TextsOf(stack);
-    Promise(!texts.empty() && texts.front() == L"P13", "the latest text comes first");
-    Promise(texts.size() <= nBefore + 2, "no text comes by itself");
-    CheckStoring(stack);
+    const Content after = CheckStoring(stack);
+    Promise(!after.texts.empty() && after.texts.front() == L"P13", "the latest text comes first");
+    Promise(after.texts.size() <= before.texts.size() + 2, "no text comes by itself");
+    Promise(after.nMode == before.nMode && after.nCapacity == before.nCapacity, "adding changes texts only");
 }

@@ -12,6 +12,9 @@ void FuzzArchive(const std::uint8_t* pData, std::size_t nSize);
 void FuzzStack(const std::uint8_t* pData, std::size_t nSize);
 void FuzzPoints(const std::uint8_t* pData, std::size_t nSize);
 void FuzzPath(const std::uint8_t* pData, std::size_t nSize);
+void FuzzLines(const std::uint8_t* pData, std::size_t nSize);
+void FuzzNumber(const std::uint8_t* pData, std::size_t nSize);
+void FuzzFormat(const std::uint8_t* pData, std::size_t nSize);
 
 inline void Promise(bool bKept, const char* pszWhat) {
     if (bKept)

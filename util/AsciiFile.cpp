@@ -1,5 +1,7 @@
 #include "util/AsciiFile.h"
 
+#include "util/detail/CodePage.h"
+
 #include <cstring>
 #include <memory>
 
@@ -50,6 +52,7 @@ void CAsciiFile::AsciiToString(const unsigned char* pszAscii, int nLen, CString&
         str.Empty();
         return;
     }
+    buffer[static_cast<size_t>(n - 1)] = L'\0'; // whatever the system has put there
     str = buffer.get();
 }
 

@@ -48,26 +48,22 @@ POSITION CStringStack::FindKey(const CString& strKey) {
 void CStringStack::Add(const wchar_t* psz, int bTail) {
     if (psz[0] == L'\0')
         return;
-    if (const POSITION posSame = FindKey(KeyOf(psz)); posSame != nullptr) {
-        if (bTail != 0)
-            return;
+    const POSITION posSame = FindKey(KeyOf(psz));
+    if (posSame != nullptr && bTail != 0)
+        return;
+    // First of all, so that want of memory costs no other text.
+    const POSITION posNew = bTail != 0 ? m_list.AddTail(psz) : m_list.AddHead(psz);
+    if (posSame != nullptr)
         m_list.RemoveAt(posSame);
-    }
-    if (m_list.GetCount() >= m_nMax && !m_list.IsEmpty())
-        m_list.RemoveTail();
-    if (bTail != 0)
-        m_list.AddTail(psz);
-    else
-        m_list.AddHead(psz);
+    if (const INT_PTR nOthers = m_list.GetCount() - 1; nOthers > 0 && nOthers >= m_nMax)
+        RemoveLastBut(posNew);
 }
 
-void CStringStack::SetupList(CComboBox* pCombo) {
-    CString strText;
-    pCombo->GetWindowText(strText);
-    pCombo->ResetContent();
-    for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;)
-        pCombo->AddString(m_list.GetNext(pos));
-    pCombo->SetWindowText(strText);
+void CStringStack::RemoveLastBut(POSITION posNew) {
+    POSITION posLast = m_list.GetTailPosition();
+    if (posLast == posNew)
+        m_list.GetPrev(posLast);
+    m_list.RemoveAt(posLast);
 }
 
 // --- Archive ---------------------------------------------------------------------------------

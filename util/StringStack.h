@@ -2,9 +2,11 @@
 /// CStringStack: what the user has entered lately, for the list of a combo box.
 #pragma once
 
-#include <afxwin.h>
+#include <afxcoll.h>
 
 #include "geometry/Export.h"
+
+class CComboBox;
 
 /// A bounded list of texts, the most recent one first, that can be kept in an archive.
 ///
@@ -30,7 +32,7 @@ public:
     CStringStack(int nMode = ModeWhole, int nMax = DEFAULT_CAPACITY);
     ~CStringStack() override;
 
-    /// Records an entry. A full list loses its last text for it.
+    /// Records an entry. A full list loses its last text for it. Want of memory changes nothing.
     /// @param psz   the text, not null; an empty one is not recorded
     /// @param bTail 0: the text becomes the first one and replaces the one with the same key.
     ///              Else it becomes the last one, unless its key is there already.
@@ -59,6 +61,7 @@ private:
 
     CString KeyOf(const wchar_t* psz);
     POSITION FindKey(const CString& strKey);
+    void RemoveLastBut(POSITION posNew);
     void Store(CArchive& ar) const;
     void Load(CArchive& ar);
 

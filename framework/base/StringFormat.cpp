@@ -1,4 +1,4 @@
-#include "../afxstr.h"
+#include "../afx.h"
 #include "TextConvert.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 // character that it does not know.
 namespace {
 
-enum class Size { normal, narrow, wide, longlong, pointer, longdouble };
+enum class Size { normal, narrow, byte, wide, longlong, pointer, longdouble };
 
 struct Conversion {
     std::string flags;
@@ -51,7 +51,7 @@ Size ReadSize(LPCTSTR& p) {
     };
     constexpr Prefix kPrefixes[] = {
         {L"I64", Size::longlong}, {L"I32", Size::normal}, {L"I", Size::pointer},  {L"ll", Size::longlong},
-        {L"l", Size::wide},       {L"w", Size::wide},     {L"hh", Size::narrow},  {L"h", Size::narrow},
+        {L"l", Size::wide},       {L"w", Size::wide},     {L"hh", Size::byte},    {L"h", Size::narrow},
         {L"z", Size::pointer},    {L"t", Size::pointer},  {L"j", Size::longlong}, {L"L", Size::longdouble}};
     for (const Prefix& prefix : kPrefixes) {
         if (std::wcsncmp(p, prefix.text.data(), prefix.text.size()) == 0) {
@@ -100,7 +100,7 @@ void AppendNumber(std::wstring& out, const Conversion& conversion, const char* l
     const int needed =
         std::snprintf(nullptr, 0, format.c_str(), conversion.width, conversion.precision, value);
     if (needed < 0)
-        return;
+        AfxThrowMemoryException(); // long fields make the C library ask for some
     std::string digits(static_cast<std::size_t>(needed) + 1, '\0');
     std::snprintf(digits.data(), digits.size(), format.c_str(), conversion.width, conversion.precision,
                   value);
@@ -117,6 +117,8 @@ void AppendInteger(std::wstring& out, const Conversion& conversion, Arguments& a
         return AppendNumber(out, conversion, "t", va_arg(args.list, std::ptrdiff_t));
     case Size::narrow:
         return AppendNumber(out, conversion, "h", va_arg(args.list, int));
+    case Size::byte:
+        return AppendNumber(out, conversion, "hh", va_arg(args.list, int));
     default:
         return AppendNumber(out, conversion, "", va_arg(args.list, int));
     }
@@ -137,7 +139,7 @@ void AppendPointer(std::wstring& out, Conversion conversion, Arguments& args) {
 
 // Upper case swaps the meaning of the plain letter; an explicit size has the last word.
 bool IsNarrowText(const Conversion& conversion) {
-    if (conversion.size == Size::narrow)
+    if (conversion.size == Size::narrow || conversion.size == Size::byte)
         return true;
     return conversion.size == Size::normal && (conversion.type == L'S' || conversion.type == L'C');
 }

@@ -1,8 +1,8 @@
-#include "afxwin.h"
+#include "util/detail/CodePage.h"
 
 namespace {
 
-/// Only whole texts that end with null are converted, as their users do.
+/// Up to the null that ends the text.
 template <class Source, class Target, class Convert>
 int ConvertText(const Source* pszSource, Target* pszTarget, int nTarget, Convert convert) {
     for (int i = 0; i < nTarget; ++i) {
