@@ -9,6 +9,8 @@ class CFileException;
 
 /// A binary file of the system, unbuffered. Failures throw CFileException* unless the
 /// function says otherwise. On a file that is not open, operations throw invalidFile.
+/// After a failed Read or Write the file stays open, its position behind the bytes that were
+/// transferred.
 class AFX_CORE CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
 public:
@@ -58,7 +60,10 @@ public:
     virtual CString GetFilePath() const { return m_strFileName; }
     /// Changes only what GetFilePath says.
     virtual void SetFilePath(LPCTSTR lpszNewName) { m_strFileName = lpszNewName; }
-    /// Opens a file; one that is open already is closed first.
+    /// Opens a file; one that is open already is closed first. Only what keeps its bytes on disk
+    /// is a file: folders are refused (accessDenied), devices, consoles and pipes too (badPath),
+    /// for reading as well, where they would let the caller wait. A handle of one that the
+    /// caller has opened can be used, see CFile(HANDLE).
     /// @param pError receives cause, system error and name of a failure; throws nothing.
     /// @return zero on failure.
     virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr);
@@ -73,7 +78,8 @@ public:
     virtual ULONGLONG GetLength() const;
     /// @return the bytes read: fewer than `nCount` only at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
-    /// Writes all of it, or throws (diskFull if the system took less).
+    /// Writes all of it, or throws: diskFull if there is no room or quota, hardIO for a device
+    /// that fails or was pulled out.
     virtual void Write(const void* lpBuf, UINT nCount);
     /// Locks a range of bytes against other users of the file, or releases one; for a locked range
     /// of others lockViolation is thrown.
@@ -85,7 +91,8 @@ public:
     virtual void Abort();
     /// Hands everything to the disk. Does nothing on a file that is not open.
     virtual void Flush();
-    /// Closes the file. Does nothing on a file that is not open.
+    /// Closes the file. Does nothing on a file that is not open. Throws if the system reports
+    /// that written data is lost; the file is closed then, too.
     virtual void Close();
 
     /// Moves to the end. @return the length in bytes

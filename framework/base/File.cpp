@@ -1,5 +1,7 @@
 #include "FileSystem.h"
 
+#include <memory>
+
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
 const HANDLE CFile::hFileNull = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1));
@@ -34,10 +36,11 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
         Abort();
     m_hFile = hFileNull;
     m_bCloseOnDelete = FALSE;
-    m_strFileName.Empty();
+    m_strFileName = path; // while there is no open file that want of memory could lose
 
     HANDLE file = hFileNull;
     if (const filesystem::Error error = filesystem::Open(path, nOpenFlags, file); error != 0) {
+        m_strFileName.Empty();
         if (pError != nullptr) {
             pError->m_cause = CFileException::OsErrorToException(error);
             pError->m_lOsError = error;
@@ -52,12 +55,13 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
 }
 
 CFile* CFile::Duplicate() const {
+    auto pFile = std::make_unique<CFile>();
+    pFile->m_strFileName = m_strFileName;
     HANDLE copy = hFileNull;
     CFileException::ThrowOsError(filesystem::Duplicate(m_hFile, copy), m_strFileName);
-    auto* pFile = new CFile(copy);
+    pFile->m_hFile = copy;
     pFile->m_bCloseOnDelete = TRUE;
-    pFile->m_strFileName = m_strFileName;
-    return pFile;
+    return pFile.release();
 }
 
 ULONGLONG CFile::GetPosition() const {

@@ -11,6 +11,8 @@ using Error = LONG;
 
 /// The share flags, one of which applies.
 constexpr UINT kShareMask = CFile::shareDenyWrite | CFile::shareDenyRead | CFile::shareDenyNone;
+/// Opens a file on disk, and nothing else that may have a name: devices, pipes and folders are
+/// refused, since what is written to them is gone.
 /// @param flags CFile::OpenFlags.
 Error Open(LPCTSTR path, UINT flags, HANDLE& file);
 Error Close(HANDLE file);

@@ -29,6 +29,15 @@ Error Check(int result) {
     return result >= 0 ? 0 : errno;
 }
 
+// A signal in between is no failure.
+template <class Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
 // Lengths and offsets beyond the system's own type must not wrap round.
 bool Fits(ULONGLONG value) {
     return value <= static_cast<ULONGLONG>(std::numeric_limits<off_t>::max());
@@ -46,7 +55,7 @@ Error Share(int fd, UINT flags) {
     if (share == CFile::shareDenyNone)
         return 0;
     const bool readers = share == CFile::shareDenyWrite && AccessOf(flags) == O_RDONLY;
-    return flock(fd, (readers ? LOCK_SH : LOCK_EX) | LOCK_NB) == 0 ? 0 : errno;
+    return Check(Uninterrupted([&] { return flock(fd, (readers ? LOCK_SH : LOCK_EX) | LOCK_NB); }));
 }
 
 Error Prepare(int fd, UINT flags) {
@@ -55,27 +64,31 @@ Error Prepare(int fd, UINT flags) {
         return errno;
     if (S_ISDIR(status.st_mode))
         return EACCES; // opening a folder fails on the other system
+    if (!S_ISREG(status.st_mode))
+        return ENXIO; // a device or a pipe keeps nothing of what is written
     if (const Error error = Share(fd, flags); error != 0)
         return error;
     // Cut only now: a file that another holds must keep its content.
     const bool truncate = (flags & (CFile::modeCreate | CFile::modeNoTruncate)) == CFile::modeCreate;
-    return truncate && S_ISREG(status.st_mode) ? Check(ftruncate(fd, 0)) : 0;
+    return truncate ? Check(Uninterrupted([&] { return ftruncate(fd, 0); })) : 0;
 }
 
 } // namespace
 
 Error Open(LPCTSTR path, UINT flags, HANDLE& file) {
-    int mode = AccessOf(flags);
+    // Nobody waits for the other end of a pipe that is refused anyway; files know no waiting.
+    int mode = AccessOf(flags) | O_NONBLOCK | O_NOCTTY;
     if ((flags & CFile::modeCreate) != 0) {
         mode |= O_CREAT;
-        if (mode == (O_RDONLY | O_CREAT) && (flags & CFile::modeNoTruncate) == 0)
-            mode = O_RDWR | O_CREAT; // cutting needs the right to write
+        if ((mode & O_ACCMODE) == O_RDONLY && (flags & CFile::modeNoTruncate) == 0)
+            mode |= O_RDWR; // cutting needs the right to write
     }
     if ((flags & CFile::modeNoInherit) != 0)
         mode |= O_CLOEXEC;
     if ((flags & CFile::osWriteThrough) != 0)
         mode |= O_SYNC;
-    const int fd = open(AfxToUtf8(path).c_str(), mode, 0666);
+    const std::string name = AfxToUtf8(path);
+    const int fd = Uninterrupted([&] { return open(name.c_str(), mode, 0666); });
     if (fd < 0)
         return errno;
     const Error error = Prepare(fd, flags);
@@ -91,7 +104,7 @@ Error Close(HANDLE file) {
 }
 
 Error Duplicate(HANDLE file, HANDLE& copy) {
-    const int fd = dup(Fd(file));
+    const int fd = fcntl(Fd(file), F_DUPFD_CLOEXEC, 0);
     copy = Handle(fd);
     return Check(fd);
 }
@@ -99,12 +112,13 @@ Error Duplicate(HANDLE file, HANDLE& copy) {
 Error Read(HANDLE file, void* buffer, UINT count, UINT& read) {
     read = 0;
     while (read < count) {
-        const ssize_t done = ::read(Fd(file), static_cast<char*>(buffer) + read, count - read);
-        if (done < 0 && errno != EINTR)
+        char* const rest = static_cast<char*>(buffer) + read;
+        const ssize_t done = Uninterrupted([&] { return ::read(Fd(file), rest, count - read); });
+        if (done < 0)
             return errno;
         if (done == 0)
             break;
-        read += done > 0 ? static_cast<UINT>(done) : 0;
+        read += static_cast<UINT>(done);
     }
     return 0;
 }
@@ -112,12 +126,13 @@ Error Read(HANDLE file, void* buffer, UINT count, UINT& read) {
 Error Write(HANDLE file, const void* buffer, UINT count, UINT& written) {
     written = 0;
     while (written < count) {
-        const ssize_t done = ::write(Fd(file), static_cast<const char*>(buffer) + written, count - written);
-        if (done < 0 && errno != EINTR)
+        const char* const rest = static_cast<const char*>(buffer) + written;
+        const ssize_t done = Uninterrupted([&] { return ::write(Fd(file), rest, count - written); });
+        if (done < 0)
             return errno;
         if (done == 0)
             break;
-        written += done > 0 ? static_cast<UINT>(done) : 0;
+        written += static_cast<UINT>(done);
     }
     return 0;
 }
@@ -138,7 +153,9 @@ Error SetEndOfFile(HANDLE file, ULONGLONG length) {
         return EFBIG;
     ULONGLONG position = 0;
     const Error error = Seek(file, static_cast<LONGLONG>(length), CFile::begin, position);
-    return error != 0 ? error : Check(ftruncate(Fd(file), static_cast<off_t>(length)));
+    if (error != 0)
+        return error;
+    return Check(Uninterrupted([&] { return ftruncate(Fd(file), static_cast<off_t>(length)); }));
 }
 
 Error GetLength(HANDLE file, ULONGLONG& length) {
@@ -149,7 +166,7 @@ Error GetLength(HANDLE file, ULONGLONG& length) {
 }
 
 Error Flush(HANDLE file) {
-    return Check(fsync(Fd(file)));
+    return Check(Uninterrupted([&] { return fsync(Fd(file)); }));
 }
 
 Error Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock) {
@@ -195,6 +212,7 @@ int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     case ENOTDIR:
     case ENAMETOOLONG:
     case ELOOP:
+    case ENXIO:
         return badPath;
     case EMFILE:
     case ENFILE:
@@ -212,6 +230,9 @@ int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     case EOVERFLOW:
         return badSeek;
     case EIO:
+    case ENODEV:
+    case ENOMEDIUM:
+    case EREMOTEIO:
         return hardIO;
     case EWOULDBLOCK:
         return sharingViolation;

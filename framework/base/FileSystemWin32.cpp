@@ -3,6 +3,7 @@
 #include "FileSystem.h"
 
 #include <algorithm>
+#include <cwchar>
 
 namespace filesystem {
 
@@ -62,15 +63,35 @@ DWORD AttributesOf(UINT flags) {
     return attributes;
 }
 
+bool StartsWith(const CString& path, LPCTSTR start) {
+    return path.Left(static_cast<int>(std::wcslen(start))).CompareNoCase(start) == 0;
+}
+
+// The system's own spelling of a full path: \\.\NUL for NUL, and for AUX.txt where that is still
+// a device. Opening one to see what it is may already start it.
+bool IsDevice(const CString& path) {
+    if (!StartsWith(path, L"\\\\.\\") && !StartsWith(path, L"\\\\?\\"))
+        return false;
+    const CString rest = path.Mid(4);
+    return rest.Mid(1, 2) != L":\\" && !StartsWith(rest, L"UNC\\") && !StartsWith(rest, L"Volume{");
+}
+
 } // namespace
 
 Error Open(LPCTSTR path, UINT flags, HANDLE& file) {
+    if (IsDevice(path))
+        return ERROR_BAD_PATHNAME;
     SECURITY_ATTRIBUTES security{};
     security.nLength = sizeof(security);
     security.bInheritHandle = (flags & CFile::modeNoInherit) == 0;
     file = CreateFileW(path, AccessOf(flags), ShareOf(flags), &security, DispositionOf(flags),
                        AttributesOf(flags), nullptr);
-    return file != INVALID_HANDLE_VALUE ? 0 : LastError();
+    if (file == INVALID_HANDLE_VALUE)
+        return LastError();
+    if (GetFileType(file) == FILE_TYPE_DISK)
+        return 0;
+    CloseHandle(file); // a console, or a pipe of a server
+    return ERROR_BAD_PATHNAME;
 }
 
 Error Close(HANDLE file) {
@@ -92,10 +113,16 @@ Error Read(HANDLE file, void* buffer, UINT count, UINT& read) {
 }
 
 Error Write(HANDLE file, const void* buffer, UINT count, UINT& written) {
-    DWORD done = 0;
-    const Error error = Check(WriteFile(file, buffer, count, &done, nullptr));
-    written = done;
-    return error;
+    // Again for the rest of what was written only in part: that call tells why.
+    for (written = 0; written < count;) {
+        DWORD done = 0;
+        const auto* rest = static_cast<const BYTE*>(buffer) + written;
+        const Error error = Check(WriteFile(file, rest, count - written, &done, nullptr));
+        written += done;
+        if (error != 0 || done == 0)
+            return error;
+    }
+    return 0;
 }
 
 Error Seek(HANDLE file, LONGLONG offset, UINT from, ULONGLONG& position) {
@@ -155,6 +182,9 @@ bool IsSeparator(wchar_t ch) noexcept {
 
 } // namespace filesystem
 
+// ERROR_DISK_QUOTA_EXCEEDED, which not every system header knows.
+static constexpr LONG kDiskQuotaExceeded = 1295;
+
 int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     switch (lOsErr) {
     case NO_ERROR:
@@ -197,6 +227,15 @@ int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     case ERROR_READ_FAULT:
     case ERROR_GEN_FAILURE:
     case ERROR_IO_DEVICE:
+    case ERROR_WRONG_DISK:
+    case ERROR_DEV_NOT_EXIST:
+    case ERROR_FILE_INVALID: // the volume was changed under the open file
+    case ERROR_NO_MEDIA_IN_DRIVE:
+    case ERROR_MEDIA_CHANGED:
+    case ERROR_DEVICE_NOT_CONNECTED:
+    case ERROR_DEVICE_REMOVED:
+    case ERROR_UNEXP_NET_ERR:
+    case ERROR_NETNAME_DELETED:
         return hardIO;
     case ERROR_SHARING_VIOLATION:
         return sharingViolation;
@@ -206,6 +245,7 @@ int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
         return lockViolation;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
+    case kDiskQuotaExceeded:
         return diskFull;
     case ERROR_HANDLE_EOF:
         return endOfFile;

@@ -190,10 +190,25 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
     EXPECT_EQ('2', c);
 }
 
-#ifndef _WIN32
-TEST_F(File, AFullDiskIsReported) {
-    CFile file(L"/dev/full", CFile::modeWrite);
-    EXPECT_EQ(CFileException::diskFull, CauseOf([&] { file.Write("x", 1); }));
+#ifdef _WIN32
+TEST_F(File, OnlyFilesOnDiskAreOpened) {
+    for (const LPCTSTR name :
+         {L"NUL", L"nul", L"CON", L"PRN", L"COM1", L"LPT1", L"CONIN$", L"CONOUT$", L"//./NUL",
+          LR"(\.\pipe\fieldkit)", LR"(\.\PhysicalDrive0)", LR"(\.\C:)", LR"(\?\C:)"}) {
+        for (const UINT mode : {UINT{CFile::modeRead}, UINT{CFile::modeWrite}, kCreate}) {
+            CFileException error;
+            EXPECT_FALSE(CFile().Open(name, mode, &error)) << testing::PrintToString(name);
+            EXPECT_NE(CFileException::none, error.m_cause);
+        }
+    }
+    // Where the system takes this for a device it is refused, else it is a file.
+    CFile file;
+    if (file.Open(Path(L"AUX.txt"), kCreate)) {
+        file.Write("1", 1);
+        file.Close();
+        EXPECT_EQ("1", Text(Path(L"AUX.txt")));
+    }
+    EXPECT_TRUE(file.Open(LR"(\?\)" + Path(L"long"), kCreate)) << "the form for long paths";
 }
 #endif
 
