@@ -13,6 +13,16 @@
 /// little-endian. What cannot be loaded throws CArchiveException*: endOfFile for a cut
 /// file, badIndex for a wrong format, badClass and badSchema for objects. A failing file
 /// throws its own CFileException*.
+///
+/// Objects: the archive owns none. One that ReadObject has returned belongs to who received it,
+/// also when the rest of the file turns out to be damaged. One that is still being loaded when an
+/// exception passes is deleted by ReadObject, with what it owns by then. So a class whose
+/// destructor deletes what its Serialize has loaded leaks nothing. In a damaged file a reference
+/// to an earlier object may stand where a new one is expected: who takes objects over must not
+/// take the same one twice.
+///
+/// Damaged files cost no more memory than a multiple of their size, and objects within objects
+/// end at a depth of 1000 (badIndex).
 class AFX_CORE CArchive {
 public:
     /// Combined with |: store or load, and the rest as wanted. bNoByteSwap has no effect.

@@ -9,8 +9,9 @@
 #include <new>
 
 /// A growing array. TYPE needs a default constructor and assignment. An index outside of
-/// the array throws CInvalidArgException*, want of memory CMemoryException*. Pointers and
-/// references to elements last until the array grows.
+/// the array throws CInvalidArgException*, want of memory CMemoryException* or what copying an
+/// element throws; the array is then as it was before the call, if moving an element cannot
+/// throw. Pointers and references to elements last until the array grows.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray : public CObject {
 public:
@@ -77,7 +78,8 @@ private:
         return nIndex;
     }
     void Reallocate(INT_PTR nMaxSize);
-    void OpenGap(INT_PTR nIndex, INT_PTR nCount);
+    template <class Fill>
+    void Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill);
 
     // Elements from m_nSize on are always TYPE(), so growing within the memory is free.
     std::unique_ptr<TYPE[]> m_pData;
@@ -121,16 +123,24 @@ void CArray<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy) {
 }
 
 template <class TYPE, class ARG_TYPE>
-void CArray<TYPE, ARG_TYPE>::OpenGap(INT_PTR nIndex, INT_PTR nCount) {
+template <class Fill>
+void CArray<TYPE, ARG_TYPE>::Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill) {
     if (nIndex < 0 || nCount < 0)
         AfxThrowInvalidArgException();
     const INT_PTR nBehind = std::max<INT_PTR>(m_nSize - nIndex, 0);
-    const INT_PTR nStart = m_nSize - nBehind;
+    const INT_PTR nOldSize = m_nSize;
     if (nCount > static_cast<INT_PTR>(static_cast<DWORD_PTR>(-1) / 2) - std::max(m_nSize, nIndex))
         AfxThrowMemoryException();
     SetSize(std::max(m_nSize, nIndex) + nCount);
-    TYPE* const pGap = m_pData.get() + nStart;
-    std::move_backward(pGap, pGap + nBehind, m_pData.get() + m_nSize);
+    TYPE* const pTail = m_pData.get() + (nOldSize - nBehind);
+    std::move_backward(pTail, pTail + nBehind, m_pData.get() + m_nSize);
+    try {
+        fill(m_pData.get() + nIndex);
+    } catch (...) {
+        std::move(m_pData.get() + (m_nSize - nBehind), m_pData.get() + m_nSize, pTail);
+        SetSize(nOldSize);
+        throw;
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -151,8 +161,7 @@ template <class TYPE, class ARG_TYPE>
 INT_PTR CArray<TYPE, ARG_TYPE>::Append(const CArray& src) {
     const INT_PTR nOldSize = m_nSize;
     const INT_PTR nCount = src.m_nSize; // src may be this array
-    SetSize(nOldSize + nCount);
-    std::copy_n(src.m_pData.get(), nCount, m_pData.get() + nOldSize);
+    Insert(nOldSize, nCount, [&](TYPE* pGap) { std::copy_n(src.m_pData.get(), nCount, pGap); });
     return nOldSize;
 }
 
@@ -160,15 +169,17 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Copy(const CArray& src) {
     if (this == &src)
         return;
-    SetSize(src.m_nSize);
-    std::copy_n(src.m_pData.get(), m_nSize, m_pData.get());
+    CArray copy;
+    copy.Append(src);
+    std::swap(m_pData, copy.m_pData);
+    std::swap(m_nMaxSize, copy.m_nMaxSize);
+    m_nSize = copy.m_nSize;
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount) {
     const TYPE copy(newElement); // it may be an element of this array
-    OpenGap(nIndex, nCount);
-    std::fill_n(m_pData.get() + nIndex, nCount, copy);
+    Insert(nIndex, nCount, [&](TYPE* pGap) { std::fill_n(pGap, nCount, copy); });
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -177,8 +188,8 @@ void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nStartIndex, const CArray* pNewArr
         AfxThrowInvalidArgException();
     if (pNewArray->m_nSize == 0)
         return;
-    OpenGap(nStartIndex, pNewArray->m_nSize);
-    std::copy_n(pNewArray->m_pData.get(), pNewArray->m_nSize, m_pData.get() + nStartIndex);
+    Insert(nStartIndex, pNewArray->m_nSize,
+           [&](TYPE* pGap) { std::copy_n(pNewArray->m_pData.get(), pNewArray->m_nSize, pGap); });
 }
 
 template <class TYPE, class ARG_TYPE>

@@ -4,8 +4,11 @@
 
 #include "afxelem_.h"
 
+#include <utility>
+
 /// A doubly linked list. Positions last until their element is removed. A function that
-/// needs an element or position and gets none throws CInvalidArgException*.
+/// needs an element or position and gets none throws CInvalidArgException*. One that fails for
+/// want of memory leaves the list as it was.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CList : public CObject {
 public:
@@ -96,6 +99,7 @@ private:
         rPosition = ToPosition(node.*pLink);
         return node.data;
     }
+    void Splice(CNode* pPrev, CList& list, CNode* pNext);
     POSITION Link(CNode* pPrev, ARG_TYPE newElement, CNode* pNext);
     void Unlink(CNode& node);
     TYPE Take(CNode* pNode);
@@ -112,6 +116,18 @@ POSITION CList<TYPE, ARG_TYPE>::Link(CNode* pPrev, ARG_TYPE newElement, CNode* p
     (pNext != nullptr ? pNext->pPrev : m_pTail) = pNode;
     ++m_nCount;
     return ToPosition(pNode);
+}
+
+/// Takes over the nodes of the other list.
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::Splice(CNode* pPrev, CList& list, CNode* pNext) {
+    if (list.m_pHead == nullptr)
+        return;
+    list.m_pHead->pPrev = pPrev;
+    list.m_pTail->pNext = pNext;
+    (pPrev != nullptr ? pPrev->pNext : m_pHead) = std::exchange(list.m_pHead, nullptr);
+    (pNext != nullptr ? pNext->pPrev : m_pTail) = std::exchange(list.m_pTail, nullptr);
+    m_nCount += std::exchange(list.m_nCount, 0);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -135,23 +151,25 @@ void CList<TYPE, ARG_TYPE>::RemoveAll() {
         Unlink(*m_pHead);
 }
 
-// Counted, not to the end: the other list may be this one.
+// The other list may be this one, and is copied as a whole before anything changes here.
 template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddHead(const CList* pNewList) {
     if (pNewList == nullptr)
         AfxThrowInvalidArgException();
-    POSITION position = pNewList->GetTailPosition();
-    for (INT_PTR nLeft = pNewList->m_nCount; nLeft > 0; --nLeft)
-        Link(nullptr, Step(position, &CNode::pPrev), m_pHead);
+    CList copy;
+    for (CNode* pNode = pNewList->m_pHead; pNode != nullptr; pNode = pNode->pNext)
+        copy.AddTail(pNode->data);
+    Splice(nullptr, copy, m_pHead);
 }
 
 template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddTail(const CList* pNewList) {
     if (pNewList == nullptr)
         AfxThrowInvalidArgException();
-    POSITION position = pNewList->GetHeadPosition();
-    for (INT_PTR nLeft = pNewList->m_nCount; nLeft > 0; --nLeft)
-        Link(m_pTail, Step(position, &CNode::pNext), nullptr);
+    CList copy;
+    for (CNode* pNode = pNewList->m_pHead; pNode != nullptr; pNode = pNode->pNext)
+        copy.AddTail(pNode->data);
+    Splice(m_pTail, copy, nullptr);
 }
 
 template <class TYPE, class ARG_TYPE>

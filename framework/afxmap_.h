@@ -33,7 +33,7 @@ public:
     /// The value of the key, made anew if there is none.
     VALUE& operator[](ARG_KEY key) { return m_entries[KEY(key)]; }
     /// Sets the value of a key, which is made if there is none.
-    void SetAt(ARG_KEY key, ARG_VALUE newValue) { (*this)[key] = newValue; }
+    void SetAt(ARG_KEY key, ARG_VALUE newValue) { m_entries.insert_or_assign(KEY(key), VALUE(newValue)); }
     /// Removes an entry. @return zero if there is no such key
     BOOL RemoveKey(ARG_KEY key) { return m_entries.erase(KEY(key)) != 0 ? TRUE : FALSE; }
     /// Removes all entries.

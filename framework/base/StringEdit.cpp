@@ -16,9 +16,13 @@ std::size_t ClampIndex(int nIndex, std::size_t length) noexcept {
     return nIndex > 0 ? std::min(static_cast<std::size_t>(nIndex), length) : 0;
 }
 
+LPCTSTR OrEmpty(LPCTSTR lpsz) noexcept {
+    return lpsz != nullptr ? lpsz : L"";
+}
+
 // Copied first: callers may pass a piece of the very text that is about to change.
 std::wstring CopyOf(LPCTSTR lpsz) {
-    return lpsz != nullptr ? lpsz : L"";
+    return OrEmpty(lpsz);
 }
 
 } // namespace
@@ -94,7 +98,7 @@ CString& CString::TrimLeft(TCHAR chTarget) {
 }
 
 CString& CString::TrimLeft(LPCTSTR lpszTargets) {
-    m_text.erase(0, m_text.find_first_not_of(CopyOf(lpszTargets)));
+    m_text.erase(0, m_text.find_first_not_of(OrEmpty(lpszTargets)));
     return *this;
 }
 
@@ -109,11 +113,14 @@ CString& CString::TrimRight(TCHAR chTarget) {
 }
 
 CString& CString::TrimRight(LPCTSTR lpszTargets) {
-    m_text.erase(m_text.find_last_not_of(CopyOf(lpszTargets)) + 1);
+    m_text.erase(m_text.find_last_not_of(OrEmpty(lpszTargets)) + 1);
     return *this;
 }
 
 CString& CString::Trim(LPCTSTR lpszTargets) {
-    const std::wstring targets = CopyOf(lpszTargets);
-    return TrimRight(targets.c_str()).TrimLeft(targets.c_str());
+    // Both ends are known before the text changes, of which the targets may be a piece.
+    const std::size_t end = m_text.find_last_not_of(OrEmpty(lpszTargets)) + 1;
+    const std::size_t first = std::min(m_text.find_first_not_of(OrEmpty(lpszTargets)), end);
+    m_text.erase(end).erase(0, first);
+    return *this;
 }

@@ -1,0 +1,133 @@
+#include "support/host/DamagedBytes.h"
+
+#include "afxcoll.h"
+#include "afxtempl.h"
+
+#include <memory>
+
+namespace {
+
+// Two references, each to nothing, to a new joint or back to an earlier one.
+class CJoint : public CObject {
+    DECLARE_SERIAL(CJoint)
+public:
+    CJoint() { ++s_made; }
+    ~CJoint() override {
+        for (const Reference& reference : m_references)
+            if (reference.owned)
+                delete reference.pJoint;
+    }
+    void Serialize(CArchive& ar) override {
+        for (Reference& reference : m_references) {
+            if (ar.IsStoring()) {
+                ar << reference.pJoint;
+                continue;
+            }
+            const int nBefore = s_made;
+            ar >> reference.pJoint;
+            reference.owned = s_made > nBefore; // else it is somebody else's
+        }
+        if (ar.IsStoring())
+            ar << m_name;
+        else
+            ar >> m_name;
+    }
+
+    struct Reference {
+        CJoint* pJoint = nullptr;
+        bool owned = false;
+    };
+    static int s_made;
+    Reference m_references[2];
+    CString m_name = L"name";
+};
+int CJoint::s_made = 0;
+IMPLEMENT_SERIAL(CJoint, CObject, 1)
+
+TEST(DamagedArchive, GraphsWithCirclesAreFreedOnce) {
+    CJoint a;
+    CJoint b;
+    CJoint c;
+    a.m_references[0].pJoint = &b;
+    a.m_references[1].pJoint = &c;
+    b.m_references[0].pJoint = &a;
+    b.m_references[1].pJoint = &b;
+    c.m_references[0].pJoint = &b;
+    c.m_references[1].pJoint = &a;
+    LoadDamaged(Stored([&](CArchive& ar) { ar << &a; }),
+                [](CArchive& ar) { delete ar.ReadObject(RUNTIME_CLASS(CJoint)); });
+}
+
+TEST(DamagedArchive, CollectionsAndValuesComeToAnEnd) {
+    CStringList list;
+    CStringArray strings;
+    CArray<double, double> numbers;
+    CMap<int, int, CString, LPCTSTR> map;
+    list.AddTail(L"text");
+    strings.Add(L"\x6E2C\x70B9");
+    numbers.Add(1.5);
+    map.SetAt(7, L"seven");
+    LoadDamaged(
+        Stored([&](CArchive& ar) {
+            for (CObject* pObject : std::initializer_list<CObject*>{&list, &strings, &numbers, &map})
+                pObject->Serialize(ar);
+            ar << CString(L'x', 300) << true;
+        }),
+        [](CArchive& ar) {
+            CStringList list1;
+            CStringArray strings1;
+            CArray<double, double> numbers1;
+            CMap<int, int, CString, LPCTSTR> map1;
+            for (CObject* pObject : std::initializer_list<CObject*>{&list1, &strings1, &numbers1, &map1})
+                pObject->Serialize(ar);
+            CString text;
+            bool flag = false;
+            ar >> text >> flag;
+        });
+}
+
+// The number of elements is what the file says; the bytes for them are few or many.
+TEST(DamagedArchive, MemoryGoesWithTheSizeOfTheFile) {
+    struct Row {
+        const char* what;
+        const char* head;
+        std::size_t size; // of zeros behind it
+        std::size_t perByte;
+        std::function<void(CArchive&)> load;
+    };
+    constexpr std::size_t kMega = 1 << 20;
+    const auto list = [](CArchive& ar) { CStringList().Serialize(ar); };
+    const auto array = [](CArchive& ar) { CStringArray().Serialize(ar); };
+    const auto numbers = [](CArchive& ar) { CArray<double, double>().Serialize(ar); };
+    const auto text = [](CArchive& ar) {
+        CString string;
+        ar >> string;
+    };
+    for (const Row& row : {
+             Row{"empty texts, a byte each", "ff ff ff ff ff ff", kMega, 50, list},
+             Row{"the same in an array", "ff ff ff ff ff ff", kMega, 90, array},
+             Row{"numbers", "ff ff ff ff ff 7f", kMega, 3, numbers},
+             Row{"a wide text", "ff fe ff ff ff ff ff ff ff 7f", kMega, 8, text},
+             Row{"a narrow text", "ff ff ff ff ff ff 7f", kMega, 8, text},
+             Row{"no bytes for a text", "ff ff ff ff ff ff 7f", 0, 0, text},
+         }) {
+        Bytes bytes = FromHex(row.head);
+        bytes.resize(bytes.size() + row.size);
+        constexpr std::size_t kAnyway = 100'000;
+        // The file itself lies in memory here, too.
+        EXPECT_LT(LoadWithoutLoss(bytes, row.load), row.perByte * row.size + kAnyway) << row.what;
+    }
+}
+
+TEST(DamagedArchive, AMillionObjectsInEachOtherAreRefused) {
+    // Class, then each joint's first reference is a new one.
+    Bytes bytes = FromHex("ffff 0100 0600 434a6f696e74");
+    for (int i = 0; i < 1'000'000; ++i)
+        for (const BYTE by : {BYTE{0x01}, BYTE{0x80}})
+            bytes.push_back(by);
+    LoadWithoutLoss(bytes, [](CArchive& ar) {
+        EXPECT_TRUE(Throws<CArchiveException>([&] { delete ar.ReadObject(nullptr); }));
+    });
+}
+
+} // namespace

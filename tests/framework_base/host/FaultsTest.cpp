@@ -1,0 +1,338 @@
+// Each allocation and each system call fails once.
+#include "framework_base/ArchiveBytes.h"
+#include "support/NativeFaults.h"
+
+#include "afxcoll.h"
+#include "afxtempl.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <random>
+#include <tuple>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using faults::FailCall;
+using faults::FailMemory;
+
+// Longer than what a string keeps without asking for memory.
+constexpr LPCTSTR kLong = L"a text that is longer than any small string";
+
+template <class Object>
+struct Change {
+    const char* what;
+    std::function<void(Object&)> run;
+};
+
+template <class Object, class Make, class Look, std::size_t N>
+void ExpectAllOrNothing(Make make, Look look, const Change<Object> (&changes)[N]) {
+    for (const Change<Object>& change : changes) {
+        SCOPED_TRACE(change.what);
+        EXPECT_GT(faults::FailEachChange(make, change.run, look), 0) << "nothing that can fail";
+    }
+}
+
+std::vector<CString> TextsOf(const CStringArray& array) {
+    return {array.GetData(), array.GetData() + array.GetSize()};
+}
+
+std::vector<CString> TextsOf(const CStringList& list) {
+    std::vector<CString> texts;
+    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
+        texts.push_back(list.GetNext(pos));
+    return texts;
+}
+
+using Map = CMap<CString, LPCTSTR, CString, LPCTSTR>;
+
+CString TextOf(const Map& map, LPCTSTR key) {
+    CString text = L"none";
+    map.Lookup(key, text);
+    return text;
+}
+
+TEST(Faults, StringsChangeWhollyOrNotAtAll) {
+    const CString other = CString(kLong) + kLong;
+    const Change<CString> changes[] = {
+        {"=", [&](CString& s) { s = other; }},
+        {"= text", [](CString& s) { s = CString(L'x', 300).GetString(); }},
+        {"= narrow",
+         [](CString& s) { s = "a narrow text that is longer than any small string, much longer"; }},
+        {"+=", [&](CString& s) { s += other; }},
+        {"+= itself", [](CString& s) { s += s; }},
+        {"+= narrow", [](CString& s) { s += "a narrow text that is longer than any small string"; }},
+        {"+", [](CString& s) { s = s + L"." + s + 'c'; }},
+        {"Append", [](CString& s) { s.Append(kLong, 40); }},
+        {"Insert", [](CString& s) { s.Insert(3, kLong); }},
+        {"Replace", [](CString& s) { s.Replace(L"a", kLong); }},
+        {"Mid", [](CString& s) { s = s.Mid(1, 30); }},
+        {"Tokenize",
+         [](CString& s) {
+             int n = 0;
+             s = s.Tokenize(L"x", n) + s.Tokenize(L"x", n);
+         }},
+        {"GetBuffer",
+         [](CString& s) {
+             s.GetBuffer(500)[0] = L'A';
+             s.ReleaseBuffer();
+         }},
+        {"Format", [](CString& s) { s.Format(L"%s %d %hs %40.3f %c", kLong, 5, "narrow", 1.5, L'x'); }},
+        {"AppendFormat", [](CString& s) { s.AppendFormat(L"%-100d|%p", 5, nullptr); }},
+    };
+    ExpectAllOrNothing([] { return std::make_unique<CString>(kLong); }, [](const CString& s) { return s; },
+                       changes);
+}
+
+TEST(Faults, ArraysChangeWhollyOrNotAtAll) {
+    CStringArray three;
+    for (int i = 0; i < 3; ++i)
+        three.Add(kLong);
+    CStringArray five;
+    five.SetSize(5);
+    five[4] = kLong;
+    const auto make = [&] {
+        auto pArray = std::make_unique<CStringArray>();
+        pArray->Append(three);
+        return pArray;
+    };
+    const Change<CStringArray> changes[] = {
+        {"Add", [](CStringArray& a) { a.Add(kLong); }},
+        {"Add its own", [](CStringArray& a) { a.Add(a[0]); }},
+        {"SetSize", [](CStringArray& a) { a.SetSize(100); }},
+        {"SetAt", [](CStringArray& a) { a.SetAt(1, CString(kLong) + kLong); }},
+        {"SetAtGrow", [](CStringArray& a) { a.SetAtGrow(9, kLong); }},
+        {"InsertAt", [](CStringArray& a) { a.InsertAt(1, kLong, 4); }},
+        {"InsertAt behind", [](CStringArray& a) { a.InsertAt(7, kLong, 2); }},
+        {"InsertAt array", [&](CStringArray& a) { a.InsertAt(1, &three); }},
+        {"Append", [&](CStringArray& a) { a.Append(three); }},
+        {"Append itself", [](CStringArray& a) { a.Append(a); }},
+        {"Copy", [&](CStringArray& a) { a.Copy(five); }},
+        {"Serialize",
+         [](CStringArray& a) { static_cast<void>(Stored([&](CArchive& ar) { a.Serialize(ar); })); }},
+    };
+    ExpectAllOrNothing(
+        make, [](const CStringArray& a) { return TextsOf(a); }, changes);
+}
+
+TEST(Faults, ListsAndMapsChangeWhollyOrNotAtAll) {
+    CStringList two;
+    two.AddTail(kLong);
+    two.AddTail(L"b");
+    const Change<CStringList> ofLists[] = {
+        {"AddHead", [](CStringList& l) { l.AddHead(kLong); }},
+        {"AddTail", [](CStringList& l) { l.AddTail(l.GetHead()); }},
+        {"AddHead list", [&](CStringList& l) { l.AddHead(&two); }},
+        {"AddTail itself", [](CStringList& l) { l.AddTail(&l); }},
+        {"InsertBefore", [](CStringList& l) { l.InsertBefore(l.GetTailPosition(), kLong); }},
+        {"InsertAfter", [](CStringList& l) { l.InsertAfter(l.GetHeadPosition(), kLong); }},
+        {"SetAt", [](CStringList& l) { l.SetAt(l.GetTailPosition(), kLong); }},
+    };
+    ExpectAllOrNothing(
+        [&] {
+            auto pList = std::make_unique<CStringList>();
+            pList->AddTail(&two);
+            return pList;
+        },
+        [](const CStringList& l) { return TextsOf(l); }, ofLists);
+
+    const Change<Map> ofMaps[] = {
+        {"SetAt a new key", [](Map& m) { m.SetAt(L"new", kLong); }},
+        {"SetAt", [](Map& m) { m.SetAt(L"old", kLong); }},
+        {"[]", [](Map& m) { m[L"a key that is longer than any small string"]; }},
+        {"InitHashTable", [](Map& m) { m.InitHashTable(1000); }},
+    };
+    ExpectAllOrNothing(
+        [] {
+            auto pMap = std::make_unique<Map>();
+            pMap->SetAt(L"old", L"value");
+            return pMap;
+        },
+        [](const Map& m) { return std::tuple(m.GetCount(), TextOf(m, L"old"), TextOf(m, L"new")); }, ofMaps);
+}
+
+TEST(Faults, MemoryFilesKeepWhatTheyHave) {
+    const Change<CMemFile> changes[] = {
+        {"Write", [](CMemFile& file) { file.Write(kLong, 100); }},
+        {"SetLength", [](CMemFile& file) { file.SetLength(100); }},
+        {"Write behind the end", [](CMemFile& file) { file.Seek(500, CFile::begin), file.Write("x", 1); }},
+    };
+    ExpectAllOrNothing(
+        [] {
+            auto pFile = std::make_unique<CMemFile>(16);
+            pFile->Write("abc", 3);
+            return pFile;
+        },
+        [](CMemFile& file) { return ContentOf(file); }, changes);
+    EXPECT_GT(faults::FailEach(FailMemory, [] { CMemFile(16).Write("abc", 3); }), 0) << "the first memory";
+}
+
+// The archive itself is of no use after a failure; nothing may be left, and the next one works.
+TEST(Faults, ArchivesLeaveNothing) {
+    CStringArray strings;
+    strings.Add(kLong);
+    strings.Add(L"\U0001F600");
+    const auto store = [&] {
+        return Stored([&](CArchive& ar) { ar << 1.5 << CString(kLong) << &strings << &strings; });
+    };
+    EXPECT_GT(faults::FailEach(FailMemory, store), 5);
+    const Bytes bytes = store();
+    EXPECT_GT(faults::FailEach(FailMemory,
+                               [&] {
+                                   CMemFile file;
+                                   file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
+                                   file.SeekToBegin();
+                                   CArchive ar(&file, CArchive::load);
+                                   double number = 0;
+                                   CString text = L"old";
+                                   ar >> number >> text;
+                                   const std::unique_ptr<CObject> owner(ar.ReadObject(nullptr));
+                                   EXPECT_EQ(owner.get(), ar.ReadObject(nullptr));
+                               }),
+              5);
+}
+
+class FaultsOfFiles : public testing::Test {
+protected:
+    FaultsOfFiles() {
+        m_folder =
+            std::filesystem::temp_directory_path() / ("fieldkit-" + std::to_string(std::random_device{}()));
+        std::filesystem::create_directories(m_folder);
+    }
+    ~FaultsOfFiles() override { std::filesystem::remove_all(m_folder); }
+
+    CString Path(const char* name) const { return CString((m_folder / name).c_str()); }
+    std::uintmax_t Length(const char* name) const { return std::filesystem::file_size(m_folder / name); }
+
+    void WriteAndRead() const {
+        constexpr UINT kMode = CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive;
+        std::filesystem::remove(m_folder / "b");
+        CFile file(Path("a"), kMode);
+        file.Write("abcdef", 6);
+        file.Flush();
+        file.SetLength(4);
+        file.LockRange(0, 1);
+        file.UnlockRange(0, 1);
+        file.SeekToBegin();
+        char buffer[8] = {};
+        EXPECT_EQ(4U, file.Read(buffer, 8));
+        EXPECT_EQ(4U, file.GetLength());
+        const std::unique_ptr<CFile> twin(file.Duplicate());
+        twin->Close();
+        file.Close();
+        CFile::Rename(Path("a"), Path("b"));
+        CFile::Remove(Path("b"));
+    }
+
+    std::filesystem::path m_folder;
+};
+
+TEST_F(FaultsOfFiles, EachFailureIsThrownAndClosesTheFile) {
+    EXPECT_GT(faults::FailEach(FailMemory, [&] { WriteAndRead(); }), 10);
+    for (const int error : {EIO, EINTR}) {
+        const bool retried = error == EINTR;
+        const long failed =
+            faults::FailEach([&](long nth) { FailCall(nullptr, error, nth); }, [&] { WriteAndRead(); });
+        EXPECT_GT(failed, 15) << retried;
+    }
+}
+
+TEST_F(FaultsOfFiles, CausesAndWhatIsOnDiskAfterwards) {
+    struct Row {
+        const char* call;
+        int error; // 0: half of it is done
+        int cause;
+        ULONGLONG position; // after writing 6 bytes
+    };
+    for (const Row& row : {
+             Row{"write", 0, CFileException::none, 6},
+             Row{"write", EINTR, CFileException::none, 6},
+             Row{"write", ENOSPC, CFileException::diskFull, 0},
+             Row{"write", EDQUOT, CFileException::diskFull, 0},
+             Row{"write", EIO, CFileException::hardIO, 0},
+             Row{"write", ENODEV, CFileException::hardIO, 0},
+             Row{"fsync", EINTR, CFileException::none, 6},
+             Row{"fsync", EIO, CFileException::hardIO, 6},
+             Row{"close", EIO, CFileException::hardIO, 6},
+             Row{"close", ENOSPC, CFileException::diskFull, 6},
+         }) {
+        SCOPED_TRACE(row.call + std::string(" ") + std::to_string(row.error));
+        const faults::Use before = faults::Now();
+        int cause = CFileException::none;
+        ULONGLONG position = 0;
+        {
+            CFile file(Path("a"), CFile::modeCreate | CFile::modeWrite);
+            FailCall(row.call, row.error);
+            try {
+                file.Write("abcdef", 6);
+                position = file.GetPosition();
+                file.Flush();
+                file.Close();
+            } catch (CFileException* e) {
+                cause = e->m_cause;
+                EXPECT_EQ(row.error, e->m_lOsError);
+                EXPECT_STREQ(Path("a"), e->m_strFileName);
+                e->Delete();
+            }
+            EXPECT_TRUE(faults::Disarm());
+            const bool closed = file.m_hFile == CFile::hFileNull;
+            EXPECT_EQ(closed, cause == CFileException::none || std::string(row.call) == "close");
+            if (!closed && position == 0)
+                position = file.GetPosition();
+        }
+        EXPECT_EQ(row.cause, cause);
+        EXPECT_EQ(row.position, position);
+        EXPECT_EQ(row.position, Length("a"));
+        EXPECT_EQ(before, faults::Now());
+    }
+}
+
+TEST_F(FaultsOfFiles, ADiskThatIsFullHalfWayKeepsTheFirstHalf) {
+    CFile file(Path("a"), CFile::modeCreate | CFile::modeWrite);
+    FailCall("write", 0);
+    file.Write("abcdef", 6); // the second half by a second call
+    EXPECT_TRUE(faults::Disarm());
+    EXPECT_EQ(6U, Length("a"));
+    FailCall("close", EIO);
+    EXPECT_NO_THROW(file.Abort());
+    EXPECT_TRUE(faults::Disarm());
+    EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
+}
+
+TEST_F(FaultsOfFiles, OnlyFilesOnDiskAreOpened) {
+    ASSERT_EQ(0, ::mkfifo((m_folder / "pipe").c_str(), 0600));
+    struct Row {
+        CString path;
+        int cause;
+    };
+    for (const Row& row :
+         {Row{L"/dev/null", CFileException::badPath}, Row{L"/dev/zero", CFileException::badPath},
+          Row{L"/dev/full", CFileException::badPath}, Row{L"/dev/tty", CFileException::badPath},
+          Row{Path("pipe"), CFileException::badPath}, Row{Path(""), CFileException::accessDenied}}) {
+        for (const UINT mode : {UINT{CFile::modeRead}, UINT{CFile::modeWrite}, UINT{CFile::modeReadWrite},
+                                UINT{CFile::modeCreate | CFile::modeWrite}}) {
+            const faults::Use before = faults::Now();
+            CFileException error;
+            EXPECT_FALSE(CFile().Open(row.path, mode, &error));
+            EXPECT_EQ(row.cause, error.m_cause) << std::filesystem::path(row.path.GetString()) << " " << mode;
+            error.m_strFileName.Empty();
+            EXPECT_EQ(before, faults::Now());
+        }
+    }
+    // A handle that the caller opened is the caller's business.
+    CFile full(reinterpret_cast<HANDLE>(static_cast<std::intptr_t>(::open("/dev/full", O_WRONLY))));
+    try {
+        full.Write("x", 1);
+        ADD_FAILURE();
+    } catch (CFileException* e) {
+        EXPECT_EQ(CFileException::diskFull, e->m_cause);
+        e->Delete();
+    }
+    full.Close();
+}
+
+} // namespace

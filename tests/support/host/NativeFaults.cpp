@@ -1,0 +1,211 @@
+#include "support/NativeFaults.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdarg>
+#include <cstdlib>
+#include <cstring>
+#include <malloc.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+extern "C" void* __real_malloc(std::size_t size);
+
+namespace {
+
+enum class Kind { None, Memory, Call };
+
+Kind g_kind = Kind::None;
+const char* g_call = nullptr;
+int g_error = 0;
+long g_left = 0;
+bool g_failed = false;
+
+faults::Use g_use;
+std::size_t g_bytes = 0;
+std::size_t g_peak = 0;
+
+bool FailsNow(Kind kind, const char* call) {
+    if (g_kind != kind || (g_call != nullptr && std::strcmp(g_call, call) != 0) || --g_left != 0)
+        return false;
+    g_failed = true;
+    return true;
+}
+
+void* Counted(void* memory) {
+    g_use.blocks += 1;
+    g_bytes += malloc_usable_size(memory);
+    g_peak = std::max(g_peak, g_bytes);
+    return memory;
+}
+
+void* Allocate(std::size_t size) {
+    void* const memory = FailsNow(Kind::Memory, "") ? nullptr : __real_malloc(size != 0 ? size : 1);
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return Counted(memory);
+}
+
+void Release(void* memory) {
+    if (memory == nullptr)
+        return;
+    g_use.blocks -= 1;
+    g_bytes -= malloc_usable_size(memory);
+    std::free(memory);
+}
+
+/// The failing call's answer, or what `call` answers.
+template <class Call>
+auto Answer(const char* name, Call call) -> decltype(call()) {
+    if (!FailsNow(Kind::Call, name))
+        return call();
+    errno = g_error;
+    return -1;
+}
+
+} // namespace
+
+namespace faults {
+
+void FailMemory(long nth) {
+    g_kind = Kind::Memory;
+    g_call = nullptr;
+    g_left = nth;
+    g_failed = false;
+}
+
+void FailCall(const char* call, int error, long nth) {
+    g_kind = Kind::Call;
+    g_call = call;
+    g_error = error;
+    g_left = nth;
+    g_failed = false;
+}
+
+bool Disarm() {
+    g_kind = Kind::None;
+    return g_failed;
+}
+
+Use Now() {
+    return g_use;
+}
+
+std::size_t TakePeak() {
+    static std::size_t s_base = 0;
+    const std::size_t peak = g_peak - std::min(g_peak, s_base);
+    g_peak = s_base = g_bytes;
+    return peak;
+}
+
+} // namespace faults
+
+void* operator new(std::size_t size) {
+    return Allocate(size);
+}
+void* operator new[](std::size_t size) {
+    return Allocate(size);
+}
+void operator delete(void* memory) noexcept {
+    Release(memory);
+}
+void operator delete[](void* memory) noexcept {
+    Release(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    Release(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+    Release(memory);
+}
+
+// The linker sends the calls of the program's own code here (--wrap).
+extern "C" {
+
+void* __real_realloc(void* memory, std::size_t size);
+int __real_open(const char* path, int flags, ...);
+int __real_close(int fd);
+int __real_fcntl(int fd, int command, ...);
+ssize_t __real_read(int fd, void* buffer, std::size_t count);
+ssize_t __real_write(int fd, const void* buffer, std::size_t count);
+off_t __real_lseek(int fd, off_t offset, int whence);
+int __real_ftruncate(int fd, off_t length);
+int __real_fsync(int fd);
+int __real_flock(int fd, int operation);
+int __real_fstat(int fd, struct stat* status);
+int __real_rename(const char* from, const char* to);
+int __real_unlink(const char* path);
+
+void* __wrap_malloc(std::size_t size) {
+    return FailsNow(Kind::Memory, "") ? nullptr : __real_malloc(size);
+}
+void* __wrap_realloc(void* memory, std::size_t size) {
+    return FailsNow(Kind::Memory, "") ? nullptr : __real_realloc(memory, size);
+}
+
+int __wrap_open(const char* path, int flags, ...) {
+    va_list args;
+    va_start(args, flags);
+    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(args, unsigned) : 0;
+    va_end(args);
+    const int fd = Answer("open", [&] { return __real_open(path, flags, mode); });
+    g_use.files += fd >= 0 ? 1 : 0;
+    return fd;
+}
+
+// Closed in any case, as the system does it.
+int __wrap_close(int fd) {
+    const int closed = __real_close(fd);
+    g_use.files -= closed == 0 ? 1 : 0;
+    return Answer("close", [&] { return closed; });
+}
+
+int __wrap_fcntl(int fd, int command, ...) {
+    va_list args;
+    va_start(args, command);
+    void* const argument = va_arg(args, void*);
+    va_end(args);
+    const int result = Answer("fcntl", [&] { return __real_fcntl(fd, command, argument); });
+    g_use.files += command == F_DUPFD_CLOEXEC && result >= 0 ? 1 : 0;
+    return result;
+}
+
+ssize_t __wrap_read(int fd, void* buffer, std::size_t count) {
+    if (g_error == 0 && FailsNow(Kind::Call, "read"))
+        count = (count + 1) / 2;
+    else if (g_error != 0)
+        return Answer("read", [&] { return __real_read(fd, buffer, count); });
+    return __real_read(fd, buffer, count);
+}
+
+ssize_t __wrap_write(int fd, const void* buffer, std::size_t count) {
+    if (g_error == 0 && FailsNow(Kind::Call, "write"))
+        count = (count + 1) / 2;
+    else if (g_error != 0)
+        return Answer("write", [&] { return __real_write(fd, buffer, count); });
+    return __real_write(fd, buffer, count);
+}
+
+off_t __wrap_lseek(int fd, off_t offset, int whence) {
+    return Answer("lseek", [&] { return __real_lseek(fd, offset, whence); });
+}
+int __wrap_ftruncate(int fd, off_t length) {
+    return Answer("ftruncate", [&] { return __real_ftruncate(fd, length); });
+}
+int __wrap_fsync(int fd) {
+    return Answer("fsync", [&] { return __real_fsync(fd); });
+}
+int __wrap_flock(int fd, int operation) {
+    return Answer("flock", [&] { return __real_flock(fd, operation); });
+}
+int __wrap_fstat(int fd, struct stat* status) {
+    return Answer("fstat", [&] { return __real_fstat(fd, status); });
+}
+int __wrap_rename(const char* from, const char* to) {
+    return Answer("rename", [&] { return __real_rename(from, to); });
+}
+int __wrap_unlink(const char* path) {
+    return Answer("unlink", [&] { return __real_unlink(path); });
+}
+}
