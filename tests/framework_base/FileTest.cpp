@@ -194,7 +194,7 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
 TEST_F(File, OnlyFilesOnDiskAreOpened) {
     for (const LPCTSTR name :
          {L"NUL", L"nul", L"CON", L"PRN", L"COM1", L"LPT1", L"CONIN$", L"CONOUT$", L"//./NUL",
-          LR"(\.\pipe\fieldkit)", LR"(\.\PhysicalDrive0)", LR"(\.\C:)", LR"(\?\C:)"}) {
+          LR"(\\.\pipe\fieldkit)", LR"(\\.\PhysicalDrive0)", LR"(\\.\C:)", LR"(\\?\C:)"}) {
         for (const UINT mode : {UINT{CFile::modeRead}, UINT{CFile::modeWrite}, kCreate}) {
             CFileException error;
             EXPECT_FALSE(CFile().Open(name, mode, &error)) << testing::PrintToString(name);
@@ -208,7 +208,7 @@ TEST_F(File, OnlyFilesOnDiskAreOpened) {
         file.Close();
         EXPECT_EQ("1", Text(Path(L"AUX.txt")));
     }
-    EXPECT_TRUE(file.Open(LR"(\?\)" + Path(L"long"), kCreate)) << "the form for long paths";
+    EXPECT_TRUE(file.Open(LR"(\\?\)" + Path(L"long"), kCreate)) << "the form for long paths";
 }
 #endif
 
