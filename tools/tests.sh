@@ -6,10 +6,11 @@ passed=0
 failed=0
 
 # run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
-# also what is no test program: speed, tutorial, package.
+# also what is no test program: proofs, speed, tutorial, package.
 run_tests() {
     local preset program found=
     if [[ -z $1 ]]; then
+        check_proofs
         count_instructions
         test_tutorial
         test_package

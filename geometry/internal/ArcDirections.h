@@ -2,7 +2,7 @@
 /// Which points of a circle an arc holds, told from directions instead of intersections.
 #pragma once
 
-#include "geometry/Constants.h"
+#include "geometry/internal/Limits.h"
 
 #include <cmath>
 
@@ -15,22 +15,7 @@ namespace fieldkit::geometry {
 ///
 /// Geometrically that is the question whether p lies between s and e, or s, m and e, and three
 /// cross products answer it. IntersectLineLine gives the same answer where nothing is near a
-/// limit, which CanTell makes sure of. In units of r:
-/// - Start and point lie on the circle (kOnCircle) and no end's direction or its opposite is
-///   within kApart of the point's or of the other end's; the chord is no shorter than the root of
-///   kShortest. So no ends are shared. Spoke and chord, made longer as far as need be, meet at
-///   least cos(span / 2) >= 2^-7 away from the centre, 2^-10 from the point and 2^-7 from the
-///   chord's ends, on the side that the directions tell.
-/// - Chords and spoke are no nearer to an axis than kOblique...: no case of axis-parallel lines
-///   applies, slopes are below 64 and differ by 2^-7 where they meet between centre and point,
-///   and 2^-10 along a line are 2^-16 of a coordinate at least.
-/// - With coordinates below kNear = 2^11 the meeting point's rounding errors stay below
-///   2^21 * 2^14 * 2^-53 = 2^-18: those of the numerator (two slopes of 192 last digits times a
-///   coordinate, products of 2^17), divided by the difference of the slopes (2^7), multiplied
-///   by a slope (2^6), with a factor of 2 for those of the rest. Where the slopes differ by less,
-///   the point is further away in the same measure.
-/// - The middle is only used for its direction and for the chords' slopes. That it is taken
-///   from the chord s-e, and not from the angles, changes it by some 2^-13.
+/// limit, which CanTell makes sure of; docs/exactness.md has the proof.
 class CArcDirections {
 public:
     CArcDirections(double sx, double sy, double ex, double ey, double cx, double cy, double r)
@@ -59,8 +44,8 @@ public:
     /// Whether that is what the intersection itself says, at the tolerance t.
     bool CanTell(double x, double y, double t) const {
         const Spoke p = {x - m_dCx, y - m_dCy};
-        return m_bPlain & (t < kOnCircle) & (t < m_dR * kOnCircle) & IsOnCircle(p) &
-               IsOblique(p, kObliqueSpoke) & IsApart(m_Start, p) & IsApart(m_Middle, p) & IsApart(m_End, p);
+        return m_bPlain & (t < kSmall) & (t < m_dR * kSmall) & IsOnCircle(p) & IsOblique(p, kObliqueSpoke) &
+               IsApart(m_Start, p) & IsApart(m_Middle, p) & IsApart(m_End, p);
     }
 
 private:
@@ -68,14 +53,6 @@ private:
         double x;
         double y;
     };
-
-    static constexpr double kOnCircle = 1.0 / 16384;
-    static constexpr double kApart = 1.0 / 64;
-    static constexpr double kShortest = 1.0 / 16;
-    static constexpr double kObliqueChord = 1.0 / 32;
-    static constexpr double kObliqueSpoke = 1.0 / 64;
-    static constexpr double kNear = 2048;
-    static constexpr double kSurelyAlive = 2 * kAngleDeadBand;
 
     static double Cross(Spoke a, Spoke b) { return a.x * b.y - a.y * b.x; }
     bool IsApart(Spoke a, Spoke b) const { return std::fabs(Cross(a, b)) > m_dR * m_dR * kApart; }

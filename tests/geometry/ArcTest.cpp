@@ -154,15 +154,18 @@ TEST(ArcConstruction, TangentsMeetAtOneCornerOrTwo) {
     }
 }
 
-// The last three could be halved for ever: their ends are too near the centre to have a direction.
+// Three could be halved for ever: their ends are too near the centre to have a direction. Of the
+// last one's cross product one half overflows.
 TEST(ArcConstruction, FullTurnHasNoCorner) {
     const struct {
         double start[2], end[2];
-    } cases[] = {{{1, 0}, {1, 0}},
-                 {{1, 1}, {4, 4}},
-                 {{0, 0}, {0, 0}},
-                 {{0.01, 0.01}, {-0.01, 0.01}},
-                 {{0, 0}, {1, 0}}};
+    } cases[] = {
+        {{1, 0}, {1, 0}},
+        {{1, 1}, {4, 4}},
+        {{0, 0}, {0, 0}},
+        {{0.01, 0.01}, {-0.01, 0.01}},
+        {{0, 0}, {1, 0}},
+        {{0x1.9480583abdfb6p+511, 0x1.9d8dbb3a5bde4p+511}, {0x1.3cf0d4f48e39p+512, 0x1.440895906bb2cp+512}}};
     for (const auto& c : cases) {
         CVector p1;
         CVector p2;
