@@ -1,5 +1,7 @@
 #include "Module.h"
 
+#include <afxwin.h>
+
 namespace {
 
 HMODULE ModuleOfThisCode(DWORD flags) {
@@ -8,6 +10,11 @@ HMODULE ModuleOfThisCode(DWORD flags) {
     ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | flags, &anchor, &module);
     return module;
 }
+
+struct NewHandler {
+    NewHandler() { AfxInstallNewHandler(); }
+};
+const NewHandler g_newHandler;
 
 } // namespace
 

@@ -211,7 +211,16 @@ void PanelWindow::Tell(HWND window) {
 // --- Messages --------------------------------------------------------------------------------
 
 LRESULT CALLBACK PanelWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return OfThisThread().OnMessage(window, message, wParam, lParam);
+    // An exception must not travel through the system's frames.
+    try {
+        return OfThisThread().OnMessage(window, message, wParam, lParam);
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) { // memory has run out: the panel does without
+    }
+    if (message == WM_PAINT)
+        ::ValidateRect(window, nullptr);
+    return 0;
 }
 
 LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -239,12 +248,7 @@ LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        try {
-            OnPaint();
-        } catch (CException* e) { // the system is out of memory; it must not see an exception
-            e->Delete();
-            ::ValidateRect(window, nullptr);
-        }
+        OnPaint();
         return 0;
     case WM_ANNOUNCE:
         Watch();

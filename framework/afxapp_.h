@@ -31,8 +31,15 @@ public:
     /// Whether OnIdle shall be called again after a message. Here: not after paint and timer
     /// messages, nor after mouse moves on the spot.
     virtual BOOL IsIdleMessage(MSG* pMsg);
-    /// An exception left a window procedure: tells the user and deletes it.
+    /// An exception came out of a message handler or another function that the system calls. One of
+    /// the standard library comes as a CMemoryException (std::bad_alloc) or with its own text. Here:
+    /// tells the user, unless it is a CUserException or another box of this kind is still open, and
+    /// deletes it. @return what the window procedure answers
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+
+protected:
+    CPoint m_ptCursorLast{-1, -1}; ///< Where the last mouse move was, for IsIdleMessage.
+    UINT m_nMsgLast = 0;           ///< Which of the two moves it was.
 };
 
 /// The application: one static object of a class derived from it in each program.

@@ -84,6 +84,8 @@ public:
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     void PostNcDestroy() override;
+    /// Ends the sheet with -1.
+    void OnInitFailed() override;
 
     /// Runs the page's OnInitDialog.
     afx_msg LRESULT OnInitPage(WPARAM wParam, LPARAM lParam);
@@ -194,6 +196,7 @@ protected:
     /// The owner that the sheet was constructed with.
     CWnd* m_pParentWnd = nullptr;
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 

@@ -18,6 +18,7 @@
 #include "afxgdi_.h"
 #include "afxwnd_.h"
 #include "afxapp_.h"
+#include "afxcall_.h"
 #include "afxdlg_.h"
 #include "afxctl_.h"
 #include "afxdd_.h"

@@ -51,6 +51,7 @@ enum AFX_WND_FLAGS : UINT {
     WF_OKBUTTON = 0x0020,      ///< The title bar carries an OK button.
     WF_SHOWSET = 0x0040,       ///< ShowWindow has been called for it.
     WF_CAPTIONACTIVE = 0x0080, ///< The title bar is drawn as that of the active window.
+    WF_INITFAILED = 0x0100,    ///< An exception came out of its initialisation: it must go.
 };
 
 /// Option flags of CWnd::RunModalLoop.
@@ -328,6 +329,9 @@ protected:
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Last call for a window: the object may delete itself.
     virtual void PostNcDestroy();
+    /// An exception came out of WM_INITDIALOG; the user has been told. Here: whoever creates the
+    /// dialog destroys it.
+    virtual void OnInitFailed();
     /// Override it with DDX_ and DDV_ calls; UpdateData calls it. Here: nothing.
     virtual void DoDataExchange(CDataExchange* pDX);
     /// Which pen gestures a point (client coordinates) takes. Here: no press-and-hold, so

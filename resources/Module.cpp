@@ -6,6 +6,7 @@ static AFX_EXTENSION_MODULE g_module;
 
 BOOL APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     if (dwReason == DLL_PROCESS_ATTACH) {
+        AfxInstallNewHandler();
         if (!AfxInitExtensionModule(g_module, hInstance))
             return FALSE;
         new CDynLinkLibrary(g_module); // in the framework's chain until AfxTermExtensionModule

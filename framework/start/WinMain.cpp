@@ -3,6 +3,7 @@
 #include "afxwin.h"
 
 int APIENTRY WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR, int nCmdShow) {
+    AfxInstallNewHandler();
     // The command line without the program's own name, which may stand in quotes.
     LPTSTR pszCommandLine = ::GetCommandLine();
     const TCHAR chEnd = *pszCommandLine == _T('"') ? _T('"') : _T(' ');

@@ -1,6 +1,7 @@
 // The application and its thread.
 #include "WndProc.h"
 
+#include <mutex>
 #include <set>
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
@@ -49,7 +50,10 @@ BOOL CWinThread::PumpMessage() {
         return FALSE;
     // The handlers may pump messages of their own, into m_msgCur.
     MSG msg = m_msgCur;
-    if (msg.message != WM_KICKIDLE && !PreTranslateMessage(&msg)) {
+    BOOL bTaken = TRUE; // by an exception, too
+    AfxCallGuarded(m_msgCur,
+                   [&] { return bTaken = msg.message == WM_KICKIDLE || PreTranslateMessage(&msg); });
+    if (!bTaken) {
         ::TranslateMessage(&msg);
         ::DispatchMessage(&msg);
     }
@@ -71,30 +75,14 @@ BOOL CWinThread::OnIdle(LONG) {
 BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
     // Neither a pen that rests nor a blinking caret makes anything worth looking at.
     constexpr UINT WM_SYSTIMER = 0x0118;
-    static CPoint ptLast(-1, -1);
-    static UINT nLast = 0;
     if (pMsg->message == WM_MOUSEMOVE || pMsg->message == WM_NCMOUSEMOVE) {
-        if (ptLast == pMsg->pt && nLast == pMsg->message)
+        if (m_ptCursorLast == pMsg->pt && m_nMsgLast == pMsg->message)
             return FALSE;
-        ptLast = pMsg->pt;
-        nLast = pMsg->message;
+        m_ptCursorLast = pMsg->pt;
+        m_nMsgLast = pMsg->message;
         return TRUE;
     }
     return pMsg->message != WM_PAINT && pMsg->message != WM_SYSTIMER;
-}
-
-LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
-    CString strMessage;
-    if (!e->GetErrorMessage(strMessage.GetBuffer(512), 512))
-        strMessage = _T("");
-    strMessage.ReleaseBuffer();
-    const bool bCancelled = e->IsKindOf(RUNTIME_CLASS(CUserException)); // the user knows already
-    e->Delete();
-    if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, nullptr); // or it would come again for ever
-    if (!bCancelled)
-        AfxMessageBox(strMessage, MB_OK | MB_ICONSTOP);
-    return pMsg->message == WM_CREATE ? -1 : 0;
 }
 
 CWinThread* AFXAPI AfxGetThread() {
@@ -103,11 +91,7 @@ CWinThread* AFXAPI AfxGetThread() {
 }
 
 BOOL AFXAPI AfxPumpMessage() {
-    if (CWinThread* pThread = AfxGetThread())
-        return pThread->PumpMessage();
-    // A program without an application object: a thread object for the time of the loop's life.
-    static thread_local CWinThread thread;
-    return thread.PumpMessage();
+    return CThreadState::Get().PumpThread().PumpMessage();
 }
 
 void AFXAPI AfxPostQuitMessage(int nExitCode) {
@@ -170,16 +154,21 @@ LPCTSTR AFXAPI AfxGetAppName() {
     return g_pApp != nullptr ? g_pApp->m_pszAppName : _T("");
 }
 
+static int RunThread(CWinThread& thread) {
+    if (thread.InitInstance())
+        return thread.Run();
+    if (thread.m_pMainWnd != nullptr)
+        thread.m_pMainWnd->DestroyWindow();
+    return thread.ExitInstance();
+}
+
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
     CWinThread* pThread = AfxGetThread();
-    if (pThread == nullptr)
-        return -1;
-    if (pThread->InitInstance())
-        return pThread->Run();
-    if (pThread->m_pMainWnd != nullptr)
-        pThread->m_pMainWnd->DestroyWindow();
-    return pThread->ExitInstance();
+    int nResult = -1;
+    if (pThread != nullptr)
+        AfxCallGuarded({}, [&] { return nResult = RunThread(*pThread); });
+    return nResult;
 }
 
 // --- Message boxes -------------------------------------------------------------------------------
@@ -212,22 +201,22 @@ int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
 
 // --- Wait cursor -----------------------------------------------------------------------------------
 
-static int g_nWaitDepth = 0;
-static HCURSOR g_hCursorBefore = nullptr;
-
+// Each thread with windows has its own cursor.
 void CCmdTarget::BeginWaitCursor() {
+    CThreadState& state = CThreadState::Get();
     const HCURSOR hCursor = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-    if (g_nWaitDepth++ == 0)
-        g_hCursorBefore = hCursor;
+    if (state.m_nWaitDepth++ == 0)
+        state.m_hCursorBefore = hCursor;
 }
 
 void CCmdTarget::EndWaitCursor() {
-    if (g_nWaitDepth > 0 && --g_nWaitDepth == 0)
-        ::SetCursor(g_hCursorBefore);
+    CThreadState& state = CThreadState::Get();
+    if (state.m_nWaitDepth > 0 && --state.m_nWaitDepth == 0)
+        ::SetCursor(state.m_hCursorBefore);
 }
 
 void CCmdTarget::RestoreWaitCursor() {
-    if (g_nWaitDepth > 0)
+    if (CThreadState::Get().m_nWaitDepth > 0)
         ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
 }
 
@@ -249,6 +238,8 @@ void CWaitCursor::Restore() {
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     // The name says it all, so that equal classes are registered once.
     static std::set<CString> names;
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
     CString strName;
     strName.Format(_T("Afx:%p:%x:%p:%p:%p"), static_cast<void*>(AfxGetInstanceHandle()), nClassStyle,
                    static_cast<void*>(hCursor), static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));

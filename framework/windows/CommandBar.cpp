@@ -1,3 +1,4 @@
+#include "SelectScope.h"
 #include "Sip.h"
 
 IMPLEMENT_DYNAMIC(CCeCommandBar, CWnd)
@@ -24,15 +25,16 @@ HIMAGELIST CreateSipImage() {
     dc.CreateCompatibleDC(&screen);
     CBitmap bitmap;
     bitmap.CreateCompatibleBitmap(&screen, ICON_SIZE, ICON_SIZE);
-    CBitmap* pOldBitmap = dc.SelectObject(&bitmap);
-    dc.FillSolidRect(0, 0, ICON_SIZE, ICON_SIZE, TRANSPARENT_COLOR);
-    dc.FillSolidRect(0, 3, 16, 11, RGB(0, 0, 0));
-    dc.FillSolidRect(1, 4, 14, 9, RGB(255, 255, 255));
-    for (int y = 5; y <= 9; y += 2)
-        for (int x = 2; x <= 13; x += 2)
-            dc.SetPixel(x, y, RGB(0, 0, 0));
-    dc.FillSolidRect(4, 11, 8, 1, RGB(0, 0, 0));
-    dc.SelectObject(pOldBitmap);
+    {
+        const CSelectScope selected(dc, bitmap.m_hObject);
+        dc.FillSolidRect(0, 0, ICON_SIZE, ICON_SIZE, TRANSPARENT_COLOR);
+        dc.FillSolidRect(0, 3, 16, 11, RGB(0, 0, 0));
+        dc.FillSolidRect(1, 4, 14, 9, RGB(255, 255, 255));
+        for (int y = 5; y <= 9; y += 2)
+            for (int x = 2; x <= 13; x += 2)
+                dc.SetPixel(x, y, RGB(0, 0, 0));
+        dc.FillSolidRect(4, 11, 8, 1, RGB(0, 0, 0));
+    }
     const HIMAGELIST hImages = ::ImageList_Create(ICON_SIZE, ICON_SIZE, ILC_COLOR24 | ILC_MASK, 1, 1);
     ::ImageList_AddMasked(hImages, static_cast<HBITMAP>(bitmap.m_hObject), TRANSPARENT_COLOR);
     return hImages;

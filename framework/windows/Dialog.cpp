@@ -4,6 +4,9 @@
 #include "ModalOwner.h"
 #include "WndProc.h"
 
+#include <memory>
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 // clang-format off
@@ -25,16 +28,17 @@ INT_PTR CALLBACK AfxDialogAccess::DlgProc(HWND hWnd, UINT message, WPARAM, LPARA
     auto* pDialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hWnd));
     if (pDialog == nullptr)
         return TRUE;
-    try {
-        return pDialog->OnInitDialog();
-    } catch (CException* e) { // must not travel through the system's frames
-        if (CWinThread* pThread = AfxGetThread())
-            pThread->ProcessWndProcException(e, CWnd::GetCurrentMessage());
-        else
-            e->Delete();
-        pDialog->EndDialog(-1);
-        return FALSE;
-    }
+    // An exception must not travel through the system's frames.
+    bool bDone = false;
+    const MSG msg = *CWnd::GetCurrentMessage();
+    const LRESULT lResult = AfxCallGuarded(msg, [&] {
+        const BOOL bFocus = pDialog->OnInitDialog();
+        bDone = true;
+        return bFocus;
+    });
+    if (!bDone && CWnd::FromHandlePermanent(hWnd) == pDialog)
+        pDialog->OnInitFailed();
+    return lResult;
 }
 
 // --- Construction -----------------------------------------------------------------------------
@@ -102,14 +106,22 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
         return FALSE;
     if (copy.HasCaptionOkButton())
         m_nFlags |= WF_OKBUTTON;
-    m_nFlags &= ~static_cast<UINT>(WF_SHOWSET);
+    m_nFlags &= ~static_cast<UINT>(WF_SHOWSET | WF_INITFAILED);
     CCreateHook hook(this);
     const HWND hWnd = ::CreateDialogIndirectParam(AfxGetInstanceHandle(), copy.Get(), HandleOf(pParentWnd),
                                                   AfxDialogAccess::DlgProc, 0);
-    if (!hook.Unhook())
+    if (!hook.Unhook()) {
+        if (hWnd != nullptr)
+            ::DestroyWindow(hWnd); // the hook could not be set
         PostNcDestroy();
+        return FALSE;
+    }
     if (hWnd == nullptr || FromHandlePermanent(hWnd) != this) // OnInitDialog may have destroyed it
         return FALSE;
+    if (m_nFlags & WF_INITFAILED) {
+        DestroyWindow();
+        return FALSE;
+    }
     const bool bEnding = m_nFlags & WF_MODALLOOP && !(m_nFlags & WF_CONTINUEMODAL);
     if (copy.WasVisible() && !(m_nFlags & WF_SHOWSET) && !bEnding)
         ShowWindow(SW_SHOWNORMAL);
@@ -154,17 +166,15 @@ BOOL CDialog::OnInitDialog() {
 
 void CDialog::EnterFullScreen() {
     CDeviceCaption::EnterFullScreen(this);
-    auto* pBar = new CCeCommandBar;
-    delete m_pWndEmptyCB;
-    m_pWndEmptyCB = pBar;
+    auto pBar = std::make_unique<CCeCommandBar>();
     pBar->Create(this);
+    delete std::exchange(m_pWndEmptyCB, pBar.release());
 }
 
 void CDialog::OnSetFont(CFont*) {}
 
 void CDialog::PostNcDestroy() {
-    delete m_pWndEmptyCB;
-    m_pWndEmptyCB = nullptr;
+    delete std::exchange(m_pWndEmptyCB, nullptr);
     CWnd::PostNcDestroy();
 }
 

@@ -5,9 +5,9 @@
 #include "afxwin.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <unordered_map>
-#include <vector>
 
 /// A handle map of one kind for one thread.
 ///
@@ -42,18 +42,18 @@ public:
             return nullptr;
         if (Object* pObject = Permanent(handle))
             return pObject;
-        auto& slot = m_temporary[handle];
-        if (slot.pObject == nullptr) {
-            slot.pObject.reset(make());
-            slot.pObject.get()->*m_pMember = handle;
-            slot.nDepth = nDepth;
+        auto it = m_temporary.find(handle);
+        if (it == m_temporary.end()) {
+            // In the map before it has the handle: if there is no memory, it must not release that.
+            it = m_temporary.emplace(handle, CSlot{std::unique_ptr<Object>(make()), nDepth}).first;
+            it->second.pObject.get()->*m_pMember = handle;
         }
-        slot.nDepth = std::min(slot.nDepth, nDepth);
-        return slot.pObject.get();
+        it->second.nDepth = std::min(it->second.nDepth, nDepth);
+        return it->second.pObject.get();
     }
 
     void DeleteTemporary(int nDepth) {
-        std::erase_if(m_orphans, [nDepth](const CSlot& slot) { return slot.nDepth >= nDepth; });
+        std::erase_if(m_orphans, [nDepth](const auto& orphan) { return orphan.second.nDepth >= nDepth; });
         for (auto it = m_temporary.begin(); it != m_temporary.end();) {
             if (it->second.nDepth < nDepth) {
                 ++it;
@@ -77,13 +77,12 @@ private:
             return;
         it->second.pObject.get()->*m_pMember = nullptr;
         // Somebody up the stack may still hold the object: keep it, without a handle,
-        // until the loop is idle. Only then is its slot free for a new use of the handle.
-        m_orphans.push_back({std::move(it->second.pObject), it->second.nDepth});
-        m_temporary.erase(it);
+        // until the loop is idle. Moved as a whole, since a window that goes must not need memory.
+        m_orphans.insert(m_temporary.extract(it));
     }
 
     Handle Object::*m_pMember;
     std::unordered_map<Handle, Object*> m_permanent;
-    std::unordered_map<Handle, CSlot> m_temporary;
-    std::vector<CSlot> m_orphans;
+    std::map<Handle, CSlot> m_temporary;
+    std::multimap<Handle, CSlot> m_orphans; ///< Their handles are gone, or another's.
 };

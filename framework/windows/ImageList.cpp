@@ -7,14 +7,6 @@ IMPLEMENT_DYNCREATE(CImageList, CObject)
 
 namespace {
 
-using CImageListMap = CHandleMap<CImageList, HIMAGELIST>;
-
-/// Never destroyed, as the thread's other maps.
-CImageListMap& ImageLists() {
-    thread_local auto* const pMap = new CImageListMap(&CImageList::m_hImageList);
-    return *pMap;
-}
-
 HBITMAP BitmapOf(const CBitmap* pBitmap) {
     return pBitmap != nullptr ? static_cast<HBITMAP>(pBitmap->m_hObject) : nullptr;
 }
@@ -33,16 +25,17 @@ HIMAGELIST CImageList::GetSafeHandle() const {
 }
 
 CImageList* CImageList::FromHandle(HIMAGELIST hImageList) {
-    return ImageLists().FromHandle(hImageList, CThreadState::Get().m_nModalDepth,
-                                   [] { return new CImageList; });
+    CThreadState& state = CThreadState::Get();
+    return state.m_imageLists.FromHandle(hImageList, state.m_nModalDepth, [] { return new CImageList; });
 }
 
 CImageList* CImageList::FromHandlePermanent(HIMAGELIST hImageList) {
-    return ImageLists().Permanent(hImageList);
+    return CThreadState::Get().m_imageLists.Permanent(hImageList);
 }
 
 void CImageList::DeleteTempMap() {
-    ImageLists().DeleteTemporary(CThreadState::Get().m_nModalDepth);
+    CThreadState& state = CThreadState::Get();
+    state.m_imageLists.DeleteTemporary(state.m_nModalDepth);
 }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList) {
@@ -51,13 +44,13 @@ BOOL CImageList::Attach(HIMAGELIST hImageList) {
     if (m_hImageList != hImageList)
         DeleteImageList();
     m_hImageList = hImageList;
-    ImageLists().SetPermanent(hImageList, this);
+    CThreadState::Get().m_imageLists.SetPermanent(hImageList, this);
     return TRUE;
 }
 
 HIMAGELIST CImageList::Detach() {
     if (m_hImageList != nullptr)
-        ImageLists().Remove(m_hImageList);
+        CThreadState::Get().m_imageLists.Remove(m_hImageList);
     return std::exchange(m_hImageList, nullptr);
 }
 

@@ -19,12 +19,15 @@ struct AfxPageAccess {
 
     /// The next window that is created is the page's.
     static UINT CALLBACK OnCallback(HWND, UINT uMsg, LPPROPSHEETPAGE ppsp) {
-        if (uMsg == PSPCB_CREATE) {
-            auto* pPage = reinterpret_cast<CPropertyPage*>(ppsp->lParam);
-            pPage->m_pHook.reset();
+        if (uMsg != PSPCB_CREATE)
+            return TRUE;
+        auto* pPage = reinterpret_cast<CPropertyPage*>(ppsp->lParam);
+        pPage->m_pHook.reset();
+        AfxCallGuarded({}, [pPage] {
             pPage->m_pHook = std::make_unique<CCreateHook>(pPage);
-        }
-        return TRUE;
+            return 0;
+        });
+        return pPage->m_pHook != nullptr;
     }
 };
 
@@ -72,6 +75,18 @@ LRESULT CPropertyPage::OnInitPage(WPARAM, LPARAM) {
 void CPropertyPage::PostNcDestroy() {
     m_pHook.reset(); // no WM_INITDIALOG comes if one of the controls cannot be created
     CDialog::PostNcDestroy();
+}
+
+/// A page that is only half made must not be applied: the whole sheet goes.
+void CPropertyPage::OnInitFailed() {
+    CPropertySheet* pSheet = Sheet();
+    if (pSheet == nullptr)
+        return;
+    pSheet->OnInitFailed();
+    if (AfxWndAccess::Flags(pSheet) & WF_MODALLOOP)
+        pSheet->EndDialog(-1);
+    else
+        pSheet->PostMessage(WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED));
 }
 
 CPropertySheet* CPropertyPage::Sheet() const {

@@ -4,6 +4,7 @@
 #include "afxdlgs.h"
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
@@ -100,7 +101,7 @@ BOOL CPropertySheet::CreateSheet(HWND hWndOwner) {
     header.ppsp = pages.data();
     header.pfnCallback = AfxSheetAccess::OnCallback;
 
-    m_nFlags &= ~static_cast<UINT>(WF_SHOWSET | WF_OKBUTTON);
+    m_nFlags &= ~static_cast<UINT>(WF_SHOWSET | WF_OKBUTTON | WF_INITFAILED);
     const bool bChild = m_dwStyle != STYLE_DEFAULT && (m_dwStyle & WS_CHILD);
     if (m_bFullScreen && !bChild && !(header.dwFlags & PSH_WIZARD))
         m_nFlags |= WF_OKBUTTON; // now already, so that it can be hidden before the sheet is full screen
@@ -108,7 +109,19 @@ BOOL CPropertySheet::CreateSheet(HWND hWndOwner) {
     ::PropertySheet(&header);
     if (!hook.Unhook())
         PostNcDestroy();
+    if (m_hWnd != nullptr && (m_nFlags & WF_INITFAILED))
+        DestroyWindow();
     return m_hWnd != nullptr;
+}
+
+/// A page that cannot be made leaves nothing that still waits for its window.
+LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND hWnd = m_hWnd;
+    const LRESULT lResult = CWnd::WindowProc(message, wParam, lParam);
+    if (FromHandlePermanent(hWnd) == this)
+        for (CPropertyPage* pPage : m_pages)
+            pPage->m_pHook.reset();
+    return lResult;
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
@@ -124,8 +137,7 @@ BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
 }
 
 void CPropertySheet::PostNcDestroy() {
-    delete m_pWndEmptyCB;
-    m_pWndEmptyCB = nullptr;
+    delete std::exchange(m_pWndEmptyCB, nullptr);
     CWnd::PostNcDestroy();
 }
 

@@ -3,6 +3,8 @@
 #include "DeviceCaption.h"
 #include "afxdlgs.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int WIZARD_BUTTON_HEIGHT = 22;
@@ -55,10 +57,9 @@ void CPropertySheet::EnterFullScreen() {
     if (!bOkButton)
         CDeviceCaption::ShowOkButton(this, FALSE);
     if (::GetDlgItem(m_hWnd, static_cast<int>(AFX_IDW_TOOLBAR)) == nullptr) {
-        auto* pBar = new CCeCommandBar;
-        delete m_pWndEmptyCB;
-        m_pWndEmptyCB = pBar;
+        auto pBar = std::make_unique<CCeCommandBar>();
         pBar->Create(this);
+        delete std::exchange(m_pWndEmptyCB, pBar.release());
     }
     if (!(m_psh.dwFlags & PSH_WIZARD))
         HideButtons();

@@ -1,6 +1,7 @@
 #include "SipRooms.h"
 
 #include "Sip.h"
+#include "ThreadState.h"
 
 #include <algorithm>
 
@@ -23,9 +24,7 @@ void Move(const std::vector<CSipRoom::CMove>& moves) {
 } // namespace
 
 CSipRooms& CSipRooms::OfThread() {
-    // Never destroyed, like the thread's other state: static dialogs may still use it.
-    thread_local auto* const pRooms = new CSipRooms;
-    return *pRooms;
+    return CThreadState::Get().m_sipRooms;
 }
 
 BOOL CSipRooms::OnMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -67,7 +66,10 @@ void CSipRooms::FollowLater() {
 
 void CALLBACK CSipRooms::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (::GetCapture() == nullptr)
-        OfThread().Follow();
+        AfxCallGuarded({}, [] {
+            OfThread().Follow();
+            return 0;
+        });
 }
 
 void CSipRooms::Follow() {

@@ -1,21 +1,66 @@
 #include "ThreadState.h"
 
-#include "afxcmn.h"
-
 #include <utility>
 
+// One slot for all of it: the compiler's thread_local is emulated here and seven times as slow.
+namespace {
+
+/// Made with the first object that needs it, which may be an application's static one.
+DWORD Slot() {
+    static const DWORD nSlot = ::TlsAlloc();
+    return nSlot;
+}
+
+CThreadState* Current() {
+    const DWORD nError = ::GetLastError(); // taking the value clears it
+    auto* pState = static_cast<CThreadState*>(::TlsGetValue(Slot()));
+    ::SetLastError(nError);
+    return pState;
+}
+
+/// The main thread has no such end: an application's static objects (its CWinApp, its dialogs)
+/// still use the state when the process is already going down.
+void NTAPI OnThread(PVOID, DWORD dwReason, PVOID) {
+    if (dwReason != DLL_THREAD_DETACH)
+        return;
+    delete Current();
+    ::TlsSetValue(Slot(), nullptr);
+}
+
+struct CNewHandler {
+    CNewHandler() { AfxInstallNewHandler(); }
+};
+const CNewHandler g_newHandler;
+
+} // namespace
+
+// The linker gathers these pointers, and the system calls them; in a DLL as in a program.
+extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK FieldkitThreadCallback =
+    OnThread;
+
 CThreadState& CThreadState::Get() {
-    // Never destroyed: an application's static objects (its CWinApp, its dialogs) still use it
-    // when the thread's own objects are gone already.
-    thread_local auto* const pState = new CThreadState;
+    if (CThreadState* pState = Current())
+        return *pState;
+    auto* pState = new CThreadState;
+    ::TlsSetValue(Slot(), pState);
     return *pState;
+}
+
+CWinThread& CThreadState::PumpThread() {
+    if (m_pThread != nullptr)
+        return *m_pThread;
+    if (m_pOwnThread == nullptr) {
+        m_pOwnThread = std::make_unique<CWinThread>();
+        m_pThread = nullptr; // to everybody else the thread still has none
+    }
+    return *m_pOwnThread;
 }
 
 void CThreadState::DeleteTemporaries() {
     m_windows.DeleteTemporary(m_nModalDepth);
     m_contexts.DeleteTemporary(m_nModalDepth);
     m_gdiObjects.DeleteTemporary(m_nModalDepth);
-    CImageList::DeleteTempMap();
+    m_imageLists.DeleteTemporary(m_nModalDepth);
 }
 
 CModalScope::CModalScope(CWnd* pWnd) : m_pWnd(pWnd) {

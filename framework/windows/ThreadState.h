@@ -2,6 +2,8 @@
 #pragma once
 
 #include "HandleMap.h"
+#include "SipRooms.h"
+#include "afxcmn.h"
 
 class CModalScope;
 
@@ -12,6 +14,8 @@ public:
     CHandleMap<CWnd, HWND> m_windows{&CWnd::m_hWnd};
     CHandleMap<CDC, HDC> m_contexts{&CDC::m_hDC};
     CHandleMap<CGdiObject, HGDIOBJ> m_gdiObjects{&CGdiObject::m_hObject};
+    CHandleMap<CImageList, HIMAGELIST> m_imageLists{&CImageList::m_hImageList};
+    CSipRooms m_sipRooms;
 
     /// The message being handled; what Default() replays.
     MSG m_msgLast = {};
@@ -24,9 +28,18 @@ public:
     /// The control whose data is being exchanged; keeps DDX from being entered twice.
     HWND m_hLockoutNotifyWindow = nullptr;
     CWinThread* m_pThread = nullptr;
+    /// The user is being told of an exception.
+    bool m_bTelling = false;
+    int m_nWaitDepth = 0;              ///< Wait cursors, one inside the other.
+    HCURSOR m_hCursorBefore = nullptr; ///< The cursor before the first of them.
 
+    /// The object whose loop the thread runs: one of the framework's own in a thread without.
+    CWinThread& PumpThread();
     /// Deletes the temporary objects made at the present depth or deeper.
     void DeleteTemporaries();
+
+private:
+    std::unique_ptr<CWinThread> m_pOwnThread;
 };
 
 /// The time of a modal window. Temporary objects made in it end with it; those that the

@@ -1,6 +1,9 @@
 // CWnd: the items of dialogs and their data.
 #include "DialogKeys.h"
+#include "Uncaught.h"
 #include "WndProc.h"
+
+#include <utility>
 
 void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString) {
     ::SetDlgItemText(m_hWnd, nID, lpszString);
@@ -87,27 +90,36 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
+namespace {
+
+/// Lets the control be another one while it exists.
+class CLockout {
+public:
+    CLockout(HWND& hLockout, HWND hWnd) : m_hLockout(hLockout), m_hOuter(std::exchange(hLockout, hWnd)) {}
+    ~CLockout() { m_hLockout = m_hOuter; }
+    CLockout(const CLockout&) = delete;
+    CLockout& operator=(const CLockout&) = delete;
+
+private:
+    HWND& m_hLockout;
+    HWND m_hOuter;
+};
+
+} // namespace
+
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     // While values are written, the controls' own change notifications are not the user's.
     HWND& hLockout = CThreadState::Get().m_hLockoutNotifyWindow;
-    const HWND hOuter = hLockout;
-    if (hOuter == m_hWnd)
+    if (hLockout == m_hWnd)
         return FALSE; // an exchange that is under way may not be started again from inside
-    hLockout = m_hWnd;
+    const CLockout lockout(hLockout, m_hWnd);
     BOOL bOk = FALSE;
     CDataExchange dx(this, bSaveAndValidate);
     try {
         DoDataExchange(&dx);
         bOk = TRUE;
-    } catch (CUserException* e) {
-        e->Delete(); // the user has been told
     } catch (CException* e) {
-        CString strMessage;
-        e->GetErrorMessage(strMessage.GetBuffer(512), 512);
-        strMessage.ReleaseBuffer();
-        e->Delete();
-        AfxMessageBox(strMessage, MB_OK | MB_ICONSTOP);
+        AfxTellException(e);
     }
-    hLockout = hOuter;
     return bOk;
 }

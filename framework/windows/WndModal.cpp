@@ -32,15 +32,11 @@ bool QueueIsEmpty() {
     return !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE);
 }
 
-bool IsIdleMessage() {
-    CWinThread* pThread = AfxGetThread();
-    return pThread == nullptr || pThread->IsIdleMessage(&pThread->m_msgCur);
-}
-
 } // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
     const CModalScope scope(this);
+    CWinThread& thread = CThreadState::Get().PumpThread();
     const HWND hWnd = m_hWnd;
     const HWND hWndParent = ::GetParent(hWnd);
     bool bShow = (dwFlags & MLF_SHOWONIDLE) && !(m_nFlags & WF_SHOWSET) && !(GetStyle() & WS_VISIBLE);
@@ -71,12 +67,12 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             onIdle();
             continue;
         }
-        if (!AfxPumpMessage()) { // WM_QUIT: end this loop, and let the outer ones see it too
-            AfxPostQuitMessage(static_cast<int>(AfxGetThread()->m_msgCur.wParam));
+        if (!thread.PumpMessage()) { // WM_QUIT: end this loop, and let the outer ones see it too
+            AfxPostQuitMessage(static_cast<int>(thread.m_msgCur.wParam));
             bQuit = true;
             break;
         }
-        if (IsIdleMessage()) {
+        if (thread.IsIdleMessage(&thread.m_msgCur)) {
             bIdle = true;
             lIdle = 0;
         }

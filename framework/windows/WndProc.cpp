@@ -29,12 +29,36 @@ private:
     MSG m_outer;
 };
 
-/// No exception may travel through the system's frames, so it ends here.
-LRESULT OnUncaught(CException* e, const MSG& msg) {
-    if (CWinThread* pThread = AfxGetThread())
-        return pThread->ProcessWndProcException(e, &msg);
-    e->Delete();
-    return msg.message == WM_CREATE ? -1 : 0;
+/// What has to be done for a message whose handler has thrown.
+void OnUncaught(HWND hWnd, UINT message, const CWnd* pWnd) {
+    CWnd* const pNow = CWnd::FromHandlePermanent(hWnd);
+    if (pNow == nullptr || pNow != pWnd)
+        return; // the handler has deleted it before
+    if (message == WM_INITDIALOG)
+        AfxWndAccess::OnInitFailed(pNow);
+    if (message == WM_NCDESTROY)
+        AfxWndAccess::OnNcDestroy(pNow); // or the object would keep the handle of another window
+}
+
+/// Attaches the object that waits for its window. @return false if it could not
+bool AttachNew(CWnd* pWnd, HWND hWnd) noexcept {
+    bool bDone = false;
+    const auto attach = [&] {
+        bDone = pWnd->Attach(hWnd);
+        if (bDone)
+            pWnd->PreSubclassWindow();
+    };
+    try {
+        attach();
+    } catch (CException* e) {
+        e->Delete();
+        bDone = false;
+    } catch (...) {
+        bDone = false;
+    }
+    if (!bDone)
+        pWnd->Detach();
+    return bDone;
 }
 
 } // namespace
@@ -44,16 +68,23 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     if (pWnd == nullptr)
         return ::DefWindowProc(hWnd, message, wParam, lParam);
     const CMessageScope scope(hWnd, message, wParam, lParam);
-    try {
-        return AfxWndAccess::WindowProc(pWnd, message, wParam, lParam);
-    } catch (CException* e) {
-        MSG msg = {};
-        msg.hwnd = hWnd;
-        msg.message = message;
-        msg.wParam = wParam;
-        msg.lParam = lParam;
-        return OnUncaught(e, msg);
-    }
+    MSG msg = {};
+    msg.hwnd = hWnd;
+    msg.message = message;
+    msg.wParam = wParam;
+    msg.lParam = lParam;
+    bool bDone = false;
+    const LRESULT lResult = AfxCallGuarded(msg, [&] {
+        const LRESULT lAnswer = AfxWndAccess::WindowProc(pWnd, message, wParam, lParam);
+        bDone = true;
+        return lAnswer;
+    });
+    if (!bDone)
+        AfxCallGuarded(msg, [&] {
+            OnUncaught(hWnd, message, pWnd);
+            return 0;
+        });
+    return lResult;
 }
 
 static LRESULT CALLBACK CreateHookProc(int nCode, WPARAM wParam, LPARAM lParam) {
@@ -65,8 +96,10 @@ static LRESULT CALLBACK CreateHookProc(int nCode, WPARAM wParam, LPARAM lParam) 
         !(::GetClassLong(hWnd, GCL_STYLE) & CS_IME)) {
         CWnd* pWnd = state.m_pWndInit;
         state.m_pWndInit = nullptr; // the first window is the one; its children are not
-        pWnd->Attach(hWnd);
-        pWnd->PreSubclassWindow();
+        if (!AttachNew(pWnd, hWnd)) {
+            state.m_pWndInit = pWnd; // it still waits, so its creation fails
+            return 1;                // no window without its object
+        }
         *AfxWndAccess::SuperProc(pWnd) = WindowProcOf(hWnd);
         SetWindowProc(hWnd, AfxWndProc);
     }
@@ -163,6 +196,10 @@ void CWnd::PreSubclassWindow() {}
 
 void CWnd::PostNcDestroy() {}
 
+void CWnd::OnInitFailed() {
+    m_nFlags |= WF_INITFAILED;
+}
+
 // --- Creation and destruction ----------------------------------------------------------
 
 CWnd::~CWnd() {
@@ -197,9 +234,12 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     const HWND hWnd = ::CreateWindowEx(cs.dwExStyle & ~WS_EX_CAPTIONOKBTN, cs.lpszClass, cs.lpszName,
                                        static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy, cs.hwndParent,
                                        cs.hMenu, cs.hInstance, cs.lpCreateParams);
-    if (!hook.Unhook())
-        PostNcDestroy(); // nothing was attached, so no WM_NCDESTROY can come
-    return hWnd != nullptr;
+    if (hook.Unhook())
+        return hWnd != nullptr;
+    if (hWnd != nullptr)
+        ::DestroyWindow(hWnd); // the hook could not be set
+    PostNcDestroy();           // nothing was attached, so no WM_NCDESTROY can come
+    return FALSE;
 }
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,

@@ -35,6 +35,8 @@ struct AfxWndAccess {
         return pWnd->WindowProc(message, wParam, lParam);
     }
     static WNDPROC* SuperProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
+    static void OnInitFailed(CWnd* pWnd) { pWnd->OnInitFailed(); }
     static UINT& Flags(CWnd* pWnd) { return pWnd->m_nFlags; }
     static int& ModalResult(CWnd* pWnd) { return pWnd->m_nModalResult; }
 };
