@@ -1,5 +1,8 @@
 #include "DeviceCaption.h"
 
+#include "DialogKeys.h"
+#include "SelectScope.h"
+
 #include <dwmapi.h>
 
 namespace {
@@ -237,7 +240,34 @@ void CDeviceCaption::Track(CWnd* pWnd, Button button) {
     if (button == Close)
         pWnd->PostMessage(WM_SYSCOMMAND, SC_CLOSE);
     else
-        pWnd->PostMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED));
+        PressOk(pWnd);
+}
+
+/// The button takes the focus for as long as IDOK is handled, as one in the dialog would: what a
+/// field does when it is left has then been done.
+void CDeviceCaption::PressOk(CWnd* pWnd) {
+    const HWND hWnd = pWnd->m_hWnd;
+    const HWND hFocus = ::GetFocus();
+    const auto isOpen = [&] { // and not only waiting for its loop to come to an end
+        return CWnd::FromHandlePermanent(hWnd) == pWnd && ::IsWindowEnabled(hWnd) &&
+               (pWnd->m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) != WF_MODALLOOP;
+    };
+    if (!::IsChild(hWnd, hFocus)) {
+        ::SendMessage(hWnd, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        return;
+    }
+    // The dialog remembers the field as if another window had become active, and gives the focus
+    // back by itself after a message box.
+    pWnd->CallSuper(WM_ACTIVATE, WA_INACTIVE, 0);
+    ::SetFocus(nullptr);
+    if (isOpen())
+        ::SendMessage(hWnd, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    const bool bNobodyHasIt = ::GetFocus() == nullptr && ::GetActiveWindow() == hWnd;
+    if (!bNobodyHasIt || !isOpen() || !::IsWindowVisible(hWnd))
+        return;
+    pWnd->CallSuper(WM_ACTIVATE, WA_ACTIVE, 0);
+    if (::GetFocus() == nullptr) // no dialog
+        ::SetFocus(::IsChild(hWnd, hFocus) && CDialogKeys::IsReachable(hFocus) ? hFocus : hWnd);
 }
 
 // --- Drawing -----------------------------------------------------------------------------------
@@ -252,7 +282,7 @@ void CDeviceCaption::PaintBar(CWnd* pWnd, CDC& dc) {
     ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     CFont font;
     font.CreateFontIndirect(&metrics.lfCaptionFont);
-    CFont* pOldFont = dc.SelectObject(&font);
+    const CSelectScope selected(dc, font.m_hObject);
     CString strTitle;
     pWnd->GetWindowText(strTitle);
     dc.SetBkMode(TRANSPARENT);
@@ -260,7 +290,6 @@ void CDeviceCaption::PaintBar(CWnd* pWnd, CDC& dc) {
     bar.left += TITLE_MARGIN;
     bar.right = ButtonRect(pWnd, (pWnd->m_nFlags & WF_OKBUTTON) ? Ok : Close).left;
     dc.DrawText(strTitle, bar, DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
-    dc.SelectObject(pOldFont);
 }
 
 void CDeviceCaption::Paint(CWnd* pWnd, Button pressed) {
@@ -276,12 +305,10 @@ void CDeviceCaption::Paint(CWnd* pWnd, Button pressed) {
         return;
     CRect rect = ButtonRect(pWnd, Ok);
     dc.DrawFrameControl(rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed == Ok ? DFCS_PUSHED : 0U));
-    CFont* pOldFont =
-        dc.SelectObject(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
+    const CSelectScope selected(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
     if (pressed == Ok)
         rect.OffsetRect(1, 1);
     dc.DrawText(_T("OK"), rect, DT_SINGLELINE | DT_VCENTER | DT_CENTER);
-    dc.SelectObject(pOldFont);
 }

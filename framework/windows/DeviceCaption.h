@@ -24,6 +24,7 @@ private:
     static LRESULT OnHitTest(CWnd* pWnd, WPARAM wParam, LPARAM lParam);
     static void OnSized(CWnd* pWnd, WPARAM wParam);
     static void Track(CWnd* pWnd, Button button);
+    static void PressOk(CWnd* pWnd);
     static void Paint(CWnd* pWnd, Button pressed);
     static void PaintBar(CWnd* pWnd, CDC& dc);
     static CRect BarRect(const CWnd* pWnd);
