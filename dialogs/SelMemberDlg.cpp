@@ -43,6 +43,7 @@ BEGIN_MESSAGE_MAP(CSelMemberDlg, CnDialog)
     ON_BN_CLICKED(IDC_FK_MEMBER_DELETE, &CSelMemberDlg::OnBtnDel)
     ON_BN_CLICKED(IDC_FK_MEMBER_UP, &CSelMemberDlg::OnBtnUp)
     ON_BN_CLICKED(IDC_FK_MEMBER_DOWN, &CSelMemberDlg::OnBtnDown)
+    ON_MESSAGE(WM_NCCALCSIZE, &CSelMemberDlg::OnNcCalcSize)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -61,13 +62,35 @@ void CSelMemberDlg::DoDataExchange(CDataExchange* pDX) {
     DDX_Control(pDX, IDC_FK_MEMBER_CURRENT, m_lbCurrent);
 }
 
+/// In the device's font the template is as wide as the screen, less a frame that is a pixel too
+/// wide. What is over goes from the frame; the controls have their room.
+void CSelMemberDlg::FitToScreen() {
+    CRect window;
+    GetWindowRect(window);
+    const int nOver = window.Width() - ::GetSystemMetrics(SM_CXSCREEN);
+    if (nOver <= 0 || nOver > ::GetSystemMetrics(SM_CXFIXEDFRAME))
+        return;
+    m_nFrameCut = nOver;
+    SetWindowPos(nullptr, 0, 0, window.Width() - nOver, window.Height(),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+LRESULT CSelMemberDlg::OnNcCalcSize(WPARAM, LPARAM lParam) {
+    const LRESULT lResult = Default();
+    // The first rectangle of either form of lParam is the client area.
+    reinterpret_cast<RECT*>(lParam)->right += m_nFrameCut;
+    return lResult;
+}
+
 BOOL CSelMemberDlg::OnInitDialog() {
+    m_nFrameCut = 0;
     m_btnUp.Attach(IDC_FK_MEMBER_UP, this, TVGetCommonIcon(ICON_UP), 0);
     m_btnDown.Attach(IDC_FK_MEMBER_DOWN, this, TVGetCommonIcon(ICON_DOWN), 0);
     CnDialog::OnInitDialog();
     SetWindowText(m_strTitle);
     Show(m_listAvailable, m_lbAvailable);
     Show(m_listCurrent, m_lbCurrent);
+    FitToScreen();
     CenterWindow();
     ShowWindow(SW_SHOW);
     return TRUE;

@@ -54,6 +54,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    afx_msg LRESULT OnNcCalcSize(WPARAM wParam, LPARAM lParam);
+    void FitToScreen();
     void MoveCurrent(int nFrom, int nTo);
 
     CString m_strTitle;
@@ -61,4 +63,5 @@ private:
     CnListBox m_lbCurrent;
     CIconButton m_btnUp;
     CIconButton m_btnDown;
+    int m_nFrameCut = 0; ///< Pixels of the frame's right side that the client area takes.
 };

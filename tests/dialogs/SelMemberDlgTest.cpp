@@ -183,6 +183,20 @@ TEST(SelMemberDlg, LabelsHoldTheirTexts) {
     });
 }
 
+TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplate) {
+    CSelMemberDlg dlg(L"", nullptr);
+    fx::WhileOpen(dlg, [&] {
+        CRect units(0, 0, 134, 99);
+        dlg.MapDialogRect(units);
+        CRect client;
+        dlg.GetClientRect(client);
+        EXPECT_EQ(client, units);
+        const CRect window = fx::RectOf(dlg);
+        EXPECT_GE(window.left, 0);
+        EXPECT_LE(window.right, ::GetSystemMetrics(SM_CXSCREEN));
+    });
+}
+
 TEST(SelMemberDlg, TheCaptionIsTheTitleEvenAnEmptyOne) {
     for (const CString& strTitle : {CString(L"出力する項目"), CString()}) {
         CSelMemberDlg dlg(strTitle, nullptr);
