@@ -26,6 +26,7 @@ TEST(Archive, ValuesAreLittleEndianOfFixedWidth) {
     ExpectValue("fe", BYTE{0xFE});
     ExpectValue("41", 'A');
     ExpectValue("01", true);
+    ExpectValue("00", false);
     ExpectValue("42 30", L'\x3042');
     ExpectValue("fe ff", short{-2});
     ExpectValue("34 12", WORD{0x1234});

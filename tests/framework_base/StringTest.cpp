@@ -200,7 +200,12 @@ TEST(String, NarrowTextIsUtf8WithDamageReplaced) {
         {"four bytes", "\xF0\x9F\x98\x80", L"\x1F600"},
         {"cut", "\xE6\xB8", L"\xFFFD\xFFFD"},
         {"over-long", "\xC0\x80", L"\xFFFD\xFFFD"},
+        {"over-long, three bytes", "\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
         {"surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+        {"low surrogate", "\xED\xB0\x80", L"\xFFFD\xFFFD\xFFFD"},
+        {"no second byte", "\xC3(", L"\xFFFD("},
+        {"the last character", "\xF4\x8F\xBF\xBF", L"\x10FFFF"},
+        {"beyond the last", "\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         {"stray", "a\x80z", L"a\xFFFDz"},
     });
 }

@@ -104,7 +104,7 @@ TEST(DamagedArchive, MemoryGoesWithTheSizeOfTheFile) {
         ar >> string;
     };
     for (const Row& row : {
-             Row{"empty texts, a byte each", "ff ff ff ff ff ff", kMega, 50, list},
+             Row{"empty texts, a byte each", "ff ff ff ff ff ff", kMega, 60, list},
              Row{"the same in an array", "ff ff ff ff ff ff", kMega, 90, array},
              Row{"numbers", "ff ff ff ff ff 7f", kMega, 3, numbers},
              Row{"a wide text", "ff fe ff ff ff ff ff ff ff 7f", kMega, 8, text},

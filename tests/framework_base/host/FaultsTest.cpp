@@ -303,6 +303,39 @@ TEST_F(FaultsOfFiles, ADiskThatIsFullHalfWayKeepsTheFirstHalf) {
     EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
 }
 
+TEST_F(FaultsOfFiles, WhatTheSystemCannotDoChangesNothing) {
+    CFile file(Path("a"),
+               CFile::modeCreate | CFile::modeReadWrite | CFile::modeNoInherit | CFile::osWriteThrough);
+    file.Write("abc", 3);
+    constexpr ULONGLONG kFar = ~0ULL;
+    struct Row {
+        int cause;
+        std::function<void()> use;
+    };
+    const Row rows[] = {
+        {CFileException::badSeek, [&] { file.Seek(0, 3); }},
+        {CFileException::diskFull, [&] { file.SetLength(kFar); }},
+        {CFileException::badSeek, [&] { file.LockRange(kFar, 1); }},
+        {CFileException::badSeek, [&] { file.LockRange(0, kFar); }},
+        {CFileException::diskFull, [&] { FailCall("write", 0), file.Write("x", 1); }}, // takes nothing
+    };
+    for (const Row& row : rows) {
+        int cause = CFileException::none;
+        try {
+            row.use();
+        } catch (CFileException* e) {
+            cause = e->m_cause;
+            e->Delete();
+        }
+        EXPECT_EQ(row.cause, cause) << &row - rows;
+        EXPECT_EQ(3U, file.GetPosition());
+        EXPECT_EQ(3U, file.GetLength());
+    }
+    faults::Disarm();
+    EXPECT_THROW(CFile::Rename(nullptr, Path("b")), CInvalidArgException*);
+    EXPECT_THROW(CFile::Rename(Path("a"), nullptr), CInvalidArgException*);
+}
+
 TEST_F(FaultsOfFiles, OnlyFilesOnDiskAreOpened) {
     ASSERT_EQ(0, ::mkfifo((m_folder / "pipe").c_str(), 0600));
     struct Row {

@@ -173,7 +173,7 @@ int __wrap_fcntl(int fd, int command, ...) {
 
 ssize_t __wrap_read(int fd, void* buffer, std::size_t count) {
     if (g_error == 0 && FailsNow(Kind::Call, "read"))
-        count = (count + 1) / 2;
+        count /= 2;
     else if (g_error != 0)
         return Answer("read", [&] { return __real_read(fd, buffer, count); });
     return __real_read(fd, buffer, count);
@@ -181,7 +181,7 @@ ssize_t __wrap_read(int fd, void* buffer, std::size_t count) {
 
 ssize_t __wrap_write(int fd, const void* buffer, std::size_t count) {
     if (g_error == 0 && FailsNow(Kind::Call, "write"))
-        count = (count + 1) / 2;
+        count /= 2;
     else if (g_error != 0)
         return Answer("write", [&] { return __real_write(fd, buffer, count); });
     return __real_write(fd, buffer, count);
