@@ -155,7 +155,7 @@ TEST(ArcConstruction, TangentsMeetAtOneCornerOrTwo) {
 }
 
 // Three could be halved for ever: their ends are too near the centre to have a direction. Of the
-// last one's cross product one half overflows.
+// next only the second half needs halving again. Of the last cross product one half overflows.
 TEST(ArcConstruction, FullTurnHasNoCorner) {
     const struct {
         double start[2], end[2];
@@ -165,6 +165,7 @@ TEST(ArcConstruction, FullTurnHasNoCorner) {
         {{0, 0}, {0, 0}},
         {{0.01, 0.01}, {-0.01, 0.01}},
         {{0, 0}, {1, 0}},
+        {{-12, -15}, {-12, -15}},
         {{0x1.9480583abdfb6p+511, 0x1.9d8dbb3a5bde4p+511}, {0x1.3cf0d4f48e39p+512, 0x1.440895906bb2cp+512}}};
     for (const auto& c : cases) {
         CVector p1;

@@ -97,7 +97,12 @@ TEST(Vector, ReturningTwinsAgreeAndLeaveTheObjectAlone) {
 
     v.Add(CVector(1, 2));
     EXPECT_TRUE(v == CVector(4, 6));
-    v.Subtract(CVector(1, 2));
+    v.SetX(3);
+    EXPECT_TRUE(v == CVector(3, 6));
+    v.SetY(4);
+    v.Subtract(CVector(-1, 2));
+    EXPECT_TRUE(v == CVector(4, 2));
+    v.Add(CVector(-1, 2));
     v.Scalar(2);
     EXPECT_TRUE(v == CVector(6, 8));
     v.Unit();

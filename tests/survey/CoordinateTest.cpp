@@ -187,9 +187,10 @@ TEST(Coordinate, ExtentGrowsPointByPoint) {
          {-7, -5, kNull, 1},
          {kNull, -3, kNull, 1}},
         {"heights only",
-         {{1, 1, 4, 2}, {1, 1, -4, 2}, {1, 1, 0, 2}},
+         {{1, 1, 4, 2}, {1, 1, -4, 2}, {1, 1, 0, 2}, {1, 1, 9, 2}},
          {kNull, kNull, -4, 2},
-         {kNull, kNull, 4, 2}},
+         {kNull, kNull, 9, 2}},
+        {"a northing that is the null value", {{5, kNull, 0, 1}}, {5, kNull, kNull, 1}, {5, kNull, kNull, 1}},
         {"nothing there", {{1, 1, 4, 0}}, {}, {}},
     };
     for (const auto& c : cases) {
