@@ -1,0 +1,326 @@
+// Seeded random input into whatever windows the thread has open.
+#pragma once
+
+#include "afxext.h"
+
+#include "support/Watchdog.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <random>
+
+namespace shake {
+
+/// Pen, keys, focus, activation, settings and destruction, a burst at each timer tick, in whatever
+/// message loop is the innermost. Events are posted as the system posts them: the same seed gives
+/// the same ones, and there are many more a second than by real input.
+class Shaker {
+public:
+    Shaker(const char* pszScenario, unsigned nSeed) : m_nSeed(nSeed), m_random(nSeed) {
+        s_pThis = this;
+        m_pszScenario = pszScenario;
+        ::SetUnhandledExceptionFilter(OnCrash);
+        m_nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
+    }
+    ~Shaker() {
+        ::KillTimer(nullptr, m_nTimer);
+        BYTE keys[256] = {};
+        ::SetKeyboardState(keys);
+        s_pThis = nullptr;
+    }
+    Shaker(const Shaker&) = delete;
+    Shaker& operator=(const Shaker&) = delete;
+
+    int Events() const { return m_nEvents; }
+
+    /// Opens something modal and shakes it until it is over, by force after a number of events.
+    void Round(int nEvents, const std::function<void()>& open) {
+        m_nRoundEnd = m_nEvents + nEvents;
+        m_nForced = 0;
+        m_bOn = true;
+        open();
+        m_bOn = false;
+    }
+
+    /// What led to a crash or a hang.
+    static void Report() {
+        if (s_pThis != nullptr)
+            s_pThis->Print();
+    }
+
+private:
+    struct CEvent {
+        const char* pszKind = "";
+        HWND hWnd = nullptr;
+        int nFirst = 0;
+        int nSecond = 0;
+    };
+    static constexpr int BURST = 16;
+    static constexpr int KEPT = 20;
+    static constexpr DWORD HANG_SECONDS = 20;
+
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        Shaker* const pThis = s_pThis;
+        if (pThis == nullptr || !pThis->m_bOn)
+            return;
+        pThis->m_watchdog.Feed();
+        if (pThis->m_nEvents >= pThis->m_nRoundEnd) {
+            pThis->Force();
+            return;
+        }
+        for (int i = 0; i < BURST && pThis->m_bOn; ++i)
+            pThis->Next();
+    }
+
+    static LONG WINAPI OnCrash(EXCEPTION_POINTERS* pInfo) {
+        const auto* pAddress = static_cast<const char*>(pInfo->ExceptionRecord->ExceptionAddress);
+        HMODULE hModule = nullptr;
+        ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            reinterpret_cast<LPCTSTR>(pAddress), &hModule);
+        char szModule[MAX_PATH] = {};
+        ::GetModuleFileNameA(hModule, szModule, MAX_PATH);
+        std::printf("crashed: %08lx at %s+%llx\n", pInfo->ExceptionRecord->ExceptionCode, szModule,
+                    static_cast<unsigned long long>(pAddress - reinterpret_cast<const char*>(hModule)));
+        Report();
+        std::fflush(stdout);
+        ::TerminateProcess(::GetCurrentProcess(), 98);
+        return EXCEPTION_EXECUTE_HANDLER;
+    }
+
+    void Print() const {
+        std::printf("%s, seed %u, event %d; the last ones:\n", m_pszScenario, m_nSeed, m_nEvents);
+        for (int i = std::max(0, m_nEvents - KEPT); i < m_nEvents; ++i) {
+            const CEvent& event = m_events[static_cast<size_t>(i % KEPT)];
+            char szClass[40] = {};
+            ::GetClassNameA(event.hWnd, szClass, 40);
+            std::printf("  %d %s %p %s %d %d\n", i, event.pszKind, static_cast<void*>(event.hWnd), szClass,
+                        event.nFirst, event.nSecond);
+        }
+    }
+
+    void Keep(const char* pszKind, HWND hWnd, int nFirst = 0, int nSecond = 0) {
+        m_events[static_cast<size_t>(m_nEvents % KEPT)] = {pszKind, hWnd, nFirst, nSecond};
+        ++m_nEvents;
+    }
+
+    int Pick(int n) { return static_cast<int>(m_random() % static_cast<unsigned>(n)); }
+
+    // --- Which window ------------------------------------------------------------------------
+
+    static std::vector<HWND> TopLevels() {
+        std::vector<HWND> windows;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND hWnd, LPARAM lParam) -> BOOL {
+                if (::IsWindowVisible(hWnd))
+                    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&windows));
+        return windows;
+    }
+
+    HWND AnyTopLevel() {
+        const std::vector<HWND> windows = TopLevels();
+        return windows.empty() ? nullptr
+                               : windows[static_cast<size_t>(Pick(static_cast<int>(windows.size())))];
+    }
+
+    HWND AnyWindow() {
+        std::vector<HWND> windows = TopLevels();
+        for (size_t i = windows.size(); i-- > 0;)
+            ::EnumChildWindows(
+                windows[i],
+                [](HWND hWnd, LPARAM lParam) -> BOOL {
+                    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
+                    return TRUE;
+                },
+                reinterpret_cast<LPARAM>(&windows));
+        return windows.empty() ? nullptr
+                               : windows[static_cast<size_t>(Pick(static_cast<int>(windows.size())))];
+    }
+
+    // --- Events ------------------------------------------------------------------------------
+
+    void Next() {
+        const int nKind = Pick(100);
+        if (nKind < 45)
+            Pen();
+        else if (nKind < 85)
+            Key();
+        else
+            Other();
+    }
+
+    void Pen() {
+        // Mostly where something is; the pen moves on from there.
+        if (const HWND hWnd = Pick(3) != 0 ? AnyWindow() : nullptr; hWnd != nullptr) {
+            CRect rect;
+            ::GetWindowRect(hWnd, rect);
+            m_pen = CPoint(rect.left + Pick(std::max<int>(1, rect.Width())),
+                           rect.top + Pick(std::max<int>(1, rect.Height())));
+        } else {
+            m_pen.Offset(Pick(41) - 20, Pick(41) - 20);
+        }
+        ::SetCursorPos(m_pen.x, m_pen.y);
+        switch (Pick(8)) {
+        case 0:
+            Mouse(WM_LBUTTONDOWN); // without a lift
+            break;
+        case 1:
+            Mouse(WM_LBUTTONUP); // without a press
+            break;
+        case 2:
+            Mouse(WM_MOUSEMOVE);
+            break;
+        case 3:
+            Mouse(WM_LBUTTONDOWN);
+            Mouse(WM_LBUTTONUP);
+            Mouse(WM_LBUTTONDBLCLK);
+            Mouse(WM_LBUTTONUP);
+            break;
+        default:
+            Mouse(WM_LBUTTONDOWN);
+            Mouse(WM_LBUTTONUP);
+            break;
+        }
+    }
+
+    /// To the window under the pen, as the system does it.
+    void Mouse(UINT message) {
+        const HWND hCapture = ::GetCapture();
+        const HWND hWnd = hCapture != nullptr ? hCapture : ::WindowFromPoint(m_pen);
+        Keep("pen", hWnd, m_pen.x, m_pen.y);
+        if (hWnd == nullptr || ::GetWindowThreadProcessId(hWnd, nullptr) != ::GetCurrentThreadId())
+            return;
+        const LPARAM lScreen = MAKELPARAM(m_pen.x, m_pen.y);
+        LRESULT lHit = HTCLIENT;
+        if (hCapture == nullptr)
+            lHit = ::SendMessage(hWnd, WM_NCHITTEST, 0, lScreen);
+        if (message == WM_LBUTTONDOWN)
+            Activate(hWnd, lHit);
+        if (lHit != HTCLIENT) {
+            ::PostMessage(hWnd, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, static_cast<WPARAM>(lHit), lScreen);
+            return;
+        }
+        CPoint point = m_pen;
+        ::ScreenToClient(hWnd, &point);
+        ::PostMessage(hWnd, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
+
+    static void Activate(HWND hWnd, LRESULT lHit) {
+        const HWND hRoot = ::GetAncestor(hWnd, GA_ROOT);
+        if (hRoot == ::GetActiveWindow() || !::IsWindowEnabled(hRoot))
+            return;
+        const LRESULT lAnswer = ::SendMessage(hWnd, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(hRoot),
+                                              MAKELPARAM(lHit, WM_LBUTTONDOWN));
+        if (lAnswer != MA_NOACTIVATE && lAnswer != MA_NOACTIVATEANDEAT)
+            ::SetActiveWindow(hRoot);
+    }
+
+    void Key() {
+        static constexpr WORD KEYS[] = {VK_TAB,  VK_TAB,    VK_TAB,        VK_LEFT,     VK_RIGHT, VK_UP,
+                                        VK_DOWN, VK_RETURN, VK_SPACE,      VK_ESCAPE,   VK_BACK,  VK_DELETE,
+                                        VK_HOME, VK_END,    VK_PRIOR,      VK_NEXT,     VK_F1,    VK_F4,
+                                        VK_F10,  VK_MENU,   VK_OEM_PERIOD, VK_OEM_MINUS};
+        const int nChoice = Pick(3);
+        const WORD wKey = nChoice == 0   ? static_cast<WORD>('0' + Pick(10))
+                          : nChoice == 1 ? static_cast<WORD>('A' + Pick(26))
+                                         : KEYS[Pick(static_cast<int>(std::size(KEYS)))];
+        const int nModifier = Pick(8); // 0 Shift, 1 Ctrl, 2 Alt, else none
+        BYTE keys[256] = {};
+        keys[VK_SHIFT] = nModifier == 0 ? 0x80 : 0;
+        keys[VK_CONTROL] = nModifier == 1 ? 0x80 : 0;
+        keys[VK_MENU] = nModifier == 2 ? 0x80 : 0;
+        ::SetKeyboardState(keys);
+        const HWND hFocus = ::GetFocus() != nullptr ? ::GetFocus() : ::GetActiveWindow();
+        Keep(nModifier == 2   ? "alt"
+             : nModifier == 1 ? "ctrl"
+             : nModifier == 0 ? "shift"
+                              : "key",
+             hFocus, wKey);
+        if (hFocus == nullptr)
+            return;
+        const bool bAlt = nModifier == 2 || wKey == VK_F10 || wKey == VK_MENU;
+        const LPARAM lDown = static_cast<LPARAM>(1U | ::MapVirtualKey(wKey, MAPVK_VK_TO_VSC) << 16 |
+                                                 (nModifier == 2 ? 0x20000000U : 0U));
+        ::PostMessage(hFocus, bAlt ? WM_SYSKEYDOWN : WM_KEYDOWN, wKey, lDown);
+        ::PostMessage(hFocus, bAlt ? WM_SYSKEYUP : WM_KEYUP, wKey, lDown | static_cast<LPARAM>(0xC0000000U));
+    }
+
+    void Other() {
+        const int nKind = Pick(40);
+        const HWND hTop = AnyTopLevel();
+        if (hTop == nullptr)
+            return;
+        if (nKind < 12) {
+            const HWND hWnd = AnyWindow();
+            Keep("focus", hWnd);
+            if (::IsWindowEnabled(::GetAncestor(hWnd, GA_ROOT)))
+                ::SetFocus(hWnd);
+        } else if (nKind < 20) {
+            Keep("activate", hTop);
+            if (::IsWindowEnabled(hTop))
+                ::SetActiveWindow(hTop);
+        } else if (nKind < 26) {
+            Keep("setting", hTop, nKind);
+            ::PostMessage(hTop, WM_SETTINGCHANGE, nKind % 2 != 0 ? SPI_SETWORKAREA : SPI_SETSIPINFO, 0);
+        } else if (nKind < 30) {
+            Keep("panel", hTop, nKind);
+            if (m_panel)
+                m_panel(nKind - 26);
+        } else if (nKind < 34) {
+            const HWND hWnd = AnyWindow();
+            Keep("timer", hWnd);
+            ::PostMessage(hWnd, WM_TIMER, static_cast<WPARAM>(Pick(4)), 0);
+        } else if (nKind < 36) {
+            Keep("close", hTop);
+            if (::IsWindowEnabled(hTop))
+                ::PostMessage(hTop, WM_CLOSE, 0, 0);
+        } else if (nKind == 36 && Pick(4) == 0) {
+            Keep("destroy", hTop);
+            ::DestroyWindow(hTop);
+        } else {
+            Keep("paint", hTop);
+            ::RedrawWindow(hTop, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        }
+    }
+
+    /// Ends what is open: as a user would, and in the end by destroying it.
+    void Force() {
+        ++m_nForced;
+        ::ReleaseCapture();
+        ::EndMenu();
+        for (const HWND hWnd : TopLevels()) {
+            if (!::IsWindow(hWnd))
+                continue;
+            if (m_nForced > 20)
+                ::DestroyWindow(hWnd);
+            else if (::IsWindowEnabled(hWnd))
+                ::PostMessage(hWnd, WM_COMMAND, m_nForced % 2 != 0 ? IDCANCEL : IDOK, 0);
+        }
+    }
+
+public:
+    std::function<void(int)> m_panel; ///< Shows the soft input panel in a mode; 3 hides it.
+
+private:
+    static inline Shaker* s_pThis = nullptr;
+
+    const char* m_pszScenario = "";
+    unsigned m_nSeed;
+    std::mt19937 m_random;
+    UINT_PTR m_nTimer = 0;
+    bool m_bOn = false;
+    int m_nEvents = 0;
+    int m_nRoundEnd = 0;
+    int m_nForced = 0; ///< Ticks since the round is to end.
+    CPoint m_pen{100, 100};
+    std::array<CEvent, KEPT> m_events;
+    fx::Watchdog m_watchdog{HANG_SECONDS, Report};
+};
+
+} // namespace shake
