@@ -23,6 +23,7 @@
 #include "dialogs/ButtonMenuDlg.h"
 #include "dialogs/FileSelectDlg.h"
 #include "dialogs/InputDlg.h"
+#include "dialogs/ResMsgBox.h"
 #include "dialogs/ResultDlg.h"
 #include "dialogs/SelMemberDlg.h"
 #include "survey/AngleEdit.h"
@@ -213,6 +214,13 @@ TEST(Shake, Result) {
         for (int i = 0; i < 40; ++i)
             dlg.AddString(L"12.345");
         dlg.DoModal();
+    });
+}
+
+TEST(Shake, MessageBoxes) {
+    Shake([](CWnd*) {
+        CResMsgBox().WarningMsgBox(L"?");
+        AfxMessageBox(L"!");
     });
 }
 

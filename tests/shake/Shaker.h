@@ -1,6 +1,7 @@
 // Seeded random input into whatever windows the thread has open.
 #pragma once
 
+#include "StackTrace.h"
 #include "afxext.h"
 
 #include "support/Watchdog.h"
@@ -44,12 +45,6 @@ public:
         m_bOn = false;
     }
 
-    /// What led to a crash or a hang.
-    static void Report() {
-        if (s_pThis != nullptr)
-            s_pThis->Print();
-    }
-
 private:
     struct CEvent {
         const char* pszKind = "";
@@ -74,6 +69,14 @@ private:
             pThis->Next();
     }
 
+    static void OnHang() {
+        if (s_pThis == nullptr)
+            return;
+        s_pThis->Print();
+        std::fflush(stdout);
+        PrintStackOf(s_pThis->m_nThread);
+    }
+
     static LONG WINAPI OnCrash(EXCEPTION_POINTERS* pInfo) {
         const auto* pAddress = static_cast<const char*>(pInfo->ExceptionRecord->ExceptionAddress);
         HMODULE hModule = nullptr;
@@ -84,7 +87,9 @@ private:
         ::GetModuleFileNameA(hModule, szModule, MAX_PATH);
         std::printf("crashed: %08lx at %s+%llx\n", pInfo->ExceptionRecord->ExceptionCode, szModule,
                     static_cast<unsigned long long>(pAddress - reinterpret_cast<const char*>(hModule)));
-        Report();
+        if (s_pThis != nullptr)
+            s_pThis->Print();
+        PrintStack(*pInfo->ContextRecord);
         std::fflush(stdout);
         ::TerminateProcess(::GetCurrentProcess(), 98);
         return EXCEPTION_EXECUTE_HANDLER;
@@ -202,13 +207,18 @@ private:
             lHit = ::SendMessage(hWnd, WM_NCHITTEST, 0, lScreen);
         if (message == WM_LBUTTONDOWN)
             Activate(hWnd, lHit);
-        if (lHit != HTCLIENT) {
-            ::PostMessage(hWnd, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, static_cast<WPARAM>(lHit), lScreen);
-            return;
-        }
         CPoint point = m_pen;
         ::ScreenToClient(hWnd, &point);
-        ::PostMessage(hWnd, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        const LPARAM lClient = MAKELPARAM(point.x, point.y);
+        if (lHit == HTCLIENT) {
+            ::PostMessage(hWnd, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, lClient);
+            return;
+        }
+        ::PostMessage(hWnd, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, static_cast<WPARAM>(lHit), lScreen);
+        // The system follows the pen on a button of its title bar in a loop that takes mouse messages
+        // of the client area only: the lift has to be there, no timer can send it any more.
+        if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK)
+            ::PostMessage(hWnd, WM_LBUTTONUP, 0, lClient);
     }
 
     static void Activate(HWND hWnd, LRESULT lHit) {
@@ -320,7 +330,8 @@ private:
     int m_nForced = 0; ///< Ticks since the round is to end.
     CPoint m_pen{100, 100};
     std::array<CEvent, KEPT> m_events;
-    fx::Watchdog m_watchdog{HANG_SECONDS, Report};
+    DWORD m_nThread = ::GetCurrentThreadId();
+    fx::Watchdog m_watchdog{HANG_SECONDS, OnHang};
 };
 
 } // namespace shake
