@@ -83,20 +83,26 @@ void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) 
 
 } // namespace
 
-void DrawPanel(CDC& dc, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
+void DrawPanel(CDC& target, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
+    // Objects that are selected must outlive the device context.
+    CFont characters, words, marks;
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&target, panel.cx, panel.cy);
+    // Drawn apart and shown at once: a panel that flickers tires the eyes.
+    CDC dc;
+    dc.CreateCompatibleDC(&target);
+    dc.SelectObject(&bitmap);
     dc.FillSolidRect(CRect(CPoint(), panel), GROUND);
     dc.SetBkMode(TRANSPARENT);
     // Sizes follow the first key, than which none is smaller but all words are wider.
     const CRect first = keys.front().place;
-    CFont characters, words, marks;
     MakeFont(characters, std::min(first.Height() * 3 / 4, first.Width()));
     MakeFont(words, std::min(first.Height() * 3 / 5, first.Width() / 2));
     MakeFont(marks, first.Height() * 3 / 2);
-    CFont* const old = dc.SelectObject(&characters);
     for (size_t at = 0; at < keys.size(); ++at) {
         const wchar_t code = keys[at].code;
         dc.SelectObject(IsWord(code) ? &words : IsSoundMark(code) ? &marks : &characters);
         DrawKey(dc, keys[at], static_cast<int>(at) == look.pressed, look);
     }
-    dc.SelectObject(old);
+    target.BitBlt(0, 0, panel.cx, panel.cy, &dc, 0, 0, SRCCOPY);
 }

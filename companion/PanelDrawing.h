@@ -14,6 +14,6 @@ struct PanelLook {
     bool locked;  ///< And all after it.
 };
 
-/// Draws the keys.
+/// Draws the keys, all at once.
 /// @param panel  size of the panel in pixels
-void DrawPanel(CDC& dc, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look);
+void DrawPanel(CDC& target, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look);

@@ -287,14 +287,6 @@ void PanelWindow::OnPaint() {
     CPaintDC dc(CWnd::FromHandle(m_window));
     CRect client;
     ::GetClientRect(m_window, client);
-    // Drawn apart and shown at once: a panel that flickers tires the eyes.
-    CDC memory;
-    memory.CreateCompatibleDC(&dc);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
-    CBitmap* const old = memory.SelectObject(&bitmap);
-    DrawPanel(memory, client.Size(), Keys(),
+    DrawPanel(dc, client.Size(), Keys(),
               {Page(), m_pressed, m_shift != Shift::Off, m_shift == Shift::Locked});
-    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(old);
 }

@@ -1,5 +1,7 @@
 #include "controls/IconButton.h"
 
+#include "controls/detail/SavedDC.h"
+
 namespace {
 
 constexpr COLORREF PUSHED_BACKGROUND = RGB(0, 0, 0);
@@ -7,19 +9,6 @@ constexpr COLORREF PUSHED_TEXT = RGB(255, 255, 255);
 
 /// How far the contents of a pressed button sink to the right and down.
 constexpr int SINK = 1;
-
-/// The device context that the system draws the next button with, too.
-class SavedDC {
-public:
-    explicit SavedDC(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
-    ~SavedDC() { m_dc.RestoreDC(m_nSaved); }
-    SavedDC(const SavedDC&) = delete;
-    SavedDC& operator=(const SavedDC&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_nSaved;
-};
 
 } // namespace
 
@@ -86,7 +75,7 @@ void CIconButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     const UINT nState = lpDrawItemStruct->itemState;
     CRect rect(lpDrawItemStruct->rcItem);
     CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
-    const SavedDC saved(dc);
+    const SavedDC saved(dc); // the system draws the next button with it, too
     if (nAction & (ODA_DRAWENTIRE | ODA_SELECT))
         DrawFace(dc, rect, (nState & ODS_SELECTED) != 0 || m_bPush);
     if (!Has(StyleFocus) || ((nState & ODS_FOCUS) == 0 && (nAction & ODA_FOCUS) == 0))

@@ -1,5 +1,7 @@
 #include "controls/InfoStatic.h"
 
+#include "controls/detail/SavedDC.h"
+
 #include <Tesuvo.h>
 
 namespace {
@@ -43,11 +45,10 @@ void CInfoStatic::OnPaint() {
     dc.SetBkColor(m_crBk);
     rect.left += nIndent;
     // The dialog's font. A static without one has the system's, as the device context has.
-    CFont* const pFont = GetFont();
-    CFont* const pOldFont = pFont != nullptr ? dc.SelectObject(pFont) : nullptr;
+    const SavedDC saved(dc);
+    if (CFont* const pFont = GetFont())
+        dc.SelectObject(pFont);
     dc.DrawText(str, rect, DT_SINGLELINE | DT_VCENTER);
-    if (pOldFont != nullptr)
-        dc.SelectObject(pOldFont);
 }
 
 /// The system's static draws itself at once when its text or state changes, in its own look.

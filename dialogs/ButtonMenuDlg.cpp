@@ -68,8 +68,8 @@ void CButtonMenuDlg::CreateButtons() {
     GetClientRect(rect);
     rect.bottom = rect.top + BUTTON_HEIGHT;
     for (INT_PTR i = 0; i < m_pEntryIds->GetSize(); ++i) {
-        auto* const pButton = new CIconButton;
-        m_buttons.Add(pButton);
+        m_buttons.Add(nullptr); // the place first: without memory for it there must be no button
+        auto* const pButton = m_buttons[i] = new CIconButton;
         pButton->Create(LoadText(static_cast<int>(m_pEntryIds->GetAt(i))), BS_OWNERDRAW | WS_VISIBLE, rect,
                         this, static_cast<UINT>(IDC_FK_MENU_FIRST + i));
         pButton->SetIcon(TVGetCommonIcon(ICON_ENTRY));

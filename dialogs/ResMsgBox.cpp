@@ -114,8 +114,8 @@ void Shorten(std::vector<View>& lines, size_t nMost) {
 std::wstring FitToScreen(View text) {
     const MessageDC dc;
     TEXTMETRIC metrics = {};
-    dc.GetTextMetrics(&metrics);
-    const int nLineHeight = metrics.tmHeight + metrics.tmExternalLeading;
+    dc.GetTextMetrics(&metrics); // may have no memory for it
+    const int nLineHeight = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
     const int nMost = (::GetSystemMetrics(SM_CYSCREEN) - ABOVE_AND_BELOW_TEXT) / nLineHeight;
     std::vector<View> lines = BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - BESIDE_TEXT);
     Shorten(lines, static_cast<size_t>(std::max(nMost, FEWEST_LINES)));

@@ -87,10 +87,11 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
 void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
     if (!state.bInitialized)
         return;
-    const std::vector<CDynLinkLibrary*> libraries = State().libraries;
-    for (CDynLinkLibrary* pLibrary : libraries)
-        if (pLibrary->m_hModule == state.hModule)
-            delete pLibrary;
+    // Without a copy of the list: a module goes even when there is no memory.
+    const std::vector<CDynLinkLibrary*>& libraries = State().libraries;
+    const auto isOfModule = [&](const CDynLinkLibrary* p) { return p->m_hModule == state.hModule; };
+    for (auto it = libraries.begin(); (it = std::ranges::find_if(libraries, isOfModule)) != libraries.end();)
+        delete *it; // which takes it out of the list
     state.bInitialized = FALSE;
 }
 

@@ -106,9 +106,12 @@ BOOL CPropertySheet::CreateSheet(HWND hWndOwner) {
     if (m_bFullScreen && !bChild && !(header.dwFlags & PSH_WIZARD))
         m_nFlags |= WF_OKBUTTON; // now already, so that it can be hidden before the sheet is full screen
     CCreateHook hook(this);
-    ::PropertySheet(&header);
-    if (!hook.Unhook())
+    const INT_PTR nSheet = ::PropertySheet(&header); // its window, or 0 or -1
+    if (!hook.Unhook()) {
+        if (nSheet > 0)
+            ::DestroyWindow(reinterpret_cast<HWND>(nSheet)); // the hook could not be set
         PostNcDestroy();
+    }
     if (m_hWnd != nullptr && (m_nFlags & WF_INITFAILED))
         DestroyWindow();
     return m_hWnd != nullptr;

@@ -1,0 +1,195 @@
+// Each call that saving and loading make into the system fails, for each reason that there is.
+#include "FaultPoints.h"
+#include "History.h"
+#include "PointFile.h"
+#include "Settings.h"
+
+#include "TestFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+using fault::Injection;
+
+struct Trouble {
+    const char* pszName;
+    DWORD dwError; ///< ERROR_SUCCESS for reads and writes that do only a part of their work.
+    Injection::Extent extent;
+};
+
+constexpr Trouble TROUBLES[] = {
+    {"full disk", ERROR_DISK_FULL, Injection::Once},
+    {"disk that stays full", ERROR_DISK_FULL, Injection::Onwards},
+    {"card not ready", ERROR_NOT_READY, Injection::Once},
+    {"pulled card", ERROR_DEVICE_REMOVED, Injection::Onwards},
+    {"file in use", ERROR_SHARING_VIOLATION, Injection::Once},
+    {"write protection", ERROR_WRITE_PROTECT, Injection::Onwards},
+    {"no memory", ERROR_NOT_ENOUGH_MEMORY, Injection::Once},
+    {"half a block", ERROR_SUCCESS, Injection::Once},
+    {"half of each block", ERROR_SUCCESS, Injection::Onwards},
+};
+
+DWORD g_dwError = ERROR_SUCCESS; ///< Why calls fail at present.
+
+template <class Result>
+Result Refuse(Result failure) {
+    ::SetLastError(g_dwError);
+    return failure;
+}
+
+bool Fails() {
+    return g_dwError != ERROR_SUCCESS;
+}
+
+std::vector<fault::Point> Points() {
+    using fault::MakePoint;
+    const auto no = [](auto real, auto... args) { return Fails() ? Refuse(FALSE) : real(args...); };
+    const auto late = [](auto real, auto... args) {
+        const BOOL bDone = real(args...);
+        return Fails() ? Refuse(FALSE) : bDone;
+    };
+    const auto half = [](auto real, HANDLE hFile, auto pBlock, DWORD dwSize, auto... rest) {
+        return Fails() ? Refuse(FALSE) : real(hFile, pBlock, std::max<DWORD>(dwSize / 2, 1), rest...);
+    };
+    const auto noFile = [](auto real, auto... args) {
+        return Fails() ? Refuse(INVALID_HANDLE_VALUE) : real(args...);
+    };
+    const auto unknown = [](auto real, auto... args) {
+        return Fails() ? Refuse(INVALID_FILE_ATTRIBUTES) : real(args...);
+    };
+    const auto noMemory = [](auto real, size_t nSize) {
+        return g_dwError == ERROR_NOT_ENOUGH_MEMORY ? nullptr : real(nSize);
+    };
+    const auto noKey = [](auto real, auto... args) {
+        return Fails() ? static_cast<LSTATUS>(g_dwError) : real(args...);
+    };
+    return {MakePoint("CreateFileW", ::CreateFileW, noFile),
+            MakePoint("GetFileAttributesW", ::GetFileAttributesW, unknown),
+            MakePoint("ReadFile", ::ReadFile, half),
+            MakePoint("WriteFile", ::WriteFile, half),
+            MakePoint("SetFilePointerEx", ::SetFilePointerEx, no),
+            MakePoint("GetFileSizeEx", ::GetFileSizeEx, no),
+            MakePoint("FlushFileBuffers", ::FlushFileBuffers, no),
+            MakePoint("CloseHandle", ::CloseHandle, late),
+            MakePoint("MoveFileExW", ::MoveFileExW, no),
+            MakePoint("DeleteFileW", ::DeleteFileW, no),
+            MakePoint("malloc", ::malloc, noMemory),
+            MakePoint("RegCreateKeyExW", ::RegCreateKeyExW, noKey),
+            MakePoint("RegSetValueExW", ::RegSetValueExW, noKey),
+            MakePoint("RegSetKeyValueW", ::RegSetKeyValueW, noKey)};
+}
+
+/// Runs something with every single call failing, for every trouble.
+/// @param run    tells whether it was done; it may throw
+/// @param check  is told whether it was
+void ForEveryFault(const std::function<bool()>& run, const std::function<void(bool)>& check) {
+    for (const wchar_t* pszModule : {static_cast<LPCWSTR>(nullptr), L"FieldkitFx.dll", L"Fieldkit.dll"})
+        fault::Install(::GetModuleHandle(pszModule), Points());
+    for (const Trouble& trouble : TROUBLES) {
+        g_dwError = trouble.dwError;
+        const char* pszFailed = "";
+        for (int nCall = 1; pszFailed != nullptr; ++nCall) {
+            bool bDone = false;
+            {
+                Injection injection(nCall, trouble.extent);
+                try {
+                    bDone = run();
+                } catch (CException* pError) {
+                    injection.Stop();
+                    pError->Delete();
+                } catch (const std::bad_alloc&) {
+                }
+                pszFailed = injection.m_pszFailed;
+            }
+            SCOPED_TRACE(testing::Message() << trouble.pszName << ", call " << nCall << ", "
+                                            << (pszFailed != nullptr ? pszFailed : "none failed"));
+            EXPECT_TRUE(bDone || pszFailed != nullptr);
+            check(bDone);
+        }
+    }
+}
+
+/// A file under faults: the old one or the new one, whole, and only the new one without an error.
+void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
+    const std::string older = file.Read();
+    ASSERT_TRUE(save());
+    const std::string newer = file.Read();
+    ASSERT_NE(newer, older);
+    file.Write(older);
+    ForEveryFault(save, [&](bool bDone) {
+        EXPECT_EQ(file.Read(), bDone ? newer : older);
+        EXPECT_TRUE(save()) << "it must work as soon as the trouble is over";
+        EXPECT_EQ(file.Read(), newer);
+        EXPECT_FALSE(CTestFile::Exists(file.GetPath() + L".new"));
+        file.Write(older);
+    });
+}
+
+TEST(SaveFaults, PointsAreTheOldOrTheNewOnes) {
+    CPointBook book;
+    for (const wchar_t* pszName : {L"T1", L"T2", L"境界7"})
+        book.Add({pszName, CCoordinate(13225.5, -35345, 24.318, 3)});
+    const CTestFile file(L"fieldbook-faults.csv", "P,1,2,3\r\n");
+    ExpectOldOrNew(file, [&] {
+        SavePoints(file.GetPath(), book, {});
+        return true;
+    });
+}
+
+TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
+    const CTestFile file(L"fieldbook-faults.dat");
+    CHistory history(file.GetPath());
+    history.Add(L"T1");
+    ASSERT_TRUE(history.Save());
+    history.Add(L"境界7");
+    ExpectOldOrNew(file, [&] { return history.Save(); });
+
+    // Loading gives what was saved or nothing, and the next load all of it.
+    const std::string saved = file.Read();
+    ASSERT_TRUE(history.Save());
+    const std::string whole = file.Read();
+    EXPECT_NE(saved, whole);
+    ForEveryFault(
+        [&] {
+            history.Load();
+            return true;
+        },
+        [&](bool) {
+            EXPECT_TRUE(history.Save()) << "an empty one perhaps";
+            file.Write(whole);
+            history.Load();
+            EXPECT_TRUE(history.Save());
+            EXPECT_EQ(file.Read(), whole);
+        });
+}
+
+TEST(SaveFaults, BackupIsTheOldOrTheNewOne) {
+    const CTestFile file(L"fieldbook-faults.csv", std::string(10'000, 'n'));
+    const CTestFile backup(file.GetPath() + L".bak", "older");
+    ExpectOldOrNew(backup, [&] { return KeepBackup(file.GetPath()); });
+}
+
+TEST(SaveFaults, SettingsThatWereNotWrittenAreTold) {
+    CWinApp& app = *AfxGetApp();
+    app.SetRegistryKey(L"FieldbookFaults");
+    const CSettings before = LoadSettings(app);
+    CSettings settings;
+    settings.bTenths = 1;
+    settings.strFolder = L"\\測量";
+    ForEveryFault([&] { return SaveSettings(app, settings); },
+                  [&](bool bDone) {
+                      const CSettings loaded = LoadSettings(app);
+                      EXPECT_TRUE(!bDone || (loaded.bTenths == 1 && loaded.strFolder == settings.strFolder));
+                      EXPECT_TRUE(loaded.strFolder.IsEmpty() || loaded.strFolder == settings.strFolder);
+                      EXPECT_TRUE(SaveSettings(app, settings));
+                      ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
+                  });
+    SaveSettings(app, before); // the decimals belong to all applications
+    ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
+    ::RegDeleteKey(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
+}
+
+} // namespace

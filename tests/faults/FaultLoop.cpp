@@ -1,0 +1,179 @@
+#include "FaultLoop.h"
+
+#include "FaultTable.h"
+#include "support/Leftovers.h"
+
+#include <csignal>
+#include <cstdio>
+#include <optional>
+#include <thread>
+
+namespace fault {
+
+namespace {
+
+std::atomic<int> g_nRunning = 0; ///< The call that fails at present.
+std::atomic<ULONGLONG> g_nDeadline = 0;
+const Injection* g_pInjection = nullptr;
+
+std::string Story(const Injection& injection) {
+    std::string story = std::to_string(g_nRunning) + ' ';
+    story += injection.m_pszFailed != nullptr ? injection.m_pszFailed : "(nothing)";
+    for (const void* const pCaller : injection.m_callers) {
+        const std::string place = Place(pCaller);
+        if (place.starts_with("Fieldkit") || place.starts_with("Tesuvo"))
+            story += "\n    " + place;
+    }
+    return story;
+}
+
+[[noreturn]] void EndProcess(const char* pszWhy) {
+    const Injection* const p = g_pInjection;
+    std::printf("%s: %s\n", pszWhy, p != nullptr ? Story(*p).c_str() : "(between two runs)");
+    std::fflush(stdout);
+    ::TerminateProcess(::GetCurrentProcess(), ENDED + static_cast<DWORD>(g_nRunning));
+    std::abort();
+}
+
+LONG CALLBACK OnException(EXCEPTION_POINTERS* pInfo) {
+    switch (pInfo->ExceptionRecord->ExceptionCode) {
+    case EXCEPTION_ACCESS_VIOLATION:
+    case EXCEPTION_ILLEGAL_INSTRUCTION:
+    case EXCEPTION_INT_DIVIDE_BY_ZERO:
+    case EXCEPTION_STACK_OVERFLOW:
+    case STATUS_HEAP_CORRUPTION:
+        std::printf("at %s\n", Place(pInfo->ExceptionRecord->ExceptionAddress).c_str());
+        EndProcess("crash");
+    default:
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+}
+
+/// Ends the process when it crashes, aborts or takes too long for one run.
+void WatchOver() {
+    constexpr DWORD PATIENCE = 8000;
+    g_nDeadline = ::GetTickCount64() + PATIENCE;
+    ::AddVectoredExceptionHandler(1, OnException);
+    std::signal(SIGABRT, [](int) { EndProcess("abort"); });
+    static int nWatched = -1;
+    std::thread([] {
+        for (;; ::Sleep(100)) {
+            if (g_nRunning != std::exchange(nWatched, g_nRunning))
+                g_nDeadline = ::GetTickCount64() + PATIENCE;
+            if (::GetTickCount64() > g_nDeadline)
+                EndProcess("hang");
+        }
+    }).detach();
+}
+
+class Loop {
+public:
+    explicit Loop(const Scenario& scenario) : m_scenario(scenario) {
+        fx::g_app.m_pRecord = &m_messages;
+        m_owner.SetForegroundWindow();
+        for (int i = 0; i < 3; ++i) // fill caches
+            m_nCalls = Run(0);
+    }
+    ~Loop() { fx::g_app.m_pRecord = nullptr; }
+    Loop(const Loop&) = delete;
+    Loop& operator=(const Loop&) = delete;
+
+    int Calls() const { return m_nCalls; }
+
+    /// @return false if the scenario has no call nFailing
+    bool Try(int nFailing) {
+        g_nRunning = nFailing;
+        const fx::Leftovers before = fx::Leftovers::Now();
+        Run(nFailing);
+        if (!m_failed)
+            return false;
+        if (IsMore(before, fx::Leftovers::Now()))
+            Confirm(nFailing);
+        Run(0);
+        return true;
+    }
+
+private:
+    static bool IsMore(const fx::Leftovers& before, const fx::Leftovers& after) {
+        return after.nWindows > before.nWindows || after.nGdiObjects > before.nGdiObjects ||
+               after.nHandles > before.nHandles || after.nHeapBytes > before.nHeapBytes;
+    }
+
+    static int Failures() {
+        return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
+    }
+
+    /// What has been found more may be in a cache; what is lost grows with each run.
+    void Confirm(int nFailing) {
+        constexpr int REPEATS = 4;
+        const fx::Leftovers before = fx::Leftovers::Now();
+        fx::Leftovers last = before;
+        const int nFailures = Failures();
+        for (int i = 0; i < REPEATS; ++i) {
+            Run(nFailing);
+            const fx::Leftovers now = fx::Leftovers::Now();
+            if (!IsMore(last, now) || Failures() > nFailures) // a message takes memory too
+                return;
+            last = now;
+        }
+        ADD_FAILURE() << m_scenario.pszName << ' ' << m_strStory << "\nleaves after " << REPEATS
+                      << " runs: " << last.nWindows - before.nWindows << " windows, "
+                      << last.nGdiObjects - before.nGdiObjects << " drawing objects, "
+                      << last.nHandles - before.nHandles << " handles, "
+                      << static_cast<long long>(last.nHeapBytes - before.nHeapBytes) << " bytes";
+    }
+
+    /// @return the number of calls that can fail
+    int Run(int nFailing) {
+        Injection injection(nFailing);
+        g_pInjection = &injection;
+        bool bDone = false;
+        m_strEnd.clear();
+        try {
+            bDone = m_scenario.run(m_owner);
+        } catch (CException* e) {
+            injection.Stop();
+            m_strEnd = std::string("threw ") + e->GetRuntimeClass()->m_lpszClassName;
+            e->Delete();
+        } catch (const std::bad_alloc&) {
+            m_strEnd = "threw std::bad_alloc";
+        }
+        injection.Stop();
+        fx::Pump();
+        CWnd::DeleteTempMap();
+        m_messages.clear();
+        m_messages.shrink_to_fit();
+        m_failed = injection.m_pszFailed != nullptr;
+        m_strStory = Story(injection);
+        EXPECT_TRUE(bDone || m_failed) << m_scenario.pszName << " does not work after " << g_nRunning << ' '
+                                       << m_strStory << m_strEnd;
+        EXPECT_TRUE(::IsWindowEnabled(m_owner)) << m_scenario.pszName << ' ' << m_strStory;
+        m_owner.EnableWindow();
+        g_pInjection = nullptr;
+        return injection.m_nCalls;
+    }
+
+    const Scenario& m_scenario;
+    fx::Frame m_owner{CSize(220, 200)};
+    std::vector<CString> m_messages;
+    int m_nCalls = 0;
+    bool m_failed = false;
+    std::string m_strStory;
+    std::string m_strEnd; ///< What was thrown.
+};
+
+} // namespace
+
+void RunLoop(const Scenario& scenario, LoopRange range) {
+    for (const wchar_t* const pszModule : {L"FieldkitFx.dll", L"Fieldkit.dll", L"Tesuvo.dll"})
+        Install(::GetModuleHandle(pszModule), Table());
+    WatchOver();
+    Loop loop(scenario);
+    const int nStride = range.nStride > 0 ? range.nStride : 1 + loop.Calls() / RUNS_IN_SUITE;
+    int n = range.nFirst;
+    while (loop.Try(n))
+        n += nStride;
+    std::printf("%s: %d calls, every %dth failed\n", scenario.pszName, loop.Calls(), nStride);
+}
+
+} // namespace fault

@@ -1,0 +1,109 @@
+// Each call into the system fails once: nothing may crash, hang, be lost or be left behind.
+#include "FaultLoop.h"
+#include "FaultTable.h"
+#include "dialogs/TestDrive.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <map>
+#include <memory>
+
+namespace {
+
+using fault::Scenario;
+
+constexpr wchar_t RANGE[] = L"FIELDKIT_FAULT_RANGE"; ///< For the process that runs the loop.
+constexpr wchar_t ALL[] = L"FIELDKIT_FAULTS_ALL";    ///< Set by those who have the time.
+
+CString Variable(LPCTSTR pszName) {
+    WCHAR szValue[64] = {};
+    ::GetEnvironmentVariable(pszName, szValue, 64);
+    return szValue;
+}
+
+std::string NameOf(const testing::TestParamInfo<Scenario>& info) {
+    return info.param.pszName;
+}
+
+/// What runs in the process of its own; it does not run by itself.
+class DISABLED_FaultLoop : public testing::TestWithParam<Scenario> {};
+
+TEST_P(DISABLED_FaultLoop, Run) {
+    fault::LoopRange range = {};
+    ASSERT_EQ(std::swscanf(Variable(RANGE), L"%d %d", &range.nFirst, &range.nStride), 2);
+    fx::g_app.SetRegistryKey(L"Fieldkit tests");
+    fault::RunLoop(GetParam(), range);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, DISABLED_FaultLoop, testing::ValuesIn(fault::Scenarios()), NameOf);
+
+class Faults : public testing::TestWithParam<Scenario> {
+protected:
+    static void SetUpTestSuite() {
+        s_pDrive = std::make_unique<TestDrive>();
+        s_pDrive->MakeFolder(L"\\faults");
+        s_pDrive->MakeMany(TestDrive::Files, L"\\faults", "P%02g.csv", 20);
+        s_pDrive->MakeMany(TestDrive::Folders, L"\\faults", "D%02g", 5);
+    }
+    static void TearDownTestSuite() { s_pDrive.reset(); }
+
+    /// @return how the process ended
+    static DWORD RunProcess(const char* pszScenario, int nFirst, int nStride) {
+        CString strRange;
+        strRange.Format(L"%d %d", nFirst, nStride);
+        ::SetEnvironmentVariable(RANGE, strRange);
+        WCHAR szProgram[MAX_PATH];
+        ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+        CString strLine;
+        strLine.Format(L"\"%s\" --gtest_also_run_disabled_tests --gtest_brief=1 "
+                       L"--gtest_filter=All/DISABLED_FaultLoop.Run/%hs",
+                       szProgram, pszScenario);
+        STARTUPINFO startup = {};
+        startup.cb = sizeof startup;
+        PROCESS_INFORMATION process = {};
+        DWORD dwExit = 0;
+        if (!::CreateProcess(nullptr, strLine.GetBuffer(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                             &startup, &process))
+            return ::GetLastError();
+        ::WaitForSingleObject(process.hProcess, INFINITE);
+        ::GetExitCodeProcess(process.hProcess, &dwExit);
+        ::CloseHandle(process.hProcess);
+        ::CloseHandle(process.hThread);
+        return dwExit;
+    }
+
+private:
+    static inline std::unique_ptr<TestDrive> s_pDrive;
+};
+
+TEST_P(Faults, LeaveNothingBehind) {
+    const bool bAll = !Variable(ALL).IsEmpty();
+    // Another call each day, so that all have their turn.
+    const int nDay = static_cast<int>(std::time(nullptr) / (24 * 60 * 60));
+    int nFirst = bAll ? 1 : 1 + nDay % 16;
+    for (;;) {
+        const DWORD dwExit = RunProcess(GetParam().pszName, nFirst, bAll ? 1 : 0);
+        EXPECT_EQ(dwExit, 0U) << "see above";
+        if (dwExit <= fault::ENDED || dwExit >= 2 * fault::ENDED)
+            break; // done, or not even begun
+        nFirst = static_cast<int>(dwExit - fault::ENDED) + 1;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Faults, testing::ValuesIn(fault::Scenarios()), NameOf);
+
+TEST(FaultTable, KnowsEveryFunctionThatTheLibraryCalls) {
+    std::map<std::string, std::string> used;
+    for (const wchar_t* const pszModule : {L"FieldkitFx.dll", L"Fieldkit.dll", L"Tesuvo.dll"})
+        for (const fault::Import& import : fault::ImportsOf(::GetModuleHandle(pszModule)))
+            if (!import.dll.starts_with("Fieldkit") && !import.dll.starts_with("Tesuvo"))
+                used[import.name] = import.dll;
+    for (const fault::Point& point : fault::Table())
+        EXPECT_EQ(used.erase(point.pszName), 1U) << point.pszName << " is not called any more";
+    for (const auto& [name, dll] : used) // of the C runtime only what allocates can fail, which is no news
+        EXPECT_TRUE(dll == "msvcrt.dll" || fault::Infallible().contains(name))
+            << name << ": add it to a list in FaultTable.cpp";
+}
+
+} // namespace
