@@ -2,6 +2,8 @@
 
 #include "FileReplacement.h"
 
+#include <utility>
+
 namespace {
 
 std::unique_ptr<CStringStack> EmptyStack() {
@@ -22,14 +24,13 @@ std::unique_ptr<CStringStack> ReadStack(const CString& strPath) {
 CHistory::CHistory(const CString& strPath) : m_strPath(strPath), m_pStack(EmptyStack()) {}
 
 void CHistory::Load() {
-    m_pStack.reset();
+    std::unique_ptr<CStringStack> pStack;
     try {
-        m_pStack = ReadStack(m_strPath);
+        pStack = ReadStack(m_strPath);
     } catch (CException* pError) {
         pError->Delete();
     }
-    if (m_pStack == nullptr)
-        m_pStack = EmptyStack();
+    m_pStack = pStack != nullptr ? std::move(pStack) : EmptyStack();
 }
 
 bool CHistory::Save() {
