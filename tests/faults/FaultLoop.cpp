@@ -116,6 +116,9 @@ private:
                 return;
             last = now;
         }
+        last.nHeapBytes = std::max(last.nHeapBytes - REPEATS * m_scenario.nSystemBytes, before.nHeapBytes);
+        if (!IsMore(before, last))
+            return;
         ADD_FAILURE() << m_scenario.pszName << ' ' << m_strStory << "\nleaves after " << REPEATS
                       << " runs: " << last.nWindows - before.nWindows << " windows, "
                       << last.nGdiObjects - before.nGdiObjects << " drawing objects, "
@@ -145,8 +148,8 @@ private:
         m_messages.shrink_to_fit();
         m_failed = injection.m_pszFailed != nullptr;
         m_strStory = Story(injection);
-        EXPECT_TRUE(bDone || m_failed) << m_scenario.pszName << " does not work after " << g_nRunning << ' '
-                                       << m_strStory << m_strEnd;
+        EXPECT_TRUE(bDone || m_failed)
+            << m_scenario.pszName << " does not work after " << g_nRunning << ' ' << m_strStory << m_strEnd;
         EXPECT_TRUE(::IsWindowEnabled(m_owner)) << m_scenario.pszName << ' ' << m_strStory;
         m_owner.EnableWindow();
         g_pInjection = nullptr;

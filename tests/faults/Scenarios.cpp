@@ -317,8 +317,8 @@ bool KeepSettings(CWnd&) {
     const bool bWritten = app.WriteProfileInt(L"Faults", L"Number", 7) &&
                           app.WriteProfileString(L"Faults", L"Text", L"P1") &&
                           app.WriteProfileBinary(L"Faults", L"Bytes", bytes, sizeof bytes);
-    const bool bRead = app.GetProfileInt(L"Faults", L"Number", 0) == 7 &&
-                       app.GetProfileString(L"Faults", L"Text") == L"P1";
+    const bool bRead =
+        app.GetProfileInt(L"Faults", L"Number", 0) == 7 && app.GetProfileString(L"Faults", L"Text") == L"P1";
     BYTE* pRead = nullptr;
     UINT nRead = 0;
     const bool bBytes = app.GetProfileBinary(L"Faults", L"Bytes", &pRead, &nRead);
@@ -339,19 +339,15 @@ bool FillCombo(CWnd& owner) {
 }
 
 bool StartModule(CWnd&) {
-    AFX_EXTENSION_MODULE module = {};
+    struct Module : AFX_EXTENSION_MODULE {
+        ~Module() { AfxTermExtensionModule(*this); }
+    } module = {};
     const HMODULE hModule = ::GetModuleHandle(nullptr);
-    bool bGood = AfxInitExtensionModule(module, hModule) != FALSE;
-    try {
-        new CDynLinkLibrary(module);
-    } catch (...) {
-        AfxTermExtensionModule(module);
-        throw;
-    }
+    if (!AfxInitExtensionModule(module, hModule))
+        return false;
+    new CDynLinkLibrary(module);
     CString str;
-    bGood = str.LoadString(1513) && AfxFindResourceHandle(MAKEINTRESOURCE(1150), RT_DIALOG) != hModule && bGood;
-    AfxTermExtensionModule(module);
-    return bGood;
+    return str.LoadString(1513) && AfxFindResourceHandle(MAKEINTRESOURCE(1150), RT_DIALOG) != hModule;
 }
 
 } // namespace
@@ -367,7 +363,7 @@ const std::vector<Scenario>& Scenarios() {
         {"Message", ShowMessage},
         {"FullScreen", [](CWnd& owner) { return OpenControls(owner, true); }},
         {"Popup", [](CWnd& owner) { return OpenControls(owner, false); }},
-        {"Sheet", OpenSheet},
+        {"Sheet", OpenSheet, 700}, // Wine's record of a sheet whose window was refused
         {"Panel", UsePanel},
         {"ImageLists", UseImageLists},
         {"Drawing", Draw},

@@ -129,7 +129,8 @@ inline std::vector<Import> ImportsOf(HMODULE hModule) {
             if (!IMAGE_SNAP_BY_ORDINAL(pName->u1.Ordinal))
                 imports.push_back(
                     {reinterpret_cast<const char*>(at(pDll->Name)),
-                     reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(at(pName->u1.AddressOfData))->Name, pSlot});
+                     reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(at(pName->u1.AddressOfData))->Name,
+                     pSlot});
     }
     return imports;
 }
@@ -154,9 +155,8 @@ inline void Install(HMODULE hModule, const std::vector<Point>& points) {
 /// An address as module and offset, for a message.
 inline std::string Place(const void* pAddress) {
     HMODULE hModule = nullptr;
-    ::GetModuleHandleEx(
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-        static_cast<LPCWSTR>(pAddress), &hModule);
+    ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                        static_cast<LPCWSTR>(pAddress), &hModule);
     char szPath[MAX_PATH] = "?";
     ::GetModuleFileNameA(hModule, szPath, MAX_PATH);
     const std::string path = szPath;
