@@ -97,13 +97,15 @@ void AppendPadded(std::wstring& out, const Conversion& conversion, std::wstring_
 template <class Number>
 void AppendNumber(std::wstring& out, const Conversion& conversion, const char* length, Number value) {
     const std::string format = "%" + conversion.flags + "*.*" + length + static_cast<char>(conversion.type);
-    const int needed =
-        std::snprintf(nullptr, 0, format.c_str(), conversion.width, conversion.precision, value);
-    if (needed < 0)
-        AfxThrowMemoryException(); // long fields make the C library ask for some
-    std::string digits(static_cast<std::size_t>(needed) + 1, '\0');
-    std::snprintf(digits.data(), digits.size(), format.c_str(), conversion.width, conversion.precision,
-                  value);
+    const auto print = [&](char* target, std::size_t size) {
+        const int needed =
+            std::snprintf(target, size, format.c_str(), conversion.width, conversion.precision, value);
+        if (needed < 0)
+            AfxThrowMemoryException(); // long fields make the C library ask for some, each time
+        return static_cast<std::size_t>(needed);
+    };
+    std::string digits(print(nullptr, 0) + 1, '\0');
+    print(digits.data(), digits.size());
     out.append(digits.begin(), digits.end() - 1);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <malloc.h>
@@ -142,6 +143,16 @@ void* __wrap_malloc(std::size_t size) {
 }
 void* __wrap_realloc(void* memory, std::size_t size) {
     return FailsNow(Kind::Memory, "") ? nullptr : __real_realloc(memory, size);
+}
+
+int __wrap_snprintf(char* target, std::size_t size, const char* format, ...) {
+    if (FailsNow(Kind::Memory, ""))
+        return -1;
+    va_list args;
+    va_start(args, format);
+    const int needed = std::vsnprintf(target, size, format, args);
+    va_end(args);
+    return needed;
 }
 
 int __wrap_open(const char* path, int flags, ...) {
