@@ -7,6 +7,10 @@
 covered=(
     geometry
     survey
+    util
+    framework/base
+    framework/afx{coll,str,types}.h
+    framework/afx{arc,array,elem,err,file,list,map,obj}_.h
 )
 
 run_coverage() {

@@ -33,6 +33,7 @@ CArchive::CArchive(CFile* pFile, UINT nMode, int nBufSize, void* lpBuf, int nCal
 void CArchive::CloseUnlessUnwinding(int nCallerExceptions) {
     if (m_pFile == nullptr || (m_nMode & bNoFlushOnDelete) != 0)
         return;
+    // unreachable: one count without the other, where all modules share one
     if (nCallerExceptions <= m_nCallerExceptions && std::uncaught_exceptions() <= m_nOwnExceptions) {
         Close();
         return;

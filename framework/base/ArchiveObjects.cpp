@@ -42,6 +42,7 @@ void CheckSerializable(const CRuntimeClass* pClass) {
 CArchive::ObjectTable& CArchive::Objects() {
     if (m_pObjects == nullptr)
         m_pObjects = std::make_shared<ObjectTable>();
+    // unreachable: without a billion objects
     if (m_pObjects->count > kMaxCount)
         Fail(CArchiveException::badIndex);
     return *m_pObjects;

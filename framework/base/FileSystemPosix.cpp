@@ -141,9 +141,11 @@ Error Seek(HANDLE file, LONGLONG offset, UINT from, ULONGLONG& position) {
     constexpr int kOrigins[] = {SEEK_SET, SEEK_CUR, SEEK_END};
     if (from >= std::size(kOrigins))
         return EINVAL;
-    if (offset > std::numeric_limits<off_t>::max() || offset < std::numeric_limits<off_t>::min())
+    const auto target = static_cast<off_t>(offset);
+    // unreachable: where off_t has 64 bits, but for the ARM build it has 32
+    if (target != offset)
         return EOVERFLOW;
-    const off_t result = lseek(Fd(file), static_cast<off_t>(offset), kOrigins[from]);
+    const off_t result = lseek(Fd(file), target, kOrigins[from]);
     position = static_cast<ULONGLONG>(result);
     return result >= 0 ? 0 : errno;
 }

@@ -120,6 +120,7 @@ ULONGLONG CMemFile::Seek(LONGLONG lOff, UINT nFrom) {
 }
 
 void CMemFile::SetLength(ULONGLONG dwNewLen) {
+    // unreachable: where size_t has 64 bits
     if (dwNewLen > std::numeric_limits<std::size_t>::max())
         AfxThrowMemoryException();
     const auto length = static_cast<std::size_t>(dwNewLen);
@@ -142,6 +143,7 @@ UINT CMemFile::Read(void* lpBuf, UINT nCount) {
 void CMemFile::Write(const void* lpBuf, UINT nCount) {
     if (nCount == 0)
         return;
+    // unreachable: where size_t has 64 bits, since Seek ends at the last LONGLONG
     if (m_nPosition > std::numeric_limits<std::size_t>::max() - nCount)
         AfxThrowMemoryException();
     const std::size_t newEnd = m_nPosition + nCount;

@@ -24,12 +24,10 @@ AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) noexcept : m_pClass(pNewC
 
 AFX_CLASSINIT::~AFX_CLASSINIT() {
     const std::lock_guard lock(ListMutex());
-    for (AFX_CLASSINIT** link = &g_pFirst; *link != nullptr; link = &(*link)->m_pNext) {
-        if (*link == this) {
-            *link = m_pNext;
-            return;
-        }
-    }
+    AFX_CLASSINIT** link = &g_pFirst;
+    while (*link != this)
+        link = &(*link)->m_pNext;
+    *link = m_pNext;
 }
 
 CRuntimeClass* AFXAPI CRuntimeClass::FromName(LPCSTR lpszClassName) {

@@ -117,6 +117,7 @@ TEST(ArchiveObject, NumbersThatDoNotFitTheirTagAreLong) {
             link = std::make_unique<CLink>();
         const Bytes bytes = Stored([&](CArchive& ar) {
             ar.WriteClass(RUNTIME_CLASS(CLink));
+            ar.MapObject(nullptr); // has its number, 0
             for (const auto& link : links)
                 ar.MapObject(link.get());
             ar.WriteClass(RUNTIME_CLASS(CVersioned));
@@ -216,6 +217,8 @@ TEST(ArchiveObject, EachObjectAsksForItsSchemaNumberOnce) {
                       EXPECT_EQ(1U, p->m_first);
                       EXPECT_EQ(static_cast<UINT>(-1), p->m_second);
                   }
+                  ar.SetObjectSchema(7);
+                  EXPECT_EQ(7U, ar.GetObjectSchema());
               }));
 }
 
@@ -237,6 +240,11 @@ TEST(ArchiveObject, ClassesWithoutSerialAreNotSupported) {
     EXPECT_THROW(Stored([&](CArchive& ar) { ar << &named; }), CNotSupportedException*);
     EXPECT_THROW(Loaded({}, [](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CNamed)); }),
                  CNotSupportedException*);
+    const AFX_CLASSINIT known(RUNTIME_CLASS(CNamed)); // by its name, and cannot be made all the same
+    EXPECT_EQ(kBadClass, Loaded(FromHex("ffff ffff 0600 434e616d6564"), [](CArchive& ar) {
+                  CObject* pNamed = nullptr;
+                  ar >> pNamed;
+              }));
 }
 
 } // namespace

@@ -51,6 +51,9 @@ TEST(Archive, CountsTakeTwoOrSixBytes) {
         Loaded(FromHex(hex), [&](CArchive& ar) { loaded = ar.ReadCount(); });
         EXPECT_EQ(count, loaded);
     }
+    if (const auto tooMany = static_cast<DWORD_PTR>(0x1'0000'0000ULL); tooMany != 0) {
+        EXPECT_THROW(Stored([&](CArchive& ar) { ar.WriteCount(tooMany); }), CInvalidArgException*);
+    }
 }
 
 std::string Head(const Bytes& bytes) {
@@ -88,7 +91,8 @@ TEST(Archive, CharactersBeyondTheBasicPlaneAreSurrogates) {
     CString loaded;
     Loaded(FromHex(hex), [&](CArchive& ar) { ar >> loaded; });
     EXPECT_STREQ(text, loaded);
-    const char* lone = "ff fe ff 02 00 de 3d d8";
+    EXPECT_EQ(sizeof(TCHAR) == 2 ? "3d d8" : "fd ff", ToHex(Stored([&](CArchive& ar) { ar << text[0]; })));
+    const char* lone = "ff fe ff 03 00 de 3d d8 3d d8";
     Loaded(FromHex(lone), [&](CArchive& ar) { ar >> loaded; });
     EXPECT_EQ(lone, ToHex(Stored([&](CArchive& ar) { ar << loaded; })));
 }
@@ -182,12 +186,20 @@ TEST(Archive, TheCallersBufferIsUsed) {
     ar << BYTE{9};
     EXPECT_EQ(9, buffer[0]);
     ar.Close();
+    ar.Close();
     EXPECT_EQ("09", ToHex(ContentOf(file)));
+    CArchive(&file, CArchive::store, 1, buffer) << BYTE{8};
+    EXPECT_EQ(9, buffer[0]) << "one too small is left alone";
 }
 
 class FullDisk : public CMemFile {
 public:
-    void Write(const void*, UINT) override { AfxThrowFileException(CFileException::diskFull); }
+    void Write(const void*, UINT) override {
+        if (m_throwsNumbers)
+            throw 1;
+        AfxThrowFileException(CFileException::diskFull);
+    }
+    bool m_throwsNumbers = false;
 };
 
 TEST(Archive, AWriteErrorReachesTheCallerOnce) {
@@ -205,6 +217,8 @@ TEST(Archive, AWriteErrorReachesTheCallerOnce) {
         [&] { storeAnd([](CArchive&) { AfxThrowArchiveException(CArchiveException::badIndex); }); }));
     EXPECT_NO_THROW(storeAnd([](CArchive& ar) { ar.Abort(); }));
     EXPECT_NO_THROW(CArchive(&file, CArchive::store | CArchive::bNoFlushOnDelete) << 1);
+    file.m_throwsNumbers = true;
+    EXPECT_THROW(storeAnd([](CArchive&) { throw std::runtime_error("first"); }), std::runtime_error);
 }
 
 } // namespace

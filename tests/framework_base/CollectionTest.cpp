@@ -58,6 +58,7 @@ TEST(List, AddsInsertsAndRemovesAnywhere) {
     EXPECT_STREQ(L"cD", Joined(list));
     list.GetHead() = L"x";
     EXPECT_STREQ(L"x", list.GetAt(list.FindIndex(0)));
+    EXPECT_FALSE(list.IsEmpty());
     list.RemoveAll();
     EXPECT_EQ(0, list.GetCount());
 }
@@ -81,6 +82,8 @@ TEST(List, TakesListsAndItself) {
     Fill(more, L"xy");
     list.AddHead(&more);
     list.AddTail(&more);
+    const CStringList none;
+    list.AddTail(&none);
     EXPECT_STREQ(L"xyabxy", Joined(list));
     more.AddTail(&more);
     more.AddHead(&more);
@@ -96,6 +99,7 @@ TEST(List, MissingElementsThrow) {
     EXPECT_THROW(list.RemoveTail(), CInvalidArgException*);
     EXPECT_THROW(list.GetNext(none), CInvalidArgException*);
     EXPECT_THROW(list.RemoveAt(none), CInvalidArgException*);
+    EXPECT_THROW(list.AddHead(static_cast<CPtrList*>(nullptr)), CInvalidArgException*);
     EXPECT_THROW(list.AddTail(static_cast<CPtrList*>(nullptr)), CInvalidArgException*);
     int value = 0;
     list.AddTail(&value);
@@ -122,10 +126,13 @@ TEST(Array, GrowsShrinksAndMoves) {
     array.InsertAt(0, array[1]);
     array.Add(array[0]);
     EXPECT_STREQ(L"babb", Joined(array));
+    array.SetAtGrow(2, L"c");
     array.FreeExtra();
-    EXPECT_STREQ(L"babb", Joined(array));
+    EXPECT_STREQ(L"bacb", Joined(array));
     array.RemoveAll();
     EXPECT_TRUE(array.IsEmpty());
+    array.Add(L"z"); // ten at a time
+    EXPECT_FALSE(array.IsEmpty());
 }
 
 TEST(Array, TakesArraysAndItself) {
@@ -150,11 +157,18 @@ TEST(Array, OutsideThrows) {
     EXPECT_THROW(array[2], CInvalidArgException*);
     EXPECT_THROW(array.SetAt(-1, 1), CInvalidArgException*);
     EXPECT_THROW(array.InsertAt(-1, 1), CInvalidArgException*);
+    EXPECT_THROW(array.InsertAt(0, 1, -1), CInvalidArgException*);
+    EXPECT_THROW(array.InsertAt(0, static_cast<CUIntArray*>(nullptr)), CInvalidArgException*);
+    EXPECT_THROW(array.InsertAt(0, &array), CInvalidArgException*);
+    EXPECT_THROW(array.RemoveAt(-1), CInvalidArgException*);
     EXPECT_THROW(array.RemoveAt(1, 2), CInvalidArgException*);
     EXPECT_THROW(array.RemoveAt(0, -1), CInvalidArgException*);
     EXPECT_THROW(array.SetSize(-1), CInvalidArgException*);
     EXPECT_THROW(array.SetSize(INTPTR_MAX), CMemoryException*);
     EXPECT_THROW(array.InsertAt(INTPTR_MAX, 1, 9), CMemoryException*);
+    array.RemoveAt(2, 0);
+    const CUIntArray none;
+    array.InsertAt(9, &none);
     EXPECT_EQ(2, array.GetSize());
 }
 
@@ -175,6 +189,7 @@ TEST(Map, FindsItsKeysAndWalksThemOnce) {
     EXPECT_FALSE(map.Lookup(L"key8", value));
     EXPECT_EQ(707, value);
 
+    EXPECT_FALSE(map.IsEmpty());
     int sum = 0;
     int steps = 0;
     CString key;
@@ -186,6 +201,8 @@ TEST(Map, FindsItsKeysAndWalksThemOnce) {
     EXPECT_EQ(99, steps);
     EXPECT_EQ(99 * 100 / 2 - 8 + 700, sum);
     EXPECT_TRUE(map.IsEmpty());
+    POSITION none = nullptr;
+    EXPECT_THROW(map.GetNextAssoc(none, key, value), CInvalidArgException*);
 }
 
 template <class Collection>
@@ -206,6 +223,11 @@ TEST(Collection, ArchivesHoldCountAndElements) {
     CMap<int, int, CString, LPCTSTR> map;
     map[2] = L"x";
     EXPECT_EQ("01 00 02 00 00 00 ff fe ff 01 78 00", HexOf(map));
+    CPtrList pointers;
+    pointers.AddTail(&list);
+    CPtrArray pointerArray;
+    pointerArray.Add(&list);
+    EXPECT_EQ("", HexOf(pointers) + HexOf(pointerArray)); // they mean nothing in a file
 
     const Bytes stored = FromHex(HexOf(list));
     Loaded(stored, [&](CArchive& ar) { list.Serialize(ar); });

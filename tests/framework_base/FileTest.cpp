@@ -57,6 +57,10 @@ TEST_F(File, OpenFlagsDecideOnMakingAndCutting) {
     EXPECT_EQ("y2345", Text(path));
     CFile(path, CFile::modeCreate | CFile::modeWrite).Write("z", 1);
     EXPECT_EQ("z", Text(path));
+    CFile(path, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeRead);
+    EXPECT_EQ("z", Text(path));
+    CFile(path, CFile::modeCreate | CFile::modeRead);
+    EXPECT_EQ("", Text(path));
     CFile(Path(L"new"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Write("n", 1);
     EXPECT_EQ("n", Text(Path(L"new")));
 }
@@ -87,6 +91,7 @@ TEST_F(File, SharingKeepsOthersOut) {
     EXPECT_FALSE(CFile().Open(path, kCreate));
     ASSERT_TRUE(first.Open(path, CFile::modeRead | CFile::shareDenyWrite)); // lets go of itself first
     EXPECT_TRUE(CFile().Open(path, CFile::modeRead | CFile::shareDenyWrite));
+    EXPECT_FALSE(CFile().Open(path, CFile::modeReadWrite | CFile::shareDenyWrite));
     first.Close();
     EXPECT_EQ("1", Text(path));
 }
@@ -101,6 +106,7 @@ TEST_F(File, ReadsWritesAndSeeks) {
     char buffer[8] = {};
     EXPECT_EQ(1U, file.Read(buffer, 8));
     EXPECT_EQ('f', buffer[0]);
+    EXPECT_EQ(0U, file.Read(nullptr, 0));
     EXPECT_EQ(0U, file.Read(buffer, 8));
     EXPECT_EQ(CFileException::badSeek, CauseOf([&] { file.Seek(-1, CFile::begin); }));
     file.SetLength(3);

@@ -41,6 +41,9 @@ TEST(MemFile, AttachedMemoryStaysTheCallers) {
     fixed.SeekToBegin();
     fixed.Write("x", 1);
     EXPECT_EQ('x', buffer[0]);
+    EXPECT_EQ(0U, fixed.Read(nullptr, 0));
+    fixed.Attach(nullptr, 3);
+    EXPECT_EQ(0U, fixed.GetLength());
 
     CMemFile growing(static_cast<BYTE*>(std::malloc(2)), 2, 16);
     EXPECT_EQ(0U, growing.GetLength());
@@ -50,7 +53,10 @@ TEST(MemFile, AttachedMemoryStaysTheCallers) {
     EXPECT_EQ(0, std::memcmp(memory, "abcdefgh", 8));
     std::free(memory);
     growing.Write("again", 5);
+    growing.Flush();
     EXPECT_EQ(5U, growing.GetLength());
+    growing.Abort();
+    EXPECT_EQ(0U, growing.GetLength());
 }
 
 TEST(MemFile, HasNothingToOpenOrShare) {
@@ -58,8 +64,10 @@ TEST(MemFile, HasNothingToOpenOrShare) {
     CFileException error;
     EXPECT_FALSE(file.Open(L"x", CFile::modeCreate, &error));
     EXPECT_EQ(CFileException::genericException, error.m_cause);
+    EXPECT_FALSE(file.Open(L"x", CFile::modeCreate));
     EXPECT_THROW(static_cast<void>(file.Duplicate()), CNotSupportedException*);
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException*);
+    EXPECT_THROW(file.UnlockRange(0, 1), CNotSupportedException*);
 }
 
 class Limited : public CMemFile {

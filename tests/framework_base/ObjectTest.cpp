@@ -1,4 +1,6 @@
 #define _DEBUG 1 // the checks of a debug program, against the library as it is
+#include "ArchiveBytes.h"
+
 #include "afxcoll.h"
 
 #include <gtest/gtest.h>
@@ -33,6 +35,7 @@ TEST(Object, KnowsItsClass) {
     EXPECT_EQ(&square, STATIC_DOWNCAST(CShape, pObject));
     EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CStringList, pObject));
     EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CSquare, nullptr));
+    EXPECT_EQ(nullptr, STATIC_DOWNCAST(CSquare, nullptr));
 }
 
 TEST(Object, IsCreatedByItsClassAndByName) {
@@ -60,6 +63,21 @@ TEST(Object, NamesGoWithTheModuleThatBroughtThem) {
     EXPECT_NE(nullptr, CRuntimeClass::FromName("CStringArray"));
 }
 
+class CPlain : public CObject {};
+
+TEST(Object, NeedsNoClassOfItsOwn) {
+    CPlain plain;
+    ASSERT_VALID(&plain);
+    EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
+    EXPECT_TRUE(Stored([&](CArchive& ar) { plain.Serialize(ar); }).empty());
+}
+
+TEST(Object, TracesGoToTheErrorOutput) {
+    testing::internal::CaptureStderr();
+    AfxTrace(L"%d of %s", 1, L"two");
+    EXPECT_EQ("1 of two", testing::internal::GetCapturedStderr());
+}
+
 TEST(ObjectDeathTest, FailedChecksEndADebugProgram) {
     CShape shape;
     ASSERT_VALID(&shape);
@@ -69,6 +87,7 @@ TEST(ObjectDeathTest, FailedChecksEndADebugProgram) {
                  "Assertion failed");
     shape.m_bValid = false;
     EXPECT_DEATH(ASSERT_VALID(&shape), "Assertion failed");
+    EXPECT_DEATH(ASSERT_VALID(static_cast<CShape*>(nullptr)), "Assertion failed");
 }
 
 TEST(Exception, SayWhatHappenedToWhichFile) {
@@ -86,13 +105,20 @@ TEST(Exception, SayWhatHappenedToWhichFile) {
                  text(CFileException(CFileException::diskFull)));
     EXPECT_STREQ(L"x has a bad format.", text(CArchiveException(CArchiveException::badIndex, L"x")));
     EXPECT_STREQ(L"An unknown error occurred while accessing x.", text(CArchiveException(99, L"x")));
+    EXPECT_STREQ(L"An unknown error occurred while accessing x.", text(CArchiveException(-1, L"x")));
     EXPECT_STREQ(L"Out of memory.", text(CMemoryException()));
+    EXPECT_STREQ(L"An unsupported operation was attempted.", text(CNotSupportedException()));
+    EXPECT_STREQ(L"A required resource was unavailable.", text(CResourceException()));
+    EXPECT_STREQ(L"An invalid argument was encountered.", text(CInvalidArgException()));
     EXPECT_STREQ(L"", text(CUserException())); // the user was told already
 
     TCHAR small[4];
     EXPECT_TRUE(CMemoryException().GetErrorMessage(small, 4));
     EXPECT_STREQ(L"Out", small);
     EXPECT_FALSE(CMemoryException().GetErrorMessage(small, 0));
+    EXPECT_FALSE(CMemoryException().GetErrorMessage(nullptr, 4));
+    EXPECT_THROW(AfxThrowResourceException(), CResourceException*);
+    EXPECT_THROW(AfxThrowUserException(), CUserException*);
 }
 
 } // namespace

@@ -31,12 +31,14 @@ TEST(String, IsConstructedFromEveryKindOfText) {
         {"null", kNullText, L""},
         {"null narrow", kNullNarrow, L""},
         {"null with length", {kNullText, 5}, L""},
+        {"null narrow with length", {kNullNarrow, 5}, L""},
         {"narrow", "abc", L"abc"},
         {"narrow with length", {"abc", 2}, L"ab"},
         {"repeated", {L'x', 3}, L"xxx"},
         {"repeated never", {L'x', -1}, L""},
         {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
         {"negative length", {L"abc", -1}, L""},
+        {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))), L"123456"},
     });
 }
 
@@ -84,15 +86,20 @@ TEST(String, EditsInPlace) {
         {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
         {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
         {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
+        {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
         {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
         {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
         {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
         {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
         {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
+        {"append", edited(L"a", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }), L"abc"},
+        {"append none", edited(L"a", [](CString& s) { s.Append(nullptr, 2); }), L"a"},
         {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
         {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
         {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
         {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
+        {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
+        {"free extra", edited(L"ab", [](CString& s) { s.FreeExtra(); }), L"ab"},
         {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"},
     });
 }
@@ -110,6 +117,7 @@ TEST(String, ReplacesAndRemovesAndCounts) {
         EXPECT_STREQ(row.expected, s);
     }
     CString s = L"banana";
+    EXPECT_EQ(0, s.Replace(L'a', L'a'));
     EXPECT_EQ(3, s.Replace(L'a', L'o'));
     EXPECT_EQ(2, s.Remove(L'n'));
     EXPECT_STREQ(L"booo", s);
@@ -127,6 +135,7 @@ TEST(String, FindsFromTheStartGiven) {
     EXPECT_EQ(3, s.Find(L"abc", 1));
     EXPECT_EQ(-1, s.Find(L"abcd"));
     EXPECT_EQ(-1, s.Find(nullptr));
+    EXPECT_EQ(-1, s.Find(L"abc", -1));
     EXPECT_EQ(6, s.Find(L"", 6));
     EXPECT_EQ(-1, s.Find(L"", 7));
     EXPECT_EQ(5, s.ReverseFind(L'c'));
@@ -146,8 +155,9 @@ TEST(String, Compares) {
     EXPECT_GT(s.CompareNoCase(L"AB"), 0);
     EXPECT_LT(CString(L"_").CompareNoCase(L"A"), 0); // case is folded downwards
 
-    EXPECT_TRUE(s == L"abc" && L"abc" == s && s == CString(s) && s == "abc" && CString(L"a") == L'a');
+    EXPECT_TRUE(s == L"abc" && L"abc" == s && s == CString(s) && s == "abc" && L'a' == CString(L"a"));
     EXPECT_TRUE(s != L"abd" && L"abd" != s && s != CString() && L'a' != s);
+    EXPECT_TRUE(s != L'a' && CString(L"b") != L'a');
     EXPECT_TRUE(s < L"abd" && L"abb" < s && s < CString(L"b"));
     EXPECT_TRUE(s > L"abb" && L"abd" > s && s > CString());
     EXPECT_TRUE(s <= L"abc" && L"abc" <= s && s <= CString(s));
@@ -162,6 +172,7 @@ TEST(String, IndexOutsideThrows) {
     EXPECT_THROW(s.GetAt(3), CInvalidArgException*);
     EXPECT_THROW(s[-1], CInvalidArgException*);
     EXPECT_THROW(s.SetAt(2, L'x'), CInvalidArgException*);
+    EXPECT_THROW(s.SetAt(-1, L'x'), CInvalidArgException*);
 }
 
 TEST(String, BufferIsWrittenAndReleased) {

@@ -368,4 +368,33 @@ TEST_F(FaultsOfFiles, OnlyFilesOnDiskAreOpened) {
     full.Close();
 }
 
+TEST(SystemErrors, EachHasItsCause) {
+    struct Row {
+        int error, cause;
+    };
+    for (const Row& row : {
+             Row{0, CFileException::none},
+             Row{ENOTDIR, CFileException::badPath},
+             Row{ENAMETOOLONG, CFileException::badPath},
+             Row{ELOOP, CFileException::badPath},
+             Row{EMFILE, CFileException::tooManyOpenFiles},
+             Row{ENFILE, CFileException::tooManyOpenFiles},
+             Row{EPERM, CFileException::accessDenied},
+             Row{EROFS, CFileException::accessDenied},
+             Row{ESPIPE, CFileException::badSeek},
+             Row{ENOMEDIUM, CFileException::hardIO},
+             Row{EREMOTEIO, CFileException::hardIO},
+             Row{ENOLCK, CFileException::lockViolation},
+             Row{ENOMEM, CFileException::genericException},
+         })
+        EXPECT_EQ(row.cause, CFileException::OsErrorToException(row.error)) << row.error;
+}
+
+TEST_F(FaultsOfFiles, WhatIsNoCharacterIsReplaced) {
+    const CString wrong(static_cast<TCHAR>(0x110000));
+    EXPECT_EQ("ff fe ff 01 fd ff", ToHex(Stored([&](CArchive& ar) { ar << wrong; })));
+    CFile(Path("") + wrong, CFile::modeCreate | CFile::modeWrite);
+    EXPECT_TRUE(std::filesystem::exists(m_folder / u8"\uFFFD"));
+}
+
 } // namespace
