@@ -212,6 +212,8 @@ void CDialog::PrevDlgCtrl() const {
     ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, 0);
 }
 void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
+    if (pWndCtrl == nullptr) // a control that is looked up after the dialog was destroyed
+        return;
     ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE);
 }
 void CDialog::SetDefID(UINT nID) {

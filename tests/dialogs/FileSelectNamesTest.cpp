@@ -252,6 +252,24 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
     }
 }
 
+TEST(FileSelectNames, DialogMayBeDestroyedWhileItsMessageIsOpen) {
+    const TestDrive drive;
+    drive.MakeFile(L"\\old.csv");
+    for (const wchar_t* typed : {L"a?b", L"old"}) {
+        CsvDlg dlg(CFileSelectDlg::ModeSave, L"\\");
+        fx::ModalScript script;
+        script.Then([&] {
+            dlg.SetDlgItemText(NAME, typed);
+            fx::TapOk(dlg);
+        });
+        script.Then([&] {
+            EXPECT_FALSE(QuestionText().IsEmpty());
+            dlg.DestroyWindow();
+        });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), -1) << fx::Utf8(typed);
+    }
+}
+
 TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
     const TestDrive drive;
     drive.MakeFile(L"\\old.csv");
