@@ -72,15 +72,13 @@ RECT PanelWindow::Place() const {
 // --- Coming and going ------------------------------------------------------------------------
 
 bool PanelWindow::Create() {
-    static const bool registered = [] {
-        WNDCLASSW description{};
-        description.lpfnWndProc = WindowProc;
-        description.hInstance = CompanionModule();
-        description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        description.lpszClassName = PANEL_CLASS;
-        return ::RegisterClassW(&description) != 0;
-    }();
-    if (!registered)
+    WNDCLASSW description{};
+    description.lpfnWndProc = WindowProc;
+    description.hInstance = CompanionModule();
+    description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    description.lpszClassName = PANEL_CLASS;
+    // Another thread's panel has perhaps registered it; a failure is none for the next time.
+    if (::RegisterClassW(&description) == 0 && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         return false;
     // A window must not outlive the code that answers its messages.
     PinCompanionModule();

@@ -77,6 +77,7 @@ test_package() {
     local start=$EPOCHREALTIME bad=0 good=0 expected=$root/tests/package/expected.txt
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"
+    check_hardened "${files[@]/#/$work/cmake/}"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$expected" "$work/pkgconf/shared.exe"
@@ -124,6 +125,23 @@ versions_expected() {
     copyright=$(grep '^Copyright' "$root/LICENSE")
     for file in "$@"; do
         printf '%s %s|%s|%s|Fieldkit|Fieldkit|%s\n' "$file" "$version" "$version" "$version" "$copyright"
+    done
+}
+
+# check_hardened FILE...: each asks for random addresses and for data that is not executed;
+# counts in "good" and "bad".
+check_hardened() {
+    local file flag headers
+    for file in "$@"; do
+        headers=$(x86_64-w64-mingw32-objdump -p "$file")
+        for flag in DYNAMIC_BASE HIGH_ENTROPY_VA NX_COMPAT; do
+            if grep -qw "$flag" <<<"$headers"; then
+                good=$((good + 1))
+            else
+                bad=$((bad + 1))
+                printf '  %s is not marked %s\n' "$(basename "$file")" "$flag"
+            fi
+        done
     done
 }
 

@@ -11,6 +11,8 @@ public:
         const HBITMAP hBitmap = ::CreateBitmap(8, 8, 1, 1, rows);
         m_hBrush = ::CreatePatternBrush(hBitmap);
         ::DeleteObject(hBitmap);
+        if (m_hBrush == nullptr)
+            AfxThrowResourceException(); // the next one who asks tries again
     }
     ~CHalftone() { ::DeleteObject(m_hBrush); }
     CHalftone(const CHalftone&) = delete;
