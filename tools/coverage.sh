@@ -9,7 +9,7 @@ covered=(
     survey
     util
     framework/base
-    framework/afx{coll,str,types}.h
+    framework/{afxcoll,afxstr,afxtypes,atltypes}.h
     framework/afx{arc,array,elem,err,file,list,map,obj}_.h
 )
 

@@ -8,6 +8,12 @@ std::string Text(const CRect& r) {
     return std::to_string(r.left) + " " + std::to_string(r.top) + " " + std::to_string(r.right) + " " +
            std::to_string(r.bottom);
 }
+std::string Text(POINT p) {
+    return std::to_string(p.x) + " " + std::to_string(p.y);
+}
+std::string Text(SIZE s) {
+    return Text(CPoint(s));
+}
 
 TEST(Types, PointsAndSizesCalculate) {
     EXPECT_TRUE(CPoint(5, 7) == CPoint(2, 3) + CSize(3, 4));
@@ -16,11 +22,21 @@ TEST(Types, PointsAndSizesCalculate) {
     EXPECT_TRUE(CPoint(-3, 5) == CPoint(LPARAM{0x0005FFFD})); // signed words
     EXPECT_TRUE(CSize(-3, 5) == CSize(DWORD{0x0005FFFD}));
     EXPECT_TRUE(CPoint(1, 2) != CPoint(1, 3) && CPoint(1, 2) != CPoint(2, 2));
+    const POINT plainPoint = {15, 0};
+    const SIZE plainSize = {0, 3};
     CPoint p(1, 1);
     p.Offset(CSize(1, 2));
     p += POINT{10, 10};
     p -= SIZE{1, 1};
     EXPECT_TRUE(p == CPoint(11, 12));
+    p += SIZE{5, 6};
+    p -= POINT{1, 2};
+    EXPECT_TRUE(p == CPoint(15, 16) && p != plainPoint && CPoint() != CPoint(plainPoint));
+    CSize s;
+    s += SIZE{5, 6};
+    s -= SIZE{1, 3};
+    EXPECT_TRUE(s == CSize(CPoint(4, 3)) && s != CSize(4, 0) && s != plainSize &&
+                CSize(plainSize) == plainSize);
 }
 
 TEST(Types, RectCombinations) {
@@ -36,6 +52,8 @@ TEST(Types, RectCombinations) {
         {{0, 0, 4, 4}, {-1, 3, 9, 9}, "0 3 4 4", "-1 0 9 9", "0 0 4 3"},
         {{0, 0, 4, 4}, {0, -2, 4, 1}, "0 0 4 1", "0 -2 4 4", "0 1 4 4"},
         {{0, 0, 4, 4}, {1, 0, 2, 4}, "1 0 2 4", "0 0 4 4", "0 0 4 4"}, // would leave two
+        {{0, 0, 4, 4}, {0, 1, 4, 2}, "0 1 4 2", "0 0 4 4", "0 0 4 4"},
+        {{0, 0, 4, 4}, {0, 1, 2, 2}, "0 1 2 2", "0 0 4 4", "0 0 4 4"},
         {{0, 0, 4, 4}, {-1, -1, 9, 9}, "0 0 4 4", "-1 -1 9 9", "0 0 0 0"},
         {{0, 0, 4, 4}, {3, 3, 3, 3}, "0 0 0 0", "0 0 4 4", "0 0 4 4"}, // empty ones do not count
         {{4, 4, 0, 0}, {1, 1, 2, 2}, "0 0 0 0", "1 1 2 2", "0 0 0 0"},
@@ -49,6 +67,7 @@ TEST(Types, RectCombinations) {
         EXPECT_EQ(row.common, Text(row.a & row.b));
         EXPECT_EQ(std::string(row.around) != "0 0 0 0", result.UnionRect(row.a, row.b) != 0);
         EXPECT_EQ(row.around, Text(result));
+        EXPECT_EQ(row.around, Text(row.a | row.b));
         result = row.a;
         EXPECT_EQ(std::string(row.rest) != "0 0 0 0", result.SubtractRect(result, row.b) != 0);
         EXPECT_EQ(row.rest, Text(result));
@@ -68,6 +87,17 @@ TEST(Types, RectChanges) {
     EXPECT_EQ("11 22 31 62", changed([](CRect& c) { c += CPoint(1, 2); }));
     EXPECT_EQ("9 18 29 58", changed([](CRect& c) { c -= CSize(1, 2); }));
     EXPECT_EQ("0 5 20 45", changed([](CRect& c) { c.MoveToXY(0, 5); }));
+    EXPECT_EQ("9 18 33 64", changed([](CRect& c) { c += CRect(1, 2, 3, 4); }));
+    EXPECT_EQ("11 22 27 56", changed([](CRect& c) { c -= CRect(1, 2, 3, 4); }));
+    EXPECT_EQ("9 18 31 62", changed([](CRect& c) { c.InflateRect(CSize(1, 2)); }));
+    EXPECT_EQ("11 22 29 58", changed([](CRect& c) { c.DeflateRect(CSize(1, 2)); }));
+    EXPECT_EQ("30 20 10 60", changed([](CRect& c) { c.SwapLeftRight(); }));
+    EXPECT_EQ("1 2 3 4", changed([](CRect& c) { c.SetRect(CPoint(1, 2), CPoint(3, 4)); }));
+    EXPECT_EQ("1 2 3 4", changed([](CRect& c) { c.CopyRect(CRect(1, 2, 3, 4)); }));
+    EXPECT_EQ("1 2 3 4", changed([](CRect& c) { c = RECT{1, 2, 3, 4}; }));
+    EXPECT_EQ("1 2 4 6", changed([](CRect& c) { c = CRect(CPoint(1, 2), CSize(3, 4)); }));
+    EXPECT_EQ("10 5 30 45", changed([](CRect& c) { c.MoveToY(5); }));
+    EXPECT_EQ("0 5 20 45", changed([](CRect& c) { c.MoveToXY(CPoint(0, 5)); }));
     EXPECT_EQ("5 20 25 60", changed([](CRect& c) { c.MoveToX(5); }));
     EXPECT_EQ("1 2 30 60", changed([](CRect& c) { c.TopLeft() = CPoint(1, 2); }));
     EXPECT_EQ("10 20 31 62", changed([](CRect& c) { c.BottomRight().Offset(1, 2); }));
@@ -75,6 +105,34 @@ TEST(Types, RectChanges) {
     turned.NormalizeRect();
     EXPECT_TRUE(turned == r);
     EXPECT_TRUE(r.Size() == CSize(20, 40) && r.CenterPoint() == CPoint(20, 40));
+    EXPECT_EQ("10 20 30 60", Text(r.TopLeft()) + " " + Text(r.BottomRight()));
+    const RECT same = r;
+    EXPECT_TRUE(CRect(same) == r && r == same && !(r != same) && r != CRect(0, 20, 30, 60) &&
+                r != CRect(10, 0, 30, 60) && r != CRect(10, 20, 0, 60) && r != CRect(10, 20, 30, 0));
+}
+
+TEST(Types, WhatIsAddedMovesAndMarginsGrow) {
+    const CRect r(10, 20, 30, 60);
+    const CRect margins(1, 2, 3, 4);
+    const CPoint p(3, 5);
+    const CSize s(1, 2);
+    EXPECT_EQ("13 25 33 65", Text(r + p));
+    EXPECT_EQ("7 15 27 55", Text(r - p));
+    EXPECT_EQ("11 22 31 62", Text(r + s));
+    EXPECT_EQ("9 18 29 58", Text(r - s));
+    EXPECT_EQ("9 18 33 64", Text(r + &margins));
+    EXPECT_EQ("11 22 27 56", Text(r - &margins));
+    EXPECT_EQ("13 25 33 65", Text(p + &r));
+    EXPECT_EQ("7 15 27 55", Text(p - &r));
+    EXPECT_EQ("11 22 31 62", Text(s + &r));
+    EXPECT_EQ("9 18 29 58", Text(s - &r));
+    EXPECT_EQ("4 7", Text(s + p));
+    EXPECT_EQ("-2 -3", Text(s - p));
+    EXPECT_EQ("4 7", Text(p + POINT{1, 2}));
+    EXPECT_EQ("2 3", Text(p - s));
+    EXPECT_EQ("4 5", Text(s + SIZE{3, 3}));
+    EXPECT_EQ("-2 -1", Text(s - SIZE{3, 3}));
+    EXPECT_EQ("-1 -2", Text(-s));
 }
 
 // The optimizer must see that a corner is a part of the rectangle.
@@ -92,7 +150,8 @@ TEST(Types, CornersAreTheRectItself) {
 TEST(Types, RightAndBottomLieOutside) {
     const CRect r(0, 0, 2, 3);
     EXPECT_TRUE(r.PtInRect(CPoint(0, 0)) && r.PtInRect(CPoint(1, 2)));
-    EXPECT_FALSE(r.PtInRect(CPoint(2, 0)) || r.PtInRect(CPoint(0, 3)) || r.PtInRect(CPoint(-1, 0)));
+    EXPECT_FALSE(r.PtInRect(CPoint(2, 0)) || r.PtInRect(CPoint(0, 3)) || r.PtInRect(CPoint(-1, 0)) ||
+                 r.PtInRect(CPoint(0, -1)));
     EXPECT_TRUE(CRect(1, 1, 1, 5).IsRectEmpty() && CRect(1, 1, 5, 0).IsRectEmpty() && !r.IsRectEmpty());
     EXPECT_TRUE(CRect().IsRectNull() && !CRect(1, 1, 1, 1).IsRectNull());
 }
