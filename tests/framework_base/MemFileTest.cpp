@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -80,6 +82,8 @@ TEST(MemFile, WantOfMemoryKeepsWhatIsThere) {
     file.Write("abc", 3);
     EXPECT_THROW(file.SetLength(100'000), CMemoryException*);
     EXPECT_THROW(file.SetLength(~0ULL), CMemoryException*);
+    file.Seek(static_cast<LONGLONG>(std::min<ULONGLONG>(SIZE_MAX, INT64_MAX)), CFile::begin);
+    EXPECT_THROW(file.Write("x", 1), CMemoryException*); // its end has no number where size_t has 32 bits
     EXPECT_EQ("61 62 63", ToHex(ContentOf(file)));
 }
 

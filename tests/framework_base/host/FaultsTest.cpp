@@ -314,6 +314,7 @@ TEST_F(FaultsOfFiles, WhatTheSystemCannotDoChangesNothing) {
     };
     const Row rows[] = {
         {CFileException::badSeek, [&] { file.Seek(0, 3); }},
+        {CFileException::badSeek, [&] { file.Seek(INT64_MAX, CFile::current); }},
         {CFileException::diskFull, [&] { file.SetLength(kFar); }},
         {CFileException::badSeek, [&] { file.LockRange(kFar, 1); }},
         {CFileException::badSeek, [&] { file.LockRange(0, kFar); }},
