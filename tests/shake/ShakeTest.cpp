@@ -2,10 +2,9 @@
 // seed and event; what is left open afterwards fails the test.
 //
 // SHAKE_EVENTS, SHAKE_SEED: see tools/shake.sh.
-#include "Shaker.h"
+#include "Shake.h"
 
 #include "support/DialogTemplate.h"
-#include "support/Leftovers.h"
 
 #include "../dialogs/TestDrive.h"
 #include "afxdlgs.h"
@@ -30,46 +29,11 @@
 
 #include <Tesuvo.h>
 
-#include <memory>
-
 namespace {
 
-constexpr int ROUND = 250; ///< Events until a dialog is ended by force.
-
-unsigned Setting(const char* pszName, unsigned nDefault) {
-    const char* pszValue = std::getenv(pszName);
-    return pszValue != nullptr ? static_cast<unsigned>(std::strtoul(pszValue, nullptr, 10)) : nDefault;
-}
-
-/// Opens it with an owner of its own, again and again, and counts what is left.
+/// With the soft input panel.
 void Shake(const std::function<void(CWnd*)>& open) {
-    const int nEvents = static_cast<int>(Setting("SHAKE_EVENTS", 2000));
-    const char* pszName = testing::UnitTest::GetInstance()->current_test_info()->name();
-    shake::Shaker shaker(pszName, Setting("SHAKE_SEED", 1));
-    shaker.m_panel = [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); };
-    const auto round = [&] {
-        auto pOwner = std::make_unique<fx::Frame>();
-        shaker.Round(ROUND, [&] { open(pOwner.get()); });
-        pOwner.reset();
-        TVCloseSIP();
-        MSG msg; // what was posted to windows that are gone
-        while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
-            if (msg.message != WM_QUIT)
-                ::DispatchMessage(&msg);
-    };
-    int nRounds = 0;
-    constexpr int WARM_UP = 2500; // fills the system's caches
-    while (shaker.Events() < WARM_UP)
-        round();
-    const fx::Leftovers before = fx::Leftovers::Now();
-    for (; shaker.Events() < WARM_UP + nEvents; ++nRounds)
-        round();
-    const fx::Leftovers after = fx::Leftovers::Now();
-    EXPECT_LE(after.nWindows, before.nWindows);
-    EXPECT_LE(after.nGdiObjects, before.nGdiObjects + 4) << nRounds << " rounds";
-    EXPECT_LE(after.nHandles, before.nHandles + 2) << nRounds << " rounds";
-    EXPECT_LE(after.nHeapBytes, before.nHeapBytes + 20000 + static_cast<size_t>(nRounds) * 64)
-        << nRounds << " rounds, before " << before.nHeapBytes;
+    shake::Shake(open, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
 }
 
 /// A drive with a few files and folders; nothing else can be reached from it.
