@@ -226,6 +226,36 @@ TEST(ModalSheet, PageThatCannotBeMadeLeavesOtherWindowsAlone) {
              }});
 }
 
+TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
+    const struct {
+        const char* pszWhere;
+        std::function<void()> fx::Sheet::*pSheet;
+        fx::Page fx::Sheet::*pPage;
+        std::vector<Step> steps;
+    } cases[] = {
+        {"sheet", &fx::Sheet::m_onInit, nullptr, {}},
+        {"first page", nullptr, &fx::Sheet::m_a, {}},
+        {"page shown later", nullptr, &fx::Sheet::m_b, {[](fx::Sheet& s) { s.SetActivePage(1); }}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.pszWhere);
+        fx::MessageRecorder recorder;
+        const int nWindows = fx::Leftovers::Now().nWindows;
+        fx::Sheet sheet;
+        std::function<void()>& onInit = c.pSheet != nullptr ? sheet.*c.pSheet : (sheet.*c.pPage).m_onInit;
+        onInit = [] { throw std::bad_alloc(); };
+        fx::ModalScript script;
+        for (const Step& step : c.steps)
+            script.Then([&] { step(sheet); });
+        EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), -1);
+        EXPECT_EQ(recorder.m_prompts.size(), 1U);
+        EXPECT_EQ(sheet.m_a.m_hWnd, nullptr);
+        EXPECT_EQ(fx::Leftovers::Now().nWindows, nWindows);
+        onInit = [] {};
+        EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) { fx::TapOk(s); }}), IDOK);
+    }
+}
+
 TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
     fx::Frame frame;
     CEdit edit;

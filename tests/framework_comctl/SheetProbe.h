@@ -6,6 +6,7 @@
 
 #include "afxdlgs.h"
 
+#include <functional>
 #include <string>
 
 namespace fx {
@@ -26,9 +27,11 @@ public:
     BOOL m_bApply = TRUE;
     BOOL m_bCancel = TRUE;
     bool m_bSawCreation = false;
+    std::function<void()> m_onInit = [] {};
 
     BOOL OnInitDialog() override {
         Log("init");
+        m_onInit();
         return CPropertyPage::OnInitDialog();
     }
     BOOL OnSetActive() override {
@@ -83,11 +86,17 @@ public:
     Page m_a{m_log, "a", ID_PAGE_GENERAL};
     Page m_b{m_log, "b", ID_PAGE_VIEW};
     bool m_bSawCreation = false;
+    std::function<void()> m_onInit = [] {};
 
     std::string TakeLog() { return std::exchange(m_log, {}); }
 
     HWND Button(UINT nID) const { return ::GetDlgItem(m_hWnd, static_cast<int>(nID)); }
     bool ShowsButton(UINT nID) const { return (::GetWindowLong(Button(nID), GWL_STYLE) & WS_VISIBLE) != 0; }
+
+    BOOL OnInitDialog() override {
+        m_onInit();
+        return CPropertySheet::OnInitDialog();
+    }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {

@@ -2,6 +2,7 @@
 #include "controls/Stage.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include "controls/nDialog.h"
 #include "survey/AngleEdit.h"
@@ -314,6 +315,23 @@ TEST(AngleEdit, FirstFieldOfAScreenKeepsAnAngleThatNobodyTouches) {
     });
     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
     EXPECT_DOUBLE_EQ(dlg.m_first.GetAngle(), PI / 2);
+}
+
+TEST(AngleEdit, TitleBarsOkFindsWhatWasTyped) {
+    class OkDialog : public AngleDialog {
+    public:
+        OkDialog() { SetOption(OptionOkButton); }
+        void OnOK() override {
+            m_dRead = m_first.GetAngle();
+            AngleDialog::OnOK();
+        }
+        double m_dRead = 0;
+    } dlg;
+    fx::ModalScript script;
+    script.Then([] { pen::TypeKeys({'2', VK_OEM_PERIOD, '3'}); });
+    script.Then([&] { fx::TapOk(dlg); });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
+    EXPECT_DOUBLE_EQ(dlg.m_dRead, Radians(2, 30));
 }
 
 TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
