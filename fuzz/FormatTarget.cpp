@@ -30,24 +30,24 @@ private:
 };
 
 /// A conversion in our writing and in the C library's.
-struct Spec {
+struct Conversion {
     std::string head; ///< flags, width, precision
     std::string ours;
     std::string reference;
 };
 
 template <class... Args>
-void Compare(const Spec& spec, Args... args) {
-    const std::string format = "<%" + spec.head + spec.reference + ">%%\n";
+void Compare(const Conversion& conversion, Args... args) {
+    const std::string format = "<%" + conversion.head + conversion.reference + ">%%\n";
     const int nLength = std::snprintf(nullptr, 0, format.c_str(), args...);
     std::vector<char> expected(static_cast<std::size_t>(nLength) + 1);
     std::snprintf(expected.data(), expected.size(), format.c_str(), args...);
 
     CString strText = L"old";
-    strText.Format(CString(("<%" + spec.head + spec.ours + ">%%\n").c_str()), args...);
+    strText.Format(CString(("<%" + conversion.head + conversion.ours + ">%%\n").c_str()), args...);
     Promise(strText.GetLength() == nLength, "a conversion has the C library's length");
     for (int i = 0; i < nLength; ++i)
-        Promise(strText[i] == static_cast<unsigned char>(expected[static_cast<std::size_t>(i)]),
+        Promise(strText[i] == wchar_t{static_cast<unsigned char>(expected[static_cast<std::size_t>(i)])},
                 "a conversion has the C library's text");
 }
 
@@ -66,50 +66,50 @@ std::string WidthAndPrecision(Choices& choices) {
            (precision % 2 != 0 ? "." + std::to_string(precision / 2) : "");
 }
 
-void CompareInteger(Spec spec, Choices& choices) {
+void CompareInteger(Conversion conversion, Choices& choices) {
     const std::string type(1, "diuoxX"[choices.Byte() % 6]);
     const auto value = choices.Bits<long long>();
     const unsigned size = choices.Byte() % 8;
     const char* const ours[] = {"", "h", "hh", "l", "ll", "I64", "I32", "z"};
     const char* const reference[] = {"", "h", "hh", "l", "ll", "ll", "", "z"};
-    spec.ours = ours[size] + type;
-    spec.reference = reference[size] + type;
+    conversion.ours = ours[size] + type;
+    conversion.reference = reference[size] + type;
     if (size == 3)
-        Compare(spec, static_cast<long>(value));
+        Compare(conversion, static_cast<long>(value));
     else if (size == 4 || size == 5 || size == 7)
-        Compare(spec, value);
+        Compare(conversion, value);
     else
-        Compare(spec, static_cast<int>(value));
+        Compare(conversion, static_cast<int>(value));
 }
 
-void CompareReal(Spec spec, Choices& choices) {
+void CompareReal(Conversion conversion, Choices& choices) {
     const std::string type(1, "eEfFgGaA"[choices.Byte() % 8]);
-    spec.ours = spec.reference = type;
+    conversion.ours = conversion.reference = type;
     const auto value = choices.Bits<double>();
     if (choices.Byte() % 4 != 0)
-        return Compare(spec, value);
-    spec.ours = spec.reference = "L" + type;
-    Compare(spec, static_cast<long double>(value));
+        return Compare(conversion, value);
+    conversion.ours = conversion.reference = "L" + type;
+    Compare(conversion, static_cast<long double>(value));
 }
 
 /// Text is the same in both for ASCII; the other flags mean nothing there.
-void CompareText(Spec spec, Choices& choices) {
+void CompareText(Conversion conversion, Choices& choices) {
     std::string text;
     while (const unsigned by = choices.Byte() & 0x7F)
         text += static_cast<char>(by);
-    std::erase_if(spec.head, [](char ch) { return std::strchr("+ #", ch) != nullptr; });
-    while (!spec.head.empty() && spec.head[0] == '0')
-        spec.head.erase(0, 1);
-    spec.reference = "s";
+    std::erase_if(conversion.head, [](char ch) { return std::strchr("+ #", ch) != nullptr; });
+    while (!conversion.head.empty() && conversion.head[0] == '0')
+        conversion.head.erase(0, 1);
+    conversion.reference = "s";
     for (const char* ours : {"hs", "S", "hS"}) {
-        spec.ours = ours;
-        Compare(spec, text.c_str());
+        conversion.ours = ours;
+        Compare(conversion, text.c_str());
     }
     if (text.empty())
         return;
-    spec.head = spec.head.substr(0, spec.head.find('.'));
-    spec.ours = spec.reference = "c";
-    Compare(spec, static_cast<int>(text[0]));
+    conversion.head = conversion.head.substr(0, conversion.head.find('.'));
+    conversion.ours = conversion.reference = "c";
+    Compare(conversion, static_cast<int>(text[0]));
 }
 
 } // namespace
@@ -117,13 +117,13 @@ void CompareText(Spec spec, Choices& choices) {
 void FuzzFormat(const std::uint8_t* pData, std::size_t nSize) {
     Choices choices(pData, nSize);
     const unsigned kind = choices.Byte() % 3;
-    Spec spec;
-    spec.head = Flags(choices.Byte());
-    spec.head += WidthAndPrecision(choices);
+    Conversion conversion;
+    conversion.head = Flags(choices.Byte());
+    conversion.head += WidthAndPrecision(choices);
     if (kind == 0)
-        CompareInteger(spec, choices);
+        CompareInteger(conversion, choices);
     else if (kind == 1)
-        CompareReal(spec, choices);
+        CompareReal(conversion, choices);
     else
-        CompareText(spec, choices);
+        CompareText(conversion, choices);
 }

@@ -3,9 +3,9 @@
 
 #include "Tesuvo.h"
 
+#include <bit>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -43,7 +43,7 @@ std::string HalfWidth(const std::wstring& typed) {
 
 std::string TakeDigits(View& rest) {
     const std::size_t n = std::min(rest.find_first_not_of("0123456789"), rest.size());
-    const std::string digits(rest.substr(0, n));
+    std::string digits(rest.substr(0, n));
     rest.remove_prefix(n);
     return digits;
 }
@@ -51,7 +51,7 @@ std::string TakeDigits(View& rest) {
 std::string TakeOne(View& rest, View anyOf) {
     if (rest.empty() || anyOf.find(rest[0]) == View::npos)
         return {};
-    const std::string one(rest.substr(0, 1));
+    std::string one(rest.substr(0, 1));
     rest.remove_prefix(1);
     return one;
 }
@@ -104,5 +104,6 @@ void FuzzNumber(const std::uint8_t* pData, std::size_t nSize) {
     const bool bRead = TVString2Double(&strTyped, &dValue) != FALSE;
     Promise(bRead == bExpected, "a number is what the syntax and the range allow");
     const double dWanted = bRead ? dExpected : kUntouched;
-    Promise(std::memcmp(&dValue, &dWanted, sizeof(dValue)) == 0, "it is the nearest double");
+    Promise(std::bit_cast<std::uint64_t>(dValue) == std::bit_cast<std::uint64_t>(dWanted),
+            "it is the nearest double");
 }

@@ -49,7 +49,7 @@ void CheckResolving(const std::wstring& path) {
 void FuzzPath(const std::uint8_t* pData, std::size_t nSize) {
     const std::wstring path(pData, pData + nSize);
     CheckParts(path);
-    CheckResolving(path.c_str());
+    CheckResolving(path.substr(0, path.find(L'\0'))); // the text ends there
     CString strName(path.data(), static_cast<int>(path.size()));
     TVIncrementName(strName);
     Promise(std::wstring(strName, static_cast<std::size_t>(strName.GetLength())) == Next(path),

@@ -46,7 +46,7 @@ Content Stored(CStringStack& stack, CMemFile& file) {
 Content CheckStoring(CStringStack& stack) {
     CMemFile file;
     CMemFile fileAgain;
-    const Content content = Stored(stack, file);
+    Content content = Stored(stack, file);
     CStringStack again;
     Promise(Load(file, again), "what a stack stores can be loaded");
     Promise(Stored(again, fileAgain) == content, "it is the same after that");
