@@ -54,13 +54,15 @@ private:
     };
     static constexpr int BURST = 16;
     static constexpr int KEPT = 20;
+    static constexpr int MOST_FORCE = 200;
     static constexpr DWORD HANG_SECONDS = 20;
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         Shaker* const pThis = s_pThis;
         if (pThis == nullptr || !pThis->m_bOn)
             return;
-        pThis->m_watchdog.Feed();
+        if (pThis->m_nForced < MOST_FORCE) // what no force ends is a hang
+            pThis->m_watchdog.Feed();
         if (pThis->m_nEvents >= pThis->m_nRoundEnd) {
             pThis->Force();
             return;
@@ -304,6 +306,8 @@ private:
         ++m_nForced;
         ::ReleaseCapture();
         ::EndMenu();
+        // The system moves a window in a loop that only a lift or a key ends, even when it is destroyed.
+        ::PostThreadMessage(m_nThread, WM_LBUTTONUP, 0, 0);
         for (const HWND hWnd : TopLevels()) {
             if (!::IsWindow(hWnd))
                 continue;
