@@ -76,7 +76,9 @@ void CompareInteger(Conversion conversion, Choices& choices) {
     conversion.reference = reference[size] + type;
     if (size == 3)
         Compare(conversion, static_cast<long>(value));
-    else if (size == 4 || size == 5 || size == 7)
+    else if (size == 7)
+        Compare(conversion, static_cast<std::size_t>(value));
+    else if (size == 4 || size == 5)
         Compare(conversion, value);
     else
         Compare(conversion, static_cast<int>(value));
