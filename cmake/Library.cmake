@@ -9,9 +9,11 @@ foreach(_folder IN LISTS _portable)
   list(APPEND _sources ${_found})
 endforeach()
 # The kernel takes roots of negative numbers and goes on with what they give. Reporting them in
-# errno, which nobody reads, would make each root a branch and a call.
+# errno, which nobody reads, would make each root a branch and a call. Headers that are compiled
+# without this option are not for it.
 file(GLOB _kernel CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/geometry/*.cpp)
-set_source_files_properties(${_kernel} PROPERTIES COMPILE_OPTIONS -fno-math-errno)
+set_source_files_properties(${_kernel} PROPERTIES COMPILE_OPTIONS -fno-math-errno
+  SKIP_PRECOMPILE_HEADERS ON)
 if(WIN32)
   foreach(_folder IN LISTS _windows)
     file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.cpp)
@@ -24,6 +26,7 @@ if(WIN32)
   fieldkit_module(fieldkit Fieldkit "${PROJECT_DESCRIPTION}")
   fieldkit_add_resources(fieldkit Fieldkit fieldkit_resources)
   target_compile_definitions(fieldkit PRIVATE FIELDKIT_EXPORTS)
+  fieldkit_precompile(fieldkit algorithm memory string afxcmn.h afxdlgs.h)
 else()
   list(FILTER _sources EXCLUDE REGEX "/(AngleEdit|StringStackCombo)\\.cpp$") # they use controls
   file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/util/host/*.cpp)

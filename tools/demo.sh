@@ -7,7 +7,6 @@ app_pid=
 pen_pause=0.05
 
 run_demo() {
-    build_sample
     if [[ -n ${DISPLAY:-} ]]; then
         show_sample
     else
@@ -32,14 +31,15 @@ drive_sample() {
     printf 'pictures in %s\n' "${demo_shots#"$root"/}"
 }
 
-# As a customer would: against the installed library only, in a project of its own.
+# As a customer would: against the installed library only, in a project of its own. Builds all
+# of it with its tests, or one TARGET.
 build_sample() {
     rm -rf "$build/win64/install"
     logged install cmake --install "$build/win64"
     logged configure-fieldbook cmake -S "$root/samples/fieldbook" -B "$build/fieldbook" -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
         -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release -DFIELDBOOK_TESTS=ON
-    logged build-fieldbook ninja -C "$build/fieldbook" -j"$(nproc)"
+    logged build-fieldbook ninja -C "$build/fieldbook" -j"$(nproc)" "$@"
 }
 
 # start_app EXE ARGUMENTS...: EXE is a path; the installed DLLs are found.

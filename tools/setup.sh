@@ -2,11 +2,12 @@
 # What a bare Debian 12 lacks: packages and the Japanese locale.
 
 packages=(
-    g++ cmake ninja-build g++-mingw-w64-x86-64-posix g++-arm-linux-gnueabi qemu-user
-    googletest valgrind pkgconf wine wine64 xvfb xdotool imagemagick fonts-ipafont-gothic locales
+    g++ cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xdotool imagemagick
+    fonts-ipafont-gothic locales
     # Loaded by Wine at run time; without them it draws and moves the pen differently.
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
+test_packages=(g++-arm-linux-gnueabi qemu-user valgrind pkgconf)
 
 # Wine takes the code page from the locale: with any other one it is not 932 and
 # Japanese file contents are misread.

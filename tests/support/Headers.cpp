@@ -1,0 +1,1 @@
+// Empty: the build needs a source to keep precompiled headers with.
