@@ -19,7 +19,7 @@ dialogs win64 dialogs
 # run_mutants FOLDER: of all folders without one. False when a fault survives unexplained.
 run_mutants() {
     local folder preset tests status=0 found=
-    require python3 python3-clang-14 libclang1-14
+    require python3 python3-clang-14 libclang1-14 libclang-common-14-dev
     while read -r -u 4 folder preset tests; do
         [[ -n $folder && $folder == "${1:-$folder}" ]] || continue
         found=yes
@@ -61,6 +61,8 @@ build_mutants() {
         windows_arguments
         arguments=("${tidy_windows[@]}")
     fi
+    # The library does not know where the compiler's own headers are.
+    arguments+=(-resource-dir /usr/lib/llvm-14/lib/clang/*)
     cmake --preset "$preset" -S "$tree" -B "$tree/build/$preset" -DFIELDKIT_SANITIZE=OFF \
         -DCMAKE_CXX_FLAGS="-w -include $root/tools/mutants/Mutant.h" \
         -DFIELDKIT_TEST_SOURCES="$root/tools/mutants/Reach.cpp"

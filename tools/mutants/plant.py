@@ -91,8 +91,8 @@ class Source:
         return self.condition(cursor, children, edits)
 
     def is_if_constexpr(self, cursor, index):
-        head = self.part(cursor.extent.start.offset, cursor.extent.start.offset + 16)
-        return cursor.kind == Kind.IF_STMT and index == 0 and head.startswith("if constexpr")
+        is_head = self.bytes.startswith(b"if constexpr", cursor.extent.start.offset)
+        return cursor.kind == Kind.IF_STMT and index == 0 and is_head
 
     @staticmethod
     def range_of(cursor):
@@ -203,7 +203,10 @@ class Source:
         for edit in edits:
             if edit.start < at or edit.end > end:
                 continue
-            pieces += [self.part(at, edit.start), self.spoiled(edit)]
+            spoiled = self.spoiled(edit)
+            # Lines keep their numbers, by which the compiler's complaints are found.
+            lost = self.part(edit.start, edit.end).count("\n") - spoiled.count("\n")
+            pieces += [self.part(at, edit.start), spoiled, "\n" * max(0, lost)]
             at = edit.end
         return "".join(pieces) + self.part(at, end)
 
@@ -212,6 +215,8 @@ class Source:
         pieces = [(edit.start, first), (second, second_end), (first_end, second), (first, first_end),
                   (second_end, edit.end)]
         spoiled = "".join(self.part(*piece) for piece in pieces)
+        if "//" not in spoiled:
+            spoiled = spoiled.replace("\n", " ") # in the other form they keep their lines
         return f"(fkmutant::Is({edit.number}) ? {spoiled} : {self.emit(edit.start, edit.end, edit.children)})"
 
     def spoiled(self, edit):
@@ -267,10 +272,13 @@ def main():
     sources, counter, faults = {}, [0], []
     prefix = os.path.join(tree, folder) + os.sep
     for entry in json.load(open(commands)):
-        if not entry["file"].startswith(prefix) or entry["file"] in sources:
+        if not re.match(re.escape(prefix) + r".*\.cpp$", entry["file"]) or entry["file"] in sources:
             continue
         options = [word for word in entry["command"].split() if re.match(r"-[DI]|-std=", word)]
         unit = index.parse(entry["file"], args=options + arguments)
+        errors = [str(found) for found in unit.diagnostics if found.severity == cindex.Diagnostic.Fatal]
+        if errors:
+            sys.exit("\n".join(errors))
         folder_files = {entry["file"]} | {
             include.include.name for include in unit.get_includes()
             if os.path.abspath(include.include.name).startswith(prefix)}
