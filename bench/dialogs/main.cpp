@@ -4,7 +4,7 @@
 #include "Opening.h"
 #include "Report.h"
 
-#include "dialogs/TestDrive.h"
+#include "support/TestDrive.h"
 #include "util/AsciiFile.h"
 
 #include <afxext.h>
@@ -38,7 +38,7 @@ void MeasureOpenings(bench::Report& report, const std::string& name, What bare, 
 }
 
 void MeasureFiles(bench::Report& report, int nFiles) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFolder(L"\\files");
     drive.MakeMany(TestDrive::Files, L"\\files", "site %05.0f.csv", nFiles);
     MeasureOpenings(report, "list of " + std::to_string(nFiles) + " files", What::BareFiles, What::Files,
@@ -49,7 +49,7 @@ void MeasureFiles(bench::Report& report, int nFiles) {
 void MeasureTree(bench::Report& report) {
     constexpr int OUTER = 10;
     constexpr int INNER = 499;
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeMany(TestDrive::Folders, L"", "district %.0f", OUTER);
     CString strOuter;
     for (int i = 0; i < OUTER; ++i) {

@@ -1,5 +1,5 @@
 // Typing on the soft input panel with the pen.
-#include "PanelPen.h"
+#include "support/PanelPen.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 

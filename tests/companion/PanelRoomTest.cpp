@@ -1,5 +1,5 @@
 // Dialogs keep the field into which the user types clear of the soft input panel.
-#include "PanelPen.h"
+#include "support/PanelPen.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 

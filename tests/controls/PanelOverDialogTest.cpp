@@ -1,6 +1,6 @@
 // Full-screen dialogs whose first field brings up the soft input panel while they open.
 #include "Pixels.h"
-#include "Stage.h"
+#include "support/Stage.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 

@@ -1,11 +1,10 @@
 // What the library asks of the soft input panel.
 #pragma once
 
+#include "support/FaultPoints.h"
 #include "support/FrameworkEnvironment.h"
 
 #include <Tesuvo.h>
-
-#include <cstring>
 
 namespace fx {
 
@@ -17,8 +16,8 @@ public:
 
     SipCalls() {
         s_pCurrent = this;
-        m_pShow = Exchange("TVShowSIP", reinterpret_cast<ULONG_PTR>(&OnShow));
-        m_pClose = Exchange("TVCloseSIP", reinterpret_cast<ULONG_PTR>(&OnClose));
+        m_pShow = Exchange("TVShowSIP", reinterpret_cast<void*>(&OnShow));
+        m_pClose = Exchange("TVCloseSIP", reinterpret_cast<void*>(&OnClose));
     }
     ~SipCalls() {
         Exchange("TVShowSIP", m_pShow);
@@ -36,36 +35,18 @@ private:
     static void OnClose() { s_pCurrent->m_calls.push_back(CLOSE); }
 
     /// Exchanges an address in the library's import table. @return the one before
-    static ULONG_PTR Exchange(const char* pszName, ULONG_PTR pNew) {
-        const auto* const pBase = reinterpret_cast<const BYTE*>(::GetModuleHandle(L"Fieldkit.dll"));
-        const auto* const pDos = reinterpret_cast<const IMAGE_DOS_HEADER*>(pBase);
-        const auto* const pNt = reinterpret_cast<const IMAGE_NT_HEADERS*>(pBase + pDos->e_lfanew);
-        const DWORD dwImports =
-            pNt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
-        for (auto* p = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(pBase + dwImports); p->Name; ++p) {
-            const auto* pNames = reinterpret_cast<const ULONG_PTR*>(pBase + p->OriginalFirstThunk);
-            auto* pAddresses = reinterpret_cast<ULONG_PTR*>(const_cast<BYTE*>(pBase + p->FirstThunk));
-            for (; *pNames != 0; ++pNames, ++pAddresses) {
-                if (IMAGE_SNAP_BY_ORDINAL(*pNames))
-                    continue;
-                const auto* const pName = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(pBase + *pNames);
-                if (std::strcmp(reinterpret_cast<const char*>(pName->Name), pszName) != 0)
-                    continue;
-                DWORD dwProtection = 0;
-                ::VirtualProtect(pAddresses, sizeof *pAddresses, PAGE_READWRITE, &dwProtection);
-                const ULONG_PTR pOld = std::exchange(*pAddresses, pNew);
-                ::VirtualProtect(pAddresses, sizeof *pAddresses, dwProtection, &dwProtection);
-                return pOld;
-            }
-        }
+    static void* Exchange(const char* pszName, void* pNew) {
+        for (const fault::Import& import : fault::ImportsOf(::GetModuleHandle(L"Fieldkit.dll")))
+            if (import.name == pszName)
+                return fault::SetImport(import, pNew);
         ADD_FAILURE() << "the library does not call " << pszName;
-        return 0;
+        return nullptr;
     }
 
     static inline SipCalls* s_pCurrent = nullptr;
 
-    ULONG_PTR m_pShow = 0;
-    ULONG_PTR m_pClose = 0;
+    void* m_pShow = nullptr;
+    void* m_pClose = nullptr;
     std::vector<int> m_calls;
 };
 

@@ -2,7 +2,6 @@
 
 #include "Pixels.h"
 #include "support/DialogTemplate.h"
-#include "support/Leftovers.h"
 #include "support/ModalScript.h"
 #include "support/TitleBar.h"
 
@@ -38,40 +37,33 @@ private:
 
 // --- What the option word decides --------------------------------------------------------
 
-TEST(nDialog, OptionsDecideScreenAndTitleBar) {
+TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
     constexpr DWORD OK = CnDialog::OptionOkButton;
     constexpr DWORD POPUP = CnDialog::OptionPopup;
     constexpr DWORD NO_BAR = CnDialog::OptionNoCommandBar;
-    struct Row {
+    constexpr DWORD HIDDEN = CnDialog::OptionHidden;
+    const struct {
         DWORD options;
         bool full;
         bool okButton;
         bool bar;
+    } rows[] = {
+        {0, true, false, true},
+        {OK, true, true, true},
+        {POPUP, false, false, false},
+        {POPUP | OK | NO_BAR, false, true, false},
+        {OK | NO_BAR | HIDDEN, true, true, false},
+        {POPUP | HIDDEN, false, false, false},
     };
-    const Row rows[] = {
-        {0, true, false, true},           {OK, true, true, true},
-        {POPUP, false, false, false},     {POPUP | OK, false, true, false},
-        {OK | NO_BAR, true, true, false}, {POPUP | NO_BAR, false, false, false},
-    };
-    for (const Row& row : rows) {
-        Dialog dlg(row.options);
+    for (const auto& row : rows) {
+        Dialog dlg(row.options & ~OK);
+        dlg.SetOption(row.options & OK); // they add up
+        EXPECT_EQ(row.full, dlg.m_bFullScreen != FALSE) << "known before the window is made";
         WhileOpen(dlg, [&] {
-            EXPECT_EQ(dlg.Rect() == Screen(), row.full) << row.options;
-            EXPECT_EQ(dlg.HasOkButton(), row.okButton) << row.options;
-            EXPECT_EQ(dlg.Bar() != nullptr, row.bar) << row.options;
-            EXPECT_TRUE(dlg.IsWindowVisible()) << row.options;
-        });
-    }
-}
-
-TEST(nDialog, OptionsAddUpInAnyOrder) {
-    for (const bool bPopupFirst : {true, false}) {
-        Dialog dlg(bPopupFirst ? CnDialog::OptionPopup : CnDialog::OptionOkButton);
-        dlg.SetOption(bPopupFirst ? CnDialog::OptionOkButton : CnDialog::OptionPopup);
-        EXPECT_FALSE(dlg.m_bFullScreen) << "known before the window is made";
-        WhileOpen(dlg, [&] {
-            EXPECT_TRUE(dlg.HasOkButton());
-            EXPECT_NE(dlg.Rect(), Screen());
+            EXPECT_EQ(row.full, dlg.Rect() == Screen()) << row.options;
+            EXPECT_EQ(row.okButton, dlg.HasOkButton()) << row.options;
+            EXPECT_EQ(row.bar, dlg.Bar() != nullptr) << row.options;
+            EXPECT_EQ((row.options & HIDDEN) == 0, dlg.IsWindowVisible() != FALSE) << row.options;
         });
     }
 }
@@ -86,13 +78,6 @@ TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
         EXPECT_EQ(LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)), 32);
         EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
     });
-}
-
-TEST(nDialog, HiddenStaysHidden) {
-    for (const DWORD dwScreen : {0U, static_cast<unsigned>(CnDialog::OptionPopup)}) {
-        Dialog dlg(CnDialog::OptionHidden | dwScreen);
-        WhileOpen(dlg, [&] { EXPECT_FALSE(dlg.IsWindowVisible()); });
-    }
 }
 
 TEST(nDialog, TakesItsIconForBothSizes) {
@@ -182,11 +167,13 @@ void DragBy(Dialog& dlg, CSize offset) {
 }
 
 TEST(nDialog, DragKeepsTheFrameInReach) {
+    fx::Frame owner(CSize(200, 200)); // its coordinates have no part in it
     struct Row {
         const char* what;
         CPoint from;
         CPoint to;
         CPoint stands;
+        DWORD option = CnDialog::OptionDrag;
     };
     const CSize size(140, 100);
     const Row rows[] = {
@@ -198,9 +185,10 @@ TEST(nDialog, DragKeepsTheFrameInReach) {
         {"hanging out at the right stays", {20, 40}, {230, 40}, {230, 40}},
         {"left edge on the border stays", {20, 40}, {240, 40}, {240, 40}},
         {"gone at the right comes back whole", {20, 40}, {250, 40}, {100, 40}},
+        {"without the option", {20, 40}, {60, 90}, {20, 40}, 0},
     };
     for (const Row& row : rows) {
-        Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
+        Dialog dlg(CnDialog::OptionPopup | row.option, &owner);
         WhileOpen(dlg, [&] {
             dlg.MoveWindow(CRect(row.from, size));
             DragBy(dlg, row.to - row.from);
@@ -208,16 +196,6 @@ TEST(nDialog, DragKeepsTheFrameInReach) {
             EXPECT_NE(::GetCapture(), dlg.m_hWnd) << row.what;
         });
     }
-}
-
-TEST(nDialog, DialogWithAnOwnerLandsWhereItsFrameWas) {
-    fx::Frame owner(CSize(200, 200));
-    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &owner);
-    WhileOpen(dlg, [&] {
-        dlg.MoveWindow(20, 60, 140, 100);
-        DragBy(dlg, CSize(30, 40));
-        EXPECT_EQ(dlg.Rect(), CRect(CPoint(50, 100), CSize(140, 100)));
-    });
 }
 
 /// Opens at a place of its own, so that what is beside it is never covered.
@@ -313,27 +291,6 @@ TEST(nDialog, LiftWithoutAPressGoesToTheStoredFrameIfThereIsOne) {
         dlg.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(90, 90));
         EXPECT_EQ(lift(), home) << "the pen came down on the child";
     });
-}
-
-TEST(nDialog, WithoutTheOptionNothingIsDragged) {
-    Dialog dlg(CnDialog::OptionPopup);
-    WhileOpen(dlg, [&] {
-        const CRect before = dlg.Rect();
-        DragBy(dlg, CSize(30, 40));
-        EXPECT_EQ(dlg.Rect(), before);
-    });
-}
-
-// --- Leaving nothing behind --------------------------------------------------------------
-
-TEST(nDialog, TwoHundredOpensLeaveNothing) {
-    for (const DWORD options : {0x20003UL, 0x30201UL}) {
-        fx::ExpectNothingLeft([&] {
-            Dialog dlg(options);
-            dlg.SetBKColor(YELLOW);
-            WhileOpen(dlg, [] {});
-        });
-    }
 }
 
 } // namespace

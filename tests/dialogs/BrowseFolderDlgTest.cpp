@@ -1,217 +1,232 @@
-#include "BrowseFolderStage.h"
+#include "dialogs/BrowseFolderDlg.h"
 
-#include "support/Leftovers.h"
+#include "FillWatch.h"
+#include "LockedFolder.h"
+#include "support/ModalScript.h"
+#include "support/TestDrive.h"
+#include "support/TitleBar.h"
 
 namespace {
 
-using namespace browse_folder;
+constexpr int TREE = 1100;
+using fx::WhileOpen;
+using Paths = std::vector<CString>;
 
-TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPath) {
-    const TestDrive drive;
-    Paths wanted = {
-        L"\\data",
-        L"\\data\\2024",
-        L"\\data\\2024\\A & B",
-        L"\\data\\points.csv", // a folder
-        L"\\境界　点",
-        L"\\境界　点\\ｶﾞ",
-        L"\\𠮷野\\か\x3099", // a letter of two units, a combining mark
-        L"\\𠮷野",
-        L"\\dot.", // names that only the system's own form of a path can reach
-        L"\\dot.\\inside",
-        L"\\...",
-        L"\\...\\inside",
-    };
-    std::sort(wanted.begin(), wanted.end());
-    for (const CString& strPath : wanted)
-        drive.MakeFolder(strPath);
-    drive.MakeFile(L"\\file");
-    drive.MakeFile(L"\\data\\file");
-    CBrowseFolderDlg dlg;
-    WhileOpen(dlg, [&] {
-        const CTreeCtrl& tree = Tree(dlg);
-        const HTREEITEM hRoot = tree.GetRootItem();
-        EXPECT_EQ(fx::TextOf(dlg), L"フォルダの選択");
-        EXPECT_EQ(tree.GetItemText(hRoot), L"ﾙｰﾄ");
-        EXPECT_EQ(PathOf(tree, hRoot), L"\\");
-        EXPECT_EQ(tree.GetNextSiblingItem(hRoot), nullptr);
-        EXPECT_TRUE(tree.GetItemState(hRoot, TVIS_EXPANDED) & TVIS_EXPANDED);
-        EXPECT_EQ(SortedPaths(tree), wanted);
-    });
-}
+class Dialog : public CBrowseFolderDlg {
+public:
+    using CBrowseFolderDlg::CBrowseFolderDlg;
+    using CBrowseFolderDlg::MakeTreeSegment;
+    using CBrowseFolderDlg::RemoveTreeItems;
+    using CBrowseFolderDlg::ResetMemory;
 
-TEST(BrowseFolderDlg, KeepsTheOrderOfTheFileSystem) {
-    const TestDrive drive;
-    for (const wchar_t* pszName : {L"\\c", L"\\a", L"\\D", L"\\b"})
-        drive.MakeFolder(pszName);
-    Paths wanted;
+    CTreeCtrl& Tree() { return *static_cast<CTreeCtrl*>(GetDlgItem(TREE)); }
+    const CString& PathOf(HTREEITEM hItem) {
+        return *reinterpret_cast<const CString*>(Tree().GetItemData(hItem));
+    }
+    /// All items from top to bottom. Each must stand below its folder and have its name.
+    Paths PathsBelow(HTREEITEM hParent, const CString& strParent = L"") {
+        Paths paths;
+        for (HTREEITEM hItem = Tree().GetChildItem(hParent); hItem != nullptr;
+             hItem = Tree().GetNextSiblingItem(hItem)) {
+            const CString strPath = PathOf(hItem);
+            EXPECT_EQ(strParent + L"\\" + Tree().GetItemText(hItem), strPath);
+            paths.push_back(strPath);
+            for (const CString& strBelow : PathsBelow(hItem, strPath))
+                paths.push_back(strBelow);
+        }
+        return paths;
+    }
+    Paths AllPaths() { return PathsBelow(Tree().GetRootItem()); }
+    void TapItem(HTREEITEM hItem) {
+        CRect rect;
+        ASSERT_TRUE(Tree().GetItemRect(hItem, rect, TRUE));
+        Tree().ClientToScreen(rect);
+        pen::Tap(rect.CenterPoint());
+    }
+};
+
+/// The folders in the system's order, each before what is in it; links and locked ones are not entered.
+Paths Walk(const TestDrive& drive, const CString& strFolder = L"") {
+    Paths paths;
     WIN32_FIND_DATA entry;
-    const HANDLE hFind = ::FindFirstFile(drive.Root() + L"*", &entry);
-    for (BOOL bMore = TRUE; bMore; bMore = ::FindNextFile(hFind, &entry))
-        if (entry.cFileName[0] != L'.')
-            wanted.push_back(CString(L"\\") + entry.cFileName);
+    const HANDLE hFind = ::FindFirstFile(drive.Long(strFolder + L"\\*"), &entry);
+    for (BOOL bMore = hFind != INVALID_HANDLE_VALUE; bMore; bMore = ::FindNextFile(hFind, &entry)) {
+        const CString strName = entry.cFileName;
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || strName == L"." || strName == L"..")
+            continue;
+        paths.push_back(strFolder + L"\\" + strName);
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+            for (const CString& strPath : Walk(drive, paths.back()))
+                paths.push_back(strPath);
+    }
     ::FindClose(hFind);
-    CBrowseFolderDlg dlg;
-    WhileOpen(dlg, [&] { EXPECT_EQ(AllPaths(Tree(dlg)), wanted); });
+    return paths;
 }
 
-TEST(BrowseFolderDlg, ImagesTellRootFolderAndCardApart) {
-    const TestDrive drive;
-    drive.MakeFolder(L"\\data");
-    drive.MakeFolder(L"\\card");
+TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
+    TestDrive drive;
+    for (const wchar_t* pszPath :
+         {L"\\c", L"\\a", L"\\a\\A & B", L"\\a\\points.csv", L"\\境界　点", L"\\境界　点\\ｶﾞ", L"\\𠮷野",
+          L"\\𠮷野\\か\x3099",                    // a letter of two units, a combining mark
+          L"\\dot.", L"\\dot.\\inside", L"\\...", // only the system's own form of a path can reach these
+          L"\\...\\inside", L"\\locked", L"\\locked\\inside", L"\\card"})
+        drive.MakeFolder(pszPath);
+    CString strDeep; // longer than the system's usual limit
+    for (int i = 0; i < 30; ++i)
+        drive.MakeFolder(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i % 26), 60));
+    drive.MakeFile(L"\\file");
+    drive.MakeLink(L"\\a\\loop", L"\\a");
     ::SetFileAttributes(drive.Long(L"\\card"), FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_TEMPORARY);
-    CBrowseFolderDlg dlg;
+    const LockedFolder locked(L"\\locked");
+    const Paths wanted = Walk(drive);
+    ASSERT_GE(wanted.size(), 44U);
+    Dialog dlg(strDeep);
     WhileOpen(dlg, [&] {
-        const CTreeCtrl& tree = Tree(dlg);
-        CImageList* pImages = tree.GetImageList(TVSIL_NORMAL);
-        ASSERT_NE(pImages, nullptr);
-        EXPECT_EQ(pImages->GetImageCount(), 3);
-        EXPECT_EQ(pImages->GetBkColor(), RGB(255, 255, 255));
-        int nImage = -1;
-        int nSelected = -1;
-        EXPECT_TRUE(tree.GetItemImage(tree.GetRootItem(), nImage, nSelected));
-        EXPECT_EQ(nImage, 2);
-        EXPECT_EQ(nSelected, 2);
-        HTREEITEM hItem = tree.GetChildItem(tree.GetRootItem());
-        for (; hItem != nullptr; hItem = tree.GetNextSiblingItem(hItem)) {
-            // Not every file system keeps the attribute.
-            const DWORD dwAttributes = ::GetFileAttributes(PathOf(tree, hItem));
-            const int nWanted = (dwAttributes & FILE_ATTRIBUTE_TEMPORARY) != 0 ? 1 : 0;
+        const CTreeCtrl& tree = dlg.Tree();
+        const HTREEITEM hRoot = tree.GetRootItem();
+        EXPECT_EQ(L"ﾙｰﾄ", tree.GetItemText(hRoot));
+        EXPECT_EQ(L"\\", dlg.PathOf(hRoot));
+        EXPECT_EQ(nullptr, tree.GetNextSiblingItem(hRoot));
+        EXPECT_TRUE(tree.GetItemState(hRoot, TVIS_EXPANDED) & TVIS_EXPANDED);
+        EXPECT_EQ(wanted, dlg.AllPaths());
+        EXPECT_EQ(strDeep, dlg.PathOf(tree.GetSelectedItem()));
+        CImageList* const pImages = tree.GetImageList(TVSIL_NORMAL);
+        ASSERT_NE(nullptr, pImages);
+        EXPECT_EQ(3, pImages->GetImageCount());
+        EXPECT_EQ(RGB(255, 255, 255), pImages->GetBkColor());
+        const auto expectImage = [&](int nWanted, HTREEITEM hItem) {
+            int nImage = -1;
+            int nSelected = -1;
             EXPECT_TRUE(tree.GetItemImage(hItem, nImage, nSelected));
-            EXPECT_EQ(nImage, nWanted);
-            EXPECT_EQ(nSelected, nWanted);
+            EXPECT_EQ(nWanted, nImage);
+            EXPECT_EQ(nWanted, nSelected);
+        };
+        expectImage(2, hRoot);
+        for (HTREEITEM h = tree.GetChildItem(hRoot); h != nullptr; h = tree.GetNextSiblingItem(h)) {
+            const DWORD dw = ::GetFileAttributes(drive.Long(dlg.PathOf(h))); // not every system keeps it
+            expectImage((dw & FILE_ATTRIBUTE_TEMPORARY) != 0 ? 1 : 0, h);
         }
     });
 }
 
 TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
-    const TestDrive drive;
-    for (const wchar_t* pszPath : {L"\\a", L"\\data", L"\\data\\Site 1", L"\\data\\Site 1\\deep", L"\\z"})
+    TestDrive drive;
+    for (const wchar_t* pszPath : {L"\\a", L"\\data", L"\\data\\Site 1"})
         drive.MakeFolder(pszPath);
-    for (int i = 0; i < 40; ++i) { // more than the window shows
-        CString strPath;
-        strPath.Format(L"\\data\\Site 1\\%02d", i);
-        drive.MakeFolder(strPath);
-    }
-    struct Row {
+    drive.MakeMany(TestDrive::Folders, L"\\data\\Site 1", "%02.0f", 40); // more than the window shows
+    const struct {
         const wchar_t* folder;
         bool found;
-    };
-    const Row rows[] = {
-        {L"\\data", true},
-        {L"\\data\\Site 1", true},
-        {L"\\data\\Site 1\\deep", true},
-        {L"\\data\\Site 1\\39", true},
-        {L"\\z", true},
-        {L"\\data\\Site 1\\", false},
-        {L"\\DATA", false},
-        {L"data", false},
-        {L"\\nowhere", false},
-        {L"\\", false},
-        {L"", false},
-        {nullptr, false},
-    };
-    for (const Row& row : rows) {
-        CBrowseFolderDlg dlg(row.folder);
-        fx::ModalScript script;
-        script.Then([&] {
-            const CTreeCtrl& tree = Tree(dlg);
-            EXPECT_EQ(CWnd::GetFocus(), &tree);
+    } rows[] = {{L"\\data", true},
+                {L"\\data\\Site 1\\39", true},
+                {L"\\data\\Site 1\\", false},
+                {L"\\DATA", false},
+                {L"data", false},
+                {L"\\", false},
+                {nullptr, false}};
+    for (const auto& row : rows) {
+        Dialog dlg(row.folder);
+        const auto look = [&] {
+            const CTreeCtrl& tree = dlg.Tree();
+            EXPECT_EQ(&tree, CWnd::GetFocus());
             const HTREEITEM hSelected = tree.GetSelectedItem();
-            ASSERT_EQ(hSelected != nullptr, row.found) << fx::Utf8(row.folder);
-            if (row.found) {
-                EXPECT_EQ(PathOf(tree, hSelected), row.folder);
-                CRect item;
-                CRect client;
-                tree.GetClientRect(client);
-                ASSERT_TRUE(tree.GetItemRect(hSelected, item, FALSE)) << "its parents are closed";
-                EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(row.folder);
-            }
-        });
-        script.Then([&] { fx::TapOk(dlg); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        EXPECT_EQ(dlg.GetSelectedFolder(), CString(row.folder)) << "taken over as it was";
+            ASSERT_EQ(row.found, hSelected != nullptr) << fx::Utf8(row.folder);
+            if (!row.found)
+                return;
+            EXPECT_EQ(row.folder, dlg.PathOf(hSelected));
+            CRect item;
+            CRect client;
+            tree.GetClientRect(client);
+            ASSERT_TRUE(tree.GetItemRect(hSelected, item, FALSE)) << "its parents are closed";
+            EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(row.folder);
+        };
+        EXPECT_EQ(IDOK, fx::Play(dlg, {look, [&] { fx::TapOk(dlg); }}));
+        EXPECT_EQ(CString(row.folder), dlg.GetSelectedFolder()) << "taken over as it was";
     }
 }
 
 TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFolder(L"\\data\\site");
-    struct Row {
+    const struct {
         const char* what;
         bool tapRoot;
         void (*end)(const CWnd&);
         INT_PTR result;
         const wchar_t* folder;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"folder, OK", false, fx::TapOk, IDOK, L"\\data"},
         {"root, OK", true, fx::TapOk, IDOK, L"\\"},
         {"folder, close", false, fx::TapClose, IDCANCEL, L"\\data\\site"},
     };
-    for (const Row& row : rows) {
-        CBrowseFolderDlg dlg(L"\\data\\site");
-        fx::ModalScript script;
-        script.Then([&] {
-            const HTREEITEM hRoot = Tree(dlg).GetRootItem();
-            TapItem(Tree(dlg), row.tapRoot ? hRoot : Tree(dlg).GetChildItem(hRoot));
-        });
-        script.Then([&] { row.end(dlg); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.what;
-        EXPECT_EQ(dlg.GetSelectedFolder(), row.folder) << row.what;
+    for (const auto& row : rows) {
+        Dialog dlg(L"\\data\\site");
+        const auto tap = [&] {
+            const HTREEITEM hRoot = dlg.Tree().GetRootItem();
+            dlg.TapItem(row.tapRoot ? hRoot : dlg.Tree().GetChildItem(hRoot));
+        };
+        EXPECT_EQ(row.result, fx::Play(dlg, {tap, [&] { row.end(dlg); }})) << row.what;
+        EXPECT_EQ(row.folder, dlg.GetSelectedFolder()) << row.what;
     }
 }
 
-TEST(BrowseFolderDlg, SegmentsCanBeBuiltAndRemovedByDerivedDialogs) {
-    class Derived : public CBrowseFolderDlg {
-    public:
-        using CBrowseFolderDlg::MakeTreeSegment;
-        using CBrowseFolderDlg::RemoveTreeItems;
-    };
-    const TestDrive drive;
+TEST(BrowseFolderDlg, FoldersComeInOneGo) {
+    constexpr int FOLDERS = 200;
+    TestDrive drive;
+    drive.MakeMany(TestDrive::Folders, L"", "%03.0f", FOLDERS);
+    FillWatch watch(WC_TREEVIEW);
+    WhileOpen(CBrowseFolderDlg(L"\\150"), [&] {
+        EXPECT_EQ(FOLDERS + 1, watch.nInserted);
+        EXPECT_EQ(0, watch.nInsertedWithRedraw);
+        EXPECT_LE(watch.nDrawings, 2);
+    });
+}
+
+TEST(BrowseFolderDlg, DerivedDialogsBuildSegmentsAndFreeThemEarly) {
+    TestDrive drive;
     drive.MakeFolder(L"\\a");
     drive.MakeFolder(L"\\a\\b");
-    Derived dlg;
-    WhileOpen(dlg, [&] {
-        CTreeCtrl& tree = Tree(dlg);
+    Dialog dlg(L"\\a");
+    const auto use = [&] {
+        CTreeCtrl& tree = dlg.Tree();
         for (const wchar_t* pszRoot : {L"\\", L""}) {
             const HTREEITEM hItem = tree.InsertItem(L"again");
             dlg.MakeTreeSegment(hItem, pszRoot);
-            Paths paths;
-            CollectPaths(tree, tree.GetChildItem(hItem), L"", paths);
-            EXPECT_EQ(paths, (Paths{L"\\a", L"\\a\\b"}));
+            EXPECT_EQ((Paths{L"\\a", L"\\a\\b"}), dlg.PathsBelow(hItem));
             dlg.RemoveTreeItems(tree.GetChildItem(hItem));
             tree.DeleteItem(hItem);
         }
         const HTREEITEM hItem = tree.InsertItem(L"unreadable");
         for (const wchar_t* pszPath : {L"\\nowhere", L"\\a<|>b", L"\\\\nobody\\nothing", L"?:"})
             dlg.MakeTreeSegment(hItem, pszPath);
-        EXPECT_EQ(tree.GetChildItem(hItem), nullptr);
+        EXPECT_EQ(nullptr, tree.GetChildItem(hItem));
         tree.DeleteItem(hItem);
-    });
+        dlg.ResetMemory();
+        EXPECT_EQ(0U, tree.GetItemData(tree.GetRootItem()));
+        EXPECT_EQ(nullptr, tree.GetImageList(TVSIL_NORMAL)) << "images that exist no more";
+        fx::TapOk(dlg);
+    };
+    EXPECT_EQ(IDOK, fx::Play(dlg, {use}));
+    EXPECT_EQ(L"\\a", dlg.GetSelectedFolder()) << "OK without the paths";
 }
 
-TEST(BrowseFolderDlg, TwoHundredOpensLeaveNothing) {
-    const TestDrive drive;
-    for (const wchar_t* pszPath : {L"\\a", L"\\a\\b", L"\\a\\b\\c", L"\\d"})
-        drive.MakeFolder(pszPath);
-    int nRun = 0;
-    fx::ExpectNothingLeft([&nRun] {
-        CBrowseFolderDlg dlg(L"\\a\\b");
-        fx::ModalScript script;
-        script.Then([&] {
-            switch (nRun++ % 3) {
-            case 0:
-                return void(dlg.PostMessage(WM_COMMAND, IDOK));
-            case 1:
-                return void(dlg.PostMessage(WM_CLOSE));
-            default: // as an application that ends
-                return dlg.EndDialog(IDABORT);
-            }
-        });
-        script.Run([&] { return dlg.DoModal(); });
+TEST(BrowseFolderDlg, CardMayBeTakenOutWhileItsFoldersAreShown) {
+    TestDrive drive;
+    drive.MakeFolder(L"\\card");
+    drive.MakeFolder(L"\\card\\site");
+    Dialog dlg(L"\\card\\site");
+    const auto pull = [&] {
+        drive.Remove();
+        dlg.TapItem(dlg.Tree().GetChildItem(dlg.Tree().GetRootItem()));
+    };
+    EXPECT_EQ(IDOK, fx::Play(dlg, {pull, [&] { fx::TapOk(dlg); }}));
+    EXPECT_EQ(L"\\card", dlg.GetSelectedFolder());
+    WhileOpen(dlg, [&] {
+        EXPECT_EQ(1U, dlg.Tree().GetCount()) << "the root alone";
+        EXPECT_EQ(nullptr, dlg.Tree().GetSelectedItem());
     });
+    EXPECT_EQ(L"\\card", dlg.GetSelectedFolder());
 }
 
 } // namespace

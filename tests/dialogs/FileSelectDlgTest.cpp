@@ -1,84 +1,69 @@
+// What the file dialog lists.
 #include "FileSelectStage.h"
 
-#include "companion/Tesuvo.h"
-#include "support/Leftovers.h"
+#include "FillWatch.h"
+#include "LockedFolder.h"
+
+#include <Tesuvo.h>
 
 namespace {
 
 using namespace file_select;
+using fx::WhileOpen;
 
 TEST(FileSelectDlg, TitleTellsTheMode) {
-    const TestDrive drive;
-    struct Row {
-        int mode;
-        const wchar_t* title;
-    };
-    const Row rows[] = {{0, L"ファイルを開く"},
-                        {1, L"ファイル名を付けて保存"},
-                        {2, L"新規作成"},
-                        {3, L"ファイルの選択"},
-                        {-1, L"ファイルの選択"}};
-    for (const Row& row : rows) {
-        CFileSelectDlg dlg(nullptr);
-        dlg.SetMode(row.mode);
-        WhileOpen(dlg, [&] { EXPECT_EQ(fx::TextOf(dlg), row.title); });
-    }
-    CFileSelectDlg dlg(nullptr); // without a mode
-    WhileOpen(dlg, [&] { EXPECT_EQ(fx::TextOf(dlg), L"ファイルを開く"); });
+    TestDrive drive;
+    const std::pair<int, const wchar_t*> rows[] = {{0, L"ファイルを開く"},
+                                                   {1, L"ファイル名を付けて保存"},
+                                                   {2, L"新規作成"},
+                                                   {3, L"ファイルの選択"},
+                                                   {-1, L"ファイルの選択"}};
+    for (const auto& [mode, title] : rows)
+        WhileOpen(Dialog(mode), [&title = title] { EXPECT_EQ(title, fx::TextOf(*CWnd::GetActiveWindow())); });
+    WhileOpen(CFileSelectDlg(nullptr),
+              [] { EXPECT_EQ(L"ファイルを開く", fx::TextOf(*CWnd::GetActiveWindow())); });
 }
 
 TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFolder(L"\\data\\d.csv");
     for (const wchar_t* pszName : {L"a.csv", L"UPPER.CSV", L"b.txt", L"c", L"e.c", L"f.csvx", L"g.v.csv",
                                    L".csv", L"境界　点.csv", L"𠮷か\x3099.csv", L"A & B.csv", L"全角.ＣＳＶ"})
         drive.MakeFile(CString(L"\\data\\") + pszName);
-    struct Row {
+    // Names that only a foreign system makes, and that lead out of the folder.
+    drive.MakeForeignFiles(L"\\data", {"..\\\\up.csv", "c:x.csv", "in\\\\x.csv", "h.csv"});
+    const Texts csv = {L"A & B.csv", L"UPPER.CSV", L"a.csv",        L"e.c",
+                       L"g.v.csv",   L"h.csv",     L"境界　点.csv", L"𠮷か\x3099.csv"};
+    Texts both = csv;
+    both.insert(both.begin() + 3, L"b.txt");
+    const struct {
         const wchar_t* subName;
         Texts names;
-    };
-    const Texts csv = {L"A & B.csv", L"UPPER.CSV",    L"a.csv",         L"e.c",
-                       L"g.v.csv",   L"境界　点.csv", L"𠮷か\x3099.csv"};
-    Texts both = csv;
-    both.push_back(L"b.txt");
-    const Row rows[] = {
+    } rows[] = {
         {L"csv", csv},
         {L"csv txt", both},
         {L"txt", {L"b.txt"}},
         {L"CSV", {}}, // it has to be in lower case
         {L"ｃｓｖ", {L"全角.ＣＳＶ"}},
-        {L"dat", {}},
         {L"", {}},
     };
-    for (const Row& row : rows) {
-        CFileSelectDlg dlg(nullptr);
+    for (const auto& row : rows) {
+        Dialog dlg;
         dlg.SetSubName(row.subName);
         dlg.SetFileFolder(L"\\data");
         WhileOpen(dlg, [&] {
-            EXPECT_EQ(Sorted(Names(dlg)), Sorted(row.names)) << fx::Utf8(row.subName);
-            EXPECT_EQ(Text(dlg, EXTENSION), row.subName);
-            EXPECT_EQ(Text(dlg, FOLDER), L"\\data");
+            Texts names = dlg.Names();
+            std::sort(names.begin(), names.end());
+            EXPECT_EQ(row.names, names) << fx::Utf8(row.subName);
+            EXPECT_EQ(row.subName, Text(dlg, EXTENSION));
+            EXPECT_EQ(L"\\data", Text(dlg, FOLDER));
         });
     }
 }
 
-TEST(FileSelectDlg, ListKeepsTheOrderOfTheFileSystem) {
-    const TestDrive drive;
-    for (const wchar_t* pszName : {L"\\c.csv", L"\\B.csv", L"\\a.csv", L"\\z.csv", L"\\10.csv", L"\\9.csv"})
-        drive.MakeFile(pszName);
-    Texts wanted;
-    WIN32_FIND_DATA entry;
-    const HANDLE hFind = ::FindFirstFile(drive.Root() + L"*.csv", &entry);
-    for (BOOL bMore = TRUE; bMore; bMore = ::FindNextFile(hFind, &entry))
-        wanted.push_back(entry.cFileName);
-    ::FindClose(hFind);
-    CsvDlg dlg(CFileSelectDlg::ModeOpen, L"");
-    WhileOpen(dlg, [&] { EXPECT_EQ(Names(dlg), wanted); });
-}
-
-TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwn) {
-    const TestDrive drive;
+TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwnAndSoIsTheOrder) {
+    TestDrive drive;
     struct Row {
         const wchar_t* name;
         SYSTEMTIME local; ///< Year, month, day of the week, day, hour, minute.
@@ -87,9 +72,9 @@ TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwn) {
         const wchar_t* size;
     };
     const Row rows[] = {
-        {L"a.csv", {2024, 2, 0, 29, 4, 5, 59, 999}, 0, L"2024/02/29  4:05", L"0"},
-        {L"b.csv", {1999, 12, 0, 31, 23, 59, 0, 0}, 1, L"1999/12/31 23:59", L"1"},
-        {L"c.csv", {2031, 7, 0, 1, 0, 0, 0, 0}, 1234567, L"2031/07/01  0:00", L"1234567"},
+        {L"c.csv", {2024, 2, 0, 29, 4, 5, 59, 999}, 0, L"2024/02/29  4:05", L"0"},
+        {L"10.csv", {1999, 12, 0, 31, 23, 59, 0, 0}, 1, L"1999/12/31 23:59", L"1"},
+        {L"9.csv", {2031, 7, 0, 1, 0, 0, 0, 0}, 1234567, L"2031/07/01  0:00", L"1234567"},
     };
     for (const Row& row : rows) {
         const CString strPath = CString(L"\\") + row.name;
@@ -103,126 +88,167 @@ TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwn) {
         EXPECT_TRUE(::SetFileTime(hFile, nullptr, nullptr, &time));
         ::CloseHandle(hFile);
     }
-    CsvDlg dlg(CFileSelectDlg::ModeOpen, L"");
-    WhileOpen(dlg, [&] {
-        for (const Row& row : rows) {
-            const Texts names = Names(dlg);
-            const int nItem =
-                static_cast<int>(std::find(names.begin(), names.end(), row.name) - names.begin());
-            EXPECT_EQ(List(dlg).GetItemText(nItem, 1), row.time);
-            EXPECT_EQ(List(dlg).GetItemText(nItem, 2), row.size);
-        }
-    });
-}
-
-TEST(FileSelectDlg, FolderThatCannotBeReadIsEmptyAndTheDialogStaysUsable) {
-    const TestDrive drive;
-    drive.MakeFile(L"\\file.csv");
-    for (const wchar_t* pszFolder :
-         {L"\\nowhere", L"\\file.csv", L"\\a<|>b", L"?:", L"\\\\nobody\\nothing", L"\\.\\NUL", L"NUL"}) {
-        CsvDlg dlg(CFileSelectDlg::ModeSave, pszFolder);
-        fx::ModalScript script;
-        script.Then([&] {
-            EXPECT_EQ(Names(dlg), Texts()) << fx::Utf8(pszFolder);
-            dlg.SetDlgItemText(NAME, L"new");
-            fx::TapOk(dlg);
+    Texts wanted;
+    WIN32_FIND_DATA entry;
+    const HANDLE hFind = ::FindFirstFile(L"\\*.csv", &entry);
+    for (BOOL bMore = TRUE; bMore; bMore = ::FindNextFile(hFind, &entry))
+        wanted.push_back(entry.cFileName);
+    ::FindClose(hFind);
+    Dialog dlg;
+    for (int nRun = 0; nRun < 2; ++nRun)
+        WhileOpen(dlg, [&] {
+            EXPECT_EQ(wanted, dlg.Names());
+            for (const Row& row : rows) {
+                const auto nItem =
+                    static_cast<int>(std::find(wanted.begin(), wanted.end(), row.name) - wanted.begin());
+                EXPECT_EQ(row.time, dlg.List().GetItemText(nItem, 1));
+                EXPECT_EQ(row.size, dlg.List().GetItemText(nItem, 2));
+            }
+            constexpr int CELL_MARGINS = 12;
+            EXPECT_EQ(119, dlg.List().GetColumnWidth(1));
+            const int nWidth = dlg.List().GetStringWidth(L"2026/12/28 23:58") + CELL_MARGINS;
+            EXPECT_LE(nWidth, 119) << "any time is to be seen whole";
+            EXPECT_GT(nWidth, 110) << "in letters as wide as that allows";
+            LOGFONT list = {};
+            LOGFONT dialog = {};
+            dlg.List().GetFont()->GetLogFont(&list);
+            dlg.GetFont()->GetLogFont(&dialog);
+            EXPECT_EQ(dialog.lfHeight, list.lfHeight);
         });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(pszFolder);
-        EXPECT_EQ(dlg.GetFilePath(), CString(pszFolder) + L"\\new.csv");
-    }
 }
 
-TEST(FileSelectDlg, FolderPathsReachTheirFiles) {
-    const TestDrive drive;
+TEST(FileSelectDlg, FolderPathsReachTheirFilesAndOthersAreEmpty) {
+    TestDrive drive;
     drive.MakeFile(L"\\top.csv");
+    drive.MakeFolder(L"\\locked");
+    drive.MakeFile(L"\\locked\\top.csv");
     CString strDeep;
-    for (int i = 0; i < 8; ++i) {
-        strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i), 60);
-        drive.MakeFolder(strDeep);
-    }
+    for (int i = 0; i < 8; ++i)
+        drive.MakeFolder(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i), 60));
     drive.MakeFile(strDeep + L"\\top.csv");
-    struct Row {
+    const LockedFolder locked(L"\\locked");
+    const struct {
         CString folder;
-        CString path;
-    };
-    const Row rows[] = {
+        CString path; ///< Of the one file; empty for none.
+    } rows[] = {
         {L"", L"\\top.csv"},
         {L"\\", L"\\top.csv"}, // two backslashes would be a server
         {drive.Letter(), drive.Letter() + L"\\top.csv"},
         {drive.Root(), drive.Root() + L"\\top.csv"},
-        {strDeep, strDeep + L"\\top.csv"},
         {drive.Letter() + strDeep, drive.Letter() + strDeep + L"\\top.csv"},
+        {L"\\nowhere", L""},
+        {L"\\top.csv", L""},
+        {L"\\a<|>b", L""},
+        {L"\\\\nobody\\nothing", L""},
+        {L"NUL", L""},
+        {L"\\locked", L""},
     };
-    for (const Row& row : rows) {
-        CsvDlg dlg(CFileSelectDlg::ModeOpen, row.folder);
-        fx::ModalScript script;
-        script.Then([&] {
-            EXPECT_EQ(Names(dlg), Texts{L"top.csv"}) << fx::Utf8(row.folder);
-            EXPECT_EQ(Text(dlg, FOLDER), row.folder);
-            TapFile(dlg, L"top.csv");
-        });
-        script.Then([&] { fx::TapOk(dlg); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        // The one exception to folder, backslash, name.
-        const bool bDriveRoot = row.folder == drive.Root();
-        EXPECT_EQ(dlg.GetFilePath(), bDriveRoot ? drive.Root() + L"\\top.csv" : row.path);
-        EXPECT_TRUE(TVCheckFileExist(dlg.GetFilePath())) << fx::Utf8(dlg.GetFilePath());
+    for (const auto& row : rows) {
+        Dialog dlg(CFileSelectDlg::ModeOpen, row.folder);
+        const auto tap = [&] {
+            EXPECT_EQ(row.path.IsEmpty() ? Texts() : Texts{L"top.csv"}, dlg.Names()) << fx::Utf8(row.folder);
+            EXPECT_EQ(row.folder, Text(dlg, FOLDER));
+            if (!row.path.IsEmpty())
+                dlg.TapFile(L"top.csv");
+        };
+        EXPECT_EQ(IDOK, fx::Play(dlg, {tap, [&] { fx::TapOk(dlg); }}));
+        EXPECT_EQ(row.path, dlg.GetFilePath());
     }
 }
 
 TEST(FileSelectDlg, OpenDialogFollowsTheSetters) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFolder(L"\\data");
-    drive.MakeFile(L"\\data\\a.csv");
-    drive.MakeFile(L"\\data\\site.csv");
-    drive.MakeFile(L"\\b.csv");
-    drive.MakeFile(L"\\b.txt");
-    CsvDlg dlg;
+    for (const wchar_t* pszPath : {L"\\data\\site.csv", L"\\b.csv", L"\\b.txt"})
+        drive.MakeFile(pszPath);
+    Dialog dlg;
     WhileOpen(dlg, [&] {
-        EXPECT_EQ(Names(dlg), Texts{L"b.csv"});
+        EXPECT_EQ(Texts{L"b.csv"}, dlg.Names());
         dlg.SetCurrentName(L"site");
-        EXPECT_EQ(Text(dlg, NAME), L"");
+        EXPECT_EQ(L"", Text(dlg, NAME));
         dlg.SetFileFolder(L"\\data");
-        EXPECT_EQ(Sorted(Names(dlg)), (Texts{L"a.csv", L"site.csv"}));
-        EXPECT_EQ(Text(dlg, FOLDER), L"\\data");
-        EXPECT_EQ(Text(dlg, NAME), L"site1.csv");
+        EXPECT_EQ(Texts{L"site.csv"}, dlg.Names());
+        EXPECT_EQ(L"\\data", Text(dlg, FOLDER));
+        EXPECT_EQ(L"site1.csv", Text(dlg, NAME));
         dlg.SetSubName(L"txt");
-        EXPECT_EQ(Names(dlg), Texts());
-        EXPECT_EQ(Text(dlg, EXTENSION), L"txt");
-        EXPECT_EQ(Text(dlg, NAME), L"site.txt");
-        EXPECT_EQ(dlg.GetFilePath(), L"\\data\\site.txt");
+        EXPECT_EQ(Texts(), dlg.Names());
+        EXPECT_EQ(L"txt", Text(dlg, EXTENSION));
+        EXPECT_EQ(L"site.txt", Text(dlg, NAME));
+        EXPECT_EQ(L"\\data\\site.txt", dlg.GetFilePath());
     });
-    EXPECT_EQ(dlg.GetFileFolder(), L"\\data");
-    EXPECT_EQ(dlg.GetSubName(), L"txt");
+    EXPECT_EQ(L"\\data", dlg.GetFileFolder());
+    EXPECT_EQ(L"txt", dlg.GetSubName());
 }
 
-TEST(FileSelectDlg, TwoHundredOpensLeaveNothing) {
-    const TestDrive drive;
+TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
+    TestDrive drive;
+    drive.MakeFolder(L"\\data");
+    drive.MakeFile(L"\\data\\in.csv");
+    drive.MakeFile(L"\\top.csv");
+    const struct {
+        void (*end)(const CWnd&);
+        const wchar_t* folder;
+        Texts names;
+    } rows[] = {{fx::TapOk, L"\\data", {L"in.csv"}}, {fx::TapClose, L"\\", {L"top.csv"}}};
+    for (const auto& row : rows) {
+        Dialog dlg;
+        const auto browse = [&] {
+            dlg.SetDlgItemText(NAME, L"typed");
+            pen::Tap(*dlg.GetDlgItem(FOLDER_BUTTON));
+        };
+        const auto pick = [] {
+            auto* pTree = static_cast<CTreeCtrl*>(CWnd::GetActiveWindow()->GetDlgItem(1100));
+            CRect rect;
+            pTree->GetItemRect(pTree->GetChildItem(pTree->GetRootItem()), rect, TRUE);
+            pTree->ClientToScreen(rect);
+            pen::Tap(rect.CenterPoint());
+        };
+        const auto look = [&] {
+            EXPECT_EQ(&dlg, CWnd::GetActiveWindow());
+            EXPECT_EQ(row.folder, Text(dlg, FOLDER));
+            EXPECT_EQ(row.names, dlg.Names());
+            EXPECT_EQ(L"typed", Text(dlg, NAME));
+            auto* const pButton = static_cast<CIconButton*>(dlg.GetDlgItem(FOLDER_BUTTON));
+            EXPECT_EQ(TVGetCommonIcon(2), pButton->SetIcon(nullptr)) << "a folder";
+            fx::TapOk(dlg);
+        };
+        EXPECT_EQ(IDOK, fx::Play(dlg, {browse, pick, [&] { row.end(*CWnd::GetActiveWindow()); }, look}));
+        EXPECT_EQ(row.folder, dlg.GetFileFolder());
+    }
+}
+
+TEST(FileSelectDlg, FilesComeInOneGo) {
+    constexpr int FILES = 200;
+    TestDrive drive;
+    drive.MakeMany(TestDrive::Files, L"", "%03.0f.csv", FILES);
+    Dialog dlg;
+    FillWatch watch(WC_LISTVIEW);
+    const auto expectOneGo = [&] {
+        EXPECT_EQ(FILES, watch.nInserted);
+        EXPECT_EQ(0, watch.nInsertedWithRedraw);
+        EXPECT_LE(watch.nDrawings, 2);
+        watch.nInserted = watch.nDrawings = 0;
+        dlg.SetFileFolder(L"\\");
+    };
+    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {expectOneGo, expectOneGo, [&] { dlg.EndDialog(IDCANCEL); }}));
+}
+
+TEST(FileSelectDlg, CardMayBeTakenOutWhileItsFilesAreShown) {
+    TestDrive drive;
     drive.MakeFile(L"\\a.csv");
-    fx::ExpectNothingLeft([] {
-        CsvDlg dlg(CFileSelectDlg::ModeNew);
-        dlg.SetCurrentName(L"a");
-        dlg.SetSubName(L"csv"); // proposes a name
-        fx::ModalScript script;
-        script.Then([&] { dlg.PostMessage(WM_COMMAND, IDOK); });
-        script.Run([&] { return dlg.DoModal(); });
-    });
-}
-
-TEST(FileSelectDlg, AnyTimeFitsItsColumnInTheHeightOfTheDialogsText) {
-    const TestDrive drive;
-    CsvDlg dlg;
-    for (int nRun = 0; nRun < 2; ++nRun)
-        WhileOpen(dlg, [&] {
-            constexpr int CELL_MARGINS = 12;
-            EXPECT_EQ(List(dlg).GetColumnWidth(1), 119);
-            EXPECT_LE(List(dlg).GetStringWidth(L"2026/12/28 23:58") + CELL_MARGINS, 119);
-            LOGFONT list = {};
-            LOGFONT dialog = {};
-            List(dlg).GetFont()->GetLogFont(&list);
-            dlg.GetFont()->GetLogFont(&dialog);
-            EXPECT_EQ(list.lfHeight, dialog.lfHeight);
-        });
+    Dialog dlg(CFileSelectDlg::ModeNew);
+    const auto pull = [&] {
+        drive.Remove();
+        dlg.TapFile(L"a.csv");
+    };
+    const auto look = [&] {
+        EXPECT_EQ(L"a.csv", Text(dlg, NAME));
+        dlg.SetFileFolder(L"\\");
+        EXPECT_EQ(Texts(), dlg.Names());
+        fx::TapOk(dlg);
+    };
+    EXPECT_EQ(IDOK, fx::Play(dlg, {pull, look}));
+    EXPECT_EQ(L"\\a.csv", dlg.GetFilePath());
 }
 
 } // namespace

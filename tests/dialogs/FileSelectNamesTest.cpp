@@ -1,348 +1,201 @@
 // How the file dialog makes names, and how it ends.
 #include "FileSelectStage.h"
 
+#include "dialogs/detail/FileName.h"
+
 namespace {
 
 using namespace file_select;
-
-class SafeName : public CFileSelectDlg {
-public:
-    SafeName() : CFileSelectDlg(nullptr) {}
-    using CFileSelectDlg::GetSafeName;
-};
-
-/// The message box in front.
-CWnd& Box() {
-    return *CWnd::GetActiveWindow();
-}
-
-CString QuestionText() {
-    constexpr int BOX_TEXT = 0xFFFF;
-    return Text(Box(), BOX_TEXT);
-}
+using fx::WhileOpen;
 
 TEST(FileSelectNames, TypedNameGetsTheExtensionUnlessItHasOne) {
-    const TestDrive drive;
-    struct Row {
-        const wchar_t* typed;
-        const wchar_t* completed;
-        const wchar_t* path;
+    TestDrive drive;
+    const std::pair<CString, CString> rows[] = {
+        {L"report", L"report.csv"},
+        {L"report...", L"report.csv"},
+        {L"report.txt", L"report.txt"},
+        {L"a.b.", L"a.b.csv"},
+        {L".x", L".x"},
+        {L"...", L".csv"},
+        {L"", L""},
+        {L"𠮷．", L"𠮷．.csv"}, // a full-width stop is no dot
     };
-    const Row rows[] = {
-        {L"report", L"report.csv", L"\\report.csv"},
-        {L"report.", L"report.csv", L"\\report.csv"},
-        {L"report...", L"report.csv", L"\\report.csv"},
-        {L"report.txt", L"report.txt", L"\\report.txt"},
-        {L"a.b.", L"a.b.csv", L"\\a.b.csv"},
-        {L".x", L".x", L"\\.x"},
-        {L"...", L".csv", L"\\.csv"},
-        {L"境界　点", L"境界　点.csv", L"\\境界　点.csv"},
-        {L"𠮷か\x3099．", L"𠮷か\x3099．.csv", L"\\𠮷か\x3099．.csv"}, // a full-width stop is no dot
-        {L"", L"", L""},
-    };
-    for (const Row& row : rows) {
-        CsvDlg dlg(CFileSelectDlg::ModeSave, L"");
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, row.typed);
-            EXPECT_EQ(dlg.GetFilePath(), row.path) << "while open";
-            EXPECT_EQ(Text(dlg, NAME), row.completed);
-            dlg.SetDlgItemText(NAME, row.typed);
-            fx::TapOk(dlg);
-        });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(row.typed);
-        EXPECT_EQ(dlg.GetFilePath(), row.path) << "afterwards";
-    }
+    Dialog dlg(CFileSelectDlg::ModeSave);
+    WhileOpen(dlg, [&] {
+        for (const auto& [typed, completed] : rows) {
+            dlg.SetDlgItemText(NAME, typed);
+            EXPECT_EQ(completed.IsEmpty() ? CString() : L"\\" + completed, dlg.GetFilePath());
+            EXPECT_EQ(completed, Text(dlg, NAME));
+        }
+    });
+    EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(L"report.")}));
+    EXPECT_EQ(L"\\report.csv", dlg.GetFilePath());
 }
 
 TEST(FileSelectNames, ProposalIsTheFirstNumberThatIsFree) {
-    const TestDrive drive;
+    TestDrive drive;
     for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\data2.csv", L"\\P009.csv", L"\\x.txt"})
         drive.MakeFile(pszName);
-    drive.MakeFolder(L"\\folder.csv");
-    struct Row {
-        const wchar_t* name;
-        const wchar_t* safe;
-    };
-    const Row rows[] = {{L"data", L"data3"}, {L"data1", L"data3"},  {L"data7", L"data7"},
-                        {L"P009", L"P010"},  {L"x", L"x"},          {L"new", L"new"},
-                        {L"a?b", L"a?b"},    {L"folder", L"folder"}}; // a folder is not a file
-    for (const Row& row : rows) {
-        SafeName dlg;
-        dlg.SetCurrentName(row.name);
+    drive.MakeFolder(L"\\folder.csv"); // is not a file
+    const std::pair<CString, CString> rows[] = {
+        {L"data", L"data3"}, {L"data1", L"data3"}, {L"data7", L"data7"},  {L"P009", L"P010"},
+        {L"x", L"x"},        {L"a?b", L"a?b"},     {L"folder", L"folder"}};
+    for (const auto& [name, safe] : rows) {
+        Dialog dlg;
+        dlg.SetCurrentName(name);
         dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
-        EXPECT_EQ(dlg.GetSafeName(row.name), row.safe);
-        EXPECT_EQ(dlg.GetFilePath(), L"\\" + CString(row.safe) + L".csv") << "before the dialog";
-        WhileOpen(dlg, [&] { EXPECT_EQ(Text(dlg, NAME), CString(row.safe) + L".csv"); });
+        EXPECT_EQ(safe, dlg.GetSafeName(name));
+        EXPECT_EQ(L"\\" + safe + L".csv", dlg.GetFilePath()) << "before the dialog";
     }
-}
-
-TEST(FileSelectNames, WithoutCurrentNameThereIsNoProposal) {
-    const TestDrive drive;
-    CsvDlg dlg(CFileSelectDlg::ModeNew);
-    WhileOpen(dlg, [&] { EXPECT_EQ(Text(dlg, NAME), L""); });
-    EXPECT_EQ(dlg.GetFilePath(), L"");
+    Dialog dlg(CFileSelectDlg::ModeNew);
+    WhileOpen(dlg, [&] { EXPECT_EQ(L"", Text(dlg, NAME)); });
+    EXPECT_EQ(L"", dlg.GetFilePath()) << "nothing is proposed";
+    dlg.SetCurrentName(L"data");
+    dlg.SetFileFolder(L"\\");
+    const auto close = [&] {
+        EXPECT_EQ(L"data3.csv", Text(dlg, NAME));
+        dlg.SetDlgItemText(NAME, L"other");
+        fx::TapClose(dlg);
+    };
+    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {close}));
+    EXPECT_EQ(L"\\data3.csv", dlg.GetFilePath()) << "what is typed counts after OK only";
 }
 
 TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
-    const TestDrive drive;
+    TestDrive drive;
     for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\abc.c", L"\\a.c"})
         drive.MakeFile(pszName);
-    struct Row {
+    const struct {
         int mode;
         const wchar_t* tapped;
         const wchar_t* name;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {CFileSelectDlg::ModeOpen, L"data.csv", L"data.csv"},
         {CFileSelectDlg::ModeSave, L"data.csv", L"data.csv"},
-        {CFileSelectDlg::ModeNew, L"data.csv", L"data2.csv"},
         {CFileSelectDlg::ModeNew, L"data1.csv", L"data2.csv"},
-        {CFileSelectDlg::ModeNew, L"abc.c", L"a.csv"}, // cut by the length of ".csv"
-        {CFileSelectDlg::ModeNew, L"a.c", L".csv"},    // shorter than that
+        {CFileSelectDlg::ModeNew, L"abc.c", L"a.csv"},
+        {CFileSelectDlg::ModeNew, L"a.c", L".csv"}, // cut by the length of ".csv", as far as it goes
     };
-    for (const Row& row : rows) {
-        CsvDlg dlg(row.mode);
-        fx::ModalScript script;
-        script.Then([&] { TapFile(dlg, row.tapped); });
-        script.Then([&] {
-            EXPECT_EQ(Text(dlg, NAME), row.name);
-            const CRect rect = fx::RectOf(List(dlg));
+    for (const auto& row : rows) {
+        Dialog dlg(row.mode);
+        const auto tapBeside = [&] {
+            EXPECT_EQ(row.name, Text(dlg, NAME));
+            const CRect rect = fx::RectOf(dlg.List());
             pen::Tap(CPoint(rect.left + 20, rect.bottom - 30)); // below the last file
-        });
-        script.Then([&] {
-            EXPECT_EQ(Text(dlg, NAME), row.name) << "a tap beside the files changes nothing";
+        };
+        const auto look = [&] {
+            EXPECT_EQ(row.name, Text(dlg, NAME)) << "a tap beside the files changes nothing";
             dlg.EndDialog(IDCANCEL);
-        });
-        script.Run([&] { return dlg.DoModal(); });
+        };
+        fx::Play(dlg, {[&] { dlg.TapFile(row.tapped); }, tapBeside, look});
     }
 }
 
-TEST(FileSelectNames, FileThatHasVanishedCanStillBeTapped) {
-    const TestDrive drive;
-    for (const int nMode : {CFileSelectDlg::ModeOpen, CFileSelectDlg::ModeNew}) {
-        drive.MakeFile(L"\\gone.csv");
-        CsvDlg dlg(nMode);
-        fx::ModalScript script;
-        script.Then([&] {
-            ::DeleteFile(L"\\gone.csv");
-            TapFile(dlg, L"gone.csv");
-        });
-        script.Then([&] { fx::TapOk(dlg); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        EXPECT_EQ(dlg.GetFilePath(), L"\\gone.csv");
-    }
-}
-
-TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnly) {
-    const TestDrive drive;
+/// What the file system takes for the same file must not get past the question.
+TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
+    TestDrive drive;
+    CString strDeep = L"\\deep";
+    drive.MakeFolder(strDeep);
+    for (int i = 0; i < 6; ++i)
+        drive.MakeFolder(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i), 60));
     drive.MakeFolder(L"\\data");
-    drive.MakeFile(L"\\data\\old.csv");
-    for (const int nMode : {CFileSelectDlg::ModeSave, CFileSelectDlg::ModeNew}) {
-        CsvDlg dlg(nMode, L"\\data");
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, L"old");
+    for (const CString& strFolder : {strDeep, CString(L"\\data")})
+        drive.MakeFile(strFolder + L"\\old.csv");
+    ::SetFileAttributes(L"\\data\\old.csv", FILE_ATTRIBUTE_READONLY);
+    const struct {
+        int mode;
+        CString folder;
+        const wchar_t* typed;
+    } rows[] = {
+        {1, L"\\data", L"old"},
+        {2, L"\\data", L"old...."},
+        {1, L"\\data", L"OLD.Csv"},
+        {1, L"\\data\\", L"old"},
+        {1, L"\\\\?\\" + drive.Letter() + L"\\data", L"old"},
+        {2, strDeep, L"old"},
+    };
+    for (const auto& row : rows) {
+        Dialog dlg(row.mode, row.folder);
+        const auto look = [&] {
+            CString strQuestion = MessageText();
+            strQuestion.Remove(L'\n'); // it may have been broken into more lines
+            EXPECT_EQ(dlg.GetFilePath() + L"は既に存在します。上書きしますか？", strQuestion);
+            EXPECT_EQ(&dlg, CWnd::GetActiveWindow()->GetWindow(GW_OWNER));
+        };
+        const auto again = [&] {
+            EXPECT_EQ(&dlg, CWnd::GetActiveWindow()) << "No leaves the dialog open";
             fx::TapOk(dlg);
-        });
-        script.Then([&] {
-            EXPECT_EQ(QuestionText(), L"\\data\\old.csvは既に存在します。\n上書きしますか？");
-            EXPECT_EQ(Box().GetWindow(GW_OWNER), &dlg);
-            pen::Tap(*Box().GetDlgItem(IDNO));
-        });
-        script.Then([&] {
-            EXPECT_EQ(CWnd::GetActiveWindow(), &dlg) << "No leaves the dialog open";
-            EXPECT_EQ(Text(dlg, NAME), L"old.csv");
-            fx::TapOk(dlg);
-        });
-        script.Then([&] { pen::Tap(*Box().GetDlgItem(IDYES)); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        EXPECT_EQ(dlg.GetFilePath(), L"\\data\\old.csv");
+        };
+        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(row.typed), look, Answer(IDNO), again, Answer(IDYES)}))
+            << fx::Utf8(row.typed);
     }
-}
-
-TEST(FileSelectNames, OkThatComesTwiceAsksOnce) {
-    const TestDrive drive;
-    drive.MakeFile(L"\\old.csv");
-    CsvDlg dlg(CFileSelectDlg::ModeSave, L"\\");
-    fx::ModalScript script;
-    script.Then([&] {
+    ::SetFileAttributes(L"\\data\\old.csv", FILE_ATTRIBUTE_NORMAL);
+    Dialog dlg(CFileSelectDlg::ModeSave, L"\\data");
+    const auto twice = [&] {
         dlg.SetDlgItemText(NAME, L"old");
         dlg.PostMessage(WM_COMMAND, IDOK);
         dlg.PostMessage(WM_COMMAND, IDOK);
-    });
-    script.Then([&] { pen::Tap(*Box().GetDlgItem(IDNO)); });
-    script.Then([&] {
-        EXPECT_EQ(CWnd::GetActiveWindow(), &dlg) << "no other question";
+    };
+    const auto close = [&] {
+        EXPECT_EQ(&dlg, CWnd::GetActiveWindow()) << "no other question";
         ::PostMessage(CWnd::GetActiveWindow()->m_hWnd, WM_COMMAND, IDCANCEL, 0);
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
+    };
+    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {twice, Answer(IDNO), close}));
 }
 
 TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
-    const TestDrive drive;
-    drive.MakeFolder(L"\\data");
-    drive.MakeFile(L"\\secret.csv");
-    constexpr LPCTSTR CHARACTER = L"次の文字";
-    constexpr LPCTSTR ENDING = L"終わり";
-    constexpr LPCTSTR DEVICE = L"装置";
-    struct Row {
-        const wchar_t* typed;
-        const wchar_t* reason; ///< Part of it; null if the name is good.
+    const std::pair<NameFault, std::vector<const wchar_t*>> faults[] = {
+        {NameFault::Character,
+         {L"..\\x.csv", L"../x.csv", L"C:x.csv", L"a.csv:b", L"a?b", L"a*b", L"a<b", L"a>b", L"a|b", L"a\"b",
+          L"a\tb"}},
+        {NameFault::Ending, {L"a.csv ", L"a."}},
+        {NameFault::Device,
+         {L"NUL", L"nul.csv", L"Con .b.csv", L"aux", L"PRN.x", L"com1", L"COM9.txt", L"lpt3", L"COM\u00B2",
+          L"conin$", L"CONOUT$.x"}},
+        {NameFault::None,
+         {L"COM0", L"COM10", L"NUL1", L"a.nul", L"CONIN", L"ＮＵＬ", L" a.csv", L"a..b", L"LPT\u00BD",
+          L"a. .csv"}},
     };
-    const Row rows[] = {
-        {L"..\\secret.csv", CHARACTER},
-        {L"../secret.csv", CHARACTER},
-        {L"\\secret.csv", CHARACTER},
-        {L"C:secret.csv", CHARACTER},
-        {L"a.csv:b", CHARACTER},
-        {L"a?b", CHARACTER},
-        {L"a*b", CHARACTER},
-        {L"a<b", CHARACTER},
-        {L"a>b", CHARACTER},
-        {L"a|b", CHARACTER},
-        {L"a\"b", CHARACTER},
-        {L"a\tb", CHARACTER},
-        {L"a.csv ", ENDING},
-        {L"a. .", nullptr}, // becomes "a. .csv"
-        {L"NUL", DEVICE},
-        {L"nul.csv", DEVICE},
-        {L"Con .b.csv", DEVICE},
-        {L"aux", DEVICE},
-        {L"PRN.", DEVICE},
-        {L"com1", DEVICE},
-        {L"COM9.txt", DEVICE},
-        {L"lpt3", DEVICE},
-        {L"COM\u00B2", DEVICE},
-        {L"conin$", DEVICE},
-        {L"CONOUT$.x", DEVICE},
-        {L"COM0", nullptr},
-        {L"COM10", nullptr},
-        {L"NUL1", nullptr},
-        {L"a.nul", nullptr},
-        {L"CONIN", nullptr},
-        {L"ＮＵＬ", nullptr},
-        {L" a.csv", nullptr},
-        {L"a..b", nullptr},
-        {L"LPT\u00BD", nullptr},
-    };
-    int nMode = CFileSelectDlg::ModeNew;
-    for (const Row& row : rows) {
-        nMode = nMode == CFileSelectDlg::ModeNew ? CFileSelectDlg::ModeSave : CFileSelectDlg::ModeNew;
-        CsvDlg dlg(nMode, L"\\data");
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, row.typed);
-            fx::TapOk(dlg);
-        });
-        if (row.reason != nullptr) {
-            script.Then([&] {
-                EXPECT_NE(QuestionText().Find(row.reason), -1) << fx::Utf8(row.typed);
-                pen::Tap(*Box().GetDlgItem(IDOK));
-            });
-            script.Then([&] {
-                EXPECT_EQ(::GetFocus(), dlg.GetDlgItem(NAME)->m_hWnd) << "to be typed again";
-                dlg.SetDlgItemText(NAME, L"good");
-                fx::TapOk(dlg);
-            });
-        }
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK) << fx::Utf8(row.typed);
-        EXPECT_EQ(dlg.GetFilePath() == L"\\data\\good.csv", row.reason != nullptr);
+    for (const auto& [fault, names] : faults)
+        for (const wchar_t* const pszName : names)
+            EXPECT_EQ(fault, FaultOf(pszName)) << fx::Utf8(pszName);
+
+    TestDrive drive;
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"..\\secret.csv", L"次の文字"}, {L"a.csv ", L"終わり"}, {L"nul", L"装置"}};
+    for (const auto& [typed, reason] : rows) {
+        Dialog dlg(CFileSelectDlg::ModeNew);
+        const auto look = [&reason = reason] { EXPECT_NE(-1, MessageText().Find(reason)); };
+        const auto typeAgain = [&] {
+            EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()) << "to be typed again";
+        };
+        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
+        EXPECT_EQ(L"\\good.csv", dlg.GetFilePath());
     }
 }
 
 TEST(FileSelectNames, DialogMayBeDestroyedWhileItsMessageIsOpen) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFile(L"\\old.csv");
     for (const wchar_t* typed : {L"a?b", L"old"}) {
-        CsvDlg dlg(CFileSelectDlg::ModeSave, L"\\");
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, typed);
-            fx::TapOk(dlg);
-        });
-        script.Then([&] {
-            EXPECT_FALSE(QuestionText().IsEmpty());
-            dlg.DestroyWindow();
-        });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), -1) << fx::Utf8(typed);
+        Dialog dlg(CFileSelectDlg::ModeSave);
+        EXPECT_EQ(-1, fx::Play(dlg, {dlg.Enter(typed), [&] { dlg.DestroyWindow(); }})) << fx::Utf8(typed);
     }
 }
 
 TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
-    const TestDrive drive;
+    TestDrive drive;
     drive.MakeFile(L"\\old.csv");
-    struct Row {
+    const struct {
         int mode;
         const wchar_t* typed;
         const wchar_t* path;
-    };
-    for (const Row& row : {Row{0, L"old.csv", L"\\old.csv"}, Row{0, L"new", L"\\new"}, Row{0, L"", L""},
-                           Row{3, L"old.csv", L"\\old.csv"}}) {
-        CsvDlg dlg(row.mode);
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, row.typed);
-            fx::TapOk(dlg);
-        });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        EXPECT_EQ(dlg.GetFilePath(), row.path);
-    }
-}
-
-TEST(FileSelectNames, CloseButtonCancels) {
-    const TestDrive drive;
-    drive.MakeFile(L"\\old.csv");
-    CsvDlg dlg(CFileSelectDlg::ModeSave, L"");
-    dlg.SetCurrentName(L"seed");
-    dlg.SetSubName(L"csv"); // proposes it
-    fx::ModalScript script;
-    script.Then([&] {
-        dlg.SetDlgItemText(NAME, L"old.csv");
-        fx::TapClose(dlg);
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
-    EXPECT_EQ(dlg.GetFilePath(), L"\\seed.csv");
-}
-
-TEST(FileSelectNames, FolderButtonChangesTheFolderAndKeepsTheName) {
-    const TestDrive drive;
-    drive.MakeFolder(L"\\data");
-    drive.MakeFile(L"\\data\\in.csv");
-    drive.MakeFile(L"\\top.csv");
-    struct Row {
-        const char* what;
-        void (*end)(const CWnd&);
-        const wchar_t* folder;
-        Texts names;
-    };
-    for (const Row& row :
-         {Row{"OK", fx::TapOk, L"\\data", {L"in.csv"}}, Row{"close", fx::TapClose, L"\\", {L"top.csv"}}}) {
-        CsvDlg dlg;
-        fx::ModalScript script;
-        script.Then([&] {
-            dlg.SetDlgItemText(NAME, L"typed");
-            pen::Tap(*dlg.GetDlgItem(FOLDER_BUTTON));
-        });
-        script.Then([] {
-            CWnd* pBrowse = CWnd::GetActiveWindow();
-            auto* pTree = static_cast<CTreeCtrl*>(pBrowse->GetDlgItem(1100));
-            CRect rect;
-            pTree->GetItemRect(pTree->GetChildItem(pTree->GetRootItem()), rect, TRUE);
-            pTree->ClientToScreen(rect);
-            pen::Tap(rect.CenterPoint());
-        });
-        script.Then([&] { row.end(*CWnd::GetActiveWindow()); });
-        script.Then([&] {
-            EXPECT_EQ(CWnd::GetActiveWindow(), &dlg);
-            EXPECT_EQ(Text(dlg, FOLDER), row.folder) << row.what;
-            EXPECT_EQ(Names(dlg), row.names) << row.what;
-            EXPECT_EQ(Text(dlg, NAME), L"typed");
-            fx::TapOk(dlg);
-        });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-        EXPECT_EQ(dlg.GetFileFolder(), row.folder) << row.what;
+    } rows[] = {
+        {0, L"old.csv", L"\\old.csv"}, {0, L"new", L"\\new"}, {1, L"", L""}, {3, L"old.csv", L"\\old.csv"}};
+    for (const auto& row : rows) {
+        Dialog dlg(row.mode);
+        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(row.typed)}));
+        EXPECT_EQ(row.path, dlg.GetFilePath());
     }
 }
 

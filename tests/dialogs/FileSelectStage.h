@@ -3,8 +3,8 @@
 
 #include "dialogs/FileSelectDlg.h"
 
-#include "TestDrive.h"
 #include "support/ModalScript.h"
+#include "support/TestDrive.h"
 #include "support/TitleBar.h"
 
 namespace file_select {
@@ -15,49 +15,56 @@ constexpr int FOLDER_BUTTON = 1153;
 constexpr int FOLDER = 1154;
 constexpr int EXTENSION = 1155;
 
-using fx::WhileOpen;
 using Texts = std::vector<CString>;
 
-/// A dialog for files whose extension is csv.
-class CsvDlg : public CFileSelectDlg {
-public:
-    explicit CsvDlg(int nMode = ModeOpen, LPCTSTR pszFolder = L"\\") : CFileSelectDlg(nullptr) {
-        SetMode(nMode);
-        SetSubName(L"csv");
-        SetFileFolder(pszFolder);
-    }
-};
-
-inline CListCtrl& List(CDialog& dlg) {
-    return *static_cast<CListCtrl*>(dlg.GetDlgItem(LIST));
-}
-
-inline CString Text(CWnd& dlg, int nID) {
+inline CString Text(const CWnd& dlg, int nID) {
     CString str;
     dlg.GetDlgItemText(nID, str);
     return str;
 }
 
-inline Texts Names(CDialog& dlg) {
-    Texts names;
-    for (int i = 0; i < List(dlg).GetItemCount(); ++i)
-        names.push_back(List(dlg).GetItemText(i, 0));
-    return names;
+/// A dialog for files whose extension is csv.
+class Dialog : public CFileSelectDlg {
+public:
+    explicit Dialog(int nMode = ModeOpen, LPCTSTR pszFolder = L"\\") : CFileSelectDlg(nullptr) {
+        SetMode(nMode);
+        SetSubName(L"csv");
+        SetFileFolder(pszFolder);
+    }
+    using CFileSelectDlg::GetSafeName;
+
+    CListCtrl& List() { return *static_cast<CListCtrl*>(GetDlgItem(LIST)); }
+    Texts Names() {
+        Texts names;
+        for (int i = 0; i < List().GetItemCount(); ++i)
+            names.push_back(List().GetItemText(i, 0));
+        return names;
+    }
+    void TapFile(LPCTSTR pszName) {
+        const Texts names = Names();
+        const auto it = std::find(names.begin(), names.end(), pszName);
+        ASSERT_NE(it, names.end()) << fx::Utf8(pszName);
+        CRect rect;
+        List().GetItemRect(static_cast<int>(it - names.begin()), rect, LVIR_LABEL);
+        List().ClientToScreen(rect);
+        pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
+    }
+    /// A step that puts a name into the field and taps OK.
+    fx::Step Enter(LPCTSTR pszName) {
+        return [this, pszName] {
+            SetDlgItemText(NAME, pszName);
+            fx::TapOk(*this);
+        };
+    }
+};
+
+/// A step that taps a button of the message in front.
+inline fx::Step Answer(int nButton) {
+    return [nButton] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nButton)); };
 }
 
-inline Texts Sorted(Texts texts) {
-    std::sort(texts.begin(), texts.end());
-    return texts;
-}
-
-inline void TapFile(CDialog& dlg, LPCTSTR pszName) {
-    const Texts names = Names(dlg);
-    const auto it = std::find(names.begin(), names.end(), pszName);
-    ASSERT_NE(it, names.end()) << fx::Utf8(pszName);
-    CRect rect;
-    List(dlg).GetItemRect(static_cast<int>(it - names.begin()), rect, LVIR_LABEL);
-    List(dlg).ClientToScreen(rect);
-    pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
+inline CString MessageText() {
+    return Text(*CWnd::GetActiveWindow(), 0xFFFF);
 }
 
 } // namespace file_select

@@ -1,7 +1,7 @@
 #include "dialogs/SelMemberDlg.h"
 
-#include "support/Leftovers.h"
 #include "support/ModalScript.h"
+#include "support/TitleBar.h"
 
 #include <map>
 
@@ -76,6 +76,9 @@ public:
         script.Then(last);
         return script.Run([&] { return m_dlg.DoModal(); });
     }
+    INT_PTR Run(const CString& strActions, int nButton) {
+        return Run(strActions, [&] { pen::Tap(*m_dlg.GetDlgItem(nButton)); });
+    }
 
     CSelMemberDlg m_dlg{L"項目", nullptr};
 
@@ -96,121 +99,71 @@ private:
 };
 
 TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
-    struct Row {
-        const char* what;
+    constexpr int ANY = -2;
+    const struct {
         CString strLeft, strRight;
         CString strActions;
         CString strLeftAfter, strRightAfter;
         int leftSelection, rightSelection; ///< -1: none; ANY: the system's affair.
+    } rows[] = {
+        {L"ab", L"xy", L"> < ^ v", L"ab", L"xy", -1, -1}, // nothing selected
+        {L"cab", L"xy", L"L1 >", L"cb", L"xya", -1, -1},
+        {L"ab", L"xyz", L"R1 L0 >", L"b", L"xayz", -1, ANY}, // above the selected one
+        {L"ab", L"x", L"R0 L1 >", L"a", L"bx", -1, ANY},
+        {L"abc", L"", L"L0 > >", L"bc", L"a", -1, -1},  // one selection adds once
+        {L"a*", L"x", L"L1 > >", L"a*", L"x**", 1, -1}, // a blank stays available
+        {L"zb", L"xay", L"R1 <", L"zba", L"xy", -1, -1},
+        {L"a", L"*x*", L"R2 <", L"a", L"*x", -1, -1}, // a removed blank vanishes
+        {L"a", L"xyz", L"R2 ^", L"a", L"xzy", -1, 1},
+        {L"a", L"xyz", L"R1 ^ ^", L"a", L"yxz", -1, 0},
+        {L"a", L"xyz", L"R0 v", L"a", L"yxz", -1, 1},
+        {L"a", L"xyz", L"R1 v v", L"a", L"xzy", -1, 2},
+        {L"abc", L"xyz", L"L1 ^ v <", L"abc", L"xyz", 1, -1}, // the left selection does not move
     };
-    constexpr int ANY = -2;
-    const Row rows[] = {
-        {"nothing selected", L"ab", L"xy", L"> < ^ v", L"ab", L"xy", -1, -1},
-        {"empty lists", L"", L"", L"> < ^ v", L"", L"", -1, -1},
-        {"add at the end", L"cab", L"xy", L"L1 >", L"cb", L"xya", -1, -1},
-        {"add to nothing", L"a", L"", L"L0 >", L"", L"a", -1, -1},
-        {"add above the selected one", L"ab", L"xyz", L"R1 L0 >", L"b", L"xayz", -1, ANY},
-        {"add above the first one", L"ab", L"x", L"R0 L1 >", L"a", L"bx", -1, ANY},
-        {"one selection adds once", L"abc", L"", L"L0 > >", L"bc", L"a", -1, -1},
-        {"a blank stays available", L"a*", L"x", L"L1 > > >", L"a*", L"x***", 1, -1},
-        {"remove to the end", L"zb", L"xay", L"R1 <", L"zba", L"xy", -1, -1},
-        {"a removed blank vanishes", L"a*", L"*x*", L"R2 <", L"a*", L"*x", -1, -1},
-        {"a blank vanishes where none is offered", L"a", L"*", L"R0 <", L"a", L"", -1, -1},
-        {"up", L"a", L"xyz", L"R2 ^", L"a", L"xzy", -1, 1},
-        {"up to the top and no further", L"a", L"xyz", L"R2 ^ ^ ^", L"a", L"zxy", -1, 0},
-        {"down", L"a", L"xyz", L"R0 v", L"a", L"yxz", -1, 1},
-        {"down to the end and no further", L"a", L"xyz", L"R0 v v v", L"a", L"yzx", -1, 2},
-        {"the left selection does not move", L"abc", L"xyz", L"L1 ^ v <", L"abc", L"xyz", 1, -1},
-        {"there and back", L"ab", L"x", L"L0 > R1 <", L"ba", L"x", -1, -1},
-    };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         Members members(row.strLeft, row.strRight);
         members.Run(row.strActions, [&] {
-            EXPECT_EQ(members.InBox(LEFT), row.strLeftAfter) << row.what;
-            EXPECT_EQ(members.InBox(RIGHT), row.strRightAfter) << row.what;
-            EXPECT_EQ(members.Box(LEFT).GetCurSel(), row.leftSelection) << row.what;
+            EXPECT_EQ(row.strLeftAfter, members.InBox(LEFT)) << fx::Utf8(row.strActions);
+            EXPECT_EQ(row.strRightAfter, members.InBox(RIGHT)) << fx::Utf8(row.strActions);
+            EXPECT_EQ(row.leftSelection, members.Box(LEFT).GetCurSel()) << fx::Utf8(row.strActions);
             const int nSelected = members.Box(RIGHT).GetCurSel();
-            EXPECT_EQ(row.rightSelection == ANY ? ANY : nSelected, row.rightSelection) << row.what;
+            EXPECT_EQ(row.rightSelection, row.rightSelection == ANY ? ANY : nSelected)
+                << fx::Utf8(row.strActions);
             members.m_dlg.EndDialog(IDCANCEL);
         });
     }
 }
 
-TEST(SelMemberDlg, OkGivesTheListsBackAsTheyAreShown) {
+TEST(SelMemberDlg, OkGivesTheListsBackAsTheyAreShownAndCancelTheVeryItemsGiven) {
     Members members(L"ab*", L"xy");
-    EXPECT_EQ(members.Run(L"L2 > L0 > R0 v", [&] { pen::Tap(*members.m_dlg.GetDlgItem(IDOK)); }), IDOK);
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listAvailable), L"b*");
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listCurrent), L"yx*a");
-    EXPECT_EQ(members.Run(L"R3 <", [&] { pen::Tap(*members.m_dlg.GetDlgItem(IDOK)); }), IDOK);
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listAvailable), L"b*a");
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listCurrent), L"yx*");
-}
-
-TEST(SelMemberDlg, CancelLeavesTheVeryItemsGiven) {
-    Members members(L"ab", L"xy");
     const void* const pFirst = members.m_dlg.m_listAvailable.GetHead();
     const void* const pLast = members.m_dlg.m_listCurrent.GetTail();
-    EXPECT_EQ(members.Run(L"L0 > R0 v", [&] { pen::Tap(*members.m_dlg.GetDlgItem(IDCANCEL)); }), IDCANCEL);
-    EXPECT_EQ(members.m_dlg.m_listAvailable.GetHead(), pFirst);
-    EXPECT_EQ(members.m_dlg.m_listCurrent.GetTail(), pLast);
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listAvailable), L"ab");
-    EXPECT_EQ(Members::InList(members.m_dlg.m_listCurrent), L"xy");
+    EXPECT_EQ(IDCANCEL, members.Run(L"L0 > R0 v", IDCANCEL));
+    EXPECT_EQ(pFirst, members.m_dlg.m_listAvailable.GetHead());
+    EXPECT_EQ(pLast, members.m_dlg.m_listCurrent.GetTail());
+    EXPECT_EQ(L"ab*", Members::InList(members.m_dlg.m_listAvailable));
+    EXPECT_EQ(L"xy", Members::InList(members.m_dlg.m_listCurrent));
+    EXPECT_EQ(IDOK, members.Run(L"L2 > L0 > R0 v", IDOK));
+    EXPECT_EQ(L"b*", Members::InList(members.m_dlg.m_listAvailable));
+    EXPECT_EQ(L"yx*a", Members::InList(members.m_dlg.m_listCurrent));
+    EXPECT_EQ(IDOK, members.Run(L"R3 <", IDOK));
+    EXPECT_EQ(L"b*a", Members::InList(members.m_dlg.m_listAvailable));
 }
 
-/// The label with that text; the labels share one id.
-CWnd* Label(CWnd& dlg, const CString& strText) {
-    for (CWnd* p = dlg.GetWindow(GW_CHILD); p != nullptr; p = p->GetWindow(GW_HWNDNEXT)) {
-        if (fx::TextOf(*p) == strText)
-            return p;
-    }
-    return nullptr;
-}
-
-TEST(SelMemberDlg, LabelsHoldTheirTexts) {
-    Members members(L"", L"");
-    members.Run(L"", [&] {
-        for (const wchar_t* pszText : {L"追加可能要素", L"現在の設定"}) {
-            CWnd* const pLabel = Label(members.m_dlg, pszText);
-            ASSERT_NE(pLabel, nullptr);
-            const CRect rect = fx::RectOf(*pLabel);
-            CClientDC dc(pLabel);
-            dc.SelectObject(pLabel->GetFont());
-            const CSize size = dc.GetTextExtent(pszText);
-            EXPECT_LE(size.cx, rect.Width());
-            EXPECT_LE(size.cy, rect.Height());
-        }
-        members.m_dlg.EndDialog(IDCANCEL);
-    });
-}
-
-TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplate) {
-    CSelMemberDlg dlg(L"", nullptr);
-    fx::WhileOpen(dlg, [&] {
-        CRect units(0, 0, 134, 99);
-        dlg.MapDialogRect(units);
-        CRect client;
-        dlg.GetClientRect(client);
-        EXPECT_EQ(client, units);
-        const CRect window = fx::RectOf(dlg);
-        EXPECT_GE(window.left, 0);
-        EXPECT_LE(window.right, ::GetSystemMetrics(SM_CXSCREEN));
-    });
-}
-
-TEST(SelMemberDlg, TheCaptionIsTheTitleEvenAnEmptyOne) {
+TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplateUnderAnyTitle) {
     for (const CString& strTitle : {CString(L"出力する項目"), CString()}) {
         CSelMemberDlg dlg(strTitle, nullptr);
-        fx::WhileOpen(dlg, [&] { EXPECT_EQ(fx::TextOf(dlg), strTitle); });
+        fx::WhileOpen(dlg, [&] {
+            CRect units(0, 0, 134, 99);
+            dlg.MapDialogRect(units);
+            CRect client;
+            dlg.GetClientRect(client);
+            EXPECT_EQ(units, client);
+            EXPECT_GE(fx::RectOf(dlg).left, 0);
+            EXPECT_LE(fx::RectOf(dlg).right, fx::Screen().right);
+            EXPECT_EQ(strTitle, fx::TextOf(dlg));
+        });
     }
-}
-
-TEST(SelMemberDlg, TwoHundredOpensLeaveNothing) {
-    int nOpen = 0;
-    fx::ExpectNothingLeft([&] {
-        Members members(L"abc*", L"xyz");
-        const WPARAM nButton = nOpen++ % 2 == 0 ? IDOK : IDCANCEL;
-        members.Run(L"", [&] { members.m_dlg.PostMessage(WM_COMMAND, nButton); });
-    });
 }
 
 } // namespace

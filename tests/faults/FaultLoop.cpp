@@ -49,20 +49,20 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* pInfo) {
     }
 }
 
-/// Ends the process when it crashes, aborts or takes too long for one run.
-void WatchOver() {
+void GiveTime() {
     constexpr DWORD PATIENCE = 8000;
     g_nDeadline = ::GetTickCount64() + PATIENCE;
+}
+
+/// Ends the process when it crashes, aborts or takes too long for one run.
+void WatchOver() {
+    GiveTime();
     ::AddVectoredExceptionHandler(1, OnException);
     std::signal(SIGABRT, [](int) { EndProcess("abort"); });
-    static int nWatched = -1;
     std::thread([] {
-        for (;; ::Sleep(100)) {
-            if (g_nRunning != std::exchange(nWatched, g_nRunning))
-                g_nDeadline = ::GetTickCount64() + PATIENCE;
+        for (;; ::Sleep(100))
             if (::GetTickCount64() > g_nDeadline)
                 EndProcess("hang");
-        }
     }).detach();
 }
 
@@ -79,6 +79,9 @@ public:
     Loop& operator=(const Loop&) = delete;
 
     int Calls() const { return m_nCalls; }
+
+    /// Nothing is to stay even when nothing fails.
+    void TryWithoutFailure() { Confirm(0); }
 
     /// @return false if the scenario has no call nFailing
     bool Try(int nFailing) {
@@ -128,6 +131,7 @@ private:
 
     /// @return the number of calls that can fail
     int Run(int nFailing) {
+        GiveTime();
         Injection injection(nFailing);
         g_pInjection = &injection;
         bool bDone = false;
@@ -173,6 +177,7 @@ void RunLoop(const Scenario& scenario, LoopRange range) {
     WatchOver();
     Loop loop(scenario);
     const int nStride = range.nStride > 0 ? range.nStride : 1 + loop.Calls() / RUNS_IN_SUITE;
+    loop.TryWithoutFailure();
     int n = range.nFirst;
     while (loop.Try(n))
         n += nStride;

@@ -13,7 +13,7 @@ struct LoopRange {
 
 /// A process that crashes or hangs at call n ends with ENDED + n.
 constexpr DWORD ENDED = 0x20000000;
-constexpr int RUNS_IN_SUITE = 60;
+constexpr int RUNS_IN_SUITE = 40;
 
 /// Runs a scenario with call nFirst failing, with the next one, and so on, until it comes to its
 /// end without a failure. Each time everything must be released, and a run without a failure must

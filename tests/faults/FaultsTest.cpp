@@ -1,7 +1,7 @@
 // Each call into the system fails once: nothing may crash, hang, be lost or be left behind.
 #include "FaultLoop.h"
 #include "FaultTable.h"
-#include "dialogs/TestDrive.h"
+#include "support/TestDrive.h"
 
 #include <algorithm>
 #include <cstdlib>

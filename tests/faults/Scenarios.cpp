@@ -1,18 +1,10 @@
 #include "Scenarios.h"
 
 #include "DialogCloser.h"
-#include "support/DialogTemplate.h"
+#include "support/AllControls.h"
 
-#include "companion/Tesuvo.h"
-#include "controls/IconButton.h"
-#include "controls/InfoStatic.h"
-#include "controls/SelectListCtrl.h"
-#include "controls/nComboBox.h"
-#include "controls/nListBox.h"
 #include "controls/nPropertyPage.h"
 #include "controls/nPropertySheet.h"
-#include "controls/nSpinButtonCtrl.h"
-#include "controls/nTreeCtrl.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ButtonMenuDlg.h"
 #include "dialogs/FileSelectDlg.h"
@@ -20,7 +12,6 @@
 #include "dialogs/ResMsgBox.h"
 #include "dialogs/ResultDlg.h"
 #include "dialogs/SelMemberDlg.h"
-#include "survey/AngleEdit.h"
 #include "util/AsciiFile.h"
 #include "util/StringStack.h"
 
@@ -32,13 +23,18 @@ namespace {
 
 constexpr int ICON = 39; ///< One of the companion's.
 
-/// Opens a dialog, uses it and cancels it. @return whether all this worked
-bool Open(CDialog& dialog, const DialogCloser::Use& use = {}) {
+/// Opens a dialog and uses it; if the use does not end it with nEnd, it is cancelled.
+/// @return whether all this worked
+bool Open(CDialog& dialog, const DialogCloser::Use& use = {}, INT_PTR nEnd = IDCANCEL) {
     const DialogCloser closer(use);
     const INT_PTR nResult = dialog.DoModal();
-    EXPECT_TRUE(nResult == IDCANCEL || nResult == -1) << nResult;
+    EXPECT_TRUE(nResult == nEnd || nResult == IDCANCEL || nResult == -1) << nResult;
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-    return nResult == IDCANCEL && closer.WasUsed();
+    return nResult == nEnd && closer.WasUsed();
+}
+
+void PressOk(CWnd& dialog) {
+    dialog.PostMessage(WM_COMMAND, IDOK);
 }
 
 // --- Ready-made dialogs -----------------------------------------------------------------------
@@ -54,7 +50,8 @@ bool SelectFile(CWnd& owner) {
 
 bool BrowseFolder(CWnd& owner) {
     CBrowseFolderDlg dlg(L"\\faults", &owner);
-    return Open(dlg);
+    const auto abort = [&](CWnd&) { dlg.EndDialog(IDABORT); }; // as an application that ends
+    return Open(dlg) && Open(dlg, PressOk, IDOK) && Open(dlg, abort, IDABORT);
 }
 
 bool SelectMembers(CWnd& owner) {
@@ -73,7 +70,7 @@ bool SelectMembers(CWnd& owner) {
             pList->AddTail(pItem.get());
             (void)pItem.release();
         }
-    return Open(dlg);
+    return Open(dlg) && Open(dlg, PressOk, IDOK);
 }
 
 bool OpenMenu(CWnd& owner) {
@@ -81,7 +78,8 @@ bool OpenMenu(CWnd& owner) {
     for (const UINT nID : {1513U, 1514U, 1515U})
         ids.Add(nID);
     CButtonMenuDlg dlg(1503, &ids, &owner);
-    return Open(dlg);
+    const auto choose = [&](CWnd&) { dlg.PostMessage(WM_COMMAND, 5101); };
+    return Open(dlg) && Open(dlg, choose, IDOK);
 }
 
 bool Ask(CWnd& owner) {
@@ -106,60 +104,10 @@ bool ShowMessage(CWnd&) {
 
 // --- Dialogs of the application -----------------------------------------------------------------
 
-/// A dialog with one of each control.
-class ControlsDlg : public CnDialog {
-public:
-    ControlsDlg(CWnd& owner, bool bFullScreen) : CnDialog(0, &owner), m_template(120, 120) {
-        for (int nID = 1; nID <= 10; ++nID)
-            m_template.Add(CLASSES[nID - 1], L"text", nID, WS_TABSTOP | (nID == 8 ? BS_OWNERDRAW : 0), 2,
-                           static_cast<short>(nID * 11), 80, 10);
-        InitModalIndirect(m_template.Get(), &owner);
-        if (!bFullScreen)
-            SetOption(OptionPopup);
-    }
-
-protected:
-    BOOL OnInitDialog() override {
-        CnDialog::OnInitDialog();
-        m_edit.Attach(1, this, SipOptionMode0);
-        m_angle.Attach(2, this, CAngleEdit::WHOLE_SECONDS, SipOptionMode1);
-        m_combo.Attach(3, this, SipOptionMode2);
-        m_listBox.SubclassDlgItem(4, this);
-        m_selectList.SubclassDlgItem(5, this);
-        m_tree.SubclassDlgItem(6, this);
-        m_spin.SubclassDlgItem(7, this);
-        m_button.Attach(8, this, TVGetCommonIcon(ICON), 7);
-        m_info.SubclassDlgItem(9, this);
-        m_list.SubclassDlgItem(10, this);
-        m_info.SetOption(CInfoStatic::OptionIcon);
-        m_angle.SetAngle(1.0);
-        m_selectList.InsertItem(0, L"P1");
-        m_list.InsertItem(0, L"P1");
-        m_tree.InsertItem(L"P1");
-        return TRUE;
-    }
-
-private:
-    static constexpr LPCTSTR CLASSES[] = {WC_EDIT,     WC_EDIT,      WC_COMBOBOX, WC_LISTBOX, WC_LISTVIEW,
-                                          WC_TREEVIEW, UPDOWN_CLASS, WC_BUTTON,   WC_STATIC,  WC_LISTVIEW};
-
-    fx::DialogTemplate m_template;
-    CnEdit m_edit;
-    CAngleEdit m_angle;
-    CnComboBox m_combo;
-    CnListBox m_listBox;
-    CSelectListCtrl m_selectList;
-    CnTreeCtrl m_tree;
-    CnSpinButtonCtrl m_spin;
-    CIconButton m_button;
-    CInfoStatic m_info;
-    CnListCtrl m_list;
-};
-
-bool OpenControls(CWnd& owner, bool bFullScreen) {
-    ControlsDlg dlg(owner, bFullScreen);
+bool OpenControls(CWnd& owner, bool bPopup) {
+    fx::AllControls dlg(&owner, bPopup);
     return Open(dlg, [&dlg](CWnd&) {
-        for (int nID = 1; nID <= 10; ++nID)
+        for (int nID = fx::AllControls::FIRST; nID <= fx::AllControls::LAST; ++nID)
             if (CWnd* const pControl = dlg.GetDlgItem(nID))
                 dlg.GotoDlgCtrl(pControl);
     });
@@ -361,8 +309,8 @@ const std::vector<Scenario>& Scenarios() {
         {"Input", Ask},
         {"Result", ShowResult},
         {"Message", ShowMessage},
-        {"FullScreen", [](CWnd& owner) { return OpenControls(owner, true); }},
-        {"Popup", [](CWnd& owner) { return OpenControls(owner, false); }},
+        {"FullScreen", [](CWnd& owner) { return OpenControls(owner, false); }},
+        {"Popup", [](CWnd& owner) { return OpenControls(owner, true); }},
         {"Sheet", OpenSheet, 700}, // Wine's record of a sheet whose window was refused
         {"Panel", UsePanel},
         {"ImageLists", UseImageLists},

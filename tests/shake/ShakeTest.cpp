@@ -4,20 +4,12 @@
 // SHAKE_EVENTS, SHAKE_SEED: see tools/shake.sh.
 #include "Shake.h"
 
-#include "support/DialogTemplate.h"
+#include "support/AllControls.h"
+#include "support/TestDrive.h"
 
-#include "../dialogs/TestDrive.h"
 #include "afxdlgs.h"
-#include "controls/IconButton.h"
-#include "controls/InfoStatic.h"
-#include "controls/SelectListCtrl.h"
-#include "controls/nComboBox.h"
-#include "controls/nDialog.h"
-#include "controls/nListBox.h"
 #include "controls/nPropertyPage.h"
 #include "controls/nPropertySheet.h"
-#include "controls/nSpinButtonCtrl.h"
-#include "controls/nTreeCtrl.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ButtonMenuDlg.h"
 #include "dialogs/FileSelectDlg.h"
@@ -25,9 +17,6 @@
 #include "dialogs/ResMsgBox.h"
 #include "dialogs/ResultDlg.h"
 #include "dialogs/SelMemberDlg.h"
-#include "survey/AngleEdit.h"
-
-#include <Tesuvo.h>
 
 namespace {
 
@@ -48,69 +37,6 @@ public:
 
 private:
     TestDrive m_drive;
-};
-
-/// A dialog with one of each control.
-class Controls : public CnDialog {
-public:
-    Controls(CWnd* pParentWnd, bool bPopup) : CnDialog(0, pParentWnd), m_template(120, 120) {
-        Add(WC_EDIT, 11);
-        Add(WC_EDIT, 12);
-        Add(WC_COMBOBOX, 13, CBS_DROPDOWN);
-        Add(WC_LISTBOX, 14);
-        Add(WC_LISTVIEW, 15, LVS_REPORT);
-        Add(WC_TREEVIEW, 16, TVS_HASBUTTONS | TVS_EDITLABELS);
-        Add(UPDOWN_CLASS, 17);
-        Add(WC_BUTTON, 18, BS_OWNERDRAW);
-        Add(WC_STATIC, 19);
-        Add(WC_LISTVIEW, 20);
-        InitModalIndirect(m_template.Get(), pParentWnd);
-        SetOption(OptionOkButton | OptionBarButtonSize | (bPopup ? OptionPopup | OptionDrag : 0));
-    }
-
-protected:
-    BOOL OnInitDialog() override {
-        CnDialog::OnInitDialog();
-        m_edit.Attach(11, this, SipOptionMode0);
-        m_angle.Attach(12, this, CAngleEdit::WHOLE_SECONDS, SipOptionMode1);
-        m_combo.Attach(13, this, SipOptionMode2);
-        m_listBox.SubclassDlgItem(14, this);
-        m_selectList.SubclassDlgItem(15, this);
-        m_tree.SubclassDlgItem(16, this);
-        m_spin.SubclassDlgItem(17, this);
-        m_button.Attach(18, this, ::LoadIcon(nullptr, IDI_INFORMATION), 7);
-        m_info.SubclassDlgItem(19, this);
-        m_list.SubclassDlgItem(20, this);
-        m_info.SetOption(CInfoStatic::OptionIcon);
-        m_angle.SetAngle(1.0);
-        m_spin.SetBuddy(&m_edit);
-        for (const wchar_t* psz : {L"P1", L"P2", L"P3"}) {
-            m_combo.AddString(psz);
-            m_listBox.AddString(psz);
-            m_selectList.InsertItem(0, psz);
-            m_list.InsertItem(0, psz);
-            m_tree.InsertItem(psz, m_tree.InsertItem(psz));
-        }
-        return TRUE;
-    }
-
-private:
-    void Add(LPCTSTR pszClass, int nID, DWORD dwStyle = 0) {
-        m_template.Add(pszClass, L"&text", nID, dwStyle | WS_TABSTOP, 2, static_cast<short>(nID * 11 - 110),
-                       80, 10);
-    }
-
-    fx::DialogTemplate m_template;
-    CnEdit m_edit;
-    CAngleEdit m_angle;
-    CnComboBox m_combo;
-    CnListBox m_listBox;
-    CSelectListCtrl m_selectList;
-    CnTreeCtrl m_tree;
-    CnSpinButtonCtrl m_spin;
-    CIconButton m_button;
-    CInfoStatic m_info;
-    CnListCtrl m_list;
 };
 
 template <class SheetClass, class PageClass, int COUNT>
@@ -189,11 +115,11 @@ TEST(Shake, MessageBoxes) {
 }
 
 TEST(Shake, ControlsFullScreen) {
-    Shake([](CWnd* pOwner) { Controls(pOwner, false).DoModal(); });
+    Shake([](CWnd* pOwner) { fx::AllControls(pOwner, false).DoModal(); });
 }
 
 TEST(Shake, ControlsPopup) {
-    Shake([](CWnd* pOwner) { Controls(pOwner, true).DoModal(); });
+    Shake([](CWnd* pOwner) { fx::AllControls(pOwner, true).DoModal(); });
 }
 
 TEST(Shake, SheetOfTwo) {

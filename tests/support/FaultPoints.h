@@ -8,6 +8,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace fault {
@@ -135,6 +136,15 @@ inline std::vector<Import> ImportsOf(HMODULE hModule) {
     return imports;
 }
 
+/// Has another function called. @return the one before
+inline void* SetImport(const Import& import, void* pFunction) {
+    DWORD dwOld = 0;
+    ::VirtualProtect(import.ppFunction, sizeof(void*), PAGE_READWRITE, &dwOld);
+    void* const pBefore = std::exchange(*import.ppFunction, pFunction);
+    ::VirtualProtect(import.ppFunction, sizeof(void*), dwOld, &dwOld);
+    return pBefore;
+}
+
 /// Points a module's imports at the stand-ins. This holds until the process ends.
 inline void Install(HMODULE hModule, const std::vector<Point>& points) {
     std::map<std::string, Point> byName;
@@ -145,10 +155,7 @@ inline void Install(HMODULE hModule, const std::vector<Point>& points) {
         if (found == byName.end() || *import.ppFunction == found->second.pStandIn)
             continue;
         *found->second.ppReal = *import.ppFunction;
-        DWORD dwOld = 0;
-        ::VirtualProtect(import.ppFunction, sizeof(void*), PAGE_READWRITE, &dwOld);
-        *import.ppFunction = found->second.pStandIn;
-        ::VirtualProtect(import.ppFunction, sizeof(void*), dwOld, &dwOld);
+        SetImport(import, found->second.pStandIn);
     }
 }
 

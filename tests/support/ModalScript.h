@@ -6,6 +6,8 @@
 #include "PenInput.h"
 
 #include <functional>
+#include <initializer_list>
+#include <type_traits>
 #include <vector>
 
 namespace fx {
@@ -106,15 +108,38 @@ private:
     int m_nTicks = 0; ///< Waited for a window to be ready.
 };
 
+/// A step of a script; one that tells something is repeated until it tells true.
+struct Step {
+    template <class Run>
+    Step(Run step) { // NOLINT(google-explicit-constructor): for lists of lambdas
+        if constexpr (std::is_void_v<decltype(step())>)
+            run = [step] { return step(), true; };
+        else
+            run = step;
+    }
+    ModalScript::Condition run;
+};
+
+/// Runs a dialog, a sheet or a function that opens one with a script. @return its result
+template <class Modal>
+INT_PTR Play(Modal&& modal, std::initializer_list<Step> steps) {
+    ModalScript script;
+    for (const Step& step : steps)
+        script.Until(step.run);
+    if constexpr (std::is_invocable_v<Modal>)
+        return script.Run(modal);
+    else
+        return script.Run([&] { return modal.DoModal(); });
+}
+
 /// Runs a look at an open modal dialog or sheet, then cancels it.
 template <class Dialog, class Look>
-void WhileOpen(Dialog& dialog, Look look) {
-    ModalScript script;
-    script.Then([&] {
+void WhileOpen(Dialog&& dialog, Look look) {
+    const auto lookAndEnd = [&] {
         look();
         dialog.EndDialog(IDCANCEL);
-    });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDCANCEL);
+    };
+    EXPECT_EQ(IDCANCEL, Play(dialog, {lookAndEnd}));
 }
 
 } // namespace fx

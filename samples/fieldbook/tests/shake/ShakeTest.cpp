@@ -16,7 +16,7 @@
 #include "Resource.h"
 #include "SettingsSheet.h"
 #include "Tesuvo.h"
-#include "dialogs/TestDrive.h"
+#include "support/TestDrive.h"
 
 namespace {
 

@@ -1,37 +1,33 @@
-// A drive of the test's own, for dialogs that begin at the root of the current drive.
+// A drive of the tests' own, for dialogs that begin at the root of the current drive.
 #pragma once
 
 #include <afx.h>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
-/// An empty drive that is the current one while the object exists. Then everything on it is
-/// deleted and the current folder is as before.
+/// An empty drive that is the current one while the object exists; there is one at a time. Then
+/// everything on it is deleted and the current folder is as before. The drive itself stays for the
+/// next test: making one takes as long as the rest of a test.
 class TestDrive {
+    struct Drive;
+
 public:
     TestDrive() {
         ::GetCurrentDirectory(MAX_PATH, m_szPrevious);
-        wchar_t szTemp[MAX_PATH];
-        ::GetTempPath(MAX_PATH, szTemp);
-        static int s_nDrives = 0;
-        m_strFolder.Format(L"%sfk%u-%d", szTemp, ::GetCurrentProcessId(), ++s_nDrives);
-        ::CreateDirectory(m_strFolder, nullptr);
-        m_strLetter = FreeLetter();
-        if (!::DefineDosDevice(0, m_strLetter, m_strFolder) || !::SetCurrentDirectory(Root()))
-            DefineUnderWine();
+        if (s_pDrive == nullptr)
+            s_pDrive = std::make_unique<Drive>();
+        m_strLetter = s_pDrive->strLetter;
         Check(::SetCurrentDirectory(Root()), "no drive to test on");
     }
     ~TestDrive() {
         ::SetCurrentDirectory(m_szPrevious);
-        const auto isGone = [this] { return ::GetFileAttributes(m_strFolder) == INVALID_FILE_ATTRIBUTES; };
-        if (m_unixLink.empty()) {
-            DeleteTree(m_strFolder);
-            ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
-        } else {
-            RunUnix("rm -rf '" + m_unixLink + "' '" + UnixName(m_strFolder) + "'", isGone);
-        }
+        if (m_bRemoved)
+            s_pDrive.reset();
+        else
+            s_pDrive->Clear(m_bByUnix);
     }
     TestDrive(const TestDrive&) = delete;
     TestDrive& operator=(const TestDrive&) = delete;
@@ -55,19 +51,20 @@ public:
     enum Kind { Files, Folders };
     /// Thousands of empty files or folders. Wine reads a folder for each file that it makes there.
     /// @param pszFormat name for a double from 0 to nCount - 1
-    void MakeMany(Kind kind, const CString& strFolder, const char* pszFormat, int nCount) const {
+    void MakeMany(Kind kind, const CString& strFolder, const char* pszFormat, int nCount) {
         const auto path = [&](int i) {
             CString str;
             str.Format(strFolder + L"\\" + CString(pszFormat), static_cast<double>(i));
             return str;
         };
-        if (m_unixLink.empty()) {
+        if (s_pDrive->unixLink.empty()) {
             for (int i = 0; i < nCount; ++i)
                 kind == Files ? MakeFile(path(i)) : MakeFolder(path(i));
             return;
         }
         const CString strLast = Long(path(nCount - 1));
         const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
+        m_bByUnix = true;
         RunUnix("cd '" + UnixName(strFolder + L"\\") + "' && seq -f '" + pszFormat + "' 0 " +
                     std::to_string(nCount - 1) + " | xargs -d '\\n' " + (kind == Files ? "touch" : "mkdir"),
                 isThere);
@@ -75,36 +72,39 @@ public:
     }
     /// Empty files whose names this system would not make, as a server may have them. The last one
     /// is an ordinary name. @return false if no other system is there to make them
-    bool MakeForeignFiles(const CString& strFolder, std::initializer_list<const char*> names) const {
-        if (m_unixLink.empty())
+    bool MakeForeignFiles(const CString& strFolder, std::initializer_list<const char*> names) {
+        if (s_pDrive->unixLink.empty())
             return false;
         std::string command = "cd '" + UnixName(strFolder + L"\\") + "' && touch";
         for (const char* pszName : names)
             command += std::string(" '") + pszName + "'";
         const CString strLast = Long(strFolder + L"\\" + CString(std::data(names)[names.size() - 1]));
         const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
+        m_bByUnix = true;
         RunUnix(command, isThere);
         Check(isThere(), "cannot make foreign files");
         return true;
     }
     /// A link to a folder. @return false if this user may not make links
-    bool MakeLink(const CString& strPath, const CString& strTarget) const {
-        if (m_unixLink.empty())
+    bool MakeLink(const CString& strPath, const CString& strTarget) {
+        if (s_pDrive->unixLink.empty())
             return ::CreateSymbolicLink(Long(strPath), Root() + strTarget.Mid(1),
                                         SYMBOLIC_LINK_FLAG_DIRECTORY |
                                             SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE) != 0;
+        m_bByUnix = true;
         RunUnix("ln -s '" + UnixName(strTarget) + "' '" + UnixName(strPath) + "'",
                 [&] { return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES; });
         return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES;
     }
 
     /// Takes the drive away, as a card that is pulled out. What is on it stays until the end.
-    void Remove() const {
+    void Remove() {
         const auto isGone = [this] { return ::GetFileAttributes(Root()) == INVALID_FILE_ATTRIBUTES; };
-        if (m_unixLink.empty())
+        if (s_pDrive->unixLink.empty())
             ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
         else
-            RunUnix("rm '" + m_unixLink + "'", isGone);
+            RunUnix("rm '" + s_pDrive->unixLink + "'", isGone);
+        m_bRemoved = true;
         Check(isGone(), "the drive is still there");
     }
 
@@ -114,13 +114,6 @@ private:
     static void Check(bool bGood, const char* pszWhat) {
         if (!bGood)
             throw std::runtime_error(pszWhat);
-    }
-
-    static CString FreeLetter() {
-        wchar_t chLetter = L'Y';
-        while (chLetter > L'D' && (::GetLogicalDrives() & 1U << (chLetter - L'A')) != 0)
-            --chLetter;
-        return CString(chLetter) + L":";
     }
 
     static void DeleteTree(const CString& strFolder) {
@@ -166,17 +159,60 @@ private:
             ::Sleep(20);
     }
 
-    void DefineUnderWine() {
-        ::DefineDosDevice(DDD_REMOVE_DEFINITION, m_strLetter, nullptr);
-        const std::string folder = UnixName(m_strFolder);
-        m_unixLink = folder.substr(0, folder.find("/c:") + 1);
-        m_unixLink += {static_cast<char>(m_strLetter[0] - L'A' + 'a'), ':'};
-        RunUnix("ln -s '" + folder + "' '" + m_unixLink + "'",
-                [this] { return ::GetFileAttributes(Root()) != INVALID_FILE_ATTRIBUTES; });
-    }
+    struct Drive {
+        Drive() : strLetter(FreeLetter()) {
+            wchar_t szTemp[MAX_PATH];
+            ::GetTempPath(MAX_PATH, szTemp);
+            static int s_nDrives = 0;
+            strFolder.Format(L"%sfk%u-%d", szTemp, ::GetCurrentProcessId(), ++s_nDrives);
+            ::CreateDirectory(strFolder, nullptr);
+            if (!::DefineDosDevice(0, strLetter, strFolder) ||
+                ::GetFileAttributes(strLetter + L"\\") == INVALID_FILE_ATTRIBUTES)
+                DefineUnderWine();
+        }
+        ~Drive() {
+            if (unixLink.empty()) {
+                DeleteTree(strFolder);
+                ::DefineDosDevice(DDD_REMOVE_DEFINITION, strLetter, nullptr);
+            } else {
+                RunUnix("rm -rf '" + unixLink + "' '" + UnixName(strFolder) + "'",
+                        [this] { return ::GetFileAttributes(strFolder) == INVALID_FILE_ATTRIBUTES; });
+            }
+        }
+        Drive(const Drive&) = delete;
+        Drive& operator=(const Drive&) = delete;
+
+        void Clear(bool bByUnix) const {
+            const auto isThere = [this] { return ::GetFileAttributes(strFolder) != INVALID_FILE_ATTRIBUTES; };
+            if (bByUnix)
+                RunUnix("rm -rf '" + UnixName(strFolder) + "'", [=] { return !isThere(); });
+            else
+                DeleteTree(strFolder);
+            ::CreateDirectory(strFolder, nullptr);
+        }
+        void DefineUnderWine() {
+            ::DefineDosDevice(DDD_REMOVE_DEFINITION, strLetter, nullptr);
+            const std::string folder = UnixName(strFolder);
+            unixLink = folder.substr(0, folder.find("/c:") + 1);
+            unixLink += {static_cast<char>(strLetter[0] - L'A' + 'a'), ':'};
+            RunUnix("ln -s '" + folder + "' '" + unixLink + "'",
+                    [this] { return ::GetFileAttributes(strLetter + L"\\") != INVALID_FILE_ATTRIBUTES; });
+        }
+        static CString FreeLetter() {
+            wchar_t chLetter = L'Y';
+            while (chLetter > L'D' && (::GetLogicalDrives() & 1U << (chLetter - L'A')) != 0)
+                --chLetter;
+            return CString(chLetter) + L":";
+        }
+
+        CString strFolder;
+        CString strLetter;
+        std::string unixLink; ///< Under Wine: the link that is the drive.
+    };
+    static inline std::unique_ptr<Drive> s_pDrive;
 
     wchar_t m_szPrevious[MAX_PATH];
-    CString m_strFolder;
     CString m_strLetter;
-    std::string m_unixLink; ///< Under Wine: the link that is the drive.
+    bool m_bByUnix = false; ///< There may be more than this system can delete, or too much.
+    bool m_bRemoved = false;
 };

@@ -1,0 +1,95 @@
+// The dialogs that ask for a line and that show some.
+#include "dialogs/InputDlg.h"
+#include "dialogs/ResultDlg.h"
+
+#include "support/ModalScript.h"
+
+namespace {
+
+using fx::WhileOpen;
+
+constexpr int INPUT_MESSAGE = 1065;
+constexpr int VALUE = 1066;
+constexpr int LINES = 1077;
+constexpr int RESULT_MESSAGE = 1078;
+constexpr int IDS_ERROR_CAPTION = 1500; // any text of the library serves as message or caption
+constexpr int IDS_SIZE_HEADING = 1512;
+
+CString Text(CWnd& dlg, int nID) {
+    CString str;
+    dlg.GetDlgItemText(nID, str);
+    return str;
+}
+
+TEST(InputDlg, TextsComeAsStringsOrFromResources) {
+    CInputDlg bothIds(IDS_ERROR_CAPTION, IDS_SIZE_HEADING, nullptr);
+    CInputDlg messageId(IDS_ERROR_CAPTION, L"題", nullptr);
+    CInputDlg captionId(L"文", IDS_SIZE_HEADING, nullptr);
+    CInputDlg noId(L"文", L"題", nullptr);
+    const struct {
+        CInputDlg& dlg;
+        const wchar_t* message;
+        const wchar_t* caption;
+    } rows[] = {{bothIds, L"エラー", L"サイズ"},
+                {messageId, L"エラー", L"題"},
+                {captionId, L"文", L"サイズ"},
+                {noId, L"文", L"題"}};
+    for (const auto& row : rows)
+        WhileOpen(row.dlg, [&] {
+            EXPECT_EQ(row.caption, fx::TextOf(row.dlg));
+            EXPECT_EQ(row.message, Text(row.dlg, INPUT_MESSAGE));
+        });
+}
+
+TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {
+    fx::Frame owner(CSize(100, 200));
+    const struct {
+        int button;
+        CString before, after;
+    } rows[] = {{IDOK, L"abc", L"abc79"},
+                {IDCANCEL, L"abc", L"abc"},
+                {IDOK, CString(L'x', 200), CString(L'x', 200) + L"79"}};
+    for (const auto& row : rows) {
+        CInputDlg dlg(L"文", L"題", &owner);
+        dlg.SetString(row.before);
+        const auto look = [&] {
+            EXPECT_EQ(row.before, Text(dlg, VALUE));
+            EXPECT_EQ(dlg.GetDlgItem(VALUE), CWnd::GetFocus());
+            EXPECT_NEAR(fx::RectOf(owner).CenterPoint().y, fx::RectOf(dlg).CenterPoint().y, 1);
+            EXPECT_GE(fx::RectOf(dlg).left, 0) << "not beyond the screen";
+        };
+        const auto type = [] { pen::TypeKeys({'7', '9'}); }; // behind the text, nothing is selected
+        const auto tap = [&] { pen::Tap(*dlg.GetDlgItem(row.button)); };
+        EXPECT_EQ(row.button, fx::Play(dlg, {look, type, tap}));
+        EXPECT_EQ(row.after, dlg.GetString());
+    }
+}
+
+TEST(ResultDlg, ShowsItsTextsAndItsLinesInTheOrderGiven) {
+    const std::vector<CString> lines = {L"Z 最後", L"A 最初", L"", L"A 最初"};
+    CResultDlg popup(L"交点が見つかりました", L"計算", nullptr);
+    CResultDlg full(IDS_SIZE_HEADING, IDS_ERROR_CAPTION, nullptr); // ids make a full-screen dialog
+    const struct {
+        CResultDlg& dlg;
+        BOOL bFullScreen;
+        const wchar_t* message;
+        const wchar_t* caption;
+    } rows[] = {{popup, FALSE, L"交点が見つかりました", L"計算"}, {full, TRUE, L"サイズ", L"エラー"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.bFullScreen, row.dlg.m_bFullScreen);
+        for (const CString& line : lines)
+            row.dlg.AddString(line);
+        for (int nRun = 0; nRun < 2; ++nRun) // the same object may be shown again
+            WhileOpen(row.dlg, [&] {
+                auto* pList = static_cast<CListBox*>(row.dlg.GetDlgItem(LINES));
+                std::vector<CString> shown(static_cast<size_t>(pList->GetCount()));
+                for (size_t i = 0; i < shown.size(); ++i)
+                    pList->GetText(static_cast<int>(i), shown[i]);
+                EXPECT_EQ(lines, shown);
+                EXPECT_EQ(row.message, Text(row.dlg, RESULT_MESSAGE));
+                EXPECT_EQ(row.caption, fx::TextOf(row.dlg));
+            });
+    }
+}
+
+} // namespace
