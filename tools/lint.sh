@@ -21,10 +21,13 @@ check_scripts() {
     find run tools samples bench \( -name run -o -name '*.sh' \) -exec shellcheck {} +
 }
 
-# Always, so that the compile commands have the sources of now.
+# Always, so that the compile commands have the sources of now; and without precompiled
+# headers, so that a source that does not include what it uses is found.
 configure_for_lint() {
-    cmake --preset host -S "$root" -B "$build/host"
-    cmake --preset win64 -S "$root" -B "$build/win64"
+    local preset
+    for preset in host win64; do
+        cmake --preset "$preset" -S "$root" -B "$build/lint/$preset" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
+    done
 }
 
 # Every source once: natively where it builds natively, else as for Windows. Tests are
@@ -39,9 +42,9 @@ tidy_all() {
     tidy_base=$(find "${lint_folders[@]}" -name '*.h' -exec cat {} + | cat .clang-tidy tools/lint.sh - | sha1sum)
     export tidy_base tidy_passed=$build/lint/passed
 
-    tidy_each "$native" -p "$build/host" || status=1
+    tidy_each "$native" -p "$build/lint/host" || status=1
     windows_arguments
-    tidy_each "$windows" -p "$build/win64" "${tidy_windows[@]/#/--extra-arg=}" || status=1
+    tidy_each "$windows" -p "$build/lint/win64" "${tidy_windows[@]/#/--extra-arg=}" || status=1
     # The sample is a project of its own, and is built against the installed headers.
     find samples -name '*.cpp' -not -path '*/tests/*' >"$windows"
     tidy_each "$windows" -- -std=c++17 "${tidy_windows[@]}" -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0601 \
@@ -50,7 +53,7 @@ tidy_all() {
 }
 
 sources_of() {
-    sed -n "s|^ *\"file\": \"\($root/.*\.cpp\)\".*|\1|p" "$build/$1/compile_commands.json" |
+    sed -n "s|^ *\"file\": \"\($root/.*\.cpp\)\".*|\1|p" "$build/lint/$1/compile_commands.json" |
         grep -v -e '/tests/' -e "^$build/" -e '/fuzz/SeedsTest' | sort -u
 }
 

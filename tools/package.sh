@@ -62,10 +62,9 @@ foreign_dlls() {
 }
 
 # An outside project, built against the unpacked zip with both kinds of library, and run.
-# Needs what run_package needs, and the screen.
+# Needs the package and the screen.
 test_package() {
     local work=$build/package-test
-    make_package
     rm -rf "$work"
     mkdir -p "$work"
     logged unpack-package unpack "$work"

@@ -6,30 +6,60 @@ passed=0
 failed=0
 
 # run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
-# also what is no test program: proofs, speed, tutorial, package.
+# also what is no test program: proofs, speed, tutorial, package. Programs with windows wait
+# more than they calculate, and what needs no screen runs beside them.
 run_tests() {
-    local preset program found=
+    local log=$build/tests-without-screen.log beside good bad built=$SECONDS
+    tests_without_screen "$1" >"$log" 2>&1 &
+    beside=$!
+    run_programs "$1" win64 sample
+    if ! wait "$beside"; then
+        cat "$log"
+        die 'the tests that need no screen did not come to their end'
+    fi
+    sed '$d' "$log"
+    read -r good bad < <(tail -n 1 "$log")
+    passed=$((passed + good))
+    failed=$((failed + bad))
     if [[ -z $1 ]]; then
-        check_proofs
-        count_instructions
         test_tutorial
         test_package
     fi
-    for preset in "${presets[@]}"; do
-        for program in "$build/$preset"/bin/test_*"$1"*; do
+    ((passed + failed > 0)) || die "no test program matches \"$1\""
+    printf 'built in %d s, tested in %d s\n' "$built" "$((SECONDS - built))"
+    printf '%d passed, %d failed\n' "$passed" "$failed"
+    ((failed == 0))
+}
+
+# Its last line are the numbers of passed and failed tests.
+tests_without_screen() {
+    trap - EXIT # the screen is the caller's
+    run_programs "$1" host arm
+    if [[ -z $1 ]]; then
+        make_package
+        check_proofs
+        count_instructions
+    fi
+    printf '%d %d\n' "$passed" "$failed"
+}
+
+# run_programs NAME BUILD...: the test programs of each build whose name contains NAME.
+run_programs() {
+    local name=$1 preset program
+    shift
+    for preset in "$@"; do
+        for program in "$(programs_of "$preset")"/test_*"$name"*; do
             [[ -x $program && $program != *.dll ]] || continue
-            found=yes
             run_test_program "$preset" "$program"
         done
     done
-    for program in "$build"/fieldbook/tests/test_*"$1"*.exe; do
-        [[ -x $program ]] || continue
-        found=yes
-        run_test_program sample "$program"
-    done
-    [[ -n $found ]] || die "no test program matches \"$1\""
-    printf '%d passed, %d failed\n' "$passed" "$failed"
-    ((failed == 0 && passed > 0))
+}
+
+programs_of() {
+    case $1 in
+    sample) printf '%s' "$build/fieldbook/tests" ;;
+    *) printf '%s' "$build/$1/bin" ;;
+    esac
 }
 
 run_test_program() {
