@@ -8,17 +8,18 @@ mutants_folder=$build/mutants
 mutants_table='
 geometry host geometry
 survey host survey
-framework/base host framework_base
+framework/base host framework_base fuzz_seeds
 framework/windows win64 framework framework_comctl
 companion win64 companion
-util win64 util
+util host util fuzz_seeds
 controls win64 controls survey_window
 dialogs win64 dialogs
 '
 
-# run_mutants FOLDER: of all folders without one. False when a fault survives unexplained.
+# run_mutants [FOLDER [each]]: of all folders without one; "each" tells what each assertion is good
+# for. False when a fault survives unexplained.
 run_mutants() {
-    local folder preset tests status=0 found=
+    local folder preset tests status=0 found= each=${2:-}
     require python3 python3-clang-14 libclang1-14 libclang-common-14-dev
     while read -r -u 4 folder preset tests; do
         [[ -n $folder && $folder == "${1:-$folder}" ]] || continue
@@ -32,10 +33,12 @@ run_mutants() {
 
 mutants_of() {
     local folder=$1 preset=$2 name=${1//\//_}
-    local faults=$mutants_folder/$name.json programs=("${@:3}") workers through=()
+    local own=$mutants_folder/$name faults programs=("${@:3}") workers through=()
+    faults=$own/faults.json
+    mkdir -p "$own"
     if [[ $preset == win64 && -z $screen_pid ]]; then open_screen; fi
-    logged "mutants-$name" build_mutants "$folder" "$preset" "$faults" "${programs[@]}"
-    programs=("${programs[@]/#/$mutants_folder/tree/build/$preset/bin/test_}")
+    logged "mutants-$name" build_mutants "$(places_of "$folder")" "$preset" "$own" "${programs[@]}"
+    programs=("${programs[@]/#/$own/tree/build/$preset/bin/test_}")
     workers=$(nproc)
     if [[ $preset == win64 ]]; then
         programs=("${programs[@]/%/.exe}")
@@ -43,18 +46,31 @@ mutants_of() {
         workers=1 # the windows of two programs would take the focus from each other
     fi
     logged "reach-$name" see_reach "$preset" "${programs[@]}"
+    [[ -z $each ]] || through+=(--each "$own/each.json")
     printf '%s\n' "$folder:"
     in_wine /usr/bin/python3 "$root/tools/mutants/judge.py" "${through[@]}" --workers "$workers" \
         --explained "$root/tools/mutants/explained.txt" "$faults" "${programs[@]}" 2>&1 </dev/null
 }
 
-# build_mutants FOLDER PRESET FAULTS TEST...: a copy of the tree in which FOLDER has all its
-# faults. Places that only the compiler evaluates show up as errors and are left out.
+# The folder, and after commas what else its tests are for.
+places_of() {
+    local IFS=, headers
+    if [[ $1 == framework/base ]]; then
+        mapfile -t headers < <(printf '%s\n' "${covered[@]}" | grep '^framework/.*\.h$')
+        printf '%s' "$1,${headers[*]}"
+    else
+        printf '%s' "$1"
+    fi
+}
+
+# build_mutants PLACES PRESET OWN TEST...: in the folder OWN a copy of the tree in which PLACES
+# have all their faults. Places that only the compiler evaluates show up as errors and are left out.
 build_mutants() {
-    local folder=$1 preset=$2 faults=$3 tree=$mutants_folder/tree round
-    local left_out=$mutants_folder/left_out log=$mutants_folder/compile.log arguments=()
+    local places=$1 preset=$2 faults=$3/faults.json tree=$3/tree round
+    local left_out=$3/left_out log=$3/compile.log arguments=()
     shift 3
     mkdir -p "$tree"
+    rm -rf "$tree/tests" # what is gone there must not be tried
     git ls-files -z --cached --others --exclude-standard | tar --null -cf - -T - | tar -xf - -C "$tree"
     cmake --preset "$preset" -S "$root" -B "$build/$preset"
     if [[ $preset == win64 ]]; then
@@ -69,7 +85,7 @@ build_mutants() {
     : >"$left_out"
     for round in 1 2 3 4 5 6; do
         /usr/bin/python3 "$root/tools/mutants/plant.py" "$build/$preset/compile_commands.json" "$root" \
-            "$tree" "$folder" "$left_out" -- "${arguments[@]}" >"$faults"
+            "$tree" "$places" "$left_out" -- "${arguments[@]}" >"$faults"
         echo "round $round"
         if ninja -C "$tree/build/$preset" -j"$(nproc)" -k 0 "${@/#/test_}" >"$log" 2>&1; then
             return

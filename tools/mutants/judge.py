@@ -1,16 +1,21 @@
 """Activates one planted fault after the other and runs the tests that reach its place.
 
 What a program's tests reach is in PROGRAM.reached.txt, written by Reach.cpp. EXPLAINED has the
-faults that make no difference a test could see, a line "file | kind | code | reason" each.
-Prints the survivors, and how many of how many were found.
+faults that make no difference a test could see, a line "file | function | kind | code | reason"
+each; * stands for all functions, kinds or codes. Prints the survivors, and how many of how many
+were found. With --each all tests run that reach a fault, not just up to the first that finds it,
+and those assertions are listed that find a fault which no other finds.
 """
 import argparse
+import collections
 import concurrent.futures
 import json
 import os
+import re
 import signal
 import subprocess
 import sys
+import tempfile
 
 FIRST = 8  # the quickest tests find most faults
 
@@ -27,30 +32,90 @@ def read_tests(programs):
 
 def read_explained(path):
     lines = [line for line in open(path) if line.strip() and not line.startswith("#")]
-    return {tuple(part.strip() for part in line.split(" | ")[:3]) for line in lines}
+    return [[part.strip() for part in line.split(" | ")[:4]] for line in lines]
 
 
-def is_found(fault, tests, through):
+def explains(pattern, fault):
+    here = (fault["file"], fault["function"], fault["kind"], fault["before"])
+    return all(part in ("*", own) for part, own in zip(pattern, here))
+
+
+def find(fault, tests, options):
+    """The assertions that fail, test and line each; the first of them do without --each."""
     reaching = [test for test in tests if fault["number"] in test[3]]
+    found = set()
     for some in (reaching[:FIRST], reaching[FIRST:]):
-        for program in {test[1] for test in some}:
-            if fails(fault["number"], program, [test for test in some if test[1] == program], through):
-                return True
-    return False
+        for program in sorted({test[1] for test in some}):
+            own = [test for test in some if test[1] == program]
+            found |= failing(fault["number"], program, own, options)
+            if found and not options.each:
+                return found
+    return found
 
 
-def fails(number, program, tests, through):
-    limit = 20 + 10 * sum(test[0] for test in tests) / 1000
-    arguments = [program, "--gtest_fail_fast", "--gtest_filter=" + ":".join(test[2] for test in tests)]
-    process = subprocess.Popen(through + arguments, env=dict(os.environ, MUTANT=str(number)),
-                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                               start_new_session=True)
-    try:
-        return process.wait(limit) != 0
-    except subprocess.TimeoutExpired:
-        os.killpg(process.pid, signal.SIGKILL)
-        process.wait()
-        return True
+def failing(number, program, tests, options):
+    found = set()
+    while tests:
+        limit = (20 if options.through else 5) + 10 * sum(test[0] for test in tests) / 1000
+        arguments = [program, "--gtest_filter=" + ":".join(test[2] for test in tests)]
+        arguments += [] if options.each else ["--gtest_fail_fast"]
+        ended, output = run(options.through + arguments, number, limit)
+        name = ""
+        for line in output.splitlines():
+            if match := re.match(r"\[ RUN      \] (\S+)", line):
+                name = match[1]
+            elif match := re.search(r"([\w.]+:\d+|unknown file): Failure", line):
+                found.add(f"{name} {match[1]}")
+        if ended is True:
+            break
+        # It has died in one of the tests: those after it have their turn.
+        found.add(f"{name} {'hangs' if ended is None else 'dies'}")
+        names = [test[2] for test in tests]
+        if not options.each or ended is None or name not in names:
+            break
+        tests = tests[:names.index(name)] + tests[names.index(name) + 1:]
+    return found
+
+
+def run(arguments, number, limit):
+    """Whether the program comes to its end, None if it hangs, and what it has said."""
+    # In a folder of its own: programs that run at the same time use files of the same names.
+    with tempfile.TemporaryFile() as output, tempfile.TemporaryDirectory() as folder:
+        process = subprocess.Popen(arguments, env=dict(os.environ, MUTANT=str(number), TMPDIR=folder), cwd=folder,
+                                   stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
+                                   start_new_session=True)
+        try:
+            ended = process.wait(limit) in (0, 1)
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
+            ended = None
+        output.seek(0)
+        return ended, output.read(1 << 22).decode(errors="replace")
+
+
+def print_survivor(fault, tests):
+    note = "" if any(fault["number"] in test[3] for test in tests) else " (no test gets there)"
+    place = f"{fault['file']}:{fault['line']} | {fault['function']}"
+    print(f"{place} | {fault['kind']} | {fault['before']}{note}", flush=True)
+
+
+def print_lone(found):
+    """How many faults each assertion, and each test, is the only one to find."""
+    lone = collections.Counter(next(iter(places)) for places in found if len(places) == 1)
+    lone_tests = collections.Counter()
+    reaching = collections.Counter()
+    for places in found:
+        tests = {place.split()[0] for place in places}
+        reaching.update(tests)
+        if len(tests) == 1:
+            lone_tests.update(tests)
+    print("faults that only one assertion finds:")
+    for place, count in lone.most_common():
+        print(f"{count:5} {place}")
+    print("faults that a test finds, and that only it finds:")
+    for test, count in reaching.most_common():
+        print(f"{count:5} {lone_tests[test]:5} {test}")
 
 
 def main():
@@ -58,26 +123,34 @@ def main():
     parser.add_argument("--through", action="append", default=[])
     parser.add_argument("--workers", type=int, default=1)
     parser.add_argument("--explained", required=True)
+    parser.add_argument("--each", help="where the assertions that fail are written, as JSON")
     parser.add_argument("faults")
     parser.add_argument("programs", nargs="+")
     options = parser.parse_args()
     faults = json.load(open(options.faults))
     tests = read_tests(options.programs)
     explained = read_explained(options.explained)
+    found = []
+    used = []
     survivors = 0
-    explanations = 0
     with concurrent.futures.ThreadPoolExecutor(options.workers) as pool:
-        found = pool.map(lambda fault: is_found(fault, tests, options.through), faults)
-        for fault, fell in zip(faults, found):
-            if fell:
-                continue
-            if (fault["file"], fault["kind"], fault["before"]) in explained:
-                explanations += 1
-                continue
-            survivors += 1
-            note = "" if any(fault["number"] in test[3] for test in tests) else " (no test gets there)"
-            print(f"{fault['file']}:{fault['line']} | {fault['kind']} | {fault['before']}{note}", flush=True)
-    print(f"{len(faults)} faults, {len(faults) - survivors - explanations} found, {explanations} explained, "
+        for fault, places in zip(faults, pool.map(lambda fault: find(fault, tests, options), faults)):
+            found.append(places)
+            patterns = [pattern for pattern in explained if explains(pattern, fault)]
+            used += patterns if not places else []
+            if not places and not patterns:
+                survivors += 1
+                print_survivor(fault, tests)
+    files = {fault["file"] for fault in faults}
+    for pattern in explained:
+        if pattern[0] in files and pattern not in used:
+            print("explains nothing: " + " | ".join(pattern))
+    if options.each:
+        json.dump([dict(fault, found=sorted(places)) for fault, places in zip(faults, found)],
+                  open(options.each, "w"), indent=0)
+        print_lone(found)
+    fallen = sum(map(bool, found))
+    print(f"{len(faults)} faults, {fallen} found, {len(faults) - fallen - survivors} explained, "
           f"{survivors} survive")
     sys.exit(survivors > 0)
 

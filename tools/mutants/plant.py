@@ -1,7 +1,7 @@
 """Plants faults into a copy of a folder's sources: each place that can be spoiled becomes a
 call of a function of Mutant.h, which spoils it when the fault's number is the active one.
 
-    plant.py COMPILE_COMMANDS TREE COPY FOLDER LEFT_OUT -- COMPILER_ARGUMENTS
+    plant.py COMPILE_COMMANDS TREE COPY FOLDER[,HEADER...] LEFT_OUT -- COMPILER_ARGUMENTS
 
 LEFT_OUT has the keys of places that do not compile in that form (constant expressions).
 Writes the changed sources into COPY and the list of the faults to standard output as JSON.
@@ -43,6 +43,7 @@ class Edit:
         self.start, self.end, self.kind, self.parts = start, end, kind, parts
         self.before, self.children = before, children
         self.number = 0
+        self.function = ""
 
 
 class Source:
@@ -83,6 +84,9 @@ class Source:
         for i, child in enumerate(children):
             fixed = constant or (kind == Kind.CASE_STMT and i == 0) or self.is_if_constexpr(cursor, i)
             edits += self.walk(child, fixed)
+        if kind in FUNCTIONS:
+            for edit in edits:
+                edit.function = edit.function or cursor.spelling
         if constant:
             return edits
         for make in (self.binary, self.negative, self.literal, self.swapped):
@@ -116,6 +120,8 @@ class Source:
         operator = self.part(left_end, right).strip() if left_end < right else ""
         if operator not in BINARY or self.range_of(cursor) != (start, end):
             return edits
+        if operator == "-" and all(child.type.get_canonical().kind == TypeKind.POINTER for child in children):
+            return edits  # pointers have no sum
         operands = [(start, left_end), (right, end)]
         return self.wrap(cursor, edits, BINARY[operator], operands, self.part(start, end))
 
@@ -243,17 +249,19 @@ def number_all(edits, counter):
         number_all(edit.children, counter)
 
 
-def listed(source, edits, tree):
+def listed(source, edits, tree, function=""):
     for edit in edits:
+        within = function or edit.function
         yield {
             "number": edit.number,
             "file": os.path.relpath(source.path, tree),
             "line": source.line(edit.start),
+            "function": within,
             "key": source.key(edit),
             "kind": edit.kind,
             "before": " ".join(edit.before.split()),
         }
-        yield from listed(source, edit.children, tree)
+        yield from listed(source, edit.children, tree, within)
 
 
 def definitions(unit, path):
@@ -270,9 +278,11 @@ def main():
     left_out = set(open(left_out_path).read().split()) if os.path.exists(left_out_path) else set()
     index = cindex.Index.create()
     sources, counter, faults = {}, [0], []
-    prefix = os.path.join(tree, folder) + os.sep
+    places = [os.path.join(tree, place) for place in folder.split(",")]
+    prefixes = tuple(place if place.endswith(".h") else place + os.sep for place in places)
     for entry in json.load(open(commands)):
-        if not re.match(re.escape(prefix) + r".*\.cpp$", entry["file"]) or entry["file"] in sources:
+        path = entry["file"]
+        if not path.startswith(prefixes) or not path.endswith(".cpp") or path in sources:
             continue
         options = [word for word in entry["command"].split() if re.match(r"-[DI]|-std=", word)]
         unit = index.parse(entry["file"], args=options + arguments)
@@ -281,7 +291,7 @@ def main():
             sys.exit("\n".join(errors))
         folder_files = {entry["file"]} | {
             include.include.name for include in unit.get_includes()
-            if os.path.abspath(include.include.name).startswith(prefix)}
+            if os.path.abspath(include.include.name).startswith(prefixes)}
         for path in sorted(map(os.path.abspath, folder_files)):
             if path in sources:
                 continue
