@@ -3,7 +3,7 @@
 /// a case is one call of the library's function, as for its users.
 #pragma once
 
-#include "geometry/Reference.h"
+#include "Reference.h"
 #include "geometry/Vector.h"
 
 /// Two of the doubles as a point in place. Copied instead, a point would be read as a whole right

@@ -2,8 +2,8 @@
 // near the limits at which a short way hands over.
 
 #include "Inputs.h"
-#include "Reference.h"
 #include "Tolerance.h"
+#include "bench/kernel/Reference.h"
 #include "geometry/Vector.h"
 #include "geometry/internal/Turn.h"
 

@@ -29,25 +29,11 @@ bool Inside(double v, double a, double b) {
     return std::min(a, b) < v && v < std::max(a, b);
 }
 
-} // namespace
-
-int Double2Int(double value) {
-    double whole = 0;
-    const double fraction = std::modf(value, &whole);
-    int result = static_cast<int>(whole);
-    if (std::fabs(fraction) > 0.5)
-        result += fraction > 0 ? 1 : -1;
-    return result;
-}
-
 double Norm(P v) {
     return v.x == 0 && v.y == 0 ? 0 : std::sqrt(v.x * v.x + v.y * v.y);
 }
 P Unit(P v) {
     return Norm(v) == 0 ? v : P{v.x / Norm(v), v.y / Norm(v)};
-}
-P R_Unit(P v) {
-    return Norm(v) == 0 ? P{0, 0} : P{v.x / Norm(v), v.y / Norm(v)};
 }
 P Rotate(P v, double a) {
     const double c = std::cos(a);
@@ -60,16 +46,15 @@ P Normal(P v, int direction) {
 P Size(P v, double length) {
     return Unit(v) * length;
 }
-double Angle(P v) {
-    return std::fabs(v.x) < 0.017 && std::fabs(v.y) < 0.017 ? 0 : std::atan2(v.y, v.x);
-}
 int Equal(P a, P b, double tol) {
     return std::fabs(a.x - b.x) <= tol && std::fabs(a.y - b.y) <= tol;
 }
-int IsSameDir(P a, P b, double tol) {
-    return Equal(Unit(a), Unit(b), tol);
-}
 
+} // namespace
+
+double Angle(P v) {
+    return std::fabs(v.x) < 0.017 && std::fabs(v.y) < 0.017 ? 0 : std::atan2(v.y, v.x);
+}
 double LimitAngleRange(double a) {
     const bool down = a >= 0;
     while (!(a <= 3.141592664 && a >= -3.141592664))
@@ -99,11 +84,6 @@ double AbsAngle(int turn, double a) {
         return a > 0 ? a - 6.283185308 : a;
     return 0;
 }
-double CalcAngleDist(double a, double b) {
-    const double d = std::fabs(Range0To360(b) - Range0To360(a));
-    return d > 3.141592654 ? 6.283185308 - d : d;
-}
-
 int LineLine(P p1, P p2, P p3, P p4, P& out, int bSegment) {
     const double t = tolerance;
     const auto same = [t](double a, double b) { return std::fabs(a - b) < t; };
@@ -150,54 +130,6 @@ int LineLine(P p1, P p2, P p3, P p4, P& out, int bSegment) {
     out.y = mA * (out.x - p1.x) + p1.y;
     return bSegment == 0 || (Inside(out.x, p1.x, p2.x) && Inside(out.y, p1.y, p2.y) &&
                              Inside(out.x, p3.x, p4.x) && Inside(out.y, p3.y, p4.y));
-}
-
-int Intersection(P t, P a, P b, P& out, int bInfinite) {
-    const double e = 0.017;
-    const P d = b - a;
-    if (std::fabs(t.x) < e && std::fabs(d.x) < e)
-        return 0;
-    if (std::fabs(t.y) < e && std::fabs(d.y) < e)
-        return 0;
-    if (std::fabs(t.x) < e && std::fabs(d.y) < e) {
-        out = {0, a.y};
-        return bInfinite != 0 || (Within(a.y, 0, t.y) && Within(0, a.x, b.x));
-    }
-    if (std::fabs(t.y) < e && std::fabs(d.x) < e) {
-        out = {a.x, 0};
-        return bInfinite != 0 || (Within(a.x, 0, t.x) && Within(0, a.y, b.y));
-    }
-    if (std::fabs(t.x) < e) {
-        out = {t.x, d.y / d.x * (t.x - a.x) + a.y};
-        return bInfinite != 0 || (Within(t.x, a.x, b.x) && Within(out.y, 0, t.y));
-    }
-    if (std::fabs(d.x) < e) {
-        out = {a.x, t.y / t.x * (a.x - t.x) + t.y};
-        return bInfinite != 0 || (Within(a.x, 0, t.x) && Within(out.y, a.y, b.y));
-    }
-    const double m0 = t.y / t.x;
-    const double m1 = d.y / d.x;
-    if (std::fabs(m0 - m1) < e)
-        return 0;
-    out.x = (t.y - b.y + m1 * b.x - m0 * t.x) / (m1 - m0);
-    out.y = m0 * (out.x - t.x) + t.y;
-    if (bInfinite != 0)
-        return 1;
-    const double xlo = std::max(std::min(a.x, b.x), std::min(0.0, t.x));
-    const double xhi = std::min(std::max(a.x, b.x), std::max(0.0, t.x));
-    if (!(xlo <= out.x && out.x <= xhi) && std::fabs(xlo - out.x) >= e && std::fabs(xhi - out.x) >= e)
-        return 0;
-    const double ylo = std::max(std::min(a.y, b.y), std::min(0.0, t.y));
-    const double yhi = std::min(std::max(a.y, b.y), std::max(0.0, t.y));
-    if (ylo <= out.y && out.y <= yhi)
-        return 1;
-    return !(std::fabs(ylo - out.y) >= e && std::fabs(yhi - out.y) >= e);
-}
-
-int NearerPoint(P p, P a, P b, P& out) {
-    const bool nearA = Square(p.x - a.x) + Square(p.y - a.y) < Square(p.x - b.x) + Square(p.y - b.y);
-    out = nearA ? a : b;
-    return nearA;
 }
 
 namespace {
@@ -279,17 +211,6 @@ int LineArc(P p1, P p2, P start, P end, P centre, P& out1, P& out2) {
     return 0;
 }
 
-int LineArcNearer(P p1, P p2, P start, P end, P centre, P& out) {
-    P a;
-    P b;
-    const int found = LineArc(p1, p2, start, end, centre, a, b);
-    if (found == 1)
-        out = a;
-    if (found == 2)
-        NearerPoint(out, a, b, out);
-    return found != 0;
-}
-
 int LineCircle(P p1, P p2, P centre, double radius, P& out1, P& out2) {
     P a;
     P b;
@@ -367,15 +288,6 @@ int PiOfArc(P start, P centre, P end, P& pi1, P& pi2, int& split, int depth) {
     if (r2 < 0)
         return -1;
     return s1 == 0 && s2 == 0 && (r1 & r2) != 0;
-}
-
-int TwoPointOneLineRp(P p1, P p2, P dir, P& out) {
-    const P d = p2 - p1;
-    const P q = p1 + Normal(dir, 1);
-    const P m = p2 + d * 0.5;
-    const P n = m + Normal(d, 1);
-    out = {0, 0};
-    return LineLine(p1, q, m, n, out, 0);
 }
 
 } // namespace reference

@@ -1,0 +1,143 @@
+// What made-up inputs do not come upon: results at limits that are met to the last bit, values
+// that are not finite, texts.
+
+#include "Tolerance.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <type_traits>
+
+namespace {
+
+static_assert(sizeof(CVector) == 16 && std::is_trivially_copyable_v<CVector>);
+static_assert(!std::is_trivially_default_constructible_v<CVector>); // CVector() must not clear
+
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+TEST(Vector, RoundsHalvesTowardZeroAndKeepsToInt) {
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    constexpr int kMost = std::numeric_limits<int>::max();
+    const struct {
+        double value;
+        int expected;
+    } rows[] = {{0.5, 0},    {-0.5, 0},     {1.5, 1},        {2.5000001, 3},
+                {-1.51, -2}, {kInf, kMost}, {-kInf, kLeast}, {std::nan(""), 0}};
+    for (const auto& row : rows)
+        EXPECT_EQ(row.expected, CVector::Double2Int(row.value)) << row.value;
+}
+
+TEST(Vector, EqualIsInclusive) {
+    EXPECT_TRUE(CVector(0, 0).Equal(CVector(0.5, -0.5), 0.5));
+    EXPECT_FALSE(CVector(0, 0).Equal(CVector(std::nextafter(0.5, 1), 0), 0.5));
+}
+
+TEST(Vector, TooSmallForItsNormIsLeftAloneInPlaceAndNullAsAResult) {
+    CVector tiny(1e-200, 0);
+    EXPECT_TRUE(tiny.R_Unit() == CVector(0, 0));
+    tiny.Unit();
+    EXPECT_TRUE(tiny == CVector(1e-200, 0));
+}
+
+TEST(Vector, ShowsItsCoordinates) {
+    const struct {
+        double x, y;
+        int prec;
+        const char* expected;
+    } rows[] = {{1.5, -2, 3, "(  1.500, -2.000)"},
+                {1.5, -2, -1, "(1.500000,-2.000000)"},
+                {0, -0.5, 0, "(      0,     -0)"}};
+    for (const auto& row : rows) {
+        char own[64];
+        EXPECT_STREQ(row.expected, CVector(row.x, row.y).Show(row.prec));
+        EXPECT_STREQ(row.expected, CVector(row.x, row.y).Show(own, row.prec));
+    }
+    EXPECT_EQ(1023U, std::string(CVector(-1e308, 1).Show(100000)).size());
+}
+
+TEST(AngleRange, AnglesThatAStepDoesNotChangeComeBack) {
+    for (const auto range : {CVector::LimitAngleRange, CVector::Range0To360, CVector::RangePM90}) {
+        for (const double huge : {1e300, 0x1.0000000000001p56, -0x1.0000000000001p56, kInf, -kInf})
+            EXPECT_EQ(huge, range(huge));
+        EXPECT_TRUE(std::isnan(range(std::nan(""))));
+    }
+}
+
+// To the last bit: the segment ends at 0, the lines meet at -0.017.
+TEST(Lines, IntersectionTheCoarseToleranceAwayIsNone) {
+    CVector out;
+    EXPECT_EQ(0, CVector(-0.034, 2).Intersection(CVector(0, 1), CVector(1, 1), out, 0));
+    EXPECT_EQ(-0.017, out.GetX());
+}
+
+// All figures are exact in binary, so the differences equal the tolerance to the last bit.
+TEST(Circles, TouchingAndDistanceAreStrict) {
+    const struct {
+        const char* what;
+        double tolerance, r1, r2, distance;
+        int found;
+    } rows[] = {
+        {"short of touching by the tolerance", 0.5, 1, 1.5, 3, 0},
+        {"touching, without a tolerance", 0, 1, 1, 2, 2},
+        {"centres the tolerance apart are the same", 0.5, 2, 2, 0.5, -1},
+        {"radii the tolerance apart are not", 0.5, 2, 1.5, 0, 0},
+        {"half chord squared equal to the tolerance", 0.5, 0.75, 1.125, 1.125, 2},
+    };
+    CVector p1;
+    CVector p2;
+    for (const auto& row : rows) {
+        const CToleranceScope tolerance(row.tolerance);
+        const CVector c2(row.distance, 0);
+        EXPECT_EQ(row.found, CVector::IntersectArcArcInf(CVector(0, 0), row.r1, c2, row.r2, p1, p2))
+            << row.what;
+    }
+    EXPECT_EQ(1, CVector::IntersectArcArc(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, nullptr, nullptr));
+}
+
+// A margin equal to the tolerance still touches an oblique line, but no other.
+TEST(LineArc, TouchingDependsOnTheToleranceItself) {
+    const CToleranceScope tolerance(0.5);
+    CVector p1;
+    CVector p2;
+    const CVector origin(0, 0);
+    EXPECT_EQ(2, CVector::IntersectLineArcInf(CVector(0, 0.25), CVector(9, 0.25), origin, 0.75, p1, p2));
+    EXPECT_EQ(1, CVector::IntersectLineArcInf(origin, CVector(1, 1), origin, 0.5, p1, p2));
+    EXPECT_EQ(1, CVector::IntersectLineArcInf(CVector(0, 1), CVector(1, 2), origin, 0.5, p1, p2));
+}
+
+// Half a turn to the last bit, where the C library's arc tangent is the usual one.
+TEST(LineArc, HalfATurnHoldsThePointsThatOneChordDoesNot) {
+    CVector start(-1.1469828380997749, -1.6384231349393799);
+    CVector end(1.146982837427682, 1.6384231354098804);
+    CVector on(-0.87655572791837522, -1.7976790747665412);
+    const CVector centre(0, 0);
+    CVector out1;
+    CVector out2;
+    const double sweep =
+        CVector::Range0To360(end.Angle()) + 6.283185308 - CVector::Range0To360(start.Angle());
+    EXPECT_EQ(sweep >= 3.141592654,
+              CVector::IntersectLineArc(centre, on.R_Scalar(2), start, end, centre, out1, out2));
+}
+
+// The first three could be halved for ever: their ends are too near the centre to have a direction.
+// Of the next only the second half needs halving again. Of the last cross product one half overflows.
+TEST(ArcConstruction, FullTurnHasNoCorner) {
+    const struct {
+        CVector start, end;
+    } rows[] = {
+        {{0, 0}, {0, 0}},
+        {{0.01, 0.01}, {-0.01, 0.01}},
+        {{0, 0}, {1, 0}},
+        {{-12, -15}, {-12, -15}},
+        {{0x1.9480583abdfb6p+511, 0x1.9d8dbb3a5bde4p+511}, {0x1.3cf0d4f48e39p+512, 0x1.440895906bb2cp+512}}};
+    for (const auto& row : rows) {
+        CVector p1;
+        CVector p2;
+        int split = -1;
+        EXPECT_EQ(0, CVector::CalcPiOfArc(row.start, CVector(0, 0), row.end, p1, p2, split));
+        EXPECT_EQ(1, split);
+    }
+}
+
+} // namespace
