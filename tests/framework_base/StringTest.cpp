@@ -38,7 +38,7 @@ TEST(String, IsConstructedFromEveryKindOfText) {
         {"repeated never", {L'x', -1}, L""},
         {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
         {"negative length", {L"abc", -1}, L""},
-        {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))), L"123456"},
+        {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))) + '7', L"1234567"},
     });
 }
 

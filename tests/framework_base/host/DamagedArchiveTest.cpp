@@ -119,15 +119,4 @@ TEST(DamagedArchive, MemoryGoesWithTheSizeOfTheFile) {
     }
 }
 
-TEST(DamagedArchive, AMillionObjectsInEachOtherAreRefused) {
-    // Class, then each joint's first reference is a new one.
-    Bytes bytes = FromHex("ffff 0100 0600 434a6f696e74");
-    for (int i = 0; i < 1'000'000; ++i)
-        for (const BYTE by : {BYTE{0x01}, BYTE{0x80}})
-            bytes.push_back(by);
-    LoadWithoutLoss(bytes, [](CArchive& ar) {
-        EXPECT_TRUE(Throws<CArchiveException>([&] { delete ar.ReadObject(nullptr); }));
-    });
-}
-
 } // namespace
