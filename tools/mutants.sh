@@ -19,7 +19,7 @@ dialogs win64 dialogs
 # run_mutants [FOLDER [each]]: of all folders without one; "each" tells what each assertion is good
 # for. False when a fault survives unexplained.
 run_mutants() {
-    local folder preset tests status=0 found= each=${2:-}
+    local folder preset tests status=0 each=${2:-} found=
     require python3 python3-clang-14 libclang1-14 libclang-common-14-dev
     while read -r -u 4 folder preset tests; do
         [[ -n $folder && $folder == "${1:-$folder}" ]] || continue

@@ -98,7 +98,7 @@ TEST(Circle2D, TakesACentreAndAnythingButATinyRadius) {
     EXPECT_EQ(1, circle.Setup(At(3, 4), -kLimit));
     EXPECT_EQ(1, circle.Setup(CCoordinate(3, 4, 0, 2), 7));
     C2DCircle copy;
-    EXPECT_EQ(copy.GetRadius(), C2DCircle(At(1, 2), kLimit).GetRadius());
+    EXPECT_EQ(0, C2DCircle(At(1, 2), kLimit).GetRadius());
     copy = circle;
     EXPECT_EQ(kMore, copy.GetRadius());
     EXPECT_EQ(1, copy.GetCenter()->GetN());
