@@ -20,7 +20,7 @@ install(TARGETS ${_installed} EXPORT Fieldkit-${_kind}
 install(EXPORT Fieldkit-${_kind} NAMESPACE Fieldkit:: DESTINATION ${_package})
 
 # Only what lies directly in these folders is public; subfolders are internal.
-foreach(_folder framework geometry survey util controls dialogs resources)
+foreach(_folder api framework geometry survey util controls dialogs resources)
   file(GLOB _headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.h)
   install(FILES ${_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/${_folder})
 endforeach()

@@ -1,12 +1,14 @@
 #include "Tesuvo.h"
 
-#include "Module.h"
+#include "companion/detail/Module.h"
 
 #include <cstddef>
 #include <cstring>
 #include <map>
 #include <optional>
 #include <span>
+
+using namespace fieldkit::detail;
 
 namespace {
 

@@ -1,8 +1,10 @@
 #include "Tesuvo.h"
 
-#include "PanelWindow.h"
+#include "companion/detail/PanelWindow.h"
 
 #include <afxext.h>
+
+using namespace fieldkit::detail;
 
 namespace {
 

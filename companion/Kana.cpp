@@ -1,25 +1,27 @@
-#include "Kana.h"
+#include "companion/detail/Kana.h"
 
 #include <string_view>
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr wchar_t SCRIPT_DISTANCE = L'ァ' - L'ぁ';
+constexpr wchar_t kScriptDistance = L'ァ' - L'ぁ';
 
 // Each kana is followed by itself with the mark. Those that exist in katakana only come last.
-constexpr std::wstring_view VOICED = L"かがきぎくぐけげこごさざしじすずせぜそぞただちぢつづてでとど"
-                                     L"はばひびふぶへべほぼウヴ";
-constexpr std::wstring_view SEMI_VOICED = L"はぱひぴふぷへぺほぽ";
-constexpr std::wstring_view SMALL = L"あぁいぃうぅえぇおぉつっやゃゆゅよょわゎカヵケヶ";
+constexpr std::wstring_view kVoiced = L"かがきぎくぐけげこごさざしじすずせぜそぞただちぢつづてでとど"
+                                      L"はばひびふぶへべほぼウヴ";
+constexpr std::wstring_view kSemiVoiced = L"はぱひぴふぷへぺほぽ";
+constexpr std::wstring_view kSmall = L"あぁいぃうぅえぇおぉつっやゃゆゅよょわゎカヵケヶ";
 
 constexpr std::wstring_view PairsOf(KanaMark mark) {
     switch (mark) {
     case KanaMark::Voiced:
-        return VOICED;
+        return kVoiced;
     case KanaMark::SemiVoiced:
-        return SEMI_VOICED;
+        return kSemiVoiced;
     default:
-        return SMALL;
+        return kSmall;
     }
 }
 
@@ -45,11 +47,11 @@ wchar_t WithoutMark(wchar_t kana) {
 
 } // namespace
 
-wchar_t ToKatakana(wchar_t ch) {
-    return ch >= L'ぁ' && ch <= L'ん' ? static_cast<wchar_t>(ch + SCRIPT_DISTANCE) : ch;
+wchar_t fieldkit::detail::ToKatakana(wchar_t ch) {
+    return ch >= L'ぁ' && ch <= L'ん' ? static_cast<wchar_t>(ch + kScriptDistance) : ch;
 }
 
-wchar_t WithMark(wchar_t kana, KanaMark mark) {
+wchar_t fieldkit::detail::WithMark(wchar_t kana, KanaMark mark) {
     const wchar_t plain = WithoutMark(kana);
     const wchar_t marked = Partner(PairsOf(mark), 0, plain);
     if (marked == 0)

@@ -1,6 +1,8 @@
-#include "Module.h"
+#include "companion/detail/Module.h"
 
 #include <afxwin.h>
+
+using namespace fieldkit::detail;
 
 namespace {
 
@@ -18,10 +20,10 @@ const NewHandler g_newHandler;
 
 } // namespace
 
-HINSTANCE CompanionModule() {
+HINSTANCE fieldkit::detail::CompanionModule() {
     return ModuleOfThisCode(GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT);
 }
 
-void PinCompanionModule() {
+void fieldkit::detail::PinCompanionModule() {
     ModuleOfThisCode(GET_MODULE_HANDLE_EX_FLAG_PIN);
 }

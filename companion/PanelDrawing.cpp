@@ -1,26 +1,28 @@
-#include "PanelDrawing.h"
+#include "companion/detail/PanelDrawing.h"
 
 #include <algorithm>
 #include <iterator>
 #include <string>
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr wchar_t FONT_NAME[] = L"MS UI Gothic";
+constexpr wchar_t kFontName[] = L"MS UI Gothic";
 
 // Outdoors only contrast counts: black on white, and the reverse for what is pressed.
-constexpr COLORREF GROUND = RGB(80, 88, 96);
-constexpr COLORREF CHARACTER_KEY = RGB(255, 255, 255);
-constexpr COLORREF FUNCTION_KEY = RGB(200, 210, 220);
-constexpr COLORREF PRESSED_KEY = RGB(0, 64, 144);
-constexpr COLORREF SHIFTED_KEY = RGB(255, 208, 96);
+constexpr COLORREF kGround = RGB(80, 88, 96);
+constexpr COLORREF kCharacterKey = RGB(255, 255, 255);
+constexpr COLORREF kFunctionKey = RGB(200, 210, 220);
+constexpr COLORREF kPressedKey = RGB(0, 64, 144);
+constexpr COLORREF kShiftedKey = RGB(255, 208, 96);
 
 void MakeFont(CFont& font, LONG height) {
     LOGFONTW description{};
     description.lfHeight = -height;
     description.lfWeight = FW_NORMAL;
     description.lfCharSet = DEFAULT_CHARSET;
-    std::copy(std::begin(FONT_NAME), std::end(FONT_NAME), description.lfFaceName);
+    std::copy(std::begin(kFontName), std::end(kFontName), description.lfFaceName);
     font.CreateFontIndirect(&description);
 }
 
@@ -61,10 +63,10 @@ bool IsFunction(wchar_t code) {
 
 COLORREF ColourOf(wchar_t code, bool pressed, const PanelLook& look) {
     if (pressed || (code == KEY_SHIFT && look.locked))
-        return PRESSED_KEY;
+        return kPressedKey;
     if (code == KEY_SHIFT && look.shifted)
-        return SHIFTED_KEY;
-    return IsFunction(code) ? FUNCTION_KEY : CHARACTER_KEY;
+        return kShiftedKey;
+    return IsFunction(code) ? kFunctionKey : kCharacterKey;
 }
 
 void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) {
@@ -73,7 +75,7 @@ void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) 
     ++cap.left; // the ground shows between the keys
     ++cap.top;
     dc.FillSolidRect(cap, colour);
-    dc.SetTextColor(colour == PRESSED_KEY ? RGB(255, 255, 255) : RGB(0, 0, 0));
+    dc.SetTextColor(colour == kPressedKey ? RGB(255, 255, 255) : RGB(0, 0, 0));
     const std::wstring label = LabelOf(key.code, look.page);
     if (IsSoundMark(key.code))
         cap.OffsetRect(cap.Width() / 3, cap.Height() / 2);
@@ -83,7 +85,8 @@ void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) 
 
 } // namespace
 
-void DrawPanel(CDC& target, CSize panel, const std::vector<PanelKey>& keys, const PanelLook& look) {
+void fieldkit::detail::DrawPanel(CDC& target, CSize panel, const std::vector<PanelKey>& keys,
+                                 const PanelLook& look) {
     // Objects that are selected must outlive the device context.
     CFont characters, words, marks;
     CBitmap bitmap;
@@ -92,7 +95,7 @@ void DrawPanel(CDC& target, CSize panel, const std::vector<PanelKey>& keys, cons
     CDC dc;
     dc.CreateCompatibleDC(&target);
     dc.SelectObject(&bitmap);
-    dc.FillSolidRect(CRect(CPoint(), panel), GROUND);
+    dc.FillSolidRect(CRect(CPoint(), panel), kGround);
     dc.SetBkMode(TRANSPARENT);
     // Sizes follow the first key, than which none is smaller but all words are wider.
     const CRect first = keys.front().place;

@@ -1,11 +1,13 @@
-#include "PanelKeys.h"
+#include "companion/detail/PanelKeys.h"
 
-#include "Kana.h"
+#include "companion/detail/Kana.h"
 
 #include <algorithm>
 #include <iterator>
 #include <span>
 #include <string_view>
+
+using namespace fieldkit::detail;
 
 namespace {
 
@@ -17,7 +19,7 @@ struct Row {
 
 // \x0E, \x0F and \x10 are KEY_SHIFT, KEY_SCRIPT and KEY_MODE.
 // At 240 pixels a tenth of the width is 24 pixels, which a pen hits. Of 40 parts one is 6 pixels.
-constexpr Row LETTERS[] = {
+constexpr Row kLetters[] = {
     {L"1234567890"},
     {L"qwertyuiop"},
     {L"asdfghjkl-"},
@@ -25,7 +27,7 @@ constexpr Row LETTERS[] = {
     {L"\x10\t/. +\r", "5544949"},
 };
 
-constexpr Row CAPITALS[] = {
+constexpr Row kCapitals[] = {
     {L"!\"#$%&'()@"},
     {L"QWERTYUIOP"},
     {L"ASDFGHJKL_"},
@@ -33,7 +35,7 @@ constexpr Row CAPITALS[] = {
     {L"\x10\t:, =\r", "5544949"},
 };
 
-constexpr Row DIGITS[] = {
+constexpr Row kDigits[] = {
     {L"789\b"},
     {L"456\t"},
     {L"123-"},
@@ -41,7 +43,7 @@ constexpr Row DIGITS[] = {
 };
 
 // The gaps of the table of kana take the marks.
-constexpr Row HIRAGANA[] = {
+constexpr Row kHiragana[] = {
     {L"あかさたなはまやらわ"}, {L"いきしちにひみ゛りを"}, {L"うくすつぬふむゆるん"},
     {L"えけせてねへめ゜れー"}, {L"おこそとのほもよろ小"}, {L"\x10\x0F\t、。 \b\r", "55544656"},
 };
@@ -49,13 +51,13 @@ constexpr Row HIRAGANA[] = {
 std::span<const Row> RowsOf(PanelPage page) {
     switch (page) {
     case PanelPage::Letters:
-        return LETTERS;
+        return kLetters;
     case PanelPage::Capitals:
-        return CAPITALS;
+        return kCapitals;
     case PanelPage::Digits:
-        return DIGITS;
+        return kDigits;
     default:
-        return HIRAGANA;
+        return kHiragana;
     }
 }
 
@@ -78,7 +80,7 @@ void LayOutRow(const Row& row, LONG top, LONG bottom, LONG width, std::vector<Pa
 
 } // namespace
 
-std::vector<PanelKey> LayOutKeys(PanelPage page, SIZE panel) {
+std::vector<PanelKey> fieldkit::detail::LayOutKeys(PanelPage page, SIZE panel) {
     const std::span<const Row> rows = RowsOf(page);
     const auto count = static_cast<LONG>(rows.size());
     std::vector<PanelKey> keys;
@@ -91,7 +93,7 @@ std::vector<PanelKey> LayOutKeys(PanelPage page, SIZE panel) {
     return keys;
 }
 
-int KeyAt(const std::vector<PanelKey>& keys, POINT point) {
+int fieldkit::detail::KeyAt(const std::vector<PanelKey>& keys, POINT point) {
     const auto found = std::find_if(keys.begin(), keys.end(),
                                     [point](const PanelKey& key) { return ::PtInRect(&key.place, point); });
     return found == keys.end() ? -1 : static_cast<int>(std::distance(keys.begin(), found));

@@ -1,13 +1,15 @@
 // The pen on the keys of the soft input panel.
-#include "PanelWindow.h"
+#include "companion/detail/PanelWindow.h"
 
-#include "PanelTyping.h"
+#include "companion/detail/PanelTyping.h"
+
+using namespace fieldkit::detail;
 
 namespace {
 
-constexpr UINT_PTR REPEAT_TIMER = 3;
-constexpr UINT REPEAT_DELAY = 400;
-constexpr UINT REPEAT_INTERVAL = 60;
+constexpr UINT_PTR kRepeatTimer = 3;
+constexpr UINT kRepeatDelay = 400;
+constexpr UINT kRepeatInterval = 60;
 
 } // namespace
 
@@ -44,12 +46,12 @@ void PanelWindow::OnPress(POINT point) {
         return;
     m_repeating = true;
     Act(KEY_BACKSPACE);
-    ::SetTimer(m_window, REPEAT_TIMER, REPEAT_DELAY, nullptr);
+    ::SetTimer(m_window, kRepeatTimer, kRepeatDelay, nullptr);
 }
 
 void PanelWindow::Repeat() {
     Act(KEY_BACKSPACE);
-    ::SetTimer(m_window, REPEAT_TIMER, REPEAT_INTERVAL, nullptr);
+    ::SetTimer(m_window, kRepeatTimer, kRepeatInterval, nullptr);
 }
 
 void PanelWindow::OnMove(POINT point) {
@@ -61,9 +63,9 @@ void PanelWindow::OnMove(POINT point) {
         return;
     const bool repeats = m_repeating && key >= 0 && keys[static_cast<size_t>(key)].code == KEY_BACKSPACE;
     if (repeats)
-        ::SetTimer(m_window, REPEAT_TIMER, REPEAT_DELAY, nullptr);
+        ::SetTimer(m_window, kRepeatTimer, kRepeatDelay, nullptr);
     else
-        ::KillTimer(m_window, REPEAT_TIMER);
+        ::KillTimer(m_window, kRepeatTimer);
     SetPressed(m_repeating && !repeats ? -1 : key);
 }
 
@@ -76,7 +78,7 @@ void PanelWindow::OnLift() {
 }
 
 void PanelWindow::Release() {
-    ::KillTimer(m_window, REPEAT_TIMER);
+    ::KillTimer(m_window, kRepeatTimer);
     m_repeating = false;
     SetPressed(-1);
     if (::GetCapture() == m_window)

@@ -1,6 +1,8 @@
-#include "PanelTyping.h"
+#include "companion/detail/PanelTyping.h"
 
 #include <string>
+
+using namespace fieldkit::detail;
 
 namespace {
 
@@ -29,15 +31,15 @@ wchar_t CharacterBeforeCaret(HWND field) {
 
 } // namespace
 
-void TypeCharacter(wchar_t ch) {
+void fieldkit::detail::TypeCharacter(wchar_t ch) {
     Send(0, static_cast<WORD>(ch), KEYEVENTF_UNICODE);
 }
 
-void TypeKey(WORD key) {
+void fieldkit::detail::TypeKey(WORD key) {
     Send(key, static_cast<WORD>(::MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), 0);
 }
 
-void TypeMark(KanaMark mark) {
+void fieldkit::detail::TypeMark(KanaMark mark) {
     const HWND field = ::GetFocus();
     const wchar_t kana = field != nullptr ? CharacterBeforeCaret(field) : L'\0';
     const wchar_t marked = WithMark(kana, mark);

@@ -1,27 +1,29 @@
-#include "PanelWindow.h"
+#include "companion/detail/PanelWindow.h"
 
-#include "Module.h"
-#include "PanelDrawing.h"
+#include "companion/detail/Module.h"
+#include "companion/detail/PanelDrawing.h"
 
 #include <afxext.h>
 
 #include <algorithm>
 #include <utility>
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr wchar_t PANEL_CLASS[] = L"TesuvoInputPanel";
+constexpr wchar_t kPanelClass[] = L"TesuvoInputPanel";
 
 // The panel's height on the device, and the screen for which it was made.
-constexpr int PANEL_HEIGHT = 125;
-constexpr int SCREEN_WIDTH = 240;
-constexpr int SCREEN_HEIGHT = 320;
+constexpr int kPanelHeight = 125;
+constexpr int kScreenWidth = 240;
+constexpr int kScreenHeight = 320;
 
 constexpr UINT WM_ANNOUNCE = WM_APP;
-constexpr UINT_PTR CLOSE_TIMER = 1;
-constexpr UINT_PTR WATCH_TIMER = 2;
-constexpr UINT WATCH_INTERVAL = 100;
-constexpr int RAISES = 10; // one a watch, so for a second
+constexpr UINT_PTR kCloseTimer = 1;
+constexpr UINT_PTR kWatchTimer = 2;
+constexpr UINT kWatchInterval = 100;
+constexpr int kRaises = 10; // one a watch, so for a second
 
 const wchar_t* TitleOf(int mode) {
     switch (mode) {
@@ -49,8 +51,8 @@ RECT WorkArea() {
 /// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow.
 RECT PlaceIn(const RECT& area) {
     const LONG width = area.right - area.left;
-    const LONG height = std::min(width * PANEL_HEIGHT / SCREEN_WIDTH,
-                                 (area.bottom - area.top) * PANEL_HEIGHT / SCREEN_HEIGHT);
+    const LONG height = std::min(width * kPanelHeight / kScreenWidth,
+                                 (area.bottom - area.top) * kPanelHeight / kScreenHeight);
     const LONG bottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
     return {area.left, bottom - height, area.right, bottom};
 }
@@ -76,14 +78,14 @@ bool PanelWindow::Create() {
     description.lpfnWndProc = WindowProc;
     description.hInstance = CompanionModule();
     description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    description.lpszClassName = PANEL_CLASS;
+    description.lpszClassName = kPanelClass;
     // Another thread's panel has perhaps registered it; a failure is none for the next time.
     if (::RegisterClassW(&description) == 0 && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         return false;
     // A window must not outlive the code that answers its messages.
     PinCompanionModule();
     // Without an owner: a modal dialog cannot disable it.
-    m_window = ::CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, PANEL_CLASS, L"",
+    m_window = ::CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, kPanelClass, L"",
                                  WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, CompanionModule(), nullptr);
     return m_window != nullptr;
 }
@@ -91,13 +93,13 @@ bool PanelWindow::Create() {
 void PanelWindow::Show(int mode) {
     if (m_window == nullptr && !Create())
         return;
-    ::KillTimer(m_window, CLOSE_TIMER);
+    ::KillTimer(m_window, kCloseTimer);
     m_shown = true;
     m_field = ::GetFocus();
     m_below = nullptr;
     SetMode(mode == 1 || mode == 2 ? mode : 0);
     PutInPlace();
-    ::SetTimer(m_window, WATCH_TIMER, WATCH_INTERVAL, nullptr);
+    ::SetTimer(m_window, kWatchTimer, kWatchInterval, nullptr);
     // Later, when the dialog that is perhaps just being made has its place on the screen.
     ::PostMessageW(m_window, WM_ANNOUNCE, 0, 0);
 }
@@ -125,7 +127,7 @@ void PanelWindow::Close() {
     if (!IsShown())
         return;
     m_shown = false;
-    ::SetTimer(m_window, CLOSE_TIMER, USER_TIMER_MINIMUM, nullptr);
+    ::SetTimer(m_window, kCloseTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
 /// Not while the pen is down elsewhere: the dialog goes back to its place when the panel has
@@ -134,8 +136,8 @@ void PanelWindow::Hide() {
     const HWND capture = ::GetCapture();
     if (capture != nullptr && capture != m_window)
         return;
-    ::KillTimer(m_window, CLOSE_TIMER);
-    ::KillTimer(m_window, WATCH_TIMER);
+    ::KillTimer(m_window, kCloseTimer);
+    ::KillTimer(m_window, kWatchTimer);
     Release();
     m_shift = Shift::Off;
     ::ShowWindow(m_window, SW_HIDE);
@@ -173,7 +175,7 @@ void PanelWindow::StayOnTop() {
     if (!::IsWindowVisible(focus) || IsBelowAnother())
         return;
     if (std::exchange(m_below, focus) != focus)
-        m_raises = RAISES;
+        m_raises = kRaises;
     if (m_raises == 0)
         return;
     --m_raises;
@@ -269,10 +271,10 @@ LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 void PanelWindow::OnTimer(UINT_PTR timer) {
     switch (timer) {
-    case CLOSE_TIMER:
+    case kCloseTimer:
         Hide();
         break;
-    case WATCH_TIMER:
+    case kWatchTimer:
         Watch();
         break;
     default:

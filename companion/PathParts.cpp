@@ -1,8 +1,10 @@
-#include "PathParts.h"
+#include "companion/detail/PathParts.h"
 
 #include "Tesuvo.h"
 
 #include <string>
+
+using namespace fieldkit::detail;
 
 namespace {
 
@@ -55,7 +57,7 @@ void Assign(CString* pTarget, std::wstring_view text) {
 
 } // namespace
 
-PathParts SplitPath(View path) {
+PathParts fieldkit::detail::SplitPath(View path) {
     const std::size_t root = RootLength(path);
     std::size_t nameAt = path.size();
     while (nameAt > root && !IsSlash(path[nameAt - 1]))

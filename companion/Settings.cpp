@@ -1,8 +1,10 @@
 #include "Tesuvo.h"
 
-#include "SharedSetting.h"
+#include "companion/detail/SharedSetting.h"
 
 #include <string>
+
+using namespace fieldkit::detail;
 
 namespace {
 

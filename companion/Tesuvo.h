@@ -19,9 +19,14 @@
 #define TESUVO_API extern "C" __declspec(dllimport)
 #endif
 
+/// Numbers of the settings that all applications of the device share, for TVGetCommonRegInt().
+enum TVSetting : int {
+    TVSETTING_DECIMALS = 1280, ///< Decimals of coordinate text minus one.
+};
+
 /// Reads an integer of the settings that all applications of the device share.
 ///
-/// The one setting known is 1280: the number of decimals of coordinate text minus
+/// The one setting known is TVSETTING_DECIMALS: the number of decimals of coordinate text minus
 /// one, 0 (one decimal) to 4 (five decimals), default 2.
 ///
 /// The store is the registry key `HKEY_CURRENT_USER\Software\Tesuvo\Common`, one
@@ -91,11 +96,21 @@ TESUVO_API void TVShowSIP(int nMode);
 /// TVShowSIP() follows before, as on the way from field to field, it stays.
 TESUVO_API void TVCloseSIP();
 
+/// Numbers of the device's shared icons, for TVGetCommonIcon().
+enum TVIcon : int {
+    TVICON_FOLDER_BUTTON = 2,
+    TVICON_UP = 4,
+    TVICON_DOWN = 5,
+    TVICON_MENU_ENTRY = 26,
+    TVICON_FOLDER = 31,
+    TVICON_CARD_FOLDER = 32, ///< A folder on a storage card.
+    TVICON_INFORMATION = 39,
+    TVICON_DEVICE = 42,
+};
+
 /// The device's shared icon of the given number, 16 x 16 pixels.
 ///
-/// 2 folder button, 4 up, 5 down, 26 menu entry, 31 folder, 32 folder on a storage
-/// card, 39 information, 42 device.
-///
+/// @param nIndex  one of TVIcon
 /// @return a handle that all callers share, the same for each call, which must not
 ///         be destroyed; NULL for an unknown number
 TESUVO_API HICON TVGetCommonIcon(int nIndex);

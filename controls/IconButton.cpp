@@ -2,13 +2,15 @@
 
 #include "controls/detail/SavedDC.h"
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr COLORREF PUSHED_BACKGROUND = RGB(0, 0, 0);
-constexpr COLORREF PUSHED_TEXT = RGB(255, 255, 255);
+constexpr COLORREF kPushedBackground = RGB(0, 0, 0);
+constexpr COLORREF kPushedText = RGB(255, 255, 255);
 
 /// How far the contents of a pressed button sink to the right and down.
-constexpr int SINK = 1;
+constexpr int kSink = 1;
 
 } // namespace
 
@@ -92,9 +94,9 @@ void CIconButton::DrawFace(CDC& dc, const CRect& rect, bool bPushed) const {
     place.y = (rect.Height() - m_sizeIcon.cy) / 2;
     place.x = Has(StyleText) ? place.y : (rect.Width() - m_sizeIcon.cx) / 2;
     if (bPushed) {
-        place.Offset(SINK, SINK);
-        dc.SetBkColor(PUSHED_BACKGROUND);
-        dc.SetTextColor(PUSHED_TEXT);
+        place.Offset(kSink, kSink);
+        dc.SetBkColor(kPushedBackground);
+        dc.SetTextColor(kPushedText);
     }
     ::DrawIconEx(dc, place.x, place.y, m_hIcon, 0, 0, 0, nullptr, DI_NORMAL);
     if (!Has(StyleText))
@@ -102,7 +104,7 @@ void CIconButton::DrawFace(CDC& dc, const CRect& rect, bool bPushed) const {
     CRect text = rect;
     text.left = 2 * place.x + m_sizeIcon.cx; // the same margin on both sides of the icon
     if (bPushed)
-        text.OffsetRect(0, SINK);
+        text.OffsetRect(0, kSink);
     CString str;
     GetWindowText(str);
     dc.DrawText(str, text, DT_SINGLELINE | DT_VCENTER);

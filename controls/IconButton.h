@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// An owner-drawn button that shows an icon, alone in the middle or at the left of the
 /// button's text. It may stay down when it is tapped, and come up with the next tap.

@@ -2,13 +2,14 @@
 
 #include "controls/detail/SavedDC.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
+
+using namespace fieldkit::detail;
 
 namespace {
 
-constexpr int ICON_INFORMATION = 39;
-constexpr int INDENT = 2;
-constexpr int INDENT_BEHIND_ICON = 16;
+constexpr int kIndent = 2;
+constexpr int kIndentBehindIcon = 16;
 
 } // namespace
 
@@ -34,10 +35,10 @@ void CInfoStatic::OnPaint() {
     CRect rect;
     GetClientRect(rect);
     dc.FillSolidRect(rect, m_crBk);
-    int nIndent = INDENT;
+    int nIndent = kIndent;
     if (m_dwOption & OptionIcon) {
-        ::DrawIconEx(dc, 0, 0, TVGetCommonIcon(ICON_INFORMATION), 0, 0, 0, nullptr, DI_NORMAL);
-        nIndent = INDENT_BEHIND_ICON;
+        ::DrawIconEx(dc, 0, 0, TVGetCommonIcon(TVICON_INFORMATION), 0, 0, 0, nullptr, DI_NORMAL);
+        nIndent = kIndentBehindIcon;
     }
     CString str;
     GetWindowText(str);

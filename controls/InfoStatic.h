@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A one-line static text. Neither setter redraws: invalidate the control if it is visible.
 class FIELDKIT_API CInfoStatic : public CStatic {

@@ -2,8 +2,8 @@
 
 namespace {
 
-constexpr COLORREF HIGHLIGHT_TEXT = RGB(0, 0, 0);
-constexpr COLORREF HIGHLIGHT_BACKGROUND = RGB(0, 255, 255);
+constexpr COLORREF kHighlightText = RGB(0, 0, 0);
+constexpr COLORREF kHighlightBackground = RGB(0, 255, 255);
 
 } // namespace
 
@@ -25,8 +25,8 @@ void CSelectListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult) {
         return;
     case CDDS_ITEMPREPAINT:
         if (GetItemAttribute(static_cast<int>(pDraw->nmcd.dwItemSpec)) & AttributeHighlight) {
-            pDraw->clrText = HIGHLIGHT_TEXT;
-            pDraw->clrTextBk = HIGHLIGHT_BACKGROUND;
+            pDraw->clrText = kHighlightText;
+            pDraw->clrTextBk = kHighlightBackground;
         }
         *pResult = CDRF_NEWFONT; // also for new colours
         return;

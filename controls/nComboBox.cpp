@@ -2,6 +2,8 @@
 
 #include "controls/detail/SipMode.h"
 
+using namespace fieldkit::detail;
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CnComboBox, CComboBox)
     ON_CONTROL_REFLECT(CBN_SETFOCUS, &CnComboBox::OnSetfocus)

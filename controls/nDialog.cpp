@@ -4,22 +4,24 @@
 
 #include <utility>
 
+using namespace fieldkit::detail;
+
 namespace {
 
 // The part of the device's screen between its two bars.
-constexpr int SCREEN_LEFT = 0;
-constexpr int SCREEN_RIGHT = 240;
-constexpr int SCREEN_TOP = 26;
-constexpr int SCREEN_BOTTOM = 294;
+constexpr int kScreenLeft = 0;
+constexpr int kScreenRight = 240;
+constexpr int kScreenTop = 26;
+constexpr int kScreenBottom = 294;
 
-constexpr SIZE FRAME_THICKNESS = {1, 1};
+constexpr SIZE kFrameThickness = {1, 1};
 
 /// Draws the drag frame on the screen by inverting it; the frame before, if there is one, is
 /// inverted back in the same call.
 void DrawFrame(const CRect& frame, const CRect* pPrevious) {
     CWindowDC screen(nullptr);
-    screen.DrawDragRect(frame, FRAME_THICKNESS, pPrevious != nullptr ? LPCRECT(*pPrevious) : nullptr,
-                        FRAME_THICKNESS);
+    screen.DrawDragRect(frame, kFrameThickness, pPrevious != nullptr ? LPCRECT(*pPrevious) : nullptr,
+                        kFrameThickness);
 }
 
 } // namespace
@@ -160,16 +162,16 @@ CRect CnDialog::DragCandidate(CPoint point) const {
     CRect frame;
     GetWindowRect(frame);
     frame.OffsetRect(point - *m_ptPress);
-    if (frame.top < SCREEN_TOP)
-        frame.OffsetRect(0, SCREEN_TOP - frame.top);
-    else if (frame.bottom > SCREEN_BOTTOM)
-        frame.OffsetRect(0, SCREEN_BOTTOM - frame.bottom);
+    if (frame.top < kScreenTop)
+        frame.OffsetRect(0, kScreenTop - frame.top);
+    else if (frame.bottom > kScreenBottom)
+        frame.OffsetRect(0, kScreenBottom - frame.bottom);
     // At the right the frame may hang out until its left edge has left the screen too; then
     // it comes back whole, in one jump.
-    if (frame.left < SCREEN_LEFT)
+    if (frame.left < kScreenLeft)
         frame.OffsetRect(-frame.left, 0);
-    else if (frame.left > SCREEN_RIGHT)
-        frame.OffsetRect(SCREEN_RIGHT - frame.right, 0);
+    else if (frame.left > kScreenRight)
+        frame.OffsetRect(kScreenRight - frame.right, 0);
     return frame;
 }
 

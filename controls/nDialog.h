@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A dialog that follows one word of options: full screen or popup, OK button in the title
 /// bar, keys, dragging with the stylus, background colour.

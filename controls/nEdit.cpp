@@ -2,6 +2,8 @@
 
 #include "controls/detail/SipMode.h"
 
+using namespace fieldkit::detail;
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CnEdit, CEdit)
     ON_CONTROL_REFLECT(EN_SETFOCUS, &CnEdit::OnSetfocus)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/SipOption.h"
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// An entry field of a dialog that shows the soft input panel while it has the focus.
 ///

@@ -2,6 +2,8 @@
 
 #include "controls/detail/Gesture.h"
 
+using namespace fieldkit::detail;
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CnListBox, CListBox)
     ON_WM_LBUTTONDOWN()
@@ -14,5 +16,5 @@ void CnListBox::OnLButtonDown(UINT, CPoint) {
 }
 
 void CnListBox::OnRecognizeGesture(NMHDR*, LRESULT* pResult) {
-    *pResult = GESTURE_HANDLED;
+    *pResult = kGestureHandled;
 }

@@ -4,7 +4,7 @@
 
 #include <afxcmn.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A list box on which a resting stylus is a press from the first moment: the device asks
 /// each control before it waits for a press-and-hold, and this one has taken the stylus.

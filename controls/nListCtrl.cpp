@@ -2,6 +2,8 @@
 
 #include "controls/detail/Gesture.h"
 
+using namespace fieldkit::detail;
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CnListCtrl, CListCtrl)
     ON_WM_LBUTTONDOWN()
@@ -27,15 +29,15 @@ void CnListCtrl::OnItemchanged(NMHDR*, LRESULT* pResult) {
 /// Each item that is cleared brings a notification of its own. They are not answered one in
 /// the other, which would use up the stack for a long list with everything selected.
 void CnListCtrl::ClearSelection() {
-    constexpr UINT MASK = LVIS_SELECTED | LVIS_FOCUSED;
+    constexpr UINT kMask = LVIS_SELECTED | LVIS_FOCUSED;
     m_bClearing = true;
     for (int nLast = -1, nItem = -1; (nItem = GetNextItem(nLast, LVNI_SELECTED)) > nLast; nLast = nItem)
-        SetItemState(nItem, ~MASK, MASK);
+        SetItemState(nItem, ~kMask, kMask);
     m_bClearing = false;
     // An item with the focus alone may keep it.
     GetNextItem(-1, LVNI_FOCUSED);
 }
 
 void CnListCtrl::OnRecognizeGesture(NMHDR*, LRESULT* pResult) {
-    *pResult = GESTURE_HANDLED;
+    *pResult = kGestureHandled;
 }

@@ -5,7 +5,7 @@
 
 #include <afxcmn.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A list view on which a resting stylus is a press from the first moment.
 ///

@@ -4,7 +4,7 @@
 
 #include <afxdlgs.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A page of a property sheet that is set up like a plain dialog.
 class FIELDKIT_API CnPropertyPage : public CPropertyPage {

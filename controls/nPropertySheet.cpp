@@ -2,10 +2,12 @@
 
 #include "controls/detail/CommandBar.h"
 
+using namespace fieldkit::detail;
+
 namespace {
 
 /// A visible child, and in the low word the device's flags for a bar with a line below it.
-constexpr DWORD COMMAND_BAR_STYLE = WS_CHILD | WS_VISIBLE | 0x2800;
+constexpr DWORD kCommandBarStyle = WS_CHILD | WS_VISIBLE | 0x2800;
 
 } // namespace
 
@@ -33,7 +35,7 @@ void CnPropertySheet::SetOption(DWORD dwOption) {
 /// screen and with its command bar.
 BOOL CnPropertySheet::OnInitDialog() {
     ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
-    if (Has(OptionCommandBar) && m_wndCommandBar.Create(this, COMMAND_BAR_STYLE, AFX_IDW_TOOLBAR))
+    if (Has(OptionCommandBar) && m_wndCommandBar.Create(this, kCommandBarStyle, AFX_IDW_TOOLBAR))
         SetUpCommandBar(m_wndCommandBar);
     if (!Has(OptionOkButton))
         SHDoneButton(m_hWnd, SHDB_HIDE);

@@ -5,7 +5,7 @@
 #include <afxdlgs.h>
 #include <afxext.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A property sheet that fills the screen and follows one word of options, as CnDialog does.
 ///

@@ -1,7 +1,8 @@
 #include "dialogs/BrowseFolderDlg.h"
 
-#include "companion/Tesuvo.h"
+#include "Tesuvo.h"
 #include "dialogs/detail/FolderSearch.h"
+#include "dialogs/detail/LoadText.h"
 #include "dialogs/detail/RedrawPause.h"
 #include "resources/ResourceIds.h"
 
@@ -9,17 +10,17 @@
 #include <memory>
 #include <utility>
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr int IMAGE_SIZE = 16;
-constexpr int IMAGE_COUNT = 8; ///< Room at first, and more each time it is full.
-constexpr COLORREF IMAGE_BACKGROUND = RGB(255, 255, 255);
+constexpr int kImageSize = 16;
+constexpr int kImageCount = 8; ///< Room at first, and more each time it is full.
+constexpr COLORREF kImageBackground = RGB(255, 255, 255);
 
 /// Shared icons, in the order of the images.
-constexpr int ICONS[] = {31, 32, 42};
-constexpr int IMAGE_ROOT = 2;
-
-constexpr LPCTSTR ROOT_TEXT = L"ﾙｰﾄ";
+constexpr TVIcon kIcons[] = {TVICON_FOLDER, TVICON_CARD_FOLDER, TVICON_DEVICE};
+constexpr int kImageRoot = 2;
 
 /// 0 for a folder, 1 for a storage card: the device marks those as temporary.
 int ImageOf(const WIN32_FIND_DATA& entry) {
@@ -70,7 +71,7 @@ BOOL CBrowseFolderDlg::OnInitDialog() {
     {
         const RedrawPause pause(m_tree);
         m_bFilled = true;
-        const HTREEITEM hRoot = InsertFolder(TVI_ROOT, ROOT_TEXT, IMAGE_ROOT, ROOT_FOLDER);
+        const HTREEITEM hRoot = InsertFolder(TVI_ROOT, LoadText(IDS_FK_ROOT), kImageRoot, kRootFolder);
         MakeTreeSegment(hRoot, L"");
         m_tree.Expand(hRoot, TVE_EXPAND);
     }
@@ -81,9 +82,9 @@ BOOL CBrowseFolderDlg::OnInitDialog() {
 }
 
 void CBrowseFolderDlg::LoadImages() {
-    m_images.Create(IMAGE_SIZE, IMAGE_SIZE, ILC_COLOR, IMAGE_COUNT, IMAGE_COUNT);
-    m_images.SetBkColor(IMAGE_BACKGROUND);
-    for (const int nIcon : ICONS)
+    m_images.Create(kImageSize, kImageSize, ILC_COLOR, kImageCount, kImageCount);
+    m_images.SetBkColor(kImageBackground);
+    for (const TVIcon nIcon : kIcons)
         m_images.Add(TVGetCommonIcon(nIcon));
     m_tree.SetImageList(&m_images, TVSIL_NORMAL);
 }

@@ -1,17 +1,18 @@
 #include "dialogs/ButtonMenuDlg.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 #include <utility>
 
 #include "dialogs/detail/LoadText.h"
 #include "resources/ResourceIds.h"
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr int BUTTON_HEIGHT = 36; ///< Pixels, for a finger.
-constexpr int ICON_ENTRY = 26;
-constexpr int NOTHING_CHOSEN = -1;
+constexpr int kButtonHeight = 36; ///< Pixels, for a finger.
+constexpr int kNothingChosen = -1;
 
 } // namespace
 
@@ -23,7 +24,7 @@ END_MESSAGE_MAP()
 
 CButtonMenuDlg::CButtonMenuDlg(int nTitleId, CUIntArray* pEntryIds, CWnd* pParent)
     : CnDialog(IDD_FK_BUTTON_MENU, pParent), m_pEntryIds(pEntryIds), m_nTitleId(nTitleId),
-      m_nMenuIndex(NOTHING_CHOSEN) {
+      m_nMenuIndex(kNothingChosen) {
     SetOption(OptionPopup);
 }
 
@@ -44,8 +45,8 @@ void CButtonMenuDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CButtonMenuDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
-    m_nMenuIndex = NOTHING_CHOSEN; // a second run of the same dialog object
-    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * BUTTON_HEIGHT);
+    m_nMenuIndex = kNothingChosen; // a second run of the same dialog object
+    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * kButtonHeight);
     CreateButtons();
     SetWindowText(LoadText(m_nTitleId));
     CenterWindow();
@@ -66,15 +67,15 @@ void CButtonMenuDlg::CreateButtons() {
     m_buttons.RemoveAll();
     CRect rect;
     GetClientRect(rect);
-    rect.bottom = rect.top + BUTTON_HEIGHT;
+    rect.bottom = rect.top + kButtonHeight;
     for (INT_PTR i = 0; i < m_pEntryIds->GetSize(); ++i) {
         m_buttons.Add(nullptr); // the place first: without memory for it there must be no button
         auto* const pButton = m_buttons[i] = new CIconButton;
         pButton->Create(LoadText(static_cast<int>(m_pEntryIds->GetAt(i))), BS_OWNERDRAW | WS_VISIBLE, rect,
                         this, static_cast<UINT>(IDC_FK_MENU_FIRST + i));
-        pButton->SetIcon(TVGetCommonIcon(ICON_ENTRY));
+        pButton->SetIcon(TVGetCommonIcon(TVICON_MENU_ENTRY));
         pButton->SetButtonStyle(CIconButton::StyleText);
-        rect.OffsetRect(0, BUTTON_HEIGHT);
+        rect.OffsetRect(0, kButtonHeight);
     }
 }
 
@@ -90,13 +91,13 @@ int CButtonMenuDlg::FocusedEntry() const {
     const CWnd* const pFocus = GetFocus();
     const int nID = pFocus != nullptr && IsChild(pFocus) ? pFocus->GetDlgCtrlID() : 0;
     const bool bEntry = nID >= IDC_FK_MENU_FIRST && nID <= IDC_FK_MENU_LAST;
-    return bEntry ? nID - IDC_FK_MENU_FIRST : NOTHING_CHOSEN;
+    return bEntry ? nID - IDC_FK_MENU_FIRST : kNothingChosen;
 }
 
 void CButtonMenuDlg::OnOK() {
-    if (m_nMenuIndex == NOTHING_CHOSEN)
+    if (m_nMenuIndex == kNothingChosen)
         m_nMenuIndex = FocusedEntry();
-    if (m_nMenuIndex == NOTHING_CHOSEN)
+    if (m_nMenuIndex == kNothingChosen)
         return;
     DeleteButtons();
     CnDialog::OnOK();

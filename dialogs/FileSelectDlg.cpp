@@ -1,6 +1,6 @@
 #include "dialogs/FileSelectDlg.h"
 
-#include "companion/Tesuvo.h"
+#include "Tesuvo.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ResMsgBox.h"
 #include "dialogs/detail/FileName.h"
@@ -11,9 +11,9 @@
 
 #include <algorithm>
 
-namespace {
+using namespace fieldkit::detail;
 
-constexpr int ICON_FOLDER = 2;
+namespace {
 
 enum Column { ColumnName, ColumnTime, ColumnSize };
 
@@ -141,7 +141,7 @@ void CFileSelectDlg::DoDataExchange(CDataExchange* pDX) {
 }
 
 BOOL CFileSelectDlg::OnInitDialog() {
-    m_btnFile.Attach(IDC_FK_FILE_BROWSE, this, TVGetCommonIcon(ICON_FOLDER), 0);
+    m_btnFile.Attach(IDC_FK_FILE_BROWSE, this, TVGetCommonIcon(TVICON_FOLDER_BUTTON), 0);
     CnDialog::OnInitDialog();
     ShowTitle();
     ShowFolder();
@@ -155,9 +155,9 @@ BOOL CFileSelectDlg::OnInitDialog() {
 }
 
 void CFileSelectDlg::ShowTitle() {
-    constexpr int TITLES[] = {IDS_FK_OPEN_FILE, IDS_FK_SAVE_AS, IDS_FK_CREATE_NEW};
+    constexpr int kTitles[] = {IDS_FK_OPEN_FILE, IDS_FK_SAVE_AS, IDS_FK_CREATE_NEW};
     if (m_nMode >= ModeOpen && m_nMode <= ModeNew)
-        SetWindowText(LoadText(TITLES[m_nMode]));
+        SetWindowText(LoadText(kTitles[m_nMode]));
 }
 
 void CFileSelectDlg::ShowFolder() {
@@ -215,18 +215,19 @@ void CFileSelectDlg::InitColumns() {
         int nText;
         int nWidth; ///< Pixels.
     };
-    constexpr Heading HEADINGS[] = {{IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
+    constexpr Heading kHeadings[] = {
+        {IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
     for (int nColumn = ColumnName; nColumn <= ColumnSize; ++nColumn)
-        m_lstFiles.InsertColumn(nColumn, LoadText(HEADINGS[nColumn].nText), LVCFMT_LEFT,
-                                HEADINGS[nColumn].nWidth, nColumn);
+        m_lstFiles.InsertColumn(nColumn, LoadText(kHeadings[nColumn].nText), LVCFMT_LEFT,
+                                kHeadings[nColumn].nWidth, nColumn);
 }
 
 /// In a wide font the end of the time would be cut off. The list then gets the widest form of the
 /// dialog's font in which any time fits its column; the height stays, so that it can be read.
 void CFileSelectDlg::ChooseListFont() {
-    constexpr LPCTSTR WIDEST_TIME = L"2000/00/00 00:00";
-    constexpr int CELL_MARGINS = 12;
-    const int nRoom = m_lstFiles.GetColumnWidth(ColumnTime) - CELL_MARGINS;
+    constexpr LPCTSTR kWidestTime = L"2000/00/00 00:00";
+    constexpr int kCellMargins = 12;
+    const int nRoom = m_lstFiles.GetColumnWidth(ColumnTime) - kCellMargins;
     CFont* const pDialogFont = GetFont();
     LOGFONT look = {};
     if (pDialogFont == nullptr || !pDialogFont->GetLogFont(&look))
@@ -238,7 +239,7 @@ void CFileSelectDlg::ChooseListFont() {
     look.lfWidth = metrics.tmAveCharWidth;
     m_lstFiles.SetFont(pDialogFont, FALSE);
     m_fontList.DeleteObject(); // of another run
-    while (dc.GetTextExtent(WIDEST_TIME).cx > nRoom && --look.lfWidth > 0) {
+    while (dc.GetTextExtent(kWidestTime).cx > nRoom && --look.lfWidth > 0) {
         dc.SelectObject(pDialogFont);
         m_fontList.DeleteObject();
         m_fontList.CreateFontIndirect(&look);

@@ -3,6 +3,8 @@
 #include "dialogs/detail/LoadText.h"
 #include "resources/ResourceIds.h"
 
+using namespace fieldkit::detail;
+
 CInputDlg::CInputDlg(int nMessageId, int nCaptionId, CWnd* pParent)
     : CInputDlg(LoadText(nMessageId), LoadText(nCaptionId), pParent) {}
 

@@ -8,18 +8,20 @@
 #include <string_view>
 #include <vector>
 
+using namespace fieldkit::detail;
+
 namespace {
 
-constexpr UINT ERROR_TYPE = MB_OK | MB_ICONERROR;
-constexpr UINT WARNING_TYPE = MB_YESNO | MB_ICONEXCLAMATION;
-constexpr UINT INFORMATION_TYPE = MB_OK | MB_ICONINFORMATION;
+constexpr UINT kErrorType = MB_OK | MB_ICONERROR;
+constexpr UINT kWarningType = MB_YESNO | MB_ICONEXCLAMATION;
+constexpr UINT kInformationType = MB_OK | MB_ICONINFORMATION;
 
 /// Pixels of a message box around its text: icon, buttons, margins and frame.
-constexpr int BESIDE_TEXT = 76;
-constexpr int ABOVE_AND_BELOW_TEXT = 100;
+constexpr int kBesideText = 76;
+constexpr int kAboveAndBelowText = 100;
 
 /// Lines that are shown on the smallest screen.
-constexpr int FEWEST_LINES = 8;
+constexpr int kFewestLines = 8;
 
 using View = std::wstring_view;
 
@@ -55,8 +57,8 @@ bool IsAttached(wchar_t ch) {
 /// How much of a line fits into the width, disregarding words. Measures little more than that:
 /// the line may be the rest of a very long one.
 size_t CharactersWithin(const CDC& dc, View line, int nWidth) {
-    constexpr size_t FIRST_TRY = 64;
-    for (size_t nTry = FIRST_TRY;; nTry *= 2) {
+    constexpr size_t kFirstTry = 64;
+    for (size_t nTry = kFirstTry;; nTry *= 2) {
         const size_t nMeasured = std::min(nTry, line.size());
         int nFit = 0;
         CSize size;
@@ -100,12 +102,12 @@ std::vector<View> BreakIntoLines(const CDC& dc, View text, int nWidth) {
 
 /// Leaves the middle of too many lines out: the question comes last.
 void Shorten(std::vector<View>& lines, size_t nMost) {
-    constexpr size_t LAST_LINES = 4;
+    constexpr size_t kLastLines = 4;
     if (lines.size() <= nMost)
         return;
-    const auto itLeftOut = lines.begin() + static_cast<std::ptrdiff_t>(nMost - LAST_LINES - 1);
+    const auto itLeftOut = lines.begin() + static_cast<std::ptrdiff_t>(nMost - kLastLines - 1);
     *itLeftOut = L"\u2026";
-    lines.erase(itLeftOut + 1, lines.end() - LAST_LINES);
+    lines.erase(itLeftOut + 1, lines.end() - kLastLines);
 }
 
 /// Breaks lines that are too long for the screen. Not every system does that with a long name,
@@ -116,9 +118,9 @@ std::wstring FitToScreen(View text) {
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics); // may have no memory for it
     const int nLineHeight = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
-    const int nMost = (::GetSystemMetrics(SM_CYSCREEN) - ABOVE_AND_BELOW_TEXT) / nLineHeight;
-    std::vector<View> lines = BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - BESIDE_TEXT);
-    Shorten(lines, static_cast<size_t>(std::max(nMost, FEWEST_LINES)));
+    const int nMost = (::GetSystemMetrics(SM_CYSCREEN) - kAboveAndBelowText) / nLineHeight;
+    std::vector<View> lines = BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - kBesideText);
+    Shorten(lines, static_cast<size_t>(std::max(nMost, kFewestLines)));
     std::wstring result(lines.front());
     for (size_t i = 1; i < lines.size(); ++i)
         result.append(L"\n").append(lines[i]);
@@ -165,7 +167,7 @@ int CResMsgBox::ErrorMsgBox(unsigned int nTextId) {
 }
 
 int CResMsgBox::ErrorMsgBox(const wchar_t* pszText) {
-    return MsgBox(pszText, IDS_FK_ERROR, ERROR_TYPE);
+    return MsgBox(pszText, IDS_FK_ERROR, kErrorType);
 }
 
 int CResMsgBox::WarningMsgBox(unsigned int nTextId) {
@@ -173,7 +175,7 @@ int CResMsgBox::WarningMsgBox(unsigned int nTextId) {
 }
 
 int CResMsgBox::WarningMsgBox(const wchar_t* pszText) {
-    return MsgBox(pszText, IDS_FK_WARNING, WARNING_TYPE);
+    return MsgBox(pszText, IDS_FK_WARNING, kWarningType);
 }
 
 int CResMsgBox::InformationMsgBox(unsigned int nTextId) {
@@ -181,5 +183,5 @@ int CResMsgBox::InformationMsgBox(unsigned int nTextId) {
 }
 
 int CResMsgBox::InformationMsgBox(const wchar_t* pszText) {
-    return MsgBox(pszText, IDS_FK_INFORMATION, INFORMATION_TYPE);
+    return MsgBox(pszText, IDS_FK_INFORMATION, kInformationType);
 }

@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// Shows the system's message box above the active window of the calling thread, or without
 /// an owner if there is none.

@@ -3,6 +3,8 @@
 #include "dialogs/detail/LoadText.h"
 #include "resources/ResourceIds.h"
 
+using namespace fieldkit::detail;
+
 CResultDlg::CResultDlg(const wchar_t* pszMessage, const wchar_t* pszCaption, CWnd* pParent)
     : CnDialog(IDD_FK_RESULT, pParent), m_strMessage(pszMessage), m_strCaption(pszCaption) {
     SetOption(OptionPopup);

@@ -20,9 +20,9 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
-    static constexpr int LINE_BLOCK = 10;
+    static constexpr int kLineBlock = 10;
 
     CString m_strMessage;
     CString m_strCaption;
-    CStringList m_lines{LINE_BLOCK};
+    CStringList m_lines{kLineBlock};
 };

@@ -1,6 +1,6 @@
 #include "dialogs/SelMemberDlg.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 #include <memory>
 
@@ -8,9 +8,7 @@
 
 namespace {
 
-constexpr int ICON_UP = 4;
-constexpr int ICON_DOWN = 5;
-constexpr int AT_END = -1; // also what a list box says when nothing is selected
+constexpr int kAtEnd = -1; // also what a list box says when nothing is selected
 
 void Insert(CListBox& box, int nIndex, const CSelMemberItem& item) {
     box.SetItemData(box.InsertString(nIndex, item.m_strText), item.m_dwData);
@@ -25,7 +23,7 @@ CSelMemberItem ItemAt(const CListBox& box, int nIndex) {
 
 void Show(const CPtrList& list, CListBox& box) {
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
-        Insert(box, AT_END, *static_cast<const CSelMemberItem*>(list.GetNext(pos)));
+        Insert(box, kAtEnd, *static_cast<const CSelMemberItem*>(list.GetNext(pos)));
 }
 
 void TakeBack(const CListBox& box, CPtrList& list) {
@@ -84,8 +82,8 @@ LRESULT CSelMemberDlg::OnNcCalcSize(WPARAM, LPARAM lParam) {
 
 BOOL CSelMemberDlg::OnInitDialog() {
     m_nFrameCut = 0;
-    m_btnUp.Attach(IDC_FK_MEMBER_UP, this, TVGetCommonIcon(ICON_UP), 0);
-    m_btnDown.Attach(IDC_FK_MEMBER_DOWN, this, TVGetCommonIcon(ICON_DOWN), 0);
+    m_btnUp.Attach(IDC_FK_MEMBER_UP, this, TVGetCommonIcon(TVICON_UP), 0);
+    m_btnDown.Attach(IDC_FK_MEMBER_DOWN, this, TVGetCommonIcon(TVICON_DOWN), 0);
     CnDialog::OnInitDialog();
     SetWindowText(m_strTitle);
     Show(m_listAvailable, m_lbAvailable);
@@ -122,7 +120,7 @@ void CSelMemberDlg::OnBtnDel() {
         return;
     const CSelMemberItem item = ItemAt(m_lbCurrent, nSelected);
     if (item.m_dwData != CSelMemberItem::BLANK)
-        Insert(m_lbAvailable, AT_END, item);
+        Insert(m_lbAvailable, kAtEnd, item);
     m_lbCurrent.DeleteString(static_cast<UINT>(nSelected));
 }
 

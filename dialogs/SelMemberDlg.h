@@ -14,11 +14,11 @@
 /// hold new items, as the user left them; after cancel they are untouched. The items are the
 /// caller's: the dialog's destructor frees none, so call FlashSelMemberList for both lists.
 class FIELDKIT_API CSelMemberDlg : public CnDialog {
-    static constexpr int ITEM_BLOCK = 10;
+    static constexpr int kItemBlock = 10;
 
 public:
-    CPtrList m_listAvailable{ITEM_BLOCK}; ///< CSelMemberItem* that can be added.
-    CPtrList m_listCurrent{ITEM_BLOCK};   ///< CSelMemberItem* in use.
+    CPtrList m_listAvailable{kItemBlock}; ///< CSelMemberItem* that can be added.
+    CPtrList m_listCurrent{kItemBlock};   ///< CSelMemberItem* in use.
 
     /// @param strTitle the caption
     CSelMemberDlg(const CString& strTitle, CWnd* pParent);

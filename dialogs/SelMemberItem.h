@@ -4,7 +4,7 @@
 
 #include <afx.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A member that can be chosen and put in order: a column, a field.
 class FIELDKIT_API CSelMemberItem {

@@ -3,6 +3,10 @@
 /// Included by afxwin.h.
 #pragma once
 
+#include "afxcoll.h"
+#include "afxtempl.h"
+#include "afxwnd_.h"
+
 /// The user-interface thread: its message loop and main window.
 class AFX_CORE CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)

@@ -2,6 +2,9 @@
 /// List and combo boxes. Included by afxwin.h.
 #pragma once
 
+#include "afxsend_.h"
+#include "afxwnd_.h"
+
 /// A list box. Items count from 0; LB_ERR stands for none and for failure.
 class AFX_CORE CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)

@@ -3,6 +3,8 @@
 /// afxwin.h.
 #pragma once
 
+#include "afx.h"
+
 #include <exception>
 #include <new>
 

@@ -5,21 +5,8 @@
 /// what a control answers on failure (LB_ERR and the like) is its result.
 #pragma once
 
-/// Sends a message whose result is a number, an index or a flag.
-inline int AfxSendInt(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    return static_cast<int>(::SendMessage(hWnd, message, wParam, lParam));
-}
-
-/// Sends a message whose lParam is a pointer.
-inline int AfxSendPointer(HWND hWnd, UINT message, WPARAM wParam, const void* pParam) {
-    return AfxSendInt(hWnd, message, wParam, reinterpret_cast<LPARAM>(pParam));
-}
-
-/// Sends a message whose result is a handle of the kind that lParam gives, or null.
-template <class Handle>
-Handle AfxSendHandle(HWND hWnd, UINT message, WPARAM wParam, Handle hParam) {
-    return reinterpret_cast<Handle>(::SendMessage(hWnd, message, wParam, reinterpret_cast<LPARAM>(hParam)));
-}
+#include "afxsend_.h"
+#include "afxwnd_.h"
 
 /// A static text, icon or bitmap.
 class AFX_CORE CStatic : public CWnd {
@@ -236,5 +223,3 @@ public:
     /// @return the largest position that the thumb can reach
     int GetScrollLimit();
 };
-
-#include "afxbox_.h"

@@ -9,6 +9,8 @@
 /// it was. All throw CNotSupportedException* if the dialog has no such control.
 #pragma once
 
+#include "afxwnd_.h"
+
 /// One run of data exchange.
 class AFX_CORE CDataExchange {
 public:

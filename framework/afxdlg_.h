@@ -2,6 +2,10 @@
 /// CDialog: modal and modeless dialogs from templates. Included by afxwin.h.
 #pragma once
 
+#include "afxwnd_.h"
+
+#include <memory>
+
 /// A dialog box from a template.
 ///
 /// As on the device, a dialog is full screen unless m_bFullScreen is cleared before it is
@@ -92,4 +96,6 @@ private:
 
     BOOL CreateFromResource(CWnd* pParentWnd);
     void EnterFullScreen();
+
+    std::unique_ptr<CWnd> m_pEmptyBar; ///< What m_pWndEmptyCB shows.
 };

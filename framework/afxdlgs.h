@@ -9,9 +9,12 @@
 #include <memory>
 #include <vector>
 
+class CPropertySheet;
+
+namespace fieldkit::detail {
 class CCreateHook;
 class CDialogTemplateCopy;
-class CPropertySheet;
+} // namespace fieldkit::detail
 
 /// Control identifier of a sheet's row of tabs.
 constexpr UINT AFX_IDC_TAB_CONTROL = 0x3020;
@@ -106,8 +109,10 @@ private:
 
     CString m_strCaption;
     BOOL m_bFirstSetActive = TRUE;
-    std::unique_ptr<CDialogTemplateCopy> m_pTemplate; ///< The system reads, and may write, here.
-    std::unique_ptr<CCreateHook> m_pHook;             ///< While the page's window is being created.
+    /// The system reads, and may write, here.
+    std::unique_ptr<fieldkit::detail::CDialogTemplateCopy> m_pTemplate;
+    /// While the page's window is being created.
+    std::unique_ptr<fieldkit::detail::CCreateHook> m_pHook;
 };
 
 /// A dialog of several pages with tabs, or (after SetWizardMode) with Back and Next.
@@ -229,4 +234,5 @@ private:
     std::vector<CPropertyPage*> m_pages;
     DWORD m_dwStyle = static_cast<DWORD>(-1); ///< Wanted by Create.
     DWORD m_dwExStyle = 0;
+    std::unique_ptr<CWnd> m_pEmptyBar; ///< What m_pWndEmptyCB shows.
 };

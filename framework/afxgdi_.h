@@ -3,6 +3,9 @@
 /// contexts themselves. Included by afxwin.h.
 #pragma once
 
+#include "afx.h"
+#include "atltypes.h"
+
 class CBitmap;
 class CDC;
 class CWnd;

@@ -2,6 +2,8 @@
 /// Image lists. Included by afxcmn.h.
 #pragma once
 
+#include "afxwin.h"
+
 /// A row of equally sized images.
 ///
 /// An object that was created or attached owns its list and destroys it in its destructor.

@@ -2,6 +2,8 @@
 /// The list view. Included by afxcmn.h.
 #pragma once
 
+#include "afximl_.h"
+
 /// A list view. Items, sub-items and columns count from 0; -1 stands for none and for
 /// failure; sub-item 0 is the item itself.
 class AFX_CORE CListCtrl : public CWnd {

@@ -7,6 +7,8 @@
 /// macros check each handler's signature when they are compiled.
 #pragma once
 
+#include "afxtypes.h"
+
 #include <cstring>
 
 class CCmdTarget;

@@ -2,6 +2,8 @@
 /// The tree view. Included by afxcmn.h.
 #pragma once
 
+#include "afximl_.h"
+
 /// A tree view. Null stands for no item and for failure.
 class AFX_CORE CTreeCtrl : public CWnd {
     DECLARE_DYNAMIC(CTreeCtrl)

@@ -14,11 +14,17 @@
 
 #include <commctrl.h>
 
-#include "afxmsg_.h"
+// Drawing.
 #include "afxgdi_.h"
+// Windows and their messages.
+#include "afxmsg_.h"
 #include "afxwnd_.h"
-#include "afxapp_.h"
 #include "afxcall_.h"
-#include "afxdlg_.h"
-#include "afxctl_.h"
+// Application and module.
+#include "afxapp_.h"
+// Dialogs.
 #include "afxdd_.h"
+#include "afxdlg_.h"
+// Controls.
+#include "afxbox_.h"
+#include "afxctl_.h"

@@ -3,6 +3,10 @@
 /// derive from. Included by afxwin.h.
 #pragma once
 
+#include "afx.h"
+#include "afxmsg_.h"
+#include "atltypes.h"
+
 class CDataExchange;
 class CFont;
 class CRgn;
@@ -391,7 +395,6 @@ protected:
 
 private:
     friend class CDialog;
-    friend class CDeviceCaption;
     friend struct AfxWndAccess;
 
     CWnd(const CWnd&) = delete;

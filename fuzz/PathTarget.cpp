@@ -1,10 +1,12 @@
 // File names: split into their parts, and counted up.
 #include "Targets.h"
 
-#include "PathParts.h"
+#include "companion/detail/PathParts.h"
 #include "Tesuvo.h"
 
 #include <string>
+
+using namespace fieldkit::detail;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "geometry/Vector.h"
 
-#include "geometry/internal/Turn.h"
+#include "geometry/detail/Turn.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "geometry/Vector.h"
 
-#include "geometry/internal/ArcDirections.h"
-#include "geometry/internal/Turn.h"
-#include "geometry/internal/Within.h"
+#include "geometry/detail/ArcDirections.h"
+#include "geometry/detail/Turn.h"
+#include "geometry/detail/Within.h"
 
 #include <algorithm>
 #include <limits>

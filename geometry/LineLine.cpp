@@ -1,6 +1,6 @@
 #include "geometry/Vector.h"
 
-#include "geometry/internal/Within.h"
+#include "geometry/detail/Within.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "geometry/Constants.h"
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 #include <cmath>
 

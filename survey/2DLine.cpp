@@ -1,15 +1,18 @@
 #include "survey/2DLine.h"
 
+#include "survey/detail/Pi.h"
+
 #include <cmath>
+
+using fieldkit::survey::kPi;
 
 namespace {
 
 constexpr double kNegligible = 1e-05; ///< of a coefficient, and of an angle in radians
 constexpr double kNotFinite = 1e+32;
 
-constexpr double kPi = 3.141592653589793;
-constexpr double kHalfPi = 1.5707963267948966;
-constexpr double kThreeHalfPi = 4.71238898038469;
+constexpr double kHalfPi = kPi / 2;
+constexpr double kThreeHalfPi = 3 * kPi / 2;
 
 enum Status { Oblique = 0, NorthSouth = 1, EastWest = 2, Undefined = 3 };
 

@@ -1,23 +1,24 @@
 #include "survey/AngleEdit.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
+#include "survey/detail/Pi.h"
 
 #include <cmath>
 #include <cwchar>
 #include <limits>
 
+using fieldkit::survey::kPi;
+
 namespace {
 
-constexpr double PI = 3.141592653589793;
-
 // In tenths of a second.
-constexpr int DEGREE = 36000;
-constexpr int MINUTE = 600;
+constexpr int kDegree = 36000;
+constexpr int kMinute = 600;
 
 // In units of the packed number's fifth decimal.
-constexpr double PACKED_DEGREE = 100000.0;
-constexpr int PACKED_MINUTE = 1000;
-constexpr int PACKED_SECOND = 10;
+constexpr double kPackedDegree = 100000.0;
+constexpr int kPackedMinute = 1000;
+constexpr int kPackedSecond = 10;
 
 /// Rounds by way of decimal text. Numbers beyond the range count as its ends, and those that
 /// have no digits (infinity, NaN) as 0.
@@ -74,21 +75,21 @@ void CAngleEdit::SetConvActive(int nActive) {
 void CAngleEdit::RadToDMS(double dAngle, int* pDegree, int* pMinute, double* pSecond) {
     const int nSign = dAngle < 0 ? -1 : 1;
     // Rounded once and as a whole, so that minutes and seconds never come to 60.
-    const int nTenths = Rounded(std::abs(dAngle) * 3600 * 180 * 10 / PI);
-    *pDegree = nSign * nTenths / DEGREE;
-    *pMinute = nTenths % DEGREE / MINUTE;
-    *pSecond = nTenths % MINUTE / 10.0;
+    const int nTenths = Rounded(std::abs(dAngle) * 3600 * 180 * 10 / kPi);
+    *pDegree = nSign * nTenths / kDegree;
+    *pMinute = nTenths % kDegree / kMinute;
+    *pSecond = nTenths % kMinute / 10.0;
 }
 
 double CAngleEdit::DegToRad(double dDegree) {
     const double dSign = dDegree < 0 ? -1.0 : 1.0;
-    const int nPacked = Rounded(std::abs(dDegree) * PACKED_DEGREE);
-    const int nDegree = nPacked / static_cast<int>(PACKED_DEGREE);
-    const int nMinute = nPacked % static_cast<int>(PACKED_DEGREE) / PACKED_MINUTE;
-    const int nSecond = nPacked % PACKED_MINUTE / PACKED_SECOND;
-    const int nTenth = nPacked % PACKED_SECOND;
+    const int nPacked = Rounded(std::abs(dDegree) * kPackedDegree);
+    const int nDegree = nPacked / static_cast<int>(kPackedDegree);
+    const int nMinute = nPacked % static_cast<int>(kPackedDegree) / kPackedMinute;
+    const int nSecond = nPacked % kPackedMinute / kPackedSecond;
+    const int nTenth = nPacked % kPackedSecond;
     // Rounding depends on the order of the steps.
-    return dSign * ((((nTenth / 10.0 + nSecond) / 60.0 + nMinute) / 60.0 + nDegree) * PI / 180.0);
+    return dSign * ((((nTenth / 10.0 + nSecond) / 60.0 + nMinute) / 60.0 + nDegree) * kPi / 180.0);
 }
 
 double CAngleEdit::RadToDeg(double dAngle) {

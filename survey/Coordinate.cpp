@@ -1,6 +1,6 @@
 #include "survey/Coordinate.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,6 @@ namespace {
 /// Members closer than this are equal, job units.
 constexpr double kSame = 1e-6;
 
-constexpr int kDecimalsSetting = 1280;
 constexpr LPCTSTR kFormats[] = {_T("%.1lf"), _T("%.2lf"), _T("%.3lf"), _T("%.4lf"), _T("%.5lf")};
 
 } // namespace
@@ -102,7 +101,7 @@ CString CCoordinate::GenCoordString(double v) const {
     if (v == kNull)
         return text;
     constexpr int kLast = static_cast<int>(std::size(kFormats)) - 1;
-    text.Format(kFormats[std::clamp(TVGetCommonRegInt(kDecimalsSetting), 0, kLast)], v);
+    text.Format(kFormats[std::clamp(TVGetCommonRegInt(TVSETTING_DECIMALS), 0, kLast)], v);
     return text;
 }
 

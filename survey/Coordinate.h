@@ -2,7 +2,7 @@
 /// The survey point.
 #pragma once
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 #include <afx.h>
 

@@ -32,5 +32,5 @@ run_proofs() {
 # "@name@" becomes its number, for the kernel's constants and the margins between the lemmas.
 proof_numbers() {
     sed -nE 's/^(inline constexpr double )?([km][A-Za-z0-9]+) = ([-+.0-9a-fxp]+);?( .*)?$/s|@\2@|\3|g/p' \
-        "$root"/geometry/Constants.h "$root"/geometry/internal/Limits.h "$root"/geometry/proofs/margins.txt
+        "$root"/geometry/Constants.h "$root"/geometry/detail/Limits.h "$root"/geometry/proofs/margins.txt
 }

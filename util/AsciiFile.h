@@ -4,7 +4,7 @@
 
 #include <afx.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 /// A file of 8-bit text lines in the OEM code page, each ended by CR LF.
 ///

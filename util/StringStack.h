@@ -4,7 +4,7 @@
 
 #include <afxcoll.h>
 
-#include "geometry/Export.h"
+#include "api/Export.h"
 
 class CComboBox;
 
@@ -29,7 +29,7 @@ public:
     /// @param nMode one of Mode
     /// @param nMax  capacity: the number of texts from which on Add drops one for each new
     ///              one. With 0 and less it keeps one text.
-    CStringStack(int nMode = ModeWhole, int nMax = DEFAULT_CAPACITY);
+    CStringStack(int nMode = ModeWhole, int nMax = kDefaultCapacity);
     ~CStringStack() override;
 
     /// Records an entry. A full list loses its last text for it. Want of memory changes nothing.
@@ -56,8 +56,8 @@ protected:
     void SeparateHeaderToParam(const wchar_t* psz, CString& strHeader, CString& strParam);
 
 private:
-    static constexpr int DEFAULT_CAPACITY = 20;
-    static constexpr int ENTRY_BLOCK = 10;
+    static constexpr int kDefaultCapacity = 20;
+    static constexpr int kEntryBlock = 10;
 
     CString KeyOf(const wchar_t* psz);
     POSITION FindKey(const CString& strKey);
@@ -65,7 +65,7 @@ private:
     void Store(CArchive& ar) const;
     void Load(CArchive& ar);
 
-    CStringList m_list{ENTRY_BLOCK};
+    CStringList m_list{kEntryBlock};
     int m_nMode;
     int m_nMax;
 };

@@ -13,7 +13,7 @@ namespace bench {
 namespace {
 
 /// Where the process leaves its result, on the drive that is measured.
-constexpr LPCTSTR RESULT = L"\\result";
+constexpr LPCTSTR kResult = L"\\result";
 
 /// A dialog that ends when it has been opened and drawn.
 template <class Dialog>
@@ -67,12 +67,12 @@ Cost Open(What what, const CString& strFolder) {
 /// The first windows of a process load fonts and drawing code, whoever makes them. The pause lets
 /// the desktop repaint what they covered, which would go on beside the measured one.
 void WarmUp() {
-    constexpr DWORD PAUSE = 300; // ms
-    constexpr LPCTSTR NOWHERE = L"\\nowhere";
-    FillBareList(NOWHERE);
-    FillBareTree(NOWHERE);
-    OpenFiles(NOWHERE);
-    ::Sleep(PAUSE);
+    constexpr DWORD kPause = 300; // ms
+    constexpr LPCTSTR kNowhere = L"\\nowhere";
+    FillBareList(kNowhere);
+    FillBareTree(kNowhere);
+    OpenFiles(kNowhere);
+    ::Sleep(kPause);
 }
 
 } // namespace
@@ -93,11 +93,11 @@ Cost OpenInProcess(What what, const CString& strFolder) {
     ::CloseHandle(process.hProcess);
     Cost cost;
     {
-        CFile file(RESULT, CFile::modeRead);
+        CFile file(kResult, CFile::modeRead);
         if (file.Read(&cost, sizeof cost) != sizeof cost)
             throw std::runtime_error("no result");
     }
-    CFile::Remove(RESULT);
+    CFile::Remove(kResult);
     return cost;
 }
 
@@ -106,7 +106,7 @@ bool RunOpening(int argc, char** argv) {
         return false;
     WarmUp();
     const Cost cost = Open(static_cast<What>(std::stoi(argv[1])), CString(argv[2]));
-    CFile file(RESULT, CFile::modeCreate | CFile::modeWrite);
+    CFile file(kResult, CFile::modeCreate | CFile::modeWrite);
     file.Write(&cost, sizeof cost);
     return true;
 }

@@ -8,7 +8,7 @@ namespace bench {
 namespace {
 
 /// The most that a dialog may take for each file or folder beyond the system's own control.
-constexpr double BYTES_GOAL = 2048;
+constexpr double kBytesGoal = 2048;
 
 } // namespace
 
@@ -19,7 +19,7 @@ void Report::AddTime(const std::string& name, const Pair& pair, double goal) {
 void Report::AddMemory(const std::string& name, const Pair& pair, int nItems) {
     const double bare = pair.bare.bytes / nItems;
     const double ours = pair.ours.bytes / nItems;
-    Add({name + ", each", "bytes", false, bare, ours, ours - bare, BYTES_GOAL});
+    Add({name + ", each", "bytes", false, bare, ours, ours - bare, kBytesGoal});
 }
 
 void Report::Add(const Line& line) {

@@ -16,10 +16,10 @@ namespace {
 
 using bench::What;
 
-constexpr double DIALOG_GOAL = 1.3;
-constexpr double LINES_GOAL = 1.2;
-constexpr int DIALOG_ROUNDS = 9;
-constexpr int LINES_ROUNDS = 15;
+constexpr double kDialogGoal = 1.3;
+constexpr double kLinesGoal = 1.2;
+constexpr int kDialogRounds = 9;
+constexpr int kLinesRounds = 15;
 
 class BenchApp : public CWinApp {
 public:
@@ -31,9 +31,9 @@ BenchApp g_app;
 void MeasureOpenings(bench::Report& report, const std::string& name, What bare, What ours,
                      const CString& strFolder, int nItems) {
     const bench::Pair pair = bench::Compare(
-        DIALOG_ROUNDS, [&] { return bench::OpenInProcess(bare, strFolder); },
+        kDialogRounds, [&] { return bench::OpenInProcess(bare, strFolder); },
         [&] { return bench::OpenInProcess(ours, strFolder); });
-    report.AddTime(name, pair, DIALOG_GOAL);
+    report.AddTime(name, pair, kDialogGoal);
     report.AddMemory(name, pair, nItems);
 }
 
@@ -47,28 +47,28 @@ void MeasureFiles(bench::Report& report, int nFiles) {
 
 /// Two levels, and the last folder selected.
 void MeasureTree(bench::Report& report) {
-    constexpr int OUTER = 10;
-    constexpr int INNER = 499;
+    constexpr int kOuter = 10;
+    constexpr int kInner = 499;
     TestDrive drive;
-    drive.MakeMany(TestDrive::Folders, L"", "district %.0f", OUTER);
+    drive.MakeMany(TestDrive::Folders, L"", "district %.0f", kOuter);
     CString strOuter;
-    for (int i = 0; i < OUTER; ++i) {
+    for (int i = 0; i < kOuter; ++i) {
         strOuter.Format(L"\\district %d", i);
-        drive.MakeMany(TestDrive::Folders, strOuter, "site %03.0f", INNER);
+        drive.MakeMany(TestDrive::Folders, strOuter, "site %03.0f", kInner);
     }
-    constexpr int FOLDERS = OUTER * (INNER + 1);
-    MeasureOpenings(report, "tree of " + std::to_string(FOLDERS) + " folders", What::BareTree, What::Tree,
-                    strOuter + L"\\site 498", FOLDERS);
+    constexpr int kFolders = kOuter * (kInner + 1);
+    MeasureOpenings(report, "tree of " + std::to_string(kFolders) + " folders", What::BareTree, What::Tree,
+                    strOuter + L"\\site 498", kFolders);
 }
 
 void MeasureLines(bench::Report& report, const std::string& line) {
-    constexpr int LINES = 100000;
+    constexpr int kLines = 100000;
     const TestDrive drive;
     const CString strPath = L"\\lines.txt";
     {
         CFile file(strPath, CFile::modeCreate | CFile::modeWrite);
         std::string bytes;
-        for (int i = 0; i < LINES; ++i)
+        for (int i = 0; i < kLines; ++i)
             bytes += line + "\r\n";
         file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
     }
@@ -87,10 +87,10 @@ void MeasureLines(bench::Report& report, const std::string& line) {
         for (CString str; file.ReadString(str) != 0;)
             continue;
     };
-    report.AddTime(std::to_string(LINES) + " lines of " + std::to_string(line.size()) + " bytes",
+    report.AddTime(std::to_string(kLines) + " lines of " + std::to_string(line.size()) + " bytes",
                    bench::Compare(
-                       LINES_ROUNDS, [&] { return timed(bare); }, [&] { return timed(lines); }),
-                   LINES_GOAL);
+                       kLinesRounds, [&] { return timed(bare); }, [&] { return timed(lines); }),
+                   kLinesGoal);
 }
 
 int Run(const char* pszJson) {

@@ -1,11 +1,13 @@
 #include "Tesuvo.h"
 
-#include "SharedSetting.h"
+#include "companion/detail/SharedSetting.h"
 
 #include <charconv>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+
+using namespace fieldkit::detail;
 
 namespace {
 

@@ -3,12 +3,16 @@
 
 #include <afxext.h>
 
+namespace fieldkit::detail {
+
 /// Menu resource that an application may have for the command bar of its windows.
 constexpr UINT IDR_COMMAND_BAR = 130;
 
 /// Gives the bar the application's menu, if there is one, and buttons of 32 x 15 pixels.
 inline void SetUpCommandBar(CCeCommandBar& bar) {
-    constexpr LPARAM BUTTON_SIZE = 32 | 15 << 16;
+    constexpr LPARAM kButtonSize = 32 | 15 << 16;
     bar.InsertMenuBar(IDR_COMMAND_BAR);
-    bar.SendMessage(TB_SETBUTTONSIZE, 0, BUTTON_SIZE);
+    bar.SendMessage(TB_SETBUTTONSIZE, 0, kButtonSize);
 }
+
+} // namespace fieldkit::detail

@@ -3,6 +3,10 @@
 
 #include <afxwin.h>
 
+namespace fieldkit::detail {
+
 /// Result of NM_RECOGNIZEGESTURE: the control has dealt with the stylus, so the device shows
 /// neither its tap-and-hold circle nor a context menu.
-constexpr LRESULT GESTURE_HANDLED = 1;
+constexpr LRESULT kGestureHandled = 1;
+
+} // namespace fieldkit::detail

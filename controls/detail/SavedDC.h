@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+namespace fieldkit::detail {
+
 /// Gives a device context back with the attributes and the objects that it had.
 class SavedDC {
 public:
@@ -14,3 +16,5 @@ private:
     CDC& m_dc;
     int m_nSaved;
 };
+
+} // namespace fieldkit::detail

@@ -3,7 +3,9 @@
 
 #include "controls/SipOption.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
+
+namespace fieldkit::detail {
 
 constexpr bool UsesSip(DWORD dwOption) {
     return (dwOption & (SipOptionMode0 | SipOptionMode1 | SipOptionMode2)) != 0;
@@ -24,3 +26,5 @@ inline void CloseSip(DWORD dwOption) {
     if (UsesSip(dwOption))
         TVCloseSIP();
 }
+
+} // namespace fieldkit::detail

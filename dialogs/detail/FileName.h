@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+namespace fieldkit::detail {
+
 /// Why a name cannot be that of a file of a folder.
 enum class NameFault {
     None,
@@ -27,23 +29,23 @@ constexpr bool IsSameName(std::wstring_view a, std::wstring_view b) {
 }
 
 constexpr bool IsDeviceName(std::wstring_view name) {
-    constexpr std::array<std::wstring_view, 6> WHOLE = {L"CON", L"PRN",    L"AUX",
-                                                        L"NUL", L"CONIN$", L"CONOUT$"};
-    constexpr std::wstring_view NUMBERS = L"123456789\u00B9\u00B2\u00B3";
+    constexpr std::array<std::wstring_view, 6> kWhole = {L"CON", L"PRN",    L"AUX",
+                                                         L"NUL", L"CONIN$", L"CONOUT$"};
+    constexpr std::wstring_view kNumbers = L"123456789\u00B9\u00B2\u00B3";
     name = name.substr(0, name.find(L'.'));
     name = name.substr(0, name.find_last_not_of(L' ') + 1);
-    for (const std::wstring_view device : WHOLE)
+    for (const std::wstring_view device : kWhole)
         if (IsSameName(name, device))
             return true;
     const bool bPort = IsSameName(name.substr(0, 3), L"COM") || IsSameName(name.substr(0, 3), L"LPT");
-    return bPort && name.size() == 4 && NUMBERS.find(name[3]) != std::wstring_view::npos;
+    return bPort && name.size() == 4 && kNumbers.find(name[3]) != std::wstring_view::npos;
 }
 
 /// @param name without a folder; not empty
 constexpr NameFault FaultOf(std::wstring_view name) {
-    constexpr std::wstring_view RESERVED = L"<>:\"/\\|?*";
+    constexpr std::wstring_view kReserved = L"<>:\"/\\|?*";
     for (const wchar_t ch : name)
-        if (ch < L' ' || RESERVED.find(ch) != std::wstring_view::npos)
+        if (ch < L' ' || kReserved.find(ch) != std::wstring_view::npos)
             return NameFault::Character;
     if (name.ends_with(L'.') || name.ends_with(L' '))
         return NameFault::Ending;
@@ -55,3 +57,5 @@ constexpr NameFault FaultOf(std::wstring_view name) {
 constexpr bool IsEntryName(std::wstring_view name) {
     return name != L"." && name != L".." && name.find_first_of(L"\\/:") == std::wstring_view::npos;
 }
+
+} // namespace fieldkit::detail

@@ -2,19 +2,21 @@
 #pragma once
 
 #include "dialogs/detail/FileName.h"
+#include "framework/detail/LongPath.h"
 
 #include <afx.h>
 
 #include <string>
-#include <string_view>
+
+namespace fieldkit::detail {
 
 /// The root of the device's file system; on the desktop, of the current drive.
-constexpr LPCTSTR ROOT_FOLDER = L"\\";
+constexpr LPCTSTR kRootFolder = L"\\";
 
 /// The path of an entry of a folder. The root brings its own backslash: two of them at the
 /// beginning would make the entry's name the name of a server.
 inline CString PathIn(const CString& strFolder, LPCTSTR pszName) {
-    return strFolder == ROOT_FOLDER ? strFolder + pszName : strFolder + L"\\" + pszName;
+    return strFolder == kRootFolder ? strFolder + pszName : strFolder + L"\\" + pszName;
 }
 
 /// The form of a folder's path that the system takes at any length and does not edit, without
@@ -22,30 +24,10 @@ inline CString PathIn(const CString& strFolder, LPCTSTR pszName) {
 inline std::wstring SystemPath(const CString& strFolder) {
     // With the backslash "C:" means the root of the drive, not its current folder.
     const CString strWanted = PathIn(strFolder, L"");
-    const DWORD nSize = ::GetFullPathName(strWanted, 0, nullptr, nullptr);
-    std::wstring path(nSize, L'\0');
-    const DWORD nLength = ::GetFullPathName(strWanted, nSize, path.data(), nullptr);
-    path.resize(nLength < nSize ? nLength : 0);
+    std::wstring path = FullPath(strWanted);
     path.erase(path.find_last_not_of(L'\\') + 1);
-    const std::wstring_view view = path;
-    if (view.starts_with(L"\\\\?\\") || view.starts_with(L"\\\\.\\"))
-        return path;
-    if (view.starts_with(L"\\\\"))
-        return L"\\\\?\\UNC" + path.substr(1);
-    return L"\\\\?\\" + path;
+    return LongForm(path);
 }
-
-/// Keeps the system from asking for a card that is not in its drive.
-class QuietDrives {
-public:
-    QuietDrives() { ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, &m_nPrevious); }
-    ~QuietDrives() { ::SetThreadErrorMode(m_nPrevious, nullptr); }
-    QuietDrives(const QuietDrives&) = delete;
-    QuietDrives& operator=(const QuietDrives&) = delete;
-
-private:
-    DWORD m_nPrevious = 0;
-};
 
 /// Goes over the entries of one folder, in the order of the file system. A folder that cannot
 /// be read has none.
@@ -91,3 +73,5 @@ private:
     HANDLE m_hFind;
     bool m_bAtFirst = true;
 };
+
+} // namespace fieldkit::detail

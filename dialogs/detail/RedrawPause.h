@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+namespace fieldkit::detail {
+
 /// While it exists, a control takes new items without drawing or laying out anything; then
 /// it draws itself once.
 class RedrawPause {
@@ -18,3 +20,5 @@ public:
 private:
     CWnd& m_wnd;
 };
+
+} // namespace fieldkit::detail

@@ -1,10 +1,12 @@
-#include "../afx.h"
+#include "afx.h"
 #include "ArchiveObjects.h"
 #include "TextConvert.h"
 
 #include <algorithm>
 #include <cstring>
 #include <type_traits>
+
+using namespace fieldkit::detail;
 
 namespace {
 

@@ -2,7 +2,7 @@
 /// What an archive remembers of the objects and classes that went through it.
 #pragma once
 
-#include "../afx.h"
+#include "afx.h"
 
 #include <unordered_map>
 #include <vector>

@@ -1,8 +1,10 @@
-#include "../afx.h"
+#include "afx.h"
 #include "TextConvert.h"
 
 #include <algorithm>
 #include <limits>
+
+using namespace fieldkit::detail;
 
 // A length is one byte, or 0xFF and a word, or 0xFF, 0xFFFF and a double word. The word
 // 0xFFFE is no length: it says that wide characters follow, and the length comes after it.

@@ -1,4 +1,4 @@
-#include "../afxcoll.h"
+#include "afxcoll.h"
 
 IMPLEMENT_SERIAL(CStringList, CObject, 0)
 IMPLEMENT_SERIAL(CStringArray, CObject, 0)

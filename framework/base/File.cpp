@@ -2,6 +2,8 @@
 
 #include <memory>
 
+using namespace fieldkit::detail;
+
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
 const HANDLE CFile::hFileNull = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1));

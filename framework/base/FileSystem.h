@@ -3,9 +3,9 @@
 /// system error numbers (GetLastError on Windows, errno elsewhere), 0 is success.
 #pragma once
 
-#include "../afx.h"
+#include "afx.h"
 
-namespace filesystem {
+namespace fieldkit::detail::filesystem {
 
 using Error = LONG;
 
@@ -33,4 +33,4 @@ Error Remove(LPCTSTR path);
 CString FullPath(LPCTSTR path);
 bool IsSeparator(wchar_t ch) noexcept;
 
-} // namespace filesystem
+} // namespace fieldkit::detail::filesystem

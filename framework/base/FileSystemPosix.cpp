@@ -13,7 +13,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace filesystem {
+using namespace fieldkit::detail;
+
+namespace fieldkit::detail::filesystem {
 
 namespace {
 
@@ -203,7 +205,7 @@ bool IsSeparator(wchar_t ch) noexcept {
     return ch == L'/';
 }
 
-} // namespace filesystem
+} // namespace fieldkit::detail::filesystem
 
 int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     switch (lOsErr) {

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cwchar>
 
-namespace filesystem {
+using namespace fieldkit::detail;
+
+namespace fieldkit::detail::filesystem {
 
 namespace {
 
@@ -180,10 +182,14 @@ bool IsSeparator(wchar_t ch) noexcept {
     return ch == L'\\' || ch == L'/' || ch == L':';
 }
 
-} // namespace filesystem
+} // namespace fieldkit::detail::filesystem
+
+namespace {
 
 // ERROR_DISK_QUOTA_EXCEEDED, which not every system header knows.
-static constexpr LONG kDiskQuotaExceeded = 1295;
+constexpr LONG kDiskQuotaExceeded = 1295;
+
+} // namespace
 
 int AFXAPI CFileException::OsErrorToException(LONG lOsErr) {
     switch (lOsErr) {

@@ -1,9 +1,11 @@
-#include "../afx.h"
+#include "afx.h"
 #include "TextConvert.h"
 
 #include <algorithm>
 #include <cwchar>
 #include <string_view>
+
+using namespace fieldkit::detail;
 
 namespace {
 

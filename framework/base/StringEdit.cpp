@@ -1,8 +1,10 @@
-#include "../afxstr.h"
+#include "afxstr.h"
 #include "TextConvert.h"
 
 #include <algorithm>
 #include <string_view>
+
+using namespace fieldkit::detail;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "../afx.h"
+#include "afx.h"
 #include "TextConvert.h"
 
 #include <algorithm>
@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cwchar>
 #include <string_view>
+
+using namespace fieldkit::detail;
 
 // Each conversion is done alone, with the C library's narrow printf for numbers only.
 // Its wide one disagrees between systems about %s and cannot tell a short buffer from a

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace fieldkit::detail {
+
 /// Narrow text to wide: the ANSI code page on Windows, UTF-8 elsewhere. Never fails;
 /// bytes that mean nothing become the replacement character.
 std::wstring AfxWiden(std::string_view text);
@@ -21,3 +23,5 @@ std::string AfxToUtf8(std::wstring_view text);
 
 wchar_t AfxToUpper(wchar_t ch) noexcept;
 wchar_t AfxToLower(wchar_t ch) noexcept;
+
+} // namespace fieldkit::detail

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cwctype>
 
+using namespace fieldkit::detail;
+
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
@@ -46,7 +48,7 @@ Decoded DecodeUtf8(std::string_view text) {
 
 } // namespace
 
-std::wstring AfxWiden(std::string_view text) {
+std::wstring fieldkit::detail::AfxWiden(std::string_view text) {
     std::wstring wide;
     while (!text.empty()) {
         const Decoded decoded = DecodeUtf8(text);
@@ -56,7 +58,7 @@ std::wstring AfxWiden(std::string_view text) {
     return wide;
 }
 
-std::u16string AfxToUtf16(std::wstring_view text) {
+std::u16string fieldkit::detail::AfxToUtf16(std::wstring_view text) {
     std::u16string units;
     units.reserve(text.size());
     for (const wchar_t ch : text) {
@@ -74,7 +76,7 @@ std::u16string AfxToUtf16(std::wstring_view text) {
     return units;
 }
 
-std::wstring AfxFromUtf16(std::u16string_view text) {
+std::wstring fieldkit::detail::AfxFromUtf16(std::u16string_view text) {
     std::wstring wide;
     wide.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -86,7 +88,7 @@ std::wstring AfxFromUtf16(std::u16string_view text) {
     return wide;
 }
 
-std::string AfxToUtf8(std::wstring_view text) {
+std::string fieldkit::detail::AfxToUtf8(std::wstring_view text) {
     std::string bytes;
     const auto put = [&bytes](char32_t value) { bytes += static_cast<char>(value); };
     for (const wchar_t ch : text) {
@@ -112,11 +114,11 @@ std::string AfxToUtf8(std::wstring_view text) {
     return bytes;
 }
 
-wchar_t AfxToUpper(wchar_t ch) noexcept {
+wchar_t fieldkit::detail::AfxToUpper(wchar_t ch) noexcept {
     return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
 }
 
-wchar_t AfxToLower(wchar_t ch) noexcept {
+wchar_t fieldkit::detail::AfxToLower(wchar_t ch) noexcept {
     return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
 }
 

@@ -2,11 +2,13 @@
 
 #include "TextConvert.h"
 
-#include "../afxtypes.h"
+#include "afxtypes.h"
+
+using namespace fieldkit::detail;
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
-std::wstring AfxWiden(std::string_view text) {
+std::wstring fieldkit::detail::AfxWiden(std::string_view text) {
     if (text.empty())
         return {};
     const int nBytes = static_cast<int>(text.size());
@@ -16,21 +18,21 @@ std::wstring AfxWiden(std::string_view text) {
     return wide;
 }
 
-std::u16string AfxToUtf16(std::wstring_view text) {
+std::u16string fieldkit::detail::AfxToUtf16(std::wstring_view text) {
     return {text.begin(), text.end()};
 }
 
-std::wstring AfxFromUtf16(std::u16string_view text) {
+std::wstring fieldkit::detail::AfxFromUtf16(std::u16string_view text) {
     return {text.begin(), text.end()};
 }
 
 // The system's own mapping, not the C library's: it knows full-width letters in every locale.
-wchar_t AfxToUpper(wchar_t ch) noexcept {
+wchar_t fieldkit::detail::AfxToUpper(wchar_t ch) noexcept {
     CharUpperBuffW(&ch, 1);
     return ch;
 }
 
-wchar_t AfxToLower(wchar_t ch) noexcept {
+wchar_t fieldkit::detail::AfxToLower(wchar_t ch) noexcept {
     CharLowerBuffW(&ch, 1);
     return ch;
 }

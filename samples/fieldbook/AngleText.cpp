@@ -1,12 +1,13 @@
 #include "AngleText.h"
 
+#include "Turn.h"
+
 #include <cmath>
 
 CString DirectionText(double dRadians, bool bTenths) {
-    constexpr double PI = 3.14159265358979323846;
     const int nUnits = bTenths ? 10 : 1; // of a second
     const long long nTurn = 360LL * 3600 * nUnits;
-    long long nCount = std::llround(dRadians * 180 / PI * 3600 * nUnits) % nTurn;
+    long long nCount = std::llround(dRadians * 180 / kPi * 3600 * nUnits) % nTurn;
     if (nCount < 0)
         nCount += nTurn;
     const auto nSeconds = static_cast<int>(nCount / nUnits);

@@ -6,13 +6,17 @@
 #include "dialogs/FileSelectDlg.h"
 #include "dialogs/ResMsgBox.h"
 
+namespace {
+
 /// The soft input panel comes up as it was last when its button is tapped: for a name that
 /// must be with letters.
-static void PreparePanel() {
-    constexpr int LETTERS = 0;
-    TVShowSIP(LETTERS);
+void PreparePanel() {
+    constexpr int kLetters = 0;
+    TVShowSIP(kLetters);
     TVCloseSIP();
 }
+
+} // namespace
 
 CString AskForFile(CWnd& parent, CSettings& settings, int nMode, const CString& strName) {
     CFileSelectDlg dialog(&parent);

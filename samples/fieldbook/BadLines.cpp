@@ -14,8 +14,8 @@ void ShowBadLines(CWnd& parent, const std::vector<CBadLine>& badLines) {
     if (badLines.empty())
         return;
     const auto nCount = static_cast<int>(badLines.size());
-    constexpr int MOST_SHOWN = 100; // nobody reads more, and a file of another kind has thousands
-    const int nShown = std::min(nCount, MOST_SHOWN);
+    constexpr int kMostShown = 100; // nobody reads more, and a file of another kind has thousands
+    const int nShown = std::min(nCount, kMostShown);
     CResultDlg dialog(Text(IDS_BAD_LINES, nCount), Text(IDS_BAD_LINES_TITLE), &parent);
     for (int i = 0; i < nShown; ++i) {
         const CBadLine& bad = badLines[static_cast<size_t>(i)];

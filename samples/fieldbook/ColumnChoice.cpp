@@ -10,19 +10,19 @@
 
 namespace {
 
-constexpr Column COLUMNS[] = {Column::Name, Column::N, Column::E, Column::Z};
+constexpr Column kColumns[] = {Column::Name, Column::N, Column::E, Column::Z};
 
 /// The data of a column in the dialog: not the value of its enumerator, since that of a blank has
 /// a meaning there.
-constexpr unsigned long FIRST_DATA = 100;
+constexpr unsigned long kFirstData = 100;
 
 unsigned long DataOf(Column column) {
-    return column == Column::Blank ? CSelMemberItem::BLANK : FIRST_DATA + static_cast<unsigned long>(column);
+    return column == Column::Blank ? CSelMemberItem::BLANK : kFirstData + static_cast<unsigned long>(column);
 }
 
 Column ColumnOf(const CSelMemberItem& item) {
     return item.m_dwData == CSelMemberItem::BLANK ? Column::Blank
-                                                  : static_cast<Column>(item.m_dwData - FIRST_DATA);
+                                                  : static_cast<Column>(item.m_dwData - kFirstData);
 }
 
 CString TitleOf(Column column) {
@@ -43,7 +43,7 @@ public:
     }
 
     void SetColumns(const std::vector<Column>& columns) {
-        for (const Column column : COLUMNS)
+        for (const Column column : kColumns)
             if (std::find(columns.begin(), columns.end(), column) == columns.end())
                 Add(m_listAvailable, column);
         Add(m_listAvailable, Column::Blank);

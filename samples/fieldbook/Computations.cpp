@@ -9,33 +9,33 @@
 
 namespace {
 
-constexpr bool UNBOUNDED = true;
-constexpr bool BOUNDED = false;
+constexpr bool kUnbounded = true;
+constexpr bool kBounded = false;
 
 /// What is said of a curve besides its corners.
 std::vector<CString> CurveNotes(const CCurve& curve, double dStartRadius, const CString& strSweep) {
     std::vector<CString> notes{Text(IDS_RADIUS_START, dStartRadius), Text(IDS_RADIUS_END, curve.dRadius),
                                Text(IDS_SWEEP, strSweep.GetString()), Text(IDS_ARC_LENGTH, curve.dLength),
                                Text(IDS_BULGE, curve.dBulge)};
-    constexpr double RADIUS_LIMIT = 0.010; // metres
-    if (std::fabs(dStartRadius - curve.dRadius) > RADIUS_LIMIT)
+    constexpr double kRadiusLimit = 0.010; // metres
+    if (std::fabs(dStartRadius - curve.dRadius) > kRadiusLimit)
         notes.push_back(Text(IDS_RADII_DIFFER));
     return notes;
 }
 
 /// How far a line goes north for each metre to the east.
 CString SlopeNote(const C2DLine& line) {
-    constexpr int NORTH_SOUTH = 1;
-    return line.GetStatus() == NORTH_SOUTH ? Text(IDS_NORTH_SOUTH_LINE) : Text(IDS_SLOPE, line.GetSlope());
+    constexpr int kNorthSouth = 1;
+    return line.GetStatus() == kNorthSouth ? Text(IDS_NORTH_SOUTH_LINE) : Text(IDS_SLOPE, line.GetSlope());
 }
 
 void DrawTangents(CDrawing& drawing, CCoordinate from, const std::vector<CCoordinate>& corners,
                   const CCoordinate& end) {
     for (const CCoordinate& corner : corners) {
-        drawing.AddLine(from, corner, BOUNDED, Role::Result);
+        drawing.AddLine(from, corner, kBounded, Role::Result);
         from = corner;
     }
-    drawing.AddLine(from, end, BOUNDED, Role::Result);
+    drawing.AddLine(from, end, kBounded, Role::Result);
 }
 
 void DrawBox(CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
@@ -45,7 +45,7 @@ void DrawBox(CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
     southEast.SetE(hi.GetE());
     const CCoordinate corners[] = {lo, southEast, hi, northWest, lo};
     for (size_t i = 1; i < std::size(corners); ++i)
-        drawing.AddLine(corners[i - 1], corners[i], BOUNDED, Role::Result);
+        drawing.AddLine(corners[i - 1], corners[i], kBounded, Role::Result);
 }
 
 } // namespace
@@ -69,8 +69,8 @@ std::optional<CReport> CComputations::Lines() {
         !m_questions.AskPoint(IDS_LINE2_START, b1) || !m_questions.AskPoint(IDS_LINE2_END, b2))
         return std::nullopt;
     CReport report = MakeReport(IDS_LINES, IDS_INTERSECTION, IntersectLines(a1, a2, b1, b2));
-    report.drawing.AddLine(a1, a2, UNBOUNDED, Role::Given);
-    report.drawing.AddLine(b1, b2, UNBOUNDED, Role::Given);
+    report.drawing.AddLine(a1, a2, kUnbounded, Role::Given);
+    report.drawing.AddLine(b1, b2, kUnbounded, Role::Given);
     return Finish(report);
 }
 
@@ -84,7 +84,7 @@ std::optional<CReport> CComputations::LineCircle() {
         return std::nullopt;
     CReport report =
         MakeReport(IDS_LINE_CIRCLE, IDS_INTERSECTION, IntersectLineCircle(p1, p2, centre, dRadius));
-    report.drawing.AddLine(p1, p2, UNBOUNDED, Role::Given);
+    report.drawing.AddLine(p1, p2, kUnbounded, Role::Given);
     report.drawing.AddCircle(centre, dRadius, Role::Given);
     return Finish(report);
 }
@@ -114,9 +114,9 @@ std::optional<CReport> CComputations::Bearings() {
         return std::nullopt;
     CReport report =
         MakeReport(IDS_BEARINGS, IDS_INTERSECTION, IntersectBearings(a, dDirectionA, b, dDirectionB));
-    constexpr double ANY_DISTANCE = 1.0; // metres: the lines have no ends
-    report.drawing.AddLine(a, FindPolarPoint(a, dDirectionA, ANY_DISTANCE), UNBOUNDED, Role::Given);
-    report.drawing.AddLine(b, FindPolarPoint(b, dDirectionB, ANY_DISTANCE), UNBOUNDED, Role::Given);
+    constexpr double kAnyDistance = 1.0; // metres: the lines have no ends
+    report.drawing.AddLine(a, FindPolarPoint(a, dDirectionA, kAnyDistance), kUnbounded, Role::Given);
+    report.drawing.AddLine(b, FindPolarPoint(b, dDirectionB, kAnyDistance), kUnbounded, Role::Given);
     return Finish(report);
 }
 
@@ -168,7 +168,7 @@ std::optional<CReport> CComputations::Inverse() {
     report.notes = {Text(IDS_DISTANCE_LINE, inverse.dDistance),
                     Text(IDS_DIRECTION_LINE, AngleText(inverse.dDirection).GetString()),
                     SlopeNote(C2DLine(from, to))};
-    report.drawing.AddLine(from, to, BOUNDED, Role::Result);
+    report.drawing.AddLine(from, to, kBounded, Role::Result);
     return Finish(report);
 }
 

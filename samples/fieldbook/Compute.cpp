@@ -1,6 +1,7 @@
 #include "Compute.h"
 
 #include "LocalPlane.h"
+#include "Turn.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -10,11 +11,10 @@ using fieldkit::survey::kNull;
 
 namespace {
 
-constexpr double TWO_PI = 6.28318530717958647692;
-constexpr double SAME_DIRECTION = 1e-06; // radians
-constexpr double SAME_POINT = 0.001;
+constexpr double kSameDirection = 1e-06; // radians
+constexpr double kSamePoint = 0.001;
 /// Nearer to the centre than this, the library gives points no direction of their own.
-constexpr double MIN_RADIUS = 0.1;
+constexpr double kMinRadius = 0.1;
 
 template <class... Points>
 bool HavePositions(const Points&... points) {
@@ -22,11 +22,11 @@ bool HavePositions(const Points&... points) {
 }
 
 bool IsSamePoint(const CCoordinate& a, const CCoordinate& b) {
-    return Distance(a, b) < SAME_POINT;
+    return Distance(a, b) < kSamePoint;
 }
 
 bool IsParallel(CVector u, CVector v) {
-    return u.IsSameDir(v, SAME_DIRECTION) || u.IsSameDir(v.R_Scalar(-1), SAME_DIRECTION);
+    return u.IsSameDir(v, kSameDirection) || u.IsSameDir(v.R_Scalar(-1), kSameDirection);
 }
 
 CResult Failed(Verdict verdict) {
@@ -41,10 +41,10 @@ CResult Found(const CLocalPlane& plane, std::initializer_list<CVector> vectors) 
 }
 
 CResult Meet(const CLocalPlane& plane, CVector p1, CVector p2, CVector p3, CVector p4) {
-    constexpr int UNBOUNDED = 0;
+    constexpr int kUnbounded = 0;
     CVector meeting;
     // The library lets lines meet in an end that they share, even if they are one and the same.
-    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, UNBOUNDED))
+    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, kUnbounded))
         return Failed(Verdict::Parallel);
     return Found(plane, {meeting});
 }
@@ -52,8 +52,8 @@ CResult Meet(const CLocalPlane& plane, CVector p1, CVector p2, CVector p3, CVect
 /// The way to another point of a line. The library takes a line for parallel to an axis if its
 /// ends differ by less than the tolerance: with these 10 km that is no angle that matters.
 CVector Sight(double dDirection) {
-    constexpr double LENGTH = 1e4;
-    return CVector(LENGTH * std::sin(dDirection), LENGTH * std::cos(dDirection));
+    constexpr double kLength = 1e4;
+    return CVector(kLength * std::sin(dDirection), kLength * std::cos(dDirection));
 }
 
 } // namespace
@@ -137,7 +137,7 @@ CResult FindArcCentre(const CCoordinate& start, const CCoordinate& end, double d
     if (IsSamePoint(start, end))
         return Failed(Verdict::SamePoint);
     // Neither has a centre: no arc at all, and a circle that may lie anywhere.
-    if (dAngle == 0 || std::fabs(dAngle) >= TWO_PI)
+    if (dAngle == 0 || std::fabs(dAngle) >= kTwoPi)
         return Failed(Verdict::BadAngle);
     const CLocalPlane plane(start);
     return Found(plane, {CVector::CalcArcCenter(plane.ToVector(start), plane.ToVector(end), dAngle)});
@@ -148,7 +148,7 @@ CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, 
         return Failed(Verdict::NoPosition);
     if (IsSamePoint(start, end))
         return Failed(Verdict::SamePoint);
-    if (Distance(centre, start) < MIN_RADIUS || Distance(centre, end) < MIN_RADIUS)
+    if (Distance(centre, start) < kMinRadius || Distance(centre, end) < kMinRadius)
         return Failed(Verdict::RadiusSmall);
     const CLocalPlane plane(centre);
     CVector first;
@@ -162,13 +162,13 @@ CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, 
 
 Verdict FindCurve(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end,
                   CCurve& curve) {
-    constexpr int TURNS_LEFT = 1;
+    constexpr int kTurnsLeft = 1;
     CResult tangents = FindTangentCorners(start, centre, end);
     if (tangents.verdict != Verdict::Found)
         return tangents.verdict;
     const CLocalPlane plane(centre);
     curve.dBulge = CVector::CalcVertexBulge(plane.ToVector(start), plane.ToVector(end),
-                                            plane.ToVector(centre), TURNS_LEFT);
+                                            plane.ToVector(centre), kTurnsLeft);
     curve.dSweep = 4 * std::atan(curve.dBulge);
     curve.dRadius = Distance(centre, end);
     curve.dLength = curve.dRadius * curve.dSweep;

@@ -18,12 +18,12 @@ CComputeDlg::CComputeDlg(CJob& job, CWnd* pParent)
 
 void CComputeDlg::OnComputation(UINT nID) {
     using Computation = std::optional<CReport> (CComputations::*)();
-    static constexpr Computation COMPUTATIONS[] = {
+    static constexpr Computation kComputations[] = {
         &CComputations::Lines,    &CComputations::LineCircle, &CComputations::Circles,
         &CComputations::Bearings, &CComputations::ArcCentre,  &CComputations::Curve,
         &CComputations::Inverse,  &CComputations::Extent,
     };
-    const Computation computation = COMPUTATIONS[nID - IDC_COMPUTATION_FIRST];
+    const Computation computation = kComputations[nID - IDC_COMPUTATION_FIRST];
     if (const std::optional<CReport> report = (m_computations.*computation)())
         ShowReport(m_job, *report, *this);
 }

@@ -1,18 +1,18 @@
 #include "Drawing.h"
 
 #include "LocalPlane.h"
+#include "Turn.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double TWO_PI = 6.28318530717958647692;
-constexpr double QUARTER = TWO_PI / 4;
+constexpr double kQuarter = kTwoPi / 4;
 /// Squares of larger numbers come near to what a double can hold.
-constexpr double LARGEST = 1e100;
+constexpr double kLargest = 1e100;
 
 bool CanDraw(const CCoordinate& point) {
-    return point.IsExistNE() && std::fabs(point.GetN()) < LARGEST && std::fabs(point.GetE()) < LARGEST;
+    return point.IsExistNE() && std::fabs(point.GetN()) < kLargest && std::fabs(point.GetE()) < kLargest;
 }
 
 /// Survey coordinates without the height, which has no place in a plan.
@@ -24,9 +24,9 @@ CCoordinate Flat(const CCoordinate& point) {
 std::vector<CCoordinate> CornersOf(const CDrawnArc& arc) {
     std::vector<double> angles = {arc.dStart, arc.dStart + arc.dSweep};
     const double dEnd = arc.dStart + arc.dSweep;
-    for (int nQuarter = static_cast<int>(std::ceil(arc.dStart / QUARTER)); nQuarter * QUARTER < dEnd;
+    for (int nQuarter = static_cast<int>(std::ceil(arc.dStart / kQuarter)); nQuarter * kQuarter < dEnd;
          ++nQuarter)
-        angles.push_back(nQuarter * QUARTER);
+        angles.push_back(nQuarter * kQuarter);
     CCoordinate centre;
     arc.circle.GetCenter(centre);
     const double dRadius = arc.circle.GetRadius();
@@ -52,18 +52,18 @@ void CDrawing::AddLine(const CCoordinate& start, const CCoordinate& end, bool bU
 
 void CDrawing::AddCircle(const CCoordinate& centre, double dRadius, Role role) {
     C2DCircle circle;
-    if (CanDraw(centre) && dRadius > 0 && dRadius < LARGEST && circle.Setup(Flat(centre), dRadius) == 0)
-        m_arcs.push_back({circle, 0, TWO_PI, role});
+    if (CanDraw(centre) && dRadius > 0 && dRadius < kLargest && circle.Setup(Flat(centre), dRadius) == 0)
+        m_arcs.push_back({circle, 0, kTwoPi, role});
 }
 
 void CDrawing::AddArc(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end,
                       Role role) {
     if (!CanDraw(start) || !CanDraw(centre) || !CanDraw(end))
         return;
-    constexpr int LEFT = 1;
+    constexpr int kLeft = 1;
     const CLocalPlane plane(centre);
     const double dStart = plane.ToVector(start).Angle();
-    const double dSweep = CVector::AbsAngle(LEFT, plane.ToVector(end).Angle() - dStart);
+    const double dSweep = CVector::AbsAngle(kLeft, plane.ToVector(end).Angle() - dStart);
     C2DCircle circle;
     if (dSweep > 0 && circle.Setup(Flat(centre), plane.ToVector(end).UNorm()) == 0)
         m_arcs.push_back({circle, dStart, dSweep, role});

@@ -7,12 +7,10 @@
 
 namespace {
 
-constexpr int LONGEST_NAME = 16;
-constexpr int LONGEST_NUMBER = 20;
-constexpr COLORREF RESULT_COLOR = RGB(255, 255, 224);
-constexpr int SPIN_SIZE = 42; // pixels
-constexpr int ICON_UP = 4;
-constexpr int ICON_DOWN = 5;
+constexpr int kLongestName = 16;
+constexpr int kLongestNumber = 20;
+constexpr COLORREF kResultColor = RGB(255, 255, 224);
+constexpr int kSpinSize = 42; // pixels
 
 /// @return false if the field has the focus already: then the tap shall move the caret
 bool EnterSelected(CEdit& edit) {
@@ -64,7 +62,7 @@ END_MESSAGE_MAP()
 
 void CNumberEdit::PreSubclassWindow() {
     CnEdit::PreSubclassWindow();
-    LimitText(LONGEST_NUMBER);
+    LimitText(kLongestNumber);
 }
 
 void CNumberEdit::OnLButtonDown(UINT nFlags, CPoint point) {
@@ -74,7 +72,7 @@ void CNumberEdit::OnLButtonDown(UINT nFlags, CPoint point) {
 
 void CDirectionEdit::PreSubclassWindow() {
     CAngleEdit::PreSubclassWindow();
-    LimitText(LONGEST_NUMBER);
+    LimitText(kLongestNumber);
 }
 
 /// The number to edit is put in now, behind what the dialog has selected.
@@ -97,7 +95,7 @@ void CDirectionEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 
 void CChoiceCombo::PreSubclassWindow() {
     CnComboBox::PreSubclassWindow();
-    LimitText(LONGEST_NAME);
+    LimitText(kLongestName);
 }
 
 void CChoiceCombo::OnDropDown() {
@@ -130,14 +128,14 @@ void CNoHeightButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
 }
 
 BOOL CNoHeightButton::OnClicked() {
-    SetIcon(TVGetCommonIcon(GetPush() ? ICON_DOWN : ICON_UP));
+    SetIcon(TVGetCommonIcon(GetPush() ? TVICON_DOWN : TVICON_UP));
     return FALSE; // the dialog wants to know as well
 }
 
 void CResultLine::PreSubclassWindow() {
     CInfoStatic::PreSubclassWindow();
     SetOption(OptionIcon);
-    SetBkColor(RESULT_COLOR);
+    SetBkColor(kResultColor);
 }
 
 /// A static control draws a new text by itself, in its own way: the line is drawn again.
@@ -150,14 +148,14 @@ LRESULT CResultLine::OnSetText(WPARAM, LPARAM) {
 void CDecimalsSpin::PreSubclassWindow() {
     CnSpinButtonCtrl::PreSubclassWindow();
     // The system makes it as narrow as a scroll bar, whatever the template says.
-    SetWindowPos(nullptr, 0, 0, SPIN_SIZE, SPIN_SIZE, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    SetRange(MIN_DECIMALS, MAX_DECIMALS);
+    SetWindowPos(nullptr, 0, 0, kSpinSize, kSpinSize, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetRange(kMinDecimals, kMaxDecimals);
 }
 
 BOOL CDecimalsSpin::OnDeltaPos(NMHDR* pNMHDR, LRESULT* pResult) {
     const auto* pUpDown = reinterpret_cast<const NMUPDOWN*>(pNMHDR);
     const int nNew = pUpDown->iPos + pUpDown->iDelta;
-    if (nNew < MIN_DECIMALS || nNew > MAX_DECIMALS)
+    if (nNew < kMinDecimals || nNew > kMaxDecimals)
         ::MessageBeep(MB_OK);
     *pResult = 0; // let it count, as far as it goes
     return FALSE;

@@ -9,7 +9,9 @@
 #include "dialogs/FileSelectDlg.h"
 #include "dialogs/ResMsgBox.h"
 
-static void Write(const CJob& job, const CString& strPath) {
+namespace {
+
+void Write(const CJob& job, const CString& strPath) {
     const CString strName = FileNameOf(strPath);
     try {
         ExportPoints(strPath, job.book.GetPoints(), job.settings.columns, job.format);
@@ -20,6 +22,8 @@ static void Write(const CJob& job, const CString& strPath) {
         CResMsgBox().ErrorMsgBox(Text(IDS_NOT_WRITTEN, nCause, strName.GetString()));
     }
 }
+
+} // namespace
 
 void RunExport(CJob& job, CWnd& parent) {
     if (!ChooseColumns(parent, job.settings.columns))

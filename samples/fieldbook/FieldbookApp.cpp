@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr wchar_t TITLE[] = L"野帳";
-constexpr wchar_t POINTS_FILE[] = L"points.csv";
-constexpr wchar_t HISTORY_FILE[] = L"history.dat";
+constexpr wchar_t kTitle[] = L"野帳";
+constexpr wchar_t kPointsFile[] = L"points.csv";
+constexpr wchar_t kHistoryFile[] = L"history.dat";
 
 /// A file beside the program.
 CString OwnFile(const wchar_t* pszName) {
@@ -20,7 +20,7 @@ CString OwnFile(const wchar_t* pszName) {
 
 class CFieldbookApp : public CWinApp {
 public:
-    CFieldbookApp() : CWinApp(TITLE) {}
+    CFieldbookApp() : CWinApp(kTitle) {}
     BOOL InitInstance() override;
 
 private:
@@ -32,7 +32,7 @@ CFieldbookApp theApp;
 BOOL CFieldbookApp::InitInstance() {
     SetRegistryKey(L"Fieldkit"); // the settings are kept there
     const CString strPath = PointsPath();
-    CJob job(OwnFile(HISTORY_FILE));
+    CJob job(OwnFile(kHistoryFile));
     job.history.Load();
     job.settings = LoadSettings(*this);
     if (job.settings.strFolder.IsEmpty())
@@ -49,7 +49,7 @@ BOOL CFieldbookApp::InitInstance() {
 CString CFieldbookApp::PointsPath() const {
     CString strPath = m_lpCmdLine;
     strPath.Trim(L" \"");
-    return strPath.IsEmpty() ? OwnFile(POINTS_FILE) : strPath;
+    return strPath.IsEmpty() ? OwnFile(kPointsFile) : strPath;
 }
 
 } // namespace

@@ -13,7 +13,7 @@ CString FullPath(const CString& strPath) {
     return full.data();
 }
 
-constexpr int DRIVE_LENGTH = 2; // "C:"
+constexpr int kDriveLength = 2; // "C:"
 
 } // namespace
 
@@ -42,7 +42,7 @@ bool IsSamePath(const CString& strPath1, const CString& strPath2) {
 CString FolderOf(const CString& strPath) {
     CString strFolder;
     TVResolveFilePath(FullPath(strPath), &strFolder, nullptr, nullptr);
-    const CString strCurrentDrive = FullPath(L"\\").Left(DRIVE_LENGTH);
-    return strFolder.Left(DRIVE_LENGTH).CompareNoCase(strCurrentDrive) == 0 ? strFolder.Mid(DRIVE_LENGTH)
+    const CString strCurrentDrive = FullPath(L"\\").Left(kDriveLength);
+    return strFolder.Left(kDriveLength).CompareNoCase(strCurrentDrive) == 0 ? strFolder.Mid(kDriveLength)
                                                                             : strFolder;
 }

@@ -7,8 +7,8 @@
 namespace {
 
 std::unique_ptr<CStringStack> EmptyStack() {
-    constexpr int CAPACITY = 20;
-    return std::make_unique<CStringStack>(CStringStack::ModeHeader, CAPACITY);
+    constexpr int kCapacity = 20;
+    return std::make_unique<CStringStack>(CStringStack::ModeHeader, kCapacity);
 }
 
 /// Stored with its class, so that a file of anything else is told at once.

@@ -3,8 +3,12 @@
 #include "Resource.h"
 #include "Text.h"
 
+namespace {
+
 /// Item data of a title, which has no lines.
-static constexpr DWORD_PTR TITLE = static_cast<DWORD_PTR>(-1);
+constexpr DWORD_PTR kTitle = static_cast<DWORD_PTR>(-1);
+
+} // namespace
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CJournalDlg, CnDialog)
@@ -32,7 +36,7 @@ BOOL CJournalDlg::OnInitDialog() {
 void CJournalDlg::FillTree() {
     for (const CJournalGroup& group : GroupByTitle(m_journal.GetEntries())) {
         const HTREEITEM hTitle = m_tree.InsertItem(group.strTitle);
-        m_tree.SetItemData(hTitle, TITLE);
+        m_tree.SetItemData(hTitle, kTitle);
         int nNumber = 0;
         for (const size_t nEntry : group.entries)
             m_tree.SetItemData(m_tree.InsertItem(Text(IDS_RESULT_NUMBER, ++nNumber), hTitle), nEntry);
@@ -42,6 +46,6 @@ void CJournalDlg::FillTree() {
 void CJournalDlg::OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     const LPARAM nEntry = reinterpret_cast<const NMTREEVIEW*>(pNMHDR)->itemNew.lParam;
     const auto nIndex = static_cast<size_t>(nEntry);
-    m_lines.Show(nIndex == TITLE ? std::vector<CString>() : m_journal.GetEntries()[nIndex].lines);
+    m_lines.Show(nIndex == kTitle ? std::vector<CString>() : m_journal.GetEntries()[nIndex].lines);
     *pResult = 0;
 }

@@ -6,11 +6,11 @@
 
 namespace {
 
-constexpr int ITEM_WIDTH = 146; // pixels
+constexpr int kItemWidth = 146; // pixels
 
 void InsertColumns(CListCtrl& list) {
-    list.InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, ITEM_WIDTH);
-    list.InsertColumn(1, Text(IDS_COLUMN_VALUE), LVCFMT_RIGHT, ITEM_WIDTH);
+    list.InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, kItemWidth);
+    list.InsertColumn(1, Text(IDS_COLUMN_VALUE), LVCFMT_RIGHT, kItemWidth);
 }
 
 /// @param nData of each row
@@ -31,7 +31,7 @@ bool AppendLines(CListCtrl& list, const std::vector<CString>& lines, DWORD_PTR n
 void FitColumns(CListCtrl& list, bool bValues) {
     CRect rect;
     list.GetClientRect(&rect);
-    const int nItemWidth = bValues ? ITEM_WIDTH : rect.Width();
+    const int nItemWidth = bValues ? kItemWidth : rect.Width();
     list.SetColumnWidth(0, nItemWidth);
     list.SetColumnWidth(1, rect.Width() - nItemWidth);
 }
@@ -76,7 +76,7 @@ void CReportList::PreSubclassWindow() {
 void CReportList::Show(const CReport& report) {
     for (size_t i = 0; i < report.points.size(); ++i)
         AppendLines(*this, LinesOf(report.points[i]), i);
-    const bool bValues = AppendLines(*this, report.notes, NO_SOLUTION);
+    const bool bValues = AppendLines(*this, report.notes, kNoSolution);
     FitColumns(*this, bValues || !report.points.empty());
 }
 
@@ -87,7 +87,7 @@ DWORD CReportList::GetItemAttribute(int nItem) {
 void CReportList::OnClick(NMHDR* pNMHDR, LRESULT* pResult) {
     *pResult = 0;
     const int nRow = reinterpret_cast<const NMITEMACTIVATE*>(pNMHDR)->iItem;
-    if (nRow < 0 || GetItemData(nRow) == NO_SOLUTION)
+    if (nRow < 0 || GetItemData(nRow) == kNoSolution)
         return;
     m_nChosen = GetItemData(nRow);
     Invalidate();

@@ -33,7 +33,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    static constexpr size_t NO_SOLUTION = static_cast<size_t>(-1);
+    static constexpr size_t kNoSolution = static_cast<size_t>(-1);
 
     size_t m_nChosen = 0;
 };

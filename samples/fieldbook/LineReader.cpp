@@ -19,11 +19,11 @@ void CLineReader::SkipRestOfLine() {
 }
 
 bool CLineReader::HasTextFrom(ULONGLONG nPosition) {
-    constexpr unsigned char LAST_SKIPPED = ' '; // the reader takes no notice of these either
+    constexpr unsigned char kLastSkipped = ' '; // the reader takes no notice of these either
     m_file.Seek(static_cast<LONGLONG>(nPosition), CFile::begin);
     bool bText = false;
     unsigned char ch = 0;
     while (m_file.Read(&ch, 1) == 1)
-        bText = bText || ch > LAST_SKIPPED;
+        bText = bText || ch > kLastSkipped;
     return bText;
 }

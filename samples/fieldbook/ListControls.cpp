@@ -8,10 +8,10 @@
 namespace {
 
 // Pixels.
-constexpr int NAME_WIDTH = 46;
-constexpr int COORDINATE_WIDTH = 78;
-constexpr int HEIGHT_WIDTH = 60;
-constexpr int ROW_HEIGHT = 22; // what a pen hits without care
+constexpr int kNameWidth = 46;
+constexpr int kCoordinateWidth = 78;
+constexpr int kHeightWidth = 60;
+constexpr int kRowHeight = 22; // what a pen hits without care
 
 } // namespace
 
@@ -31,10 +31,10 @@ END_MESSAGE_MAP()
 
 void CPointListCtrl::Fill() {
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
-    InsertColumn(static_cast<int>(PointColumn::Name), Text(IDS_COLUMN_NAME), LVCFMT_LEFT, NAME_WIDTH);
-    InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, COORDINATE_WIDTH);
-    InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, COORDINATE_WIDTH);
-    InsertColumn(static_cast<int>(PointColumn::Z), L"Z", LVCFMT_RIGHT, HEIGHT_WIDTH);
+    InsertColumn(static_cast<int>(PointColumn::Name), Text(IDS_COLUMN_NAME), LVCFMT_LEFT, kNameWidth);
+    InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, kCoordinateWidth);
+    InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, kCoordinateWidth);
+    InsertColumn(static_cast<int>(PointColumn::Z), L"Z", LVCFMT_RIGHT, kHeightWidth);
     Refresh();
 }
 
@@ -83,7 +83,7 @@ void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
 
 void CJournalTree::PreSubclassWindow() {
     CnTreeCtrl::PreSubclassWindow();
-    SetItemHeight(ROW_HEIGHT);
+    SetItemHeight(kRowHeight);
 }
 
 BOOL CJournalTree::OnClick(NMHDR*, LRESULT* pResult) {
@@ -100,7 +100,7 @@ BOOL CJournalTree::OnClick(NMHDR*, LRESULT* pResult) {
 
 void CChoiceList::PreSubclassWindow() {
     CnListBox::PreSubclassWindow();
-    SetItemHeight(0, ROW_HEIGHT);
+    SetItemHeight(0, kRowHeight);
 }
 
 BOOL CChoiceList::OnSelChange() {

@@ -13,8 +13,13 @@
 #include "SettingsSheet.h"
 #include "Text.h"
 
-static constexpr UINT WM_OPEN_FIRST = WM_APP;
-static constexpr UINT ENTRY_COUNT = 8;
+namespace {
+
+constexpr UINT WM_OPEN_FIRST = WM_APP;
+
+constexpr UINT kEntryCount = 8;
+
+} // namespace
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CMainMenu, CButtonMenuDlg)
@@ -25,7 +30,7 @@ END_MESSAGE_MAP()
 CMainMenu::CMainMenu(CJob& job, const CString& strPath)
     : CButtonMenuDlg(IDS_TITLE, &m_entries, nullptr), m_job(job), m_strFirstPath(strPath),
       m_files(job, *this) {
-    for (UINT nEntry = 0; nEntry < ENTRY_COUNT; ++nEntry)
+    for (UINT nEntry = 0; nEntry < kEntryCount; ++nEntry)
         m_entries.Add(IDS_MENU_FIRST + nEntry);
     // A main window that a stray Enter or Escape closes would be a nuisance.
     SetOption(OptionSwallowKeys);
@@ -53,13 +58,13 @@ void CMainMenu::ShowTitle() {
 /// Without the base class, which would close the menu.
 void CMainMenu::OnOK() {
     using Command = void (CMainMenu::*)();
-    static constexpr Command COMMANDS[ENTRY_COUNT] = {
+    static constexpr Command kCommands[kEntryCount] = {
         &CMainMenu::OnPointEntry, &CMainMenu::OnPointList, &CMainMenu::OnCompute, &CMainMenu::OnPlan,
         &CMainMenu::OnJournal,    &CMainMenu::OnFile,      &CMainMenu::OnExport,  &CMainMenu::OnSettings,
     };
     if (GetMenuIndex() < 0)
         return;
-    (this->*COMMANDS[GetMenuIndex()])();
+    (this->*kCommands[GetMenuIndex()])();
     ShowTitle();
 }
 

@@ -38,7 +38,7 @@ public:
         if (IsOutside(start, end, dRise))
             return;
         // The number of halvings is limited because a turn has no finer steps than a double.
-        if (nHalvings == 0 || (dSweep < COARSEST && dRise < FLATNESS)) {
+        if (nHalvings == 0 || (dSweep < kCoarsest && dRise < kFlatness)) {
             CSegment chord{start, end};
             if (ClipSegment(chord, m_view, false))
                 m_chords.push_back(chord);
@@ -51,8 +51,8 @@ public:
     const std::vector<CSegment>& GetChords() const { return m_chords; }
 
 private:
-    static constexpr double COARSEST = 0.8;  // radians: the rise tells all only for less than half a turn
-    static constexpr double FLATNESS = 0.25; // pixels
+    static constexpr double kCoarsest = 0.8;  // radians: the rise tells all only for less than half a turn
+    static constexpr double kFlatness = 0.25; // pixels
 
     CVector PointAt(double dAngle) const {
         return CVector(m_centre.GetX() + m_dRadius * std::cos(dAngle),
@@ -78,9 +78,9 @@ private:
 } // namespace
 
 bool ClipSegment(CSegment& segment, const CRect& view, bool bUnbounded) {
-    constexpr double FAR_AWAY = std::numeric_limits<double>::infinity();
+    constexpr double kFarAway = std::numeric_limits<double>::infinity();
     const CVector step = segment.end - segment.start;
-    CRange range = bUnbounded ? CRange{-FAR_AWAY, FAR_AWAY} : CRange{0, 1};
+    CRange range = bUnbounded ? CRange{-kFarAway, kFarAway} : CRange{0, 1};
     range.Cut(segment.start.GetX() - view.left, step.GetX());
     range.Cut(view.right - segment.start.GetX(), -step.GetX());
     range.Cut(segment.start.GetY() - view.top, step.GetY());
@@ -94,8 +94,8 @@ bool ClipSegment(CSegment& segment, const CRect& view, bool bUnbounded) {
 
 std::vector<CSegment> ClipArc(const CVector& centre, double dRadius, double dStart, double dSweep,
                               const CRect& view) {
-    constexpr int MOST_HALVINGS = 48;
+    constexpr int kMostHalvings = 48;
     CArcWalk walk(centre, dRadius, view);
-    walk.Walk(dStart, dSweep, MOST_HALVINGS);
+    walk.Walk(dStart, dSweep, kMostHalvings);
     return walk.GetChords();
 }

@@ -4,13 +4,13 @@
 
 namespace {
 
-constexpr double ZOOM_STEP = 2;
-constexpr int ICON_SIZE = 16; // pixels
+constexpr double kZoomStep = 2;
+constexpr int kIconSize = 16; // pixels
 
 /// An icon of the application. The system keeps it; it is not to be destroyed.
 HICON LoadSmallIcon(UINT nId) {
-    return static_cast<HICON>(::LoadImage(AfxGetResourceHandle(), MAKEINTRESOURCE(nId), IMAGE_ICON, ICON_SIZE,
-                                          ICON_SIZE, LR_SHARED));
+    return static_cast<HICON>(::LoadImage(AfxGetResourceHandle(), MAKEINTRESOURCE(nId), IMAGE_ICON, kIconSize,
+                                          kIconSize, LR_SHARED));
 }
 
 } // namespace
@@ -37,11 +37,11 @@ BOOL CPlanDlg::OnInitDialog() {
 }
 
 void CPlanDlg::OnZoomIn() {
-    m_view.Zoom(ZOOM_STEP);
+    m_view.Zoom(kZoomStep);
 }
 
 void CPlanDlg::OnZoomOut() {
-    m_view.Zoom(1 / ZOOM_STEP);
+    m_view.Zoom(1 / kZoomStep);
 }
 
 void CPlanDlg::OnZoomAll() {

@@ -5,18 +5,18 @@
 namespace {
 
 // Full black and a strong red on white: the screen is read in the sun.
-constexpr COLORREF GROUND_COLOR = RGB(255, 255, 255);
-constexpr COLORREF GIVEN_COLOR = RGB(0, 0, 0);
-constexpr COLORREF RESULT_COLOR = RGB(208, 0, 0);
+constexpr COLORREF kGroundColor = RGB(255, 255, 255);
+constexpr COLORREF kGivenColor = RGB(0, 0, 0);
+constexpr COLORREF kResultColor = RGB(208, 0, 0);
 
 // Pixels.
-constexpr int FONT_HEIGHT = 15;
-constexpr int LONGEST_NAME = 110; // wide; longer names end in dots
-constexpr int LONGEST_BAR = 90;
-constexpr int EDGE = 6; // from scale bar and north arrow to the border
+constexpr int kFontHeight = 15;
+constexpr int kLongestName = 110; // wide; longer names end in dots
+constexpr int kLongestBar = 90;
+constexpr int kEdge = 6; // from scale bar and north arrow to the border
 
 COLORREF ColorOf(Role role) {
-    return role == Role::Result ? RESULT_COLOR : GIVEN_COLOR;
+    return role == Role::Result ? kResultColor : kGivenColor;
 }
 
 /// From the middle of a mark to its sides.
@@ -46,7 +46,7 @@ CPoint ToPoint(CVector v) {
 void CPlanFonts::Create(const CFont& like) {
     LOGFONT font = {};
     like.GetLogFont(&font);
-    font.lfHeight = -FONT_HEIGHT;
+    font.lfHeight = -kFontHeight;
     font.lfWidth = 0;
     font.lfWeight = FW_NORMAL;
     given.CreateFontIndirect(&font);
@@ -58,7 +58,7 @@ CPlanPainter::CPlanPainter(CDC& dc, CSize view, const CPlanScale& scale, CPlanFo
     : m_dc(dc), m_view(0, 0, view.cx, view.cy), m_scale(scale), m_fonts(fonts), m_space(view) {}
 
 void CPlanPainter::Paint(const CDrawing& drawing) {
-    m_dc.FillSolidRect(m_view, GROUND_COLOR);
+    m_dc.FillSolidRect(m_view, kGroundColor);
     m_dc.SetBkMode(TRANSPARENT);
     m_dc.IntersectClipRect(m_view);
     PaintLines(drawing, Role::Given);
@@ -101,48 +101,48 @@ void CPlanPainter::PaintPieces(const std::vector<CSegment>& pieces, Role role) {
 }
 
 void CPlanPainter::PaintScaleBar() {
-    constexpr int TICK = 4;
-    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), LONGEST_BAR);
+    constexpr int kTick = 4;
+    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), kLongestBar);
     const CString strText = ScaleBarText(bar.dLength);
-    CPen pen(PS_SOLID, 2, GIVEN_COLOR);
+    CPen pen(PS_SOLID, 2, kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&pen);
     const CSize text = m_dc.GetTextExtent(strText);
-    const CPoint corner(m_view.left + EDGE, m_view.bottom - EDGE);
-    const CRect place(corner.x - 2, corner.y - TICK - text.cy - 1,
+    const CPoint corner(m_view.left + kEdge, m_view.bottom - kEdge);
+    const CRect place(corner.x - 2, corner.y - kTick - text.cy - 1,
                       corner.x + std::max<int>(bar.nPixels, text.cx) + 3, corner.y + 2);
-    m_dc.FillSolidRect(place, GROUND_COLOR);
-    m_dc.SetTextColor(GIVEN_COLOR);
-    m_dc.TextOut(corner.x + 3, corner.y - TICK - text.cy + 1, strText);
-    const POINT line[] = {{corner.x, corner.y - TICK},
+    m_dc.FillSolidRect(place, kGroundColor);
+    m_dc.SetTextColor(kGivenColor);
+    m_dc.TextOut(corner.x + 3, corner.y - kTick - text.cy + 1, strText);
+    const POINT line[] = {{corner.x, corner.y - kTick},
                           {corner.x, corner.y},
                           {corner.x + bar.nPixels, corner.y},
-                          {corner.x + bar.nPixels, corner.y - TICK}};
+                          {corner.x + bar.nPixels, corner.y - kTick}};
     m_dc.Polyline(line, 4);
     m_space.Put(place, Space::Taken);
 }
 
 void CPlanPainter::PaintNorthArrow() {
-    constexpr int HALF_WIDTH = 6;
-    constexpr int LENGTH = 14;
-    CBrush brush(GIVEN_COLOR);
+    constexpr int kHalfWidth = 6;
+    constexpr int kLength = 14;
+    CBrush brush(kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&brush);
     const CString strNorth = L"N";
     const CSize text = m_dc.GetTextExtent(strNorth);
-    const int nReach = std::max<int>(HALF_WIDTH, text.cx / 2) + 2;
-    const CPoint tip(m_view.right - EDGE - nReach, m_view.top + EDGE);
-    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + LENGTH + text.cy);
-    m_dc.FillSolidRect(place, GROUND_COLOR);
+    const int nReach = std::max<int>(kHalfWidth, text.cx / 2) + 2;
+    const CPoint tip(m_view.right - kEdge - nReach, m_view.top + kEdge);
+    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + kLength + text.cy);
+    m_dc.FillSolidRect(place, kGroundColor);
     const POINT arrow[] = {tip,
-                           {tip.x + HALF_WIDTH, tip.y + LENGTH},
-                           {tip.x, tip.y + LENGTH - 4},
-                           {tip.x - HALF_WIDTH, tip.y + LENGTH}};
+                           {tip.x + kHalfWidth, tip.y + kLength},
+                           {tip.x, tip.y + kLength - 4},
+                           {tip.x - kHalfWidth, tip.y + kLength}};
     m_dc.Polygon(arrow, 4);
-    m_dc.SetTextColor(GIVEN_COLOR);
-    m_dc.TextOut(tip.x - text.cx / 2, tip.y + LENGTH - 1, strNorth);
+    m_dc.SetTextColor(kGivenColor);
+    m_dc.TextOut(tip.x - text.cx / 2, tip.y + kLength - 1, strNorth);
     m_space.Put(place, Space::Taken);
 }
 
@@ -169,12 +169,12 @@ void CPlanPainter::PaintName(const CDrawnPoint& point) {
     const bool bResult = point.role == Role::Result;
     m_dc.SelectObject(bResult ? &m_fonts.result : &m_fonts.given);
     CSize name = m_dc.GetTextExtent(point.strName);
-    name.cx = std::min<int>(name.cx, LONGEST_NAME);
+    name.cx = std::min<int>(name.cx, kLongestName);
     CRect mark;
     CRect place;
     if (!FindMark(point, mark) || !m_space.PlaceName(mark, name, bResult ? Space::Mark : Space::Line, place))
         return;
-    m_dc.FillSolidRect(place, GROUND_COLOR); // a line through a name makes it hard to read
+    m_dc.FillSolidRect(place, kGroundColor); // a line through a name makes it hard to read
     m_dc.SetTextColor(ColorOf(point.role));
     m_dc.DrawText(point.strName, place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
@@ -182,7 +182,7 @@ void CPlanPainter::PaintName(const CDrawnPoint& point) {
 void CPlanPainter::PaintMarks(const std::vector<const CDrawnPoint*>& points, Role role) {
     CPen pen(PS_SOLID, 1, ColorOf(role));
     CBrush brush(ColorOf(role));
-    CBrush ground(GROUND_COLOR);
+    CBrush ground(kGroundColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&pen);
     CRect mark;

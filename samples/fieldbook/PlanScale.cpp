@@ -6,17 +6,17 @@
 namespace {
 
 // Pixels: the room for names at the sides, for the north arrow above and the scale bar below.
-constexpr int MARGIN_X = 24;
-constexpr int MARGIN_Y = 32;
+constexpr int kMarginX = 24;
+constexpr int kMarginY = 32;
 
 // Pixels for one metre.
-constexpr double LARGEST_FACTOR = 20000; // a millimetre can be seen
-constexpr double SINGLE_FACTOR = 10;     // for a single point
+constexpr double kLargestFactor = 20000; // a millimetre can be seen
+constexpr double kSingleFactor = 10;     // for a single point
 
 /// Metres: smaller boxes are points.
-constexpr double SMALLEST_BOX = 1e-6;
+constexpr double kSmallestBox = 1e-6;
 /// How much smaller than the whole plan is of use.
-constexpr double SHRINK = 4;
+constexpr double kShrink = 4;
 
 CCoordinate MiddleOf(const CCoordinate& lo, const CCoordinate& hi) {
     CVector diagonal = CLocalPlane(lo).ToVector(hi);
@@ -24,18 +24,18 @@ CCoordinate MiddleOf(const CCoordinate& lo, const CCoordinate& hi) {
 }
 
 double FactorFor(CVector box, CSize view) {
-    if (std::max(box.GetX(), box.GetY()) < SMALLEST_BOX)
-        return SINGLE_FACTOR;
-    const double dX = std::max<int>(view.cx - 2 * MARGIN_X, 1) / std::max(box.GetX(), SMALLEST_BOX);
-    const double dY = std::max<int>(view.cy - 2 * MARGIN_Y, 1) / std::max(box.GetY(), SMALLEST_BOX);
-    return std::min({dX, dY, LARGEST_FACTOR});
+    if (std::max(box.GetX(), box.GetY()) < kSmallestBox)
+        return kSingleFactor;
+    const double dX = std::max<int>(view.cx - 2 * kMarginX, 1) / std::max(box.GetX(), kSmallestBox);
+    const double dY = std::max<int>(view.cy - 2 * kMarginY, 1) / std::max(box.GetY(), kSmallestBox);
+    return std::min({dX, dY, kLargestFactor});
 }
 
 } // namespace
 
 CPlanScale::CPlanScale(const CCoordinate& lo, const CCoordinate& hi, CSize view)
     : m_plane(MiddleOf(lo, hi)), m_view(view), m_dFactor(FactorFor(CLocalPlane(lo).ToVector(hi), view)),
-      m_dSmallest(m_dFactor / SHRINK) {}
+      m_dSmallest(m_dFactor / kShrink) {}
 
 CVector CPlanScale::ToPixel(const CCoordinate& point) const {
     CVector v = m_plane.ToVector(point);
@@ -44,7 +44,7 @@ CVector CPlanScale::ToPixel(const CCoordinate& point) const {
 
 CPlanScale CPlanScale::Zoomed(double dTimes) const {
     CPlanScale zoomed = *this;
-    zoomed.m_dFactor = std::clamp(m_dFactor * dTimes, m_dSmallest, LARGEST_FACTOR);
+    zoomed.m_dFactor = std::clamp(m_dFactor * dTimes, m_dSmallest, kLargestFactor);
     return zoomed;
 }
 
@@ -67,11 +67,11 @@ CScaleBar FindScaleBar(double dFactor, int nMaxPixels) {
 }
 
 CString ScaleBarText(double dLength) {
-    constexpr double KILOMETRE = 1000;
+    constexpr double kKilometre = 1000;
     CString strText;
-    if (dLength < KILOMETRE)
+    if (dLength < kKilometre)
         strText.Format(L"%g m", dLength);
     else
-        strText.Format(L"%g km", dLength / KILOMETRE);
+        strText.Format(L"%g km", dLength / kKilometre);
     return strText;
 }

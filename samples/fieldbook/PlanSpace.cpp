@@ -5,15 +5,15 @@
 
 namespace {
 
-constexpr int GAP = 2; // pixels between mark and name
+constexpr int kGap = 2; // pixels between mark and name
 
 /// The places around a mark, the best first.
 std::vector<CRect> PlacesAround(const CRect& mark, CSize name) {
     const CPoint middle = mark.CenterPoint();
-    const int nRight = mark.right + GAP;
-    const int nLeft = mark.left - GAP - name.cx;
-    const int nAbove = mark.top - GAP - name.cy;
-    const int nBelow = mark.bottom + GAP;
+    const int nRight = mark.right + kGap;
+    const int nLeft = mark.left - kGap - name.cx;
+    const int nAbove = mark.top - kGap - name.cy;
+    const int nBelow = mark.bottom + kGap;
     const int nMiddleX = middle.x - name.cx / 2;
     const int nMiddleY = middle.y - name.cy / 2;
     // Half beside, half above the mark: nearer to it than a corner.

@@ -10,10 +10,8 @@
 
 namespace {
 
-constexpr int ICON_UP = 4;
-
 /// What the names of a kind of points begin with, in the order of their texts.
-constexpr const wchar_t* KIND_PREFIXES[] = {L"T", L"K", L"BM", L"P"};
+constexpr const wchar_t* kKindPrefixes[] = {L"T", L"K", L"BM", L"P"};
 
 /// A coordinate as it can be typed, with all decimals that the points file keeps; nothing for one
 /// that is missing.
@@ -42,7 +40,7 @@ CPointEntryDlg::CPointEntryDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POINT_EN
 BOOL CPointEntryDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     AttachControls();
-    for (UINT nKind = 0; nKind < std::size(KIND_PREFIXES); ++nKind)
+    for (UINT nKind = 0; nKind < std::size(kKindPrefixes); ++nKind)
         m_kind.AddString(Text(IDS_KIND_FIRST + nKind));
     m_kind.SetCurSel(0);
     OnKind();
@@ -51,14 +49,14 @@ BOOL CPointEntryDlg::OnInitDialog() {
 }
 
 void CPointEntryDlg::AttachControls() {
-    constexpr DWORD NO_PANEL = 0;
-    m_kind.Attach(IDC_KIND, this, NO_PANEL);
+    constexpr DWORD kNoPanel = 0;
+    m_kind.Attach(IDC_KIND, this, kNoPanel);
     m_name.Attach(IDC_NAME, this, SipOptionMode0);
     m_job.history.GetStack().SetupList(&m_name);
     m_n.Attach(IDC_N, this, SipOptionMode1);
     m_e.Attach(IDC_E, this, SipOptionMode1);
     m_z.Attach(IDC_Z, this, SipOptionMode1);
-    m_noHeight.Attach(IDC_NO_HEIGHT, this, TVGetCommonIcon(ICON_UP),
+    m_noHeight.Attach(IDC_NO_HEIGHT, this, TVGetCommonIcon(TVICON_UP),
                       CIconButton::StyleToggle | CIconButton::StyleText);
     m_message.SubclassDlgItem(IDC_MESSAGE, this);
 }
@@ -70,7 +68,7 @@ CString CPointEntryDlg::TextOf(const CWnd& control) const {
 }
 
 void CPointEntryDlg::OnKind() {
-    m_name.SetWindowText(m_job.book.NextName(KIND_PREFIXES[m_kind.GetCurSel()]));
+    m_name.SetWindowText(m_job.book.NextName(kKindPrefixes[m_kind.GetCurSel()]));
 }
 
 void CPointEntryDlg::OnNoHeight() {

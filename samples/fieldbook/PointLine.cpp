@@ -1,5 +1,6 @@
 #include "PointLine.h"
 
+#include "CodePage.h"
 #include "Tesuvo.h"
 
 #include <cmath>
@@ -9,11 +10,11 @@ using fieldkit::survey::kNull;
 
 namespace {
 
-constexpr size_t MIN_FIELDS = 3;
-constexpr size_t MAX_FIELDS = 4;
+constexpr size_t kMinFields = 3;
+constexpr size_t kMaxFields = 4;
 // Together they keep every line within the 511 bytes that the file class writes.
-constexpr int MAX_NAME = 64;
-constexpr double NUMBER_LIMIT = 1e9;
+constexpr int kMaxName = 64;
+constexpr double kNumberLimit = 1e9;
 
 std::vector<CString> Split(const CString& strLine, wchar_t chSeparator) {
     std::vector<CString> fields;
@@ -58,22 +59,13 @@ bool ParseNumber(CString strText, double& dValue) {
     return TVString2Double(&strText, &dValue) != FALSE;
 }
 
-/// Whether a text is the same after its way through a file.
-bool SurvivesCodePage(const CString& strText) {
-    constexpr int MAX_BYTES = 4; // of a character, in any code page
-    char bytes[MAX_NAME * MAX_BYTES + 1];
-    wchar_t back[MAX_NAME + 1];
-    return ::WideCharToMultiByte(CP_OEMCP, 0, strText, -1, bytes, sizeof bytes, nullptr, nullptr) != 0 &&
-           ::MultiByteToWideChar(CP_OEMCP, 0, bytes, -1, back, MAX_NAME + 1) != 0 && strText == back;
-}
-
 } // namespace
 
 bool RecogniseFormat(const CString& strLine, CLineFormat& format) {
     // Commas last: between semicolons they can be part of a number.
     for (const wchar_t chSeparator : {L';', L','}) {
         const std::vector<CString> fields = Split(strLine, chSeparator);
-        if (fields.size() < MIN_FIELDS)
+        if (fields.size() < kMinFields)
             continue;
         format = CLineFormat{chSeparator, IsHeader(fields)};
         return true;
@@ -83,11 +75,11 @@ bool RecogniseFormat(const CString& strLine, CLineFormat& format) {
 
 LineFault ParsePointLine(const CString& strLine, wchar_t chSeparator, CNamedPoint& point) {
     const std::vector<CString> fields = Split(strLine, chSeparator);
-    if (fields.size() < MIN_FIELDS)
+    if (fields.size() < kMinFields)
         return LineFault::TooFewFields;
-    if (fields.size() > MAX_FIELDS)
+    if (fields.size() > kMaxFields)
         return LineFault::TooManyFields;
-    return ParsePoint(fields[0], fields[1], fields[2], fields.size() == MAX_FIELDS ? fields[3] : CString(),
+    return ParsePoint(fields[0], fields[1], fields[2], fields.size() == kMaxFields ? fields[3] : CString(),
                       point);
 }
 
@@ -113,10 +105,10 @@ LineFault ParsePoint(const CString& strName, const CString& strN, const CString&
 LineFault CheckPoint(const CNamedPoint& point) {
     if (point.strName.IsEmpty())
         return LineFault::NoName;
-    if (point.strName.GetLength() > MAX_NAME || !SurvivesCodePage(point.strName))
+    if (point.strName.GetLength() > kMaxName || !SurvivesCodePage(point.strName))
         return LineFault::BadName;
     for (const double dMember : {point.point.GetN(), point.point.GetE(), point.point.GetZ()})
-        if (!(std::fabs(dMember) < NUMBER_LIMIT))
+        if (!(std::fabs(dMember) < kNumberLimit))
             return LineFault::BadNumber;
     return LineFault::None;
 }

@@ -30,8 +30,8 @@ BOOL CPolarDlg::OnInitDialog() {
 }
 
 void CPolarDlg::AttachControls() {
-    constexpr int TENTHS = 4; // any mode but that of whole seconds
-    const int nMode = m_job.settings.bTenths ? TENTHS : CAngleEdit::WHOLE_SECONDS;
+    constexpr int kTenths = 4; // any mode but that of whole seconds
+    const int nMode = m_job.settings.bTenths ? kTenths : CAngleEdit::WHOLE_SECONDS;
     m_from.Attach(IDC_FROM, this, SipOptionMode0);
     m_direction.Attach(IDC_DIRECTION, this, nMode, SipOptionMode1);
     m_turn.Attach(IDC_TURN, this, nMode, SipOptionMode1);

@@ -15,8 +15,8 @@ namespace {
 class CDigitPanel {
 public:
     CDigitPanel() {
-        constexpr int DIGITS = 1;
-        TVShowSIP(DIGITS);
+        constexpr int kDigits = 1;
+        TVShowSIP(kDigits);
     }
     ~CDigitPanel() { TVCloseSIP(); }
     CDigitPanel(const CDigitPanel&) = delete;

@@ -30,8 +30,8 @@ void CCoordinatesPage::DoDataExchange(CDataExchange* pDX) {
 }
 
 BOOL CCoordinatesPage::OnInitDialog() {
-    constexpr DWORD NO_PANEL = 0; // the arrows are enough
-    m_decimals.Attach(IDC_DECIMALS, this, NO_PANEL);
+    constexpr DWORD kNoPanel = 0; // the arrows are enough
+    m_decimals.Attach(IDC_DECIMALS, this, kNoPanel);
     CnPropertyPage::OnInitDialog();
     m_spin.SetBuddy(&m_decimals);
     m_spin.SetPos(m_settings.nDecimals);
@@ -40,11 +40,11 @@ BOOL CCoordinatesPage::OnInitDialog() {
 }
 
 void CCoordinatesPage::OnDecimals() {
-    constexpr double EXAMPLE = -35300.12345;
+    constexpr double kExample = -35300.12345;
     if (m_example.GetSafeHwnd() == nullptr)
         return; // the controls are being made
     CString strExample;
-    strExample.Format(L"%.*f", static_cast<int>(LOWORD(m_spin.GetPos())), EXAMPLE);
+    strExample.Format(L"%.*f", static_cast<int>(LOWORD(m_spin.GetPos())), kExample);
     m_example.SetWindowText(Text(IDS_EXAMPLE, strExample.GetString()));
 }
 
@@ -63,9 +63,9 @@ BOOL CAnglesPage::OnInitDialog() {
 }
 
 void CAnglesPage::OnSeconds() {
-    constexpr double EXAMPLE = 0.927295218; // radians: a side of 4 to one of 3
+    constexpr double kExample = 0.927295218; // radians: a side of 4 to one of 3
     const bool bTenths = IsDlgButtonChecked(IDC_TENTHS) != 0;
-    m_example.SetWindowText(Text(IDS_EXAMPLE, DirectionText(EXAMPLE, bTenths).GetString()));
+    m_example.SetWindowText(Text(IDS_EXAMPLE, DirectionText(kExample, bTenths).GetString()));
 }
 
 CTolerancePage::CTolerancePage(CSettings& settings) : CnPropertyPage(IDD_TOLERANCE), m_settings(settings) {}
@@ -76,7 +76,7 @@ void CTolerancePage::DoDataExchange(CDataExchange* pDX) {
     DDX_Control(pDX, IDC_TOLERANCES, m_list);
     DDX_Control(pDX, IDC_EXAMPLE, m_choice);
     if (m_list.GetCount() == 0)
-        for (const double dTolerance : TOLERANCES)
+        for (const double dTolerance : kTolerances)
             m_list.AddString(Text(IDS_TOLERANCE, dTolerance));
     DDX_LBIndex(pDX, IDC_TOLERANCES, m_settings.nTolerance);
 }
@@ -88,6 +88,6 @@ BOOL CTolerancePage::OnInitDialog() {
 }
 
 void CTolerancePage::OnTolerance() {
-    const double dMillimetres = TOLERANCES[m_list.GetCurSel()] * 1000;
+    const double dMillimetres = kTolerances[m_list.GetCurSel()] * 1000;
     m_choice.SetWindowText(Text(IDS_TOLERANCE_CHOICE, dMillimetres));
 }

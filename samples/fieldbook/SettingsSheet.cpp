@@ -40,5 +40,5 @@ void KeepSettings(const CSettings& settings) {
 }
 
 void ApplySettings(const CSettings& settings) {
-    CVector::SetTolerance(TOLERANCES[settings.nTolerance]);
+    CVector::SetTolerance(kTolerances[settings.nTolerance]);
 }

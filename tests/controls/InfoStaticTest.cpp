@@ -3,7 +3,7 @@
 
 #include "controls/InfoStatic.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 namespace {
 

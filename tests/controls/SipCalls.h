@@ -4,7 +4,7 @@
 #include "support/FaultPoints.h"
 #include "support/FrameworkEnvironment.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 namespace fx {
 

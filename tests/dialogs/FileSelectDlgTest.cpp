@@ -4,7 +4,7 @@
 #include "FillWatch.h"
 #include "LockedFolder.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 namespace {
 

@@ -3,6 +3,8 @@
 
 #include "dialogs/detail/FileName.h"
 
+using namespace fieldkit::detail;
+
 namespace {
 
 using namespace file_select;

@@ -1,7 +1,7 @@
 #include "afxcoll.h"
 #include "afxtempl.h"
 
-#include "ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 
 #include <gtest/gtest.h>
 

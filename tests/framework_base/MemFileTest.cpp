@@ -1,4 +1,4 @@
-#include "ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #define _DEBUG 1 // the checks of a debug program, against the library as it is
-#include "ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 
 #include "afxcoll.h"
 

@@ -5,7 +5,7 @@
 #include "Tolerance.h"
 #include "bench/kernel/Reference.h"
 #include "geometry/Vector.h"
-#include "geometry/internal/Turn.h"
+#include "geometry/detail/Turn.h"
 
 #include <gtest/gtest.h>
 

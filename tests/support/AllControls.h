@@ -13,7 +13,7 @@
 #include "controls/nTreeCtrl.h"
 #include "survey/AngleEdit.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 
 namespace fx {
 

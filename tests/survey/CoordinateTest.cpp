@@ -1,6 +1,6 @@
 #include "survey/Coordinate.h"
 
-#include <Tesuvo.h>
+#include "Tesuvo.h"
 #include <gtest/gtest.h>
 
 #include <array>

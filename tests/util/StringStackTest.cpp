@@ -1,6 +1,6 @@
 #include "util/StringStack.h"
 
-#include "framework_base/ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 
 #include <gtest/gtest.h>
 

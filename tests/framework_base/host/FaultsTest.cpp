@@ -1,5 +1,5 @@
 // Each allocation and each system call fails once.
-#include "framework_base/ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 #include "support/NativeFaults.h"
 
 #include "afxcoll.h"

@@ -2,7 +2,7 @@
 /// What becomes of archives on bad cards: cut, with a bit turned, with a count that lies.
 #pragma once
 
-#include "framework_base/ArchiveBytes.h"
+#include "support/ArchiveBytes.h"
 #include "support/NativeFaults.h"
 
 /// Loads the bytes; the end is the file's content or CArchiveException*, with nothing left.

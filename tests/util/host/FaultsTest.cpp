@@ -2,12 +2,13 @@
 #include "support/host/DamagedBytes.h"
 #include "util/AsciiFile.h"
 #include "util/StringStack.h"
-#include "util/detail/CodePage.h"
 
 #include <cwchar>
 #include <memory>
 
-extern "C" int __real_MultiByteToWideChar(UINT, DWORD, LPCSTR, int, LPWSTR, int);
+// fieldkit::detail::OemToWide by the name that the linker knows.
+#define OEM_TO_WIDE(prefix) prefix##_ZN8fieldkit6detail9OemToWideEPKcPwi
+extern "C" int OEM_TO_WIDE(__real_)(LPCSTR, LPWSTR, int);
 
 namespace {
 
@@ -67,10 +68,9 @@ TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
 
 } // namespace
 
-extern "C" int __wrap_MultiByteToWideChar(UINT nCodePage, DWORD dwFlags, LPCSTR pszSource, int nSource,
-                                          LPWSTR pszTarget, int nTarget) {
+extern "C" int OEM_TO_WIDE(__wrap_)(LPCSTR pszSource, LPWSTR pszTarget, int nTarget) {
     if (g_converter == Converter::Sound)
-        return __real_MultiByteToWideChar(nCodePage, dwFlags, pszSource, nSource, pszTarget, nTarget);
+        return OEM_TO_WIDE(__real_)(pszSource, pszTarget, nTarget);
     std::wmemset(pszTarget, L'x', static_cast<std::size_t>(nTarget) - 1);
     pszTarget[nTarget - 1] = L'\0';
     return g_converter == Converter::Failing ? 0 : 4;

@@ -1,0 +1,272 @@
+// The application and its thread.
+#include "window/WndProc.h"
+
+#include <mutex>
+#include <set>
+
+using namespace fieldkit::detail;
+
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+namespace {
+
+CWinApp* g_pApp = nullptr;
+
+} // namespace
+
+// --- Thread ------------------------------------------------------------------------------------
+
+CWinThread::CWinThread() : m_nThreadID(::GetCurrentThreadId()) {
+    CThreadState::Get().m_pThread = this;
+}
+
+CWinThread::~CWinThread() {
+    CThreadState& state = CThreadState::Get();
+    if (state.m_pThread == this)
+        state.m_pThread = nullptr;
+}
+
+BOOL CWinThread::InitInstance() {
+    return FALSE;
+}
+int CWinThread::ExitInstance() {
+    // After a dialog in InitInstance there was no message loop, and so no WM_QUIT.
+    return m_msgCur.message == WM_QUIT ? static_cast<int>(m_msgCur.wParam) : 0;
+}
+
+int CWinThread::Run() {
+    bool bIdle = true;
+    LONG lIdle = 0;
+    for (;;) {
+        MSG msg;
+        while (bIdle && !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE))
+            bIdle = OnIdle(lIdle++);
+        if (!PumpMessage())
+            return ExitInstance();
+        if (IsIdleMessage(&m_msgCur)) {
+            bIdle = true;
+            lIdle = 0;
+        }
+    }
+}
+
+BOOL CWinThread::PumpMessage() {
+    if (::GetMessage(&m_msgCur, nullptr, 0, 0) <= 0)
+        return FALSE;
+    // The handlers may pump messages of their own, into m_msgCur.
+    MSG msg = m_msgCur;
+    BOOL bTaken = TRUE; // by an exception, too
+    AfxCallGuarded(m_msgCur,
+                   [&] { return bTaken = msg.message == WM_KICKIDLE || PreTranslateMessage(&msg); });
+    if (!bTaken) {
+        ::TranslateMessage(&msg);
+        ::DispatchMessage(&msg);
+    }
+    return TRUE;
+}
+
+BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
+    if (pMsg->hwnd == nullptr)
+        return FALSE;
+    CWnd* pMainWnd = AfxGetMainWnd();
+    return CWnd::WalkPreTranslateTree(HandleOf(pMainWnd), pMsg);
+}
+
+BOOL CWinThread::OnIdle(LONG) {
+    CThreadState::Get().DeleteTemporaries();
+    return FALSE;
+}
+
+BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
+    // Neither a pen that rests nor a blinking caret makes anything worth looking at.
+    constexpr UINT WM_SYSTIMER = 0x0118;
+    if (pMsg->message == WM_MOUSEMOVE || pMsg->message == WM_NCMOUSEMOVE) {
+        if (m_ptCursorLast == pMsg->pt && m_nMsgLast == pMsg->message)
+            return FALSE;
+        m_ptCursorLast = pMsg->pt;
+        m_nMsgLast = pMsg->message;
+        return TRUE;
+    }
+    return pMsg->message != WM_PAINT && pMsg->message != WM_SYSTIMER;
+}
+
+CWinThread* AFXAPI AfxGetThread() {
+    CWinThread* pThread = CThreadState::Get().m_pThread;
+    return pThread != nullptr ? pThread : g_pApp;
+}
+
+BOOL AFXAPI AfxPumpMessage() {
+    return CThreadState::Get().PumpThread().PumpMessage();
+}
+
+void AFXAPI AfxPostQuitMessage(int nExitCode) {
+    ::PostQuitMessage(nExitCode);
+}
+
+CWnd* AFXAPI AfxGetMainWnd() {
+    CWinThread* pThread = AfxGetThread();
+    return pThread != nullptr ? pThread->m_pMainWnd : nullptr;
+}
+
+// --- Application -------------------------------------------------------------------------------
+
+CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName) {
+    g_pApp = this;
+    if (m_strAppName.IsEmpty()) {
+        WCHAR szPath[MAX_PATH];
+        const DWORD nLength = ::GetModuleFileName(nullptr, szPath, MAX_PATH);
+        m_strAppName = CString(szPath, static_cast<int>(nLength));
+        m_strAppName = m_strAppName.Mid(m_strAppName.ReverseFind(_T('\\')) + 1);
+        if (const int nDot = m_strAppName.ReverseFind(_T('.')); nDot > 0)
+            m_strAppName = m_strAppName.Left(nDot);
+    }
+    m_pszAppName = m_strAppName;
+    m_pszProfileName = m_pszAppName;
+}
+
+CWinApp::~CWinApp() {
+    if (g_pApp == this)
+        g_pApp = nullptr;
+}
+
+int CWinApp::Run() {
+    if (m_pMainWnd == nullptr)
+        AfxPostQuitMessage(0); // nobody could ever end it
+    return CWinThread::Run();
+}
+
+HICON CWinApp::LoadIcon(UINT nIDResource) const {
+    return LoadIcon(MAKEINTRESOURCE(nIDResource));
+}
+HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
+    return ::LoadIcon(AfxFindResourceHandle(lpszResourceName, RT_GROUP_ICON), lpszResourceName);
+}
+HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
+    return ::LoadIcon(nullptr, lpszIconName);
+}
+HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
+    const LPCTSTR pszName = MAKEINTRESOURCE(nIDResource);
+    return ::LoadCursor(AfxFindResourceHandle(pszName, RT_GROUP_CURSOR), pszName);
+}
+HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const {
+    return ::LoadCursor(nullptr, lpszCursorName);
+}
+
+CWinApp* AFXAPI AfxGetApp() {
+    return g_pApp;
+}
+LPCTSTR AFXAPI AfxGetAppName() {
+    return g_pApp != nullptr ? g_pApp->m_pszAppName : _T("");
+}
+
+namespace {
+
+int RunThread(CWinThread& thread) {
+    if (thread.InitInstance())
+        return thread.Run();
+    if (thread.m_pMainWnd != nullptr)
+        thread.m_pMainWnd->DestroyWindow();
+    return thread.ExitInstance();
+}
+
+} // namespace
+
+int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
+    AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
+    CWinThread* pThread = AfxGetThread();
+    int nResult = -1;
+    if (pThread != nullptr)
+        AfxCallGuarded({}, [&] { return nResult = RunThread(*pThread); });
+    return nResult;
+}
+
+// --- Message boxes -------------------------------------------------------------------------------
+
+int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
+    if ((nType & MB_ICONMASK) == 0)
+        nType |= (nType & MB_TYPEMASK) == MB_YESNO || (nType & MB_TYPEMASK) == MB_YESNOCANCEL
+                     ? MB_ICONQUESTION
+                     : MB_ICONEXCLAMATION;
+    HWND hWndTop = nullptr;
+    CWnd* pOwner = CWnd::GetSafeOwner(nullptr, &hWndTop);
+    const HWND hWndOwner = HandleOf(pOwner);
+    const int nResult = ::MessageBox(hWndOwner, lpszPrompt, m_pszAppName, nType);
+    if (hWndTop != nullptr)
+        ::EnableWindow(hWndTop, TRUE);
+    return nResult;
+}
+
+int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
+    if (CWinApp* pApp = AfxGetApp())
+        return pApp->DoMessageBox(lpszText, nType, nIDHelp);
+    return ::MessageBox(::GetActiveWindow(), lpszText, AfxGetAppName(), nType);
+}
+
+int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
+    CString strText;
+    strText.LoadString(nIDPrompt);
+    return AfxMessageBox(strText, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
+}
+
+// --- Wait cursor -----------------------------------------------------------------------------------
+
+// Each thread with windows has its own cursor.
+void CCmdTarget::BeginWaitCursor() {
+    CThreadState& state = CThreadState::Get();
+    const HCURSOR hCursor = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+    if (state.m_nWaitDepth++ == 0)
+        state.m_hCursorBefore = hCursor;
+}
+
+void CCmdTarget::EndWaitCursor() {
+    CThreadState& state = CThreadState::Get();
+    if (state.m_nWaitDepth > 0 && --state.m_nWaitDepth == 0)
+        ::SetCursor(state.m_hCursorBefore);
+}
+
+void CCmdTarget::RestoreWaitCursor() {
+    if (CThreadState::Get().m_nWaitDepth > 0)
+        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+}
+
+CWaitCursor::CWaitCursor() {
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->BeginWaitCursor();
+}
+CWaitCursor::~CWaitCursor() {
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->EndWaitCursor();
+}
+void CWaitCursor::Restore() {
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->RestoreWaitCursor();
+}
+
+// --- Window classes ----------------------------------------------------------------------------------
+
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
+    // The name says it all, so that equal classes are registered once.
+    static std::set<CString> names;
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    CString strName;
+    strName.Format(_T("Afx:%p:%x:%p:%p:%p"), static_cast<void*>(AfxGetInstanceHandle()), nClassStyle,
+                   static_cast<void*>(hCursor), static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
+    const auto [it, bNew] = names.insert(strName);
+    if (bNew) {
+        WNDCLASS wc = {};
+        wc.style = nClassStyle;
+        wc.lpfnWndProc = ::DefWindowProc;
+        wc.hInstance = AfxGetInstanceHandle();
+        wc.hIcon = hIcon;
+        wc.hCursor = hCursor;
+        wc.hbrBackground = hbrBackground;
+        wc.lpszClassName = *it;
+        if (!::RegisterClass(&wc)) {
+            names.erase(it);
+            AfxThrowResourceException();
+        }
+    }
+    return *it;
+}

@@ -1,0 +1,162 @@
+#include "drawing/SelectScope.h"
+#include "Sip.h"
+
+using namespace fieldkit::detail;
+
+IMPLEMENT_DYNAMIC(CCeCommandBar, CWnd)
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CCeCommandBar, CWnd)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+// clang-format on
+
+namespace {
+
+constexpr UINT kIdSip = 0xE8E0;
+constexpr UINT kIdGap = 0xE8E1;
+constexpr UINT kIdPopupFirst = 0xE8F0;
+constexpr int kMaxPopups = 15;
+constexpr int kIconSize = 16;
+constexpr COLORREF kTransparentColor = RGB(255, 0, 255);
+
+/// Draws a keyboard: an outlined board, three rows of keys, the space bar.
+HIMAGELIST CreateSipImage() {
+    CWindowDC screen(nullptr);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, kIconSize, kIconSize);
+    {
+        const CSelectScope selected(dc, bitmap.m_hObject);
+        dc.FillSolidRect(0, 0, kIconSize, kIconSize, kTransparentColor);
+        dc.FillSolidRect(0, 3, 16, 11, RGB(0, 0, 0));
+        dc.FillSolidRect(1, 4, 14, 9, RGB(255, 255, 255));
+        for (int y = 5; y <= 9; y += 2)
+            for (int x = 2; x <= 13; x += 2)
+                dc.SetPixel(x, y, RGB(0, 0, 0));
+        dc.FillSolidRect(4, 11, 8, 1, RGB(0, 0, 0));
+    }
+    const HIMAGELIST hImages = ::ImageList_Create(kIconSize, kIconSize, ILC_COLOR24 | ILC_MASK, 1, 1);
+    ::ImageList_AddMasked(hImages, static_cast<HBITMAP>(bitmap.m_hObject), kTransparentColor);
+    return hImages;
+}
+
+CString MenuText(HMENU hMenu, int nPos) {
+    CString strText;
+    const int nLength = ::GetMenuString(hMenu, static_cast<UINT>(nPos), nullptr, 0, MF_BYPOSITION);
+    ::GetMenuString(hMenu, static_cast<UINT>(nPos), strText.GetBuffer(nLength), nLength + 1, MF_BYPOSITION);
+    strText.ReleaseBuffer();
+    return strText;
+}
+
+} // namespace
+
+BOOL CCeCommandBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
+    // The low word of the style holds flags of the device's bar; the tool bar has its own there.
+    const DWORD dwBarStyle =
+        (dwStyle & 0xFFFF0000) | WS_CHILD | CCS_NOPARENTALIGN | CCS_NORESIZE | TBSTYLE_FLAT | TBSTYLE_LIST;
+    if (!CreateEx(0, TOOLBARCLASSNAME, nullptr, dwBarStyle, CRect(0, 0, 0, 0), pParentWnd, nID))
+        return FALSE;
+    SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    AddSipButton();
+    Reposition();
+    return TRUE;
+}
+
+void CCeCommandBar::OnDestroy() {
+    CWnd::OnDestroy();
+    if (m_hImages != nullptr)
+        ::ImageList_Destroy(m_hImages);
+    if (m_hMenu != nullptr)
+        ::DestroyMenu(m_hMenu);
+    m_hImages = nullptr;
+    m_hMenu = nullptr;
+}
+
+void CCeCommandBar::AddButton(int nPos, UINT nID, int iImage, BYTE fsState, LPCTSTR pszText) {
+    TBBUTTON button = {};
+    button.iBitmap = iImage;
+    button.idCommand = static_cast<int>(nID);
+    button.fsState = fsState;
+    button.fsStyle = pszText != nullptr ? BTNS_BUTTON | BTNS_AUTOSIZE : BTNS_BUTTON;
+    button.iString = reinterpret_cast<INT_PTR>(pszText);
+    SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(nPos), reinterpret_cast<LPARAM>(&button));
+}
+
+/// A gap that takes the rest of the bar's width, then the switch: it ends up at the right.
+void CCeCommandBar::AddSipButton() {
+    m_hImages = CreateSipImage();
+    SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(m_hImages));
+    // A separator would show a line: a disabled button without picture and text shows nothing.
+    AddButton(0, kIdGap, I_IMAGENONE, 0, nullptr);
+    AddButton(1, kIdSip, 0, TBSTATE_ENABLED, nullptr);
+}
+
+BOOL CCeCommandBar::InsertMenuBar(UINT nIDResource) {
+    const LPCTSTR pszMenu = MAKEINTRESOURCE(nIDResource);
+    const HMENU hMenu = ::LoadMenu(AfxFindResourceHandle(pszMenu, RT_MENU), pszMenu);
+    if (hMenu == nullptr)
+        return FALSE;
+    if (m_hMenu != nullptr) {
+        while (SendMessage(TB_COMMANDTOINDEX, kIdGap) > 0)
+            SendMessage(TB_DELETEBUTTON, 0);
+        ::DestroyMenu(m_hMenu);
+    }
+    m_hMenu = hMenu;
+    const int nCount = std::min(::GetMenuItemCount(hMenu), kMaxPopups);
+    for (int i = 0; i < nCount; ++i) {
+        const bool bPopup = ::GetSubMenu(hMenu, i) != nullptr;
+        const UINT nID = bPopup ? kIdPopupFirst + static_cast<UINT>(i) : ::GetMenuItemID(hMenu, i);
+        AddButton(i, nID, I_IMAGENONE, TBSTATE_ENABLED, MenuText(hMenu, i));
+    }
+    Reposition();
+    return TRUE;
+}
+
+void CCeCommandBar::Reposition() {
+    CRect client;
+    GetParent()->GetClientRect(client);
+    SetWindowPos(nullptr, 0, client.bottom - AFX_DEVICE_BAR_HEIGHT, client.Width(), AFX_DEVICE_BAR_HEIGHT,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const auto nGap = static_cast<WPARAM>(SendMessage(TB_COMMANDTOINDEX, kIdGap));
+    CRect gap;
+    CRect sip;
+    SendMessage(TB_GETITEMRECT, nGap, reinterpret_cast<LPARAM>(&gap));
+    SendMessage(TB_GETITEMRECT, nGap + 1, reinterpret_cast<LPARAM>(&sip));
+    TBBUTTONINFO info = {};
+    info.cbSize = sizeof info;
+    info.dwMask = TBIF_SIZE;
+    info.cx = static_cast<WORD>(std::max<LONG>(client.Width() - gap.left - sip.Width(), 0));
+    SendMessage(TB_SETBUTTONINFO, kIdGap, reinterpret_cast<LPARAM>(&info));
+}
+
+BOOL CCeCommandBar::IsSipSwitchAt(CPoint screenPoint) const {
+    CRect rect;
+    SendMessage(TB_GETRECT, kIdSip, reinterpret_cast<LPARAM>(&rect));
+    ClientToScreen(rect);
+    return IsWindowVisible() && rect.PtInRect(screenPoint);
+}
+
+void CCeCommandBar::TrackPopup(int nIndex) {
+    CRect button;
+    SendMessage(TB_GETITEMRECT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(&button));
+    ClientToScreen(button);
+    ::TrackPopupMenu(::GetSubMenu(m_hMenu, nIndex), TPM_LEFTALIGN | TPM_BOTTOMALIGN, button.left, button.top,
+                     0, GetParent()->GetSafeHwnd(), nullptr);
+}
+
+BOOL CCeCommandBar::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (message == WM_COMMAND) {
+        const UINT nID = LOWORD(wParam);
+        if (nID == kIdSip) {
+            CSip::Toggle();
+            return TRUE;
+        }
+        if (nID >= kIdPopupFirst && nID < kIdPopupFirst + kMaxPopups) {
+            TrackPopup(static_cast<int>(nID - kIdPopupFirst));
+            return TRUE;
+        }
+    }
+    return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+}

@@ -1,0 +1,41 @@
+#include "MessageMap.h"
+#include "ThreadState.h"
+
+using namespace fieldkit::detail;
+
+IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
+
+const AFX_MSGMAP* CCmdTarget::GetThisMessageMap() {
+    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, nullptr, nullptr, nullptr}};
+    static const AFX_MSGMAP map = {nullptr, entries};
+    return &map;
+}
+
+const AFX_MSGMAP* CCmdTarget::GetMessageMap() const {
+    return GetThisMessageMap();
+}
+
+BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*) {
+    auto* pNotify = static_cast<AFX_NOTIFY*>(pExtra);
+    const UINT message = pNotify != nullptr ? WM_NOTIFY : WM_COMMAND;
+    const AFX_MSGMAP_ENTRY* pEntry = FindMapEntry(GetMessageMap(), message, nCode, nID);
+    if (pEntry == nullptr)
+        return FALSE;
+    LRESULT lResult = 0;
+    const AFX_MSG_CALL call = {0, pNotify != nullptr ? reinterpret_cast<LPARAM>(pNotify->pNMHDR) : 0, nID,
+                               pNotify != nullptr ? pNotify->pResult : &lResult};
+    return pEntry->pfnDispatch(this, pEntry->pfn, call);
+}
+
+const AFX_MSGMAP_ENTRY* fieldkit::detail::FindMapEntry(const AFX_MSGMAP* pMap, UINT message, int nCode,
+                                                       UINT nID) {
+    for (; pMap != nullptr; pMap = pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr) {
+        for (const AFX_MSGMAP_ENTRY* p = pMap->lpEntries; p->pfnDispatch != nullptr; ++p) {
+            if (p->nMessage == message && p->nCode == nCode && nID >= p->nID && nID <= p->nLastID)
+                return p;
+            if (p->nMessage == AFX_REGISTERED_ && message >= AFX_REGISTERED_ && *p->pnRegistered == message)
+                return p;
+        }
+    }
+    return nullptr;
+}

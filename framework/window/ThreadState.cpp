@@ -1,0 +1,89 @@
+#include "ThreadState.h"
+
+#include <utility>
+
+using namespace fieldkit::detail;
+
+// One slot for all of it: the compiler's thread_local is emulated here and seven times as slow.
+namespace {
+
+/// Made with the first object that needs it, which may be an application's static one.
+DWORD Slot() {
+    static const DWORD nSlot = ::TlsAlloc();
+    return nSlot;
+}
+
+CThreadState* Current() {
+    const DWORD nError = ::GetLastError(); // taking the value clears it
+    auto* pState = static_cast<CThreadState*>(::TlsGetValue(Slot()));
+    ::SetLastError(nError);
+    return pState;
+}
+
+/// The main thread has no such end: an application's static objects (its CWinApp, its dialogs)
+/// still use the state when the process is already going down.
+void NTAPI OnThread(PVOID, DWORD dwReason, PVOID) {
+    if (dwReason != DLL_THREAD_DETACH)
+        return;
+    delete Current();
+    ::TlsSetValue(Slot(), nullptr);
+}
+
+struct CNewHandler {
+    CNewHandler() { AfxInstallNewHandler(); }
+};
+const CNewHandler g_newHandler;
+
+} // namespace
+
+// The linker gathers these pointers, and the system calls them; in a DLL as in a program.
+extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK FieldkitThreadCallback =
+    OnThread;
+
+CThreadState& CThreadState::Get() {
+    if (CThreadState* pState = Current())
+        return *pState;
+    auto* pState = new CThreadState;
+    ::TlsSetValue(Slot(), pState);
+    return *pState;
+}
+
+CWinThread& CThreadState::PumpThread() {
+    if (m_pThread != nullptr)
+        return *m_pThread;
+    if (m_pOwnThread == nullptr) {
+        m_pOwnThread = std::make_unique<CWinThread>();
+        m_pThread = nullptr; // to everybody else the thread still has none
+    }
+    return *m_pOwnThread;
+}
+
+void CThreadState::DeleteTemporaries() {
+    m_windows.DeleteTemporary(m_nModalDepth);
+    m_contexts.DeleteTemporary(m_nModalDepth);
+    m_gdiObjects.DeleteTemporary(m_nModalDepth);
+    m_imageLists.DeleteTemporary(m_nModalDepth);
+}
+
+CModalScope::CModalScope(CWnd* pWnd) : m_pWnd(pWnd) {
+    CThreadState& state = CThreadState::Get();
+    m_pOuter = std::exchange(state.m_pModal, this);
+    ++state.m_nModalDepth;
+}
+
+CModalScope::~CModalScope() {
+    CThreadState& state = CThreadState::Get();
+    state.DeleteTemporaries();
+    --state.m_nModalDepth;
+    state.m_pModal = m_pOuter;
+    // This window may have come in a message that another thread sent, which the outer loop handles
+    // while it waits for one of its own: it must look whether it shall still go on.
+    if (m_pOuter != nullptr)
+        ::PostMessage(nullptr, WM_NULL, 0, 0);
+}
+
+void CModalScope::Forget(const CWnd* pWnd) {
+    for (CModalScope* pScope = CThreadState::Get().m_pModal; pScope != nullptr; pScope = pScope->m_pOuter)
+        if (pScope->m_pWnd == pWnd)
+            pScope->m_pWnd = nullptr;
+}

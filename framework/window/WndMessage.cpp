@@ -1,0 +1,297 @@
+// How a message finds its handler: the window's map, the control it came from, the
+// parent's map.
+#include "CtlColor.h"
+#include "MessageMap.h"
+#include "WndProc.h"
+#include "WndShell.h"
+
+using namespace fieldkit::detail;
+
+LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (!OnWndMsg(message, wParam, lParam, &lResult))
+        lResult = DefWindowProc(message, wParam, lParam);
+    return lResult;
+}
+
+LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (g_wndShell.pfnOnMessage(this, message, wParam, lParam, &lResult))
+        return lResult;
+    return CallSuper(message, wParam, lParam);
+}
+
+LRESULT CWnd::CallSuper(UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC pfnSuper = *GetSuperWndProcAddr();
+    if (pfnSuper == nullptr)
+        return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    return ::CallWindowProc(pfnSuper, m_hWnd, message, wParam, lParam);
+}
+
+MSG* CWnd::GetCurrentMessage() {
+    return &CThreadState::Get().m_msgLast;
+}
+
+LRESULT CWnd::Default() {
+    const MSG msg = *GetCurrentMessage();
+    return DefWindowProc(msg.message, msg.wParam, msg.lParam);
+}
+
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (message == WM_COMMAND) {
+        if (!OnCommand(wParam, lParam))
+            return FALSE;
+        *pResult = 1;
+        return TRUE;
+    }
+    if (message == WM_NOTIFY) {
+        // Not every notification has a header behind it: the system sends itself some.
+        return lParam != 0 && OnNotify(wParam, lParam, pResult);
+    }
+    CCtlColor color;
+    if (CCtlColor::IsColorMessage(message)) {
+        color = CCtlColor::FromMessage(message, wParam, lParam);
+        message = AFX_WM_CTLCOLOR;
+        lParam = reinterpret_cast<LPARAM>(&color);
+    }
+    const AFX_MSGMAP_ENTRY* pEntry = FindMapEntry(GetMessageMap(), message);
+    if (pEntry == nullptr)
+        return FALSE;
+    return pEntry->pfnDispatch(this, pEntry->pfn, {wParam, lParam, 0, pResult});
+}
+
+// --- Commands and notifications -----------------------------------------------------------
+
+BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) {
+    return CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pInfo);
+}
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const UINT nID = LOWORD(wParam);
+    const auto hWndCtrl = reinterpret_cast<HWND>(lParam);
+    const CThreadState& state = CThreadState::Get();
+    if (state.m_hLockoutNotifyWindow != nullptr && state.m_hLockoutNotifyWindow == m_hWnd)
+        return TRUE; // data exchange is writing to the controls
+    if (hWndCtrl == nullptr)
+        return nID != 0 && OnCmdMsg(nID, CN_COMMAND, nullptr, nullptr);
+    if (ReflectLastMsg(hWndCtrl))
+        return TRUE;
+    return nID != 0 && OnCmdMsg(nID, static_cast<int>(HIWORD(wParam)), nullptr, nullptr);
+}
+
+BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
+    auto* pNMHDR = reinterpret_cast<NMHDR*>(lParam);
+    const CThreadState& state = CThreadState::Get();
+    if (state.m_hLockoutNotifyWindow != nullptr && state.m_hLockoutNotifyWindow == m_hWnd)
+        return TRUE;
+    if (ReflectLastMsg(pNMHDR->hwndFrom, pResult))
+        return TRUE;
+    AFX_NOTIFY notify = {pResult, pNMHDR};
+    const int nID = ::GetDlgCtrlID(pNMHDR->hwndFrom);
+    const UINT nCtlID = nID != 0 ? static_cast<UINT>(nID) : static_cast<UINT>(pNMHDR->idFrom);
+    return OnCmdMsg(nCtlID, static_cast<int>(pNMHDR->code), &notify, nullptr);
+}
+
+// --- Reflection ------------------------------------------------------------------------------
+
+BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
+    CWnd* pWnd = FromHandlePermanent(hWndChild);
+    return pWnd != nullptr && pWnd->SendChildNotifyLastMsg(pResult);
+}
+
+BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult) {
+    const MSG msg = *GetCurrentMessage();
+    return OnChildNotify(msg.message, msg.wParam, msg.lParam, pResult);
+}
+
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    return ReflectChildNotify(message, wParam, lParam, pResult);
+}
+
+BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    LRESULT lResult = 0;
+    LRESULT* const pOut = pResult != nullptr ? pResult : &lResult;
+    int nCode = 0;
+    CCtlColor color;
+    if (message == WM_COMMAND) {
+        nCode = HIWORD(wParam);
+    } else if (message == WM_NOTIFY) {
+        nCode = static_cast<int>(reinterpret_cast<NMHDR*>(lParam)->code);
+    } else if (CCtlColor::IsColorMessage(message)) {
+        color = CCtlColor::FromMessage(message, wParam, lParam);
+        message = AFX_WM_CTLCOLOR;
+        lParam = reinterpret_cast<LPARAM>(&color);
+    }
+    const AFX_MSGMAP_ENTRY* pEntry = FindMapEntry(GetMessageMap(), message + WM_REFLECT_BASE, nCode);
+    return pEntry != nullptr && pEntry->pfnDispatch(this, pEntry->pfn, {wParam, lParam, 0, pOut});
+}
+
+// --- Handlers that ask the control first ----------------------------------------------------
+
+HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
+    LRESULT lResult = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&lResult))
+        return reinterpret_cast<HBRUSH>(lResult);
+    return reinterpret_cast<HBRUSH>(Default());
+}
+
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    if (lpDrawItemStruct->CtlType == ODT_MENU || !ReflectLastMsg(lpDrawItemStruct->hwndItem))
+        Default();
+}
+
+void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
+    if (lpMeasureItemStruct->CtlType != ODT_MENU) {
+        if (CWnd* pChild = FromHandlePermanent(::GetDlgItem(m_hWnd, nIDCtl));
+            pChild != nullptr && pChild->SendChildNotifyLastMsg())
+            return;
+    }
+    Default();
+}
+
+LRESULT CWnd::OnCompareItem(WPARAM, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (ReflectLastMsg(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)->hwndItem, &lResult))
+        return lResult;
+    return Default();
+}
+
+LRESULT CWnd::OnDeleteItem(WPARAM, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (ReflectLastMsg(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam)->hwndItem, &lResult))
+        return lResult;
+    return Default();
+}
+
+LRESULT CWnd::OnKeyToItem(WPARAM, LPARAM lParam) {
+    LRESULT lResult = 0;
+    if (ReflectLastMsg(reinterpret_cast<HWND>(lParam), &lResult))
+        return lResult;
+    return Default();
+}
+
+void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg())
+        Default();
+}
+
+void CWnd::OnVScroll(UINT, UINT, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg())
+        Default();
+}
+
+LRESULT CWnd::OnTabletQueryGesture(WPARAM, LPARAM lParam) {
+    CPoint point(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+    ScreenToClient(&point);
+    return static_cast<LRESULT>(GetGestureStatus(point));
+}
+
+ULONG CWnd::GetGestureStatus(CPoint) {
+    return AFX_TABLET_DISABLE_PRESSANDHOLD;
+}
+
+// --- Handlers that only forward ---------------------------------------------------------------
+
+int CWnd::OnCreate(LPCREATESTRUCT) {
+    return static_cast<int>(Default());
+}
+void CWnd::OnDestroy() {
+    Default();
+}
+void CWnd::OnClose() {
+    Default();
+}
+void CWnd::OnPaint() {
+    Default();
+}
+BOOL CWnd::OnEraseBkgnd(CDC*) {
+    return static_cast<BOOL>(Default());
+}
+void CWnd::OnSize(UINT, int, int) {
+    Default();
+}
+void CWnd::OnMove(int, int) {
+    Default();
+}
+void CWnd::OnTimer(UINT_PTR) {
+    Default();
+}
+void CWnd::OnSetFocus(CWnd*) {
+    Default();
+}
+void CWnd::OnKillFocus(CWnd*) {
+    Default();
+}
+void CWnd::OnCaptureChanged(CWnd*) {
+    Default();
+}
+void CWnd::OnEnable(BOOL) {
+    Default();
+}
+void CWnd::OnShowWindow(BOOL, UINT) {
+    Default();
+}
+void CWnd::OnActivate(UINT, CWnd*, BOOL) {
+    Default();
+}
+void CWnd::OnLButtonDown(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnLButtonUp(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnLButtonDblClk(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnRButtonDown(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnRButtonUp(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnMouseMove(UINT, CPoint) {
+    Default();
+}
+void CWnd::OnKeyDown(UINT, UINT, UINT) {
+    Default();
+}
+void CWnd::OnKeyUp(UINT, UINT, UINT) {
+    Default();
+}
+void CWnd::OnChar(UINT, UINT, UINT) {
+    Default();
+}
+void CWnd::OnWinIniChange(LPCTSTR) {
+    Default();
+}
+void CWnd::OnSettingChange(UINT, LPCTSTR) {
+    Default();
+}
+BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT) {
+    return static_cast<BOOL>(Default());
+}
+UINT CWnd::OnGetDlgCode() {
+    return static_cast<UINT>(Default());
+}
+void CWnd::OnGetMinMaxInfo(MINMAXINFO*) {
+    Default();
+}
+void CWnd::OnSysCommand(UINT, LPARAM) {
+    Default();
+}
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+    ON_WM_NCDESTROY()
+    ON_WM_CTLCOLOR()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_MESSAGE(WM_COMPAREITEM, &CWnd::OnCompareItem)
+    ON_MESSAGE(WM_DELETEITEM, &CWnd::OnDeleteItem)
+    ON_MESSAGE(WM_VKEYTOITEM, &CWnd::OnKeyToItem)
+    ON_MESSAGE(WM_CHARTOITEM, &CWnd::OnKeyToItem)
+    ON_MESSAGE(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CWnd::OnTabletQueryGesture)
+END_MESSAGE_MAP()
+// clang-format on
