@@ -1,13 +1,16 @@
 # shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
 # Layout, scripts and the faults that clang-tidy finds. Nothing is built for it.
 
-lint_folders=(framework companion geometry survey util controls dialogs resources samples bench fuzz tests)
+lint_folders=(api framework companion geometry survey util controls dialogs resources module samples bench fuzz tests)
 
 # The quick ones first; each step is an error when it finds anything.
 run_lint() {
-    require clang-format clang-tidy shellcheck
+    require clang-format clang-tidy shellcheck python3
     logged lint-format check_format
     logged lint-scripts check_scripts
+    logged lint-arrows check_arrows
+    logged lint-names check_names
+    logged lint-headers check_headers
     logged lint-configure configure_for_lint
     logged lint-tidy tidy_all
 }
@@ -19,6 +22,36 @@ check_format() {
 
 check_scripts() {
     find run tools samples bench \( -name run -o -name '*.sh' \) -exec shellcheck {} +
+}
+
+# Which folder includes which, against tools/arrows.txt.
+check_arrows() { python3 tools/arrows.py "$root"; }
+
+# Constants, internal linkage and the companion's header in the one way of CONTRIBUTING.md. The
+# framework's public headers name things as the framework does; tests are left alone.
+check_names() {
+    local found
+    found=$(
+        grep -rnE --include='*.h' --include='*.cpp' '\<constexpr [^=(;]*\<[A-Z][A-Z0-9_]+(\[[^]]*\])? *=' "${lint_folders[@]}" |
+            grep -vE '^[a-z]+/[^/]*\.h:|(^|/)tests/|\<(WM|IDR)_[A-Z_]+ *='
+        grep -rnE --include='*.cpp' '^static ' "${lint_folders[@]}" | grep -vE '(^|/)tests/'
+        grep -rnE --include='*.h' --include='*.cpp' 'include (<|"companion/)Tesuvo\.h' "${lint_folders[@]}"
+    ) || true
+    [[ -z $found ]] || printf 'not as CONTRIBUTING.md says:\n%s\n' "$found"
+    [[ -z $found ]]
+}
+
+# Each public header is enough by itself, from the oldest standard on that applications use.
+check_headers() {
+    local sum
+    sum=$build/lint/passed/headers-$(public_headers | xargs cat | sha1sum | cut -c 1-40)
+    [[ ! -e $sum ]] || return 0
+    public_headers | xargs -P "$(nproc)" -I '{}' x86_64-w64-mingw32-g++-posix -std=c++17 -fsyntax-only \
+        -Wall -Wextra -Wpedantic -Werror -D_WIN32_WINNT=0x0601 -DUNICODE -D_UNICODE \
+        -I"$root" -I"$root/framework" -I"$root/companion" -include '{}' -x c++ /dev/null ||
+        return
+    mkdir -p "$build/lint/passed"
+    : >"$sum"
 }
 
 # Always, so that the compile commands have the sources of now; and without precompiled
@@ -46,7 +79,7 @@ tidy_all() {
     windows_arguments
     tidy_each "$windows" -p "$build/lint/win64" "${tidy_windows[@]/#/--extra-arg=}" || status=1
     # The sample is a project of its own, and is built against the installed headers.
-    find samples -name '*.cpp' -not -path '*/tests/*' >"$windows"
+    find samples -name '*.cpp' -not -path '*/tests/*' -not -path '*/fuzz/*' >"$windows"
     tidy_each "$windows" -- -std=c++17 "${tidy_windows[@]}" -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0601 \
         -I"$root" -I"$root/framework" -I"$root/companion" || status=1
     return $status

@@ -23,6 +23,7 @@ run_tests() {
     failed=$((failed + bad))
     if [[ -z $1 ]]; then
         test_tutorial
+        check_symbols
         test_package
     fi
     ((passed + failed > 0)) || die "no test program matches \"$1\""
