@@ -1,10 +1,11 @@
 /// @file
-/// Drawing: the objects that are selected into a device context, and the device
-/// contexts themselves. Included by afxwin.h.
+/// Drawing objects, which are selected into device contexts. Included by afxwin.h.
 #pragma once
 
 #include "afx.h"
 #include "atltypes.h"
+
+#include <commctrl.h>
 
 class CBitmap;
 class CDC;
@@ -43,6 +44,10 @@ public:
     int GetObject(int nCount, LPVOID lpObject) const;
     /// @param nIndex WHITE_BRUSH, BLACK_PEN, SYSTEM_FONT...
     BOOL CreateStockObject(int nIndex);
+    /// OBJ_PEN, OBJ_BRUSH...; 0 for none.
+    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
+    /// The system's function of this name, which has no effect on anything but old systems' brushes.
+    BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
     /// Whether both stand for the same object of the system.
     ///@{
@@ -58,7 +63,11 @@ public:
     CPen() = default;
     /// @param nWidth logical units; 0 is one pixel
     /// @throw CResourceException* if the system refuses
+    ///@{
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
+    CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
+         const DWORD* lpStyle = nullptr);
+    ///@}
 
     /// The handle, or null.
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
@@ -68,8 +77,13 @@ public:
     /// Makes the pen, or tells what it is made of. @return 0 on failure
     ///@{
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor);
+    /// @param nPenStyle PS_GEOMETRIC or PS_COSMETIC with style, ends and joins
+    /// @param lpStyle   nStyleCount lengths of dashes and gaps, for PS_USERSTYLE
+    BOOL CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
+                   const DWORD* lpStyle = nullptr);
     BOOL CreatePenIndirect(LPLOGPEN lpLogPen);
     int GetLogPen(LOGPEN* pLogPen) const { return GetObject(sizeof(LOGPEN), pLogPen); }
+    int GetExtLogPen(EXTLOGPEN* pLogPen) const { return GetObject(sizeof(EXTLOGPEN), pLogPen); }
     ///@}
 };
 
@@ -96,6 +110,13 @@ public:
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor);
     BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush);
     BOOL CreatePatternBrush(CBitmap* pBitmap);
+    /// @param nUsage DIB_RGB_COLORS or DIB_PAL_COLORS
+    BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage) {
+        return Attach(::CreateDIBPatternBrush(hPackedDIB, nUsage));
+    }
+    BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
+        return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
+    }
     ///@}
     /// @param nIndex COLOR_...
     BOOL CreateSysColorBrush(int nIndex);
@@ -144,6 +165,12 @@ public:
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     /// The same by its number. @return FALSE if there is no such bitmap
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
+    /// Loads a bitmap of the system.
+    /// @param nIDBitmap OBM_...
+    BOOL LoadOEMBitmap(UINT nIDBitmap) { return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
+    /// Loads a bitmap in the user's colours.
+    /// @param lpColorMap nMapSize pairs of colours; null: greys and blue become those of buttons
+    BOOL LoadMappedBitmap(UINT nIDBitmap, UINT nFlags = 0, LPCOLORMAP lpColorMap = nullptr, int nMapSize = 0);
     /// @param lpBits rows padded to 16 bits; null leaves the pixels undefined
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits);
     /// Makes the bitmap: from a description, or for drawing on the device of pDC. @return FALSE on
@@ -151,9 +178,24 @@ public:
     ///@{
     BOOL CreateBitmapIndirect(LPBITMAP lpBitmap);
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
     ///@}
     /// Size and format of the bitmap. @return the bytes written, 0 on failure
     int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
+    /// The pixels, rows padded to 16 bits. @return the bytes copied
+    ///@{
+    DWORD SetBitmapBits(DWORD dwCount, const void* lpBits) {
+        return static_cast<DWORD>(::SetBitmapBits(*this, dwCount, lpBits));
+    }
+    DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const {
+        return static_cast<DWORD>(::GetBitmapBits(*this, static_cast<LONG>(dwCount), lpBits));
+    }
+    ///@}
+    /// A size in tenths of a millimetre, which only programs look at.
+    ///@{
+    CSize SetBitmapDimension(int nWidth, int nHeight);
+    CSize GetBitmapDimension() const;
+    ///@}
 };
 
 /// A region of device coordinates.
@@ -167,252 +209,55 @@ public:
     /// The object of a handle, a temporary one if nobody owns it; null for null.
     static CRgn* FromHandle(HRGN hRgn);
 
-    /// Makes a rectangular region; right and bottom lie outside. @return FALSE on failure
+    /// Makes the region; right and bottom lie outside. @return FALSE on failure
     ///@{
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
-    BOOL CreateRectRgnIndirect(LPCRECT lpRect);
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
+    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) {
+        return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
+    }
+    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return Attach(::CreateEllipticRgnIndirect(lpRect)); }
+    BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
+        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
+    }
+    /// @param nMode ALTERNATE or WINDING
+    BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode) {
+        return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+    }
+    BOOL CreatePolyPolygonRgn(const POINT* lpPoints, const INT* lpPolyCounts, int nCount, int nPolyFillMode) {
+        return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
+    }
+    BOOL CreateFromPath(CDC* pDC);
+    BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData) {
+        return Attach(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
+    }
     ///@}
     /// Makes the existing region a rectangle.
-    void SetRectRgn(LPCRECT lpRect);
+    ///@{
+    void SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }
+    void SetRectRgn(LPCRECT lpRect) { SetRectRgn(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
+    ///@}
     /// This region, which must exist, becomes the combination of two; it may be one of them.
     /// @param nCombineMode RGN_AND, RGN_COPY, RGN_DIFF, RGN_OR, RGN_XOR
     /// @return NULLREGION, SIMPLEREGION, COMPLEXREGION or ERROR
     int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
+    /// The existing region becomes a copy of another, or is moved. @return its kind
+    ///@{
+    int CopyRgn(const CRgn* pRgnSrc) { return CombineRgn(pRgnSrc, nullptr, RGN_COPY); }
+    int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
+    int OffsetRgn(POINT point) { return OffsetRgn(point.x, point.y); }
+    ///@}
+    BOOL EqualRgn(const CRgn* pRgn) const { return ::EqualRgn(*this, *pRgn); }
     /// The smallest rectangle around the region. @return the region's kind
-    int GetRgnBox(LPRECT lpRect) const;
-};
-
-/// A device context of the system, or the C++ side of one.
-///
-/// An object that created or attached a context deletes it in its destructor. FromHandle
-/// gives temporary objects for foreign contexts; they are valid until the program is next
-/// idle. A SelectObject call returns the object selected before (a temporary one if need
-/// be), which the caller selects again before the new one is deleted.
-class AFX_CORE CDC : public CObject {
-    DECLARE_DYNCREATE(CDC)
-public:
-    CDC() = default;
-    ~CDC() override;
-
-    HDC m_hDC = nullptr;       ///< What drawing goes to.
-    HDC m_hAttribDC = nullptr; ///< What questions are answered from; always m_hDC here.
-
-    /// What drawing goes to, or null.
-    operator HDC() const { return m_hDC; }
-    /// The handle; null also for a null object.
-    HDC GetSafeHdc() const;
-    /// The object of a context, a temporary one if nobody owns it; null for null.
-    static CDC* FromHandle(HDC hDC);
-    /// Deletes the temporary objects that nothing can hold any more; called when idle.
-    static void DeleteTempMap();
-    /// Takes a context over. @return FALSE for null
-    BOOL Attach(HDC hDC);
-    /// Gives the context up. @return what it was
-    HDC Detach();
-    /// The window that the context is of; null for none.
-    CWnd* GetWindow() const;
-
-    /// @param pDC null is the screen
-    BOOL CreateCompatibleDC(CDC* pDC);
-    /// Deletes the context. @return FALSE without one, or on failure
-    BOOL DeleteDC();
-    /// @return the number of the saved state for RestoreDC, 0 on failure
-    virtual int SaveDC();
-    /// @param nSavedDC what SaveDC returned, or -1 for the last
-    virtual BOOL RestoreDC(int nSavedDC);
-    /// @param nIndex LOGPIXELSX, BITSPIXEL...
-    int GetDeviceCaps(int nIndex) const;
-
-    // --- Objects -------------------------------------------------------------------
-    /// Selects an object and returns the previous one, or returns the one selected now.
+    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
+    /// Whether a point, or any part of a rectangle, lies in the region.
     ///@{
-    virtual CGdiObject* SelectStockObject(int nIndex);
-    virtual CPen* SelectObject(CPen* pPen);
-    virtual CBrush* SelectObject(CBrush* pBrush);
-    virtual CFont* SelectObject(CFont* pFont);
-    CBitmap* SelectObject(CBitmap* pBitmap);
-    /// Makes a copy of the region the clipping region. @return its kind
-    int SelectObject(CRgn* pRgn);
-    CPen* GetCurrentPen() const;
-    CBrush* GetCurrentBrush() const;
-    CFont* GetCurrentFont() const;
-    CBitmap* GetCurrentBitmap() const;
+    BOOL PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
+    BOOL PtInRegion(POINT point) const { return PtInRegion(point.x, point.y); }
+    BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
     ///@}
-
-    // --- Attributes: each setter returns the previous value --------------------------
-    /// The attribute of this name. COLORREF is 0x00BBGGRR.
-    ///@{
-    int SetBkMode(int nBkMode);
-    int GetBkMode() const;
-    virtual COLORREF SetBkColor(COLORREF crColor);
-    COLORREF GetBkColor() const;
-    virtual COLORREF SetTextColor(COLORREF crColor);
-    COLORREF GetTextColor() const;
-    int SetROP2(int nDrawMode);
-    int GetROP2() const;
-    UINT SetTextAlign(UINT nFlags);
-    UINT GetTextAlign() const;
-    int SetStretchBltMode(int nStretchMode);
-    CPoint SetBrushOrg(int x, int y);
-    ///@}
-
-    // --- Coordinates ---------------------------------------------------------------
-    /// The point of the device that the origin of logical coordinates is at; setters return the
-    /// previous one.
-    ///@{
-    virtual CPoint SetViewportOrg(int x, int y);
-    CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
-    CPoint GetViewportOrg() const;
-    ///@}
-    /// Converts points or a rectangle between logical and device coordinates, in place.
-    ///@{
-    void LPtoDP(LPPOINT lpPoints, int nCount = 1) const;
-    void LPtoDP(LPRECT lpRect) const;
-    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const;
-    void DPtoLP(LPRECT lpRect) const;
-    ///@}
-
-    // --- Clipping: each returns the kind of the new clipping region --------------------
-    /// Reads or changes the clipping region. A null region is none: drawing is not clipped. nMode
-    /// is RGN_AND and the like.
-    ///@{
-    virtual int GetClipBox(LPRECT lpRect) const;
-    virtual int SelectClipRgn(CRgn* pRgn);
-    int SelectClipRgn(CRgn* pRgn, int nMode);
-    virtual int ExcludeClipRect(int x1, int y1, int x2, int y2);
-    virtual int ExcludeClipRect(LPCRECT lpRect);
-    virtual int IntersectClipRect(int x1, int y1, int x2, int y2);
-    virtual int IntersectClipRect(LPCRECT lpRect);
-    ///@}
-
-    // --- Lines and shapes ------------------------------------------------------------
-    /// The Win32 function of the same name, in logical coordinates. MoveTo returns the previous
-    /// position; right and bottom of rectangles lie outside.
-    ///@{
-    CPoint GetCurrentPosition() const;
-    CPoint MoveTo(int x, int y);
-    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
-    BOOL LineTo(int x, int y);
-    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polyline(const POINT* lpPoints, int nCount);
-    BOOL Polygon(const POINT* lpPoints, int nCount);
-    BOOL Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
-    BOOL Arc(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
-    BOOL Rectangle(int x1, int y1, int x2, int y2);
-    BOOL Rectangle(LPCRECT lpRect);
-    BOOL Ellipse(int x1, int y1, int x2, int y2);
-    BOOL Ellipse(LPCRECT lpRect);
-    void FillRect(LPCRECT lpRect, CBrush* pBrush);
-    ///@}
-    /// Fills with a colour; the background colour stays as it was.
-    void FillSolidRect(LPCRECT lpRect, COLORREF clr);
-    /// See FillSolidRect.
-    void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
-    /// The Win32 function of the same name, in logical coordinates.
-    ///@{
-    void FrameRect(LPCRECT lpRect, CBrush* pBrush);
-    void InvertRect(LPCRECT lpRect);
-    BOOL DrawIcon(int x, int y, HICON hIcon);
-    BOOL DrawIcon(POINT point, HICON hIcon) { return DrawIcon(point.x, point.y, hIcon); }
-    BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags);
-    BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState);
-    void DrawFocusRect(LPCRECT lpRect);
-    ///@}
-    /// A frame one pixel wide: left and top in one colour, right and bottom in the other.
-    void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
-    /// See Draw3dRect.
-    void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
-
-    /// Moves the frame that shows where something is being dragged.
-    ///
-    /// The frame inverts what is under it, so the same call with the same rectangle takes it
-    /// away. Only the pixels in which the previous frame and the new one differ are drawn.
-    /// @param lpRect     new frame (logical coordinates)
-    /// @param size       width of its vertical (cx) and horizontal (cy) sides
-    /// @param lpRectLast previous frame, taken away in the same call; null draws only
-    /// @param sizeLast   width of the previous frame's sides
-    /// @param pBrush     null is the half-tone brush
-    /// @param pBrushLast brush of the previous frame; null is pBrush
-    void DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeLast, CBrush* pBrush = nullptr,
-                      CBrush* pBrushLast = nullptr);
-    /// A brush of alternating black and white pixels; the framework's, not to be deleted.
-    static CBrush* GetHalftoneBrush();
-
-    // --- Bitmaps and pixels ------------------------------------------------------------
-    /// The Win32 function of the same name. dwRop is SRCCOPY and the like. @return FALSE on failure
-    ///@{
-    BOOL PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop);
-    BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
-    BOOL StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, int nSrcWidth,
-                    int nSrcHeight, DWORD dwRop);
-    ///@}
-    /// The colour of a pixel; CLR_INVALID outside of the clipping region. SetPixel returns the
-    /// colour that it has set.
-    ///@{
-    COLORREF GetPixel(int x, int y) const;
-    COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
-    COLORREF SetPixel(int x, int y, COLORREF crColor);
-    COLORREF SetPixel(POINT point, COLORREF crColor) { return SetPixel(point.x, point.y, crColor); }
-    ///@}
-
-    // --- Text --------------------------------------------------------------------------
-    /// Draws a text at a point, by the text alignment. @return FALSE on failure
-    ///@{
-    virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
-    BOOL TextOut(int x, int y, const CString& str);
-    virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                            LPINT lpDxWidths);
-    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths);
-    ///@}
-    /// @param nCount characters, -1 for all @return the height of the text
-    virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat);
-    /// The same for the whole string.
-    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
-    /// Width and height of a text in one line, logical units.
-    ///@{
-    CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
-    CSize GetTextExtent(const CString& str) const;
-    ///@}
-    /// The measures of the selected font. @return FALSE on failure
-    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const;
-};
-
-/// What a WM_PAINT handler draws on: begins painting, and ends it in the destructor.
-class AFX_CORE CPaintDC : public CDC {
-    DECLARE_DYNAMIC(CPaintDC)
-public:
-    /// @throw CResourceException* if the system refuses
-    explicit CPaintDC(CWnd* pWnd);
-    ~CPaintDC() override;
-
-    PAINTSTRUCT m_ps = {}; ///< What BeginPaint told: the rectangle to paint among others.
-
-protected:
-    HWND m_hWnd; ///< The window.
-};
-
-/// The client area of a window; released in the destructor.
-class AFX_CORE CClientDC : public CDC {
-    DECLARE_DYNAMIC(CClientDC)
-public:
-    /// @param pWnd null is the screen
-    /// @throw CResourceException* if the system refuses
-    explicit CClientDC(CWnd* pWnd);
-    ~CClientDC() override;
-
-protected:
-    HWND m_hWnd; ///< The window; null for the screen.
-};
-
-/// A window with its frame; released in the destructor.
-class AFX_CORE CWindowDC : public CDC {
-    DECLARE_DYNAMIC(CWindowDC)
-public:
-    /// @param pWnd null is the screen
-    /// @throw CResourceException* if the system refuses
-    explicit CWindowDC(CWnd* pWnd);
-    ~CWindowDC() override;
-
-protected:
-    HWND m_hWnd; ///< The window; null for the screen.
+    /// @param nCount room at lpRgnData in bytes; null there asks for it
+    int GetRegionData(LPRGNDATA lpRgnData, int nCount) const {
+        return static_cast<int>(::GetRegionData(*this, static_cast<DWORD>(nCount), lpRgnData));
+    }
 };

@@ -16,6 +16,8 @@
 
 // Drawing.
 #include "afxgdi_.h"
+#include "afxdc_.h"
+#include "afxpdc_.h"
 // Windows and their messages.
 #include "afxmsg_.h"
 #include "afxwnd_.h"

@@ -1,6 +1,7 @@
 // Device contexts: ownership, selected objects, attributes, coordinates, clipping.
 #include "GdiFromHandle.h"
 
+#include <cstdlib>
 #include <utility>
 
 using namespace fieldkit::detail;
@@ -63,56 +64,69 @@ BOOL CDC::CreateCompatibleDC(CDC* pDC) {
     return Attach(::CreateCompatibleDC(pDC != nullptr ? pDC->m_hDC : nullptr));
 }
 
+BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
+                   const void* lpInitData) {
+    return Attach(
+        ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+}
+
+BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
+                   const void* lpInitData) {
+    return Attach(
+        ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+}
+
 BOOL CDC::DeleteDC() {
     return m_hDC != nullptr && ::DeleteDC(Detach());
 }
+
+/// The attribute context keeps its own states; it goes back as far as the other.
 int CDC::SaveDC() {
-    return ::SaveDC(m_hDC);
+    const int nSaved = ::SaveDC(m_hDC);
+    if (IsSplit() && ::SaveDC(m_hAttribDC) != 0)
+        return -1;
+    return nSaved;
 }
+
 BOOL CDC::RestoreDC(int nSavedDC) {
-    return ::RestoreDC(m_hDC, nSavedDC);
-}
-int CDC::GetDeviceCaps(int nIndex) const {
-    return ::GetDeviceCaps(m_hAttribDC, nIndex);
+    const BOOL bRestored = ::RestoreDC(m_hDC, nSavedDC);
+    return IsSplit() ? ::RestoreDC(m_hAttribDC, nSavedDC) && bRestored : bRestored;
 }
 
 // --- Objects ------------------------------------------------------------------------------
 
-namespace {
-
-HGDIOBJ HandleOf(const CGdiObject* pObject) {
+static HGDIOBJ HandleOf(const CGdiObject* pObject) {
     return pObject != nullptr ? pObject->m_hObject : nullptr;
 }
 
 template <class Object>
-Object* Select(HDC hDC, const Object* pObject) {
-    return GdiFromHandle<Object>(::SelectObject(hDC, HandleOf(pObject)));
+Object* CDC::Select(HGDIOBJ hObject) {
+    return GdiFromHandle<Object>(Set(::SelectObject, hObject));
 }
 
 template <class Object>
-Object* Current(HDC hDC, UINT nKind) {
+static Object* Current(HDC hDC, UINT nKind) {
     return GdiFromHandle<Object>(::GetCurrentObject(hDC, nKind));
 }
 
-} // namespace
-
 CGdiObject* CDC::SelectStockObject(int nIndex) {
-    return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(nIndex)));
+    return CGdiObject::FromHandle(Set(::SelectObject, ::GetStockObject(nIndex)));
 }
 CPen* CDC::SelectObject(CPen* pPen) {
-    return Select(m_hDC, pPen);
+    return Select<CPen>(HandleOf(pPen));
 }
 CBrush* CDC::SelectObject(CBrush* pBrush) {
-    return Select(m_hDC, pBrush);
+    return Select<CBrush>(HandleOf(pBrush));
 }
 CFont* CDC::SelectObject(CFont* pFont) {
-    return Select(m_hDC, pFont);
+    return Select<CFont>(HandleOf(pFont));
 }
+/// A bitmap can be in one context only.
 CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
-    return Select(m_hDC, pBitmap);
+    return GdiFromHandle<CBitmap>(::SelectObject(m_hDC, HandleOf(pBitmap)));
 }
-int CDC::SelectObject(CRgn* pRgn) {
-    return SelectClipRgn(pRgn);
+CGdiObject* CDC::SelectObject(CGdiObject* pObject) {
+    return CGdiObject::FromHandle(Set(::SelectObject, HandleOf(pObject)));
 }
 
 CPen* CDC::GetCurrentPen() const {
@@ -128,101 +142,62 @@ CBitmap* CDC::GetCurrentBitmap() const {
     return Current<CBitmap>(m_hAttribDC, OBJ_BITMAP);
 }
 
-// --- Attributes ---------------------------------------------------------------------------
-
-int CDC::SetBkMode(int nBkMode) {
-    return ::SetBkMode(m_hDC, nBkMode);
-}
-int CDC::GetBkMode() const {
-    return ::GetBkMode(m_hAttribDC);
-}
-COLORREF CDC::SetBkColor(COLORREF crColor) {
-    return ::SetBkColor(m_hDC, crColor);
-}
-COLORREF CDC::GetBkColor() const {
-    return ::GetBkColor(m_hAttribDC);
-}
-COLORREF CDC::SetTextColor(COLORREF crColor) {
-    return ::SetTextColor(m_hDC, crColor);
-}
-COLORREF CDC::GetTextColor() const {
-    return ::GetTextColor(m_hAttribDC);
-}
-int CDC::SetROP2(int nDrawMode) {
-    return ::SetROP2(m_hDC, nDrawMode);
-}
-int CDC::GetROP2() const {
-    return ::GetROP2(m_hAttribDC);
-}
-UINT CDC::SetTextAlign(UINT nFlags) {
-    return ::SetTextAlign(m_hDC, nFlags);
-}
-UINT CDC::GetTextAlign() const {
-    return ::GetTextAlign(m_hAttribDC);
-}
-int CDC::SetStretchBltMode(int nStretchMode) {
-    return ::SetStretchBltMode(m_hDC, nStretchMode);
-}
-
-CPoint CDC::SetBrushOrg(int x, int y) {
-    POINT previous = {};
-    ::SetBrushOrgEx(m_hDC, x, y, &previous);
-    return previous;
-}
-
 // --- Coordinates --------------------------------------------------------------------------
 
-CPoint CDC::SetViewportOrg(int x, int y) {
-    POINT previous = {};
-    ::SetViewportOrgEx(m_hDC, x, y, &previous);
-    return previous;
+namespace {
+
+constexpr int HIMETRIC_PER_INCH = 2540;
+
+/// The size multiplied by the first and divided by the second factor; a size has no direction.
+void Scale(LPSIZE lpSize, SIZE factor, SIZE divisor) {
+    lpSize->cx = ::MulDiv(lpSize->cx, std::abs(factor.cx), std::abs(divisor.cx));
+    lpSize->cy = ::MulDiv(lpSize->cy, std::abs(factor.cy), std::abs(divisor.cy));
 }
 
-CPoint CDC::GetViewportOrg() const {
-    POINT point = {};
-    ::GetViewportOrgEx(m_hAttribDC, &point);
-    return point;
+CSize PixelsPerInch(const CDCState& dc) {
+    return CSize(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
 }
 
-void CDC::LPtoDP(LPPOINT lpPoints, int nCount) const {
-    ::LPtoDP(m_hAttribDC, lpPoints, nCount);
+} // namespace
+
+void CDCState::LPtoDP(LPSIZE lpSize) const {
+    Scale(lpSize, GetViewportExt(), GetWindowExt());
 }
-void CDC::LPtoDP(LPRECT lpRect) const {
-    LPtoDP(reinterpret_cast<LPPOINT>(lpRect), 2);
+void CDCState::DPtoLP(LPSIZE lpSize) const {
+    Scale(lpSize, GetWindowExt(), GetViewportExt());
 }
-void CDC::DPtoLP(LPPOINT lpPoints, int nCount) const {
-    ::DPtoLP(m_hAttribDC, lpPoints, nCount);
+void CDCState::DPtoHIMETRIC(LPSIZE lpSize) const {
+    Scale(lpSize, CSize(HIMETRIC_PER_INCH, HIMETRIC_PER_INCH), PixelsPerInch(*this));
 }
-void CDC::DPtoLP(LPRECT lpRect) const {
-    DPtoLP(reinterpret_cast<LPPOINT>(lpRect), 2);
+void CDCState::HIMETRICtoDP(LPSIZE lpSize) const {
+    Scale(lpSize, PixelsPerInch(*this), CSize(HIMETRIC_PER_INCH, HIMETRIC_PER_INCH));
+}
+void CDCState::LPtoHIMETRIC(LPSIZE lpSize) const {
+    LPtoDP(lpSize);
+    DPtoHIMETRIC(lpSize);
+}
+void CDCState::HIMETRICtoLP(LPSIZE lpSize) const {
+    HIMETRICtoDP(lpSize);
+    DPtoLP(lpSize);
 }
 
 // --- Clipping -----------------------------------------------------------------------------
 
-int CDC::GetClipBox(LPRECT lpRect) const {
-    return ::GetClipBox(m_hAttribDC, lpRect);
+int CDCState::SelectClipRgn(CRgn* pRgn) {
+    return Set(::SelectClipRgn, static_cast<HRGN>(HandleOf(pRgn)));
 }
 
-int CDC::SelectClipRgn(CRgn* pRgn) {
-    return ::SelectClipRgn(m_hDC, static_cast<HRGN>(HandleOf(pRgn)));
+int CDCState::SelectClipRgn(CRgn* pRgn, int nMode) {
+    return Set(::ExtSelectClipRgn, static_cast<HRGN>(HandleOf(pRgn)), nMode);
 }
 
-int CDC::SelectClipRgn(CRgn* pRgn, int nMode) {
-    return ::ExtSelectClipRgn(m_hDC, static_cast<HRGN>(HandleOf(pRgn)), nMode);
+int CDCState::ExcludeUpdateRgn(CWnd* pWnd) {
+    return ::ExcludeUpdateRgn(m_hDC, pWnd->m_hWnd);
 }
 
-int CDC::ExcludeClipRect(int x1, int y1, int x2, int y2) {
-    return ::ExcludeClipRect(m_hDC, x1, y1, x2, y2);
-}
-
-int CDC::ExcludeClipRect(LPCRECT lpRect) {
-    return ExcludeClipRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-}
-
-int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
-    return ::IntersectClipRect(m_hDC, x1, y1, x2, y2);
-}
-
-int CDC::IntersectClipRect(LPCRECT lpRect) {
-    return IntersectClipRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+int CDCState::GetTextFace(CString& rString) const {
+    const int nLength = GetTextFace(0, nullptr); // with the terminator
+    GetTextFace(nLength, rString.GetBuffer(nLength));
+    rString.ReleaseBuffer();
+    return rString.GetLength();
 }

@@ -14,6 +14,17 @@ BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
     return Attach(::CreatePen(nPenStyle, nWidth, crColor));
 }
 
+CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle) {
+    if (!CreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle))
+        AfxThrowResourceException();
+}
+
+BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount,
+                     const DWORD* lpStyle) {
+    return Attach(::ExtCreatePen(static_cast<DWORD>(nPenStyle), static_cast<DWORD>(nWidth), pLogBrush,
+                                 static_cast<DWORD>(nStyleCount), lpStyle));
+}
+
 BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen) {
     return Attach(::CreatePenIndirect(lpLogPen));
 }
@@ -95,6 +106,12 @@ BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
     return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
 }
 
+BOOL CBitmap::LoadMappedBitmap(UINT nIDBitmap, UINT nFlags, LPCOLORMAP lpColorMap, int nMapSize) {
+    const HINSTANCE hInstance = AfxFindResourceHandle(MAKEINTRESOURCE(nIDBitmap), RT_BITMAP);
+    return Attach(
+        ::CreateMappedBitmap(hInstance, static_cast<INT_PTR>(nIDBitmap), nFlags, lpColorMap, nMapSize));
+}
+
 BOOL CBitmap::CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
     return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
 }
@@ -107,25 +124,29 @@ BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
 }
 
+BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight) {
+    return Attach(::CreateDiscardableBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+}
+
+CSize CBitmap::SetBitmapDimension(int nWidth, int nHeight) {
+    SIZE previous = {};
+    ::SetBitmapDimensionEx(*this, nWidth, nHeight, &previous);
+    return previous;
+}
+
+CSize CBitmap::GetBitmapDimension() const {
+    SIZE size = {};
+    ::GetBitmapDimensionEx(*this, &size);
+    return size;
+}
+
 // --- Regions ------------------------------------------------------------------------------
 
-BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2) {
-    return Attach(::CreateRectRgn(x1, y1, x2, y2));
-}
-
-BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect) {
-    return Attach(::CreateRectRgnIndirect(lpRect));
-}
-
-void CRgn::SetRectRgn(LPCRECT lpRect) {
-    ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+BOOL CRgn::CreateFromPath(CDC* pDC) {
+    return Attach(::PathToRegion(pDC->GetSafeHdc()));
 }
 
 int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {
     const HRGN hRgn2 = pRgn2 != nullptr ? static_cast<HRGN>(*pRgn2) : nullptr;
     return ::CombineRgn(*this, *pRgn1, hRgn2, nCombineMode);
-}
-
-int CRgn::GetRgnBox(LPRECT lpRect) const {
-    return ::GetRgnBox(*this, lpRect);
 }

@@ -89,4 +89,126 @@ TEST(DeviceContext, FillSolidRectKeepsTheBackgroundColour) {
     EXPECT_EQ(canvas.m_dc.GetPixel(4, 4), RED);
 }
 
+TEST(DeviceContext, DrawsBitmapsStatesAndRegions) {
+    const CRect all(0, 0, 7, 5);
+    CBrush black(RGB(0, 0, 0));
+    CRgn rgn;
+    rgn.CreateRectRgn(1, 1, 3, 3);
+    CRgn other;
+    other.CreateRectRgn(0, 0, 2, 5);
+    rgn.CombineRgn(&rgn, &other, RGN_DIFF);
+    rgn.OffsetRgn(3, 0);
+    fx::Canvas source(3, 1);
+    source.m_dc.SetPixelV(1, 0, RED);
+    const WORD wBits = 0xA0; // white, black, white
+    CBitmap picture;
+    picture.CreateBitmap(3, 1, 1, 1, &wBits);
+    TRIVERTEX corners[] = {{0, 0, 0, 0, 0, 0}, {7, 5, 0, 0, 0, 0}};
+    GRADIENT_RECT whole = {0, 1};
+    const POINT points[] = {{1, 1}, {4, 1}, {4, 4}, {1, 4}};
+    const struct {
+        const char* pszName;
+        std::function<void(CDC&)> draw;
+        const char* pszPicture;
+    } cases[] = {
+        {"region", [&](CDC& dc) { dc.FillRgn(&rgn, &black); },
+         ".......\n.....#.\n.....#.\n.......\n.......\n"},
+        {"transparent", [&](CDC& dc) { dc.TransparentBlt(2, 1, 3, 1, &source.m_dc, 0, 0, 3, 1, RED); },
+         "#######\n##.#.##\n#######\n#######\n#######\n"},
+        {"gradient", [&](CDC& dc) { dc.GradientFill(corners, 2, &whole, 1, GRADIENT_FILL_RECT_H); },
+         "#######\n#######\n#######\n#######\n#######\n"},
+        {"path",
+         [&](CDC& dc) {
+             dc.SelectStockObject(BLACK_BRUSH);
+             dc.BeginPath();
+             dc.MoveTo(points[0]);
+             dc.PolylineTo(points + 1, 3);
+             dc.CloseFigure();
+             dc.EndPath();
+             dc.FillPath();
+         },
+         ".......\n.###...\n.###...\n.###...\n.......\n"},
+        {"scroll",
+         [&](CDC& dc) {
+             dc.FillSolidRect(0, 0, 1, 1, 0);
+             dc.ScrollDC(2, 1, all, all, nullptr, nullptr);
+         },
+         "#......\n..#....\n.......\n.......\n.......\n"},
+        {"bitmap", [&](CDC& dc) { dc.DrawState(CPoint(1, 1), CSize(3, 1), &picture, DSS_NORMAL); },
+         ".......\n..#....\n.......\n.......\n.......\n"},
+    };
+    for (const auto& c : cases) {
+        fx::Canvas canvas(7, 5);
+        if (std::string(c.pszName) == "transparent")
+            canvas.m_dc.PatBlt(0, 0, 7, 5, BLACKNESS);
+        c.draw(canvas.m_dc);
+        EXPECT_EQ(canvas.Picture(), c.pszPicture) << c.pszName;
+    }
+}
+
+TEST(DeviceContext, MapsLogicalUnitsToTheDevice) {
+    fx::Canvas canvas;
+    CDC& dc = canvas.m_dc;
+    EXPECT_EQ(dc.SetMapMode(MM_ANISOTROPIC), MM_TEXT);
+    dc.SetWindowExt(100, 200);
+    EXPECT_EQ(dc.SetViewportExt(CSize(50, -400)), CSize(1, 1));
+    EXPECT_EQ(dc.ScaleWindowExt(2, 1, 1, 2), CSize(100, 200));
+    EXPECT_EQ(dc.GetWindowExt(), CSize(200, 100));
+    EXPECT_EQ(dc.SetWindowOrg(8, 4), CPoint(0, 0));
+    EXPECT_EQ(dc.OffsetWindowOrg(0, 1), CPoint(8, 4));
+    EXPECT_EQ(dc.OffsetViewportOrg(3, 5), CPoint(0, 0));
+    CPoint point(16, 6);
+    dc.LPtoDP(&point);
+    EXPECT_EQ(point, CPoint(5, 1)) << "3 + 8 / 4, 5 - 1 * 4";
+    CSize size(8, 3);
+    dc.LPtoDP(&size);
+    EXPECT_EQ(size, CSize(2, 12)) << "a size has no origin and no direction";
+    CSize inch(2540, 2540);
+    dc.HIMETRICtoDP(&inch);
+    EXPECT_EQ(inch, CSize(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY)));
+}
+
+TEST(DeviceContext, AnotherContextAnswersQuestions) {
+    fx::Canvas drawn;
+    fx::Canvas asked;
+    CDC dc;
+    dc.SetOutputDC(drawn.m_dc);
+    dc.SetAttribDC(asked.m_dc);
+    asked.m_dc.SetTextColor(RED);
+    EXPECT_EQ(dc.SetTextColor(BLUE), RED) << "the previous value as the attribute context had it";
+    EXPECT_EQ(drawn.m_dc.GetTextColor(), BLUE);
+    EXPECT_EQ(asked.m_dc.GetTextColor(), BLUE);
+    EXPECT_EQ(dc.SaveDC(), -1);
+    dc.SelectStockObject(BLACK_BRUSH);
+    dc.MoveTo(1, 1);
+    dc.LineTo(4, 1);
+    EXPECT_EQ(dc.GetCurrentPosition(), CPoint(4, 1));
+    EXPECT_EQ(drawn.CountDrawn(), 3);
+    EXPECT_EQ(asked.CountDrawn(), 0);
+    EXPECT_TRUE(dc.RestoreDC(-1));
+    EXPECT_EQ(asked.m_dc.GetCurrentBrush()->m_hObject, ::GetStockObject(WHITE_BRUSH));
+    dc.ReleaseOutputDC();
+    dc.ReleaseAttribDC();
+}
+
+TEST(DeviceContext, MeasuresTexts) {
+    fx::Canvas canvas;
+    CDC& dc = canvas.m_dc;
+    TEXTMETRIC metrics = {};
+    ASSERT_TRUE(dc.GetTextMetrics(&metrics));
+    const CString strText(L"12");
+    const CSize size = dc.GetTextExtent(strText);
+    EXPECT_EQ(size.cy, metrics.tmHeight);
+    int nStop = 100;
+    EXPECT_EQ(dc.GetTabbedTextExtent(L"\t12", 1, &nStop), CSize(100 + size.cx, size.cy));
+    EXPECT_EQ(dc.TabbedTextOut(0, 0, L"\t12", 1, &nStop, 0).cx, 100 + size.cx);
+    int widths[2] = {};
+    ASSERT_TRUE(dc.GetCharWidth('1', '2', widths));
+    EXPECT_EQ(widths[0] + widths[1], size.cx);
+    CString strFace;
+    const int nLength = dc.GetTextFace(strFace);
+    EXPECT_EQ(strFace.GetLength(), nLength);
+    EXPECT_GT(nLength, 0);
+}
+
 } // namespace
