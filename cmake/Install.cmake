@@ -24,6 +24,11 @@ foreach(_folder api framework geometry survey util controls dialogs resources)
   file(GLOB _headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.h)
   install(FILES ${_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/${_folder})
 endforeach()
+# The standard texts, which scripts include by these names.
+install(FILES ${PROJECT_SOURCE_DIR}/framework/afxres.rc
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/framework/l.jpn
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
 install(FILES ${PROJECT_SOURCE_DIR}/companion/Tesuvo.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/companion)
 
@@ -32,7 +37,8 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.i
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
-  ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake DESTINATION ${_package})
+  ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
+  ${PROJECT_SOURCE_DIR}/cmake/FieldkitResources.cmake DESTINATION ${_package})
 
 if(WIN32)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/fieldkit-${_kind}.pc.in ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc @ONLY)

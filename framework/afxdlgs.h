@@ -16,18 +16,6 @@ class CCreateHook;
 class CDialogTemplateCopy;
 } // namespace fieldkit::detail
 
-/// Control identifier of a sheet's row of tabs.
-constexpr UINT AFX_IDC_TAB_CONTROL = 0x3020;
-
-// Identifiers of a sheet's buttons; OK and Cancel are IDOK and IDCANCEL.
-/// Identifiers of a sheet's further buttons.
-///@{
-constexpr UINT ID_APPLY_NOW = 0x3021;
-constexpr UINT ID_WIZBACK = 0x3023;
-constexpr UINT ID_WIZNEXT = 0x3024;
-constexpr UINT ID_WIZFINISH = 0x3025;
-///@}
-
 /// One page of a property sheet: a dialog from a template, made when it is first shown.
 ///
 /// The template's title stands on the tab unless the page is constructed with a caption.

@@ -5,8 +5,6 @@
 
 #include "afxwin.h"
 
-/// Control identifier of a command bar.
-constexpr UINT AFX_IDW_TOOLBAR = 0xE800;
 /// Height in pixels of the device's bars at the top and at the bottom of the screen.
 constexpr int AFX_DEVICE_BAR_HEIGHT = 26;
 

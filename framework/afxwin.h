@@ -19,6 +19,7 @@
 #include "afxdc_.h"
 #include "afxpdc_.h"
 // Windows and their messages.
+#include "afxres.h"
 #include "afxmsg_.h"
 #include "afxwnd_.h"
 #include "afxcall_.h"

@@ -16,7 +16,7 @@ SEARCHED = ["", "framework", "companion", "tests", "tests/support"]
 
 def read_allowed(path):
     allowed = {}
-    with open(path, encoding="utf-8") as lines:
+    with open(path, encoding="utf-8", errors="replace") as lines:
         for line in lines:
             folder, colon, targets = line.split("#")[0].partition(":")
             if colon:
@@ -90,7 +90,7 @@ def main():
         print("tools/arrows.txt: a circle:", " -> ".join(circle))
     bad = bool(circle)
     for path in sources(root, allowed):
-        with open(os.path.join(root, path), encoding="utf-8") as lines:
+        with open(os.path.join(root, path), encoding="utf-8", errors="replace") as lines:
             for number, line in enumerate(lines, 1):
                 include = INCLUDE.match(line)
                 target = include and resolve(root, path, include.group(2))

@@ -25,7 +25,7 @@ CString Text(UINT nID) {
 TEST(ResourceChain, ApplicationComesFirstThenTheFramework) {
     EXPECT_EQ(AfxFindStringResourceHandle(40000), AfxGetInstanceHandle());
     EXPECT_EQ(Text(40000), L"応用の文字列");
-    EXPECT_EQ(Text(AFX_IDP_PARSE_RADIO_BUTTON), L"応用が置き換えた文字列");
+    EXPECT_EQ(Text(AFX_IDP_PARSE_DATETIME), L"応用が置き換えた文字列");
     EXPECT_EQ(AfxFindStringResourceHandle(AFX_IDP_PARSE_INT), FrameworkModule());
     EXPECT_EQ(Text(AFX_IDP_PARSE_INT), L"整数を入力してください。")
         << "though its block of sixteen is the application's";

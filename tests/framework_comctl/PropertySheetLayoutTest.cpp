@@ -49,7 +49,7 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
         .Then([&] {
             ExpectLaidOut(sheet, {&sheet.m_a});
             EXPECT_TRUE(sheet.m_a.IsWindowVisible());
-            for (const UINT nID : {static_cast<UINT>(IDOK), static_cast<UINT>(IDCANCEL), ID_APPLY_NOW})
+            for (const int nID : {IDOK, IDCANCEL, ID_APPLY_NOW})
                 EXPECT_FALSE(sheet.ShowsButton(nID)) << nID;
             EXPECT_NE(sheet.m_pWndEmptyCB, nullptr);
             sheet.SetActivePage(1);
@@ -153,7 +153,7 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
         const CRect page = fx::RectOf(sheet.m_a.m_hWnd);
         EXPECT_TRUE(Contains(InnerArea(), page));
         CRect last;
-        for (const UINT nID : {ID_WIZBACK, ID_WIZNEXT, static_cast<UINT>(IDCANCEL)}) {
+        for (const int nID : {ID_WIZBACK, ID_WIZNEXT, IDCANCEL}) {
             const CRect button = fx::RectOf(sheet.Button(nID));
             EXPECT_TRUE(sheet.ShowsButton(nID)) << nID;
             EXPECT_TRUE(Contains(InnerArea(), button)) << nID;

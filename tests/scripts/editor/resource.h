@@ -1,0 +1,10 @@
+#define IDS_NUMBERED 300
+#define IDS_LETTERS 301
+#define IDS_TRAIL 330
+#define IDS_WIDE 350
+#define IDS_MARKED 370
+#define IDR_PICTURE 310
+#define IDR_BAR 311
+#define IDD_LISTS 312
+#define IDC_COMBO 1000
+#define IDC_LIST 1001
