@@ -23,13 +23,16 @@ library_version() {
     sed -n 's/^project(Fieldkit VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt"
 }
 
-# Builds the tutorial's program against the installed library, as its page says, runs its
-# test, and compares the page with the files.
-test_tutorial() {
+# The tutorial's program against the installed library, as its page says.
+build_tutorial() {
     logged configure-tutorial cmake -S "$tutorial" -B "$build/tutorial" -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
         -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release -DFIRST_TESTS=ON
     logged build-tutorial ninja -C "$build/tutorial" -j"$(nproc)"
+}
+
+# Runs the test of the tutorial's program, and compares the page with the files.
+test_tutorial() {
     run_test_program sample "$build/tutorial/tests/test_tutorial.exe"
     test_quoted_files
     test_links
@@ -103,7 +106,7 @@ TEXT
 }
 
 # Takes over what ./run demo has left in build/demo/, in 16 colours: a few kilobytes each.
-# Needs the screen and the tutorial's program (test_tutorial) for the tutorial's picture.
+# Needs the screen and the tutorial's program (build_tutorial) for the tutorial's picture.
 refresh_pictures() {
     local picture shot
     picture_tutorial

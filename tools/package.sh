@@ -61,18 +61,20 @@ foreign_dlls() {
     printf '%s' "${names:-nothing but Windows}" | tr '\n' ' '
 }
 
-# An outside project, built against the unpacked zip with both kinds of library, and run.
-# Needs the package and the screen.
-test_package() {
-    local work=$build/package-test
+# An outside project, built against the unpacked zip with both kinds of library. Needs the package.
+build_package_test() {
+    local work=$build/package-test tree
+    tree=$work/$(package_name)
     rm -rf "$work"
     mkdir -p "$work"
     logged unpack-package unpack "$work"
-    local tree
-    tree=$work/$(package_name)
     logged build-consumer build_consumer "$tree" "$work/cmake"
     logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
+}
 
+# Runs what build_package_test has built. Needs the screen.
+test_package() {
+    local work=$build/package-test
     local start=$EPOCHREALTIME bad=0 good=0 expected=$root/tests/package/expected.txt
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"

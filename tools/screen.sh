@@ -2,19 +2,22 @@
 # The device's screen: a virtual X display of 240 x 320 and a private Wine prefix.
 
 screen_size=240x320
-prefix=$build/wine
+first_prefix=$build/wine
+prefix=$first_prefix
 system_font=/usr/share/wine/fonts/vgasys.fon
 screen_pid=
 wine_started=
 
 # A screen of the run's own, also on a desktop: the same size and depth
-# everywhere, and no window manager that places the windows.
+# everywhere, and no window manager that places the windows. A second one of another NAME has a
+# Wine prefix of its own.
 open_screen() {
     close_when_over
-    local number=$build/display
+    local number=$build/display${1:-}
+    prefix=$first_prefix${1:-}
     : >"$number"
     Xvfb -displayfd 3 -screen 0 "${screen_size}x24" -nolisten tcp -noreset \
-        3>"$number" >"$build/xvfb.log" 2>&1 9>&- &
+        3>"$number" >"$build/xvfb${1:-}.log" 2>&1 9>&- &
     screen_pid=$!
     wait_until 20 screen_is_up "$number" || die "Xvfb did not start, see build/xvfb.log"
     DISPLAY=:$(<"$number")
@@ -54,6 +57,10 @@ in_wine() {
 
 make_prefix() {
     rm -rf "$prefix"
+    if [[ $prefix != "$first_prefix" ]]; then
+        cp -a "$first_prefix" "$prefix"
+        return
+    fi
     in_wine wineboot -i
     in_wine wine regedit /S "$root/tools/device.reg"
     add_marlett

@@ -7,6 +7,7 @@ packages=(
     # Loaded by Wine at run time; without them it draws and moves the pen differently.
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
+# shellcheck disable=SC2034  # for ./run
 test_packages=(g++-arm-linux-gnueabi qemu-user valgrind pkgconf)
 
 # Wine takes the code page from the locale: with any other one it is not 932 and

@@ -7,20 +7,15 @@ failed=0
 
 # run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
 # also what is no test program: proofs, speed, tutorial, package. Programs with windows wait
-# more than they calculate, and what needs no screen runs beside them.
+# more than they calculate, so there are three lanes: without a screen, and two with one each.
 run_tests() {
-    local log=$build/tests-without-screen.log beside good bad built=$SECONDS
-    tests_without_screen "$1" >"$log" 2>&1 &
-    beside=$!
-    run_programs "$1" win64 sample
-    if ! wait "$beside"; then
-        cat "$log"
-        die 'the tests that need no screen did not come to their end'
-    fi
-    sed '$d' "$log"
-    read -r good bad < <(tail -n 1 "$log")
-    passed=$((passed + good))
-    failed=$((failed + bad))
+    local built=$SECONDS lane
+    start_lane native tests_without_screen "$1"
+    start_lane long tests_on_second_screen "$1"
+    run_programs "$1" short win64 sample
+    for lane in native long; do
+        end_lane "$lane"
+    done
     if [[ -z $1 ]]; then
         test_tutorial
         check_symbols
@@ -32,47 +27,82 @@ run_tests() {
     ((failed == 0))
 }
 
-# Its last line are the numbers of passed and failed tests.
 tests_without_screen() {
-    trap - EXIT # the screen is the caller's
-    run_programs "$1" host arm
-    if [[ -z $1 ]]; then
-        make_package
-        check_proofs
-        count_instructions
-    fi
-    printf '%d %d\n' "$passed" "$failed"
+    run_programs "$1" short host arm
+    [[ -z $1 ]] || return 0
+    make_package
+    check_proofs
+    count_instructions
+    build_tutorial
+    build_package_test
 }
 
-# run_programs NAME BUILD...: the test programs of each build whose name contains NAME.
+tests_on_second_screen() {
+    [[ -n $(programs "$1" long win64 sample) ]] || return 0
+    open_screen -second
+    run_programs "$1" long win64 sample
+}
+
+declare -A lanes=()
+
+# start_lane NAME COMMAND...: runs beside the caller; log and counters are the lane's own until
+# end_lane shows and adds them.
+start_lane() {
+    local log=$build/lane-$1.log
+    (
+        trap - EXIT # what is open is the caller's
+        "${@:2}"
+        printf '%d %d\n' "$passed" "$failed"
+    ) >"$log" 2>&1 &
+    lanes[$1]=$!
+}
+
+end_lane() {
+    local log=$build/lane-$1.log good bad
+    if ! wait "${lanes[$1]}"; then
+        cat "$log"
+        die "the lane $1 did not come to its end"
+    fi
+    sed '$d' "$log"
+    read -r good bad < <(tail -n 1 "$log")
+    passed=$((passed + good))
+    failed=$((failed + bad))
+}
+
+# run_programs NAME LENGTH BUILD...: the test programs of each build whose name contains NAME.
 run_programs() {
-    local name=$1 preset program
-    shift
+    local preset program
+    while read -r -u 4 preset program; do
+        run_test_program "$preset" "$program"
+    done 4< <(programs "$@")
+}
+
+# Their builds and paths, a line each. The long ones are those that repeat much at random.
+programs() {
+    local name=$1 length=$2 preset program folder found
+    shift 2
     for preset in "$@"; do
-        for program in "$(programs_of "$preset")"/test_*"$name"*; do
+        folder=$build/$preset/bin
+        [[ $preset != sample ]] || folder=$build/fieldbook/tests
+        for program in "$folder"/test_*"$name"*; do
             [[ -x $program && $program != *.dll ]] || continue
-            run_test_program "$preset" "$program"
+            found=short
+            [[ $program != *test_faults.exe && $program != *shake.exe ]] || found=long
+            [[ $found != "$length" ]] || printf '%s %s\n' "$preset" "$program"
         done
     done
-}
-
-programs_of() {
-    case $1 in
-    sample) printf '%s' "$build/fieldbook/tests" ;;
-    *) printf '%s' "$build/$1/bin" ;;
-    esac
 }
 
 run_test_program() {
     local preset=$1 program=$2 name start=$EPOCHREALTIME status=0
     name=$(basename "$program" .exe)
     local folder=$build/$preset/results
-    local log=$folder/$name.log xml=$folder/$name.xml
-    mkdir -p "$folder/work"
+    local log=$folder/$name.log xml=$folder/$name.xml work=$folder/work/$name
+    mkdir -p "$work"
     rm -f "$xml"
     # In a folder of its own, so that stray files do not land in the source tree.
     # The result's path is relative, so that it means the same inside Wine.
-    (cd "$folder/work" && start_test "$preset" "$program" "--gtest_output=xml:../$name.xml") \
+    (cd "$work" && start_test "$preset" "$program" "--gtest_output=xml:../../$name.xml") \
         >"$log" 2>&1 </dev/null || status=$?
 
     local good=0 bad=0 problem=
