@@ -10,6 +10,7 @@ run_lint() {
     logged lint-scripts check_scripts
     logged lint-arrows check_arrows
     logged lint-names check_names
+    logged lint-subjects check_subjects
     logged lint-headers check_headers
     logged lint-configure configure_for_lint
     logged lint-tidy tidy_all
@@ -38,6 +39,14 @@ check_names() {
         grep -rnE --include='*.h' --include='*.cpp' 'include (<|"companion/)Tesuvo\.h' "${lint_folders[@]}"
     ) || true
     [[ -z $found ]] || printf 'not as CONTRIBUTING.md says:\n%s\n' "$found"
+    [[ -z $found ]]
+}
+
+# A subject has to fit on a line of a log. Those before this rule stay as they are.
+check_subjects() {
+    local found
+    found=$(git log --no-merges --format='%h %s' 191b424..HEAD | awk 'length > 80')
+    [[ -z $found ]] || printf 'subjects of more than 72 characters:\n%s\n' "$found"
     [[ -z $found ]]
 }
 
