@@ -39,7 +39,9 @@ BEGIN_MESSAGE_MAP(CnDialog, CDialog)
 END_MESSAGE_MAP()
 // clang-format on
 
-CnDialog::CnDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(nIDTemplate, pParentWnd) {}
+CnDialog::CnDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(nIDTemplate, pParentWnd) {
+    m_bFullScreen = TRUE;
+}
 
 void CnDialog::SetOption(DWORD dwOption) {
     m_dwOption |= dwOption;
@@ -103,6 +105,11 @@ void CnDialog::OnClose() {
 BOOL CnDialog::PreTranslateMessage(MSG* pMsg) {
     const bool bEndingKey = pMsg->wParam == VK_RETURN || pMsg->wParam == VK_ESCAPE;
     if (pMsg->message == WM_KEYDOWN && Has(OptionSwallowKeys) && bEndingKey)
+        return TRUE;
+    // The device's screen knows no hovering: a move without contact, which desktop mice and
+    // touch screens report before each press, is not for the dialog's surface.
+    const bool bHover = pMsg->message == WM_MOUSEMOVE && !(pMsg->wParam & (MK_LBUTTON | MK_RBUTTON));
+    if (bHover && pMsg->hwnd == m_hWnd)
         return TRUE;
     return CDialog::PreTranslateMessage(pMsg);
 }

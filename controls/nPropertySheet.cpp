@@ -22,10 +22,14 @@ END_MESSAGE_MAP()
 // clang-format on
 
 CnPropertySheet::CnPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
-    : CPropertySheet(nIDCaption, pParentWnd, iSelectPage) {}
+    : CPropertySheet(nIDCaption, pParentWnd, iSelectPage) {
+    m_bFullScreen = TRUE;
+}
 
 CnPropertySheet::CnPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
-    : CPropertySheet(pszCaption, pParentWnd, iSelectPage) {}
+    : CPropertySheet(pszCaption, pParentWnd, iSelectPage) {
+    m_bFullScreen = TRUE;
+}
 
 void CnPropertySheet::SetOption(DWORD dwOption) {
     m_dwOption = dwOption;

@@ -59,11 +59,17 @@ public:
     LPTSTR m_lpCmdLine = nullptr; ///< Without the program's own name; not owned.
     /// How the main window shall be shown, as the program was told.
     int m_nCmdShow = SW_SHOWNORMAL;
-    CString m_strAppName; ///< Caption of message boxes without one.
-    /// The name as the constructor was given it, or that of the program's file.
-    LPCTSTR m_pszAppName = nullptr;
-    /// The application's name in the settings' key.
+    /// Texts in memory of malloc: who replaces one frees it, and gives it a copy (_tcsdup).
+    ///@{
+    LPCTSTR m_pszAppName = nullptr;      ///< Caption of message boxes: the constructor's, else m_pszExeName.
+    LPCTSTR m_pszExeName = nullptr;      ///< The program's file without folder and extension.
+    LPCTSTR m_pszHelpFilePath = nullptr; ///< The program's path with the extension .chm; see OnHelp.
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< Set by SetRegistryKey, else null.
+    /// Where the settings are: the last part of their registry key, or without SetRegistryKey an INI file,
+    /// by its full path or by its name alone, which is one in the user's folder for application data
+    /// (%APPDATA%). At first m_pszExeName with ".INI".
     LPCTSTR m_pszProfileName = nullptr;
+    ///@}
 
     /// Shows a message box with the application's name as its caption.
     /// @param nIDPrompt not used
@@ -84,10 +90,20 @@ public:
     /// A cursor of the system, IDC_...
     HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
 
-    /// Keeps the program's settings under Software\<key>\<application name> of the user.
+    /// Keeps the program's settings in the registry, under Software\<key>\<application name> of the
+    /// user. Without it they are in a file, see m_pszProfileName.
+    ///@{
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    void SetRegistryKey(UINT nIDRegistryKey);
+    ///@}
+    /// The open key of all settings, or of one section, made if need be; the caller closes it. Null
+    /// without SetRegistryKey or if the system refuses.
+    ///@{
+    HKEY GetAppRegistryKey();
+    HKEY GetSectionKey(LPCTSTR lpszSection);
+    ///@}
     /// Reads or writes one setting. What is missing or of another kind reads as the default;
-    /// writing gives FALSE on failure.
+    /// writing gives FALSE on failure. A file keeps texts of one line only.
     ///@{
     UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
     BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
@@ -100,12 +116,12 @@ public:
     /// Stores bytes, which are copied. @return FALSE on failure
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
+    /// Here: TRUE.
+    BOOL InitInstance() override;
     int Run() override;
 
 private:
-    HKEY OpenSectionKey(LPCTSTR lpszSection, BOOL bWrite) const;
-
-    CString m_strRegistryKey;
+    void SetProfileName(LPCTSTR lpszName);
 };
 
 /// Shows the wait cursor while it exists.

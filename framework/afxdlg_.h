@@ -6,11 +6,18 @@
 
 #include <memory>
 
+/// Whether dialogs and property sheets that are constructed from now on are full screen unless they say
+/// otherwise. FALSE at first: dialogs are as large as their templates, as on a desktop.
+///@{
+AFX_CORE void AFXAPI AfxSetFullScreenDialogs(BOOL bFullScreen);
+AFX_CORE BOOL AFXAPI AfxGetFullScreenDialogs();
+///@}
+
 /// A dialog box from a template.
 ///
-/// As on the device, a dialog is full screen unless m_bFullScreen is cleared before it is
-/// created: it covers the work area, its title bar carries an OK button that sends IDOK,
-/// and an empty command bar with the button of the soft input panel stands at its bottom.
+/// As on the device, a dialog can be full screen (m_bFullScreen): it covers the work area, its title
+/// bar carries an OK button that sends IDOK, and an empty command bar with the button of the soft
+/// input panel stands at its bottom.
 class AFX_CORE CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 public:
@@ -59,7 +66,7 @@ public:
     /// Called before the controls are created, with the font that they get. Here: nothing.
     virtual void OnSetFont(CFont* pFont);
 
-    BOOL m_bFullScreen = TRUE;     ///< Set before the dialog is created.
+    BOOL m_bFullScreen = AfxGetFullScreenDialogs(); ///< Set before the dialog is created.
     CWnd* m_pWndEmptyCB = nullptr; ///< The empty command bar (a CCeCommandBar) while the dialog
                                    ///< is full screen, else null. Owned by the dialog.
     HICON m_hIcon = nullptr;       ///< The dialog's icon; not owned.
@@ -88,6 +95,8 @@ protected:
 
     /// Runs the template's initialisation data, then OnInitDialog.
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    /// Runs OnSetFont.
+    afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 

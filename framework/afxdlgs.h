@@ -105,9 +105,9 @@ private:
 
 /// A dialog of several pages with tabs, or (after SetWizardMode) with Back and Next.
 ///
-/// As on the device, a sheet is full screen unless m_bFullScreen is cleared before it is
-/// created: it covers the work area, the OK button in its title bar stands for its push
-/// buttons, which are hidden, and its pages fill the area between title bar and command bar.
+/// As on the device, a sheet can be full screen (m_bFullScreen): it covers the work area, the OK button in
+/// its title bar stands for its push buttons, which are hidden, and its pages fill the area between title bar
+/// and command bar.
 ///
 /// IDOK, IDCANCEL and ID_APPLY_NOW are commands of the sheet, wherever they come from: title
 /// bar, push buttons, keys. An ON_COMMAND handler for one replaces what the sheet does.
@@ -176,8 +176,8 @@ public:
     /// button that has been hidden stays hidden. @return FALSE if the focus has been set
     virtual BOOL OnInitDialog();
 
-    PROPSHEETHEADER m_psh = {};    ///< What the system is told; change it before the sheet is created.
-    BOOL m_bFullScreen = TRUE;     ///< Set before the sheet is created.
+    PROPSHEETHEADER m_psh = {}; ///< What the system is told; change it before the sheet is created.
+    BOOL m_bFullScreen = AfxGetFullScreenDialogs(); ///< Set before the sheet is created.
     CWnd* m_pWndEmptyCB = nullptr; ///< The empty command bar (a CCeCommandBar) if the full-screen sheet
                                    ///< had to make one, else null. Owned by the sheet.
 

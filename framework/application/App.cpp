@@ -1,6 +1,7 @@
 // The application and its thread.
 #include "window/WndProc.h"
 
+#include <cstdlib>
 #include <mutex>
 #include <set>
 
@@ -17,9 +18,7 @@ CWinApp* g_pApp = nullptr;
 
 // --- Thread ------------------------------------------------------------------------------------
 
-CWinThread::CWinThread() : m_nThreadID(::GetCurrentThreadId()) {
-    CThreadState::Get().m_pThread = this;
-}
+CWinThread::CWinThread() = default;
 
 CWinThread::~CWinThread() {
     CThreadState& state = CThreadState::Get();
@@ -92,8 +91,7 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
 }
 
 CWinThread* AFXAPI AfxGetThread() {
-    CWinThread* pThread = CThreadState::Get().m_pThread;
-    return pThread != nullptr ? pThread : g_pApp;
+    return CThreadState::Get().m_pThread;
 }
 
 BOOL AFXAPI AfxPumpMessage() {
@@ -111,23 +109,32 @@ CWnd* AFXAPI AfxGetMainWnd() {
 
 // --- Application -------------------------------------------------------------------------------
 
-CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName) {
+CWinApp::CWinApp(LPCTSTR lpszAppName) {
     g_pApp = this;
-    if (m_strAppName.IsEmpty()) {
-        WCHAR szPath[MAX_PATH];
-        const DWORD nLength = ::GetModuleFileName(nullptr, szPath, MAX_PATH);
-        m_strAppName = CString(szPath, static_cast<int>(nLength));
-        m_strAppName = m_strAppName.Mid(m_strAppName.ReverseFind(_T('\\')) + 1);
-        if (const int nDot = m_strAppName.ReverseFind(_T('.')); nDot > 0)
-            m_strAppName = m_strAppName.Left(nDot);
-    }
-    m_pszAppName = m_strAppName;
-    m_pszProfileName = m_pszAppName;
+    CThreadState::Get().m_pThread = this;
+    m_nThreadID = ::GetCurrentThreadId();
+    WCHAR szPath[MAX_PATH];
+    const DWORD nLength = ::GetModuleFileName(nullptr, szPath, MAX_PATH);
+    CString strPath(szPath, static_cast<int>(nLength));
+    if (const int nDot = strPath.ReverseFind(L'.'); nDot > strPath.ReverseFind(L'\\'))
+        strPath = strPath.Left(nDot);
+    const CString strName = strPath.Mid(strPath.ReverseFind(L'\\') + 1);
+    m_pszExeName = ::_tcsdup(strName);
+    m_pszAppName = ::_tcsdup(lpszAppName != nullptr ? lpszAppName : m_pszExeName);
+    m_pszHelpFilePath = ::_tcsdup(strPath + L".chm");
+    SetProfileName(strName + L".INI");
 }
 
 CWinApp::~CWinApp() {
     if (g_pApp == this)
         g_pApp = nullptr;
+    for (const LPCTSTR psz :
+         {m_pszAppName, m_pszExeName, m_pszHelpFilePath, m_pszRegistryKey, m_pszProfileName})
+        std::free(const_cast<LPTSTR>(psz));
+}
+
+BOOL CWinApp::InitInstance() {
+    return TRUE;
 }
 
 int CWinApp::Run() {
@@ -247,8 +254,9 @@ void CWaitCursor::Restore() {
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     // The name says it all, so that equal classes are registered once.
-    static std::set<CString> names;
-    static std::mutex mutex;
+    // Never destroyed: a window may be made by whatever is destroyed last.
+    static std::set<CString>& names = *new std::set<CString>;
+    static std::mutex& mutex = *new std::mutex;
     const std::lock_guard lock(mutex);
     CString strName;
     strName.Format(_T("Afx:%p:%x:%p:%p:%p"), static_cast<void*>(AfxGetInstanceHandle()), nClassStyle,

@@ -24,8 +24,9 @@ struct CModuleState {
     std::vector<CDynLinkLibrary*> libraries; ///< In the order of their loading.
 };
 
+/// Never destroyed: whatever is destroyed last still finds its resources.
 CModuleState& State() {
-    static CModuleState state;
+    static CModuleState& state = *new CModuleState;
     return state;
 }
 

@@ -14,6 +14,7 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 // clang-format off
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
@@ -41,6 +42,20 @@ INT_PTR CALLBACK AfxDialogAccess::DlgProc(HWND hWnd, UINT message, WPARAM, LPARA
     if (!bDone && CWnd::FromHandlePermanent(hWnd) == pDialog)
         pDialog->OnInitFailed();
     return lResult;
+}
+
+namespace {
+
+BOOL g_bFullScreen = FALSE;
+
+} // namespace
+
+void AFXAPI AfxSetFullScreenDialogs(BOOL bFullScreen) {
+    g_bFullScreen = bFullScreen;
+}
+
+BOOL AFXAPI AfxGetFullScreenDialogs() {
+    return g_bFullScreen;
 }
 
 // --- Construction -----------------------------------------------------------------------------
@@ -175,6 +190,11 @@ void CDialog::EnterFullScreen() {
 
 void CDialog::OnSetFont(CFont*) {}
 
+LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
+    OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+    return Default();
+}
+
 void CDialog::PostNcDestroy() {
     m_pWndEmptyCB = nullptr;
     m_pEmptyBar.reset();
@@ -193,11 +213,6 @@ void CDialog::OnCancel() {
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
-    // The device's screen knows no hovering: a move without contact, which desktop mice and
-    // touch screens report before each press, is not for the dialog's surface.
-    const bool bHover = pMsg->message == WM_MOUSEMOVE && !(pMsg->wParam & (MK_LBUTTON | MK_RBUTTON));
-    if (bHover && pMsg->hwnd == m_hWnd)
-        return TRUE;
     return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
 }
 

@@ -51,10 +51,8 @@ CThreadState& CThreadState::Get() {
 CWinThread& CThreadState::PumpThread() {
     if (m_pThread != nullptr)
         return *m_pThread;
-    if (m_pOwnThread == nullptr) {
+    if (m_pOwnThread == nullptr) // to everybody else the thread still has none
         m_pOwnThread = std::make_unique<CWinThread>();
-        m_pThread = nullptr; // to everybody else the thread still has none
-    }
     return *m_pOwnThread;
 }
 

@@ -40,20 +40,47 @@ TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
     fx::g_app.m_pMainWnd = nullptr;
 }
 
+/// Settings of every kind, wherever they are kept.
+void ExpectSettingsAreKept(CWinApp& app) {
+    EXPECT_EQ(app.GetProfileInt(L"部", L"number", 7), 7U);
+    EXPECT_TRUE(app.WriteProfileInt(L"部", L"number", -12));
+    EXPECT_EQ(static_cast<int>(app.GetProfileInt(L"部", L"number", 7)), -12);
+    const CString strLong(L'長', 500);
+    for (const CString& strText : {strLong, CString(L""), CString(L"  blanks "), CString(L"'\"quotes\"")}) {
+        EXPECT_TRUE(app.WriteProfileString(L"部", L"text", strText));
+        EXPECT_EQ(app.GetProfileString(L"部", L"text", L"default"), strText);
+    }
+    EXPECT_EQ(app.GetProfileString(L"部", L"none", L"default"), L"default");
+    EXPECT_TRUE(app.WriteProfileString(L"部", L"text", nullptr));
+    EXPECT_EQ(app.GetProfileString(L"部", L"text", L"gone"), L"gone");
+    BYTE bytes[] = {0, 1, 0xFE, 0x70};
+    EXPECT_TRUE(app.WriteProfileBinary(L"部", L"bytes", bytes, sizeof bytes));
+    BYTE* pData = nullptr;
+    UINT nBytes = 0;
+    ASSERT_TRUE(app.GetProfileBinary(L"部", L"bytes", &pData, &nBytes));
+    EXPECT_EQ(std::vector<BYTE>(pData, pData + nBytes), std::vector<BYTE>(bytes, bytes + sizeof bytes));
+    delete[] pData;
+    EXPECT_TRUE(app.WriteProfileString(L"部", nullptr, nullptr));
+    EXPECT_EQ(app.GetProfileInt(L"部", L"number", 7), 7U);
+}
+
 TEST(Application, KeepsSettingsUnderItsKey) {
     fx::g_app.SetRegistryKey(L"FieldkitTest");
-    EXPECT_EQ(fx::g_app.GetProfileInt(L"部", L"number", 7), 7U);
-    EXPECT_TRUE(fx::g_app.WriteProfileInt(L"部", L"number", -12));
-    EXPECT_EQ(static_cast<int>(fx::g_app.GetProfileInt(L"部", L"number", 7)), -12);
-    const CString strLong(L'長', 500);
-    EXPECT_TRUE(fx::g_app.WriteProfileString(L"部", L"text", strLong));
-    EXPECT_EQ(fx::g_app.GetProfileString(L"部", L"text", L"default"), strLong);
-    EXPECT_EQ(fx::g_app.GetProfileString(L"部", L"none", L"default"), L"default");
-    EXPECT_TRUE(fx::g_app.WriteProfileString(L"部", L"text", nullptr));
-    EXPECT_EQ(fx::g_app.GetProfileString(L"部", L"text", L"gone"), L"gone");
-    EXPECT_TRUE(fx::g_app.WriteProfileString(L"部", nullptr, nullptr));
-    EXPECT_EQ(fx::g_app.GetProfileInt(L"部", L"number", 7), 7U);
+    ExpectSettingsAreKept(fx::g_app);
     ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldkitTest");
+}
+
+TEST(Application, KeepsSettingsInAFileWithoutAKey) {
+    CWinApp& app = fx::g_app;
+    for (LPCTSTR* ppsz : {&app.m_pszRegistryKey, &app.m_pszProfileName})
+        std::free(const_cast<LPTSTR>(*ppsz));
+    app.m_pszRegistryKey = nullptr;
+    app.m_pszProfileName = ::_tcsdup(L"FieldkitTest.INI");
+    ExpectSettingsAreKept(app);
+    EXPECT_FALSE(app.WriteProfileString(L"部", L"text", L"two\nlines")) << "which no such file can keep";
+    WCHAR szFolder[MAX_PATH];
+    ::GetEnvironmentVariable(L"APPDATA", szFolder, MAX_PATH);
+    EXPECT_TRUE(::DeleteFile(CString(szFolder) + L"\\FieldkitTest.INI"));
 }
 
 } // namespace

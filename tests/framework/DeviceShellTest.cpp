@@ -10,6 +10,7 @@ constexpr UINT ID_FULL_SCREEN = 300;
 
 TEST(FullScreenDialog, CoversTheWorkAreaAndItsOkButtonSendsIdOk) {
     CDialog dialog(ID_FULL_SCREEN);
+    dialog.m_bFullScreen = TRUE;
     fx::ModalScript script;
     script.Then([&] {
         const CRect rect = fx::RectOf(dialog);
@@ -27,6 +28,7 @@ TEST(FullScreenDialog, CoversTheWorkAreaAndItsOkButtonSendsIdOk) {
 
 TEST(FullScreenDialog, OkButtonIsHiddenAndShownByTheDoneButtonCall) {
     CDialog dialog(ID_FULL_SCREEN);
+    dialog.m_bFullScreen = TRUE;
     fx::ModalScript script;
     script.Then([&] {
         EXPECT_GT(fx::FindOkButton(dialog).x, 0);
@@ -46,6 +48,7 @@ TEST(FullScreenDialog, CommandBarStandsAtTheBottomAndItsSwitchShowsThePanel) {
                                      [](LPRECT) -> BOOL { return !calls.empty() && calls.back(); }};
     const AFX_SIP_HANDLER* const pOld = AfxSetSipHandler(&handler);
     CDialog dialog(ID_FULL_SCREEN);
+    dialog.m_bFullScreen = TRUE;
     fx::ModalScript script;
     CPoint sip;
     script

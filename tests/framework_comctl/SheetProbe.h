@@ -77,6 +77,7 @@ private:
 class Sheet : public CPropertySheet {
 public:
     Sheet() : CPropertySheet(L"設定") {
+        m_bFullScreen = TRUE;
         AddPage(&m_a);
         AddPage(&m_b);
     }

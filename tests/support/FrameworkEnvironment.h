@@ -23,6 +23,14 @@ public:
         return IDOK;
     }
 
+    LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override {
+        if (!m_bThrowAgain)
+            return CWinApp::ProcessWndProcException(e, pMsg);
+        e->Delete();
+        throw std::bad_alloc();
+    }
+
+    bool m_bThrowAgain = false;                ///< When it is to tell of an exception.
     std::vector<CString>* m_pRecord = nullptr; ///< Where prompts go instead of the screen.
 };
 
