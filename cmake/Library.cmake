@@ -37,4 +37,6 @@ target_include_directories(fieldkit PUBLIC
 target_link_libraries(fieldkit PUBLIC framework companion PRIVATE $<BUILD_INTERFACE:fieldkit_warnings>)
 target_compile_features(fieldkit PUBLIC cxx_std_17)
 # Inline members compute as those of the library do, see cmake/Options.cmake.
-target_compile_options(fieldkit INTERFACE $<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off>>)
+# A string that goes through "..." would arrive as rubbish, which g++ lets pass without a word.
+target_compile_options(fieldkit INTERFACE
+  $<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off;-Werror=conditionally-supported>>)
