@@ -2,7 +2,7 @@
 /// CObject, run-time class information and the diagnostic macros. Included by afx.h.
 #pragma once
 
-#include "afxtypes.h"
+#include "afxstr.h"
 
 class CArchive;
 class CObject;
@@ -153,7 +153,21 @@ AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObje
 /// Calls AssertValid, after an assertion that there is an object.
 AFX_CORE void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
 /// Writes to the debugger's output, elsewhere to the standard error stream.
-AFX_CORE void AfxTrace(LPCTSTR lpszFormat, ...);
+///@{
+AFX_CORE void AFXAPI AfxTraceText(const CStringW& text);
+template <class... Args>
+void AfxTrace(LPCWSTR lpszFormat, Args... args) {
+    CStringW text;
+    text.Format(lpszFormat, args...);
+    AfxTraceText(text);
+}
+template <class... Args>
+void AfxTrace(LPCSTR lpszFormat, Args... args) {
+    CStringA text;
+    text.Format(lpszFormat, args...);
+    AfxTraceText(CStringW(text));
+}
+///@}
 
 // Checks cost nothing in a release program. The classes are the same in both, so that
 // debug programs work with the release library.
@@ -176,5 +190,12 @@ AFX_CORE void AfxTrace(LPCTSTR lpszFormat, ...);
 /// AfxTrace in a debug program, nothing in a release program.
 #define TRACE(...) ((void)0)
 #endif
+/// TRACE with a fixed number of arguments.
+///@{
+#define TRACE0(sz) TRACE(sz)
+#define TRACE1(sz, p1) TRACE(sz, p1)
+#define TRACE2(sz, p1, p2) TRACE(sz, p1, p2)
+#define TRACE3(sz, p1, p2, p3) TRACE(sz, p1, p2, p3)
+///@}
 /// Asserts that the object is of a kind.
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))

@@ -1,210 +1,474 @@
 /// @file
-/// CString, the framework's Unicode string.
+/// CString, the framework's string, and its narrow and wide forms.
 #pragma once
 
 #include "afxtypes.h"
 
+#include <atomic>
 #include <cstdarg>
-#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
 
-/// A growing wide-character string that passes as LPCTSTR wherever one is wanted.
+template <class Char>
+class CStringT;
+
+/// Wide text: UTF-16 on Windows.
+using CStringW = CStringT<wchar_t>;
+/// Narrow text: bytes of the ANSI code page on Windows, UTF-8 elsewhere.
+using CStringA = CStringT<char>;
+/// The string of Unicode programs. A name for CStringW, not a class of its own, as the
+/// documentation has it; so it cannot be declared by `class CString;`: include this header.
+using CString = CStringW;
+
+/// What an argument of Format and its like becomes on its way through the ellipsis: the text of a
+/// string, any other plain value as it is.
+template <class Arg>
+auto AfxFormatArgument(const Arg& arg) noexcept {
+    if constexpr (std::is_base_of_v<CStringW, Arg> || std::is_base_of_v<CStringA, Arg>) {
+        return arg.GetString();
+    } else {
+        static_assert(std::is_arithmetic_v<Arg> || std::is_enum_v<Arg> || std::is_pointer_v<Arg> ||
+                          std::is_null_pointer_v<Arg>,
+                      "Only numbers, pointers and CString can be formatted: pass a member or the text of "
+                      "this object");
+        return arg;
+    }
+}
+
+/// What stands in front of the characters of a string.
+struct CStringData {
+    std::atomic<int> nRefs; ///< the strings that share the text; -1: one, which nobody may share
+    int nDataLength;        ///< characters, without the NUL behind them
+    int nAllocLength;       ///< room in characters, without the NUL; 0: the static empty text
+};
+
+/// The text of every empty string, wide or narrow.
+struct CStringNil {
+    CStringData data; ///< never counted
+    wchar_t chEnd;
+};
+AFX_CORE extern CStringNil afxStringNil;
+
+/// A growing string that passes as a pointer to constant text wherever one is wanted.
 ///
-/// Positions and lengths count TCHARs from 0. Extraction and editing functions clamp
-/// what lies outside the text; GetAt, SetAt and operator[] throw CInvalidArgException*
-/// instead. A NULL pointer counts as an empty string everywhere. Pointers into the
-/// text itself are allowed as arguments. Comparisons end at the first NUL.
-class AFX_CORE CString {
+/// Positions and lengths count characters from 0; of narrow text they count bytes. Extraction and
+/// editing functions clamp what lies outside the text; GetAt, SetAt and operator[] throw
+/// CInvalidArgException* instead. A NULL pointer counts as an empty string everywhere. Pointers into
+/// the text itself are allowed as arguments. Comparisons end at the first NUL. Where memory runs out,
+/// CMemoryException* or std::bad_alloc is thrown and the text is as it was.
+///
+/// Copies share one text and a count, and take their own when one of them changes: a copy costs some
+/// nanoseconds. Threads may use copies of the same text at the same time, but not the same CString.
+template <class Char>
+class CStringT {
 public:
-    CString() noexcept = default;
-    /// Copies or takes over the text.
+    using XCHAR = Char;                                                          ///< its characters
+    using YCHAR = std::conditional_t<std::is_same_v<Char, char>, wchar_t, char>; ///< those of the other form
+    using PXSTR = XCHAR*;                                                        ///< its text
+    using PCXSTR = const XCHAR*;                                                 ///< its text
+    using PCYSTR = const YCHAR*;                                                 ///< text of the other form
+
+    CStringT() noexcept : m_pData(&afxStringNil.data) {}
+    /// Shares or takes over the text.
     ///@{
-    CString(const CString& stringSrc) = default;
-    CString(CString&& stringSrc) noexcept = default;
+    CStringT(const CStringT& strSrc) : m_pData(strSrc.Share()) {}
+    CStringT(CStringT&& strSrc) noexcept : m_pData(std::exchange(strSrc.m_pData, &afxStringNil.data)) {}
     ///@}
     /// `nRepeat` times the character; none for a negative number.
-    CString(TCHAR ch, int nRepeat = 1);
-    /// A copy of the text.
-    CString(LPCTSTR lpsz);
-    /// The first `nLength` characters of `lpch`, NULs included.
-    CString(LPCTSTR lpch, int nLength);
-    /// Narrow text: the ANSI code page on Windows, UTF-8 elsewhere.
-    CString(LPCSTR lpsz);
-    /// @copydoc CString(LPCSTR)
-    CString(LPCSTR lpch, int nLength);
-    ~CString() = default;
-
-    /// Replaces the text; narrow text is converted as by the constructor.
+    CStringT(XCHAR ch, int nRepeat = 1);
+    /// A copy of the text. On Windows, MAKEINTRESOURCE of a number loads that string.
+    CStringT(PCXSTR pszSrc);
+    /// The first `nLength` characters, NULs included.
+    CStringT(PCXSTR pchSrc, int nLength) : CStringT() { SetString(pchSrc, nLength); }
+    /// Text of the other form, converted by the ANSI code page on Windows, as UTF-8 elsewhere.
     ///@{
-    CString& operator=(const CString& stringSrc) = default;
-    CString& operator=(CString&& stringSrc) noexcept = default;
-    CString& operator=(LPCTSTR lpsz);
-    CString& operator=(LPCSTR lpsz);
-    CString& operator=(TCHAR ch);
-    CString& operator=(char ch);
+    CStringT(const CStringT<YCHAR>& strSrc) : CStringT(strSrc.GetString(), strSrc.GetLength()) {}
+    CStringT(PCYSTR pszSrc);
+    CStringT(PCYSTR pchSrc, int nLength);
+    ///@}
+    /// Narrow text.
+    CStringT(const unsigned char* pszSrc) : CStringT(reinterpret_cast<const char*>(pszSrc)) {}
+    ~CStringT() { Release(m_pData); }
+
+    /// Replaces the text; text of the other form is converted as by the constructor.
+    ///@{
+    CStringT& operator=(const CStringT& strSrc) {
+        Take(strSrc.Share());
+        return *this;
+    }
+    CStringT& operator=(CStringT&& strSrc) noexcept {
+        std::swap(m_pData, strSrc.m_pData);
+        return *this;
+    }
+    CStringT& operator=(const CStringT<YCHAR>& strSrc) { return *this = CStringT(strSrc); }
+    CStringT& operator=(PCXSTR pszSrc) {
+        SetString(pszSrc);
+        return *this;
+    }
+    CStringT& operator=(PCYSTR pszSrc) { return *this = CStringT(pszSrc); }
+    CStringT& operator=(const unsigned char* pszSrc) { return *this = CStringT(pszSrc); }
+    CStringT& operator=(XCHAR ch) {
+        SetString(&ch, 1);
+        return *this;
+    }
+    CStringT& operator=(YCHAR ch) { return *this = CStringT(&ch, 1); }
+    void SetString(PCXSTR pszSrc) { SetString(pszSrc, StringLength(pszSrc)); }
+    void SetString(PCXSTR pchSrc, int nLength);
     ///@}
 
     /// The number of characters.
-    int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
+    int GetLength() const noexcept { return m_pData->nDataLength; }
+    /// The number of characters that there is room for.
+    int GetAllocLength() const noexcept { return m_pData->nAllocLength; }
     /// Whether there is no character.
-    BOOL IsEmpty() const noexcept { return m_text.empty() ? TRUE : FALSE; }
+    bool IsEmpty() const noexcept { return m_pData->nDataLength == 0; }
     /// Makes the text empty and gives its memory back.
-    void Empty() noexcept;
+    void Empty() noexcept { Take(&afxStringNil.data); }
     /// The character at `nIndex`; the terminating NUL at GetLength().
-    TCHAR GetAt(int nIndex) const;
+    XCHAR GetAt(int nIndex) const {
+        if (nIndex < 0 || nIndex > GetLength())
+            ThrowIndex();
+        return GetString()[nIndex];
+    }
     /// See GetAt.
-    TCHAR operator[](int nIndex) const { return GetAt(nIndex); }
+    XCHAR operator[](int nIndex) const { return GetAt(nIndex); }
     /// Replaces the character at `nIndex`.
-    void SetAt(int nIndex, TCHAR ch);
+    void SetAt(int nIndex, XCHAR ch);
     /// The text, ended by NUL, valid until the string changes.
     ///@{
-    operator LPCTSTR() const noexcept { return m_text.c_str(); }
-    LPCTSTR GetString() const noexcept { return m_text.c_str(); }
+    operator PCXSTR() const noexcept { return GetString(); }
+    PCXSTR GetString() const noexcept { return TextOf(m_pData); }
     ///@}
 
     /// Adds text at the end.
     ///@{
-    CString& operator+=(const CString& string);
-    CString& operator+=(LPCTSTR lpsz);
-    CString& operator+=(LPCSTR lpsz);
-    CString& operator+=(TCHAR ch);
-    CString& operator+=(char ch);
-    void Append(LPCTSTR lpsz) { *this += lpsz; }
-    void Append(LPCTSTR lpch, int nLength);
-    void AppendChar(TCHAR ch) { *this += ch; }
+    CStringT& operator+=(const CStringT& str) {
+        Append(str.GetString(), str.GetLength());
+        return *this;
+    }
+    CStringT& operator+=(const CStringT<YCHAR>& str) { return *this += CStringT(str); }
+    CStringT& operator+=(PCXSTR pszSrc) {
+        Append(pszSrc);
+        return *this;
+    }
+    CStringT& operator+=(PCYSTR pszSrc) { return *this += CStringT(pszSrc); }
+    CStringT& operator+=(XCHAR ch) {
+        AppendChar(ch);
+        return *this;
+    }
+    CStringT& operator+=(YCHAR ch) { return *this += CStringT(&ch, 1); }
+    void Append(PCXSTR pszSrc) { Append(pszSrc, StringLength(pszSrc)); }
+    void Append(PCXSTR pchSrc, int nLength);
+    void Append(const CStringT& strSrc) { *this += strSrc; }
+    void AppendChar(XCHAR ch) {
+        const int nLength = GetLength();
+        if (nLength == GetAllocLength() || IsShared())
+            return Append(&ch, 1);
+        TextOf(m_pData)[nLength] = ch;
+        SetLength(nLength + 1);
+    }
     ///@}
 
     /// Less than, equal to or greater than zero by the characters' numbers.
-    int Compare(LPCTSTR lpsz) const noexcept;
+    int Compare(PCXSTR psz) const noexcept;
     /// Compare without regard to case.
-    int CompareNoCase(LPCTSTR lpsz) const noexcept;
+    int CompareNoCase(PCXSTR psz) const;
+    /// Compare in the order of the user's language, with and without regard to case.
+    ///@{
+    int Collate(PCXSTR psz) const noexcept;
+    int CollateNoCase(PCXSTR psz) const noexcept;
+    ///@}
 
     /// A part of the text: `nCount` characters from `nFirst`, from the beginning, or the last ones.
     ///@{
-    CString Mid(int nFirst) const;
-    CString Mid(int nFirst, int nCount) const;
-    CString Left(int nCount) const;
-    CString Right(int nCount) const;
+    CStringT Mid(int nFirst) const { return Mid(nFirst, GetLength()); }
+    CStringT Mid(int nFirst, int nCount) const;
+    CStringT Left(int nCount) const { return Mid(0, nCount); }
+    CStringT Right(int nCount) const;
     ///@}
-    /// The leading run of characters that are in `lpszCharSet`.
-    CString SpanIncluding(LPCTSTR lpszCharSet) const;
-    /// The leading run of characters that are not in `lpszCharSet`.
-    CString SpanExcluding(LPCTSTR lpszCharSet) const;
+    /// The leading run of characters that are in `pszCharSet`.
+    CStringT SpanIncluding(PCXSTR pszCharSet) const;
+    /// The leading run of characters that are not in `pszCharSet`.
+    CStringT SpanExcluding(PCXSTR pszCharSet) const;
     /// The next token at or after `iStart`, runs of delimiters skipped.
     /// @param iStart moved behind the token; -1 when there is none (the result is then empty).
-    CString Tokenize(LPCTSTR lpszTokens, int& iStart) const;
+    CStringT Tokenize(PCXSTR pszTokens, int& iStart) const;
 
     /// Changes the text in place: capitals, small letters, reverse order.
     ///@{
-    CString& MakeUpper();
-    CString& MakeLower();
-    CString& MakeReverse();
+    CStringT& MakeUpper();
+    CStringT& MakeLower();
+    CStringT& MakeReverse();
     ///@}
     /// @return the number of replacements.
-    int Replace(TCHAR chOld, TCHAR chNew);
-    /// @return the number of replacements; 0 for an empty `lpszOld`.
-    int Replace(LPCTSTR lpszOld, LPCTSTR lpszNew);
+    int Replace(XCHAR chOld, XCHAR chNew);
+    /// @return the number of replacements; 0 for an empty `pszOld`.
+    int Replace(PCXSTR pszOld, PCXSTR pszNew);
     /// @return the number of characters removed.
-    int Remove(TCHAR chRemove);
+    int Remove(XCHAR chRemove);
     /// @return the new length.
-    int Insert(int nIndex, TCHAR ch);
+    int Insert(int nIndex, XCHAR ch) { return Insert(nIndex, &ch, 1); }
     /// See Insert.
-    int Insert(int nIndex, LPCTSTR lpsz);
+    int Insert(int nIndex, PCXSTR psz) { return Insert(nIndex, psz, StringLength(psz)); }
     /// Deletes characters from `nIndex` on. @return the new length
     int Delete(int nIndex, int nCount = 1);
     /// Removes blanks, tabs and line ends, one character or those of a set, at the beginning, at
     /// the end or at both. @return the string itself
     ///@{
-    CString& TrimLeft();
-    CString& TrimLeft(TCHAR chTarget);
-    CString& TrimLeft(LPCTSTR lpszTargets);
-    CString& TrimRight();
-    CString& TrimRight(TCHAR chTarget);
-    CString& TrimRight(LPCTSTR lpszTargets);
-    CString& Trim() { return TrimRight().TrimLeft(); }
-    CString& Trim(TCHAR chTarget) { return TrimRight(chTarget).TrimLeft(chTarget); }
-    CString& Trim(LPCTSTR lpszTargets);
+    CStringT& TrimLeft();
+    CStringT& TrimLeft(XCHAR chTarget);
+    CStringT& TrimLeft(PCXSTR pszTargets);
+    CStringT& TrimRight();
+    CStringT& TrimRight(XCHAR chTarget);
+    CStringT& TrimRight(PCXSTR pszTargets);
+    CStringT& Trim();
+    CStringT& Trim(XCHAR chTarget);
+    CStringT& Trim(PCXSTR pszTargets);
     ///@}
 
     /// @return the position of the first match at or after `nStart`, -1 if there is none.
-    int Find(TCHAR ch, int nStart = 0) const noexcept;
-    /// See Find. An empty `lpszSub` is found at once.
-    int Find(LPCTSTR lpszSub, int nStart = 0) const noexcept;
+    int Find(XCHAR ch, int nStart = 0) const noexcept;
+    /// See Find. An empty `pszSub` is found at once.
+    int Find(PCXSTR pszSub, int nStart = 0) const noexcept;
     /// The last position of the character, -1 if there is none.
-    int ReverseFind(TCHAR ch) const noexcept;
+    int ReverseFind(XCHAR ch) const noexcept;
     /// The first position of a character of the set, -1 if there is none.
-    int FindOneOf(LPCTSTR lpszCharSet) const noexcept;
+    int FindOneOf(PCXSTR pszCharSet) const noexcept;
 
-    /// printf-like formatting: %s and %ls take wide strings, %S and %hs narrow ones, %c
-    /// and %C likewise; I64 and ll mark 64-bit numbers, I and z those of pointer size.
-    /// Pass GetString(), not the CString itself: only plain values go through `...`.
-    void Format(LPCTSTR lpszFormat, ...);
-    /// Format with its arguments in a list, or added at the end of the text.
+    /// printf-like formatting. %s and %c take text of the string's own form, %S and %C of the other
+    /// one; h always means narrow and l wide. I64 and ll mark 64-bit numbers, I and z those of pointer
+    /// size. The decimal point is a point in every locale. A CString argument passes its text, which
+    /// must be of the form that the conversion asks for; objects of other classes do not compile.
     ///@{
-    void FormatV(LPCTSTR lpszFormat, va_list argList);
-    void AppendFormat(LPCTSTR lpszFormat, ...);
-    void AppendFormatV(LPCTSTR lpszFormat, va_list argList);
+    template <class... Args>
+    void Format(PCXSTR pszFormat, Args... args) {
+        FormatList(pszFormat, AfxFormatArgument(args)...);
+    }
+    void FormatV(PCXSTR pszFormat, va_list argList);
+    ///@}
+    /// Format at the end of the text.
+    ///@{
+    template <class... Args>
+    void AppendFormat(PCXSTR pszFormat, Args... args) {
+        AppendFormatList(pszFormat, AfxFormatArgument(args)...);
+    }
+    void AppendFormatV(PCXSTR pszFormat, va_list argList);
     ///@}
 
-    /// Room for at least `nMinBufLength` characters and their NUL, holding the text.
-    /// The length is unknown until ReleaseBuffer.
-    LPTSTR GetBuffer(int nMinBufLength = 0);
+    /// Room for at least `nMinBufferLength` characters and their NUL, holding the text.
+    /// The length is unknown until ReleaseBuffer. Until then copies take a text of their own.
+    PXSTR GetBuffer(int nMinBufferLength = 0);
     /// Sets the length and hands out the buffer; new characters are NUL.
-    LPTSTR GetBufferSetLength(int nNewLength);
+    PXSTR GetBufferSetLength(int nLength);
     /// @param nNewLength the new length, -1 to end at the first NUL.
     void ReleaseBuffer(int nNewLength = -1);
+    /// ReleaseBuffer with a length.
+    void ReleaseBufferSetLength(int nNewLength) { ReleaseBuffer(nNewLength > 0 ? nNewLength : 0); }
+    /// Keeps the text to this string: copies take their own, until UnlockBuffer. @return the text
+    PXSTR LockBuffer() { return GetBuffer(); }
+    /// Ends LockBuffer.
+    void UnlockBuffer() noexcept;
+    /// Makes room for that many characters.
+    void Preallocate(int nLength);
+    /// Cuts the text to a length.
+    void Truncate(int nNewLength);
     /// Gives memory back that the text does not need.
-    void FreeExtra() { m_text.shrink_to_fit(); }
+    void FreeExtra();
+
+    /// The length of a text in characters; 0 for NULL. Throws CMemoryException* beyond 2^31.
+    static int StringLength(PCXSTR psz);
+    /// Copies characters; the second form allows the two to overlap.
+    ///@{
+    static void CopyChars(PXSTR pchDest, PCXSTR pchSrc, int nChars) noexcept {
+        std::char_traits<XCHAR>::copy(pchDest, pchSrc, static_cast<std::size_t>(nChars));
+    }
+    static void CopyCharsOverlapped(PXSTR pchDest, PCXSTR pchSrc, int nChars) noexcept {
+        std::char_traits<XCHAR>::move(pchDest, pchSrc, static_cast<std::size_t>(nChars));
+    }
+    ///@}
 
 #ifdef _WIN32
-    /// Loads a string of the application's or an extension module's table.
+    /// Loads a string of the application's or an extension module's table, or of one module alone.
     /// @return zero, with the text empty, if no module has it.
+    ///@{
     BOOL LoadString(UINT nID);
-    /// Format with a string of the table; an unknown one gives an empty text.
-    void Format(UINT nFormatID, ...);
+    BOOL LoadString(HINSTANCE hInstance, UINT nID);
+    ///@}
+    /// Format, AppendFormat and FormatMessage with a string of the table; an unknown one counts as
+    /// empty.
+    ///@{
+    template <class... Args>
+    void Format(UINT nFormatID, Args... args) {
+        FormatList(Loaded(nFormatID), AfxFormatArgument(args)...);
+    }
+    template <class... Args>
+    void AppendFormat(UINT nFormatID, Args... args) {
+        AppendFormatList(Loaded(nFormatID), AfxFormatArgument(args)...);
+    }
+    template <class... Args>
+    void FormatMessage(UINT nFormatID, Args... args) {
+        FormatMessageList(Loaded(nFormatID), AfxFormatArgument(args)...);
+    }
+    ///@}
+    /// Formatting by the system's rules, with numbered places: %1 for text, %2!d! for a number.
+    ///@{
+    template <class... Args>
+    void FormatMessage(PCXSTR pszFormat, Args... args) {
+        FormatMessageList(pszFormat, AfxFormatArgument(args)...);
+    }
+    void FormatMessageV(PCXSTR pszFormat, va_list* pArgList);
+    ///@}
+    /// The value of an environment variable. @return zero, with the text empty, if there is none.
+    BOOL GetEnvironmentVariable(PCXSTR pszVar);
+    /// Converts narrow text between the ANSI and the OEM code page. For CStringA only.
+    ///@{
+    void AnsiToOem();
+    void OemToAnsi();
+    ///@}
 #endif
 
+    /// Both texts in one new string.
+    ///@{
+    friend CStringT operator+(const CStringT& s1, const CStringT& s2) {
+        return Join(s1, s1.GetLength(), s2, s2.GetLength());
+    }
+    friend CStringT operator+(const CStringT& s1, PCXSTR s2) {
+        return Join(s1, s1.GetLength(), s2, StringLength(s2));
+    }
+    friend CStringT operator+(PCXSTR s1, const CStringT& s2) {
+        return Join(s1, StringLength(s1), s2, s2.GetLength());
+    }
+    friend CStringT operator+(const CStringT& s1, PCYSTR s2) {
+        return s1 + CStringT(s2);
+    }
+    friend CStringT operator+(PCYSTR s1, const CStringT& s2) {
+        return CStringT(s1) + s2;
+    }
+    friend CStringT operator+(const CStringT& s1, XCHAR ch) {
+        return Join(s1, s1.GetLength(), &ch, 1);
+    }
+    friend CStringT operator+(XCHAR ch, const CStringT& s2) {
+        return Join(&ch, 1, s2, s2.GetLength());
+    }
+    friend CStringT operator+(const CStringT& s1, YCHAR ch) {
+        return s1 + CStringT(&ch, 1);
+    }
+    friend CStringT operator+(YCHAR ch, const CStringT& s2) {
+        return CStringT(&ch, 1) + s2;
+    }
+    // The room of an intermediate sum serves the next one.
+    friend CStringT operator+(CStringT&& s1, const CStringT& s2) {
+        return std::move(s1 += s2);
+    }
+    friend CStringT operator+(CStringT&& s1, PCXSTR s2) {
+        return std::move(s1 += s2);
+    }
+    friend CStringT operator+(CStringT&& s1, PCYSTR s2) {
+        return std::move(s1 += s2);
+    }
+    friend CStringT operator+(CStringT&& s1, XCHAR ch) {
+        return std::move(s1 += ch);
+    }
+    friend CStringT operator+(CStringT&& s1, YCHAR ch) {
+        return std::move(s1 += ch);
+    }
+    ///@}
+
+    // Text of the other form compares too: it converts first.
+    // clang-format off
+    /// Compare as by Compare.
+    ///@{
+    friend bool operator==(const CStringT& s1, const CStringT& s2) { return s1.m_pData == s2.m_pData || s1.Compare(s2) == 0; }
+    friend bool operator==(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) == 0; }
+    friend bool operator==(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) == 0; }
+    friend bool operator==(const CStringT& s1, XCHAR ch) { return s1.GetLength() == 1 && s1[0] == ch; }
+    friend bool operator==(XCHAR ch, const CStringT& s2) { return s2 == ch; }
+    friend bool operator!=(const CStringT& s1, const CStringT& s2) { return !(s1 == s2); }
+    friend bool operator!=(const CStringT& s1, PCXSTR s2) { return !(s1 == s2); }
+    friend bool operator!=(PCXSTR s1, const CStringT& s2) { return !(s1 == s2); }
+    friend bool operator!=(const CStringT& s1, XCHAR ch) { return !(s1 == ch); }
+    friend bool operator!=(XCHAR ch, const CStringT& s2) { return !(s2 == ch); }
+    friend bool operator<(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) < 0; }
+    friend bool operator<(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) < 0; }
+    friend bool operator<(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) > 0; }
+    friend bool operator>(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) > 0; }
+    friend bool operator>(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) > 0; }
+    friend bool operator>(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) < 0; }
+    friend bool operator<=(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) <= 0; }
+    friend bool operator<=(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) <= 0; }
+    friend bool operator<=(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) >= 0; }
+    friend bool operator>=(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) >= 0; }
+    friend bool operator>=(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) >= 0; }
+    friend bool operator>=(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) <= 0; }
+    ///@}
+    // clang-format on
+
 private:
-    std::wstring m_text;
+    using View = std::basic_string_view<Char>;
+
+    static Char* TextOf(CStringData* pData) noexcept {
+        return reinterpret_cast<Char*>(pData + 1);
+    }
+    View Text() const noexcept {
+        return {GetString(), static_cast<std::size_t>(GetLength())};
+    }
+    bool IsNil() const noexcept {
+        return m_pData->nAllocLength == 0;
+    }
+    bool IsShared() const noexcept {
+        return m_pData->nRefs.load(std::memory_order_acquire) > 1;
+    }
+    void SetLength(int nLength) noexcept {
+        m_pData->nDataLength = nLength;
+        TextOf(m_pData)[nLength] = Char();
+    }
+
+    CStringData* Share() const {
+        if (IsNil())
+            return m_pData;
+        if (m_pData->nRefs.load(std::memory_order_relaxed) < 0)
+            return NewData(GetString(), GetLength(), GetLength());
+        m_pData->nRefs.fetch_add(1, std::memory_order_relaxed);
+        return m_pData;
+    }
+    static void Release(CStringData* pData) noexcept {
+        if (pData->nAllocLength == 0)
+            return;
+        // The only owner needs no locked operation: nobody else can share what he does not give.
+        if (pData->nRefs.load(std::memory_order_acquire) <= 1 ||
+            pData->nRefs.fetch_sub(1, std::memory_order_acq_rel) == 1)
+            Free(pData);
+    }
+    void Take(CStringData* pData) noexcept {
+        Release(std::exchange(m_pData, pData));
+    }
+
+    [[noreturn]] static void ThrowIndex();
+    // Made and freed by the framework's own module only.
+    static CStringData* NewData(int nAllocLength);
+    static CStringData* NewData(PCXSTR pch, int nLength, int nAllocLength);
+    static void Free(CStringData* pData) noexcept;
+    static CStringT Join(PCXSTR pch1, int nLength1, PCXSTR pch2, int nLength2);
+    PXSTR Own(int nAllocLength);
+    int Insert(int nIndex, PCXSTR psz, int nLength);
+    CStringT& Keep(std::size_t nFirst, std::size_t nEnd);
+    void FormatList(PCXSTR pszFormat, ...);
+    void AppendFormatList(PCXSTR pszFormat, ...);
+#ifdef _WIN32
+    void FormatMessageList(PCXSTR pszFormat, ...);
+    static CStringT Loaded(UINT nID) {
+        CStringT str;
+        str.LoadString(nID);
+        return str;
+    }
+#endif
+
+    CStringData* m_pData;
 };
 
-/// Both texts in one new string.
-///@{
-AFX_CORE CString AFXAPI operator+(const CString& string1, const CString& string2);
-AFX_CORE CString AFXAPI operator+(const CString& string, LPCTSTR lpsz);
-AFX_CORE CString AFXAPI operator+(LPCTSTR lpsz, const CString& string);
-AFX_CORE CString AFXAPI operator+(const CString& string, LPCSTR lpsz);
-AFX_CORE CString AFXAPI operator+(LPCSTR lpsz, const CString& string);
-AFX_CORE CString AFXAPI operator+(const CString& string, TCHAR ch);
-AFX_CORE CString AFXAPI operator+(TCHAR ch, const CString& string);
-AFX_CORE CString AFXAPI operator+(const CString& string, char ch);
-AFX_CORE CString AFXAPI operator+(char ch, const CString& string);
-///@}
-
-// Narrow text compares too: it converts to a CString first.
-// clang-format off
-/// Compare as by CString::Compare.
-///@{
-inline bool operator==(const CString& s1, const CString& s2) { return s1.Compare(s2) == 0; }
-inline bool operator==(const CString& s1, LPCTSTR s2) { return s1.Compare(s2) == 0; }
-inline bool operator==(LPCTSTR s1, const CString& s2) { return s2.Compare(s1) == 0; }
-inline bool operator==(const CString& s1, TCHAR ch) { return s1.GetLength() == 1 && s1[0] == ch; }
-inline bool operator==(TCHAR ch, const CString& s2) { return s2 == ch; }
-inline bool operator!=(const CString& s1, const CString& s2) { return !(s1 == s2); }
-inline bool operator!=(const CString& s1, LPCTSTR s2) { return !(s1 == s2); }
-inline bool operator!=(LPCTSTR s1, const CString& s2) { return !(s1 == s2); }
-inline bool operator!=(const CString& s1, TCHAR ch) { return !(s1 == ch); }
-inline bool operator!=(TCHAR ch, const CString& s2) { return !(s2 == ch); }
-inline bool operator<(const CString& s1, const CString& s2) { return s1.Compare(s2) < 0; }
-inline bool operator<(const CString& s1, LPCTSTR s2) { return s1.Compare(s2) < 0; }
-inline bool operator<(LPCTSTR s1, const CString& s2) { return s2.Compare(s1) > 0; }
-inline bool operator>(const CString& s1, const CString& s2) { return s1.Compare(s2) > 0; }
-inline bool operator>(const CString& s1, LPCTSTR s2) { return s1.Compare(s2) > 0; }
-inline bool operator>(LPCTSTR s1, const CString& s2) { return s2.Compare(s1) < 0; }
-inline bool operator<=(const CString& s1, const CString& s2) { return s1.Compare(s2) <= 0; }
-inline bool operator<=(const CString& s1, LPCTSTR s2) { return s1.Compare(s2) <= 0; }
-inline bool operator<=(LPCTSTR s1, const CString& s2) { return s2.Compare(s1) >= 0; }
-inline bool operator>=(const CString& s1, const CString& s2) { return s1.Compare(s2) >= 0; }
-inline bool operator>=(const CString& s1, LPCTSTR s2) { return s1.Compare(s2) >= 0; }
-inline bool operator>=(LPCTSTR s1, const CString& s2) { return s2.Compare(s1) <= 0; }
-///@}
-// clang-format on
+// Users of the DLL make the inline members themselves, as the compiler exports only the others.
+#if !defined(_WIN32) || defined(FIELDKIT_STATIC) || defined(FRAMEWORK_EXPORTS)
+extern template class AFX_CORE CStringT<wchar_t>;
+extern template class AFX_CORE CStringT<char>;
+#endif

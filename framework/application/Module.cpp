@@ -128,14 +128,20 @@ int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
     return hInstance != nullptr ? ::LoadString(hInstance, nID, lpszBuf, static_cast<int>(nMaxBuf)) : 0;
 }
 
-BOOL CString::LoadString(UINT nID) {
+template <class Char>
+BOOL CStringT<Char>::LoadString(HINSTANCE hInstance, UINT nID) {
     int nLength = 0;
-    const HINSTANCE hInstance = AfxFindStringResourceHandle(nID);
     const LPCTSTR pszText = hInstance != nullptr ? FindString(hInstance, nID, &nLength) : nullptr;
-    if (pszText == nullptr) {
-        Empty();
-        return FALSE;
-    }
-    *this = CString(pszText, nLength);
-    return TRUE;
+    *this = CStringT(pszText, nLength);
+    return pszText != nullptr ? TRUE : FALSE;
 }
+
+template <class Char>
+BOOL CStringT<Char>::LoadString(UINT nID) {
+    return LoadString(AfxFindStringResourceHandle(nID), nID);
+}
+
+template BOOL CStringW::LoadString(HINSTANCE, UINT);
+template BOOL CStringA::LoadString(HINSTANCE, UINT);
+template BOOL CStringW::LoadString(UINT);
+template BOOL CStringA::LoadString(UINT);

@@ -3,9 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-void WriteOut(const CString& text) {
+void AFXAPI AfxTraceText(const CStringW& text) {
 #ifdef _WIN32
     OutputDebugStringW(text);
     if (!IsDebuggerPresent())
@@ -13,12 +11,10 @@ void WriteOut(const CString& text) {
         std::fprintf(stderr, "%ls", text.GetString());
 }
 
-} // namespace
-
 void AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
     CString text;
     text.Format(L"Assertion failed: %hs, line %d\n", lpszFileName, nLine);
-    WriteOut(text);
+    AfxTraceText(text);
     std::abort();
 }
 
@@ -26,13 +22,4 @@ void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nL
     if (pOb == nullptr)
         AfxAssertFailedLine(lpszFileName, nLine);
     pOb->AssertValid();
-}
-
-void AfxTrace(LPCTSTR lpszFormat, ...) {
-    CString text;
-    va_list args;
-    va_start(args, lpszFormat);
-    text.FormatV(lpszFormat, args);
-    va_end(args);
-    WriteOut(text);
 }

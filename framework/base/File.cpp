@@ -52,7 +52,7 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
     }
     m_hFile = file;
     m_bCloseOnDelete = TRUE;
-    SetFilePath(path);
+    SetFilePath(path); // the same text, so it asks for no memory
     return TRUE;
 }
 

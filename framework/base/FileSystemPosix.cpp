@@ -89,7 +89,7 @@ Error Open(LPCTSTR path, UINT flags, HANDLE& file) {
         mode |= O_CLOEXEC;
     if ((flags & CFile::osWriteThrough) != 0)
         mode |= O_SYNC;
-    const std::string name = AfxToUtf8(path);
+    const std::string name = AfxNarrow(path);
     const int fd = Uninterrupted([&] { return open(name.c_str(), mode, 0666); });
     if (fd < 0)
         return errno;
@@ -185,19 +185,19 @@ Error Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock) {
 }
 
 Error Rename(LPCTSTR from, LPCTSTR to) {
-    const std::string target = AfxToUtf8(to);
+    const std::string target = AfxNarrow(to);
     if (access(target.c_str(), F_OK) == 0)
         return EEXIST; // never replaces a file
-    return Check(std::rename(AfxToUtf8(from).c_str(), target.c_str()));
+    return Check(std::rename(AfxNarrow(from).c_str(), target.c_str()));
 }
 
 Error Remove(LPCTSTR path) {
-    return Check(unlink(AfxToUtf8(path).c_str()));
+    return Check(unlink(AfxNarrow(path).c_str()));
 }
 
 CString FullPath(LPCTSTR path) {
     std::error_code error;
-    const auto full = std::filesystem::absolute(AfxToUtf8(path), error).lexically_normal();
+    const auto full = std::filesystem::absolute(AfxNarrow(path), error).lexically_normal();
     return error ? CString(path) : CString(full.c_str());
 }
 

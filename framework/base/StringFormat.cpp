@@ -1,27 +1,27 @@
-#include "afx.h"
-#include "TextConvert.h"
+#include "StringFormat.h"
 
-#include <algorithm>
-#include <cstddef>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
-#include <cwchar>
-#include <string_view>
+#include <cstring>
 
-using namespace fieldkit::detail;
-
-// Each conversion is done alone, with the C library's narrow printf for numbers only.
-// Its wide one disagrees between systems about %s and cannot tell a short buffer from a
-// character that it does not know.
+// Each conversion is done alone. The C library's wide printf disagrees between systems about %s and
+// cannot tell a short buffer from a character that it does not know; its narrow one does only what is
+// rare: hexadecimal and long numbers with a point.
 namespace {
 
 enum class Size { normal, narrow, byte, wide, longlong, pointer, longdouble };
 
 struct Conversion {
-    std::string flags;
+    bool left = false;      // -
+    bool plus = false;      // +
+    bool blank = false;     // a blank where plus has a sign
+    bool alternate = false; // #
+    bool zeros = false;     // 0
     int width = 0;
     int precision = -1;
     Size size = Size::normal;
-    wchar_t type = L'\0';
+    char type = '\0';
 };
 
 // A va_list inside a class travels by reference on every processor.
@@ -32,228 +32,366 @@ struct Arguments {
 // Widths beyond this are mistakes, and would only exhaust the memory.
 constexpr int kMaxWidth = 1'000'000;
 
-int ReadNumber(LPCTSTR& p) {
+template <class Char>
+int ReadNumber(const Char*& p) {
     int number = 0;
-    for (; *p >= L'0' && *p <= L'9'; ++p)
-        number = std::min(number * 10 + static_cast<int>(*p - L'0'), kMaxWidth);
+    for (; *p >= Char('0') && *p <= Char('9'); ++p)
+        number = std::min(number * 10 + static_cast<int>(*p - Char('0')), kMaxWidth);
     return number;
 }
 
-int ReadNumberOrArgument(LPCTSTR& p, Arguments& args) {
-    if (*p != L'*')
+template <class Char>
+int ReadNumberOrArgument(const Char*& p, Arguments& args) {
+    if (*p != Char('*'))
         return ReadNumber(p);
     ++p;
     return std::clamp(va_arg(args.list, int), -kMaxWidth, kMaxWidth);
 }
 
-Size ReadSize(LPCTSTR& p) {
-    struct Prefix {
-        std::wstring_view text;
-        Size size;
-    };
-    constexpr Prefix kPrefixes[] = {
-        {L"I64", Size::longlong}, {L"I32", Size::normal}, {L"I", Size::pointer},  {L"ll", Size::longlong},
-        {L"l", Size::wide},       {L"w", Size::wide},     {L"hh", Size::byte},    {L"h", Size::narrow},
-        {L"z", Size::pointer},    {L"t", Size::pointer},  {L"j", Size::longlong}, {L"L", Size::longdouble}};
-    for (const Prefix& prefix : kPrefixes) {
-        if (std::wcsncmp(p, prefix.text.data(), prefix.text.size()) == 0) {
-            p += prefix.text.size();
-            return prefix.size;
-        }
+template <class Char>
+bool ReadFlag(Char ch, Conversion& conversion) {
+    switch (ch) {
+    case '-':
+        return conversion.left = true;
+    case '+':
+        return conversion.plus = true;
+    case ' ':
+        return conversion.blank = true;
+    case '#':
+        return conversion.alternate = true;
+    case '0':
+        return conversion.zeros = true;
+    default:
+        return false;
     }
-    return Size::normal;
 }
 
-Conversion ReadConversion(LPCTSTR& p, Arguments& args) {
+template <class Char>
+bool Skip(const Char*& p, const char* text) {
+    const Char* q = p;
+    for (; *text != '\0'; ++text, ++q)
+        if (*q != Char(*text))
+            return false;
+    p = q;
+    return true;
+}
+
+template <class Char>
+Size ReadSize(const Char*& p) {
+    switch (*p) {
+    case 'I':
+        return Skip(p, "I64") ? Size::longlong : Skip(p, "I32") ? Size::normal : (++p, Size::pointer);
+    case 'l':
+        return Skip(p, "ll") ? Size::longlong : (++p, Size::wide);
+    case 'h':
+        return Skip(p, "hh") ? Size::byte : (++p, Size::narrow);
+    case 'w':
+        return ++p, Size::wide;
+    case 'z':
+    case 't':
+        return ++p, Size::pointer;
+    case 'j':
+        return ++p, Size::longlong;
+    case 'L':
+        return ++p, Size::longdouble;
+    default:
+        return Size::normal;
+    }
+}
+
+template <class Char>
+Conversion ReadConversion(const Char*& p, Arguments& args) {
     Conversion conversion;
-    for (; *p != L'\0' && std::wcschr(L"-+ #0", *p) != nullptr; ++p)
-        conversion.flags += static_cast<char>(*p);
+    while (ReadFlag(*p, conversion))
+        ++p;
     conversion.width = ReadNumberOrArgument(p, args);
     if (conversion.width < 0) {
-        conversion.flags += '-';
+        conversion.left = true;
         conversion.width = -conversion.width;
     }
-    if (*p == L'.')
+    if (*p == Char('.'))
         conversion.precision = ReadNumberOrArgument(++p, args);
     conversion.size = ReadSize(p);
-    conversion.type = *p;
-    if (*p != L'\0')
-        ++p;
+    conversion.type = *p > Char(0) && *p < Char(0x7F) ? static_cast<char>(*p) : '\0';
     return conversion;
 }
 
-bool Has(const Conversion& conversion, char flag) {
-    return conversion.flags.find(flag) != std::string::npos;
-}
+/// A number in parts: sign or 0x, zeros that the precision asks for, digits.
+struct Number {
+    std::string_view head;
+    std::size_t zeros = 0;
+    std::string_view digits;
+};
 
-void AppendPadded(std::wstring& out, const Conversion& conversion, std::wstring_view text) {
+template <class Char>
+void AppendNumber(CTextBuffer<Char>& out, const Conversion& conversion, Number number, bool zerosFill) {
+    const std::size_t length = number.head.size() + number.zeros + number.digits.size();
     const auto width = static_cast<std::size_t>(conversion.width);
-    const std::size_t padding = width > text.size() ? width - text.size() : 0;
-    if (!Has(conversion, '-'))
-        out.append(padding, Has(conversion, '0') ? L'0' : L' ');
-    out.append(text);
-    if (Has(conversion, '-'))
-        out.append(padding, L' ');
+    const std::size_t padding = width > length ? width - length : 0;
+    if (zerosFill && conversion.zeros && !conversion.left)
+        number.zeros += padding;
+    else if (!conversion.left)
+        out.Fill(padding, Char(' '));
+    out.Append(number.head.data(), number.head.size());
+    out.Fill(number.zeros, Char('0'));
+    out.Append(number.digits.data(), number.digits.size());
+    if (conversion.left)
+        out.Fill(padding, Char(' '));
 }
 
-template <class Number>
-void AppendNumber(std::wstring& out, const Conversion& conversion, const char* length, Number value) {
-    const std::string format = "%" + conversion.flags + "*.*" + length + static_cast<char>(conversion.type);
-    const auto print = [&](char* target, std::size_t size) {
-        const int needed =
-            std::snprintf(target, size, format.c_str(), conversion.width, conversion.precision, value);
+std::string_view SignOf(const Conversion& conversion, bool negative) {
+    return negative ? "-" : conversion.plus ? "+" : conversion.blank ? " " : "";
+}
+
+template <class Char>
+void AppendDigits(CTextBuffer<Char>& out, const Conversion& conversion, unsigned long long value,
+                  std::string_view head) {
+    char digits[24]; // octal digits of 64 bits, and one
+    char* const end = digits + sizeof(digits);
+    char* p = end;
+    const auto put = [&](unsigned base, const char* names) {
+        for (; value != 0; value /= base)
+            *--p = names[value % base];
+    };
+    const bool any = value != 0;
+    switch (conversion.type) {
+    case 'o':
+        put(8, "01234567");
+        break;
+    case 'x':
+        put(16, "0123456789abcdef");
+        head = conversion.alternate && any ? "0x" : "";
+        break;
+    case 'X':
+        put(16, "0123456789ABCDEF");
+        head = conversion.alternate && any ? "0X" : "";
+        break;
+    default:
+        put(10, "0123456789");
+    }
+    auto length = static_cast<std::size_t>(end - p);
+    std::size_t least = conversion.precision >= 0 ? static_cast<std::size_t>(conversion.precision) : 1;
+    if (conversion.type == 'o' && conversion.alternate)
+        least = std::max(least, length + 1);
+    AppendNumber(out, conversion, {head, least > length ? least - length : 0, {p, length}},
+                 conversion.precision < 0);
+}
+
+long long SignedArgument(Size size, Arguments& args) {
+    switch (size) {
+    case Size::wide:
+        return va_arg(args.list, long);
+    case Size::longlong:
+        return va_arg(args.list, long long);
+    case Size::pointer:
+        return va_arg(args.list, std::ptrdiff_t);
+    case Size::narrow:
+        return static_cast<short>(va_arg(args.list, int));
+    case Size::byte:
+        return static_cast<signed char>(va_arg(args.list, int));
+    default:
+        return va_arg(args.list, int);
+    }
+}
+
+unsigned long long UnsignedArgument(Size size, Arguments& args) {
+    const auto value = static_cast<unsigned long long>(SignedArgument(size, args));
+    const std::size_t bytes = size == Size::byte                                 ? 1
+                              : size == Size::narrow                             ? sizeof(short)
+                              : size == Size::normal || size == Size::longdouble ? sizeof(int)
+                              : size == Size::wide                               ? sizeof(long)
+                              : size == Size::pointer                            ? sizeof(std::ptrdiff_t)
+                                                                                 : sizeof(value);
+    return value & ~0ULL >> 8 * (sizeof(value) - bytes);
+}
+
+template <class Char>
+void AppendInteger(CTextBuffer<Char>& out, const Conversion& conversion, Arguments& args) {
+    if (conversion.type != 'd' && conversion.type != 'i')
+        return AppendDigits(out, conversion, UnsignedArgument(conversion.size, args), "");
+    const long long value = SignedArgument(conversion.size, args);
+    const auto magnitude = static_cast<unsigned long long>(value);
+    AppendDigits(out, conversion, value < 0 ? 0 - magnitude : magnitude, SignOf(conversion, value < 0));
+}
+
+/// By the C library.
+template <class Char, class Real>
+void AppendPrinted(CTextBuffer<Char>& out, const Conversion& conversion, const char* size, Real value) {
+    char format[16] = "%";
+    for (const auto& [set, flag] :
+         {std::pair(conversion.left, "-"), std::pair(conversion.plus, "+"), std::pair(conversion.blank, " "),
+          std::pair(conversion.alternate, "#"), std::pair(conversion.zeros, "0")})
+        std::strcat(format, set ? flag : "");
+    std::strcat(std::strcat(format, "*.*"), size);
+    std::strncat(format, &conversion.type, 1);
+    const auto print = [&](char* target, std::size_t room) {
+        const int needed = std::snprintf(target, room, format, conversion.width, conversion.precision, value);
         if (needed < 0)
             AfxThrowMemoryException(); // long fields make the C library ask for some, each time
         return static_cast<std::size_t>(needed);
     };
-    std::string digits(print(nullptr, 0) + 1, '\0');
-    print(digits.data(), digits.size());
-    out.append(digits.begin(), digits.end() - 1);
+    std::string text(print(nullptr, 0) + 1, '\0');
+    print(text.data(), text.size());
+    out.Append(text.data(), text.size() - 1);
 }
 
-void AppendInteger(std::wstring& out, const Conversion& conversion, Arguments& args) {
-    switch (conversion.size) {
-    case Size::wide:
-        return AppendNumber(out, conversion, "l", va_arg(args.list, long));
-    case Size::longlong:
-        return AppendNumber(out, conversion, "ll", va_arg(args.list, long long));
-    case Size::pointer:
-        return AppendNumber(out, conversion, "t", va_arg(args.list, std::ptrdiff_t));
-    case Size::narrow:
-        return AppendNumber(out, conversion, "h", va_arg(args.list, int));
-    case Size::byte:
-        return AppendNumber(out, conversion, "hh", va_arg(args.list, int));
-    default:
-        return AppendNumber(out, conversion, "", va_arg(args.list, int));
-    }
-}
-
-void AppendReal(std::wstring& out, const Conversion& conversion, Arguments& args) {
+template <class Char>
+void AppendReal(CTextBuffer<Char>& out, const Conversion& conversion, Arguments& args) {
     if (conversion.size == Size::longdouble)
-        AppendNumber(out, conversion, "L", va_arg(args.list, long double));
-    else
-        AppendNumber(out, conversion, "", va_arg(args.list, double));
+        return AppendPrinted(out, conversion, "L", va_arg(args.list, long double));
+    const double value = va_arg(args.list, double);
+    constexpr int kMostDigits = 100;
+    const bool capitals = conversion.type < 'a';
+    const char type = static_cast<char>(conversion.type | 0x20);
+    if (type == 'a' || conversion.alternate || conversion.precision > kMostDigits)
+        return AppendPrinted(out, conversion, "", value);
+    const std::chars_format form = type == 'f'   ? std::chars_format::fixed
+                                   : type == 'e' ? std::chars_format::scientific
+                                                 : std::chars_format::general;
+    char digits[std::numeric_limits<double>::max_exponent10 + kMostDigits + 8];
+    char* const end = std::to_chars(digits, digits + sizeof(digits), std::fabs(value), form,
+                                    conversion.precision < 0 ? 6 : conversion.precision)
+                          .ptr;
+    if (capitals)
+        std::transform(digits, end, digits,
+                       [](char ch) { return ch >= 'a' ? static_cast<char>(ch - 0x20) : ch; });
+    AppendNumber(
+        out, conversion,
+        {SignOf(conversion, std::signbit(value)), 0, {digits, static_cast<std::size_t>(end - digits)}},
+        std::isfinite(value));
 }
 
-void AppendPointer(std::wstring& out, Conversion conversion, Arguments& args) {
-    conversion.type = L'X';
+template <class Char>
+void AppendPointer(CTextBuffer<Char>& out, Conversion conversion, Arguments& args) {
+    conversion.type = 'X';
     conversion.precision = 2 * static_cast<int>(sizeof(void*));
-    AppendNumber(out, conversion, "t", reinterpret_cast<std::ptrdiff_t>(va_arg(args.list, void*)));
+    AppendDigits(out, conversion, reinterpret_cast<UINT_PTR>(va_arg(args.list, void*)), "");
+}
+
+template <class Char>
+void AppendPadded(CTextBuffer<Char>& out, const Conversion& conversion, std::basic_string_view<Char> text) {
+    const auto width = static_cast<std::size_t>(conversion.width);
+    const std::size_t padding = width > text.size() ? width - text.size() : 0;
+    if (!conversion.left)
+        out.Fill(padding, conversion.zeros ? Char('0') : Char(' '));
+    out.Append(text.data(), text.size());
+    if (conversion.left)
+        out.Fill(padding, Char(' '));
+}
+
+// Text of the other form.
+template <class Char, class Other>
+void AppendPadded(CTextBuffer<Char>& out, const Conversion& conversion, std::basic_string_view<Other> text) {
+    const std::basic_string<Char> converted = Convert(text);
+    AppendPadded(out, conversion, std::basic_string_view<Char>(converted));
 }
 
 // Upper case swaps the meaning of the plain letter; an explicit size has the last word.
+template <class Char>
 bool IsNarrowText(const Conversion& conversion) {
     if (conversion.size == Size::narrow || conversion.size == Size::byte)
         return true;
-    return conversion.size == Size::normal && (conversion.type == L'S' || conversion.type == L'C');
+    const bool other = conversion.type == 'S' || conversion.type == 'C';
+    return conversion.size == Size::normal && other != (sizeof(Char) == 1);
 }
 
-void AppendCharacter(std::wstring& out, const Conversion& conversion, Arguments& args) {
+template <class Char>
+void AppendCharacter(CTextBuffer<Char>& out, const Conversion& conversion, Arguments& args) {
     const int value = va_arg(args.list, int);
-    if (!IsNarrowText(conversion))
-        return AppendPadded(out, conversion, std::wstring(1, static_cast<wchar_t>(value)));
-    const char ch = static_cast<char>(value);
-    AppendPadded(out, conversion, AfxWiden({&ch, 1}));
+    const auto narrow = static_cast<char>(value);
+    const auto wide = static_cast<wchar_t>(value);
+    if (IsNarrowText<Char>(conversion))
+        AppendPadded(out, conversion, std::string_view(&narrow, 1));
+    else
+        AppendPadded(out, conversion, std::wstring_view(&wide, 1));
 }
 
-// With a precision the text need not be terminated, so no strlen there.
+// With a precision the text need not be terminated, so nothing is read behind it.
 template <class Char>
 std::basic_string_view<Char> TextArgument(const Conversion& conversion, const Char* text) {
-    std::size_t length = 0;
-    while ((conversion.precision < 0 || length < static_cast<std::size_t>(conversion.precision)) &&
-           text[length] != Char())
-        ++length;
-    return {text, length};
+    if (conversion.precision < 0)
+        return text;
+    const Char* const end = text + conversion.precision;
+    const Char* p = text;
+    while (p != end && *p != Char())
+        ++p;
+    return {text, static_cast<std::size_t>(p - text)};
 }
 
-void AppendText(std::wstring& out, const Conversion& conversion, Arguments& args) {
+template <class Char>
+void AppendText(CTextBuffer<Char>& out, const Conversion& conversion, Arguments& args) {
     const void* text = va_arg(args.list, const void*);
     if (text == nullptr)
-        AppendPadded(out, conversion, TextArgument(conversion, L"(null)"));
-    else if (IsNarrowText(conversion))
-        AppendPadded(out, conversion, AfxWiden(TextArgument(conversion, static_cast<const char*>(text))));
+        AppendPadded(out, conversion, TextArgument(conversion, "(null)"));
+    else if (IsNarrowText<Char>(conversion))
+        AppendPadded(out, conversion, TextArgument(conversion, static_cast<const char*>(text)));
     else
         AppendPadded(out, conversion, TextArgument(conversion, static_cast<const wchar_t*>(text)));
 }
 
-void AppendConversion(std::wstring& out, const Conversion& conversion, Arguments& args) {
+/// @return whether the conversion is known
+template <class Char>
+bool AppendConversion(CTextBuffer<Char>& out, const Conversion& conversion, Arguments& args) {
     switch (conversion.type) {
-    case L'd':
-    case L'i':
-    case L'u':
-    case L'o':
-    case L'x':
-    case L'X':
-        return AppendInteger(out, conversion, args);
-    case L'e':
-    case L'E':
-    case L'f':
-    case L'F':
-    case L'g':
-    case L'G':
-    case L'a':
-    case L'A':
-        return AppendReal(out, conversion, args);
-    case L's':
-    case L'S':
-        return AppendText(out, conversion, args);
-    case L'c':
-    case L'C':
-        return AppendCharacter(out, conversion, args);
-    case L'p':
-        return AppendPointer(out, conversion, args);
-    case L'\0':
-        return;
-    default: // %% and whatever has no meaning
-        out += conversion.type;
+    case 'd':
+    case 'i':
+    case 'u':
+    case 'o':
+    case 'x':
+    case 'X':
+        return AppendInteger(out, conversion, args), true;
+    case 'e':
+    case 'E':
+    case 'f':
+    case 'F':
+    case 'g':
+    case 'G':
+    case 'a':
+    case 'A':
+        return AppendReal(out, conversion, args), true;
+    case 's':
+    case 'S':
+        return AppendText(out, conversion, args), true;
+    case 'c':
+    case 'C':
+        return AppendCharacter(out, conversion, args), true;
+    case 'p':
+        return AppendPointer(out, conversion, args), true;
+    default:
+        return false;
+    }
+}
+
+template <class Char>
+void FormatText(CTextBuffer<Char>& out, const Char* p, Arguments& args) {
+    while (*p != Char()) {
+        const Char* const start = p;
+        while (*p != Char() && *p != Char('%'))
+            ++p;
+        out.Append(start, static_cast<std::size_t>(p - start));
+        if (*p == Char())
+            return;
+        ++p;
+        // %% and whatever has no meaning stand for their last character.
+        if (!AppendConversion(out, ReadConversion(p, args), args))
+            out.Append(p, *p != Char() ? 1 : 0);
+        if (*p != Char())
+            ++p;
     }
 }
 
 } // namespace
 
-void CString::FormatV(LPCTSTR lpszFormat, va_list argList) {
-    std::wstring out;
+void fieldkit::detail::AfxFormatText(CTextBuffer<wchar_t>& out, const wchar_t* pszFormat, va_list argList) {
     Arguments args;
     va_copy(args.list, argList);
-    for (LPCTSTR p = lpszFormat != nullptr ? lpszFormat : L""; *p != L'\0';) {
-        if (*p != L'%') {
-            out += *p++;
-            continue;
-        }
-        ++p;
-        AppendConversion(out, ReadConversion(p, args), args);
-    }
+    FormatText(out, pszFormat, args);
     va_end(args.list);
-    m_text.swap(out);
 }
 
-void CString::AppendFormatV(LPCTSTR lpszFormat, va_list argList) {
-    CString tail;
-    tail.FormatV(lpszFormat, argList);
-    *this += tail;
-}
-
-void CString::Format(LPCTSTR lpszFormat, ...) {
-    va_list argList;
-    va_start(argList, lpszFormat);
-    FormatV(lpszFormat, argList);
-    va_end(argList);
-}
-
-#ifdef _WIN32
-void CString::Format(UINT nFormatID, ...) {
-    CString format;
-    format.LoadString(nFormatID);
-    va_list argList;
-    va_start(argList, nFormatID);
-    FormatV(format, argList);
-    va_end(argList);
-}
-#endif
-
-void CString::AppendFormat(LPCTSTR lpszFormat, ...) {
-    va_list argList;
-    va_start(argList, lpszFormat);
-    AppendFormatV(lpszFormat, argList);
-    va_end(argList);
+void fieldkit::detail::AfxFormatText(CTextBuffer<char>& out, const char* pszFormat, va_list argList) {
+    Arguments args;
+    va_copy(args.list, argList);
+    FormatText(out, pszFormat, args);
+    va_end(args.list);
 }

@@ -3,7 +3,11 @@
 #include "TextConvert.h"
 
 #include <cstdint>
+#include <cstring>
+#include <cwchar>
 #include <cwctype>
+#include <span>
+#include <strings.h>
 
 using namespace fieldkit::detail;
 
@@ -88,7 +92,7 @@ std::wstring fieldkit::detail::AfxFromUtf16(std::u16string_view text) {
     return wide;
 }
 
-std::string fieldkit::detail::AfxToUtf8(std::wstring_view text) {
+std::string fieldkit::detail::AfxNarrow(std::wstring_view text) {
     std::string bytes;
     const auto put = [&bytes](char32_t value) { bytes += static_cast<char>(value); };
     for (const wchar_t ch : text) {
@@ -114,12 +118,31 @@ std::string fieldkit::detail::AfxToUtf8(std::wstring_view text) {
     return bytes;
 }
 
-wchar_t fieldkit::detail::AfxToUpper(wchar_t ch) noexcept {
-    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
+void fieldkit::detail::AfxSystemUpper(wchar_t* text, std::size_t length) noexcept {
+    for (wchar_t& ch : std::span(text, length))
+        ch = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
 }
+
+void fieldkit::detail::AfxSystemLower(wchar_t* text, std::size_t length) noexcept {
+    for (wchar_t& ch : std::span(text, length))
+        ch = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
+}
+
+// What is left is no letter that the C locale knows.
+void fieldkit::detail::AfxSystemUpper(char* /*text*/, std::size_t /*length*/) noexcept {}
+
+void fieldkit::detail::AfxSystemLower(char* /*text*/, std::size_t /*length*/) noexcept {}
 
 wchar_t fieldkit::detail::AfxToLower(wchar_t ch) noexcept {
     return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
+}
+
+int fieldkit::detail::AfxCollate(const wchar_t* text1, const wchar_t* text2, bool ignoreCase) noexcept {
+    return ignoreCase ? wcscasecmp(text1, text2) : std::wcscoll(text1, text2);
+}
+
+int fieldkit::detail::AfxCollate(const char* text1, const char* text2, bool ignoreCase) noexcept {
+    return ignoreCase ? strcasecmp(text1, text2) : std::strcoll(text1, text2);
 }
 
 #endif

@@ -111,6 +111,7 @@ std::vector<Point> Points() {
         FAULT_POINT(WriteFile, FALSE, ERROR_DISK_FULL),
         FAULT_POINT(GetFullPathNameW, DWORD{0}, MEMORY),
         FAULT_POINT(FormatMessageA, DWORD{0}, MEMORY),
+        FAULT_POINT(FormatMessageW, DWORD{0}, MEMORY),
         FAULT_POINT(GetModuleFileNameW, DWORD{0}, MEMORY),
         FAULT_POINT(ImageList_Add, -1, MEMORY),
         FAULT_POINT(ImageList_AddMasked, -1, MEMORY),
@@ -138,9 +139,9 @@ GetBkColor GetBkMode GetClipBox GetCurrentObject GetCurrentPositionEx GetDeviceC
 GetROP2 GetRgnBox GetStockObject GetTextAlign GetTextColor GetViewportOrgEx IntersectClipRect LPtoDP LineTo
 MoveToEx PatBlt Polygon Polyline Rectangle RestoreDC SelectClipRgn SetBkColor SetBkMode SetBrushOrgEx
 SetPixel SetROP2 SetRectRgn SetStretchBltMode SetTextAlign SetTextColor SetViewportOrgEx StretchBlt TextOutW
-AcquireSRWLockExclusive AddVectoredExceptionHandler CreateEventA CreateSemaphoreA DeleteCriticalSection
+AcquireSRWLockExclusive AddVectoredExceptionHandler CompareStringA CompareStringW CreateEventA CreateSemaphoreA DeleteCriticalSection
 EnterCriticalSection FreeLibrary GetCurrentProcess GetCurrentProcessId GetCurrentThread GetCurrentThreadId
-GetHandleInformation GetLastError GetModuleHandleW GetProcAddress GetProcessAffinityMask GetStringTypeW
+GetEnvironmentVariableA GetEnvironmentVariableW GetHandleInformation GetLastError GetModuleHandleW GetProcAddress GetProcessAffinityMask GetStringTypeW
 GetSystemTimeAsFileTime GetThreadContext GetThreadPriority GetTickCount64 InitializeCriticalSection
 IsDBCSLeadByteEx IsDebuggerPresent LeaveCriticalSection LocalFree LockResource MulDiv OpenProcess
 OutputDebugStringA OutputDebugStringW RaiseException ReleaseSRWLockExclusive ReleaseSemaphore
@@ -149,7 +150,8 @@ RtlVirtualUnwind SetEvent SetLastError SetProcessAffinityMask SetThreadContext S
 SetThreadPriority SizeofResource Sleep SuspendThread TlsGetValue TlsSetValue TryEnterCriticalSection
 VirtualProtect VirtualQuery WaitForMultipleObjects WaitForSingleObject __C_specific_handler lstrcmpiW
 lstrcpynW
-AdjustWindowRectEx BringWindowToTop CallNextHookEx CallWindowProcW CharLowerBuffW CharUpperBuffW
+AdjustWindowRectEx BringWindowToTop CallNextHookEx CallWindowProcW CharLowerBuffA CharLowerBuffW
+CharToOemBuffA CharUpperBuffA CharUpperBuffW OemToCharBuffA
 CheckDlgButton CheckRadioButton ClientToScreen DefWindowProcW DestroyMenu DestroyWindow DispatchMessageW
 DrawEdge DrawFocusRect DrawFrameControl DrawIcon DrawIconEx DrawTextW EnableWindow EndDialog EndPaint
 EqualRect FillRect FrameRect GetActiveWindow GetAncestor GetCapture GetClassLongPtrW GetClassLongW

@@ -59,7 +59,11 @@ CString TextOf(const Map& map, LPCTSTR key) {
 TEST(Faults, StringsChangeWhollyOrNotAtAll) {
     const CString other = CString(kLong) + kLong;
     const Change<CString> changes[] = {
-        {"=", [&](CString& s) { s = other; }},
+        {"own copy",
+         [](CString& s) {
+             const CString twin = s;
+             s.SetAt(0, L'A');
+         }},
         {"= narrow",
          [](CString& s) { s = "a narrow text that is longer than any small string, much longer"; }},
         {"+=", [&](CString& s) { s += other; }},

@@ -1,0 +1,136 @@
+// What strings share, and the members that came with the narrow form.
+#include "support/ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+static_assert(sizeof(CString) == sizeof(void*));
+static_assert(std::is_same_v<CString, CStringT<wchar_t>> && std::is_nothrow_move_constructible_v<CString>);
+
+TEST(StringShare, ACopyKeepsItsTextWhateverHappensToTheOther) {
+    const std::pair<const char*, std::function<void(CString&)>> changes[] = {
+        {"SetAt", [](CString& s) { s.SetAt(0, L'x'); }},
+        {"GetBuffer", [](CString& s) { s.GetBuffer()[0] = L'x', s.ReleaseBuffer(); }},
+        {"ReleaseBuffer", [](CString& s) { s.ReleaseBuffer(1); }},
+        {"AppendChar", [](CString& s) { s.AppendChar(L'x'); }},
+        {"+=", [](CString& s) { s += s; }},
+        {"+ of a temporary", [](CString& s) { s = std::move(s) + L"x"; }},
+        {"MakeUpper", [](CString& s) { s.MakeUpper(); }},
+        {"MakeReverse", [](CString& s) { s.MakeReverse(); }},
+        {"Replace", [](CString& s) { s.Replace(L'a', L'b'); }},
+        {"Remove", [](CString& s) { s.Remove(L'b'); }},
+        {"Insert", [](CString& s) { s.Insert(0, L"x"); }},
+        {"Delete", [](CString& s) { s.Delete(0); }},
+        {"Trim", [](CString& s) { s.Trim(); }},
+        {"Truncate", [](CString& s) { s.Truncate(2); }},
+        {"Format", [](CString& s) { s.Format(L"<%s>", s); }},
+        {"= its own tail", [](CString& s) { s = s.GetString() + 1; }},
+        {"Preallocate", [](CString& s) { s.Preallocate(100), s.SetAt(0, L'x'); }},
+        {"LockBuffer", [](CString& s) { s.LockBuffer()[0] = L'x', s.UnlockBuffer(); }},
+    };
+    for (const auto& [what, change] : changes) {
+        SCOPED_TRACE(what);
+        const CString original = L" abcab ";
+        CString copy = original;
+        EXPECT_EQ(original.GetString(), copy.GetString());
+        change(copy);
+        EXPECT_STREQ(L" abcab ", original);
+        EXPECT_STRNE(original, copy);
+        CString(copy).SetAt(0, L'?'); // what was made is shared and given back rightly again
+    }
+}
+
+TEST(StringShare, AnOpenBufferIsNotShared) {
+    CString s = L"abc";
+    LPTSTR p = s.GetBuffer(20);
+    const CString copy = s;
+    CString assigned;
+    assigned = s;
+    p[0] = L'x';
+    EXPECT_STREQ(L"abc", copy);
+    EXPECT_STREQ(L"abc", assigned);
+    s.ReleaseBuffer();
+    EXPECT_EQ(s.GetString(), CString(s).GetString());
+    CString empty;
+    empty.GetBuffer()[0] = L'\0';
+    empty.ReleaseBuffer(99);
+    EXPECT_EQ(empty.GetAllocLength(), empty.GetLength());
+}
+
+TEST(StringShare, ThreadsMayDropAndChangeCopies) {
+    const CString shared(L'x', 100);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&shared] {
+            for (int n = 0; n < 2000; ++n) {
+                CString mine = shared;
+                const CString second = mine;
+                mine.SetAt(n % 100, L'y');
+                EXPECT_EQ(second, shared);
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(CString(L'x', 100), shared);
+}
+
+TEST(StringNarrow, HasTheSameMembers) {
+    CStringA s = "ab";
+    s += 'c';
+    s += L"d";
+    EXPECT_STREQ("abcd", s);
+    EXPECT_STREQ(L"abcd", CStringW(s));
+    EXPECT_STREQ("abcd", CStringA(CStringW(s)));
+    s.Format("%s|%S|%ls|%5.1f|%c%C", "n", L"w", L"w", 1.25, 'x', L'y');
+    EXPECT_STREQ("n|w|w|  1.2|xy", s);
+    s.AppendFormat("%s%d", CStringA("!"), 7);
+    EXPECT_STREQ("n|w|w|  1.2|xy!7", s);
+    EXPECT_EQ(0, CStringA("aBc").CompareNoCase("AbC"));
+    EXPECT_LT(CStringA("a\xC3\xA4").CompareNoCase("a\xC3\xB6"), 0);
+    EXPECT_STREQ("ABC", CStringA(" abc\t").Trim().MakeUpper());
+    EXPECT_TRUE(s != "x" && "y" != s && CStringA("b") > "a" && "a" + CStringA("b") + L'c' == "abc");
+}
+
+TEST(StringMembers, TextOfAStringIsPassedToFormats) {
+    const CString text = L"text";
+    const CStringA narrow = "narrow";
+    CString s;
+    s.Format(L"%s %S %d", text, narrow, 5);
+    EXPECT_STREQ(L"text narrow 5", s);
+    s.AppendFormat(L"/%s", s);
+    EXPECT_STREQ(L"text narrow 5/text narrow 5", s);
+    testing::internal::CaptureStderr();
+    AfxTrace("%s,", narrow);
+    AfxTrace(L"%s,", text);
+    EXPECT_EQ("narrow,text,", testing::internal::GetCapturedStderr());
+}
+
+TEST(StringMembers, DoWhatTheDocumentationSays) {
+    CString s;
+    s.SetString(L"abcdef", 4);
+    s.Truncate(9);
+    s.Append(CString(L"x"));
+    EXPECT_STREQ(L"abcdx", s);
+    s.GetBufferSetLength(8);
+    s.ReleaseBufferSetLength(3);
+    EXPECT_STREQ(L"abc", s);
+    EXPECT_LT(s.Collate(L"abd"), 0);
+    EXPECT_EQ(0, s.CollateNoCase(L"ABC"));
+    EXPECT_EQ(3, CString::StringLength(s));
+    CString::CopyCharsOverlapped(s.GetBuffer() + 1, s, 2);
+    s.ReleaseBuffer();
+    EXPECT_STREQ(L"aab", s);
+    s = reinterpret_cast<const unsigned char*>("bytes");
+    EXPECT_STREQ(L"bytes", s);
+    s.Preallocate(1000);
+    s.FreeExtra();
+    EXPECT_LT(s.GetAllocLength(), 20);
+}
+
+} // namespace
