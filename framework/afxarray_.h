@@ -5,8 +5,9 @@
 #include "afxelem_.h"
 
 #include <algorithm>
-#include <memory>
 #include <new>
+#include <stdexcept>
+#include <vector>
 
 /// A growing array. TYPE needs a default constructor and assignment. An index outside of
 /// the array throws CInvalidArgException*, want of memory CMemoryException* or what copying an
@@ -18,26 +19,26 @@ public:
     CArray() = default;
 
     /// The number of elements.
-    INT_PTR GetSize() const { return m_nSize; }
+    INT_PTR GetSize() const { return static_cast<INT_PTR>(m_slots.size()); }
     /// See GetSize.
-    INT_PTR GetCount() const { return m_nSize; }
+    INT_PTR GetCount() const { return static_cast<INT_PTR>(m_slots.size()); }
     /// Whether there is no element.
-    BOOL IsEmpty() const { return m_nSize == 0 ? TRUE : FALSE; }
+    BOOL IsEmpty() const { return m_slots.empty() ? TRUE : FALSE; }
     /// The last valid index; -1 for an empty array.
-    INT_PTR GetUpperBound() const { return m_nSize - 1; }
+    INT_PTR GetUpperBound() const { return GetSize() - 1; }
     /// New elements are value-initialised.
     /// @param nGrowBy the elements to allocate in one step from now on; 0 for an automatic
     ///   choice, -1 to leave it as it is.
     void SetSize(INT_PTR nNewSize, INT_PTR nGrowBy = -1);
     /// Gives back the memory beyond the last element.
-    void FreeExtra() { Reallocate(m_nSize); }
+    void FreeExtra() { m_slots.shrink_to_fit(); }
     /// Removes all elements and frees the memory.
     void RemoveAll() { SetSize(0); }
 
     /// The element at an index, from 0.
-    const TYPE& GetAt(INT_PTR nIndex) const { return m_pData[Check(nIndex)]; }
+    const TYPE& GetAt(INT_PTR nIndex) const { return Data()[Check(nIndex)]; }
     /// The element at an index, from 0.
-    TYPE& GetAt(INT_PTR nIndex) { return m_pData[Check(nIndex)]; }
+    TYPE& GetAt(INT_PTR nIndex) { return Data()[Check(nIndex)]; }
     /// The element at an index, from 0.
     TYPE& ElementAt(INT_PTR nIndex) { return GetAt(nIndex); }
     /// The element at an index, from 0.
@@ -49,9 +50,9 @@ public:
     /// Replaces the element at an index.
     void SetAt(INT_PTR nIndex, ARG_TYPE newElement) { GetAt(nIndex) = newElement; }
     /// NULL while nothing is allocated.
-    const TYPE* GetData() const { return m_pData.get(); }
+    const TYPE* GetData() const { return Data(); }
     /// @copydoc GetData() const
-    TYPE* GetData() { return m_pData.get(); }
+    TYPE* GetData() { return Data(); }
 
     /// Replaces the element at an index, or grows the array up to it.
     void SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement);
@@ -72,54 +73,52 @@ public:
     void Serialize(CArchive& ar) override;
 
 private:
+    // An element of its own type, because a vector of bool has none.
+    struct CSlot {
+        TYPE value;
+    };
+
     INT_PTR Check(INT_PTR nIndex) const {
-        if (nIndex < 0 || nIndex >= m_nSize)
+        if (nIndex < 0 || nIndex >= GetSize())
             AfxThrowInvalidArgException();
         return nIndex;
     }
-    void Reallocate(INT_PTR nMaxSize);
+    TYPE* Data() { return reinterpret_cast<TYPE*>(m_slots.data()); }
+    const TYPE* Data() const { return reinterpret_cast<const TYPE*>(m_slots.data()); }
+    void MakeRoom(INT_PTR nNewSize);
     template <class Fill>
     void Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill);
 
-    // Elements from m_nSize on are always TYPE(), so growing within the memory is free.
-    std::unique_ptr<TYPE[]> m_pData;
-    INT_PTR m_nSize = 0;
-    INT_PTR m_nMaxSize = 0;
+    std::vector<CSlot> m_slots;
     INT_PTR m_nGrowBy = 0;
 };
 
 template <class TYPE, class ARG_TYPE>
-void CArray<TYPE, ARG_TYPE>::Reallocate(INT_PTR nMaxSize) try {
-    std::unique_ptr<TYPE[]> pNew;
-    if (nMaxSize > 0)
-        pNew.reset(new TYPE[static_cast<std::size_t>(nMaxSize)]());
-    std::move(m_pData.get(), m_pData.get() + m_nSize, pNew.get());
-    m_pData = std::move(pNew);
-    m_nMaxSize = nMaxSize;
+void CArray<TYPE, ARG_TYPE>::MakeRoom(INT_PTR nNewSize) try {
+    const std::size_t nRoom = m_slots.capacity();
+    if (static_cast<std::size_t>(nNewSize) <= nRoom)
+        return;
+    // Doubled, so that each element moves a few times only.
+    const std::size_t nStep =
+        m_nGrowBy > 0 ? static_cast<std::size_t>(m_nGrowBy) : std::max<std::size_t>(nRoom, 4);
+    const std::size_t nLargest = m_slots.max_size();
+    m_slots.reserve(std::max(static_cast<std::size_t>(nNewSize), nRoom + std::min(nStep, nLargest - nRoom)));
 } catch (const std::bad_alloc&) {
+    AfxThrowMemoryException();
+} catch (const std::length_error&) {
     AfxThrowMemoryException();
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy) {
-    constexpr auto kLargest = static_cast<INT_PTR>(static_cast<DWORD_PTR>(-1) / 2 / sizeof(TYPE));
     if (nNewSize < 0)
         AfxThrowInvalidArgException();
-    if (nNewSize > kLargest)
-        AfxThrowMemoryException();
     if (nGrowBy >= 0)
         m_nGrowBy = nGrowBy;
-    if (nNewSize == 0) {
-        m_pData.reset();
-        m_nMaxSize = 0;
-    } else if (nNewSize > m_nMaxSize) {
-        const INT_PTR nStep = m_nGrowBy > 0 ? m_nGrowBy : m_nSize / 2;
-        const INT_PTR nRoom = kLargest - m_nMaxSize;
-        Reallocate(std::max(nNewSize, m_nMaxSize + std::min(nStep, nRoom)));
-    } else if (nNewSize < m_nSize) {
-        std::fill(m_pData.get() + nNewSize, m_pData.get() + m_nSize, TYPE());
-    }
-    m_nSize = nNewSize;
+    if (nNewSize == 0)
+        std::vector<CSlot>().swap(m_slots);
+    MakeRoom(nNewSize);
+    m_slots.resize(static_cast<std::size_t>(nNewSize));
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -127,17 +126,18 @@ template <class Fill>
 void CArray<TYPE, ARG_TYPE>::Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill) {
     if (nIndex < 0 || nCount < 0)
         AfxThrowInvalidArgException();
-    const INT_PTR nBehind = std::max<INT_PTR>(m_nSize - nIndex, 0);
-    const INT_PTR nOldSize = m_nSize;
-    if (nCount > static_cast<INT_PTR>(static_cast<DWORD_PTR>(-1) / 2) - std::max(m_nSize, nIndex))
+    const INT_PTR nOldSize = GetSize();
+    const INT_PTR nBehind = std::max<INT_PTR>(nOldSize - nIndex, 0);
+    if (nCount > static_cast<INT_PTR>(static_cast<DWORD_PTR>(-1) / 2) - std::max(nOldSize, nIndex))
         AfxThrowMemoryException();
-    SetSize(std::max(m_nSize, nIndex) + nCount);
-    TYPE* const pTail = m_pData.get() + (nOldSize - nBehind);
-    std::move_backward(pTail, pTail + nBehind, m_pData.get() + m_nSize);
+    SetSize(std::max(nOldSize, nIndex) + nCount);
+    TYPE* const pTail = Data() + (nOldSize - nBehind);
+    TYPE* const pEnd = Data() + GetSize();
+    std::move_backward(pTail, pTail + nBehind, pEnd);
     try {
-        fill(m_pData.get() + nIndex);
+        fill(Data() + nIndex);
     } catch (...) {
-        std::move(m_pData.get() + (m_nSize - nBehind), m_pData.get() + m_nSize, pTail);
+        std::move(pEnd - nBehind, pEnd, pTail);
         SetSize(nOldSize);
         throw;
     }
@@ -145,7 +145,7 @@ void CArray<TYPE, ARG_TYPE>::Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill) {
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement) {
-    if (nIndex >= m_nSize)
+    if (nIndex >= GetSize())
         InsertAt(nIndex, newElement);
     else
         SetAt(nIndex, newElement);
@@ -153,15 +153,21 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement) {
 
 template <class TYPE, class ARG_TYPE>
 INT_PTR CArray<TYPE, ARG_TYPE>::Add(ARG_TYPE newElement) {
-    InsertAt(m_nSize, newElement);
-    return m_nSize - 1;
+    if (m_slots.size() == m_slots.capacity()) {
+        TYPE copy(newElement); // it may be an element of this array
+        MakeRoom(GetSize() + 1);
+        m_slots.push_back(CSlot{std::move(copy)});
+    } else {
+        m_slots.push_back(CSlot{TYPE(newElement)});
+    }
+    return GetSize() - 1;
 }
 
 template <class TYPE, class ARG_TYPE>
 INT_PTR CArray<TYPE, ARG_TYPE>::Append(const CArray& src) {
-    const INT_PTR nOldSize = m_nSize;
-    const INT_PTR nCount = src.m_nSize; // src may be this array
-    Insert(nOldSize, nCount, [&](TYPE* pGap) { std::copy_n(src.m_pData.get(), nCount, pGap); });
+    const INT_PTR nOldSize = GetSize();
+    const INT_PTR nCount = src.GetSize(); // src may be this array
+    Insert(nOldSize, nCount, [&](TYPE* pGap) { std::copy_n(src.Data(), nCount, pGap); });
     return nOldSize;
 }
 
@@ -171,9 +177,7 @@ void CArray<TYPE, ARG_TYPE>::Copy(const CArray& src) {
         return;
     CArray copy;
     copy.Append(src);
-    std::swap(m_pData, copy.m_pData);
-    std::swap(m_nMaxSize, copy.m_nMaxSize);
-    m_nSize = copy.m_nSize;
+    m_slots.swap(copy.m_slots);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -186,26 +190,24 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nStartIndex, const CArray* pNewArray) {
     if (pNewArray == nullptr || pNewArray == this)
         AfxThrowInvalidArgException();
-    if (pNewArray->m_nSize == 0)
+    if (pNewArray->IsEmpty())
         return;
-    Insert(nStartIndex, pNewArray->m_nSize,
-           [&](TYPE* pGap) { std::copy_n(pNewArray->m_pData.get(), pNewArray->m_nSize, pGap); });
+    Insert(nStartIndex, pNewArray->GetSize(),
+           [&](TYPE* pGap) { std::copy_n(pNewArray->Data(), pNewArray->GetSize(), pGap); });
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount) {
-    if (nIndex < 0 || nCount < 0 || nCount > m_nSize - nIndex)
+    if (nIndex < 0 || nCount < 0 || nCount > GetSize() - nIndex)
         AfxThrowInvalidArgException();
-    TYPE* const pFirst = m_pData.get() + nIndex;
-    if (nCount > 0)
-        std::move(pFirst + nCount, m_pData.get() + m_nSize, pFirst);
-    SetSize(m_nSize - nCount);
+    const auto itFirst = m_slots.begin() + nIndex;
+    m_slots.erase(itFirst, itFirst + nCount);
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Serialize(CArchive& ar) {
     constexpr INT_PTR kStep = 1024; // a count in a damaged file must not fill the memory
-    auto nLeft = static_cast<DWORD_PTR>(m_nSize);
+    auto nLeft = static_cast<DWORD_PTR>(GetSize());
     if (ar.IsStoring()) {
         ar.WriteCount(nLeft);
     } else {
@@ -216,7 +218,7 @@ void CArray<TYPE, ARG_TYPE>::Serialize(CArchive& ar) {
         const INT_PTR nCount = nLeft < kStep ? static_cast<INT_PTR>(nLeft) : kStep;
         if (ar.IsLoading())
             SetSize(nDone + nCount);
-        SerializeElements<TYPE>(ar, m_pData.get() + nDone, nCount);
+        SerializeElements<TYPE>(ar, Data() + nDone, nCount);
         nDone += nCount;
         nLeft -= static_cast<DWORD_PTR>(nCount);
     }

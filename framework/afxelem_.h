@@ -14,11 +14,11 @@ BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pElement2) {
     return *pElement1 == *pElement2 ? TRUE : FALSE;
 }
 
-/// Stores or loads `nCount` elements: plain data byte by byte, others with << and >>.
+/// Stores or loads `nCount` elements: plain data byte by byte, objects and others with << and >>.
 /// Collections may call it several times for one file, in the same steps both ways.
 template <class TYPE>
 void AFXAPI SerializeElements(CArchive& ar, TYPE* pElements, INT_PTR nCount) {
-    if constexpr (std::is_trivially_copyable_v<TYPE>) {
+    if constexpr (std::is_trivially_copyable_v<TYPE> && !std::is_same_v<TYPE, CObject*>) {
         const UINT nBytes = static_cast<UINT>(nCount * static_cast<INT_PTR>(sizeof(TYPE)));
         if (ar.IsStoring())
             ar.Write(pElements, nBytes);
@@ -42,6 +42,11 @@ UINT AFXAPI HashKey(ARG_KEY key) {
         UINT nHash = 2166136261U; // FNV-1a
         for (LPCTSTR p = key; *p != L'\0'; ++p)
             nHash = (nHash ^ static_cast<UINT>(*p)) * 16777619U;
+        return nHash;
+    } else if constexpr (std::is_convertible_v<ARG_KEY, LPCSTR>) {
+        UINT nHash = 2166136261U;
+        for (LPCSTR p = key; *p != '\0'; ++p)
+            nHash = (nHash ^ static_cast<BYTE>(*p)) * 16777619U;
         return nHash;
     } else if constexpr (std::is_pointer_v<Key>) {
         return static_cast<UINT>(reinterpret_cast<DWORD_PTR>(key) >> 4);
