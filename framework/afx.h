@@ -8,3 +8,6 @@
 #include "afxerr_.h"
 #include "afxfile_.h"
 #include "afxarc_.h"
+#include "afxtime_.h"
+#include "afxstat_.h"
+#include "afxstdio_.h"

@@ -6,6 +6,9 @@
 #include "afxstr.h"
 
 class CFileException;
+#ifdef _WIN32
+struct CFileStatus;
+#endif
 
 /// A binary file of the system, unbuffered. Failures throw CFileException* unless the
 /// function says otherwise. On a file that is not open, operations throw invalidFile.
@@ -33,6 +36,16 @@ public:
         osWriteThrough = 0x20000,
         osRandomAccess = 0x40000,
         osSequentialScan = 0x80000
+    };
+    /// Combined with |: what CFileStatus says of a file.
+    enum Attribute {
+        normal = 0,
+        readOnly = 1,
+        hidden = 2,
+        system = 4,
+        volume = 8,
+        directory = 16,
+        archive = 32
     };
     /// What Seek counts from.
     enum SeekPosition { begin = 0, current = 1, end = 2 };
@@ -105,6 +118,18 @@ public:
     static void AFXAPI Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
     static void AFXAPI Remove(LPCTSTR lpszFileName);
     ///@}
+
+#ifdef _WIN32
+    /// Times, size, attributes and full name of the open file, and of a file by its name.
+    /// @return zero, with the status as it was, if there is none.
+    ///@{
+    BOOL GetStatus(CFileStatus& rStatus) const;
+    static BOOL AFXAPI GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
+    ///@}
+    /// Sets attributes and times of a file; a time that is the default one stays as it is. Throws
+    /// CFileException* if that fails.
+    static void AFXAPI SetStatus(LPCTSTR lpszFileName, const CFileStatus& status);
+#endif
 
     HANDLE m_hFile = hFileNull; ///< The open file, or hFileNull.
 

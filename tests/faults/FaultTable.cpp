@@ -112,6 +112,10 @@ std::vector<Point> Points() {
         FAULT_POINT(GetFullPathNameW, DWORD{0}, MEMORY),
         FAULT_POINT(FormatMessageA, DWORD{0}, MEMORY),
         FAULT_POINT(FormatMessageW, DWORD{0}, MEMORY),
+        FAULT_POINT(GetFileAttributesExW, FALSE, ERROR_NOT_READY),
+        FAULT_POINT(GetFileInformationByHandle, FALSE, ERROR_NOT_READY),
+        FAULT_POINT(SetFileAttributesW, FALSE, ERROR_ACCESS_DENIED),
+        FAULT_POINT(SetFileTime, FALSE, ERROR_ACCESS_DENIED),
         FAULT_POINT(GetModuleFileNameW, DWORD{0}, MEMORY),
         FAULT_POINT(ImageList_Add, -1, MEMORY),
         FAULT_POINT(ImageList_AddMasked, -1, MEMORY),
@@ -143,7 +147,7 @@ AcquireSRWLockExclusive AddVectoredExceptionHandler CompareStringA CompareString
 EnterCriticalSection FreeLibrary GetCurrentProcess GetCurrentProcessId GetCurrentThread GetCurrentThreadId
 GetEnvironmentVariableA GetEnvironmentVariableW GetHandleInformation GetLastError GetModuleHandleW GetProcAddress GetProcessAffinityMask GetStringTypeW
 GetSystemTimeAsFileTime GetThreadContext GetThreadPriority GetTickCount64 InitializeCriticalSection
-IsDBCSLeadByteEx IsDebuggerPresent LeaveCriticalSection LocalFree LockResource MulDiv OpenProcess
+IsDBCSLeadByte IsDBCSLeadByteEx IsDebuggerPresent LeaveCriticalSection LocalFree LockResource MulDiv OpenProcess
 OutputDebugStringA OutputDebugStringW RaiseException ReleaseSRWLockExclusive ReleaseSemaphore
 RemoveVectoredExceptionHandler ResetEvent ResumeThread RtlCaptureContext RtlLookupFunctionEntry RtlUnwindEx
 RtlVirtualUnwind SetEvent SetLastError SetProcessAffinityMask SetThreadContext SetThreadErrorMode
