@@ -11,3 +11,5 @@
 #include "afxtime_.h"
 #include "afxstat_.h"
 #include "afxstdio_.h"
+#include "afxtry_.h"
+#include "afxdump_.h"

@@ -60,6 +60,21 @@ public:
     /// Lets go of the file without flushing; throws nothing.
     void Abort() noexcept;
 
+    /// Whether the next load or store needs the file.
+    BOOL IsBufferEmpty() const { return m_lpBufCur == m_lpBufMax ? TRUE : FALSE; }
+    /// Stores the characters of a text, 2 bytes each, without its length.
+    void WriteString(LPCTSTR lpsz);
+    /// Loads what WriteString stored, up to and with a \n, or `nMax` - 1 characters.
+    /// @return NULL at the end of the file.
+    LPTSTR ReadString(LPTSTR lpsz, UINT nMax);
+    /// The same without the \n and without limit. @return zero at the end of the file.
+    BOOL ReadString(CString& rString);
+    /// Taken for compatibility: tables grow as they must.
+    ///@{
+    void SetLoadParams(UINT /*nGrowBy*/ = 1024) {}
+    void SetStoreParams(UINT /*nHashSize*/ = 2053, UINT /*nBlockSize*/ = 128) {}
+    ///@}
+
     /// Stores a count in 2 bytes, or from 0xFFFF on in 6.
     void WriteCount(DWORD_PTR dwCount);
     /// Loads what WriteCount stored.
@@ -128,8 +143,6 @@ public:
     /// A literal would otherwise be stored as a bool: make it a CString.
     CArchive& operator<<(const void*) = delete;
 
-    friend AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CString& string);
-    friend AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CString& string);
     friend AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);
     friend AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CObject*& pOb);
 
@@ -145,6 +158,8 @@ private:
     void StoreValue(Value value);
     template <class Value>
     void LoadValue(Value& value);
+    template <class Put>
+    bool ReadLine(UINT nMax, Put put);
     void CheckMode(UINT nMode) const;
     void ReadAll(void* lpBuf, UINT nCount);
     bool FillBuffer();
@@ -165,9 +180,15 @@ private:
 };
 
 /// Stores the text with its length.
-AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CString& string);
+///@{
+AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CStringW& string);
+AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CStringA& string);
+///@}
 /// Loads wide and narrow text. Throws badIndex for a length that no string can have.
-AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CString& string);
+///@{
+AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CStringW& string);
+AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CStringA& string);
+///@}
 /// WriteObject and ReadObject as operators.
 ///@{
 AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);

@@ -21,6 +21,12 @@ public:
     /// @param pnHelpContext receives 0 if given.
     /// @return zero, with an empty text, if there is no text for this exception.
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) const;
+#ifdef _WIN32
+    /// Tells the user in a message box.
+    /// @param nType style of the box @param nMessageID text for an exception that has none; 0 for a
+    ///   general one @return the button
+    virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
+#endif
 
 private:
     BOOL m_bAutoDelete = TRUE;

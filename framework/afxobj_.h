@@ -5,6 +5,7 @@
 #include "afxstr.h"
 
 class CArchive;
+class CDumpContext;
 class CObject;
 
 /// A place in a collection; NULL for none.
@@ -72,6 +73,8 @@ public:
     virtual void Serialize(CArchive& ar);
     /// Checks the object in a debug program; override it. Here: nothing.
     virtual void AssertValid() const;
+    /// Writes the object's members for whoever debugs; override it. Here: class and address.
+    virtual void Dump(CDumpContext& dc) const;
 
     static CRuntimeClass classCObject; ///< The class information of CObject itself.
     /// The base class of CObject: none.
@@ -147,6 +150,9 @@ AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObje
 /// The object as a pointer to the class; NULL if it is not of that kind.
 #define DYNAMIC_DOWNCAST(class_name, object)                                                                 \
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+
+/// Names where memory comes from, in older debug programs: here plain new.
+#define DEBUG_NEW new
 
 /// Reports a failed assertion and ends the program.
 [[noreturn]] AFX_CORE void AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);

@@ -84,3 +84,22 @@ using LPRECT = RECT*;
 using LPCRECT = const RECT*;
 
 #endif
+
+#include <type_traits>
+
+// Programs of the field expect the classic headers' min and max. As macros they would break the
+// standard library's headers; as functions they take mixed numbers like the macros, and std::min
+// and std::max are preferred where a program has both in reach.
+/// The smaller and the larger of two values, in the type that both convert to.
+///@{
+template <class A, class B>
+constexpr std::common_type_t<A, B> min(const A& a, const B& b) {
+    using Common = std::common_type_t<A, B>;
+    return static_cast<Common>(b) < static_cast<Common>(a) ? static_cast<Common>(b) : static_cast<Common>(a);
+}
+template <class A, class B>
+constexpr std::common_type_t<A, B> max(const A& a, const B& b) {
+    using Common = std::common_type_t<A, B>;
+    return static_cast<Common>(a) < static_cast<Common>(b) ? static_cast<Common>(b) : static_cast<Common>(a);
+}
+///@}

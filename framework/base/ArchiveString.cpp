@@ -2,6 +2,7 @@
 #include "TextConvert.h"
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 
 using namespace fieldkit::detail;
@@ -60,43 +61,93 @@ TextHead LoadHead(CArchive& ar) {
     }
 }
 
+// In pieces, so that a length in a damaged file does not fill the memory.
 template <class Unit>
-std::basic_string<Unit> LoadBytes(CArchive& ar, DWORD length) {
+std::basic_string<Unit> LoadUnits(CArchive& ar, DWORD length) {
     std::basic_string<Unit> text;
-    BYTE bytes[kStep];
-    for (auto left = static_cast<DWORD>(length * sizeof(Unit)); left != 0;) {
-        const UINT count = std::min<UINT>(left, kStep);
-        if (ar.Read(bytes, count) != count)
+    while (text.size() < length) {
+        const std::size_t done = text.size();
+        const std::size_t count = std::min<std::size_t>(length - done, std::max<std::size_t>(kStep, done));
+        text.resize(done + count);
+        const auto bytes = static_cast<UINT>(count * sizeof(Unit));
+        if (ar.Read(text.data() + done, bytes) != bytes)
             Fail(ar, CArchiveException::endOfFile);
-        for (UINT i = 0; i < count; i += sizeof(Unit)) {
-            unsigned unit = bytes[i];
-            if constexpr (sizeof(Unit) == 2)
-                unit |= static_cast<unsigned>(bytes[i + 1] << 8);
-            text += static_cast<Unit>(unit);
-        }
-        left -= count;
     }
     return text;
 }
 
 } // namespace
 
-CArchive& AFXAPI operator<<(CArchive& ar, const CString& string) {
-    const std::u16string units =
-        AfxToUtf16({string.GetString(), static_cast<std::size_t>(string.GetLength())});
+// Both kinds of processors that this is built for keep the low byte first, as the file does.
+static_assert(std::endian::native == std::endian::little);
+
+CArchive& AFXAPI operator<<(CArchive& ar, const CStringW& string) {
+    const std::wstring_view text(string.GetString(), static_cast<std::size_t>(string.GetLength()));
     ar << kLongMark << kWideMark;
+#ifdef _WIN32
+    const std::wstring_view units = text;
+#else
+    const std::u16string units = AfxToUtf16(text);
+#endif
     StoreLength(ar, static_cast<DWORD>(units.size()));
-    for (const char16_t unit : units)
-        ar << static_cast<WORD>(unit);
+    ar.Write(units.data(), static_cast<UINT>(units.size() * 2));
     return ar;
 }
 
-CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
+CArchive& AFXAPI operator<<(CArchive& ar, const CStringA& string) {
+    StoreLength(ar, static_cast<DWORD>(string.GetLength()));
+    ar.Write(string.GetString(), static_cast<UINT>(string.GetLength()));
+    return ar;
+}
+
+CArchive& AFXAPI operator>>(CArchive& ar, CStringW& string) {
     const TextHead head = LoadHead(ar);
     if (head.length > static_cast<DWORD>(std::numeric_limits<int>::max()))
         Fail(ar, CArchiveException::badIndex);
-    const std::wstring text = head.wide ? AfxFromUtf16(LoadBytes<char16_t>(ar, head.length))
-                                        : AfxWiden(LoadBytes<char>(ar, head.length));
-    string = CString(text.data(), static_cast<int>(text.size()));
+    const std::wstring text = head.wide ? AfxFromUtf16(LoadUnits<char16_t>(ar, head.length))
+                                        : AfxWiden(LoadUnits<char>(ar, head.length));
+    string.SetString(text.data(), static_cast<int>(text.size()));
     return ar;
+}
+
+CArchive& AFXAPI operator>>(CArchive& ar, CStringA& string) {
+    CStringW wide;
+    ar >> wide;
+    string = wide;
+    return ar;
+}
+
+void CArchive::WriteString(LPCTSTR lpsz) {
+    for (const char16_t unit : AfxToUtf16(lpsz != nullptr ? lpsz : L""))
+        *this << static_cast<WORD>(unit);
+}
+
+/// Hands out a line unit by unit, its end included. @return false at the end of the file
+template <class Put>
+bool CArchive::ReadLine(UINT nMax, Put put) {
+    UINT nDone = 0;
+    BYTE unit[2];
+    for (wchar_t last = L'\0'; nDone < nMax && last != L'\n' && Read(unit, 2) == 2; ++nDone)
+        put(last = static_cast<wchar_t>(unit[0] | unit[1] << 8));
+    return nDone != 0;
+}
+
+LPTSTR CArchive::ReadString(LPTSTR lpsz, UINT nMax) {
+    if (lpsz == nullptr || nMax == 0)
+        AfxThrowInvalidArgException();
+    LPTSTR p = lpsz;
+    if (!ReadLine(nMax - 1, [&](wchar_t ch) { *p++ = ch; }))
+        return nullptr;
+    *p = L'\0';
+    return lpsz;
+}
+
+BOOL CArchive::ReadString(CString& rString) {
+    std::u16string units;
+    const bool bAny =
+        ReadLine(static_cast<UINT>(-1), [&](wchar_t ch) { units += static_cast<char16_t>(ch); });
+    if (!units.empty() && units.back() == u'\n')
+        units.pop_back();
+    rString = AfxFromUtf16(units).c_str();
+    return bAny ? TRUE : FALSE;
 }

@@ -69,6 +69,10 @@ void CObject::Serialize(CArchive& /*ar*/) {}
 
 void CObject::AssertValid() const {}
 
+void CObject::Dump(CDumpContext& dc) const {
+    dc << "a " << GetRuntimeClass()->m_lpszClassName << " at " << static_cast<const void*>(this) << "\n";
+}
+
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
     return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
 }

@@ -1,0 +1,13 @@
+// What an exception tells the user.
+#include "afxwin.h"
+
+int CException::ReportError(UINT nType, UINT nMessageID) {
+    constexpr UINT MAX_TEXT = 512;
+    TCHAR szText[MAX_TEXT];
+    if (GetErrorMessage(szText, MAX_TEXT))
+        return AfxMessageBox(szText, nType);
+    CString strText;
+    if (nMessageID == 0 || !strText.LoadString(nMessageID))
+        strText = _T("An unknown error occurred.");
+    return AfxMessageBox(strText, nType);
+}
