@@ -5,6 +5,8 @@
 #include "afxsend_.h"
 #include "afxwnd_.h"
 
+#include <commctrl.h>
+
 /// A list box. Items count from 0; LB_ERR stands for none and for failure.
 class AFX_CORE CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)
@@ -116,6 +118,8 @@ public:
         return AfxSendInt(m_hWnd, LB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0));
     }
     ///@}
+    /// How many items there are in a column of a list with several.
+    DWORD GetListBoxInfo() const { return ::GetListBoxInfo(m_hWnd); }
     /// @param pt client coordinates @return the nearest item
     UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
     /// Tab stops in dialog units: the default, one distance for all, or each.
@@ -264,9 +268,23 @@ public:
     int SetItemHeight(int nIndex, UINT cyItemHeight) {
         return AfxSendInt(m_hWnd, CB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0));
     }
-    /// Windows and places of the parts; cbSize is set here.
     ///@}
+    /// Windows and places of the parts; cbSize is set here.
     BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const;
+    /// A text that an empty edit part shows in grey.
+    ///@{
+    BOOL SetCueBanner(LPCTSTR lpszText) { return AfxSendPointer(m_hWnd, CB_SETCUEBANNER, 0, lpszText); }
+    BOOL GetCueBanner(LPTSTR lpszText, int cchText) const {
+        return AfxSendInt(m_hWnd, CB_GETCUEBANNER, reinterpret_cast<WPARAM>(lpszText), cchText);
+    }
+    ///@}
+    /// How many items the list shows at least when it drops down.
+    ///@{
+    int GetMinVisible() const { return AfxSendInt(m_hWnd, CB_GETMINVISIBLE); }
+    BOOL SetMinVisibleItems(int iMinVisible) {
+        return AfxSendInt(m_hWnd, CB_SETMINVISIBLE, static_cast<WPARAM>(iMinVisible));
+    }
+    ///@}
     /// Locale of the sort order.
     LCID GetLocale() const { return static_cast<LCID>(AfxSendInt(m_hWnd, CB_GETLOCALE)); }
     /// Sets the locale of the sort order. @return the previous one, CB_ERR on failure

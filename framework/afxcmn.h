@@ -1,5 +1,5 @@
 /// @file
-/// The common controls: image lists, list view, tree view, spin button.
+/// The common controls.
 ///
 /// A member function that is one message to the control means what that message means;
 /// what a control answers on failure is its result.
@@ -17,6 +17,10 @@ constexpr UINT NM_RECOGNIZEGESTURE = NM_FIRST - 16U;
 #include "afximl_.h"
 #include "afxlv_.h"
 #include "afxtv_.h"
+#include "afxbar_.h"
+#include "afxtab_.h"
+#include "afxpos_.h"
+#include "afxdt_.h"
 
 /// A pair of arrows that count a position up and down, usually that of the entry field at
 /// its side (its buddy).

@@ -8,6 +8,8 @@
 #include "afxsend_.h"
 #include "afxwnd_.h"
 
+#include <commctrl.h>
+
 /// A static text, icon or bitmap.
 class AFX_CORE CStatic : public CWnd {
     DECLARE_DYNAMIC(CStatic)
@@ -26,6 +28,18 @@ public:
     HBITMAP SetBitmap(HBITMAP hBitmap) { return AfxSendHandle(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
     /// The bitmap shown; null for none.
     HBITMAP GetBitmap() const { return AfxSendHandle(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP, HBITMAP()); }
+
+    /// As SetIcon, for a cursor and for a metafile.
+    ///@{
+    HCURSOR SetCursor(HCURSOR hCursor) { return AfxSendHandle(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, hCursor); }
+    HCURSOR GetCursor() const { return AfxSendHandle(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR, HCURSOR()); }
+    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE hMetaFile) {
+        return AfxSendHandle(m_hWnd, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
+    }
+    HENHMETAFILE GetEnhMetaFile() const {
+        return AfxSendHandle(m_hWnd, STM_GETIMAGE, IMAGE_ENHMETAFILE, HENHMETAFILE());
+    }
+    ///@}
 
     /// Draws an SS_OWNERDRAW static; override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
@@ -65,6 +79,28 @@ public:
     HBITMAP SetBitmap(HBITMAP hBitmap) { return AfxSendHandle(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
     /// The bitmap shown; null for none.
     HBITMAP GetBitmap() const { return AfxSendHandle(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP, HBITMAP()); }
+
+    /// As SetIcon, for a cursor.
+    ///@{
+    HCURSOR SetCursor(HCURSOR hCursor) { return AfxSendHandle(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor); }
+    HCURSOR GetCursor() const { return AfxSendHandle(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR, HCURSOR()); }
+    ///@}
+    /// What the system's newer buttons can. @return FALSE on failure
+    ///@{
+    BOOL GetIdealSize(LPSIZE psize) const { return AfxSendPointer(m_hWnd, BCM_GETIDEALSIZE, 0, psize); }
+    BOOL SetTextMargin(LPRECT pmargin) { return AfxSendPointer(m_hWnd, BCM_SETTEXTMARGIN, 0, pmargin); }
+    BOOL GetTextMargin(LPRECT pmargin) const { return AfxSendPointer(m_hWnd, BCM_GETTEXTMARGIN, 0, pmargin); }
+    BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist) {
+        return AfxSendPointer(m_hWnd, BCM_SETIMAGELIST, 0, pbuttonImagelist);
+    }
+    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const {
+        return AfxSendPointer(m_hWnd, BCM_GETIMAGELIST, 0, pbuttonImagelist);
+    }
+    BOOL SetShield(BOOL fElevationRequired) {
+        return AfxSendInt(m_hWnd, BCM_SETSHIELD, 0, fElevationRequired);
+    }
+    BOOL SetNote(LPCTSTR lpszNote) { return AfxSendPointer(m_hWnd, BCM_SETNOTE, 0, lpszNote); }
+    ///@}
 
     /// Draws a BS_OWNERDRAW button; override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
@@ -112,6 +148,34 @@ public:
     }
     void SetPasswordChar(TCHAR ch) { AfxSendInt(m_hWnd, EM_SETPASSWORDCHAR, ch); }
     TCHAR GetPasswordChar() const { return static_cast<TCHAR>(AfxSendInt(m_hWnd, EM_GETPASSWORDCHAR)); }
+    ///@}
+
+    /// The memory of a multi-line field's text.
+    ///@{
+    HLOCAL GetHandle() const { return AfxSendHandle(m_hWnd, EM_GETHANDLE, 0, HLOCAL()); }
+    void SetHandle(HLOCAL hBuffer) {
+        ::SendMessage(m_hWnd, EM_SETHANDLE, reinterpret_cast<WPARAM>(hBuffer), 0);
+    }
+    ///@}
+    /// A text that an empty field shows in grey. @param fDrawIfFocused TRUE: with the focus, too
+    ///@{
+    BOOL SetCueBanner(LPCWSTR lpszText, BOOL fDrawIfFocused = FALSE) {
+        return AfxSendPointer(m_hWnd, EM_SETCUEBANNER, static_cast<WPARAM>(fDrawIfFocused), lpszText);
+    }
+    BOOL GetCueBanner(LPWSTR lpszText, int cchText) const {
+        return AfxSendInt(m_hWnd, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(lpszText), cchText);
+    }
+    ///@}
+    /// A balloon at the field that tells the user something about it.
+    ///@{
+    BOOL ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip) {
+        return AfxSendPointer(m_hWnd, EM_SHOWBALLOONTIP, 0, pEditBalloonTip);
+    }
+    BOOL ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon = TTI_NONE) {
+        EDITBALLOONTIP tip = {sizeof tip, lpszTitle, lpszText, ttiIcon};
+        return ShowBalloonTip(&tip);
+    }
+    BOOL HideBalloonTip() { return AfxSendInt(m_hWnd, EM_HIDEBALLOONTIP); }
     ///@}
 
     // --- Clipboard and undo ------------------------------------------------------------
@@ -222,4 +286,8 @@ public:
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
     /// @return the largest position that the thumb can reach
     int GetScrollLimit();
+    /// @param pScrollInfo cbSize to be set by the caller
+    BOOL GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const {
+        return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, pScrollInfo);
+    }
 };

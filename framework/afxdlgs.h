@@ -2,7 +2,7 @@
 /// Property sheets and their pages.
 #pragma once
 
-#include "afxwin.h"
+#include "afxcmn.h"
 
 #include <prsht.h>
 
@@ -161,7 +161,9 @@ public:
     /// @param nStyle PSH_PROPTITLE or 0
     void SetTitle(LPCTSTR lpszText, UINT nStyle = 0);
     /// The row of tabs; null before there is a window.
-    CWnd* GetTabControl() const { return GetDlgItem(static_cast<int>(AFX_IDC_TAB_CONTROL)); }
+    CTabCtrl* GetTabControl() const {
+        return static_cast<CTabCtrl*>(GetDlgItem(static_cast<int>(AFX_IDC_TAB_CONTROL)));
+    }
     /// @param nButton PSBTN_...; it is pressed when the sheet next handles its messages
     void PressButton(int nButton);
     /// Call it before DoModal.

@@ -49,6 +49,10 @@ public:
     BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
     /// The same with the bitmap's name.
     BOOL Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask);
+    /// One image out of two, the second moved by (dx, dy) and laid over the first.
+    BOOL Create(CImageList& imagelist1, int nImage1, CImageList& imagelist2, int nImage2, int dx, int dy) {
+        return Attach(::ImageList_Merge(imagelist1, nImage1, imagelist2, nImage2, dx, dy));
+    }
     /// A copy of another list.
     BOOL Create(CImageList* pImageList);
     /// @return FALSE if there is no list.
@@ -74,6 +78,15 @@ public:
     int Replace(int nImage, HICON hIcon) { return ::ImageList_ReplaceIcon(m_hImageList, nImage, hIcon); }
     /// @return a new icon, which the caller destroys; null on failure
     HICON ExtractIcon(int nImage) { return ::ImageList_GetIcon(m_hImageList, nImage, ILD_NORMAL); }
+    /// Copies an image within the list, or (ILCF_SWAP) exchanges both; or copies from another list.
+    ///@{
+    BOOL Copy(int iDst, int iSrc, UINT uFlags = ILCF_MOVE) {
+        return ::ImageList_Copy(m_hImageList, iDst, m_hImageList, iSrc, uFlags);
+    }
+    BOOL Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags = ILCF_MOVE) {
+        return ::ImageList_Copy(m_hImageList, iDst, pSrc->m_hImageList, iSrc, uFlags);
+    }
+    ///@}
     /// @param pImageInfo its bitmaps stay the list's
     BOOL GetImageInfo(int nImage, IMAGEINFO* pImageInfo) const {
         return ::ImageList_GetImageInfo(m_hImageList, nImage, pImageInfo);
@@ -86,11 +99,44 @@ public:
     // --- Drawing ------------------------------------------------------------------------
     /// @param pt     upper left corner @param nStyle ILD_...
     BOOL Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle);
+    /// @param sz the part that is drawn; 0 is all of the image
+    BOOL DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk, COLORREF clrFg, UINT nStyle) {
+        return ::ImageList_DrawEx(m_hImageList, nImage, pDC->m_hDC, pt.x, pt.y, sz.cx, sz.cy, clrBk, clrFg,
+                                  nStyle);
+    }
+    /// The structure's list and size are set here.
+    BOOL DrawIndirect(IMAGELISTDRAWPARAMS* pimldp);
     /// @param cr what masked images are drawn on; CLR_NONE is transparent
     /// @return the previous colour
     COLORREF SetBkColor(COLORREF cr) { return ::ImageList_SetBkColor(m_hImageList, cr); }
     /// What masked images are drawn on; CLR_NONE is transparent.
     COLORREF GetBkColor() const { return ::ImageList_GetBkColor(m_hImageList); }
+
+    // --- Dragging: one image at a time -----------------------------------------------------
+    /// @param ptHotSpot where in the image the pen holds it
+    ///@{
+    BOOL BeginDrag(int nImage, CPoint ptHotSpot) {
+        return ::ImageList_BeginDrag(m_hImageList, nImage, ptHotSpot.x, ptHotSpot.y);
+    }
+    BOOL SetDragCursorImage(int nDrag, CPoint ptHotSpot) {
+        return ::ImageList_SetDragCursorImage(m_hImageList, nDrag, ptHotSpot.x, ptHotSpot.y);
+    }
+    static void EndDrag() { ::ImageList_EndDrag(); }
+    ///@}
+    /// Shows or hides the image on a window, which must not draw meanwhile; null is the screen.
+    /// @param point from the window's corner, its frame included
+    ///@{
+    static BOOL DragEnter(CWnd* pWndLock, CPoint point) {
+        return ::ImageList_DragEnter(pWndLock->GetSafeHwnd(), point.x, point.y);
+    }
+    static BOOL DragMove(CPoint pt) { return ::ImageList_DragMove(pt.x, pt.y); }
+    static BOOL DragLeave(CWnd* pWndLock) { return ::ImageList_DragLeave(pWndLock->GetSafeHwnd()); }
+    static BOOL DragShowNolock(BOOL bShow) { return ::ImageList_DragShowNolock(bShow); }
+    ///@}
+    /// The image being dragged, a temporary object. @param lpPoint, lpPointHotSpot may be null
+    static CImageList* GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotSpot) {
+        return FromHandle(::ImageList_GetDragImage(lpPoint, lpPointHotSpot));
+    }
 
 private:
     CImageList(const CImageList&) = delete;

@@ -4,6 +4,9 @@
 
 #include "afximl_.h"
 
+class CHeaderCtrl;
+class CToolTipCtrl;
+
 /// A list view. Items, sub-items and columns count from 0; -1 stands for none and for
 /// failure; sub-item 0 is the item itself.
 class AFX_CORE CListCtrl : public CWnd {
@@ -43,6 +46,20 @@ public:
     BOOL SetColumnWidth(int nCol, int cx) {
         return AfxSendInt(m_hWnd, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(nCol), MAKELPARAM(cx, 0));
     }
+    /// The columns in the order of the screen. iCount -1 is all.
+    ///@{
+    BOOL GetColumnOrderArray(LPINT piArray, int iCount = -1) const;
+    BOOL SetColumnOrderArray(int iCount, LPINT piArray) {
+        return AfxSendPointer(m_hWnd, LVM_SETCOLUMNORDERARRAY, static_cast<WPARAM>(iCount), piArray);
+    }
+    ///@}
+    /// The titles above the columns; null for none.
+    CHeaderCtrl* GetHeaderCtrl() const;
+    /// The column that is shown as selected.
+    ///@{
+    UINT GetSelectedColumn() const { return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_GETSELECTEDCOLUMN)); }
+    void SetSelectedColumn(int iCol) { AfxSendInt(m_hWnd, LVM_SETSELECTEDCOLUMN, static_cast<WPARAM>(iCol)); }
+    ///@}
     /// Width of a text in the control's font, pixels.
     int GetStringWidth(LPCTSTR lpsz) const { return AfxSendPointer(m_hWnd, LVM_GETSTRINGWIDTH, 0, lpsz); }
 
@@ -93,6 +110,17 @@ public:
     /// @param pfnCompare negative if its first item shall stand before its second; it is
     ///   given the items' data and then dwData
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
+    /// The same, but the function is given the items' places instead of their data.
+    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
+        return AfxSendInt(m_hWnd, LVM_SORTITEMSEX, dwData, reinterpret_cast<LPARAM>(pfnCompare));
+    }
+    /// A number that stays with an item wherever it goes, and back.
+    ///@{
+    UINT MapIndexToID(UINT index) const {
+        return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_MAPINDEXTOID, index));
+    }
+    UINT MapIDToIndex(UINT id) const { return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_MAPIDTOINDEX, id)); }
+    ///@}
     /// @param nStart the search begins behind this item; -1 at the top
     int FindItem(const LVFINDINFO* pFindInfo, int nStart = -1) const {
         return AfxSendPointer(m_hWnd, LVM_FINDITEM, static_cast<WPARAM>(nStart), pFindInfo);
@@ -128,6 +156,18 @@ public:
     BOOL GetCheck(int nItem) const;
     /// See GetCheck. @return FALSE on failure
     BOOL SetCheck(int nItem, BOOL fCheck = TRUE);
+    /// The item under the pen or mouse, in a list that marks it. Setters return the previous value.
+    ///@{
+    int GetHotItem() const { return AfxSendInt(m_hWnd, LVM_GETHOTITEM); }
+    int SetHotItem(int iIndex) { return AfxSendInt(m_hWnd, LVM_SETHOTITEM, static_cast<WPARAM>(iIndex)); }
+    HCURSOR GetHotCursor() const { return AfxSendHandle(m_hWnd, LVM_GETHOTCURSOR, 0, HCURSOR()); }
+    HCURSOR SetHotCursor(HCURSOR hc) { return AfxSendHandle(m_hWnd, LVM_SETHOTCURSOR, 0, hc); }
+    DWORD GetHoverTime() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_GETHOVERTIME)); }
+    /// @param dwHoverTime milliseconds until the item under the mouse is selected, -1 the default
+    DWORD SetHoverTime(DWORD dwHoverTime = static_cast<DWORD>(-1)) {
+        return static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_SETHOVERTIME, 0, static_cast<LPARAM>(dwHoverTime)));
+    }
+    ///@}
     /// The states (LVIS_...) that the parent keeps itself and is asked for.
     ///@{
     UINT GetCallbackMask() const { return static_cast<UINT>(AfxSendInt(m_hWnd, LVM_GETCALLBACKMASK)); }
@@ -164,6 +204,19 @@ public:
     }
     /// @param size pixels; in a report the height is rounded to whole lines
     BOOL Scroll(CSize size) { return AfxSendInt(m_hWnd, LVM_SCROLL, static_cast<WPARAM>(size.cx), size.cy); }
+    /// The size that a number of items needs. @param sz -1 what is there @param iCount -1 all
+    CSize ApproximateViewRect(CSize sz = CSize(-1, -1), int iCount = -1) const;
+    BOOL IsItemVisible(int nItem) const {
+        return AfxSendInt(m_hWnd, LVM_ISITEMVISIBLE, static_cast<WPARAM>(nItem));
+    }
+    /// The upper left corner of an icon view, in the coordinates of its items.
+    BOOL GetOrigin(LPPOINT lpPoint) const { return AfxSendPointer(m_hWnd, LVM_GETORIGIN, 0, lpPoint); }
+    /// Pixels from one icon to the next. SetIconSpacing returns the previous ones.
+    ///@{
+    BOOL GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const;
+    CSize SetIconSpacing(int cx, int cy);
+    CSize SetIconSpacing(CSize size) { return SetIconSpacing(size.cx, size.cy); }
+    ///@}
     /// The first item that can be seen.
     int GetTopIndex() const { return AfxSendInt(m_hWnd, LVM_GETTOPINDEX); }
     /// The items that the window has room for.
@@ -207,11 +260,62 @@ public:
     }
     ///@}
 
+    /// A picture behind the items.
+    ///@{
+    BOOL GetBkImage(LVBKIMAGE* plvbkImage) const {
+        return AfxSendPointer(m_hWnd, LVM_GETBKIMAGE, 0, plvbkImage);
+    }
+    BOOL SetBkImage(LVBKIMAGE* plvbkImage) { return AfxSendPointer(m_hWnd, LVM_SETBKIMAGE, 0, plvbkImage); }
+    ///@}
+    /// LV_VIEW_...: how items are shown. SetView returns 1, or -1 on failure.
+    ///@{
+    DWORD GetView() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_GETVIEW)); }
+    DWORD SetView(int iView) {
+        return static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_SETVIEW, static_cast<WPARAM>(iView)));
+    }
+    ///@}
+    /// The control's tool tip. SetToolTips returns the previous one.
+    ///@{
+    CToolTipCtrl* GetToolTips() const;
+    CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);
+    ///@}
+    /// @param lpPoint receives the upper left corner of the picture
+    /// @return a picture of the item to be dragged, which the caller deletes; null on failure
+    CImageList* CreateDragImage(int nItem, LPPOINT lpPoint);
+
+    // --- Groups --------------------------------------------------------------------------
+    /// Groups are named by the number that they were inserted with; -1 is failure.
+    ///@{
+    LRESULT EnableGroupView(BOOL fEnable) {
+        return AfxSendInt(m_hWnd, LVM_ENABLEGROUPVIEW, static_cast<WPARAM>(fEnable));
+    }
+    BOOL IsGroupViewEnabled() const { return AfxSendInt(m_hWnd, LVM_ISGROUPVIEWENABLED); }
+    LRESULT InsertGroup(int index, PLVGROUP pgrp) {
+        return AfxSendPointer(m_hWnd, LVM_INSERTGROUP, static_cast<WPARAM>(index), pgrp);
+    }
+    LRESULT RemoveGroup(int nGroupId) {
+        return AfxSendInt(m_hWnd, LVM_REMOVEGROUP, static_cast<WPARAM>(nGroupId));
+    }
+    void RemoveAllGroups() { AfxSendInt(m_hWnd, LVM_REMOVEALLGROUPS); }
+    BOOL HasGroup(int nGroupId) const {
+        return AfxSendInt(m_hWnd, LVM_HASGROUP, static_cast<WPARAM>(nGroupId));
+    }
+    int GetGroupCount() const { return AfxSendInt(m_hWnd, LVM_GETGROUPCOUNT); }
+    int GetGroupInfo(int nGroupId, PLVGROUP pgrp) const {
+        return AfxSendPointer(m_hWnd, LVM_GETGROUPINFO, static_cast<WPARAM>(nGroupId), pgrp);
+    }
+    int SetGroupInfo(int nGroupId, PLVGROUP pgrp) {
+        return AfxSendPointer(m_hWnd, LVM_SETGROUPINFO, static_cast<WPARAM>(nGroupId), pgrp);
+    }
+    ///@}
+
     // --- Editing -----------------------------------------------------------------------
     /// Begins to edit an item's text in place. @return the entry field, null on failure
     CEdit* EditLabel(int nItem);
     /// The entry field while a text is edited in place; null else.
     CEdit* GetEditControl() const;
+    /// Ends editing in place; the old text stays.
+    void CancelEditLabel() { AfxSendInt(m_hWnd, LVM_CANCELEDITLABEL); }
 
     /// Draws an item of an LVS_OWNERDRAWFIXED list; override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -4,6 +4,8 @@
 
 #include "afximl_.h"
 
+class CToolTipCtrl;
+
 /// A tree view. Null stands for no item and for failure.
 class AFX_CORE CTreeCtrl : public CWnd {
     DECLARE_DYNAMIC(CTreeCtrl)
@@ -84,6 +86,7 @@ public:
     HTREEITEM GetNextVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_NEXTVISIBLE); }
     HTREEITEM GetPrevVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PREVIOUSVISIBLE); }
     HTREEITEM GetSelectedItem() const { return GetNextItem(nullptr, TVGN_CARET); }
+    HTREEITEM GetLastVisibleItem() const { return GetNextItem(nullptr, TVGN_LASTVISIBLE); }
     HTREEITEM GetDropHilightItem() const { return GetNextItem(nullptr, TVGN_DROPHILITE); }
     ///@}
     /// As the item itself says (its number of children), shown or not.
@@ -115,6 +118,8 @@ public:
     HTREEITEM HitTest(TVHITTESTINFO* pHitTestInfo) const;
     /// @param pt client coordinates @param pFlags receives TVHT_...; may be null
     HTREEITEM HitTest(CPoint pt, UINT* pFlags = nullptr) const;
+    /// How many items are selected.
+    UINT GetSelectedCount() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETSELECTEDCOUNT)); }
     /// How many items the window has room for.
     UINT GetVisibleCount() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETVISIBLECOUNT)); }
 
@@ -123,6 +128,45 @@ public:
     UINT GetIndent() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETINDENT)); }
     /// Sets the pixels from one level to the next.
     void SetIndent(UINT nIndent) { AfxSendInt(m_hWnd, TVM_SETINDENT, nIndent); }
+    /// TVS_EX_... styles. @param dwExMask those that are changed @return S_OK or an error
+    ///@{
+    DWORD GetExtendedStyle() const { return static_cast<DWORD>(AfxSendInt(m_hWnd, TVM_GETEXTENDEDSTYLE)); }
+    DWORD SetExtendedStyle(DWORD dwExMask, DWORD dwExStyles) {
+        return static_cast<DWORD>(
+            AfxSendInt(m_hWnd, TVM_SETEXTENDEDSTYLE, dwExMask, static_cast<LPARAM>(dwExStyles)));
+    }
+    ///@}
+    /// Colours of the lines and of the mark that shows where a dragged item would go.
+    ///@{
+    COLORREF GetLineColor() const { return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_GETLINECOLOR)); }
+    COLORREF SetLineColor(COLORREF clrNew = CLR_DEFAULT) {
+        return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_SETLINECOLOR, 0, static_cast<LPARAM>(clrNew)));
+    }
+    COLORREF GetInsertMarkColor() const {
+        return static_cast<COLORREF>(AfxSendInt(m_hWnd, TVM_GETINSERTMARKCOLOR));
+    }
+    COLORREF SetInsertMarkColor(COLORREF clrNew) {
+        return static_cast<COLORREF>(
+            AfxSendInt(m_hWnd, TVM_SETINSERTMARKCOLOR, 0, static_cast<LPARAM>(clrNew)));
+    }
+    BOOL SetInsertMark(HTREEITEM hItem, BOOL fAfter = TRUE) {
+        return AfxSendPointer(m_hWnd, TVM_SETINSERTMARK, static_cast<WPARAM>(fAfter), hItem);
+    }
+    ///@}
+    /// Milliseconds that scrolling may take. SetScrollTime returns the previous ones.
+    ///@{
+    UINT GetScrollTime() const { return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_GETSCROLLTIME)); }
+    UINT SetScrollTime(UINT uScrollTime) {
+        return static_cast<UINT>(AfxSendInt(m_hWnd, TVM_SETSCROLLTIME, uScrollTime));
+    }
+    ///@}
+    /// The control's tool tip. SetToolTips returns the previous one.
+    ///@{
+    CToolTipCtrl* GetToolTips() const;
+    CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);
+    ///@}
+    /// @return a picture of the item to be dragged, which the caller deletes; null on failure
+    CImageList* CreateDragImage(HTREEITEM hItem);
     /// Height of an item in pixels.
     SHORT GetItemHeight() const { return static_cast<SHORT>(AfxSendInt(m_hWnd, TVM_GETITEMHEIGHT)); }
     /// @param cyHeight pixels, -1 the default @return the previous height

@@ -96,3 +96,9 @@ BOOL CImageList::Replace(int nImage, CBitmap* pbmImage, CBitmap* pbmMask) {
 BOOL CImageList::Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle) {
     return ::ImageList_Draw(m_hImageList, nImage, pDC->m_hDC, pt.x, pt.y, nStyle);
 }
+
+BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* pimldp) {
+    pimldp->cbSize = sizeof *pimldp;
+    pimldp->himl = m_hImageList;
+    return ::ImageList_DrawIndirect(pimldp);
+}

@@ -1,5 +1,5 @@
 #include "window/WndProc.h"
-#include "afxcmn.h"
+#include "DrawnByOwner.h"
 
 using namespace fieldkit::detail;
 
@@ -197,13 +197,51 @@ CEdit* CListCtrl::GetEditControl() const {
     return static_cast<CEdit*>(CWnd::FromHandle(AfxSendHandle(m_hWnd, LVM_GETEDITCONTROL, 0, HWND())));
 }
 
+// --- Layout ---------------------------------------------------------------------------------
+
+CHeaderCtrl* CListCtrl::GetHeaderCtrl() const {
+    return AskForWindow<CHeaderCtrl>(m_hWnd, LVM_GETHEADER);
+}
+
+BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount) const {
+    const CHeaderCtrl* pHeader = GetHeaderCtrl();
+    if (iCount < 0 && pHeader != nullptr)
+        iCount = pHeader->GetItemCount();
+    return AfxSendPointer(m_hWnd, LVM_GETCOLUMNORDERARRAY, static_cast<WPARAM>(iCount), piArray);
+}
+
+CSize CListCtrl::ApproximateViewRect(CSize sz, int iCount) const {
+    return CSize(static_cast<DWORD>(
+        AfxSendInt(m_hWnd, LVM_APPROXIMATEVIEWRECT, static_cast<WPARAM>(iCount), MAKELPARAM(sz.cx, sz.cy))));
+}
+
+BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const {
+    const int nSpacing = AfxSendInt(m_hWnd, LVM_GETITEMSPACING, static_cast<WPARAM>(fSmall));
+    *pnHorzSpacing = LOWORD(nSpacing);
+    *pnVertSpacing = HIWORD(nSpacing);
+    return TRUE;
+}
+
+CSize CListCtrl::SetIconSpacing(int cx, int cy) {
+    return CSize(static_cast<DWORD>(AfxSendInt(m_hWnd, LVM_SETICONSPACING, 0, MAKELPARAM(cx, cy))));
+}
+
+CToolTipCtrl* CListCtrl::GetToolTips() const {
+    return AskForWindow<CToolTipCtrl>(m_hWnd, LVM_GETTOOLTIPS);
+}
+CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
+    return AskForWindow<CToolTipCtrl>(m_hWnd, LVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(HandleOf(pWndTip)));
+}
+
+CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
+    return OwnedImages(reinterpret_cast<HIMAGELIST>(
+        SendMessage(LVM_CREATEDRAGIMAGE, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(lpPoint))));
+}
+
 // --- Owner draw -----------------------------------------------------------------------------
 
 void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
+    return DrawnByOwner(*this, message, lParam) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }

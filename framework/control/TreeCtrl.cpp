@@ -1,4 +1,7 @@
-#include "afxcmn.h"
+#include "DrawnByOwner.h"
+#include "window/WndProc.h"
+
+using namespace fieldkit::detail;
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
@@ -162,4 +165,16 @@ CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem) {
 
 CEdit* CTreeCtrl::GetEditControl() const {
     return static_cast<CEdit*>(CWnd::FromHandle(AfxSendHandle(m_hWnd, TVM_GETEDITCONTROL, 0, HWND())));
+}
+
+CToolTipCtrl* CTreeCtrl::GetToolTips() const {
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TVM_GETTOOLTIPS);
+}
+CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(HandleOf(pWndTip)));
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
+    return OwnedImages(
+        reinterpret_cast<HIMAGELIST>(SendMessage(TVM_CREATEDRAGIMAGE, 0, reinterpret_cast<LPARAM>(hItem))));
 }
