@@ -1,8 +1,9 @@
 /// @file
-/// Property sheets and their pages.
+/// Property sheets and their pages, and the system's own dialogs.
 #pragma once
 
 #include "afxcmn.h"
+#include "afxcom_.h"
 
 #include <prsht.h>
 
@@ -23,11 +24,19 @@ class CDialogTemplateCopy;
 class AFX_CORE CPropertyPage : public CDialog {
     DECLARE_DYNAMIC(CPropertyPage)
 public:
+    /// A page to be completed by Construct.
+    CPropertyPage();
     /// @param nIDCaption string for the tab; 0 for the template's title
     explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0);
     /// The same with the template's name.
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
     ~CPropertyPage() override;
+
+    /// Does what the constructors do, for a page that was made without arguments.
+    ///@{
+    void Construct(UINT nIDTemplate, UINT nIDCaption = 0);
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
+    ///@}
 
     /// What the system is told about the page; change it before the page is added to a sheet.
     PROPSHEETPAGE m_psp = {};
@@ -114,6 +123,8 @@ private:
 class AFX_CORE CPropertySheet : public CWnd {
     DECLARE_DYNAMIC(CPropertySheet)
 public:
+    /// A sheet to be completed by Construct.
+    CPropertySheet();
     /// @param nIDCaption  string for the title bar
     /// @param pParentWnd  owner; the main window for null
     /// @param iSelectPage the page shown first
@@ -121,6 +132,11 @@ public:
     /// The same with the title as a text.
     explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     ~CPropertySheet() override;
+    /// Does what the constructors do, for a sheet that was made without arguments.
+    ///@{
+    void Construct(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    void Construct(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    ///@}
 
     /// Shows the sheet until it is ended.
     /// @return IDOK, IDCANCEL or ID_WIZFINISH, or what EndDialog was given; -1 if the sheet could
@@ -166,6 +182,8 @@ public:
     }
     /// @param nButton PSBTN_...; it is pressed when the sheet next handles its messages
     void PressButton(int nButton);
+    /// Whether tabs that do not fit beside each other stand in several rows; call it before DoModal.
+    void EnableStackedTabs(BOOL bStacked) { m_bStacked = bStacked; }
     /// Call it before DoModal.
     void SetWizardMode() { m_psh.dwFlags |= PSH_WIZARD; }
     /// @param dwFlags PSWIZB_...: the buttons that can be pressed
@@ -224,5 +242,6 @@ private:
     std::vector<CPropertyPage*> m_pages;
     DWORD m_dwStyle = static_cast<DWORD>(-1); ///< Wanted by Create.
     DWORD m_dwExStyle = 0;
+    BOOL m_bStacked = TRUE;            ///< Tabs stand in several rows.
     std::unique_ptr<CWnd> m_pEmptyBar; ///< What m_pWndEmptyCB shows.
 };

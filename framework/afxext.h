@@ -3,14 +3,16 @@
 /// bar button and the soft input panel switch.
 #pragma once
 
-#include "afxwin.h"
+#include "afxcmn.h"
 
 /// Height in pixels of the device's bars at the top and at the bottom of the screen.
 constexpr int AFX_DEVICE_BAR_HEIGHT = 26;
 
 /// The bar at the bottom of a full-screen window: the buttons of its menu at the left,
 /// the switch of the soft input panel at the right.
-class AFX_CORE CCeCommandBar : public CWnd {
+///
+/// What is added or inserted stands between them: buttons, separators, a whole tool bar resource.
+class AFX_CORE CCeCommandBar : public CToolBarCtrl {
     DECLARE_DYNAMIC(CCeCommandBar)
 public:
     CCeCommandBar() = default;
@@ -23,6 +25,20 @@ public:
     /// commands go to the parent. A command directly in the menu becomes a plain button.
     /// @return FALSE, with nothing changed, if there is no such menu resource.
     BOOL InsertMenuBar(UINT nIDResource);
+    /// The switch of the soft input panel and the title bar's OK are always there. @return TRUE
+    BOOL AddAdornments(DWORD dwFlags = 0);
+    /// Adds the buttons and pictures of a tool bar resource.
+    /// @return FALSE, with nothing changed, if there is no such resource
+    BOOL LoadToolBar(UINT nIDResource);
+    /// Adds pictures, each 16 pixels wide, light grey being transparent.
+    /// @return the index of the first, -1 on failure
+    int AddBitmap(int nNumButtons, UINT nBitmapID);
+    /// @param nIndex among the buttons; one that is too large stands for the last place
+    ///@{
+    BOOL InsertButton(int nIndex, LPTBBUTTON lpButton);
+    BOOL AddButtons(int nNumButtons, LPTBBUTTON lpButtons);
+    BOOL InsertSeparator(int nIndex = INT_MAX);
+    ///@}
     /// Moves the bar to its place after its parent's size has changed.
     void Reposition();
     /// Whether a point of the screen lies on the switch of the soft input panel.
@@ -41,6 +57,36 @@ private:
 
     HMENU m_hMenu = nullptr;        ///< Owned.
     HIMAGELIST m_hImages = nullptr; ///< Owned: the picture of the panel's switch.
+};
+
+/// A push button that shows a bitmap for each of its states. In a template it is a button with
+/// BS_OWNERDRAW.
+class AFX_CORE CBitmapButton : public CButton {
+    DECLARE_DYNAMIC(CBitmapButton)
+public:
+    CBitmapButton() = default;
+
+    /// Loads the bitmaps; those that are missing look like the first.
+    /// @return FALSE if one that was named is not there
+    ///@{
+    BOOL LoadBitmaps(LPCTSTR lpszBitmapResource, LPCTSTR lpszBitmapResourceSel = nullptr,
+                     LPCTSTR lpszBitmapResourceFocus = nullptr, LPCTSTR lpszBitmapResourceDisabled = nullptr);
+    BOOL LoadBitmaps(UINT nIDBitmapResource, UINT nIDBitmapResourceSel = 0, UINT nIDBitmapResourceFocus = 0,
+                     UINT nIDBitmapResourceDisabled = 0);
+    ///@}
+    /// Attaches the object to a button of a dialog and loads the bitmaps whose names are the button's
+    /// text and U, D, F or X for up, down, focused and disabled; gives the button their size.
+    BOOL AutoLoad(UINT nID, CWnd* pParent);
+    /// Gives the button the size of its first bitmap.
+    void SizeToContent();
+
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+
+protected:
+    CBitmap m_bitmap;         ///< At rest.
+    CBitmap m_bitmapSel;      ///< Pressed.
+    CBitmap m_bitmapFocus;    ///< With the focus.
+    CBitmap m_bitmapDisabled; ///< Disabled.
 };
 
 /// States of SHDoneButton.

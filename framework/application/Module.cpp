@@ -64,7 +64,8 @@ void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     State().hInstance = hInstance;
-    const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES};
+    const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES | ICC_DATE_CLASSES |
+                                                                ICC_USEREX_CLASSES | ICC_INTERNET_CLASSES};
     ::InitCommonControlsEx(&controls);
     if (CWinApp* pApp = AfxGetApp()) {
         pApp->m_hInstance = hInstance;

@@ -69,11 +69,11 @@ void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool) {
 }
 
 void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {
-    constexpr int LONGEST = 1024;
+    constexpr int kLongest = 1024;
     TOOLINFO info = ToolOf(pWnd, nIDTool);
-    info.lpszText = str.GetBuffer(LONGEST);
+    info.lpszText = str.GetBuffer(kLongest);
     info.lpszText[0] = 0;
-    AfxSendPointer(m_hWnd, TTM_GETTEXT, LONGEST, &info);
+    AfxSendPointer(m_hWnd, TTM_GETTEXT, kLongest, &info);
     str.ReleaseBuffer();
 }
 

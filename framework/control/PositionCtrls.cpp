@@ -36,13 +36,13 @@ void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
 // --- Hot keys -----------------------------------------------------------------------------
 
 CString CHotKeyCtrl::GetKeyName(UINT vk, BOOL fExtended) {
-    constexpr LONG EXTENDED = 1L << 24;
-    constexpr int LONGEST = 64;
+    constexpr LONG kExtended = 1L << 24;
+    constexpr int kLongest = 64;
     LONG lScan = static_cast<LONG>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC) << 16);
     if (fExtended)
-        lScan |= EXTENDED;
+        lScan |= kExtended;
     CString strName;
-    ::GetKeyNameText(lScan, strName.GetBuffer(LONGEST), LONGEST);
+    ::GetKeyNameText(lScan, strName.GetBuffer(kLongest), kLongest);
     strName.ReleaseBuffer();
     return strName;
 }

@@ -35,17 +35,31 @@ struct AfxPageAccess {
 
 // --- Construction ---------------------------------------------------------------------------
 
-CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption) : CDialog(lpszTemplateName) {
+CPropertyPage::CPropertyPage() {
     m_bFullScreen = FALSE;
     m_psp.dwSize = sizeof m_psp;
+}
+
+CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption) : CPropertyPage() {
+    Construct(lpszTemplateName, nIDCaption);
+}
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption)
+    : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption) {}
+
+void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption) {
+    Construct(MAKEINTRESOURCE(nIDTemplate), nIDCaption);
+}
+
+void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
+    m_lpszTemplateName = lpszTemplateName;
+    if (IS_INTRESOURCE(lpszTemplateName))
+        m_nIDHelp = LOWORD(reinterpret_cast<DWORD_PTR>(lpszTemplateName));
     if (nIDCaption != 0 && m_strCaption.LoadString(nIDCaption)) {
         m_psp.dwFlags |= PSP_USETITLE;
         m_psp.pszTitle = m_strCaption;
     }
 }
-
-CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption)
-    : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption) {}
 
 CPropertyPage::~CPropertyPage() = default;
 

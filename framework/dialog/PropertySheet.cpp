@@ -65,14 +65,26 @@ struct AfxSheetAccess {
 
 // --- Construction ---------------------------------------------------------------------------
 
-CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
-    : m_pParentWnd(pParentWnd), m_strCaption(pszCaption) {
+CPropertySheet::CPropertySheet() {
     m_psh.dwSize = sizeof m_psh;
+}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage) : CPropertySheet() {
+    Construct(pszCaption, pParentWnd, iSelectPage);
+}
+
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage) : CPropertySheet() {
+    Construct(nIDCaption, pParentWnd, iSelectPage);
+}
+
+void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage) {
+    m_pParentWnd = pParentWnd;
+    m_strCaption = pszCaption;
     m_psh.nStartPage = iSelectPage;
 }
 
-CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
-    : CPropertySheet(_T(""), pParentWnd, iSelectPage) {
+void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage) {
+    Construct(_T(""), pParentWnd, iSelectPage);
     m_strCaption.LoadString(nIDCaption);
 }
 

@@ -25,6 +25,8 @@ LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM) {
 
 BOOL CPropertySheet::OnInitDialog() {
     Default();
+    if (!m_bStacked && GetTabControl() != nullptr)
+        GetTabControl()->ModifyStyle(TCS_MULTILINE, 0);
     if (GetStyle() & WS_CHILD)
         return TRUE;
     if (m_bFullScreen) {

@@ -146,7 +146,7 @@ CBitmap* CDC::GetCurrentBitmap() const {
 
 namespace {
 
-constexpr int HIMETRIC_PER_INCH = 2540;
+constexpr int kHimetricPerInch = 2540;
 
 /// The size multiplied by the first and divided by the second factor; a size has no direction.
 void Scale(LPSIZE lpSize, SIZE factor, SIZE divisor) {
@@ -167,10 +167,10 @@ void CDCState::DPtoLP(LPSIZE lpSize) const {
     Scale(lpSize, GetWindowExt(), GetViewportExt());
 }
 void CDCState::DPtoHIMETRIC(LPSIZE lpSize) const {
-    Scale(lpSize, CSize(HIMETRIC_PER_INCH, HIMETRIC_PER_INCH), PixelsPerInch(*this));
+    Scale(lpSize, CSize(kHimetricPerInch, kHimetricPerInch), PixelsPerInch(*this));
 }
 void CDCState::HIMETRICtoDP(LPSIZE lpSize) const {
-    Scale(lpSize, PixelsPerInch(*this), CSize(HIMETRIC_PER_INCH, HIMETRIC_PER_INCH));
+    Scale(lpSize, PixelsPerInch(*this), CSize(kHimetricPerInch, kHimetricPerInch));
 }
 void CDCState::LPtoHIMETRIC(LPSIZE lpSize) const {
     LPtoDP(lpSize);

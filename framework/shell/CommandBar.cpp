@@ -1,12 +1,15 @@
 #include "drawing/SelectScope.h"
 #include "Sip.h"
 
+#include <algorithm>
+#include <climits>
+
 using namespace fieldkit::detail;
 
-IMPLEMENT_DYNAMIC(CCeCommandBar, CWnd)
+IMPLEMENT_DYNAMIC(CCeCommandBar, CToolBarCtrl)
 
 // clang-format off
-BEGIN_MESSAGE_MAP(CCeCommandBar, CWnd)
+BEGIN_MESSAGE_MAP(CCeCommandBar, CToolBarCtrl)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 // clang-format on
@@ -111,6 +114,72 @@ BOOL CCeCommandBar::InsertMenuBar(UINT nIDResource) {
         AddButton(i, nID, I_IMAGENONE, TBSTATE_ENABLED, MenuText(hMenu, i));
     }
     Reposition();
+    return TRUE;
+}
+
+// --- Buttons of the program -----------------------------------------------------------------
+
+BOOL CCeCommandBar::AddAdornments(DWORD) {
+    return TRUE;
+}
+
+int CCeCommandBar::AddBitmap(int, UINT nBitmapID) {
+    constexpr COLORREF kLightGrey = RGB(192, 192, 192);
+    CBitmap bitmap;
+    if (!bitmap.LoadBitmap(nBitmapID))
+        return -1;
+    return ::ImageList_AddMasked(m_hImages, bitmap, kLightGrey);
+}
+
+BOOL CCeCommandBar::InsertButton(int nIndex, LPTBBUTTON lpButton) {
+    const int nPos = std::clamp(nIndex, 0, static_cast<int>(CommandToIndex(kIdGap)));
+    if (!CToolBarCtrl::InsertButton(nPos, lpButton))
+        return FALSE;
+    Reposition();
+    return TRUE;
+}
+
+BOOL CCeCommandBar::AddButtons(int nNumButtons, LPTBBUTTON lpButtons) {
+    for (int i = 0; i < nNumButtons; ++i)
+        if (!InsertButton(INT_MAX, lpButtons + i))
+            return FALSE;
+    return TRUE;
+}
+
+BOOL CCeCommandBar::InsertSeparator(int nIndex) {
+    TBBUTTON separator = {};
+    separator.fsStyle = BTNS_SEP;
+    return InsertButton(nIndex, &separator);
+}
+
+BOOL CCeCommandBar::LoadToolBar(UINT nIDResource) {
+    /// As the resource editor writes it; the identifiers follow, 0 for a separator.
+    struct CToolBarData {
+        WORD wVersion;
+        WORD wWidth;
+        WORD wHeight;
+        WORD wItemCount;
+    };
+    const LPCTSTR pszType = MAKEINTRESOURCE(241); // RT_TOOLBAR
+    const LPCTSTR pszName = MAKEINTRESOURCE(nIDResource);
+    const HINSTANCE hInstance = AfxFindResourceHandle(pszName, pszType);
+    const HRSRC hResource = ::FindResource(hInstance, pszName, pszType);
+    if (hResource == nullptr)
+        return FALSE;
+    const auto* pData =
+        static_cast<const CToolBarData*>(::LockResource(::LoadResource(hInstance, hResource)));
+    const auto* pItems = reinterpret_cast<const WORD*>(pData + 1);
+    int nImage = AddBitmap(pData->wItemCount, nIDResource);
+    if (nImage < 0)
+        return FALSE;
+    for (int i = 0; i < pData->wItemCount; ++i) {
+        TBBUTTON button = {};
+        button.idCommand = pItems[i];
+        button.iBitmap = pItems[i] != 0 ? nImage++ : 0;
+        button.fsState = TBSTATE_ENABLED;
+        button.fsStyle = pItems[i] != 0 ? BTNS_BUTTON : BTNS_SEP;
+        InsertButton(INT_MAX, &button);
+    }
     return TRUE;
 }
 
