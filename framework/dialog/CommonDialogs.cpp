@@ -11,9 +11,16 @@ IMPLEMENT_DYNAMIC(CFontDialog, CCommonDialog)
 IMPLEMENT_DYNAMIC(CFindReplaceDialog, CCommonDialog)
 
 struct AfxCommonAccess {
+    /// The message that a colour dialog sends before it takes OK.
+    static UINT ColorOk() {
+        static const UINT nMessage = ::RegisterWindowMessage(COLOROKSTRING);
+        return nMessage;
+    }
     /// Attaches the object to the system's dialog when that is complete.
     template <class Parameters>
-    static UINT_PTR CALLBACK Hook(HWND hWnd, UINT message, WPARAM, LPARAM lParam) {
+    static UINT_PTR CALLBACK Hook(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == ColorOk()) // comes here only, not to the window
+            return static_cast<UINT_PTR>(::SendMessage(hWnd, message, wParam, lParam));
         if (message != WM_INITDIALOG)
             return 0;
         auto* pDialog =
@@ -206,8 +213,7 @@ void CColorDialog::SetCurrentColor(COLORREF clr) {
 }
 
 LRESULT CColorDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    static const UINT nColorOk = ::RegisterWindowMessage(COLOROKSTRING);
-    if (message != nColorOk)
+    if (message != AfxCommonAccess::ColorOk())
         return CCommonDialog::WindowProc(message, wParam, lParam);
     m_cc.rgbResult = reinterpret_cast<const CHOOSECOLOR*>(lParam)->rgbResult;
     return OnColorOK();

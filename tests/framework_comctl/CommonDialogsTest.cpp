@@ -1,0 +1,64 @@
+// The system's dialogs: events reach the object, answers are taken apart.
+#include "support/ModalScript.h"
+
+#include "afxdlgs.h"
+
+namespace {
+
+TEST(CommonDialogs, ColourIsTakenWithOK) {
+    class Probe : public CColorDialog {
+    public:
+        using CColorDialog::CColorDialog;
+        BOOL OnInitDialog() override {
+            PostMessage(WM_COMMAND, IDOK);
+            return CColorDialog::OnInitDialog();
+        }
+    };
+    fx::Frame frame;
+    Probe dialog(RGB(255, 0, 0), 0, &frame);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetColor(), RGB(255, 0, 0));
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
+    class Probe : public CFileDialog {
+    public:
+        using CFileDialog::CFileDialog;
+        bool m_bReady = false;
+        void OnInitDone() override {
+            m_bReady = true;
+            ::PostMessage(::GetParent(m_hWnd), WM_COMMAND, IDCANCEL, 0);
+        }
+    };
+    fx::Frame frame;
+    Probe dialog(TRUE, L"txt", nullptr, OFN_HIDEREADONLY, L"Text|*.txt|All|*.*||", &frame);
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_TRUE(dialog.m_bReady);
+}
+
+TEST(CommonDialogs, AnswersAreTakenApart) {
+    TCHAR one[] = L"C:\\a.b\\plan.old.txt\0";
+    TCHAR root[] = L"C:\\\0x\0y\0";
+    const struct {
+        LPTSTR pszFile;
+        DWORD dwFlags;
+        LPCTSTR pszPaths;
+    } cases[] = {{one, 0, L"C:\\a.b\\plan.old.txt;"},
+                 {one, OFN_ALLOWMULTISELECT, L"C:\\a.b\\plan.old.txt;"},
+                 {root, OFN_ALLOWMULTISELECT, L"C:\\x;C:\\y;"}};
+    for (const auto& c : cases) {
+        CFileDialog dialog(TRUE, nullptr, nullptr, c.dwFlags);
+        dialog.m_ofn.lpstrFile = c.pszFile;
+        CString strPaths;
+        for (POSITION pos = dialog.GetStartPosition(); pos != nullptr;)
+            strPaths += dialog.GetNextPathName(pos) + L";";
+        EXPECT_EQ(strPaths, c.pszPaths);
+    }
+    CFileDialog dialog(TRUE);
+    dialog.m_ofn.lpstrFile = one;
+    EXPECT_EQ(dialog.GetFileTitle() + L"|" + dialog.GetFileExt() + L"|" + dialog.GetFolderPath(),
+              L"plan.old|txt|C:\\a.b");
+}
+
+} // namespace
