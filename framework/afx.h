@@ -3,6 +3,9 @@
 /// Needs no window system.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFX_H__
+
 #include "afxstr.h"
 #include "afxobj_.h"
 #include "afxerr_.h"

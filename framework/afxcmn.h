@@ -5,6 +5,9 @@
 /// what a control answers on failure is its result.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXCMN_H__
+
 #include "afxwin.h"
 
 /// Notification of the device's controls: the user has tapped and held. A result of 1 says

@@ -2,6 +2,9 @@
 /// The ready-made collections of strings, objects, pointers and numbers.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXCOLL_H__
+
 #include "afxarray_.h"
 #include "afxlist_.h"
 #include "afxmap_.h"

@@ -95,6 +95,8 @@ protected:
 
     /// Runs the template's initialisation data, then OnInitDialog.
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    /// Updates how the controls look.
+    afx_msg LRESULT HandleIdle(WPARAM wParam, LPARAM lParam);
     /// Runs OnSetFont.
     afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
 

@@ -2,6 +2,9 @@
 /// Property sheets and their pages, and the system's own dialogs.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXDLGS_H__
+
 #include "afxcmn.h"
 #include "afxcom_.h"
 
@@ -90,9 +93,9 @@ protected:
     /// Runs the page's OnInitDialog.
     afx_msg LRESULT OnInitPage(WPARAM wParam, LPARAM lParam);
     /// Keeps the page in the sheet's area for pages.
-    afx_msg LRESULT OnWindowPosChanging(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
     /// Takes the focus off a page that is hidden.
-    afx_msg LRESULT OnWindowPosChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
 
     DECLARE_MESSAGE_MAP()
 

@@ -3,6 +3,9 @@
 /// bar button and the soft input panel switch.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXEXT_H__
+
 #include "afxcmn.h"
 
 /// Height in pixels of the device's bars at the top and at the bottom of the screen.

@@ -3,6 +3,9 @@
 /// drawing. Include this first in a source file that deals with windows.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXWIN_H__
+
 #include "afx.h"
 #include "afxcoll.h"
 #include "afxtempl.h"
@@ -21,7 +24,11 @@
 // Windows and their messages.
 #include "afxres.h"
 #include "afxmsg_.h"
+#include "afxcmd_.h"
+#include "afxwndsys_.h"
+#include "afxwndon_.h"
 #include "afxwnd_.h"
+#include "afxmenu_.h"
 #include "afxcall_.h"
 // Application and module.
 #include "afxapp_.h"
@@ -31,3 +38,7 @@
 // Controls.
 #include "afxbox_.h"
 #include "afxctl_.h"
+// Lines of message maps.
+#include "afxforms_.h"
+#include "afxwm_.h"
+#include "afxon_.h"

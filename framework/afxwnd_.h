@@ -1,51 +1,11 @@
 /// @file
-/// CCmdTarget and CWnd: command routing and the window class that all others
-/// derive from. Included by afxwin.h.
+/// CWnd: the window class that all others derive from. Included by afxwin.h.
 #pragma once
 
-#include "afx.h"
-#include "afxmsg_.h"
-#include "atltypes.h"
+#include "afxwndon_.h"
 
 class CDataExchange;
-class CFont;
-class CRgn;
-class CScrollBar;
-struct AFX_CMDHANDLERINFO;
-
-/// An object with a message map.
-class AFX_CORE CCmdTarget : public CObject {
-    DECLARE_DYNAMIC(CCmdTarget)
-public:
-    /// Routes a command or notification to the first handler found for it.
-    /// @param nID    command or control identifier
-    /// @param nCode  notification code; CN_COMMAND for a command
-    /// @param pExtra an AFX_NOTIFY if it comes from WM_NOTIFY, null if from WM_COMMAND
-    /// @param pInfo  not used by this framework; pass null
-    /// @return TRUE if a handler took it.
-    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo);
-
-    /// Shows and hides the wait cursor; calls nest.
-    void BeginWaitCursor();
-    /// Ends what BeginWaitCursor began.
-    void EndWaitCursor();
-    /// Shows the wait cursor again, after a message box for example.
-    void RestoreWaitCursor();
-
-protected:
-    CCmdTarget() = default;
-    /// The class's message map. The message map macros define both.
-    ///@{
-    static const AFX_MSGMAP* GetThisMessageMap();
-    virtual const AFX_MSGMAP* GetMessageMap() const;
-    ///@}
-};
-
-/// What OnCmdMsg carries in pExtra for a WM_NOTIFY message.
-struct AFX_NOTIFY {
-    LRESULT* pResult; ///< Receives the answer.
-    NMHDR* pNMHDR;    ///< The notification.
-};
+struct CCreateContext;
 
 /// The state of the modal loop and of the device shell that a window keeps.
 enum AFX_WND_FLAGS : UINT {
@@ -61,6 +21,8 @@ enum AFX_WND_FLAGS : UINT {
 /// Option flags of CWnd::RunModalLoop.
 enum : DWORD { MLF_NOIDLEMSG = 0x0001, MLF_NOKICKIDLE = 0x0002, MLF_SHOWONIDLE = 0x0004 };
 
+/// Sent to the main window when its thread is idle: it updates how its controls look.
+constexpr UINT WM_IDLEUPDATECMDUI = 0x0363;
 /// Sent to a window whose modal loop is idle; lParam counts the times in a row.
 constexpr UINT WM_KICKIDLE = 0x036A;
 
@@ -80,13 +42,11 @@ constexpr DWORD WS_EX_CAPTIONOKBTN = 0x80000000;
 /// attached or subclassed to it. FromHandle gives a temporary object for any other
 /// window; it is valid until the program is next idle. A CWnd that still has a
 /// window destroys it in its destructor.
-class AFX_CORE CWnd : public CCmdTarget {
+class AFX_CORE CWnd : public CWndHandlers {
     DECLARE_DYNCREATE(CWnd)
 public:
     CWnd() = default;
     ~CWnd() override;
-
-    HWND m_hWnd = nullptr; ///< The window, or null.
 
     /// The window, or null.
     operator HWND() const { return m_hWnd; }
@@ -123,13 +83,14 @@ public:
     // --- Creation ------------------------------------------------------------------
     /// Creates a child window. @return FALSE if the system refuses.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                        CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
+                        CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
     /// Creates a window of any kind. @return FALSE if the system refuses
-    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
-                  int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                          int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
+                          LPVOID lpParam = nullptr);
     /// The same with a rectangle and a child's identifier.
-    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
-                  const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                          const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
     /// Lets a derived class change the creation parameters. @return FALSE to give up.
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     /// Destroys the window; the object stays, unless its PostNcDestroy deletes it.
@@ -255,7 +216,7 @@ public:
     /// it calls Default().
     static MSG* GetCurrentMessage();
     /// Default processing of the current message.
-    LRESULT Default();
+    LRESULT Default() { return CWndHandlers::Default(); }
     /// The Win32 function of the same name for this window; times in milliseconds.
     ///@{
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr);
@@ -294,6 +255,10 @@ public:
     /// @param bSaveAndValidate TRUE: from the controls, FALSE: to them
     /// @return FALSE if a value was refused; the user has been told and stands in its field.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+
+    /// Asks the target for each control how it looks, as ON_UPDATE_COMMAND_UI tells.
+    /// @param bDisableIfNoHndler whether push buttons that nobody handles are disabled
+    virtual void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 
     // --- Modal loop ----------------------------------------------------------------
     /// Runs a message loop until ContinueModal says no.
@@ -344,50 +309,22 @@ protected:
     /// The window procedure to go back to; null before the window is attached.
     virtual WNDPROC* GetSuperWndProcAddr();
 
-    // --- Handlers: each forwards to default processing --------------------------------
-    /// The handler of the message of this name. A derived class that wants the message declares
-    /// the same member and a line in its message map. Here: default processing of the current
-    /// message; the arguments do not change it.
+    /// Handlers that do more than default processing.
     ///@{
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
-    afx_msg void OnClose();
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnMove(int x, int y);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnKillFocus(CWnd* pNewWnd);
-    afx_msg void OnCaptureChanged(CWnd* pWnd);
-    afx_msg void OnEnable(BOOL bEnable);
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    /// The control's own choice first (its reflected CtlColor), then the system's.
+    /// The control's own choice first (its reflected message), then the system's.
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
-    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
-    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
-    afx_msg UINT OnGetDlgCode();
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg LRESULT OnCompareItem(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnKeyToItem(WPARAM wParam, LPARAM lParam);
+    afx_msg int OnCompareItem(int nIDCtl, LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
+    afx_msg int OnCharToItem(UINT nKey, CListBox* pListBox, UINT nIndex);
+    afx_msg int OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex);
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnParentNotify(UINT message, LPARAM lParam);
+    /// Asks for each command of the menu how it looks.
+    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg LRESULT OnTabletQueryGesture(WPARAM wParam, LPARAM lParam);
     ///@}
 
@@ -395,6 +332,7 @@ protected:
 
 private:
     friend class CDialog;
+    friend class CWndHandlers;
     friend struct AfxWndAccess;
 
     CWnd(const CWnd&) = delete;

@@ -72,7 +72,9 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     return CWnd::WalkPreTranslateTree(HandleOf(pMainWnd), pMsg);
 }
 
-BOOL CWinThread::OnIdle(LONG) {
+BOOL CWinThread::OnIdle(LONG lCount) {
+    if (lCount == 0 && m_pMainWnd != nullptr && m_pMainWnd->m_hWnd != nullptr)
+        m_pMainWnd->SendMessage(WM_IDLEUPDATECMDUI);
     CThreadState::Get().DeleteTemporaries();
     return FALSE;
 }

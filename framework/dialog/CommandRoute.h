@@ -10,7 +10,8 @@ namespace fieldkit::detail {
 inline BOOL RouteCommand(const CWnd& wnd, UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) {
     constexpr UINT kFirstCommand = 0x8000;
     constexpr UINT kFirstSystemCommand = 0xF000;
-    if (pExtra != nullptr || nCode != CN_COMMAND || nID < kFirstCommand || nID >= kFirstSystemCommand)
+    const bool bCommand = nCode == CN_COMMAND && pExtra == nullptr;
+    if ((!bCommand && nCode != CN_UPDATE_COMMAND_UI) || nID < kFirstCommand || nID >= kFirstSystemCommand)
         return FALSE;
     if (CWnd* pParent = wnd.GetParent(); pParent != nullptr && pParent->OnCmdMsg(nID, nCode, pExtra, pInfo))
         return TRUE;

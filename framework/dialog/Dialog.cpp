@@ -15,6 +15,8 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
     ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+    ON_MESSAGE(WM_KICKIDLE, &CDialog::HandleIdle)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CDialog::HandleIdle)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
@@ -189,6 +191,12 @@ void CDialog::EnterFullScreen() {
 }
 
 void CDialog::OnSetFont(CFont*) {}
+
+LRESULT CDialog::HandleIdle(WPARAM, LPARAM lCount) {
+    if (lCount == 0)
+        UpdateDialogControls(this, FALSE);
+    return 0;
+}
 
 LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
     OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));

@@ -10,8 +10,8 @@ IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 // clang-format off
 BEGIN_MESSAGE_MAP(CPropertyPage, CDialog)
     ON_MESSAGE(WM_INITDIALOG, &CPropertyPage::OnInitPage)
-    ON_MESSAGE(WM_WINDOWPOSCHANGING, &CPropertyPage::OnWindowPosChanging)
-    ON_MESSAGE(WM_WINDOWPOSCHANGED, &CPropertyPage::OnWindowPosChanged)
+    ON_WM_WINDOWPOSCHANGING()
+    ON_WM_WINDOWPOSCHANGED()
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -111,8 +111,7 @@ CPropertySheet* CPropertyPage::Sheet() const {
 
 /// The system gives pages the place that it has chosen for them; on the device's screen there
 /// is less of it.
-LRESULT CPropertyPage::OnWindowPosChanging(WPARAM, LPARAM lParam) {
-    auto* pPos = reinterpret_cast<WINDOWPOS*>(lParam);
+void CPropertyPage::OnWindowPosChanging(WINDOWPOS* pPos) {
     const CPropertySheet* pSheet = Sheet();
     const bool bPlace = (pPos->flags & (SWP_NOMOVE | SWP_NOSIZE)) != (SWP_NOMOVE | SWP_NOSIZE);
     if (bPlace && pSheet != nullptr && pSheet->IsFullScreen()) {
@@ -123,23 +122,22 @@ LRESULT CPropertyPage::OnWindowPosChanging(WPARAM, LPARAM lParam) {
         pPos->cy = rect.Height();
         pPos->flags &= ~static_cast<UINT>(SWP_NOMOVE | SWP_NOSIZE);
     }
-    return Default();
+    Default();
 }
 
 /// The system leaves the focus where it is when it hides a page. It goes to the tabs: an entry field
 /// of the next page would raise the soft input panel unasked.
-LRESULT CPropertyPage::OnWindowPosChanged(WPARAM, LPARAM lParam) {
+void CPropertyPage::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
     const HWND hSheet = ::GetParent(m_hWnd);
-    const bool bHidden = (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_HIDEWINDOW) != 0;
-    const LRESULT lResult = Default();
+    const bool bHidden = (lpwndpos->flags & SWP_HIDEWINDOW) != 0;
+    Default();
     if (!bHidden || !::IsChild(m_hWnd, ::GetFocus()))
-        return lResult;
+        return;
     const HWND hTab = ::GetDlgItem(hSheet, static_cast<int>(AFX_IDC_TAB_CONTROL));
     if (hTab != nullptr && CDialogKeys::IsReachable(hTab))
         ::SetFocus(hTab);
     else
         CDialogKeys::FocusReachable(hSheet);
-    return lResult;
 }
 
 // --- Operations -----------------------------------------------------------------------------

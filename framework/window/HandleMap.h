@@ -30,6 +30,15 @@ public:
         return it == m_permanent.end() ? nullptr : it->second;
     }
 
+    /// The first permanent object of which a condition holds, or null.
+    template <class Condition>
+    Object* FindPermanent(Condition condition) const {
+        for (const auto& [handle, pObject] : m_permanent)
+            if (condition(pObject))
+                return pObject;
+        return nullptr;
+    }
+
     void SetPermanent(Handle handle, Object* pObject) { m_permanent[handle] = pObject; }
 
     void Remove(Handle handle) {

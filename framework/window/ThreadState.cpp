@@ -56,10 +56,17 @@ CWinThread& CThreadState::PumpThread() {
     return *m_pOwnThread;
 }
 
+CMenu* CThreadState::FindMenuOf(UINT nID) const {
+    return m_menus.FindPermanent([nID](const CMenu* pMenu) {
+        return pMenu->GetMenuState(nID, MF_BYCOMMAND) != static_cast<UINT>(-1);
+    });
+}
+
 void CThreadState::DeleteTemporaries() {
     m_windows.DeleteTemporary(m_nModalDepth);
     m_contexts.DeleteTemporary(m_nModalDepth);
     m_gdiObjects.DeleteTemporary(m_nModalDepth);
+    m_menus.DeleteTemporary(m_nModalDepth);
     m_imageLists.DeleteTemporary(m_nModalDepth);
 }
 

@@ -15,6 +15,7 @@ public:
     CHandleMap<CWnd, HWND> m_windows{&CWnd::m_hWnd};
     CHandleMap<CDC, HDC> m_contexts{&CDC::m_hDC};
     CHandleMap<CGdiObject, HGDIOBJ> m_gdiObjects{&CGdiObject::m_hObject};
+    CHandleMap<CMenu, HMENU> m_menus{&CMenu::m_hMenu};
     CHandleMap<CImageList, HIMAGELIST> m_imageLists{&CImageList::m_hImageList};
     /// What the device's shell keeps for the thread; null until it has anything.
     std::shared_ptr<void> m_pShell;
@@ -37,6 +38,8 @@ public:
 
     /// The object whose loop the thread runs: one of the framework's own in a thread without.
     CWinThread& PumpThread();
+    /// The permanent object of the menu that has a command; null if none has.
+    CMenu* FindMenuOf(UINT nID) const;
     /// Deletes the temporary objects made at the present depth or deeper.
     void DeleteTemporaries();
 

@@ -1,11 +1,22 @@
 // How a message finds its handler: the window's map, the control it came from, the
 // parent's map.
-#include "CtlColor.h"
 #include "MessageMap.h"
 #include "WndProc.h"
 #include "WndShell.h"
 
 using namespace fieldkit::detail;
+
+namespace {
+
+// The seven colour messages of controls are folded into one for the message maps.
+bool IsColorMessage(UINT message) {
+    return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+}
+AFX_CTLCOLOR ColorOf(UINT message, WPARAM wParam, LPARAM lParam) {
+    return {reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam), message - WM_CTLCOLORMSGBOX};
+}
+
+} // namespace
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT lResult = 0;
@@ -32,9 +43,9 @@ MSG* CWnd::GetCurrentMessage() {
     return &CThreadState::Get().m_msgLast;
 }
 
-LRESULT CWnd::Default() {
-    const MSG msg = *GetCurrentMessage();
-    return DefWindowProc(msg.message, msg.wParam, msg.lParam);
+LRESULT CWndHandlers::Default() {
+    const MSG msg = *CWnd::GetCurrentMessage();
+    return static_cast<CWnd*>(this)->DefWindowProc(msg.message, msg.wParam, msg.lParam);
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
@@ -48,9 +59,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         // Not every notification has a header behind it: the system sends itself some.
         return lParam != 0 && OnNotify(wParam, lParam, pResult);
     }
-    CCtlColor color;
-    if (CCtlColor::IsColorMessage(message)) {
-        color = CCtlColor::FromMessage(message, wParam, lParam);
+    AFX_CTLCOLOR color;
+    if (IsColorMessage(message)) {
+        color = ColorOf(message, wParam, lParam);
         message = AFX_WM_CTLCOLOR;
         lParam = reinterpret_cast<LPARAM>(&color);
     }
@@ -112,13 +123,13 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     LRESULT lResult = 0;
     LRESULT* const pOut = pResult != nullptr ? pResult : &lResult;
     int nCode = 0;
-    CCtlColor color;
+    AFX_CTLCOLOR color;
     if (message == WM_COMMAND) {
         nCode = HIWORD(wParam);
     } else if (message == WM_NOTIFY) {
         nCode = static_cast<int>(reinterpret_cast<NMHDR*>(lParam)->code);
-    } else if (CCtlColor::IsColorMessage(message)) {
-        color = CCtlColor::FromMessage(message, wParam, lParam);
+    } else if (IsColorMessage(message)) {
+        color = ColorOf(message, wParam, lParam);
         message = AFX_WM_CTLCOLOR;
         lParam = reinterpret_cast<LPARAM>(&color);
     }
@@ -136,38 +147,53 @@ HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
 }
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
-    if (lpDrawItemStruct->CtlType == ODT_MENU || !ReflectLastMsg(lpDrawItemStruct->hwndItem))
+    if (lpDrawItemStruct->CtlType == ODT_MENU) {
+        if (CMenu* pMenu = CMenu::FromHandle(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem)))
+            pMenu->DrawItem(lpDrawItemStruct);
+    } else if (!ReflectLastMsg(lpDrawItemStruct->hwndItem)) {
         Default();
+    }
 }
 
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    if (lpMeasureItemStruct->CtlType != ODT_MENU) {
-        if (CWnd* pChild = FromHandlePermanent(::GetDlgItem(m_hWnd, nIDCtl));
-            pChild != nullptr && pChild->SendChildNotifyLastMsg())
-            return;
+    if (lpMeasureItemStruct->CtlType == ODT_MENU) {
+        // The item does not say which menu it is of.
+        if (CMenu* pMenu = CThreadState::Get().FindMenuOf(lpMeasureItemStruct->itemID))
+            pMenu->MeasureItem(lpMeasureItemStruct);
+        return;
     }
-    Default();
+    CWnd* pChild = FromHandlePermanent(::GetDlgItem(m_hWnd, nIDCtl));
+    if (pChild == nullptr || !pChild->SendChildNotifyLastMsg())
+        Default();
 }
 
-LRESULT CWnd::OnCompareItem(WPARAM, LPARAM lParam) {
+int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct) {
     LRESULT lResult = 0;
-    if (ReflectLastMsg(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)->hwndItem, &lResult))
-        return lResult;
-    return Default();
+    if (ReflectLastMsg(lpCompareItemStruct->hwndItem, &lResult))
+        return static_cast<int>(lResult);
+    return DefaultAs<int>();
 }
 
-LRESULT CWnd::OnDeleteItem(WPARAM, LPARAM lParam) {
-    LRESULT lResult = 0;
-    if (ReflectLastMsg(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam)->hwndItem, &lResult))
-        return lResult;
-    return Default();
+void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct) {
+    if (!ReflectLastMsg(lpDeleteItemStruct->hwndItem))
+        Default();
 }
 
-LRESULT CWnd::OnKeyToItem(WPARAM, LPARAM lParam) {
+int CWnd::OnCharToItem(UINT, CListBox* pListBox, UINT) {
     LRESULT lResult = 0;
-    if (ReflectLastMsg(reinterpret_cast<HWND>(lParam), &lResult))
-        return lResult;
-    return Default();
+    if (pListBox != nullptr && pListBox->SendChildNotifyLastMsg(&lResult))
+        return static_cast<int>(lResult);
+    return DefaultAs<int>();
+}
+
+int CWnd::OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex) {
+    return CWnd::OnCharToItem(nKey, pListBox, nIndex);
+}
+
+void CWnd::OnParentNotify(UINT message, LPARAM lParam) {
+    const bool bChild = message == WM_CREATE || message == WM_DESTROY; // otherwise lParam is a point
+    if (!bChild || !ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+        Default();
 }
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {
@@ -190,96 +216,6 @@ ULONG CWnd::GetGestureStatus(CPoint) {
     return AFX_TABLET_DISABLE_PRESSANDHOLD;
 }
 
-// --- Handlers that only forward ---------------------------------------------------------------
-
-int CWnd::OnCreate(LPCREATESTRUCT) {
-    return static_cast<int>(Default());
-}
-void CWnd::OnDestroy() {
-    Default();
-}
-void CWnd::OnClose() {
-    Default();
-}
-void CWnd::OnPaint() {
-    Default();
-}
-BOOL CWnd::OnEraseBkgnd(CDC*) {
-    return static_cast<BOOL>(Default());
-}
-void CWnd::OnSize(UINT, int, int) {
-    Default();
-}
-void CWnd::OnMove(int, int) {
-    Default();
-}
-void CWnd::OnTimer(UINT_PTR) {
-    Default();
-}
-void CWnd::OnSetFocus(CWnd*) {
-    Default();
-}
-void CWnd::OnKillFocus(CWnd*) {
-    Default();
-}
-void CWnd::OnCaptureChanged(CWnd*) {
-    Default();
-}
-void CWnd::OnEnable(BOOL) {
-    Default();
-}
-void CWnd::OnShowWindow(BOOL, UINT) {
-    Default();
-}
-void CWnd::OnActivate(UINT, CWnd*, BOOL) {
-    Default();
-}
-void CWnd::OnLButtonDown(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnLButtonUp(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnLButtonDblClk(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnRButtonDown(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnRButtonUp(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnMouseMove(UINT, CPoint) {
-    Default();
-}
-void CWnd::OnKeyDown(UINT, UINT, UINT) {
-    Default();
-}
-void CWnd::OnKeyUp(UINT, UINT, UINT) {
-    Default();
-}
-void CWnd::OnChar(UINT, UINT, UINT) {
-    Default();
-}
-void CWnd::OnWinIniChange(LPCTSTR) {
-    Default();
-}
-void CWnd::OnSettingChange(UINT, LPCTSTR) {
-    Default();
-}
-BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT) {
-    return static_cast<BOOL>(Default());
-}
-UINT CWnd::OnGetDlgCode() {
-    return static_cast<UINT>(Default());
-}
-void CWnd::OnGetMinMaxInfo(MINMAXINFO*) {
-    Default();
-}
-void CWnd::OnSysCommand(UINT, LPARAM) {
-    Default();
-}
-
 // clang-format off
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
@@ -288,10 +224,12 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_MEASUREITEM()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
-    ON_MESSAGE(WM_COMPAREITEM, &CWnd::OnCompareItem)
-    ON_MESSAGE(WM_DELETEITEM, &CWnd::OnDeleteItem)
-    ON_MESSAGE(WM_VKEYTOITEM, &CWnd::OnKeyToItem)
-    ON_MESSAGE(WM_CHARTOITEM, &CWnd::OnKeyToItem)
+    ON_WM_COMPAREITEM()
+    ON_WM_DELETEITEM()
+    ON_WM_CHARTOITEM()
+    ON_WM_VKEYTOITEM()
+    ON_WM_PARENTNOTIFY()
+    ON_WM_INITMENUPOPUP()
     ON_MESSAGE(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CWnd::OnTabletQueryGesture)
 END_MESSAGE_MAP()
 // clang-format on
