@@ -7,18 +7,47 @@
 #include "afxtempl.h"
 #include "afxwnd_.h"
 
-/// The user-interface thread: its message loop and main window.
+/// What a thread without a message loop runs.
+using AFX_THREADPROC = UINT (*)(LPVOID);
+
+/// A thread of the framework: one that runs a function (AFX_THREADPROC), or one with windows, its message
+/// loop and its main window.
 class AFX_CORE CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 public:
-    CWinThread();
+    CWinThread() = default;
+    /// A thread that runs a function.
+    CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam);
     ~CWinThread() override;
 
     CWnd* m_pMainWnd = nullptr;   ///< The program ends when it is destroyed.
     CWnd* m_pActiveWnd = nullptr; ///< Not used by the framework itself.
     /// The system's number of the thread.
     DWORD m_nThreadID = 0;
-    MSG m_msgCur = {}; ///< The message being pumped.
+    MSG m_msgCur = {};          ///< The message being pumped.
+    HANDLE m_hThread = nullptr; ///< The system's thread; closed with this object. Null for the main thread.
+    BOOL m_bAutoDelete = TRUE;  ///< The object is deleted when its thread ends.
+    LPVOID m_pThreadParams = nullptr;         ///< What the function is given.
+    AFX_THREADPROC m_pfnThreadProc = nullptr; ///< Null for a thread with windows.
+
+    /// Starts the thread. @return FALSE if the system refuses
+    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
+                      LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+    /// Deletes the object, if m_bAutoDelete says so.
+    virtual void Delete();
+    /// The Win32 function of the same name.
+    ///@{
+    operator HANDLE() const { return m_hThread; }
+    DWORD SuspendThread() { return ::SuspendThread(m_hThread); }
+    DWORD ResumeThread() { return ::ResumeThread(m_hThread); }
+    BOOL SetThreadPriority(int nPriority) { return ::SetThreadPriority(m_hThread, nPriority); }
+    int GetThreadPriority() { return ::GetThreadPriority(m_hThread); }
+    BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+        return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
+    }
+    ///@}
+    /// The thread's main window; null without one.
+    virtual CWnd* GetMainWnd() { return m_pMainWnd; }
 
     /// Opens the main window, or runs the main dialog. @return FALSE: end without a message loop.
     virtual BOOL InitInstance();
@@ -42,8 +71,29 @@ public:
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 protected:
+    /// Looks for a handler (ON_THREAD_MESSAGE) of a message without a window. @return TRUE if there is one
+    BOOL DispatchThreadMessage(MSG* pMsg);
+
     CPoint m_ptCursorLast{-1, -1}; ///< Where the last mouse move was, for IsIdleMessage.
     UINT m_nMsgLast = 0;           ///< Which of the two moves it was.
+};
+
+/// The program's arguments: a file to open; others for a derived class.
+class AFX_CORE CCommandLineInfo : public CObject {
+public:
+    CCommandLineInfo() = default;
+
+    /// What the program shall do.
+    enum { FileNew, FileOpen, FilePrint, FilePrintTo, FileDDE, AppRegister, AppUnregister, FileNothing = -1 };
+
+    BOOL m_bShowSplash = TRUE;     ///< Not used by the framework itself.
+    BOOL m_bRunEmbedded = FALSE;   ///< Always FALSE.
+    BOOL m_bRunAutomated = FALSE;  ///< Always FALSE.
+    int m_nShellCommand = FileNew; ///< FileOpen if there is a file.
+    CString m_strFileName;         ///< The first argument that is no flag.
+
+    /// Called for each argument. @param bFlag it began with - or /, which is taken off
+    virtual void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast);
 };
 
 /// The application: one static object of a class derived from it in each program.
@@ -86,7 +136,10 @@ public:
     HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
     /// A cursor of the application or an extension module; not to be destroyed. Null if there is
     /// none.
+    ///@{
     HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
+    ///@}
     /// A cursor of the system, IDC_...
     HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
 
@@ -120,6 +173,23 @@ public:
     BOOL InitInstance() override;
     int Run() override;
 
+    /// Reads the program's arguments into an object, by its ParseParam.
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+
+    /// For lines ON_COMMAND: opens m_pszHelpFilePath if there is such a file; closes the main window.
+    ///@{
+    afx_msg void OnHelp();
+    afx_msg void OnAppExit();
+    ///@}
+
+    /// Nothing is to be done: the system's controls look as they should. @return TRUE
+    ///@{
+    BOOL Enable3dControls() { return TRUE; }
+    BOOL Enable3dControlsStatic() { return TRUE; }
+    ///@}
+    /// The taskbar's name for the program. Here: nothing.
+    void SetAppID(LPCTSTR) {}
+
 private:
     void SetProfileName(LPCTSTR lpszName);
 };
@@ -134,6 +204,22 @@ public:
     /// Shows the wait cursor again, after a message box for example.
     void Restore();
 };
+
+/// Starts a thread that runs a function, or one with windows, of a class with DECLARE_DYNCREATE.
+/// @return its object, which goes when the thread ends (m_bAutoDelete); null if the system refuses
+///@{
+AFX_CORE CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
+                                           int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                           DWORD dwCreateFlags = 0,
+                                           LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+AFX_CORE CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass,
+                                           int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                           DWORD dwCreateFlags = 0,
+                                           LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+///@}
+/// Ends the calling thread, without running destructors of what is on its stack.
+/// @param bDelete whether its object is deleted, if m_bAutoDelete says so
+AFX_CORE void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
 
 /// The calling thread's object; null in a thread that has none.
 AFX_CORE CWinThread* AFXAPI AfxGetThread();
@@ -170,6 +256,13 @@ AFX_CORE int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nID
 AFX_CORE int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
 ///@}
 
+/// Registers a window class unless there is one of its name. @return FALSE if the system refuses
+AFX_CORE BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
+/// A text of the resources with %1 (and %2) replaced.
+///@{
+AFX_CORE void AFXAPI AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
+AFX_CORE void AFXAPI AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
+///@}
 /// Registers a window class once. @return its name, which stays valid.
 /// @throw CResourceException* if the system refuses
 AFX_CORE LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,

@@ -1,4 +1,5 @@
 // The application and its thread.
+#include "window/MessageMap.h"
 #include "window/WndProc.h"
 
 #include <cstdlib>
@@ -17,14 +18,6 @@ CWinApp* g_pApp = nullptr;
 } // namespace
 
 // --- Thread ------------------------------------------------------------------------------------
-
-CWinThread::CWinThread() = default;
-
-CWinThread::~CWinThread() {
-    CThreadState& state = CThreadState::Get();
-    if (state.m_pThread == this)
-        state.m_pThread = nullptr;
-}
 
 BOOL CWinThread::InitInstance() {
     return FALSE;
@@ -65,9 +58,16 @@ BOOL CWinThread::PumpMessage() {
     return TRUE;
 }
 
+BOOL CWinThread::DispatchThreadMessage(MSG* pMsg) {
+    const AFX_MSGMAP_ENTRY* pEntry = FindMapEntry(GetMessageMap(), pMsg->message);
+    LRESULT lResult = 0;
+    return pEntry != nullptr &&
+           pEntry->pfnDispatch(this, pEntry->pfn, {pMsg->wParam, pMsg->lParam, 0, &lResult});
+}
+
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->hwnd == nullptr)
-        return FALSE;
+        return DispatchThreadMessage(pMsg);
     CWnd* pMainWnd = AfxGetMainWnd();
     return CWnd::WalkPreTranslateTree(HandleOf(pMainWnd), pMsg);
 }
@@ -106,7 +106,7 @@ void AFXAPI AfxPostQuitMessage(int nExitCode) {
 
 CWnd* AFXAPI AfxGetMainWnd() {
     CWinThread* pThread = AfxGetThread();
-    return pThread != nullptr ? pThread->m_pMainWnd : nullptr;
+    return pThread != nullptr ? pThread->GetMainWnd() : nullptr;
 }
 
 // --- Application -------------------------------------------------------------------------------
@@ -145,6 +145,16 @@ int CWinApp::Run() {
     return CWinThread::Run();
 }
 
+void CWinApp::OnHelp() {
+    if (::GetFileAttributes(m_pszHelpFilePath) != INVALID_FILE_ATTRIBUTES)
+        ::ShellExecute(HandleOf(m_pMainWnd), nullptr, m_pszHelpFilePath, nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+void CWinApp::OnAppExit() {
+    if (m_pMainWnd != nullptr)
+        m_pMainWnd->SendMessage(WM_CLOSE);
+}
+
 HICON CWinApp::LoadIcon(UINT nIDResource) const {
     return LoadIcon(MAKEINTRESOURCE(nIDResource));
 }
@@ -155,8 +165,10 @@ HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
     return ::LoadIcon(nullptr, lpszIconName);
 }
 HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
-    const LPCTSTR pszName = MAKEINTRESOURCE(nIDResource);
-    return ::LoadCursor(AfxFindResourceHandle(pszName, RT_GROUP_CURSOR), pszName);
+    return LoadCursor(MAKEINTRESOURCE(nIDResource));
+}
+HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const {
     return ::LoadCursor(nullptr, lpszCursorName);
@@ -279,4 +291,10 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
         }
     }
     return *it;
+}
+
+BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass) {
+    WNDCLASS present = {};
+    return ::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &present) ||
+           ::RegisterClass(lpWndClass);
 }

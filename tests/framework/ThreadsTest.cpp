@@ -3,6 +3,7 @@
 #include "support/Leftovers.h"
 
 #include "afxcmn.h"
+#include "afxmt.h"
 
 namespace {
 
@@ -71,6 +72,74 @@ TEST(Threads, RegisterTheSameClassesAtTheSameTime) {
     const LPCTSTR pszClass = AfxRegisterWndClass(CS_HREDRAW, nullptr, reinterpret_cast<HBRUSH>(UINT_PTR{7}));
     WNDCLASS wc = {};
     EXPECT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), pszClass, &wc));
+}
+
+constexpr UINT WM_ADD = WM_APP + 1;
+
+CEvent g_started(FALSE, TRUE);
+CEvent g_added;
+long g_nSum = 0;
+
+/// A thread with a message loop.
+class AddingThread : public CWinThread {
+    DECLARE_DYNCREATE(AddingThread)
+public:
+    BOOL InitInstance() override { return AfxGetThread() == this && g_started.SetEvent(); }
+
+protected:
+    afx_msg void OnAdd(WPARAM wParam, LPARAM lParam) {
+        g_nSum += static_cast<long>(wParam) + static_cast<long>(lParam);
+        g_added.SetEvent();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+IMPLEMENT_DYNCREATE(AddingThread, CWinThread)
+BEGIN_MESSAGE_MAP(AddingThread, CWinThread)
+ON_THREAD_MESSAGE(WM_ADD, &AddingThread::OnAdd)
+END_MESSAGE_MAP()
+
+TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
+    CWinThread* pThread =
+        AfxBeginThread(RUNTIME_CLASS(AddingThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    ASSERT_NE(pThread, nullptr);
+    pThread->m_bAutoDelete = FALSE;
+    pThread->ResumeThread();
+    ASSERT_TRUE(g_started.Lock(10000));
+    pThread->PostThreadMessage(WM_ADD, 40, 2);
+    ASSERT_TRUE(CSingleLock(&g_added).Lock(10000));
+    EXPECT_EQ(g_nSum, 42);
+    pThread->PostThreadMessage(WM_QUIT, 7, 0);
+    ASSERT_EQ(::WaitForSingleObject(pThread->m_hThread, 10000), WAIT_OBJECT_0);
+    DWORD dwCode = 0;
+    ::GetExitCodeThread(pThread->m_hThread, &dwCode);
+    EXPECT_EQ(dwCode, 7U);
+    delete pThread;
+}
+
+struct Counter {
+    CCriticalSection section;
+    CSemaphore finished{0, 8};
+    int nCount = 0;
+};
+
+UINT Count(LPVOID pParam) {
+    auto* pCounter = static_cast<Counter*>(pParam);
+    for (int i = 0; i < 1000; ++i) {
+        const CSingleLock lock(&pCounter->section, TRUE);
+        ++pCounter->nCount;
+    }
+    pCounter->finished.Unlock();
+    return 0;
+}
+
+TEST(Threads, LocksKeepThemApart) {
+    Counter counter;
+    for (int i = 0; i < 4; ++i)
+        ASSERT_NE(AfxBeginThread(Count, &counter), nullptr);
+    for (int i = 0; i < 4; ++i)
+        ASSERT_TRUE(counter.finished.Lock(10000));
+    EXPECT_EQ(counter.nCount, 4000);
 }
 
 } // namespace

@@ -1,0 +1,5 @@
+#include "afxcontrolbars.h"
+
+IMPLEMENT_DYNCREATE(CMFCVisualManager, CObject)
+IMPLEMENT_DYNCREATE(CMFCVisualManagerWindows, CMFCVisualManager)
+IMPLEMENT_DYNAMIC(CWinAppEx, CWinApp)

@@ -1,0 +1,5 @@
+/// @file
+/// The device's shell as programs for it include it: see afxext.h.
+#pragma once
+
+#include "afxext.h"

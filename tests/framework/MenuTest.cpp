@@ -1,0 +1,63 @@
+// Menus, how commands look, and lines of message maps that older programs write otherwise.
+#include "support/FrameworkEnvironment.h"
+
+namespace {
+
+constexpr UINT ID_ON = 0x8001;
+constexpr UINT ID_OFF = 0x8002;
+
+class MenuWnd : public fx::Frame {
+public:
+    UINT m_nTimer = 0;
+    UINT m_nLast = 0;
+
+protected:
+    afx_msg void OnTimer(UINT nIDEvent) { m_nTimer = nIDEvent; }
+    afx_msg BOOL OnCommandEx(UINT nID) {
+        m_nLast = nID;
+        return nID == ID_ON;
+    }
+    afx_msg void OnUpdateOn(CCmdUI* pCmdUI) {
+        pCmdUI->SetText(L"on");
+        pCmdUI->SetCheck();
+    }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(MenuWnd, CWnd)
+ON_WM_TIMER()
+ON_COMMAND_EX_RANGE(ID_ON, ID_OFF, OnCommandEx)
+ON_UPDATE_COMMAND_UI(ID_ON, OnUpdateOn)
+ON_UPDATE_COMMAND_UI(ID_OFF, OnUpdateOff)
+END_MESSAGE_MAP()
+
+TEST(Menu, ItemsAreAskedHowTheyLookBeforeThePopupOpens) {
+    MenuWnd wnd;
+    CMenu bar;
+    ASSERT_TRUE(bar.CreateMenu());
+    CMenu popup;
+    ASSERT_TRUE(popup.CreatePopupMenu());
+    popup.AppendMenu(MF_STRING, ID_ON, L"x");
+    popup.AppendMenu(MF_SEPARATOR);
+    popup.AppendMenu(MF_STRING, ID_OFF, L"off");
+    bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), L"popup");
+    CMenu* pPopup = bar.GetSubMenu(0);
+    wnd.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(pPopup->m_hMenu), 0);
+    CString strText;
+    EXPECT_EQ(pPopup->GetMenuString(ID_ON, strText, MF_BYCOMMAND), 2);
+    EXPECT_EQ(strText, L"on");
+    EXPECT_EQ(pPopup->GetMenuState(ID_ON, MF_BYCOMMAND) & MF_CHECKED, UINT{MF_CHECKED});
+    EXPECT_EQ(pPopup->GetMenuState(ID_OFF, MF_BYCOMMAND) & MF_GRAYED, UINT{MF_GRAYED});
+}
+
+TEST(Menu, HandlersOfTheOlderFormsAreCalled) {
+    MenuWnd wnd;
+    wnd.SendMessage(WM_TIMER, 77);
+    EXPECT_EQ(wnd.m_nTimer, 77U);
+    EXPECT_EQ(wnd.SendMessage(WM_COMMAND, ID_ON), 1);
+    EXPECT_EQ(wnd.SendMessage(WM_COMMAND, ID_OFF), 0) << "its handler leaves it to others";
+    EXPECT_EQ(wnd.m_nLast, ID_OFF);
+}
+
+} // namespace
