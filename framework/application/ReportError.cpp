@@ -2,9 +2,9 @@
 #include "afxwin.h"
 
 int CException::ReportError(UINT nType, UINT nMessageID) {
-    constexpr UINT MAX_TEXT = 512;
-    TCHAR szText[MAX_TEXT];
-    if (GetErrorMessage(szText, MAX_TEXT))
+    constexpr UINT kMaxText = 512;
+    TCHAR szText[kMaxText];
+    if (GetErrorMessage(szText, kMaxText))
         return AfxMessageBox(szText, nType);
     CString strText;
     if (nMessageID == 0 || !strText.LoadString(nMessageID))

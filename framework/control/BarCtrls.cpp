@@ -103,12 +103,16 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const {
 
 // --- Status bars --------------------------------------------------------------------------
 
+namespace {
+
 /// The control tells length and frame in the two words of one number.
-static int LengthAndType(int nAnswer, int* pType) {
+int LengthAndType(int nAnswer, int* pType) {
     if (pType != nullptr)
         *pType = HIWORD(nAnswer);
     return LOWORD(nAnswer);
 }
+
+} // namespace
 
 int CStatusBarCtrl::GetTextLength(int nPane, int* pType) const {
     return LengthAndType(AfxSendInt(m_hWnd, SB_GETTEXTLENGTH, static_cast<WPARAM>(nPane)), pType);

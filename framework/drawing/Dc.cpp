@@ -95,18 +95,22 @@ BOOL CDC::RestoreDC(int nSavedDC) {
 
 // --- Objects ------------------------------------------------------------------------------
 
-static HGDIOBJ HandleOf(const CGdiObject* pObject) {
+namespace {
+
+HGDIOBJ HandleOf(const CGdiObject* pObject) {
     return pObject != nullptr ? pObject->m_hObject : nullptr;
 }
 
 template <class Object>
-Object* CDC::Select(HGDIOBJ hObject) {
-    return GdiFromHandle<Object>(Set(::SelectObject, hObject));
+Object* Current(HDC hDC, UINT nKind) {
+    return GdiFromHandle<Object>(::GetCurrentObject(hDC, nKind));
 }
 
+} // namespace
+
 template <class Object>
-static Object* Current(HDC hDC, UINT nKind) {
-    return GdiFromHandle<Object>(::GetCurrentObject(hDC, nKind));
+Object* CDC::Select(HGDIOBJ hObject) {
+    return GdiFromHandle<Object>(Set(::SelectObject, hObject));
 }
 
 CGdiObject* CDC::SelectStockObject(int nIndex) {

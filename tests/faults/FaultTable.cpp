@@ -1,7 +1,10 @@
 #include "FaultTable.h"
 
 #include <commctrl.h>
+#include <commdlg.h>
 #include <dwmapi.h>
+#include <shellapi.h>
+#include <shlobj.h>
 
 #include <cstdlib>
 #include <sstream>
@@ -63,7 +66,14 @@ std::vector<Point> Points() {
         NO_OBJECT(CreateBitmap), NO_OBJECT(CreateBitmapIndirect), NO_OBJECT(CreateBrushIndirect),
         NO_OBJECT(CreateCompatibleBitmap), NO_OBJECT(CreateCompatibleDC), NO_OBJECT(CreateFontIndirectW),
         NO_OBJECT(CreateFontW), NO_OBJECT(CreateHatchBrush), NO_OBJECT(CreatePatternBrush),
-        NO_OBJECT(CreatePen), NO_OBJECT(CreatePenIndirect), NO_OBJECT(CreateRectRgn),
+        NO_OBJECT(CreatePen), NO_OBJECT(CreatePenIndirect),
+        NO_OBJECT(CommandLineToArgvW), NO_OBJECT(CreateDCW), NO_OBJECT(CreateICW), NO_OBJECT(CreateDiscardableBitmap),
+        NO_OBJECT(CreateMappedBitmap), NO_OBJECT(CreateEventW), NO_OBJECT(CreateMutexW), NO_OBJECT(CreateSemaphoreW),
+        NO_OBJECT(ExtCreatePen), NO_OBJECT(FindTextW), NO_OBJECT(PathToRegion), NO_OBJECT(ReplaceTextW),
+        NO_SUCCESS(AppendMenuW), NO_SUCCESS(ChooseColorW), NO_SUCCESS(ChooseFontW), NO_SUCCESS(GetOpenFileNameW),
+        NO_SUCCESS(GetSaveFileNameW), NO_SUCCESS(InsertMenuW), NO_SUCCESS(ModifyMenuW), NO_SUCCESS(SetMenuItemInfoW),
+        NO_SUCCESS(TrackPopupMenuEx), NO_SUCCESS(WritePrivateProfileStringW),
+        FAULT_POINT(SHGetFolderPathW, E_FAIL, MEMORY),
         NO_OBJECT(CreateRectRgnIndirect), NO_OBJECT(CreateSolidBrush),
         NO_OBJECT(CreatePropertySheetPageW), NO_OBJECT(ImageList_Create), NO_OBJECT(ImageList_Duplicate),
         NO_OBJECT(ImageList_LoadImageW),
@@ -170,6 +180,15 @@ RedrawWindow ReleaseCapture ReleaseDC ScreenToClient SendDlgItemMessageA SendDlg
 SetCapture SetCursor SetFocus SetForegroundWindow SetParent SetScrollInfo SetWindowLongPtrW SetWindowLongW
 ShowWindow TranslateMessage UnhookWindowsHookEx UpdateWindow ValidateRect WindowFromDC WindowFromPoint
 wsprintfW
+CheckMenuItem CheckMenuRadioItem ChildWindowFromPoint ChildWindowFromPointEx DrawStateW DrawTextExW
+EnableMenuItem ExcludeUpdateRgn FindWindowExW FindWindowW FlashWindowEx GetCaretPos GetClassInfoW
+GetClipboardOwner GetCommandLineW GetKeyNameTextW GetMenu GetMenuState GetNextDlgGroupItem
+GetPrivateProfileStringW GetSystemMenu GetUpdateRgn GrayStringW HiliteMenuItem InvalidateRgn
+MsgWaitForMultipleObjects RegisterWindowMessageW ReleaseMutex ScrollDC ScrollWindowEx SetMenu
+SetMenuItemBitmaps ShellExecuteW TabbedTextOutW ValidateRgn
+GetBitmapDimensionEx GetTextFaceW GetViewportExtEx GetWindowExtEx OffsetClipRgn OffsetViewportOrgEx PtVisible
+RectVisible ScaleViewportExtEx ScaleWindowExtEx SetBitmapDimensionEx SetMapMode SetViewportExtEx
+SetWindowExtEx ImageList_DrawIndirect lstrlenW
 )");
     static const std::set<std::string> names{std::istream_iterator<std::string>(list), {}};
     return names;
