@@ -19,7 +19,7 @@ struct AfxCommonAccess {
     /// Attaches the object to the system's dialog when that is complete.
     template <class Parameters>
     static UINT_PTR CALLBACK Hook(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == ColorOk()) // comes here only, not to the window
+        if (message == ColorOk()) // the system sends it to the hook
             return static_cast<UINT_PTR>(::SendMessage(hWnd, message, wParam, lParam));
         if (message != WM_INITDIALOG)
             return 0;
