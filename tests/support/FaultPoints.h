@@ -73,7 +73,7 @@ struct StandIn {
     static inline void* s_pReal = nullptr;
 
     static R Call(A... args) {
-        const auto real = reinterpret_cast<R (*)(A...)>(s_pReal);
+        const auto real = reinterpret_cast<R (*)(A...)>(reinterpret_cast<UINT_PTR>(s_pReal));
         if (Counts{}(args...) && Injection::Fails(s_pszName))
             return static_cast<R>(Fail{}(real, args...));
         return real(args...);
@@ -90,7 +90,8 @@ template <class Fail, class Counts = Always, class R, class... A>
 Point MakePoint(const char* pszName, R (*)(A...), Fail, Counts = {}) {
     using Function = StandIn<Fail, Counts, R, A...>;
     Function::s_pszName = pszName;
-    return {pszName, reinterpret_cast<void*>(&Function::Call), &Function::s_pReal};
+    return {pszName, reinterpret_cast<void*>(reinterpret_cast<UINT_PTR>(&Function::Call)),
+            &Function::s_pReal};
 }
 
 /// A function that fails without having done anything.
