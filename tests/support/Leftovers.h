@@ -41,7 +41,7 @@ private:
     template <class Fn>
     static Fn Native(const char* pszName) {
         const FARPROC pfn = ::GetProcAddress(::GetModuleHandle(L"ntdll.dll"), pszName);
-        return reinterpret_cast<Fn>(reinterpret_cast<void*>(pfn));
+        return reinterpret_cast<Fn>(reinterpret_cast<UINT_PTR>(pfn));
     }
 
     /// GetProcessHandleCount says 0 under Wine; the list of all handles is right.

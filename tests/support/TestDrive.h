@@ -138,7 +138,7 @@ private:
 
     static std::string UnixName(const CString& strPath) {
         using Function = char*(CDECL*)(LPCWSTR);
-        const auto pfn = reinterpret_cast<Function>(reinterpret_cast<void*>(
+        const auto pfn = reinterpret_cast<Function>(reinterpret_cast<UINT_PTR>(
             ::GetProcAddress(::GetModuleHandle(L"kernel32.dll"), "wine_get_unix_file_name")));
         char* const pszName = pfn != nullptr ? pfn(strPath) : nullptr;
         std::string name = pszName != nullptr ? pszName : "";
