@@ -45,7 +45,7 @@ check_names() {
 # A subject has to fit on a line of a log. Those before this rule stay as they are.
 check_subjects() {
     local found
-    found=$(git log --no-merges --format='%h %s' c2d55e3..HEAD | awk 'length > 80')
+    found=$(git log --no-merges --format='%h %s' f1691c1..HEAD | awk 'length > 80')
     [[ -z $found ]] || printf 'subjects of more than 72 characters:\n%s\n' "$found"
     [[ -z $found ]]
 }
