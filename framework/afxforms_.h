@@ -5,7 +5,7 @@
 
 #include "afxbox_.h"
 #include "afxctl_.h"
-#include "afxgdi_.h"
+#include "afxdc_.h"
 #include "afxmenu_.h"
 #include "afxwnd_.h"
 
