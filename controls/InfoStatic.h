@@ -30,7 +30,7 @@ protected:
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     afx_msg void OnEnable(BOOL bEnable);
     ///@}
-    /// The system's own processing alone.
+    /// Default processing only.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()

@@ -23,7 +23,7 @@ protected:
     afx_msg void OnSetfocus();
     /// Lets the soft input panel go, if the options named a mode.
     afx_msg void OnKillfocus();
-    /// The system's own processing alone.
+    /// Default processing only.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()

@@ -23,7 +23,7 @@ public:
     void SetOption(DWORD dwOption);
 
 protected:
-    /// The system's own processing alone.
+    /// Default processing only.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     /// With OptionNoSelection takes every selection away again.
     afx_msg void OnItemchanged(NMHDR* pNMHDR, LRESULT* pResult);

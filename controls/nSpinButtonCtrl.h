@@ -13,7 +13,7 @@ public:
     CnSpinButtonCtrl() = default;
 
 protected:
-    /// The system's own processing alone.
+    /// Default processing only.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     /// Answers that the stylus is taken: no press-and-hold.
     afx_msg void OnRecognizeGesture(NMHDR* pNMHDR, LRESULT* pResult);

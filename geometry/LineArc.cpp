@@ -53,7 +53,7 @@ inline int CutOblique(double x1, double y1, double x2, double y2, double cx, dou
     const double qb = m * k - cx - m * cy;
     const double qc = cx * cx + cy * cy + k * k - 2 * k * cy - rr;
     const double d = qb * qb - qa * qc;
-    // No decision here, for it would be guessed wrong time and again. A touching point is
+    // No branch here, for it would be mispredicted time and again. A touching point is
     // -qb / qa, and so are the roots of -0.0: plus that null leaves the sign of a null qb alone.
     const bool bCut = d > std::max(0.0, t);
     const bool bFound = d >= (t > 0 ? -t : std::numeric_limits<double>::denorm_min()); // cut or touched
@@ -191,9 +191,9 @@ int CVector::IntersectLineArcInf(double x1, double y1, double x2, double y2, dou
     Pair x;
     Pair y;
     const int found = CutOblique(x1, y1, x2, y2, cx, cy, radius * radius, m_dTolerance, x, y);
-    // A miss is written like the rest, but to nowhere.
-    double nowhere;
-    double* const to[][4] = {{&nowhere, &nowhere, &nowhere, &nowhere}, {px1, py1, px2, py2}};
+    // A miss is computed like the rest and discarded.
+    double discarded;
+    double* const to[][4] = {{&discarded, &discarded, &discarded, &discarded}, {px1, py1, px2, py2}};
     double* const* const out = to[found != 0];
     *out[0] = x[0];
     *out[1] = y[0];

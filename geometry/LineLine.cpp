@@ -100,9 +100,9 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
     const bool bParallel = IsNull(turn, t);
     const double ox = (mB * x3 - mA * x1 + y1 - y3) / turn;
     const double oy = mA * (ox - x1) + y1;
-    // Parallels are written like the rest, but to nowhere: to guess them wrong would cost more.
-    double nowhere;
-    double* const to[][2] = {{px, py}, {&nowhere, &nowhere}};
+    // Parallels are computed like the rest and discarded: a misprediction would cost more.
+    double discarded;
+    double* const to[][2] = {{px, py}, {&discarded, &discarded}};
     Store(ox, oy, to[bParallel][0], to[bParallel][1]);
     if (!bSegment)
         return !bParallel;

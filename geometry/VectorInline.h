@@ -65,7 +65,7 @@ inline double CVector::Angle() {
 }
 
 // The angle ranges take the first two steps here, each of them a step or none. It is looked up,
-// because whether it is needed cannot be foreseen, and a wrong guess of the processor costs more
+// because whether it is needed cannot be foreseen, and a branch misprediction costs more
 // than the step. Whoever is still outside then goes on in AngleRange.cpp.
 
 namespace fieldkit::geometry {

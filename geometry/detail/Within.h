@@ -1,6 +1,6 @@
 /// @file
-/// Range tests without a branch. Whether a point lies in a segment is anybody's guess, and a
-/// wrong guess of the processor costs more than all the comparisons: hence "&", not "&&".
+/// Range tests without a branch. Whether a point lies in a segment cannot be predicted, and a
+/// branch misprediction costs more than all the comparisons: hence "&", not "&&".
 #pragma once
 
 #include <algorithm>
