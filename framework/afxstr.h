@@ -93,10 +93,7 @@ public:
 
     /// Replaces the text; text of the other form is converted as by the constructor.
     ///@{
-    CStringT& operator=(const CStringT& strSrc) {
-        Take(strSrc.Share());
-        return *this;
-    }
+    CStringT& operator=(const CStringT& strSrc) { return *this = CStringT(strSrc); }
     CStringT& operator=(CStringT&& strSrc) noexcept {
         std::swap(m_pData, strSrc.m_pData);
         return *this;

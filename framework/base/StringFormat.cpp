@@ -217,15 +217,15 @@ void AppendInteger(CTextBuffer<Char>& out, const Conversion& conversion, Argumen
 /// By the C library.
 template <class Char, class Real>
 void AppendPrinted(CTextBuffer<Char>& out, const Conversion& conversion, const char* size, Real value) {
-    char format[16] = "%";
+    std::string format = "%";
     for (const auto& [set, flag] :
-         {std::pair(conversion.left, "-"), std::pair(conversion.plus, "+"), std::pair(conversion.blank, " "),
-          std::pair(conversion.alternate, "#"), std::pair(conversion.zeros, "0")})
-        std::strcat(format, set ? flag : "");
-    std::strcat(std::strcat(format, "*.*"), size);
-    std::strncat(format, &conversion.type, 1);
+         {std::pair(conversion.left, '-'), std::pair(conversion.plus, '+'), std::pair(conversion.blank, ' '),
+          std::pair(conversion.alternate, '#'), std::pair(conversion.zeros, '0')})
+        format.append(set ? 1 : 0, flag);
+    format.append("*.*").append(size).push_back(conversion.type);
     const auto print = [&](char* target, std::size_t room) {
-        const int needed = std::snprintf(target, room, format, conversion.width, conversion.precision, value);
+        const int needed =
+            std::snprintf(target, room, format.c_str(), conversion.width, conversion.precision, value);
         if (needed < 0)
             AfxThrowMemoryException(); // long fields make the C library ask for some, each time
         return static_cast<std::size_t>(needed);
