@@ -93,7 +93,10 @@ public:
 
     /// Replaces the text; text of the other form is converted as by the constructor.
     ///@{
-    CStringT& operator=(const CStringT& strSrc) { return *this = CStringT(strSrc); }
+    CStringT& operator=(const CStringT& strSrc) {
+        CStringT strCopy(strSrc);
+        return *this = std::move(strCopy);
+    }
     CStringT& operator=(CStringT&& strSrc) noexcept {
         std::swap(m_pData, strSrc.m_pData);
         return *this;
