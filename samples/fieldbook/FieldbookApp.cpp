@@ -1,9 +1,9 @@
 // The application object: finds its files and runs the main menu.
 #include <afxwin.h>
 
-#include "FilePath.h"
-#include "MainMenu.h"
-#include "SettingsSheet.h"
+#include "points/FilePath.h"
+#include "screens/MainMenu.h"
+#include "screens/SettingsSheet.h"
 
 namespace {
 

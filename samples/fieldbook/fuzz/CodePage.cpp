@@ -1,5 +1,5 @@
 // Where there is no such code page: that of Western Europe.
-#include "../CodePage.h"
+#include "points/CodePage.h"
 
 bool SurvivesCodePage(const CString& strText) {
     for (int i = 0; i < strText.GetLength(); ++i)

@@ -2,10 +2,10 @@
 #include "fuzz/GivenFile.h"
 #include "fuzz/Targets.h"
 
-#include "../LineReader.h"
-#include "../PackedAngle.h"
-#include "../PointBook.h"
-#include "../PointLine.h"
+#include "points/LineReader.h"
+#include "compute/PackedAngle.h"
+#include "points/PointBook.h"
+#include "points/PointLine.h"
 #include "Tesuvo.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
-#include "Compute.h"
+#include "compute/Compute.h"
 
-#include "PackedAngle.h"
-#include "PointFile.h"
+#include "compute/PackedAngle.h"
+#include "points/PointFile.h"
 #include "geometry/Vector.h"
 
 #include <gtest/gtest.h>

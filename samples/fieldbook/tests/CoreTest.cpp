@@ -1,6 +1,6 @@
-#include "AngleText.h"
-#include "JournalGroups.h"
-#include "PointOrder.h"
+#include "compute/AngleText.h"
+#include "screens/JournalGroups.h"
+#include "points/PointOrder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Drawing.h"
+#include "plan/Drawing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Export.h"
+#include "points/Export.h"
 
 #include "TestFile.h"
 

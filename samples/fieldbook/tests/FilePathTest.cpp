@@ -1,4 +1,4 @@
-#include "FilePath.h"
+#include "points/FilePath.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "FileReplacement.h"
+#include "points/FileReplacement.h"
 
 #include "TestFile.h"
 

@@ -1,4 +1,4 @@
-#include "History.h"
+#include "points/History.h"
 
 #include "TestFile.h"
 

@@ -1,4 +1,4 @@
-#include "JobFile.h"
+#include "screens/JobFile.h"
 #include "TestFile.h"
 #include "WindowCloser.h"
 

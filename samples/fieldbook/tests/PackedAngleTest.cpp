@@ -1,4 +1,4 @@
-#include "PackedAngle.h"
+#include "compute/PackedAngle.h"
 
 #include <gtest/gtest.h>
 

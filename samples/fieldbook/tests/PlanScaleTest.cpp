@@ -1,7 +1,7 @@
-#include "PlanScale.h"
+#include "plan/PlanScale.h"
 
-#include "PlanClip.h"
-#include "PlanSpace.h"
+#include "plan/PlanClip.h"
+#include "plan/PlanSpace.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "PointBook.h"
+#include "points/PointBook.h"
 
 #include <gtest/gtest.h>
 

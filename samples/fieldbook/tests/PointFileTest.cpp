@@ -1,4 +1,4 @@
-#include "PointFile.h"
+#include "points/PointFile.h"
 
 #include "TestFile.h"
 

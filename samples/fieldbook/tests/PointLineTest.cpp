@@ -1,4 +1,4 @@
-#include "PointLine.h"
+#include "points/PointLine.h"
 
 #include <gtest/gtest.h>
 

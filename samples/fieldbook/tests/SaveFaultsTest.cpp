@@ -1,8 +1,8 @@
 // Each call that saving and loading make into the system fails, for each reason that there is.
 #include "FaultPoints.h"
-#include "History.h"
-#include "PointFile.h"
-#include "Settings.h"
+#include "points/History.h"
+#include "points/PointFile.h"
+#include "screens/Settings.h"
 
 #include "TestFile.h"
 

@@ -1,4 +1,4 @@
-#include "Settings.h"
+#include "screens/Settings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,19 @@
+#include "compute/AngleText.h"
+
+#include "compute/Turn.h"
+
+#include <cmath>
+
+CString DirectionText(double dRadians, bool bTenths) {
+    const int nUnits = bTenths ? 10 : 1; // of a second
+    const long long nTurn = 360LL * 3600 * nUnits;
+    long long nCount = std::llround(dRadians * 180 / kPi * 3600 * nUnits) % nTurn;
+    if (nCount < 0)
+        nCount += nTurn;
+    const auto nSeconds = static_cast<int>(nCount / nUnits);
+    CString strText;
+    strText.Format(L"%d°%02d'%02d", nSeconds / 3600, nSeconds / 60 % 60, nSeconds % 60);
+    if (bTenths)
+        strText.AppendFormat(L".%d", static_cast<int>(nCount % nUnits));
+    return strText + L"\"";
+}

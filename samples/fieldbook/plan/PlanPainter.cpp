@@ -1,0 +1,210 @@
+#include "plan/PlanPainter.h"
+
+#include <algorithm>
+
+namespace {
+
+// Full black and a strong red on white: the screen is read in the sun.
+constexpr COLORREF kGroundColor = RGB(255, 255, 255);
+constexpr COLORREF kGivenColor = RGB(0, 0, 0);
+constexpr COLORREF kResultColor = RGB(208, 0, 0);
+
+// Pixels.
+constexpr int kFontHeight = 15;
+constexpr int kLongestName = 110; // wide; longer names end in dots
+constexpr int kLongestBar = 90;
+constexpr int kEdge = 6; // from scale bar and north arrow to the border
+
+COLORREF ColorOf(Role role) {
+    return role == Role::Result ? kResultColor : kGivenColor;
+}
+
+/// From the middle of a mark to its sides.
+int MarkReach(Role role) {
+    return role == Role::Result ? 5 : 3;
+}
+
+/// Pens, brushes and fonts are deleted only when they are no longer selected.
+class CKeepState {
+public:
+    explicit CKeepState(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
+    ~CKeepState() { m_dc.RestoreDC(m_nSaved); }
+    CKeepState(const CKeepState&) = delete;
+    CKeepState& operator=(const CKeepState&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_nSaved;
+};
+
+CPoint ToPoint(CVector v) {
+    return CPoint(v.GetIntX(), v.GetIntY());
+}
+
+} // namespace
+
+void CPlanFonts::Create(const CFont& like) {
+    LOGFONT font = {};
+    like.GetLogFont(&font);
+    font.lfHeight = -kFontHeight;
+    font.lfWidth = 0;
+    font.lfWeight = FW_NORMAL;
+    given.CreateFontIndirect(&font);
+    font.lfWeight = FW_BOLD;
+    result.CreateFontIndirect(&font);
+}
+
+CPlanPainter::CPlanPainter(CDC& dc, CSize view, const CPlanScale& scale, CPlanFonts& fonts)
+    : m_dc(dc), m_view(0, 0, view.cx, view.cy), m_scale(scale), m_fonts(fonts), m_space(view) {}
+
+void CPlanPainter::Paint(const CDrawing& drawing) {
+    m_dc.FillSolidRect(m_view, kGroundColor);
+    m_dc.SetBkMode(TRANSPARENT);
+    m_dc.IntersectClipRect(m_view);
+    PaintLines(drawing, Role::Given);
+    PaintLines(drawing, Role::Result);
+    PaintScaleBar();
+    PaintNorthArrow();
+    PaintPoints(drawing.GetPoints());
+}
+
+void CPlanPainter::PaintLines(const CDrawing& drawing, Role role) {
+    CPen pen(PS_SOLID, role == Role::Result ? 2 : 1, ColorOf(role));
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&pen);
+    for (const CDrawnLine& line : drawing.GetLines()) {
+        CSegment seen{m_scale.ToPixel(line.start), m_scale.ToPixel(line.end)};
+        if (line.role == role && ClipSegment(seen, m_view, line.bUnbounded))
+            PaintPieces({seen}, role);
+    }
+    for (const CDrawnArc& arc : drawing.GetArcs()) {
+        CCoordinate centre;
+        arc.circle.GetCenter(centre);
+        if (arc.role == role)
+            PaintPieces(ClipArc(m_scale.ToPixel(centre), arc.circle.GetRadius() * m_scale.GetFactor(),
+                                arc.dStart, arc.dSweep, m_view),
+                        role);
+    }
+}
+
+void CPlanPainter::PaintPieces(const std::vector<CSegment>& pieces, Role role) {
+    // A given point's name may lie on a given line, but not on a result.
+    const Space space = role == Role::Result ? Space::Mark : Space::Line;
+    for (const CSegment& piece : pieces) {
+        const CPoint start = ToPoint(piece.start);
+        const CPoint end = ToPoint(piece.end);
+        m_dc.MoveTo(start);
+        m_dc.LineTo(end);
+        m_dc.SetPixel(end, m_dc.GetPixel(start)); // a line leaves its last pixel out
+        m_space.PutLine(start, end, space);
+    }
+}
+
+void CPlanPainter::PaintScaleBar() {
+    constexpr int kTick = 4;
+    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), kLongestBar);
+    const CString strText = ScaleBarText(bar.dLength);
+    CPen pen(PS_SOLID, 2, kGivenColor);
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&m_fonts.given);
+    m_dc.SelectObject(&pen);
+    const CSize text = m_dc.GetTextExtent(strText);
+    const CPoint corner(m_view.left + kEdge, m_view.bottom - kEdge);
+    const CRect place(corner.x - 2, corner.y - kTick - text.cy - 1,
+                      corner.x + std::max<int>(bar.nPixels, text.cx) + 3, corner.y + 2);
+    m_dc.FillSolidRect(place, kGroundColor);
+    m_dc.SetTextColor(kGivenColor);
+    m_dc.TextOut(corner.x + 3, corner.y - kTick - text.cy + 1, strText);
+    const POINT line[] = {{corner.x, corner.y - kTick},
+                          {corner.x, corner.y},
+                          {corner.x + bar.nPixels, corner.y},
+                          {corner.x + bar.nPixels, corner.y - kTick}};
+    m_dc.Polyline(line, 4);
+    m_space.Put(place, Space::Taken);
+}
+
+void CPlanPainter::PaintNorthArrow() {
+    constexpr int kHalfWidth = 6;
+    constexpr int kLength = 14;
+    CBrush brush(kGivenColor);
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&m_fonts.given);
+    m_dc.SelectObject(&brush);
+    const CString strNorth = L"N";
+    const CSize text = m_dc.GetTextExtent(strNorth);
+    const int nReach = std::max<int>(kHalfWidth, text.cx / 2) + 2;
+    const CPoint tip(m_view.right - kEdge - nReach, m_view.top + kEdge);
+    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + kLength + text.cy);
+    m_dc.FillSolidRect(place, kGroundColor);
+    const POINT arrow[] = {tip,
+                           {tip.x + kHalfWidth, tip.y + kLength},
+                           {tip.x, tip.y + kLength - 4},
+                           {tip.x - kHalfWidth, tip.y + kLength}};
+    m_dc.Polygon(arrow, 4);
+    m_dc.SetTextColor(kGivenColor);
+    m_dc.TextOut(tip.x - text.cx / 2, tip.y + kLength - 1, strNorth);
+    m_space.Put(place, Space::Taken);
+}
+
+void CPlanPainter::PaintPoints(const std::vector<CDrawnPoint>& points) {
+    CRect mark;
+    std::vector<const CDrawnPoint*> seen;
+    for (const CDrawnPoint& point : points)
+        if (FindMark(point, mark)) {
+            seen.push_back(&point);
+            m_space.Put(mark, Space::Mark);
+        }
+    const auto firstGiven = std::stable_partition(
+        seen.begin(), seen.end(), [](const CDrawnPoint* p) { return p->role == Role::Result; });
+    const CKeepState state(m_dc);
+    m_dc.SetBkMode(TRANSPARENT);
+    // The name of a result may lie on the marks of given points and then covers them.
+    PaintMarks({firstGiven, seen.end()}, Role::Given);
+    for (const CDrawnPoint* pPoint : seen)
+        PaintName(*pPoint);
+    PaintMarks({seen.begin(), firstGiven}, Role::Result);
+}
+
+void CPlanPainter::PaintName(const CDrawnPoint& point) {
+    const bool bResult = point.role == Role::Result;
+    m_dc.SelectObject(bResult ? &m_fonts.result : &m_fonts.given);
+    CSize name = m_dc.GetTextExtent(point.strName);
+    name.cx = std::min<int>(name.cx, kLongestName);
+    CRect mark;
+    CRect place;
+    if (!FindMark(point, mark) || !m_space.PlaceName(mark, name, bResult ? Space::Mark : Space::Line, place))
+        return;
+    m_dc.FillSolidRect(place, kGroundColor); // a line through a name makes it hard to read
+    m_dc.SetTextColor(ColorOf(point.role));
+    m_dc.DrawText(point.strName, place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+void CPlanPainter::PaintMarks(const std::vector<const CDrawnPoint*>& points, Role role) {
+    CPen pen(PS_SOLID, 1, ColorOf(role));
+    CBrush brush(ColorOf(role));
+    CBrush ground(kGroundColor);
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&pen);
+    CRect mark;
+    for (const CDrawnPoint* pPoint : points) {
+        FindMark(*pPoint, mark);
+        m_dc.SelectObject(&brush);
+        m_dc.Ellipse(mark);
+        if (role == Role::Given)
+            continue;
+        // A ring about a dot, larger than the mark of a given point and with another shape.
+        m_dc.SelectObject(&ground);
+        m_dc.Ellipse(CRect(mark.left + 2, mark.top + 2, mark.right - 2, mark.bottom - 2));
+        m_dc.FillSolidRect(CRect(mark.CenterPoint() - CSize(1, 1), CSize(3, 3)), ColorOf(role));
+    }
+}
+
+bool CPlanPainter::FindMark(const CDrawnPoint& point, CRect& mark) const {
+    CVector pixel = m_scale.ToPixel(point.point);
+    CSegment spot{pixel, pixel};
+    if (!ClipSegment(spot, m_view, false))
+        return false;
+    const int nReach = MarkReach(point.role);
+    mark = CRect(ToPoint(pixel) - CSize(nReach, nReach), CSize(2 * nReach + 1, 2 * nReach + 1));
+    return true;
+}

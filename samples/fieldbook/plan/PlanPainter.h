@@ -1,0 +1,49 @@
+/// @file
+/// CPlanPainter: paints a drawing on a device context.
+#pragma once
+
+#include "plan/Drawing.h"
+#include "plan/PlanClip.h"
+#include "plan/PlanScale.h"
+#include "plan/PlanSpace.h"
+
+#include <afxwin.h>
+
+/// The fonts of a plan.
+struct CPlanFonts {
+    CFont given;
+    CFont result;
+
+    /// @param like their face
+    void Create(const CFont& like);
+};
+
+/// Paints one picture: lines and arcs, scale bar and north arrow, points with their names. A name
+/// for which there is no room is left out until the plan is zoomed; names of results come first.
+class CPlanPainter {
+public:
+    /// All must outlive the painter.
+    /// @param dc   its clipping, fonts and colours are changed
+    /// @param view size of the picture in pixels
+    CPlanPainter(CDC& dc, CSize view, const CPlanScale& scale, CPlanFonts& fonts);
+
+    void Paint(const CDrawing& drawing);
+
+private:
+    void PaintLines(const CDrawing& drawing, Role role);
+    void PaintPieces(const std::vector<CSegment>& pieces, Role role);
+    void PaintScaleBar();
+    void PaintNorthArrow();
+    void PaintPoints(const std::vector<CDrawnPoint>& points);
+    void PaintName(const CDrawnPoint& point);
+    /// @param points all in the view and of that role
+    void PaintMarks(const std::vector<const CDrawnPoint*>& points, Role role);
+    /// @return false if the point is not in the view
+    bool FindMark(const CDrawnPoint& point, CRect& mark) const;
+
+    CDC& m_dc;
+    CRect m_view;
+    const CPlanScale& m_scale;
+    CPlanFonts& m_fonts;
+    CPlanSpace m_space;
+};

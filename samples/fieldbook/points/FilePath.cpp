@@ -1,0 +1,48 @@
+#include "points/FilePath.h"
+
+#include "Tesuvo.h"
+
+#include <vector>
+
+namespace {
+
+CString FullPath(const CString& strPath) {
+    const DWORD nSize = ::GetFullPathName(strPath, 0, nullptr, nullptr);
+    std::vector<wchar_t> full(nSize + 1);
+    ::GetFullPathName(strPath, nSize, full.data(), nullptr);
+    return full.data();
+}
+
+constexpr int kDriveLength = 2; // "C:"
+
+} // namespace
+
+CString TitleOf(const CString& strPath) {
+    CString strTitle;
+    TVResolveFilePath(strPath, nullptr, &strTitle, nullptr);
+    return strTitle;
+}
+
+CString FileNameOf(const CString& strPath) {
+    CString strTitle;
+    CString strExtension;
+    TVResolveFilePath(strPath, nullptr, &strTitle, &strExtension);
+    return strExtension.IsEmpty() ? strTitle : strTitle + L"." + strExtension;
+}
+
+CString PathIn(const CString& strFolder, const CString& strName) {
+    // The root brings its own backslash: two of them would begin the name of a server.
+    return strFolder.Right(1) == L"\\" ? strFolder + strName : strFolder + L"\\" + strName;
+}
+
+bool IsSamePath(const CString& strPath1, const CString& strPath2) {
+    return FullPath(strPath1).CompareNoCase(FullPath(strPath2)) == 0;
+}
+
+CString FolderOf(const CString& strPath) {
+    CString strFolder;
+    TVResolveFilePath(FullPath(strPath), &strFolder, nullptr, nullptr);
+    const CString strCurrentDrive = FullPath(L"\\").Left(kDriveLength);
+    return strFolder.Left(kDriveLength).CompareNoCase(strCurrentDrive) == 0 ? strFolder.Mid(kDriveLength)
+                                                                            : strFolder;
+}

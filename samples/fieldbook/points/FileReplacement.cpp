@@ -1,0 +1,55 @@
+#include "points/FileReplacement.h"
+
+namespace {
+
+bool IsReadOnly(const CString& strPath) {
+    const DWORD dwAttributes = ::GetFileAttributes(strPath);
+    return dwAttributes != INVALID_FILE_ATTRIBUTES && (dwAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+/// The new file, which goes away unless it has taken the old one's place.
+class CReplacement {
+public:
+    explicit CReplacement(const CString& strTarget)
+        : m_strTarget(strTarget), m_strTemporary(strTarget + L".new") {
+        // Not every system minds that by itself when a file takes the other's place.
+        if (IsReadOnly(m_strTarget))
+            CFileException::ThrowOsError(ERROR_ACCESS_DENIED, m_strTarget);
+        CFileException error;
+        if (!m_file.Open(m_strTemporary, CFile::modeCreate | CFile::modeWrite, &error))
+            AfxThrowFileException(error.m_cause, error.m_lOsError, m_strTarget);
+        m_file.SetFilePath(m_strTarget); // errors shall name the file that the user knows
+    }
+    ~CReplacement() {
+        m_file.Abort();
+        if (!m_bInPlace)
+            ::DeleteFile(m_strTemporary);
+    }
+    CReplacement(const CReplacement&) = delete;
+    CReplacement& operator=(const CReplacement&) = delete;
+
+    CAsciiFile& GetFile() { return m_file; }
+
+    void PutInPlace() {
+        m_file.Flush(); // before the name changes: else a power cut could leave an empty file
+        m_file.Close();
+        m_bInPlace = ::MoveFileEx(m_strTemporary, m_strTarget,
+                                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+        if (!m_bInPlace)
+            CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), m_strTarget);
+    }
+
+private:
+    const CString m_strTarget;
+    const CString m_strTemporary;
+    CAsciiFile m_file;
+    bool m_bInPlace = false;
+};
+
+} // namespace
+
+void RewriteFile(const CString& strPath, const std::function<void(CAsciiFile&)>& write) {
+    CReplacement replacement(strPath);
+    write(replacement.GetFile());
+    replacement.PutInPlace();
+}

@@ -1,0 +1,34 @@
+#include "screens/ComputeDlg.h"
+
+#include "screens/PolarDlg.h"
+#include "screens/ReportDlg.h"
+#include "screens/Resource.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CComputeDlg, CnDialog)
+    ON_COMMAND_RANGE(IDC_COMPUTATION_FIRST, IDC_COMPUTATION_LAST, &CComputeDlg::OnComputation)
+    ON_BN_CLICKED(IDC_POLAR, &CComputeDlg::OnPolar)
+END_MESSAGE_MAP()
+// clang-format on
+
+CComputeDlg::CComputeDlg(CJob& job, CWnd* pParent)
+    : CnDialog(IDD_COMPUTE, pParent), m_job(job), m_computations(*this, job) {
+    SetOption(OptionOkButton);
+}
+
+void CComputeDlg::OnComputation(UINT nID) {
+    using Computation = std::optional<CReport> (CComputations::*)();
+    static constexpr Computation kComputations[] = {
+        &CComputations::Lines,    &CComputations::LineCircle, &CComputations::Circles,
+        &CComputations::Bearings, &CComputations::ArcCentre,  &CComputations::Curve,
+        &CComputations::Inverse,  &CComputations::Extent,
+    };
+    const Computation computation = kComputations[nID - IDC_COMPUTATION_FIRST];
+    if (const std::optional<CReport> report = (m_computations.*computation)())
+        ShowReport(m_job, *report, *this);
+}
+
+void CComputeDlg::OnPolar() {
+    CPolarDlg dialog(m_job, this);
+    dialog.DoModal();
+}

@@ -1,0 +1,40 @@
+#include "screens/ExportCommand.h"
+
+#include "screens/AskForFile.h"
+#include "screens/ColumnChoice.h"
+#include "points/FilePath.h"
+#include "screens/Resource.h"
+#include "screens/SettingsSheet.h"
+#include "screens/Text.h"
+#include "dialogs/FileSelectDlg.h"
+#include "dialogs/ResMsgBox.h"
+
+namespace {
+
+void Write(const CJob& job, const CString& strPath) {
+    const CString strName = FileNameOf(strPath);
+    try {
+        ExportPoints(strPath, job.book.GetPoints(), job.settings.columns, job.format);
+        CResMsgBox().InformationMsgBox(Text(IDS_EXPORTED, job.book.GetCount(), strName.GetString()));
+    } catch (CFileException* e) {
+        const int nCause = e->m_cause;
+        e->Delete();
+        CResMsgBox().ErrorMsgBox(Text(IDS_NOT_WRITTEN, nCause, strName.GetString()));
+    }
+}
+
+} // namespace
+
+void RunExport(CJob& job, CWnd& parent) {
+    if (!ChooseColumns(parent, job.settings.columns))
+        return;
+    KeepSettings(job.settings);
+    const CString strPath = AskForFile(parent, job.settings, CFileSelectDlg::ModeSave, L"export");
+    if (strPath.IsEmpty())
+        return;
+    // With columns left out the points themselves would be lost.
+    if (IsSamePath(strPath, job.strPath))
+        CResMsgBox().ErrorMsgBox(Text(IDS_EXPORT_OWN_FILE, FileNameOf(strPath).GetString()));
+    else
+        Write(job, strPath);
+}

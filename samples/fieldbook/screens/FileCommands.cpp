@@ -1,0 +1,78 @@
+#include "screens/FileCommands.h"
+
+#include "screens/AskForFile.h"
+#include "points/FilePath.h"
+#include "screens/JobFile.h"
+#include "screens/Resource.h"
+#include "screens/SettingsSheet.h"
+#include "dialogs/BrowseFolderDlg.h"
+#include "dialogs/ButtonMenuDlg.h"
+#include "dialogs/FileSelectDlg.h"
+#include "dialogs/ResMsgBox.h"
+
+void CFileCommands::RunMenu() {
+    enum { EntryOpen, EntryNew, EntrySave, EntrySaveAs, EntryFolder, EntryCount };
+    CUIntArray entries;
+    for (UINT nEntry = 0; nEntry < EntryCount; ++nEntry)
+        entries.Add(IDS_FILE_MENU_FIRST + nEntry);
+    CButtonMenuDlg menu(IDS_FILE_MENU, &entries, &m_parent);
+    menu.DoModal();
+    switch (menu.GetMenuIndex()) {
+    case EntryOpen:
+        return Open();
+    case EntryNew:
+        return New();
+    case EntrySave:
+        Save();
+        return;
+    case EntrySaveAs:
+        SaveAs();
+        return;
+    case EntryFolder:
+        return ChooseFolder();
+    default:
+        return; // the menu was closed
+    }
+}
+
+bool CFileCommands::MayGiveUpPoints() {
+    if (!m_job.book.IsModified())
+        return true;
+    if (CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
+        return Save();
+    return CResMsgBox().WarningMsgBox(IDS_ASK_GIVE_UP) == IDYES;
+}
+
+void CFileCommands::Open() {
+    if (!MayGiveUpPoints())
+        return;
+    const CString strPath = AskForFile(m_parent, m_job.settings, CFileSelectDlg::ModeOpen, L"");
+    if (!strPath.IsEmpty())
+        OpenPointsFile(m_job, strPath, m_parent);
+}
+
+void CFileCommands::New() {
+    if (!MayGiveUpPoints())
+        return;
+    const CString strPath = AskForFile(m_parent, m_job.settings, CFileSelectDlg::ModeNew, L"points");
+    if (!strPath.IsEmpty())
+        MakePointsFile(m_job, strPath);
+}
+
+bool CFileCommands::Save() {
+    return m_job.strPath.IsEmpty() ? SaveAs() : SavePointsFile(m_job, m_job.strPath);
+}
+
+bool CFileCommands::SaveAs() {
+    const CString strName = m_job.strPath.IsEmpty() ? CString(L"points") : TitleOf(m_job.strPath);
+    const CString strPath = AskForFile(m_parent, m_job.settings, CFileSelectDlg::ModeSave, strName);
+    return !strPath.IsEmpty() && SavePointsFile(m_job, strPath);
+}
+
+void CFileCommands::ChooseFolder() {
+    CBrowseFolderDlg dialog(m_job.settings.strFolder, &m_parent);
+    if (dialog.DoModal() != IDOK)
+        return;
+    m_job.settings.strFolder = dialog.GetSelectedFolder();
+    KeepSettings(m_job.settings);
+}

@@ -1,0 +1,33 @@
+#include "screens/Journal.h"
+
+#include "screens/Resource.h"
+#include "dialogs/ResMsgBox.h"
+#include "util/AsciiFile.h"
+
+void CJournal::SetPointsPath(const CString& strPointsPath) {
+    const int nDot = strPointsPath.ReverseFind(L'.');
+    const int nSlash = strPointsPath.ReverseFind(L'\\');
+    m_strPath = (nDot > nSlash ? strPointsPath.Left(nDot) : strPointsPath) + L"_results.txt";
+    m_bWritable = true;
+}
+
+void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines) {
+    m_entries.push_back({strTitle, lines});
+    if (!m_bWritable)
+        return;
+    try {
+        CAsciiFile file;
+        CFileException error;
+        if (!file.Open(m_strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite, &error))
+            AfxThrowFileException(error.m_cause, error.m_lOsError, m_strPath);
+        file.SeekToEnd();
+        file.WriteString(strTitle);
+        for (const CString& strLine : lines)
+            file.WriteString(strLine);
+        file.Close();
+    } catch (CFileException* e) {
+        e->Delete();
+        m_bWritable = false;
+        CResMsgBox().ErrorMsgBox(IDS_NO_JOURNAL);
+    }
+}

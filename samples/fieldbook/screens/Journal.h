@@ -1,0 +1,32 @@
+/// @file
+/// CJournal: the results of the day.
+#pragma once
+
+#include "screens/JournalGroups.h"
+
+#include <afxwin.h>
+
+/// Every result shown, kept in a text file beside the points.
+class CJournal {
+public:
+    /// Without a file: results are remembered only.
+    CJournal() = default;
+    /// @param strPointsPath as for SetPointsPath
+    explicit CJournal(const CString& strPointsPath) { SetPointsPath(strPointsPath); }
+
+    /// Results go into another file from now on.
+    /// @param strPointsPath the points file; the journal gets its name with "_results.txt"
+    void SetPointsPath(const CString& strPointsPath);
+
+    /// Appends a title and its lines. A journal that cannot be written is told once and then only
+    /// remembered: the results themselves are on the screen.
+    void Append(const CString& strTitle, const std::vector<CString>& lines);
+
+    /// The results since the points file was opened, not those that were in the journal before.
+    const std::vector<CJournalEntry>& GetEntries() const { return m_entries; }
+
+private:
+    CString m_strPath;
+    bool m_bWritable = false;
+    std::vector<CJournalEntry> m_entries;
+};

@@ -1,0 +1,51 @@
+#include "screens/JournalDlg.h"
+
+#include "screens/Resource.h"
+#include "screens/Text.h"
+
+namespace {
+
+/// Item data of a title, which has no lines.
+constexpr DWORD_PTR kTitle = static_cast<DWORD_PTR>(-1);
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CJournalDlg, CnDialog)
+    ON_NOTIFY(TVN_SELCHANGED, IDC_JOURNAL_TREE, &CJournalDlg::OnSelChanged)
+END_MESSAGE_MAP()
+// clang-format on
+
+CJournalDlg::CJournalDlg(const CJournal& journal, CWnd* pParent)
+    : CnDialog(IDD_JOURNAL, pParent), m_journal(journal) {
+    SetOption(OptionOkButton);
+}
+
+void CJournalDlg::DoDataExchange(CDataExchange* pDX) {
+    CnDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_JOURNAL_TREE, m_tree);
+    DDX_Control(pDX, IDC_JOURNAL_LINES, m_lines);
+}
+
+BOOL CJournalDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    FillTree();
+    return TRUE;
+}
+
+void CJournalDlg::FillTree() {
+    for (const CJournalGroup& group : GroupByTitle(m_journal.GetEntries())) {
+        const HTREEITEM hTitle = m_tree.InsertItem(group.strTitle);
+        m_tree.SetItemData(hTitle, kTitle);
+        int nNumber = 0;
+        for (const size_t nEntry : group.entries)
+            m_tree.SetItemData(m_tree.InsertItem(Text(IDS_RESULT_NUMBER, ++nNumber), hTitle), nEntry);
+    }
+}
+
+void CJournalDlg::OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult) {
+    const LPARAM nEntry = reinterpret_cast<const NMTREEVIEW*>(pNMHDR)->itemNew.lParam;
+    const auto nIndex = static_cast<size_t>(nEntry);
+    m_lines.Show(nIndex == kTitle ? std::vector<CString>() : m_journal.GetEntries()[nIndex].lines);
+    *pResult = 0;
+}

@@ -1,0 +1,29 @@
+#include "screens/JournalGroups.h"
+
+#include <algorithm>
+
+std::vector<CJournalGroup> GroupByTitle(const std::vector<CJournalEntry>& entries) {
+    std::vector<CJournalGroup> groups;
+    for (size_t i = 0; i < entries.size(); ++i) {
+        const CString& strTitle = entries[i].strTitle;
+        auto it = std::find_if(groups.begin(), groups.end(),
+                               [&](const CJournalGroup& group) { return group.strTitle == strTitle; });
+        if (it == groups.end())
+            it = groups.insert(it, CJournalGroup{strTitle, {}});
+        it->entries.push_back(i);
+    }
+    return groups;
+}
+
+std::pair<CString, CString> SplitLine(const CString& strLine) {
+    CString strItem = strLine;
+    strItem.Trim();
+    CString strValue;
+    const int nGap = strItem.Find(L"  ");
+    if (nGap >= 0) {
+        strValue = strItem.Mid(nGap);
+        strValue.Trim();
+        strItem = strItem.Left(nGap);
+    }
+    return {strItem, strValue};
+}

@@ -1,0 +1,118 @@
+#include "screens/MainMenu.h"
+
+#include "compute/Compute.h"
+#include "screens/ComputeDlg.h"
+#include "screens/ExportCommand.h"
+#include "points/FilePath.h"
+#include "screens/JobFile.h"
+#include "screens/JournalDlg.h"
+#include "screens/PlanDlg.h"
+#include "screens/PointEntryDlg.h"
+#include "screens/PointListDlg.h"
+#include "screens/Resource.h"
+#include "screens/SettingsSheet.h"
+#include "screens/Text.h"
+
+namespace {
+
+constexpr UINT WM_OPEN_FIRST = WM_APP;
+
+constexpr UINT kEntryCount = 8;
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CMainMenu, CButtonMenuDlg)
+    ON_MESSAGE(WM_OPEN_FIRST, &CMainMenu::OnOpenFirst)
+END_MESSAGE_MAP()
+// clang-format on
+
+CMainMenu::CMainMenu(CJob& job, const CString& strPath)
+    : CButtonMenuDlg(IDS_TITLE, &m_entries, nullptr), m_job(job), m_strFirstPath(strPath),
+      m_files(job, *this) {
+    for (UINT nEntry = 0; nEntry < kEntryCount; ++nEntry)
+        m_entries.Add(IDS_MENU_FIRST + nEntry);
+    // A main window that a stray Enter or Escape closes would be a nuisance.
+    SetOption(OptionSwallowKeys);
+}
+
+BOOL CMainMenu::OnInitDialog() {
+    CButtonMenuDlg::OnInitDialog();
+    ShowTitle();
+    PostMessage(WM_OPEN_FIRST);
+    return TRUE;
+}
+
+LRESULT CMainMenu::OnOpenFirst(WPARAM, LPARAM) {
+    OpenPointsFile(m_job, m_strFirstPath, *this);
+    ShowTitle();
+    return 0;
+}
+
+void CMainMenu::ShowTitle() {
+    const CString strName = m_job.strPath.IsEmpty() ? Text(IDS_UNTITLED) : FileNameOf(m_job.strPath);
+    const wchar_t* const pszUnsaved = m_job.book.IsModified() ? L"*" : L"";
+    SetWindowText(Text(IDS_TITLE_POINTS, m_job.book.GetCount(), pszUnsaved, strName.GetString()));
+}
+
+/// Without the base class, which would close the menu.
+void CMainMenu::OnOK() {
+    using Command = void (CMainMenu::*)();
+    static constexpr Command kCommands[kEntryCount] = {
+        &CMainMenu::OnPointEntry, &CMainMenu::OnPointList, &CMainMenu::OnCompute, &CMainMenu::OnPlan,
+        &CMainMenu::OnJournal,    &CMainMenu::OnFile,      &CMainMenu::OnExport,  &CMainMenu::OnSettings,
+    };
+    if (GetMenuIndex() < 0)
+        return;
+    (this->*kCommands[GetMenuIndex()])();
+    ShowTitle();
+}
+
+void CMainMenu::OnCancel() {
+    if (m_files.MayGiveUpPoints())
+        CButtonMenuDlg::OnCancel();
+    else
+        ShowTitle();
+}
+
+void CMainMenu::OnPointEntry() {
+    CPointEntryDlg dialog(m_job, this);
+    dialog.DoModal();
+}
+
+void CMainMenu::OnPointList() {
+    CPointListDlg dialog(m_job, this);
+    dialog.DoModal();
+}
+
+void CMainMenu::OnCompute() {
+    CComputeDlg dialog(m_job, this);
+    dialog.DoModal();
+}
+
+void CMainMenu::OnPlan() {
+    CDrawing drawing;
+    for (const CNamedPoint& point : m_job.book.GetPoints())
+        if (HasPosition(point.point))
+            drawing.AddPoint(point.strName, point.point, Role::Given);
+    CPlanDlg dialog(drawing, this);
+    dialog.DoModal();
+}
+
+void CMainMenu::OnJournal() {
+    CJournalDlg dialog(m_job.journal, this);
+    dialog.DoModal();
+}
+
+void CMainMenu::OnFile() {
+    m_files.RunMenu();
+}
+
+void CMainMenu::OnExport() {
+    RunExport(m_job, *this);
+}
+
+void CMainMenu::OnSettings() {
+    CSettingsSheet sheet(m_job.settings, m_nSettingsPage, this);
+    sheet.DoModal();
+}

@@ -1,0 +1,49 @@
+#include "screens/PlanDlg.h"
+
+#include "screens/Resource.h"
+
+namespace {
+
+constexpr double kZoomStep = 2;
+constexpr int kIconSize = 16; // pixels
+
+/// An icon of the application. The system keeps it; it is not to be destroyed.
+HICON LoadSmallIcon(UINT nId) {
+    return static_cast<HICON>(::LoadImage(AfxGetResourceHandle(), MAKEINTRESOURCE(nId), IMAGE_ICON, kIconSize,
+                                          kIconSize, LR_SHARED));
+}
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CPlanDlg, CnDialog)
+    ON_BN_CLICKED(IDC_ZOOM_IN, &CPlanDlg::OnZoomIn)
+    ON_BN_CLICKED(IDC_ZOOM_OUT, &CPlanDlg::OnZoomOut)
+    ON_BN_CLICKED(IDC_ZOOM_ALL, &CPlanDlg::OnZoomAll)
+END_MESSAGE_MAP()
+// clang-format on
+
+CPlanDlg::CPlanDlg(const CDrawing& drawing, CWnd* pParent) : CnDialog(IDD_PLAN, pParent), m_drawing(drawing) {
+    SetOption(OptionOkButton);
+}
+
+BOOL CPlanDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    m_view.Attach(IDC_PLAN, this, m_drawing);
+    m_zoomIn.Attach(IDC_ZOOM_IN, this, LoadSmallIcon(IDI_ZOOM_IN), CIconButton::StyleText);
+    m_zoomOut.Attach(IDC_ZOOM_OUT, this, LoadSmallIcon(IDI_ZOOM_OUT), CIconButton::StyleText);
+    m_zoomAll.Attach(IDC_ZOOM_ALL, this, LoadSmallIcon(IDI_ZOOM_ALL), CIconButton::StyleText);
+    return TRUE;
+}
+
+void CPlanDlg::OnZoomIn() {
+    m_view.Zoom(kZoomStep);
+}
+
+void CPlanDlg::OnZoomOut() {
+    m_view.Zoom(1 / kZoomStep);
+}
+
+void CPlanDlg::OnZoomAll() {
+    m_view.ShowAll();
+}

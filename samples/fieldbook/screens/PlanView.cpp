@@ -1,0 +1,98 @@
+#include "screens/PlanView.h"
+
+#include "screens/Resource.h"
+#include "screens/Text.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CPlanView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+END_MESSAGE_MAP()
+// clang-format on
+
+BOOL CPlanView::Attach(UINT nID, CWnd* pParent, const CDrawing& drawing) {
+    if (!SubclassDlgItem(nID, pParent))
+        return FALSE;
+    m_pDrawing = &drawing;
+    if (CFont* pFont = pParent->GetFont())
+        m_fonts.Create(*pFont);
+    ShowAll();
+    return TRUE;
+}
+
+void CPlanView::ShowAll() {
+    CCoordinate lo;
+    CCoordinate hi;
+    if (m_pDrawing->GetExtent(lo, hi))
+        SetScale(CPlanScale(lo, hi, GetSize()));
+}
+
+void CPlanView::Zoom(double dTimes) {
+    SetScale(m_scale.Zoomed(dTimes));
+}
+
+void CPlanView::SetScale(const CPlanScale& scale) {
+    m_scale = scale;
+    Invalidate(FALSE);
+}
+
+CSize CPlanView::GetSize() const {
+    CRect client;
+    GetClientRect(client);
+    return client.Size();
+}
+
+BOOL CPlanView::OnEraseBkgnd(CDC*) {
+    return TRUE; // everything is painted at once in OnPaint, so that nothing flickers
+}
+
+void CPlanView::OnPaint() {
+    CPaintDC dc(this);
+    const CSize size = GetSize();
+    CBitmap bitmap; // made before its context and so deleted after it
+    CDC memory;
+    if (!memory.CreateCompatibleDC(&dc) || !bitmap.CreateCompatibleBitmap(&dc, size.cx, size.cy)) {
+        Paint(dc);
+        return;
+    }
+    memory.SelectObject(&bitmap);
+    Paint(memory);
+    dc.BitBlt(0, 0, size.cx, size.cy, &memory, 0, 0, SRCCOPY);
+}
+
+void CPlanView::Paint(CDC& dc) {
+    const int nSaved = dc.SaveDC();
+    if (m_pDrawing->IsEmpty())
+        PaintEmpty(dc);
+    else
+        CPlanPainter(dc, GetSize(), m_scale, m_fonts).Paint(*m_pDrawing);
+    dc.RestoreDC(nSaved);
+}
+
+void CPlanView::PaintEmpty(CDC& dc) {
+    CRect client;
+    GetClientRect(client);
+    dc.FillSolidRect(client, RGB(255, 255, 255));
+    dc.SelectObject(&m_fonts.given);
+    dc.DrawText(Text(IDS_NO_DRAWING), client, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+}
+
+void CPlanView::OnLButtonDown(UINT, CPoint point) {
+    m_ptPen = point;
+    SetCapture();
+}
+
+void CPlanView::OnMouseMove(UINT, CPoint point) {
+    if (GetCapture() != this || point == m_ptPen)
+        return;
+    SetScale(m_scale.Panned(point - m_ptPen));
+    m_ptPen = point;
+}
+
+void CPlanView::OnLButtonUp(UINT, CPoint) {
+    if (GetCapture() == this)
+        ::ReleaseCapture();
+}

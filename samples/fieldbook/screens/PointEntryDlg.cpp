@@ -1,0 +1,122 @@
+#include "screens/PointEntryDlg.h"
+
+#include "screens/BadLines.h"
+#include "screens/Resource.h"
+#include "Tesuvo.h"
+#include "screens/Text.h"
+#include "dialogs/ResMsgBox.h"
+
+#include <iterator>
+
+namespace {
+
+/// What the names of a kind of points begin with, in the order of their texts.
+constexpr const wchar_t* kKindPrefixes[] = {L"T", L"K", L"BM", L"P"};
+
+/// A coordinate as it can be typed, with all decimals that the points file keeps; nothing for one
+/// that is missing.
+CString NumberText(double dValue) {
+    CString strText;
+    if (dValue == fieldkit::survey::kNull)
+        return strText;
+    strText.Format(L"%.6f", dValue);
+    return strText.TrimRight(L'0').TrimRight(L'.');
+}
+
+} // namespace
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CPointEntryDlg, CnDialog)
+    ON_BN_CLICKED(IDC_ADD, &CPointEntryDlg::OnAdd)
+    ON_BN_CLICKED(IDC_NO_HEIGHT, &CPointEntryDlg::OnNoHeight)
+    ON_CBN_SELCHANGE(IDC_KIND, &CPointEntryDlg::OnKind)
+END_MESSAGE_MAP()
+// clang-format on
+
+CPointEntryDlg::CPointEntryDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POINT_ENTRY, pParent), m_job(job) {
+    SetOption(OptionOkButton);
+}
+
+BOOL CPointEntryDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    AttachControls();
+    for (UINT nKind = 0; nKind < std::size(kKindPrefixes); ++nKind)
+        m_kind.AddString(Text(IDS_KIND_FIRST + nKind));
+    m_kind.SetCurSel(0);
+    OnKind();
+    m_message.SetWindowText(Text(IDS_ENTER_POINT));
+    return TRUE;
+}
+
+void CPointEntryDlg::AttachControls() {
+    constexpr DWORD kNoPanel = 0;
+    m_kind.Attach(IDC_KIND, this, kNoPanel);
+    m_name.Attach(IDC_NAME, this, SipOptionMode0);
+    m_job.history.GetStack().SetupList(&m_name);
+    m_n.Attach(IDC_N, this, SipOptionMode1);
+    m_e.Attach(IDC_E, this, SipOptionMode1);
+    m_z.Attach(IDC_Z, this, SipOptionMode1);
+    m_noHeight.Attach(IDC_NO_HEIGHT, this, TVGetCommonIcon(TVICON_UP),
+                      CIconButton::StyleToggle | CIconButton::StyleText);
+    m_message.SubclassDlgItem(IDC_MESSAGE, this);
+}
+
+CString CPointEntryDlg::TextOf(const CWnd& control) const {
+    CString strText;
+    control.GetWindowText(strText);
+    return strText;
+}
+
+void CPointEntryDlg::OnKind() {
+    m_name.SetWindowText(m_job.book.NextName(kKindPrefixes[m_kind.GetCurSel()]));
+}
+
+void CPointEntryDlg::OnNoHeight() {
+    m_z.EnableWindow(!m_noHeight.GetPush());
+}
+
+void CPointEntryDlg::ShowPoint(const CNamedPoint& point) {
+    m_name.SetWindowText(point.strName);
+    m_n.SetWindowText(NumberText(point.point.GetN()));
+    m_e.SetWindowText(NumberText(point.point.GetE()));
+    m_z.SetWindowText(NumberText(point.point.GetZ()));
+}
+
+bool CPointEntryDlg::IsBlank() const {
+    return TextOf(m_n).IsEmpty() && TextOf(m_e).IsEmpty() && TextOf(m_z).IsEmpty();
+}
+
+void CPointEntryDlg::OnOK() {
+    if (IsBlank() || Add())
+        CnDialog::OnOK();
+}
+
+void CPointEntryDlg::OnAdd() {
+    Add();
+}
+
+bool CPointEntryDlg::Add() {
+    CNamedPoint point;
+    const CString strZ = m_noHeight.GetPush() ? CString() : TextOf(m_z);
+    const LineFault fault = ParsePoint(TextOf(m_name), TextOf(m_n), TextOf(m_e), strZ, point);
+    if (fault != LineFault::None) {
+        CResMsgBox().ErrorMsgBox(FaultTextId(fault));
+        return false;
+    }
+    if (!Take(point)) {
+        CResMsgBox().ErrorMsgBox(Text(IDS_NAME_TAKEN, point.strName.GetString()));
+        return false;
+    }
+    m_job.history.Add(point.strName);
+    return true;
+}
+
+/// The fields are made ready for the next point.
+bool CPointEntryDlg::Take(const CNamedPoint& point) {
+    if (!m_job.book.Add(point))
+        return false;
+    m_message.SetWindowText(Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount()));
+    ShowPoint({m_job.book.NextName(point.strName), CCoordinate()});
+    GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
+    return true;
+}

@@ -1,0 +1,48 @@
+/// @file
+/// CPointEntryDlg: new points, typed in.
+#pragma once
+
+#include "controls/nDialog.h"
+
+#include "screens/EntryControls.h"
+#include "screens/Job.h"
+
+/// Takes points over into the book, one after the other. Each coordinate may be left blank.
+class CPointEntryDlg : public CnDialog {
+public:
+    /// @param job must outlive the dialog
+    CPointEntryDlg(CJob& job, CWnd* pParent);
+
+protected:
+    BOOL OnInitDialog() override;
+    /// Takes over what has been typed, too.
+    void OnOK() override;
+    /// Takes over the point that has been entered.
+    /// @return false, with nothing changed, if another point has its name
+    virtual bool Take(const CNamedPoint& point);
+
+    void ShowPoint(const CNamedPoint& point);
+    /// @return false if the fields hold no good point, which the user is told
+    bool Add();
+
+    afx_msg void OnAdd();
+    /// Proposes the next free name of the kind.
+    afx_msg void OnKind();
+    afx_msg void OnNoHeight();
+    DECLARE_MESSAGE_MAP()
+
+    CJob& m_job;
+
+private:
+    void AttachControls();
+    CString TextOf(const CWnd& control) const;
+    bool IsBlank() const;
+
+    CChoiceCombo m_kind;
+    CNameCombo m_name;
+    CNumberEdit m_n;
+    CNumberEdit m_e;
+    CNumberEdit m_z;
+    CNoHeightButton m_noHeight;
+    CResultLine m_message;
+};

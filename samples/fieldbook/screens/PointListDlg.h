@@ -1,0 +1,33 @@
+/// @file
+/// CPointListDlg: the points of a job in a list.
+#pragma once
+
+#include "controls/nDialog.h"
+
+#include "screens/EntryControls.h"
+#include "screens/Job.h"
+#include "screens/ListControls.h"
+
+/// A full-screen dialog with a row for each point, where points can be changed and removed. The
+/// OK button is in the title bar.
+class CPointListDlg : public CnDialog {
+public:
+    /// @param job must outlive the dialog
+    CPointListDlg(CJob& job, CWnd* pParent);
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    afx_msg void OnEdit();
+    afx_msg void OnRemove();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// @return the name in the row that is selected; empty if none is, which the user is told
+    CString SelectedName() const;
+    void ShowLegend();
+
+    CJob& m_job;
+    CPointListCtrl m_list;
+    CResultLine m_legend;
+};

@@ -1,0 +1,73 @@
+#include "screens/PolarDlg.h"
+
+#include "compute/AngleText.h"
+#include "screens/ReportDlg.h"
+#include "screens/Resource.h"
+#include "Tesuvo.h"
+#include "screens/Text.h"
+#include "dialogs/ResMsgBox.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CPolarDlg, CnDialog)
+    ON_BN_CLICKED(IDC_COMPUTE, &CPolarDlg::OnCompute)
+END_MESSAGE_MAP()
+// clang-format on
+
+CPolarDlg::CPolarDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POLAR, pParent), m_job(job) {
+    SetOption(OptionOkButton);
+}
+
+BOOL CPolarDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    AttachControls();
+    m_job.history.GetStack().SetupList(&m_from);
+    if (m_from.GetCount() > 0)
+        m_from.SetCurSel(0); // the name entered last
+    m_direction.SetAngle(0);
+    m_turn.SetAngle(0);
+    GetDlgItem(IDC_COMPUTE)->SetFocus(); // the panel comes with the first field that is tapped
+    return FALSE;
+}
+
+void CPolarDlg::AttachControls() {
+    constexpr int kTenths = 4; // any mode but that of whole seconds
+    const int nMode = m_job.settings.bTenths ? kTenths : CAngleEdit::WHOLE_SECONDS;
+    m_from.Attach(IDC_FROM, this, SipOptionMode0);
+    m_direction.Attach(IDC_DIRECTION, this, nMode, SipOptionMode1);
+    m_turn.Attach(IDC_TURN, this, nMode, SipOptionMode1);
+    m_distance.Attach(IDC_DISTANCE, this, SipOptionMode1);
+}
+
+void CPolarDlg::OnCompute() {
+    // An angle is taken over when its field loses the focus.
+    GetDlgItem(IDC_COMPUTE)->SetFocus();
+    CString strName;
+    m_from.GetWindowText(strName);
+    const CCoordinate* const pFrom = m_job.book.Find(strName);
+    if (pFrom == nullptr || !HasPosition(*pFrom)) {
+        const UINT nTextId = pFrom == nullptr ? IDS_UNKNOWN_POINT : IDS_POINT_WITHOUT_NE;
+        CResMsgBox().ErrorMsgBox(Text(nTextId, strName.GetString()));
+        return;
+    }
+    CString strDistance;
+    m_distance.GetWindowText(strDistance);
+    double dDistance = 0;
+    if (!TVString2Double(&strDistance, &dDistance) || dDistance < 0) {
+        CResMsgBox().ErrorMsgBox(IDS_BAD_DISTANCE);
+        return;
+    }
+    m_job.book.MarkUsed(strName);
+    m_job.history.Add(strName);
+    ShowReport(m_job, Report({strName, *pFrom}, dDistance), *this);
+}
+
+CReport CPolarDlg::Report(const CNamedPoint& from, double dDistance) {
+    const double dDirection = m_direction.GetAngle() + m_turn.GetAngle();
+    const CCoordinate point = FindPolarPoint(from.point, dDirection, dDistance);
+    CReport report = MakeReport(IDS_POLAR, IDS_NEW_POINT, {Verdict::Found, {point}});
+    const CString strDirection = DirectionText(dDirection, m_job.settings.bTenths != 0);
+    report.notes.push_back(Text(IDS_DIRECTION_LINE, strDirection.GetString()));
+    report.drawing.AddPoint(from.strName, from.point, Role::Given);
+    report.drawing.AddLine(from.point, point, false, Role::Given);
+    return report;
+}

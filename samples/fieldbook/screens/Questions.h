@@ -1,0 +1,47 @@
+/// @file
+/// CQuestions: asks the user for the inputs of the computations, one at a time.
+#pragma once
+
+#include <afxwin.h>
+
+#include "screens/Job.h"
+
+#include <functional>
+#include <map>
+
+/// Each question is a string id. It is asked until the answer is good; the good answer is what it
+/// proposes the next time.
+///
+/// The functions return false when the user cancels.
+class CQuestions {
+public:
+    /// @param parent, job must outlive the object
+    CQuestions(CWnd& parent, CJob& job) : m_parent(parent), m_job(job) {}
+
+    /// Begins a round of questions.
+    /// @param nTitleId their title, a string id
+    void Begin(UINT nTitleId);
+    /// The points that were named in this round.
+    const std::vector<CNamedPoint>& GetPoints() const { return m_points; }
+
+    /// @param point has N and E
+    bool AskPoint(UINT nQuestionId, CCoordinate& point);
+    /// @param dRadius more than 0
+    bool AskRadius(UINT nQuestionId, double& dRadius);
+    /// @param dAngle in radians; the user types d.mmss
+    bool AskAngle(UINT nQuestionId, double& dAngle);
+
+private:
+    /// Puts a question. @param strAnswer proposed; receives the answer. @return false: cancelled
+    using Put = std::function<bool(CString& strAnswer)>;
+    /// Takes an answer over. @return what is wrong with it; empty if it is good
+    using Check = std::function<CString(const CString& strAnswer)>;
+    bool Ask(UINT nQuestionId, const Put& put, const Check& check);
+    bool AskNumber(UINT nQuestionId, const Check& check);
+
+    CWnd& m_parent;
+    CJob& m_job;
+    UINT m_nTitleId = 0;
+    std::vector<CNamedPoint> m_points;
+    std::map<UINT, CString> m_lastAnswers; ///< By question.
+};

@@ -1,0 +1,206 @@
+// Identifiers of the application's resources. The library's own lie below 2000.
+#pragma once
+
+#include "plan/PlanResource.h"
+
+#define IDD_POINT_LIST 2002
+#define IDD_COMPUTE 2003
+#define IDD_POLAR 2004
+#define IDD_POINT_ENTRY 2005
+#define IDD_JOURNAL 2006
+#define IDD_COORDINATES 2007
+#define IDD_ANGLES 2008
+#define IDD_TOLERANCE 2009
+#define IDD_NAME 2010
+#define IDD_REPORT 2011
+
+// Computations: the buttons, in the order of the computations
+#define IDC_COMPUTATION_FIRST 2103
+#define IDC_LINES 2103
+#define IDC_LINE_CIRCLE 2104
+#define IDC_CIRCLES 2105
+#define IDC_BEARINGS 2106
+#define IDC_ARC_CENTRE 2107
+#define IDC_CURVE 2108
+#define IDC_INVERSE 2109
+#define IDC_EXTENT 2110
+#define IDC_COMPUTATION_LAST 2110
+#define IDC_POLAR 2111
+
+// Result of a computation; with IDC_MESSAGE and IDC_LEGEND
+#define IDC_REPORT 2115
+#define IDC_SHOW_PLAN 2116
+#define IDC_KEEP 2117
+
+// Point list dialog
+#define IDC_POINTS 2120
+#define IDC_LEGEND 2121
+#define IDC_EDIT 2122
+#define IDC_REMOVE 2123
+
+// Point entry dialog; IDC_NAME and IDC_MESSAGE are those of the name dialog, too
+#define IDC_KIND 2130
+#define IDC_NAME 2131
+#define IDC_N 2132
+#define IDC_E 2133
+#define IDC_Z 2134
+#define IDC_NO_HEIGHT 2135
+#define IDC_ADD 2136
+#define IDC_MESSAGE 2137
+
+// Angle dialog
+#define IDC_COMPUTE 2139
+#define IDC_FROM 2140
+#define IDC_DIRECTION 2141
+#define IDC_TURN 2142
+#define IDC_DISTANCE 2143
+
+// Journal dialog
+#define IDC_JOURNAL_TREE 2150
+#define IDC_JOURNAL_LINES 2151
+
+// Pages of the settings
+#define IDC_DECIMALS 2160
+#define IDC_SPIN 2161
+#define IDC_EXAMPLE 2162
+#define IDC_WHOLE_SECONDS 2163
+#define IDC_TENTHS 2164
+#define IDC_TOLERANCES 2165
+
+// Titles of the computations
+#define IDS_LINES 2200
+#define IDS_LINE_CIRCLE 2201
+#define IDS_CIRCLES 2202
+#define IDS_ARC_CENTRE 2203
+#define IDS_CURVE 2204
+#define IDS_BEARINGS 2205
+#define IDS_INVERSE 2206
+#define IDS_EXTENT 2207
+
+// What the user is asked for
+#define IDS_LINE1_START 2210
+#define IDS_LINE1_END 2211
+#define IDS_LINE2_START 2212
+#define IDS_LINE2_END 2213
+#define IDS_LINE_START 2214
+#define IDS_LINE_END 2215
+#define IDS_CIRCLE_CENTRE 2216
+#define IDS_CIRCLE_RADIUS 2217
+#define IDS_CIRCLE1_CENTRE 2218
+#define IDS_CIRCLE1_RADIUS 2219
+#define IDS_CIRCLE2_CENTRE 2220
+#define IDS_CIRCLE2_RADIUS 2221
+#define IDS_ARC_START 2222
+#define IDS_ARC_END 2223
+#define IDS_ARC_ANGLE 2224
+#define IDS_CURVE_START 2225
+#define IDS_CURVE_CENTRE 2226
+#define IDS_CURVE_END 2227
+#define IDS_BEARING_FROM_A 2228
+#define IDS_BEARING_A 2229
+#define IDS_BEARING_FROM_B 2230
+#define IDS_BEARING_B 2231
+#define IDS_INVERSE_FROM 2232
+#define IDS_INVERSE_TO 2233
+
+// Why an answer was refused
+#define IDS_UNKNOWN_POINT 2240
+#define IDS_BAD_RADIUS 2241
+#define IDS_BAD_ANGLE 2242
+#define IDS_BAD_DISTANCE 2243
+#define IDS_POINT_WITHOUT_NE 2244
+
+// Results
+#define IDS_FOUND 2250
+#define IDS_NOT_FOUND 2251
+#define IDS_INTERSECTION 2252
+#define IDS_CENTRE 2253
+#define IDS_CORNER 2254
+#define IDS_RADIUS_LINE 2255
+#define IDS_RADIUS_START 2256
+#define IDS_RADIUS_END 2257
+#define IDS_RADII_DIFFER 2258
+
+#define IDS_COMPUTED 2270
+#define IDS_SWEEP 2271
+#define IDS_ARC_LENGTH 2272
+#define IDS_BULGE 2273
+#define IDS_DISTANCE_LINE 2274
+#define IDS_SOUTH_WEST 2275
+#define IDS_NORTH_EAST 2276
+#define IDS_NORTH_SOUTH 2277
+#define IDS_EAST_WEST 2278
+#define IDS_NEW_POINT 2279
+#define IDS_SLOPE 2357
+#define IDS_NORTH_SOUTH_LINE 2358
+#define IDS_CHOOSE_SOLUTION 2354
+#define IDS_NEW_NAME 2355
+#define IDS_KEEP_POINT 2356
+
+// Why there is no result, in the order of Verdict, from SamePoint on
+#define IDS_VERDICT_FIRST 2260
+
+// Why a line of the file was left out, in the order of LineFault, from TooFewFields on
+#define IDS_FAULT_FIRST 2280
+
+// Main menu: the title without and with a points file, and the entries in the order of its commands
+#define IDS_TITLE 2290
+#define IDS_TITLE_POINTS 2291
+#define IDS_UNTITLED 2292
+#define IDS_MENU_FIRST 2460
+
+// File menu: the title, and the entries in the order of its commands
+#define IDS_FILE_MENU 2293
+#define IDS_FILE_MENU_FIRST 2470
+#define IDS_ASK_SAVE 2294
+#define IDS_ASK_GIVE_UP 2295
+#define IDS_BACKUP_KEPT 2296
+#define IDS_NO_BACKUP 2297
+#define IDS_NO_NAME 2298
+
+// Export: the columns in the order of Column
+#define IDS_EXPORT_COLUMNS 2380
+#define IDS_NO_COLUMNS 2381
+#define IDS_EXPORTED 2382
+#define IDS_EXPORT_OWN_FILE 2383
+#define IDS_COLUMN_FIRST 2384
+
+// File and points
+#define IDS_NOT_READ 2300
+#define IDS_BAD_LINES_TITLE 2302
+#define IDS_BAD_LINES 2303
+#define IDS_BAD_LINE 2304
+#define IDS_MORE_BAD_LINES 2305
+#define IDS_NO_FILE 2308
+#define IDS_NO_JOURNAL 2309
+
+// Point list and point entry
+#define IDS_COLUMN_NAME 2320
+#define IDS_USED_POINTS 2321
+#define IDS_ENTER_POINT 2322
+#define IDS_NAME_TAKEN 2323
+#define IDS_ADDED 2324
+#define IDS_NOT_WRITTEN 2325
+#define IDS_SELECT_POINT 2326
+#define IDS_ASK_REMOVE 2327
+#define IDS_EDIT_POINT 2328
+#define IDS_CHANGE_POINT 2329
+
+// Kinds of points, in the order of the beginnings of their names
+#define IDS_KIND_FIRST 2330
+
+// Angles
+#define IDS_POLAR 2340
+#define IDS_DIRECTION_LINE 2341
+
+// Journal
+#define IDS_RESULT_NUMBER 2350
+#define IDS_COLUMN_ITEM 2351
+#define IDS_COLUMN_VALUE 2352
+
+// Settings
+#define IDS_SETTINGS 2360
+#define IDS_EXAMPLE 2361
+#define IDS_TOLERANCE 2362
+#define IDS_TOLERANCE_CHOICE 2363
+#define IDS_NOT_SAVED 2364
