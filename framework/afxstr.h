@@ -94,8 +94,9 @@ public:
     /// Replaces the text; text of the other form is converted as by the constructor.
     ///@{
     CStringT& operator=(const CStringT& strSrc) {
-        CStringT strCopy(strSrc);
-        return *this = std::move(strCopy);
+        if (this != &strSrc)
+            Take(strSrc.Share());
+        return *this;
     }
     CStringT& operator=(CStringT&& strSrc) noexcept {
         std::swap(m_pData, strSrc.m_pData);
