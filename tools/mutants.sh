@@ -4,7 +4,7 @@
 
 mutants_folder=$build/mutants
 
-# Each folder, the build that has its tests, and those tests.
+# Each folder or file, the build that has its tests, and those tests.
 mutants_table='
 geometry host geometry
 survey host survey
@@ -19,6 +19,7 @@ companion win64 companion
 util host util fuzz_seeds
 controls win64 controls survey_window
 dialogs win64 dialogs
+survey/AngleEdit.cpp win64 survey_window
 '
 
 # run_mutants [FOLDER [each | N]]: of all folders without one; "each" tells what each assertion is
@@ -57,7 +58,7 @@ mutants_of() {
     workers=$(nproc)
     if [[ $preset == win64 ]]; then
         programs=("${programs[@]/%/.exe}")
-        through+=(--through wine --folder "$folder/")
+        through+=(--through wine --folder "$folder")
         workers=1 # the windows of two programs would take the focus from each other
     fi
     logged "reach-${folder//\//_}" see_reach "$preset" "${programs[@]}"

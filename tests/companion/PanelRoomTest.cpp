@@ -61,11 +61,7 @@ public:
     }
     /// Runs the steps, ends the dialog and closes the panel.
     void Run(std::initializer_list<fx::Step> steps) {
-        fx::ModalScript script;
-        for (const fx::Step& step : steps)
-            script.Until(step.run);
-        script.Then([this] { EndDialog(IDOK); });
-        EXPECT_EQ(IDOK, script.Run([this] { return DoModal(); }));
+        fx::PlayAndEnd(*this, steps);
         panel::Close();
     }
 

@@ -126,7 +126,7 @@ def main():
     parser.add_argument("--workers", type=int, default=1)
     parser.add_argument("--explained", required=True)
     parser.add_argument("--each", help="where the assertions that fail are written, as JSON")
-    parser.add_argument("--folder", default="", help="faults of files below it")
+    parser.add_argument("--folder", default="", help="faults of files whose names begin so")
     parser.add_argument("--one-in", type=int, default=1)
     parser.add_argument("faults")
     parser.add_argument("programs", nargs="+")
