@@ -1,6 +1,7 @@
 // What the device's shell does for dialogs: full screen, the OK button in the title bar,
 // the command bar. The screen is the device's or larger.
 #include "support/Form.h"
+#include "support/OwnProcess.h"
 #include "support/TitleBar.h"
 
 namespace {
@@ -116,23 +117,9 @@ TEST(ShellLibrary, OneThatLiesInTheCurrentFolderIsNotLoaded) {
     }
     // A library is looked for once, and another test may have asked: so a process of its own.
     const PlantedFolder planted;
-    wchar_t szCommand[] = L"test --gtest_filter=ShellLibrary.*";
-    wchar_t szProgram[MAX_PATH];
-    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, L"1");
-    STARTUPINFO startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    const BOOL bStarted = ::CreateProcess(szProgram, szCommand, nullptr, nullptr, FALSE, 0, nullptr,
-                                          planted.m_strFolder, &startup, &process);
+    EXPECT_EQ(0U, fx::RunOwnProcess(L"--gtest_filter=ShellLibrary.*", planted.m_strFolder));
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr);
-    ASSERT_TRUE(bStarted);
-    ::WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD nExitCode = 1;
-    ::GetExitCodeProcess(process.hProcess, &nExitCode);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    EXPECT_EQ(nExitCode, 0U);
 }
 
 } // namespace
