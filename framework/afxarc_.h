@@ -158,8 +158,7 @@ private:
     void StoreValue(Value value);
     template <class Value>
     void LoadValue(Value& value);
-    template <class Put>
-    bool ReadLine(UINT nMax, Put put);
+    bool ReadUnit(wchar_t& ch);
     void CheckMode(UINT nMode) const;
     void ReadAll(void* lpBuf, UINT nCount);
     bool FillBuffer();

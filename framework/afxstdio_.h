@@ -27,6 +27,7 @@ public:
     /// Reads a line without its end. @return zero at the end of the file, with an empty text.
     virtual BOOL ReadString(CString& rString);
 
+    /// As CFile's; fails too if the file that was open before cannot take what was written to it.
     BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
     /// Counts the bytes of the file.
     ULONGLONG GetPosition() const override;
@@ -50,18 +51,18 @@ public:
 
 private:
     static constexpr int kEnd = -1;
+    static constexpr UINT kBufferSize = 4096;
 
     int Peek();
     int Get();
     void Put(BYTE by);
-    template <class Sink>
-    bool ReadLine(UINT nMax, Sink put);
+    bool GetCharacter(wchar_t& ch);
     void WriteBack();
     void Settle();
 
     // Either bytes read and not used yet, from m_nFirst to m_nLast, or bytes to be written, up to
     // m_nLast.
-    std::unique_ptr<BYTE[]> m_pBuffer;
+    std::unique_ptr<BYTE[]> m_pBuffer = std::make_unique<BYTE[]>(kBufferSize);
     UINT m_nFirst = 0;
     UINT m_nLast = 0;
     bool m_bWriting = false;

@@ -1,4 +1,5 @@
 #include "afx.h"
+#include "ReadLine.h"
 #include "TextConvert.h"
 
 #include <algorithm>
@@ -122,32 +123,19 @@ void CArchive::WriteString(LPCTSTR lpsz) {
         *this << static_cast<WORD>(unit);
 }
 
-/// Hands out a line unit by unit, its end included. @return false at the end of the file
-template <class Put>
-bool CArchive::ReadLine(UINT nMax, Put put) {
-    UINT nDone = 0;
+/// The next character of what WriteString stored.
+bool CArchive::ReadUnit(wchar_t& ch) {
     BYTE unit[2];
-    for (wchar_t last = L'\0'; nDone < nMax && last != L'\n' && Read(unit, 2) == 2; ++nDone)
-        put(last = static_cast<wchar_t>(unit[0] | unit[1] << 8));
-    return nDone != 0;
+    if (Read(unit, 2) != 2)
+        return false;
+    ch = static_cast<wchar_t>(unit[0] | unit[1] << 8);
+    return true;
 }
 
 LPTSTR CArchive::ReadString(LPTSTR lpsz, UINT nMax) {
-    if (lpsz == nullptr || nMax == 0)
-        AfxThrowInvalidArgException();
-    LPTSTR p = lpsz;
-    if (!ReadLine(nMax - 1, [&](wchar_t ch) { *p++ = ch; }))
-        return nullptr;
-    *p = L'\0';
-    return lpsz;
+    return AfxReadString(lpsz, nMax, [this](wchar_t& ch) { return ReadUnit(ch); });
 }
 
 BOOL CArchive::ReadString(CString& rString) {
-    std::u16string units;
-    const bool bAny =
-        ReadLine(static_cast<UINT>(-1), [&](wchar_t ch) { units += static_cast<char16_t>(ch); });
-    if (!units.empty() && units.back() == u'\n')
-        units.pop_back();
-    rString = AfxFromUtf16(units).c_str();
-    return bAny ? TRUE : FALSE;
+    return AfxReadString(rString, [this](wchar_t& ch) { return ReadUnit(ch); });
 }

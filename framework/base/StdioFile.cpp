@@ -1,4 +1,5 @@
 #include "FileSystem.h"
+#include "ReadLine.h"
 #include "TextConvert.h"
 
 #include <cstring>
@@ -9,17 +10,24 @@ IMPLEMENT_DYNAMIC(CStdioFile, CFile)
 
 namespace {
 
-constexpr UINT kBufferSize = 4096;
 constexpr int kCtrlZ = 0x1A;
 
-// A pair of bytes would be cut if a line of narrow text ended at any byte.
-std::size_t BytesOfCharacter(BYTE lead) {
+// How narrow text is divided into characters.
 #ifdef _WIN32
+std::size_t BytesOfCharacter(BYTE lead) {
     return IsDBCSLeadByte(lead) ? 2 : 1;
-#else
-    return lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-#endif
 }
+bool IsTrailByte(int nByte) {
+    return nByte >= '0'; // no code page has control characters, blanks or commas there
+}
+#else
+std::size_t BytesOfCharacter(BYTE lead) {
+    return lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+}
+bool IsTrailByte(int nByte) {
+    return (nByte & 0xC0) == 0x80; // not kEnd either
+}
+#endif
 
 } // namespace
 
@@ -38,9 +46,17 @@ CStdioFile::~CStdioFile() {
 }
 
 BOOL CStdioFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
-    Abort();
-    if (m_pBuffer == nullptr)
-        m_pBuffer = std::make_unique<BYTE[]>(kBufferSize);
+    try {
+        CStdioFile::Close();
+    } catch (CFileException* e) {
+        if (pError != nullptr) {
+            pError->m_cause = e->m_cause;
+            pError->m_lOsError = e->m_lOsError;
+            pError->m_strFileName = e->m_strFileName;
+        }
+        e->Delete();
+        return FALSE;
+    }
     m_bText = (nOpenFlags & typeBinary) == 0;
     return CFile::Open(lpszFileName, nOpenFlags, pError);
 }
@@ -98,53 +114,34 @@ void CStdioFile::Settle() {
     m_nFirst = m_nLast = 0;
 }
 
-/// Hands out a line character by character, its end included.
-/// @param nMax the most characters
+/// The next character; of a damaged one only what belongs to it is used up.
 /// @return false at the end of the file
-template <class Sink>
-bool CStdioFile::ReadLine(UINT nMax, Sink put) {
-    UINT nDone = 0;
-    for (wchar_t last = L'\0'; nDone < nMax && last != L'\n'; ++nDone) {
-        const int nFirst = Get();
-        if (nFirst == kEnd)
-            break;
-        const auto lead = static_cast<char>(nFirst);
-        const std::size_t nBytes = m_bText ? BytesOfCharacter(static_cast<BYTE>(nFirst)) : 2;
-        char bytes[4] = {lead};
-        std::size_t nRead = 1;
-        for (; nRead < nBytes && Peek() != kEnd; ++nRead)
-            bytes[nRead] = static_cast<char>(Get());
-        if (m_bText && nBytes == 1 && static_cast<unsigned char>(lead) < 0x80) {
-            put(last = static_cast<wchar_t>(lead));
-        } else if (m_bText) {
-            for (const wchar_t ch : AfxWiden({bytes, nRead}))
-                put(last = ch);
-        } else {
-            const unsigned nUnit = static_cast<unsigned char>(bytes[0]) | static_cast<unsigned char>(bytes[1])
-                                                                              << 8;
-            put(last = static_cast<wchar_t>(nUnit));
-        }
+bool CStdioFile::GetCharacter(wchar_t& ch) {
+    BYTE bytes[4];
+    if (!m_bText) {
+        if (CStdioFile::Read(bytes, 2) != 2)
+            return false;
+        ch = static_cast<wchar_t>(bytes[0] | bytes[1] << 8);
+        return true;
     }
-    return nDone != 0;
+    const int nLead = Get();
+    if (nLead == kEnd)
+        return false;
+    bytes[0] = static_cast<BYTE>(nLead);
+    std::size_t nBytes = 1;
+    for (const std::size_t nWhole = BytesOfCharacter(bytes[0]); nBytes < nWhole && IsTrailByte(Peek());)
+        bytes[nBytes++] = static_cast<BYTE>(Get());
+    ch = nLead < 0x80 ? static_cast<wchar_t>(nLead)
+                      : AfxWiden({reinterpret_cast<const char*>(bytes), nBytes}).front();
+    return true;
 }
 
 LPTSTR CStdioFile::ReadString(LPTSTR lpsz, UINT nMax) {
-    if (lpsz == nullptr || nMax == 0)
-        AfxThrowInvalidArgException();
-    LPTSTR p = lpsz;
-    if (!ReadLine(nMax - 1, [&](wchar_t ch) { *p++ = ch; }))
-        return nullptr;
-    *p = L'\0';
-    return lpsz;
+    return AfxReadString(lpsz, nMax, [this](wchar_t& ch) { return GetCharacter(ch); });
 }
 
 BOOL CStdioFile::ReadString(CString& rString) {
-    CString strLine;
-    const bool bAny = ReadLine(static_cast<UINT>(-1), [&](wchar_t ch) { strLine += ch; });
-    if (!strLine.IsEmpty() && strLine[strLine.GetLength() - 1] == L'\n')
-        strLine.Truncate(strLine.GetLength() - 1);
-    rString = std::move(strLine);
-    return bAny ? TRUE : FALSE;
+    return AfxReadString(rString, [this](wchar_t& ch) { return GetCharacter(ch); });
 }
 
 void CStdioFile::WriteString(LPCTSTR lpsz) {

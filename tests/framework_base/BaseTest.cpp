@@ -58,7 +58,7 @@ TEST(Collections, TypedOnesHoldTheirType) {
     CTypedPtrMap<CMapStringToPtr, CString, int*> map;
     map[L"a"] = &value;
     int* pFound = nullptr;
-    EXPECT_TRUE(map.Lookup(L"a", pFound) && pFound == &value);
+    EXPECT_TRUE(!map.Lookup(L"b", pFound) && map.Lookup(L"a", pFound) && pFound == &value);
     CString key;
     pos = map.GetStartPosition();
     map.GetNextAssoc(pos, key, pFound);
@@ -76,97 +76,31 @@ TEST(Collections, MapsKeepTheOrderAndFindManyKeys) {
          pPair = map.PGetNextAssoc(pPair), expected += 2)
         EXPECT_TRUE(pPair->value == expected && map.PLookup(expected * 17) == pPair);
     EXPECT_EQ(1001, expected);
-    map.InitHashTable(1);
+    map.InitHashTable(0);
     EXPECT_NE(nullptr, map.PLookup(17));
-}
-
-TEST(Time, PartsAndText) {
-    const CTime time(2024, 2, 29, 13, 5, 9);
-    EXPECT_TRUE(time.GetYear() == 2024 && time.GetMonth() == 2 && time.GetDay() == 29 &&
-                time.GetHour() == 13 && time.GetMinute() == 5 && time.GetSecond() == 9 &&
-                time.GetDayOfWeek() == 5);
-    EXPECT_STREQ(L"2024-02-29 13:05:09", time.Format(L"%Y-%m-%d %H:%M:%S"));
-    EXPECT_STREQ(L"", time.Format(L""));
-    EXPECT_STREQ(L"1970", CTime(0).FormatGmt(L"%Y"));
-    EXPECT_EQ(time, CTime((44 << 9 | 2 << 5 | 29) & 0xFFFF, 13 << 11 | 5 << 5 | 4) + CTimeSpan(1));
-    EXPECT_EQ(2999, CTime(2999, 12, 31, 0, 0, 0).GetYear());
-    for (const auto make : {+[] { CTime(1969, 1, 1, 0, 0, 0); }, +[] { CTime(3001, 1, 1, 0, 0, 0); },
-                            +[] { CTime(2000, 13, 1, 0, 0, 0); }, +[] { CTime(2000, 1, 1, 24, 0, 0); }})
-        EXPECT_TRUE(Throws<CInvalidArgException>(make));
-    const CTimeSpan span = CTime(2024, 3, 2, 15, 7, 12) - time;
-    EXPECT_STREQ(L"2 days 02:02:03 %", span.Format(L"%D days %H:%M:%S %%"));
-    EXPECT_TRUE(span.GetTotalHours() == 50 && span.GetTotalMinutes() == 50 * 60 + 2);
-    EXPECT_THROW(span.Format(L"%Y"), CInvalidArgException*);
-    CTime loaded;
-    Loaded(Stored([&](CArchive& ar) { ar << time << span; }), [&](CArchive& ar) { ar >> loaded; });
-    EXPECT_EQ(time, loaded);
-}
-
-class StdioFile : public testing::Test {
-protected:
-    void SetUp() override { std::filesystem::remove("stdio.txt"); }
-    void TearDown() override { SetUp(); }
-    Bytes OnDisk() {
-        CFile file(L"stdio.txt", CFile::modeRead | CFile::shareDenyNone);
-        return ContentOf(file);
-    }
-};
-
-TEST_F(StdioFile, LinesHaveTheirEndsInTheFile) {
-    CStdioFile file(L"stdio.txt", CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone);
-    file.WriteString(L"one\n\ntwo");
-    EXPECT_EQ(10U, file.GetPosition());
-    file.Flush();
-    EXPECT_EQ("6f 6e 65 0d 0a 0d 0a 74 77 6f", ToHex(OnDisk()));
-    file.SeekToBegin();
-    CString line = L"old";
-    TCHAR text[3];
-    EXPECT_STREQ(L"on", file.ReadString(text, 3));
-    EXPECT_EQ(2U, file.GetPosition());
-    EXPECT_TRUE(file.ReadString(line) && line == L"e");
-    EXPECT_TRUE(file.ReadString(line) && line.IsEmpty());
-    file.Write("!", 1); // where reading stopped
-    file.SeekToBegin();
-    char bytes[20] = {};
-    EXPECT_EQ(8U, file.Read(bytes, 20));
-    EXPECT_STREQ("one\n\n!wo", bytes);
-    EXPECT_FALSE(file.ReadString(line));
-    EXPECT_EQ(nullptr, file.ReadString(text, 3));
-}
-
-TEST_F(StdioFile, BinaryKeepsCharactersAsTheyAre) {
-    {
-        CStdioFile file(L"stdio.txt", CFile::modeCreate | CFile::modeWrite | CFile::typeBinary);
-        file.WriteString(L"\xFEFFz\r\n");
-    }
-    EXPECT_EQ("ff fe 7a 00 0d 00 0a 00", ToHex(OnDisk()));
-    CStdioFile file(L"stdio.txt", CFile::modeRead | CFile::typeBinary);
-    file.Seek(2, CFile::begin);
-    CString line;
-    EXPECT_TRUE(file.ReadString(line) && line == L"z\r");
-}
-
-TEST_F(StdioFile, LongTextsPassTheBuffer) {
-    const CString text(L'\x3042', 5000);
-    {
-        CStdioFile file(L"stdio.txt", CFile::modeCreate | CFile::modeWrite);
-        for (int i = 0; i < 3; ++i)
-            file.WriteString(CString(L'x', 4095) + L"\n");
-    }
-    CStdioFile file(L"stdio.txt", CFile::modeRead);
-    CString line;
-    for (int i = 0; i < 3; ++i)
-        EXPECT_TRUE(file.ReadString(line) && line.GetLength() == 4095);
-    EXPECT_FALSE(file.ReadString(line));
+    CMap<ULONGLONG, ULONGLONG, int, int> large; // of one hash number
+    large[1] = 1;
+    large[1ULL << 32 | 1] = 2;
+    EXPECT_EQ(1, large[1]);
+    CMapPtrToPtr pointers;
+    pointers[&map] = &large;
+    EXPECT_EQ(&large, pointers.PLookup(&map)->value);
+    CMap<CStringA, LPCSTR, int, int> narrow;
+    narrow["a"] = 1;
+    EXPECT_TRUE(narrow.PLookup("b") == nullptr && narrow.PLookup("a")->value == 1);
 }
 
 TEST(ArchiveLines, AreReadUpToTheirEnd) {
-    const Bytes bytes = Stored([](CArchive& ar) { ar.WriteString(L"ab\nc"), ar << CStringA("\x61z"); });
+    const Bytes bytes = Stored(
+        [](CArchive& ar) { ar.WriteString(L"ab\nc"), ar.WriteString(nullptr), ar << CStringA("\x61z"); });
     EXPECT_EQ("61 00 62 00 0a 00 63 00 02 61 7a", ToHex(bytes));
     Loaded(bytes, [](CArchive& ar) {
         CString line;
         TCHAR text[10];
+        ar.SetLoadParams(), ar.SetStoreParams(); // nothing
         EXPECT_TRUE(ar.ReadString(line) && line == L"ab");
+        EXPECT_THROW(ar.ReadString(nullptr, 2), CInvalidArgException*);
+        EXPECT_THROW(ar.ReadString(text, 0), CInvalidArgException*);
         EXPECT_STREQ(L"c", ar.ReadString(text, 2));
         EXPECT_FALSE(ar.IsBufferEmpty());
         CStringA narrow;
@@ -182,35 +116,84 @@ public:
     ~CCounted() override { ++g_deleted; }
 };
 
+// clang-format off
+template <class Exception>
+int BlockThatCatches(Exception* pException) {
+    TRY {
+        THROW(pException);
+    }
+    CATCH(CFileException, e) {
+        return 1;
+    }
+    AND_CATCH(CCounted, e) {
+        EXPECT_EQ(0, g_deleted);
+        return 2;
+    }
+    AND_CATCH_ALL(e) {
+        return 3;
+    }
+    END_CATCH_ALL
+}
+
 TEST(ExceptionMacros, DeleteWhatIsNotThrownOn) {
     g_deleted = 0;
-    TRY{TRY{THROW(new CCounted);
+    EXPECT_EQ(1, BlockThatCatches(new CFileException));
+    EXPECT_EQ(2, BlockThatCatches(new CCounted));
+    EXPECT_EQ(1, g_deleted);
+    EXPECT_EQ(3, BlockThatCatches(new CUserException));
+    TRY {
+        TRY {
+            THROW(new CCounted);
+        }
+        CATCH_ALL(e) {
+            THROW_LAST();
+        }
+        END_CATCH_ALL
+    }
+    CATCH(CCounted, e) {
+        EXPECT_EQ(1, g_deleted);
+    }
+    END_CATCH
+    EXPECT_EQ(2, g_deleted);
+    TRY {
+        THROW(new CCounted);
+    }
+    END_TRY
+    EXPECT_EQ(3, g_deleted);
 }
-CATCH(CFileException, e) {
-    ADD_FAILURE();
-}
-AND_CATCH(CCounted, e) {
-    EXPECT_EQ(0, g_deleted);
-    THROW_LAST();
-}
-END_CATCH
-} // namespace
-CATCH_ALL(e) {
-    EXPECT_EQ(0, g_deleted);
-}
-END_CATCH_ALL
-EXPECT_EQ(1, g_deleted);
-}
+// clang-format on
 
-TEST(Diagnostics, DumpsAndPieces) {
-    CMemFile file;
+class CFlushed : public CMemFile {
+public:
+    void Flush() override { m_bFlushed = true; }
+    bool m_bFlushed = false;
+};
+
+TEST(Diagnostics, DumpsGoToAFileOrTheTrace) {
+    CFlushed file;
     CDumpContext dc(&file);
-    dc << L"w" << "n" << 5 << -1L << 2.5 << static_cast<LPCTSTR>(nullptr) << static_cast<CObject*>(nullptr);
+    dc << L"w" << "n" << 5 << 6U << -1L << 2.5F << LPCWSTR{nullptr} << LPCSTR{nullptr}
+       << static_cast<CObject*>(nullptr);
     const BYTE bytes[] = {1, 0xAB, 3};
     dc.HexDump(L">", bytes, 3, 2);
+    const CNamed object;
+    dc << object;
+    dc.Flush();
+    EXPECT_TRUE(file.m_bFlushed);
     const Bytes written = ContentOf(file);
-    EXPECT_EQ("wn5-12.5NULLNULL> 01 AB\n> 03\n", std::string(written.begin(), written.end()));
+    const std::string text(written.begin(), written.end());
+    EXPECT_EQ("wn56-12.5NULLNULLNULL> 01 AB\n> 03\na CNamed at $", text.substr(0, 47));
+    testing::internal::CaptureStderr();
+    AfxDump(&object);
+    afxDump.Flush();
+    EXPECT_EQ(text.substr(34), testing::internal::GetCapturedStderr());
+    dc.SetDepth(dc.GetDepth() + 1);
+    EXPECT_EQ(1, dc.GetDepth());
+    EXPECT_TRUE(AfxIsValidAddress(bytes, 3) && AfxIsValidString(L"") && AfxIsValidString(""));
+    EXPECT_FALSE(AfxIsValidAddress(nullptr, 3) || AfxIsValidString(LPCWSTR{}) || AfxIsValidString(LPCSTR{}));
+}
 
+TEST(Diagnostics, PiecesOfTexts) {
     const struct {
         int index;
         LPCTSTR piece;
@@ -222,7 +205,8 @@ TEST(Diagnostics, DumpsAndPieces) {
         EXPECT_STREQ(row.piece, piece);
     }
     using namespace std; // both are in reach
-    EXPECT_TRUE(min(1, 2) == 1 && max(1, 2.5) == 2.5 && max(1U, 2UL) == 2);
+    for (const int n : {1, 4})
+        EXPECT_TRUE(min(n, 2.5) == (n == 1 ? 1 : 2.5) && max(n, 2UL) == (n == 1 ? 2 : 4));
 }
 
 } // namespace

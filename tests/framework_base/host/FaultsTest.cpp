@@ -37,10 +37,6 @@ void ExpectAllOrNothing(Make make, Look look, const Change<Object> (&changes)[N]
     }
 }
 
-std::vector<CString> TextsOf(const CStringArray& array) {
-    return {array.GetData(), array.GetData() + array.GetSize()};
-}
-
 std::vector<CString> TextsOf(const CStringList& list) {
     std::vector<CString> texts;
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
@@ -74,41 +70,49 @@ TEST(Faults, StringsChangeWhollyOrNotAtAll) {
              int n = 0;
              s = s.Tokenize(L"x", n) + s.Tokenize(L"x", n);
          }},
-        {"Format", [](CString& s) { s.Format(L"%s %d %hs %40.3f %c", kLong, 5, "narrow", 1.5, L'x'); }},
+        {"Format", [](CString& s) { s.Format(L"%s %d %hs %#40.3f %c", kLong, 5, "narrow", 1.5, L'x'); }},
         {"AppendFormat", [](CString& s) { s.AppendFormat(L"%-100d|%p", 5, nullptr); }},
     };
     ExpectAllOrNothing([] { return std::make_unique<CString>(kLong); }, [](const CString& s) { return s; },
                        changes);
 }
 
+// Strings of the framework share their text, so that copying one cannot fail.
+using Texts = CArray<std::string, const std::string&>;
+} // namespace
+
+template <>
+void SerializeElements(CArchive&, std::string*, INT_PTR) {}
+
+namespace {
+
 TEST(Faults, ArraysChangeWhollyOrNotAtAll) {
-    CStringArray three;
+    const std::string text = "a text that is longer than any small string";
+    Texts three;
     for (int i = 0; i < 3; ++i)
-        three.Add(kLong);
-    CStringArray five;
+        three.Add(text);
+    Texts five;
     five.SetSize(5);
-    five[4] = kLong;
+    five[4] = text;
     const auto make = [&] {
-        auto pArray = std::make_unique<CStringArray>();
+        auto pArray = std::make_unique<Texts>();
         pArray->Append(three);
         return pArray;
     };
-    const Change<CStringArray> changes[] = {
-        {"Add", [](CStringArray& a) { a.Add(kLong); }},
-        {"SetSize", [](CStringArray& a) { a.SetSize(100); }},
-        {"SetAt", [](CStringArray& a) { a.SetAt(1, CString(kLong) + kLong); }},
-        {"SetAtGrow", [](CStringArray& a) { a.SetAtGrow(9, kLong); }},
-        {"InsertAt", [](CStringArray& a) { a.InsertAt(1, kLong, 4); }},
-        {"InsertAt behind", [](CStringArray& a) { a.InsertAt(7, kLong, 2); }},
-        {"InsertAt array", [&](CStringArray& a) { a.InsertAt(1, &three); }},
-        {"Append", [&](CStringArray& a) { a.Append(three); }},
-        {"Append itself", [](CStringArray& a) { a.Append(a); }},
-        {"Copy", [&](CStringArray& a) { a.Copy(five); }},
-        {"Serialize",
-         [](CStringArray& a) { static_cast<void>(Stored([&](CArchive& ar) { a.Serialize(ar); })); }},
+    const Change<Texts> changes[] = {
+        {"Add", [&](Texts& a) { a.Add(text); }},
+        {"SetSize", [](Texts& a) { a.SetSize(100); }},
+        {"SetAt", [&](Texts& a) { a.SetAt(1, text + text); }},
+        {"SetAtGrow", [&](Texts& a) { a.SetAtGrow(9, text); }},
+        {"InsertAt", [&](Texts& a) { a.InsertAt(1, text, 4); }},
+        {"InsertAt behind", [&](Texts& a) { a.InsertAt(7, text, 2); }},
+        {"InsertAt array", [&](Texts& a) { a.InsertAt(1, &three); }},
+        {"Append", [&](Texts& a) { a.Append(three); }},
+        {"Append itself", [](Texts& a) { a.Append(a); }},
+        {"Copy", [&](Texts& a) { a.Copy(five); }},
     };
     ExpectAllOrNothing(
-        make, [](const CStringArray& a) { return TextsOf(a); }, changes);
+        make, [](const Texts& a) { return std::vector(a.GetData(), a.GetData() + a.GetSize()); }, changes);
 }
 
 TEST(Faults, ListsAndMapsChangeWhollyOrNotAtAll) {
@@ -218,6 +222,13 @@ protected:
         file.Close();
         CFile::Rename(Path("a"), Path("b"));
         CFile::Remove(Path("b"));
+        CStdioFile lines(Path("a"), kMode);
+        lines.WriteString(L"one\ntwo\n");
+        lines.SeekToBegin();
+        CString line;
+        EXPECT_TRUE(lines.ReadString(line) && line == L"one");
+        lines.Write("2", 1);
+        lines.Close();
     }
 
     std::filesystem::path m_folder;
@@ -293,6 +304,33 @@ TEST_F(FaultsOfFiles, ADiskThatIsFullHalfWayKeepsTheFirstHalf) {
     EXPECT_NO_THROW(file.Abort());
     EXPECT_TRUE(faults::Disarm());
     EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
+}
+
+TEST_F(FaultsOfFiles, LinesThatTheDiskDoesNotTakeAreReported) {
+    const auto written = [&](CStdioFile& file) {
+        EXPECT_TRUE(file.Open(Path("a"), CFile::modeCreate | CFile::modeWrite));
+        file.WriteString(L"x");
+        FailCall("write", ENOSPC);
+    };
+    CStdioFile file;
+    written(file);
+    CFileException error;
+    EXPECT_FALSE(file.Open(Path("b"), CFile::modeCreate | CFile::modeWrite, &error));
+    EXPECT_TRUE(error.m_cause == CFileException::diskFull && error.m_lOsError == ENOSPC);
+    EXPECT_STREQ(Path("a"), error.m_strFileName);
+    written(file);
+    EXPECT_FALSE(file.Open(Path("b"), CFile::modeCreate | CFile::modeWrite));
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "b"));
+    written(file);
+    EXPECT_TRUE(Throws<CFileException>([&] { file.Close(); }));
+    EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
+    const faults::Use before = faults::Now();
+    EXPECT_NO_THROW({
+        CStdioFile last;
+        written(last);
+    });
+    EXPECT_TRUE(faults::Disarm());
+    EXPECT_EQ(before, faults::Now());
 }
 
 TEST_F(FaultsOfFiles, WhatTheSystemCannotDoChangesNothing) {
