@@ -437,6 +437,7 @@ private:
         if (pData->nAllocLength == 0)
             return;
         // The only owner needs no locked operation: nobody else can share what he does not give.
+        // unreachable: the second without the first, unless another thread drops its copy meanwhile
         if (pData->nRefs.load(std::memory_order_acquire) <= 1 ||
             pData->nRefs.fetch_sub(1, std::memory_order_acq_rel) == 1)
             Free(pData);

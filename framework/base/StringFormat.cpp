@@ -196,12 +196,12 @@ long long SignedArgument(Size size, Arguments& args) {
 
 unsigned long long UnsignedArgument(Size size, Arguments& args) {
     const auto value = static_cast<unsigned long long>(SignedArgument(size, args));
-    const std::size_t bytes = size == Size::byte                                 ? 1
-                              : size == Size::narrow                             ? sizeof(short)
-                              : size == Size::normal || size == Size::longdouble ? sizeof(int)
-                              : size == Size::wide                               ? sizeof(long)
-                              : size == Size::pointer                            ? sizeof(std::ptrdiff_t)
-                                                                                 : sizeof(value);
+    const std::size_t bytes = size == Size::byte       ? 1
+                              : size == Size::narrow   ? sizeof(short)
+                              : size == Size::wide     ? sizeof(long)
+                              : size == Size::pointer  ? sizeof(std::ptrdiff_t)
+                              : size == Size::longlong ? sizeof(value)
+                                                       : sizeof(int);
     return value & ~0ULL >> 8 * (sizeof(value) - bytes);
 }
 

@@ -41,7 +41,8 @@ inline int ToLength(std::size_t n) {
 
 /// A text that grows again doubles, so that each character is moved a few times only.
 inline int GrownRoom(int nOld, int nNew) noexcept {
-    return nOld < std::numeric_limits<int>::max() / 2 ? std::max(nNew, 2 * nOld) : nNew;
+    constexpr auto kMost = static_cast<std::size_t>(std::numeric_limits<int>::max());
+    return static_cast<int>(std::min(kMost, std::max(Count(nNew), 2 * Count(nOld))));
 }
 
 } // namespace fieldkit::detail
@@ -222,7 +223,7 @@ template <class Char>
 void CStringT<Char>::FreeExtra() {
     if (GetLength() == 0)
         Empty();
-    else if (GetAllocLength() > GetLength())
+    else
         Take(NewData(GetString(), GetLength(), GetLength()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "TextConvert.h"
 
+#include <cctype>
 #include <cstdint>
 #include <cstring>
 #include <cwchar>
@@ -128,10 +129,16 @@ void fieldkit::detail::AfxSystemLower(wchar_t* text, std::size_t length) noexcep
         ch = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
 }
 
-// What is left is no letter that the C locale knows.
-void fieldkit::detail::AfxSystemUpper(char* /*text*/, std::size_t /*length*/) noexcept {}
+// Pieces of characters stay as they are.
+void fieldkit::detail::AfxSystemUpper(char* text, std::size_t length) noexcept {
+    for (char& ch : std::span(text, length))
+        ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+}
 
-void fieldkit::detail::AfxSystemLower(char* /*text*/, std::size_t /*length*/) noexcept {}
+void fieldkit::detail::AfxSystemLower(char* text, std::size_t length) noexcept {
+    for (char& ch : std::span(text, length))
+        ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+}
 
 wchar_t fieldkit::detail::AfxToLower(wchar_t ch) noexcept {
     return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));

@@ -6,9 +6,8 @@
 
 #include "afx.h"
 
-#include <algorithm>
 #include <cwchar>
-#include <vector>
+#include <string>
 
 namespace {
 
@@ -20,12 +19,17 @@ std::tm& OfThread() {
     return parts;
 }
 
+bool IsKnown(LONGLONG time) {
+    constexpr LONGLONG kLastTime = 32'535'215'999; // of the year 3000
+    return time >= 0 && time <= kLastTime;
+}
+
 #ifdef _WIN32
 bool ToLocal(LONGLONG time, std::tm& parts) {
-    return _localtime64_s(&parts, &time) == 0;
+    return IsKnown(time) && _localtime64_s(&parts, &time) == 0;
 }
 bool ToUniversal(LONGLONG time, std::tm& parts) {
-    return _gmtime64_s(&parts, &time) == 0;
+    return IsKnown(time) && _gmtime64_s(&parts, &time) == 0;
 }
 LONGLONG FromLocal(std::tm& parts) {
     return _mktime64(&parts);
@@ -33,11 +37,13 @@ LONGLONG FromLocal(std::tm& parts) {
 #else
 bool ToLocal(LONGLONG time, std::tm& parts) {
     const auto value = static_cast<std::time_t>(time);
-    return time >= 0 && localtime_r(&value, &parts) != nullptr;
+    localtime_r(&value, &parts);
+    return IsKnown(time);
 }
 bool ToUniversal(LONGLONG time, std::tm& parts) {
     const auto value = static_cast<std::time_t>(time);
-    return time >= 0 && gmtime_r(&value, &parts) != nullptr;
+    gmtime_r(&value, &parts);
+    return IsKnown(time);
 }
 LONGLONG FromLocal(std::tm& parts) {
     return std::mktime(&parts);
@@ -65,24 +71,17 @@ LONGLONG Compose(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec,
     parts.tm_sec = nSec;
     parts.tm_isdst = nDST;
     const LONGLONG time = FromLocal(parts);
-    if (time == -1)
+    if (time < 0)
         AfxThrowInvalidArgException(); // before the beginning, east of Greenwich
     return time;
 }
 
 CString FormatParts(LPCTSTR pszFormat, const std::tm& parts) {
-    // The C library does not tell a short buffer from an empty result: the blank makes it longer.
-    const CString strFormat = CString(pszFormat) + L' ';
-    CString text;
-    constexpr int kMost = 1 << 16;
-    for (int nRoom = 128; nRoom <= kMost; nRoom *= 4) {
-        const std::size_t nLength =
-            std::wcsftime(text.GetBuffer(nRoom), static_cast<std::size_t>(nRoom), strFormat, &parts);
-        text.ReleaseBuffer(nLength > 0 ? static_cast<int>(nLength) - 1 : 0);
-        if (nLength > 0)
-            break;
-    }
-    return text;
+    constexpr std::size_t kMostOfOne = 128; // characters that a conversion makes
+    const CString strFormat = pszFormat;
+    std::wstring text(kMostOfOne * (static_cast<std::size_t>(strFormat.GetLength()) + 1), L'\0');
+    const std::size_t nLength = std::wcsftime(text.data(), text.size(), strFormat, &parts);
+    return {text.data(), static_cast<int>(nLength)};
 }
 
 CArchive& Serialize(CArchive& ar, LONGLONG& value) {

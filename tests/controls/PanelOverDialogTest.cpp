@@ -68,9 +68,10 @@ bool PanelIsSeen() {
     return image.Has(CRect(0, 0, place.right, place.top), fx::MAGENTA) && !image.Has(place, fx::MAGENTA);
 }
 
-/// Runs the steps and ends the dialog; the panel goes with the dialog's field.
-void PlayWithPanel(CDialog& dialog, std::initializer_list<fx::Step> steps) {
-    fx::PlayAndEnd(dialog, steps);
+/// Runs the dialog with the script; the panel goes with the dialog's field.
+void RunDialog(CDialog& dialog, fx::ModalScript& script) {
+    script.Then([&] { dialog.EndDialog(IDOK); });
+    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
     EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
 }
 
@@ -78,52 +79,74 @@ TEST(PanelOverDialog, IsSeenWhenTheDialogOpensWithItsFieldFocused) {
     for (const AddField addField : {AddEdit, AddCombo, AddChoice}) {
         for (const auto order : {FirstFieldDialog::BeforeBase, FirstFieldDialog::AfterBase}) {
             FirstFieldDialog dlg(addField, nullptr, order);
-            PlayWithPanel(dlg, {PanelIsSeen});
+            fx::ModalScript script;
+            script.Until(PanelIsSeen);
+            RunDialog(dlg, script);
         }
     }
 }
 
+/// A page whose first field is attached last of all.
+class FirstFieldPage : public CnPropertyPage {
+public:
+    FirstFieldPage() : CnPropertyPage(201) {}
+
+protected:
+    BOOL OnInitDialog() override {
+        CnPropertyPage::OnInitDialog();
+        m_edit.Attach(IDC_EDIT, this, SipOptionMode0);
+        return TRUE;
+    }
+
+private:
+    CnEdit m_edit;
+};
+
 TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
-    class Page : public CnPropertyPage {
-    public:
-        Page() : CnPropertyPage(201) {}
-        BOOL OnInitDialog() override {
-            return CnPropertyPage::OnInitDialog(), m_edit.Attach(IDC_EDIT, this, SipOptionMode0), TRUE;
-        }
-        CnEdit m_edit; // attached last of all
-    } page;
+    FirstFieldPage page;
     CnPropertySheet sheet(L"設定", nullptr, 0);
     sheet.AddPage(&page);
-    fx::PlayAndEnd(sheet, {fx::PanelIsVisible});
+    fx::ModalScript script;
+    script.Until(fx::PanelIsVisible).Then([&] { sheet.EndDialog(IDOK); });
+    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
     FirstFieldDialog first(AddEdit);
     FirstFieldDialog second(AddCombo, &first);
-    PlayWithPanel(first,
-                  {PanelIsSeen, [&] { second.DoModal(); }, PanelIsSeen, [&] { second.EndDialog(IDOK); },
-                   [&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); }});
+    fx::ModalScript script;
+    script.Until(PanelIsSeen)
+        .Then([&] { second.DoModal(); })
+        .Until(PanelIsSeen)
+        .Then([&] { second.EndDialog(IDOK); })
+        .Until([&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); });
+    RunDialog(first, script);
 }
 
 TEST(PanelOverDialog, StaysBelowTheListThatDropsOverIt) {
     FirstFieldDialog dlg(AddCombo);
     COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
     CRect list;
     ULONGLONG nDropped = 0;
-    const auto drop = [&] {
-        for (int i = 0; i < 20; ++i)
-            dlg.m_combo.AddString(L"測点");
-        dlg.m_combo.ShowDropDown();
-        dlg.m_combo.GetComboBoxInfo(&info);
-        list = fx::RectOf(info.hwndList);
-        nDropped = ::GetTickCount64();
-    };
-    const auto look = [&] {
-        const CRect panel = fx::RectOf(::FindWindow(L"TesuvoInputPanel", nullptr));
-        ASSERT_GT(list.bottom, panel.top + 4);
-        EXPECT_EQ(info.hwndList, ::WindowFromPoint(CPoint(list.left + 4, panel.top + 4)));
-    };
-    PlayWithPanel(dlg, {PanelIsSeen, drop, [&] { return ::GetTickCount64() > nDropped + 300; }, look});
+    fx::ModalScript script;
+    script.Until(PanelIsSeen)
+        .Then([&] {
+            for (int i = 0; i < 20; ++i)
+                dlg.m_combo.AddString(L"測点");
+            dlg.m_combo.ShowDropDown();
+            ::GetComboBoxInfo(dlg.m_combo, &info);
+            ::GetWindowRect(info.hwndList, list);
+            nDropped = ::GetTickCount64();
+        })
+        .Until([&] { return ::GetTickCount64() > nDropped + 300; })
+        .Then([&] {
+            CRect panel;
+            ::GetWindowRect(::FindWindow(L"TesuvoInputPanel", nullptr), panel);
+            ASSERT_GT(list.bottom, panel.top + 4);
+            EXPECT_EQ(::WindowFromPoint(CPoint(list.left + 4, panel.top + 4)), info.hwndList);
+        });
+    RunDialog(dlg, script);
 }
 
 } // namespace

@@ -92,23 +92,25 @@ TEST(nDialog, TakesItsIconForBothSizes) {
 // --- Ending ------------------------------------------------------------------------------
 
 TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
-    const DWORD dwSwallow = CnDialog::OptionSwallowKeys;
-    const struct {
+    struct Row {
         DWORD option;
         WORD key;
         INT_PTR result;
-    } rows[] = {{0, VK_RETURN, IDOK},
-                {0, VK_ESCAPE, IDCANCEL},
-                {dwSwallow, VK_RETURN, 77},
-                {dwSwallow, VK_ESCAPE, 77}};
-    for (const auto& row : rows) {
+    };
+    const Row rows[] = {
+        {0, VK_RETURN, IDOK},
+        {0, VK_ESCAPE, IDCANCEL},
+        {CnDialog::OptionSwallowKeys, VK_RETURN, 77},
+        {CnDialog::OptionSwallowKeys, VK_ESCAPE, 77},
+    };
+    for (const Row& row : rows) {
         Dialog dlg(CnDialog::OptionPopup | row.option);
-        const auto type = [&] { pen::TypeKeys({row.key}); };
+        fx::ModalScript script;
+        script.Then([&] { pen::TypeKeys({row.key}); });
         int nWaited = 0;
-        const auto wait = [&] { return ++nWaited == 10; };
-        const auto end = [&] { dlg.EndDialog(77); };
-        EXPECT_EQ(row.result, row.result == 77 ? fx::Play(dlg, {type, wait, end}) : fx::Play(dlg, {type}))
-            << row.option << ' ' << row.key;
+        if (row.result == 77)
+            script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
+        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.option << ' ' << row.key;
     }
 }
 
@@ -124,9 +126,11 @@ TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
         int m_nAsked = 0;
     };
     Asking dlg(CnDialog::OptionPopup);
-    const auto close = [&] { dlg.PostMessage(WM_CLOSE); };
-    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {close, [&] { return dlg.m_nAsked == 1; }, close}));
-    EXPECT_EQ(2, dlg.m_nAsked);
+    fx::ModalScript script;
+    script.Then([&] { dlg.PostMessage(WM_CLOSE); });
+    script.Until([&] { return dlg.m_nAsked == 1; }).Then([&] { dlg.PostMessage(WM_CLOSE); });
+    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dlg.m_nAsked, 2);
 }
 
 // --- Colour ------------------------------------------------------------------------------
@@ -164,12 +168,15 @@ void DragBy(Dialog& dlg, CSize offset) {
 
 TEST(nDialog, DragKeepsTheFrameInReach) {
     fx::Frame owner(CSize(200, 200)); // its coordinates have no part in it
-    const CSize size(140, 100);
-    const struct {
+    struct Row {
         const char* what;
-        CPoint from, to, stands;
+        CPoint from;
+        CPoint to;
+        CPoint stands;
         DWORD option = CnDialog::OptionDrag;
-    } rows[] = {
+    };
+    const CSize size(140, 100);
+    const Row rows[] = {
         {"free", {20, 40}, {60, 90}, {60, 90}},
         {"top", {20, 40}, {20, 10}, {20, 26}},
         {"top edge itself", {20, 40}, {20, 26}, {20, 26}},
@@ -180,7 +187,7 @@ TEST(nDialog, DragKeepsTheFrameInReach) {
         {"gone at the right comes back whole", {20, 40}, {250, 40}, {100, 40}},
         {"without the option", {20, 40}, {60, 90}, {20, 40}, 0},
     };
-    for (const auto& row : rows) {
+    for (const Row& row : rows) {
         Dialog dlg(CnDialog::OptionPopup | row.option, &owner);
         WhileOpen(dlg, [&] {
             dlg.MoveWindow(CRect(row.from, size));
@@ -199,54 +206,70 @@ public:
     using Dialog::Dialog;
 
 protected:
-    BOOL OnInitDialog() override { return CnDialog::OnInitDialog(), MoveWindow(PLACE), TRUE; }
+    BOOL OnInitDialog() override {
+        CnDialog::OnInitDialog();
+        MoveWindow(PLACE);
+        return TRUE;
+    }
 };
 
 /// Whether the left edge of the screen shows nothing but the window behind: a frame crosses it
 /// on its way, no window does.
 bool EdgeIsBlank() {
+    const CSize size(18, Screen().bottom);
     CWindowDC screen(nullptr);
-    const fx::Image image(screen, CSize(18, Screen().bottom));
-    return image.IsAll(image.Rect(), ::GetSysColor(COLOR_WINDOW));
+    const fx::Image image(screen, size);
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x)
+            if (image.At(x, y) != ::GetSysColor(COLOR_WINDOW))
+                return false;
+    return true;
 }
 
 TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
-    const auto openAnother = [](Dialog& dlg) {
-        PlacedDialog child(CnDialog::OptionPopup, &dlg);
-        WhileOpen(child, [] {});
-    };
-    const struct {
+    struct Row {
         const char* what;
         void (*interrupt)(Dialog&); ///< What comes in between before the pen is lifted.
         CSize moved;
-    } rows[] = {{"nothing", [](Dialog&) {}, {-40, 60}},
-                {"capture lost", [](Dialog&) { ::ReleaseCapture(); }, {0, 0}},
-                {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
-                {"another dialog", openAnother, {0, 0}}};
+    };
+    const Row rows[] = {
+        {"nothing", [](Dialog&) {}, {-40, 60}},
+        {"capture lost", [](Dialog&) { ::ReleaseCapture(); }, {0, 0}},
+        {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
+        {"another dialog",
+         [](Dialog& dlg) {
+             PlacedDialog child(CnDialog::OptionPopup, &dlg);
+             WhileOpen(child, [] {});
+         },
+         {0, 0}},
+    };
     const CPoint press = PlacedDialog::PLACE.CenterPoint();
     fx::Frame background; // the desktop draws itself in its own time
     background.MoveWindow(Screen());
     bool bSeen = false; // in one row is enough: the screen may be drawn over at any time
-    for (const auto& row : rows) {
+    for (const Row& row : rows) {
         PlacedDialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &background);
-        const auto drag = [&] {
+        fx::ModalScript script;
+        script.Until(EdgeIsBlank);
+        script.Then([&] {
             pen::Down(press);
             pen::Move(press + CSize(-50, 40));
-        };
-        const auto interrupt = [&] {
+        });
+        script.Then([&] {
             bSeen = bSeen || !EdgeIsBlank();
             row.interrupt(dlg);
-        };
-        const auto lift = [&] {
+        });
+        script.Then([&] { pen::Move(press + CSize(-55, 50)); });
+        script.Then([&] {
             EXPECT_TRUE(EdgeIsBlank() || row.moved != CSize()) << row.what;
             pen::Up(press + CSize(-40, 60));
-        };
-        const auto look = [&] {
-            EXPECT_EQ(PlacedDialog::PLACE + row.moved, dlg.Rect()) << row.what;
+        });
+        script.Then([&] {
+            EXPECT_EQ(dlg.Rect(), PlacedDialog::PLACE + row.moved) << row.what;
             EXPECT_TRUE(EdgeIsBlank()) << row.what;
             dlg.EndDialog(IDOK);
-        };
-        fx::Play(dlg, {EdgeIsBlank, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); }, lift, look});
+        });
+        script.Run([&] { return dlg.DoModal(); });
     }
     EXPECT_TRUE(bSeen);
 }

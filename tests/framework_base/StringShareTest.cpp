@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <functional>
 #include <thread>
 #include <type_traits>
@@ -91,9 +92,22 @@ TEST(StringNarrow, HasTheSameMembers) {
     EXPECT_STREQ("n|w|w|  1.2|xy", s);
     s.AppendFormat("%s%d", CStringA("!"), 7);
     EXPECT_STREQ("n|w|w|  1.2|xy!7", s);
-    EXPECT_EQ(0, CStringA("aBc").CompareNoCase("AbC"));
-    EXPECT_LT(CStringA("a\xC3\xA4").CompareNoCase("a\xC3\xB6"), 0);
-    EXPECT_STREQ("ABC", CStringA(" abc\t").Trim().MakeUpper());
+    const struct {
+        const char *a, *b;
+        int order;
+    } pairs[] = {{"aBc", "AbC", 0},
+                 {"a", "B", -1},
+                 {"B", "a", 1},
+                 {"a\xC3\xA4", "a\xC3\xB6", -1},
+                 {"a", "\xC3\xA4", -1}};
+    for (const auto& [a, b, order] : pairs)
+        EXPECT_EQ(order, CStringA(a).CompareNoCase(b)) << a << b;
+    EXPECT_LT(CStringA("a").Collate("b"), 0);
+    EXPECT_EQ(0, CStringA("a").CollateNoCase("A"));
+    EXPECT_STREQ(CStringA(L"AZ{[\x3042Z"), CStringA(L"az{[\x3042z").MakeUpper());
+    EXPECT_STREQ(CStringA(L"az{[\x3042z"), CStringA(L"AZ{[\x3042Z").MakeLower());
+    EXPECT_STREQ("\x01 \x85", CStringA(" \x01 \x85\t").Trim());
+    EXPECT_STREQ("~", CStringA("\r~\n").Trim());
     EXPECT_TRUE(s != "x" && "y" != s && CStringA("b") > "a" && "a" + CStringA("b") + L'c' == "abc");
 }
 
@@ -120,6 +134,10 @@ TEST(StringMembers, DoWhatTheDocumentationSays) {
     s.GetBufferSetLength(8);
     s.ReleaseBufferSetLength(3);
     EXPECT_STREQ(L"abc", s);
+    EXPECT_THROW(s.Append(L"x", INT_MAX), CMemoryException*);
+    CString none = s;
+    none.ReleaseBufferSetLength(-1);
+    EXPECT_STREQ(L"", none);
     EXPECT_LT(s.Collate(L"abd"), 0);
     EXPECT_EQ(0, s.CollateNoCase(L"ABC"));
     EXPECT_EQ(3, CString::StringLength(s));

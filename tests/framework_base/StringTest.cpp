@@ -31,6 +31,7 @@ TEST(String, IsConstructedFromEveryKindOfText) {
         {"null", kNullText, L""},
         {"null narrow", kNullNarrow, L""},
         {"null with length", {kNullText, 5}, L""},
+        {"narrow with negative length", {"abc", -1}, L""},
         {"null narrow with length", {kNullNarrow, 5}, L""},
         {"narrow", "abc", L"abc"},
         {"narrow with length", {"abc", 2}, L"ab"},
@@ -38,6 +39,7 @@ TEST(String, IsConstructedFromEveryKindOfText) {
         {"repeated never", {L'x', -1}, L""},
         {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
         {"negative length", {L"abc", -1}, L""},
+        {"sum of nothing", L"" + CString(), L""},
         {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))) + '7', L"1234567"},
     });
 }
@@ -71,13 +73,18 @@ TEST(String, EditsInPlace) {
         return s;
     };
     ExpectAll({
-        {"upper", edited(L"aB1", [](CString& s) { s.MakeUpper(); }), L"AB1"},
-        {"lower", edited(L"aB1", [](CString& s) { s.MakeLower(); }), L"ab1"},
+        {"upper", edited(L"az{AZ[`@\x3042z", [](CString& s) { s.MakeUpper(); }), L"AZ{AZ[`@\x3042Z"},
+        {"lower", edited(L"az{AZ[`@\x3042Z", [](CString& s) { s.MakeLower(); }), L"az{az[`@\x3042z"},
         {"reverse", edited(L"abc", [](CString& s) { s.MakeReverse(); }), L"cba"},
         {"insert", edited(L"ac", [](CString& s) { s.Insert(1, L"b"); }), L"abc"},
         {"insert character", edited(L"ac", [](CString& s) { s.Insert(1, L'b'); }), L"abc"},
         {"insert far behind", edited(L"a", [](CString& s) { s.Insert(99, L"b"); }), L"ab"},
         {"insert before", edited(L"a", [](CString& s) { s.Insert(-5, L"b"); }), L"ba"},
+        {"insert nothing", edited(L"a", [](CString& s) { s.Insert(1, L""); }), L"a"},
+        {"insert into nothing", edited(L"", [](CString& s) { s.Insert(0, L"a"); }), L"a"},
+        {"insert with room", edited(L"ac", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }), L"abc"},
+        {"insert itself with room", edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(1, s); }),
+         L"aabb"},
         {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
         {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
         {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
@@ -85,6 +92,10 @@ TEST(String, EditsInPlace) {
         {"delete none", edited(L"ab", [](CString& s) { s.Delete(0, -1); }), L"ab"},
         {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
         {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
+        {"trim left", edited(L" a ", [](CString& s) { s.TrimLeft(); }), L"a "},
+        {"trim right", edited(L" a ", [](CString& s) { s.TrimRight(); }), L" a"},
+        {"trim right character", edited(L"axx", [](CString& s) { s.TrimRight(L'x'); }), L"a"},
+        {"trim left set", edited(L"xyaxy", [](CString& s) { s.TrimLeft(L"yx"); }), L"axy"},
         {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
         {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
         {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
@@ -94,14 +105,25 @@ TEST(String, EditsInPlace) {
         {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
         {"append", edited(L"a", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }), L"abc"},
         {"append none", edited(L"a", [](CString& s) { s.Append(nullptr, 2); }), L"a"},
+        {"append text of the other form", edited(L"a", [](CString& s) { s += CStringA("b"); }), L"ab"},
         {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
         {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
+        {"assign null", edited(L"ab", [](CString& s) { s.SetString(nullptr, 2); }), L""},
+        {"assign none", edited(L"ab", [](CString& s) { s.SetString(L"x", -1); }), L""},
         {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
         {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
         {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
         {"free extra", edited(L"ab", [](CString& s) { s.FreeExtra(); }), L"ab"},
+        {"free all", edited(L"ab", [](CString& s) { s.Truncate(0), s.FreeExtra(); }), L""},
         {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"},
     });
+}
+
+TEST(String, TrimsTheBlanksOfEveryScript) {
+    const std::wstring blanks = L"\t\n\v\f\r \x85\xA0\x1680\x2000\x2001\x2002\x2003\x2004\x2005\x2006\x2007"
+                                L"\x2008\x2009\x200A\x2028\x2029\x202F\x205F\x3000";
+    for (wchar_t ch = 1; ch <= 0x3100; ++ch)
+        EXPECT_EQ(blanks.find(ch) != std::wstring::npos, CString(ch).Trim().IsEmpty()) << std::hex << int{ch};
 }
 
 TEST(String, ReplacesAndRemovesAndCounts) {
@@ -117,7 +139,7 @@ TEST(String, ReplacesAndRemovesAndCounts) {
         EXPECT_STREQ(row.expected, s);
     }
     CString s = L"banana";
-    EXPECT_EQ(0, s.Replace(L'a', L'a'));
+    EXPECT_EQ(0, s.Replace(L'a', L'a') + s.Replace(L'x', L'a') + s.Remove(L'x'));
     EXPECT_EQ(3, s.Replace(L'a', L'o'));
     EXPECT_EQ(2, s.Remove(L'n'));
     EXPECT_STREQ(L"booo", s);
@@ -150,7 +172,7 @@ TEST(String, Compares) {
     EXPECT_LT(s.Compare(L"abd"), 0);
     EXPECT_GT(s.Compare(L"ab"), 0);
     EXPECT_GT(s.Compare(nullptr), 0);
-    EXPECT_EQ(0, s.CompareNoCase(L"ABC"));
+    EXPECT_EQ(0, s.CompareNoCase(L"aBC"));
     EXPECT_LT(s.CompareNoCase(L"ABD"), 0);
     EXPECT_GT(s.CompareNoCase(L"AB"), 0);
     EXPECT_LT(CString(L"_").CompareNoCase(L"A"), 0); // case is folded downwards

@@ -1,0 +1,105 @@
+#include "support/ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+
+namespace {
+
+TEST(Time, HasPartsAndText) {
+    const CTime time(2024, 2, 29, 13, 5, 9);
+    EXPECT_TRUE(time.GetYear() == 2024 && time.GetMonth() == 2 && time.GetDay() == 29 &&
+                time.GetHour() == 13 && time.GetMinute() == 5 && time.GetSecond() == 9 &&
+                time.GetDayOfWeek() == 5);
+    EXPECT_EQ(time, CTime((44 << 9 | 2 << 5 | 29) & 0xFFFF, 13 << 11 | 5 << 5 | 4) + CTimeSpan(1));
+    EXPECT_EQ(2999, CTime(2999, 12, 31, 0, 0, 0).GetYear());
+    for (const auto& [format, text] :
+         {std::pair{L"%Y-%m-%d %H:%M:%S", L"2024-02-29 13:05:09"}, {L"", L""}, {LPCTSTR{nullptr}, L""}})
+        EXPECT_STREQ(text, time.Format(format));
+    EXPECT_EQ(3000, time.Format(CString(L'x', 3000)).GetLength());
+    EXPECT_STREQ(L"1970", CTime(0).FormatGmt(L"%Y"));
+    EXPECT_EQ(70, CTime(0).GetGmtTm()->tm_year);
+    std::tm parts{};
+    EXPECT_TRUE(time.GetLocalTm(&parts) == &parts && parts.tm_mday == 29);
+    EXPECT_TRUE(CTime(0).GetGmtTm(&parts) == &parts && parts.tm_mday == 1);
+    EXPECT_TRUE(time.GetLocalTm() != nullptr && time.GetLocalTm()->tm_mday == 29);
+    const CTime now = CTime::GetCurrentTime();
+    EXPECT_LE(std::time(nullptr) - now.GetTime(), 60);
+}
+
+TEST(Time, RefusesWhatIsNoTime) {
+    for (const auto& [year, month, day, hour, minute, second] : {std::array{1969, 1, 1, 0, 0, 0},
+                                                                 {3001, 1, 1, 0, 0, 0},
+                                                                 {2000, 0, 1, 0, 0, 0},
+                                                                 {2000, 13, 1, 0, 0, 0},
+                                                                 {2000, 1, 0, 0, 0, 0},
+                                                                 {2000, 1, 32, 0, 0, 0},
+                                                                 {2000, 1, 1, -1, 0, 0},
+                                                                 {2000, 1, 1, 24, 0, 0},
+                                                                 {2000, 1, 1, 0, 60, 0},
+                                                                 {2000, 1, 1, 0, 0, 60}})
+        EXPECT_THROW(CTime(year, month, day, hour, minute, second), CInvalidArgException*) << year << month;
+    for (const LONGLONG time : {LONGLONG{-1}, LONGLONG{32'535'216'000}, LONGLONG{INT64_MAX}}) {
+        EXPECT_THROW(CTime(time).GetYear(), CInvalidArgException*);
+        EXPECT_STREQ(L"", CTime(time).Format(L"%Y") + CTime(time).FormatGmt(L"%Y"));
+        EXPECT_TRUE(CTime(time).GetGmtTm() == nullptr && CTime(time).GetLocalTm() == nullptr);
+    }
+}
+
+template <class Value>
+void ExpectOrder() {
+    for (const LONGLONG n : {1, 2, 3}) {
+        const Value a(n);
+        const Value b(LONGLONG{2});
+        EXPECT_TRUE((a == b) == (n == 2) && (a != b) == (n != 2) && (a < b) == (n < 2) &&
+                    (a > b) == (n > 2) && (a <= b) == (n <= 2) && (a >= b) == (n >= 2))
+            << n;
+    }
+}
+
+TEST(Time, CalculatesInSeconds) {
+    ExpectOrder<CTime>();
+    ExpectOrder<CTimeSpan>();
+    CTimeSpan span(1, 2, 3, 4);
+    EXPECT_TRUE(span.GetDays() == 1 && span.GetHours() == 2 && span.GetMinutes() == 3 &&
+                span.GetSeconds() == 4);
+    EXPECT_TRUE(span.GetTotalHours() == 26 && span.GetTotalMinutes() == 26 * 60 + 3 &&
+                span.GetTotalSeconds() == (26 * 60 + 3) * 60 + 4);
+    EXPECT_EQ(CTimeSpan(5), CTimeSpan(2) + CTimeSpan(7) - CTimeSpan(4));
+    (span += CTimeSpan(10)) -= CTimeSpan(1);
+    EXPECT_STREQ(L"1d 02:03:13 %", span.Format(L"%Dd %H:%M:%S %%"));
+    EXPECT_STREQ(L"", span.Format(LPCTSTR{nullptr}));
+    EXPECT_STREQ(L"-3", CTimeSpan(-3 * 86400).Format(L"%D"));
+    for (const LPCTSTR wrong : {L"%Y", L"%"})
+        EXPECT_THROW(span.Format(wrong), CInvalidArgException*);
+    CTime time(LONGLONG{100});
+    (time += CTimeSpan(30)) -= CTimeSpan(10);
+    EXPECT_EQ(CTimeSpan(20), time - CTime(LONGLONG{100}));
+    EXPECT_EQ(CTime(LONGLONG{110}), time + CTimeSpan(5) - CTimeSpan(15));
+    CTime loaded;
+    CTimeSpan loadedSpan;
+    Loaded(Stored([&](CArchive& ar) { ar << time << span; }),
+           [&](CArchive& ar) { ar >> loaded >> loadedSpan; });
+    EXPECT_TRUE(loaded == time && loadedSpan == span);
+}
+
+#ifndef _WIN32
+TEST(Time, LocalTimeIsThatOfTheZone) {
+    ::setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
+    ::tzset();
+    // An hour that comes twice.
+    EXPECT_EQ(CTimeSpan(3600), CTime(2024, 10, 27, 2, 30, 0, 0) - CTime(2024, 10, 27, 2, 30, 0, 1));
+    const CTime noon(2024, 7, 1, 12, 0, 0);
+    EXPECT_STREQ(L"12, 10 UTC", noon.Format(L"%H, ") + noon.FormatGmt(L"%H UTC"));
+    EXPECT_TRUE(noon.GetLocalTm()->tm_hour == 12 && noon.GetGmtTm()->tm_hour == 10 && noon.GetHour() == 12);
+    EXPECT_EQ(0, CTime(1970, 1, 1, 1, 0, 0).GetTime());
+    EXPECT_THROW(CTime(1970, 1, 1, 0, 59, 59), CInvalidArgException*);
+    ::unsetenv("TZ");
+    ::tzset();
+}
+#endif
+
+} // namespace
