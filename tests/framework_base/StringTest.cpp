@@ -123,7 +123,7 @@ TEST(String, TrimsTheBlanksOfEveryScript) {
     const std::wstring blanks = L"\t\n\v\f\r \x85\xA0\x1680\x2000\x2001\x2002\x2003\x2004\x2005\x2006\x2007"
                                 L"\x2008\x2009\x200A\x2028\x2029\x202F\x205F\x3000";
     for (wchar_t ch = 1; ch <= 0x3100; ++ch)
-        EXPECT_EQ(blanks.find(ch) != std::wstring::npos, CString(ch).Trim().IsEmpty()) << std::hex << static_cast<unsigned>(ch);
+        EXPECT_EQ(blanks.find(ch) != std::wstring::npos, CString(ch).Trim().IsEmpty()) << +ch;
 }
 
 TEST(String, ReplacesAndRemovesAndCounts) {
