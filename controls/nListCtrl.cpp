@@ -20,22 +20,28 @@ void CnListCtrl::OnLButtonDown(UINT, CPoint) {
     Default();
 }
 
-void CnListCtrl::OnItemchanged(NMHDR*, LRESULT* pResult) {
+void CnListCtrl::OnItemchanged(NMHDR* pNMHDR, LRESULT* pResult) {
     *pResult = 0;
-    if ((m_dwOption & OptionNoSelection) != 0 && !m_bClearing)
-        ClearSelection();
+    if ((m_dwOption & OptionNoSelection) == 0 || m_bClearing)
+        return;
+    if (GetSelectedCount() != 0)
+        ClearSelection(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iItem);
+    else
+        GetNextItem(-1, LVNI_FOCUSED); // an item with the focus alone may keep it
 }
 
 /// Each item that is cleared brings a notification of its own. They are not answered one in
-/// the other, which would use up the stack for a long list with everything selected.
-void CnListCtrl::ClearSelection() {
+/// the other, which would use up the stack for a long list with everything selected. The changed
+/// item is tried first: searching the list for each of them would be quadratic.
+void CnListCtrl::ClearSelection(int nChanged) {
     constexpr UINT kMask = LVIS_SELECTED | LVIS_FOCUSED;
     m_bClearing = true;
-    for (int nLast = -1, nItem = -1; (nItem = GetNextItem(nLast, LVNI_SELECTED)) > nLast; nLast = nItem)
-        SetItemState(nItem, ~kMask, kMask);
+    if (nChanged >= 0 && GetItemState(nChanged, LVIS_SELECTED) != 0)
+        SetItemState(nChanged, ~kMask, kMask);
+    if (GetSelectedCount() != 0)
+        for (int nLast = -1, nItem = -1; (nItem = GetNextItem(nLast, LVNI_SELECTED)) > nLast; nLast = nItem)
+            SetItemState(nItem, ~kMask, kMask);
     m_bClearing = false;
-    // An item with the focus alone may keep it.
-    GetNextItem(-1, LVNI_FOCUSED);
 }
 
 void CnListCtrl::OnRecognizeGesture(NMHDR*, LRESULT* pResult) {

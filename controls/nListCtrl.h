@@ -33,7 +33,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void ClearSelection();
+    void ClearSelection(int nChanged);
 
     DWORD m_dwOption = 0;
     bool m_bClearing = false;

@@ -1,6 +1,7 @@
 #include "dialogs/ResultDlg.h"
 
 #include "dialogs/detail/LoadText.h"
+#include "dialogs/detail/RedrawPause.h"
 #include "resources/ResourceIds.h"
 
 using namespace fieldkit::detail;
@@ -26,10 +27,14 @@ BOOL CResultDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     SetWindowText(m_strCaption);
     SetDlgItemText(IDC_FK_RESULT_MESSAGE, m_strMessage);
-    auto* pList = static_cast<CListBox*>(GetDlgItem(IDC_FK_RESULT_LINES));
-    for (POSITION pos = m_lines.GetHeadPosition(); pos != nullptr;)
-        pList->AddString(m_lines.GetNext(pos));
+    FillList(*static_cast<CListBox*>(GetDlgItem(IDC_FK_RESULT_LINES)));
     CenterWindow();
     ShowWindow(SW_SHOW);
     return TRUE;
+}
+
+void CResultDlg::FillList(CListBox& list) const {
+    const RedrawPause pause(list);
+    for (POSITION pos = m_lines.GetHeadPosition(); pos != nullptr;)
+        list.AddString(m_lines.GetNext(pos));
 }

@@ -22,6 +22,8 @@ protected:
 private:
     static constexpr int kLineBlock = 10;
 
+    void FillList(CListBox& list) const;
+
     CString m_strMessage;
     CString m_strCaption;
     CStringList m_lines{kLineBlock};

@@ -4,7 +4,10 @@
 
 #include <memory>
 
+#include "dialogs/detail/RedrawPause.h"
 #include "resources/ResourceIds.h"
+
+using namespace fieldkit::detail;
 
 namespace {
 
@@ -22,12 +25,13 @@ CSelMemberItem ItemAt(const CListBox& box, int nIndex) {
 }
 
 void Show(const CPtrList& list, CListBox& box) {
+    const RedrawPause pause(box);
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
         Insert(box, kAtEnd, *static_cast<const CSelMemberItem*>(list.GetNext(pos)));
 }
 
 void TakeBack(const CListBox& box, CPtrList& list) {
-    for (int i = 0; i < box.GetCount(); ++i) {
+    for (int i = 0, nCount = box.GetCount(); i < nCount; ++i) {
         const CSelMemberItem item = ItemAt(box, i);
         CSelMemberDlg::AddSelMemberItemToList(list, item.m_strText, item.m_dwData);
     }
