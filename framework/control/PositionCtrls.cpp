@@ -38,7 +38,7 @@ void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
 CString CHotKeyCtrl::GetKeyName(UINT vk, BOOL fExtended) {
     constexpr LONG kExtended = 1L << 24;
     constexpr int kLongest = 64;
-    LONG lScan = static_cast<LONG>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC) << 16);
+    LONG lScan = static_cast<LONG>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC)) << 16;
     if (fExtended)
         lScan |= kExtended;
     CString strName;
