@@ -5,6 +5,18 @@
 // Versionable: files of an older or newer schema are left to Serialize, not refused.
 IMPLEMENT_SERIAL(CStringStack, CObject, VERSIONABLE_SCHEMA | 0)
 
+namespace {
+
+/// The characters before the digits at the end.
+std::size_t HeaderLength(const wchar_t* psz) {
+    std::size_t nHeader = std::wcslen(psz);
+    while (nHeader > 0 && psz[nHeader - 1] >= L'0' && psz[nHeader - 1] <= L'9')
+        --nHeader;
+    return nHeader;
+}
+
+} // namespace
+
 CStringStack::CStringStack(int nMode, int nMax) : m_nMode(nMode), m_nMax(nMax) {}
 
 CStringStack::~CStringStack() {
@@ -19,27 +31,23 @@ void CStringStack::Reset() {
 
 void CStringStack::SeparateHeaderToParam(const wchar_t* psz, CString& strHeader, CString& strParam) {
     const CString str(psz); // psz may belong to one of the results
-    int nHeader = str.GetLength();
-    while (nHeader > 0 && str[nHeader - 1] >= L'0' && str[nHeader - 1] <= L'9')
-        --nHeader;
+    const int nHeader = static_cast<int>(HeaderLength(str));
     strHeader = str.Left(nHeader);
     strParam = str.Mid(nHeader);
 }
 
-CString CStringStack::KeyOf(const wchar_t* psz) {
-    if (m_nMode != ModeHeader)
-        return psz;
-    CString strHeader;
-    CString strParam;
-    SeparateHeaderToParam(psz, strHeader, strParam);
-    return strHeader;
+/// A key is the beginning of its text, so keys are compared where they stand.
+std::size_t CStringStack::KeyLength(const wchar_t* psz) const {
+    return m_nMode == ModeHeader ? HeaderLength(psz) : std::wcslen(psz);
 }
 
-/// The first entry with this key; null if there is none.
-POSITION CStringStack::FindKey(const CString& strKey) {
+/// The first entry with the key of this text; null if there is none.
+POSITION CStringStack::FindSameKey(const wchar_t* psz) const {
+    const std::size_t nKey = KeyLength(psz);
     for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;) {
         const POSITION posEntry = pos;
-        if (std::wcscmp(KeyOf(m_list.GetNext(pos)), strKey) == 0)
+        const wchar_t* const pszEntry = m_list.GetNext(pos);
+        if (std::wcsncmp(pszEntry, psz, nKey) == 0 && KeyLength(pszEntry) == nKey)
             return posEntry;
     }
     return nullptr;
@@ -48,7 +56,7 @@ POSITION CStringStack::FindKey(const CString& strKey) {
 void CStringStack::Add(const wchar_t* psz, int bTail) {
     if (psz[0] == L'\0')
         return;
-    const POSITION posSame = FindKey(KeyOf(psz));
+    const POSITION posSame = FindSameKey(psz);
     if (posSame != nullptr && bTail != 0)
         return;
     // First of all, so that want of memory costs no other text.

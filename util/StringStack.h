@@ -59,8 +59,8 @@ private:
     static constexpr int kDefaultCapacity = 20;
     static constexpr int kEntryBlock = 10;
 
-    CString KeyOf(const wchar_t* psz);
-    POSITION FindKey(const CString& strKey);
+    std::size_t KeyLength(const wchar_t* psz) const;
+    POSITION FindSameKey(const wchar_t* psz) const;
     void RemoveLastBut(POSITION posNew);
     void Store(CArchive& ar) const;
     void Load(CArchive& ar);
