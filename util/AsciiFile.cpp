@@ -2,8 +2,9 @@
 
 #include "util/detail/OemText.h"
 
+#include <algorithm>
 #include <cstring>
-#include <memory>
+#include <iterator>
 
 using namespace fieldkit::detail;
 
@@ -45,16 +46,15 @@ void CAsciiFile::WriteString(const wchar_t* psz) {
 }
 
 void CAsciiFile::AsciiToString(const unsigned char* pszAscii, int nLen, CString& str) {
-    const int nSize = nLen * 2 + 1;
-    // Clearing it would take longer than the conversion of a usual line.
-    const auto buffer = std::make_unique_for_overwrite<wchar_t[]>(static_cast<size_t>(nSize));
-    const int n = OemToWide(reinterpret_cast<LPCSTR>(pszAscii), buffer.get(), nSize);
+    wchar_t buffer[kLineBufferSize * 2 + 1];
+    const int n = OemToWide(reinterpret_cast<LPCSTR>(pszAscii), buffer,
+                            std::min(nLen * 2 + 1, static_cast<int>(std::size(buffer))));
     if (n < 1) {
         str.Empty();
         return;
     }
-    buffer[static_cast<size_t>(n - 1)] = L'\0'; // whatever the system has put there
-    str = buffer.get();
+    buffer[n - 1] = L'\0'; // whatever the system has put there
+    str = buffer;
 }
 
 unsigned char* CAsciiFile::StringToAscii(const wchar_t* psz, unsigned char* pBuf, int nBufSize) {

@@ -1,8 +1,10 @@
 // What the texts utilities make of want of memory, bad disks and damaged files.
 #include "support/host/DamagedBytes.h"
-#include "util/AsciiFile.h"
+#include "util/BufferedAsciiFile.h"
 #include "util/StringStack.h"
 
+#include <cerrno>
+#include <cstdio>
 #include <cwchar>
 #include <memory>
 
@@ -64,6 +66,67 @@ TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
     g_converter = Converter::Failing;
     EXPECT_STREQ(L"", read());
     g_converter = Converter::Sound;
+}
+
+TEST(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
+    const auto fail = [](long nth) { faults::FailCall(nullptr, EIO, nth); };
+    const auto use = [](bool bClose) {
+        CBufferedAsciiFile file;
+        CFileException error;
+        if (!file.Open(L"faults.txt", CFile::modeCreate | CFile::modeReadWrite, &error))
+            AfxThrowFileException(error.m_cause);
+        file.WriteString(kLong);
+        file.SeekToBegin();
+        char ch = 0;
+        file.Read(&ch, 1);
+        file.WriteString(kLong);
+        if (bClose)
+            file.Close();
+    };
+    EXPECT_GT(faults::FailEach(faults::FailMemory, [&] { use(true); }), 1);
+    EXPECT_GT(faults::FailEach(fail, [&] { use(true); }), 8);
+    faults::FailCall("write", EIO, 2);
+    EXPECT_EQ(faults::End::Done, faults::EndOf([&] { use(false); })) << "a destructor tells nobody";
+    EXPECT_TRUE(faults::Disarm());
+}
+
+TEST(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
+    CBufferedAsciiFile file;
+    ASSERT_TRUE(file.Open(L"faults.txt", CFile::modeCreate | CFile::modeReadWrite));
+    file.WriteString(L"1");
+    for (const int nError : {ENOSPC, EIO}) {
+        faults::FailCall("write", nError);
+        EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
+        faults::Disarm();
+        file.WriteString(L"2");
+    }
+    file.SeekToBegin();
+    char bytes[10] = {};
+    faults::FailCall("read", EIO); // the block's, so this one byte is asked for
+    EXPECT_EQ(1U, file.Read(bytes, 1));
+    EXPECT_TRUE(faults::Disarm());
+    EXPECT_EQ(8U, file.Read(bytes + 1, 9));
+    EXPECT_STREQ("1\r\n2\r\n2\r\n", bytes);
+    EXPECT_THROW(file.Duplicate(), CNotSupportedException*);
+    file.Close();
+}
+
+TEST(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
+    CBufferedAsciiFile file;
+    ASSERT_TRUE(file.Open(L"faults.txt", CFile::modeReadWrite | CFile::shareDenyNone));
+    CFile other(L"faults.txt", CFile::modeReadWrite | CFile::shareDenyNone);
+    char bytes[4] = {};
+    file.Read(bytes, 1);
+    other.Write("abc", 3);
+    file.LockRange(0, 4);
+    EXPECT_EQ(3U, file.Read(bytes, 3));
+    EXPECT_STREQ("bc2", bytes);
+    file.Write("d", 1);
+    file.UnlockRange(0, 4);
+    other.Seek(4, CFile::begin);
+    EXPECT_EQ(1U, other.Read(bytes, 1));
+    EXPECT_EQ('d', bytes[0]);
+    std::remove("faults.txt");
 }
 
 } // namespace

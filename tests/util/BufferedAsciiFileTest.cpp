@@ -1,0 +1,91 @@
+#include "util/BufferedAsciiFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <random>
+#include <string>
+
+namespace {
+
+constexpr UINT kBlock = 65536;
+
+using Random = std::minstd_rand;
+
+UINT AnySize(Random& random) {
+    constexpr UINT kSizes[] = {0, 1, 2, 3, 40, 511, 513, 9000, kBlock - 1, kBlock, kBlock + 1};
+    return kSizes[static_cast<std::size_t>(random() % std::size(kSizes))];
+}
+
+std::string AnyBytes(Random& random) {
+    std::string bytes(AnySize(random), '\0');
+    for (char& ch : bytes)
+        ch = "0123456789 abcdefghij\r\n"[static_cast<std::size_t>(random() % 23)];
+    return bytes;
+}
+
+/// Does one operation, chosen by the seed, and tells everything that can be seen of it.
+std::string Step(CAsciiFile& file, unsigned seed) try {
+    Random random(seed);
+    std::string seen;
+    switch (random() % 8) {
+    case 0:
+    case 1:
+        seen.resize(AnySize(random));
+        seen.resize(file.Read(seen.data(), static_cast<UINT>(seen.size())));
+        break;
+    case 2:
+    case 3: {
+        const std::string bytes = AnyBytes(random);
+        file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
+        break;
+    }
+    case 4:
+        for (CString line; seen.size() < 40 && file.ReadString(line) != 0;)
+            seen += std::to_string(line.GetLength()) + ' ';
+        break;
+    case 5:
+        file.WriteString(L"a line");
+        break;
+    case 6:
+        file.Seek(static_cast<LONGLONG>(AnySize(random)) - 100, static_cast<UINT>(random() % 3));
+        break;
+    case 7:
+        random() % 3 == 0 ? file.SetLength(AnySize(random)) : file.Flush();
+        break;
+    }
+    return seen + "; " + std::to_string(file.GetPosition()) + " of " + std::to_string(file.GetLength());
+} catch (CFileException* e) {
+    const int nCause = e->m_cause;
+    e->Delete();
+    return "cause " + std::to_string(nCause) + " at " + std::to_string(file.GetPosition());
+}
+
+std::string Contents(LPCTSTR pszPath) {
+    CFile file(pszPath, CFile::modeRead);
+    std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
+    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+    return bytes;
+}
+
+TEST(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
+    for (unsigned nRun = 0; nRun < 20; ++nRun) {
+        {
+            CAsciiFile plain;
+            CBufferedAsciiFile buffered;
+            for (auto [pFile, pszPath] :
+                 {std::pair<CAsciiFile*, LPCTSTR>(&plain, L"plain.txt"), {&buffered, L"buffered.txt"}})
+                ASSERT_TRUE(pFile->Open(pszPath, CFile::modeCreate | CFile::modeReadWrite));
+            for (unsigned nStep = 0; nStep < 60; ++nStep)
+                ASSERT_EQ(Step(plain, 1000 * nRun + nStep), Step(buffered, 1000 * nRun + nStep))
+                    << nRun << ", " << nStep;
+            if (nRun % 2 == 0)
+                buffered.Close();
+        }
+        EXPECT_EQ(Contents(L"plain.txt"), Contents(L"buffered.txt")) << nRun;
+    }
+    std::remove("plain.txt");
+    std::remove("buffered.txt");
+}
+
+} // namespace
