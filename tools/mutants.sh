@@ -4,7 +4,7 @@
 
 mutants_folder=$build/mutants
 
-# Each folder, the build that has its tests, and those tests.
+# Each folder or file, the build that has its tests, and those tests.
 mutants_table='
 geometry host geometry
 survey host survey
@@ -19,48 +19,66 @@ companion win64 companion
 util host util fuzz_seeds
 controls win64 controls survey_window
 dialogs win64 dialogs
+survey/AngleEdit.cpp win64 survey_window
 '
 
-# run_mutants [FOLDER [each]]: of all folders without one; "each" tells what each assertion is good
-# for. False when a fault survives unexplained.
+# run_mutants [FOLDER [each | N]]: of all folders without one; "each" tells what each assertion is
+# good for, a number has one fault in N tried, the same ones each time. False when a fault survives
+# unexplained.
 run_mutants() {
-    local folder preset tests status=0 each=${2:-} found=
+    local folder preset tests status=0 how=${2:-} rows
+    [[ -z $how || $how == each || $how =~ ^[1-9][0-9]*$ ]] || die "neither \"each\" nor a number: $how"
+    rows=$(awk -v folder="${1:-}" 'NF && (folder == "" || folder == $1)' <<<"$mutants_table")
+    [[ -n $rows ]] || die "not a folder with tests of its own: $1"
     require python3 python3-clang-14 libclang1-14 libclang-common-14-dev
     while read -r -u 4 folder preset tests; do
-        [[ -n $folder && $folder == "${1:-$folder}" ]] || continue
-        found=yes
         # shellcheck disable=SC2086  # a list
         mutants_of "$folder" "$preset" $tests || status=1
-    done 4<<<"$mutants_table"
-    [[ -n $found ]] || die "not a folder with tests of its own: $1"
+    done 4<<<"$rows"
     return $status
 }
 
+declare -A mutants_built=()
+
 mutants_of() {
-    local folder=$1 preset=$2 name=${1//\//_}
-    local own=$mutants_folder/$name faults programs=("${@:3}") workers through=()
-    faults=$own/faults.json
+    local folder=$1 preset=$2 name=${1//\//_} programs=("${@:3}") all=("${@:3}") workers through=()
+    if [[ $preset == win64 ]]; then
+        # These folders share a build, which takes minutes.
+        name=windows
+        mapfile -t all < <(awk '$2 == "win64" { for (i = 3; i <= NF; ++i) print $i }' <<<"$rows" | sort -u)
+        [[ -n $screen_pid ]] || open_screen
+    fi
+    local own=$mutants_folder/$name
     mkdir -p "$own"
-    if [[ $preset == win64 && -z $screen_pid ]]; then open_screen; fi
-    logged "mutants-$name" build_mutants "$(places_of "$folder")" "$preset" "$own" "${programs[@]}"
+    if [[ -z ${mutants_built[$name]:-} ]]; then
+        logged "mutants-$name" build_mutants "$(places_of "$folder" "$preset")" "$preset" "$own" "${all[@]}"
+        mutants_built[$name]=yes
+    fi
     programs=("${programs[@]/#/$own/tree/build/$preset/bin/test_}")
     workers=$(nproc)
     if [[ $preset == win64 ]]; then
         programs=("${programs[@]/%/.exe}")
-        through=(--through wine)
+        through+=(--through wine --folder "$folder")
         workers=1 # the windows of two programs would take the focus from each other
     fi
-    logged "reach-$name" see_reach "$preset" "${programs[@]}"
-    [[ -z $each ]] || through+=(--each "$own/each.json")
+    logged "reach-${folder//\//_}" see_reach "$preset" "${programs[@]}"
+    case $how in
+    each) through+=(--each "$own/each.json") ;;
+    [1-9]*) through+=(--one-in "$how") ;;
+    esac
     printf '%s\n' "$folder:"
     in_wine /usr/bin/python3 "$root/tools/mutants/judge.py" "${through[@]}" --workers "$workers" \
-        --explained "$root/tools/mutants/explained.txt" "$faults" "${programs[@]}" 2>&1 </dev/null
+        --explained "$root/tools/mutants/explained.txt" "$own/faults.json" "${programs[@]}" 2>&1 </dev/null
 }
 
-# The folder, and after commas what else its tests are for.
+# What gets faults in one build, by commas: the folder and what else its tests are for, or all
+# folders of windows.
 places_of() {
     local IFS=, headers
-    if [[ $1 == framework/base ]]; then
+    if [[ $2 == win64 ]]; then
+        mapfile -t headers < <(awk '$2 == "win64" { print $1 }' <<<"$mutants_table")
+        printf '%s' "${headers[*]}"
+    elif [[ $1 == framework/base ]]; then
         mapfile -t headers < <(printf '%s\n' "${covered[@]}" | grep '^framework/.*\.h$')
         printf '%s' "$1,${headers[*]}"
     else

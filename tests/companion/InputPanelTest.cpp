@@ -1,5 +1,6 @@
 // The soft input panel as a window: when it comes and goes, and what it leaves alone.
 #include "support/PanelPen.h"
+#include "support/TitleBar.h"
 
 #include <thread>
 
@@ -47,41 +48,34 @@ protected:
 };
 
 TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
-    struct Row {
-        int mode;
-        const wchar_t* title;
-    };
-    const Row rows[] = {{0, L"ABC"}, {1, L"123"}, {2, L"かな"}, {3, L"ABC"}, {-1, L"ABC"}};
+    const CRect area = fx::WorkArea();
+    const int nBottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
     TVShowSIP(1);
     const HWND hPanel = panel::OfThread();
-    ASSERT_NE(hPanel, nullptr);
-    for (const Row& row : rows) {
-        TVShowSIP(row.mode);
-        EXPECT_EQ(panel::OfThread(), hPanel);
+    ASSERT_NE(nullptr, hPanel);
+    for (const auto& [nMode, pszTitle] :
+         {std::pair(0, L"ABC"), {1, L"123"}, {2, L"かな"}, {3, L"ABC"}, {-1, L"ABC"}}) {
+        TVShowSIP(nMode);
+        EXPECT_EQ(hPanel, panel::OfThread());
         EXPECT_TRUE(panel::IsVisible());
-        EXPECT_EQ(Title(), row.title);
+        EXPECT_EQ(pszTitle, Title());
+        EXPECT_EQ(CRect(area.left, nBottom - 125, area.right, nBottom), panel::Place());
+        EXPECT_NE(0, ::GetWindowLongPtr(hPanel, GWL_EXSTYLE) & WS_EX_TOPMOST);
     }
     panel::Close();
     TVCloseSIP();
     panel::PumpFor(50);
     EXPECT_FALSE(panel::IsVisible());
-}
-
-TEST_F(InputPanel, LiesAboveTheBottomBarOverTheWholeWidth) {
-    CRect area;
-    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWORKAREA, 0, area, 0));
-    for (const int nMode : {0, 1, 2}) {
-        TVShowSIP(nMode);
-        const CRect place = panel::Place();
-        EXPECT_EQ(place, CRect(area.left, place.top, area.right, area.bottom - AFX_DEVICE_BAR_HEIGHT));
-        EXPECT_EQ(place.Height(), 125);
-        EXPECT_NE(::GetWindowLongPtr(panel::OfThread(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
-    }
+    ::DestroyWindow(hPanel);
+    TVCloseSIP();
+    EXPECT_EQ(nullptr, panel::OfThread());
+    TVShowSIP(2);
+    EXPECT_TRUE(panel::IsVisible()) << "made anew";
+    EXPECT_EQ(L"かな", Title());
 }
 
 TEST_F(InputPanel, FrameworkKnowsItsPlace) {
-    CRect area;
-    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWORKAREA, 0, area, 0));
+    const CRect area = fx::WorkArea();
     SIPINFO info = {};
     EXPECT_FALSE(SipGetInfo(&info)) << "without a size";
     EXPECT_FALSE(SipGetInfo(nullptr));
@@ -130,7 +124,7 @@ TEST_F(InputPanel, StaysOnTheWayFromFieldToField) {
     panel::PumpFor(150);
     EXPECT_EQ(std::vector{true}, m_frame.m_told) << "it has come, and not gone";
     m_button.SetFocus();
-    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+    panel::ExpectHidden();
 }
 
 TEST_F(InputPanel, StaysUntilThePenIsLifted) {
@@ -141,7 +135,7 @@ TEST_F(InputPanel, StaysUntilThePenIsLifted) {
     panel::PumpFor(100);
     EXPECT_TRUE(panel::IsVisible());
     pen::Up(pen::Middle(m_button));
-    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+    panel::ExpectHidden();
 }
 
 TEST_F(InputPanel, TellsTheActiveWindowWhenItComesAndGoes) {
@@ -149,7 +143,7 @@ TEST_F(InputPanel, TellsTheActiveWindowWhenItComesAndGoes) {
     EXPECT_TRUE(panel::PumpUntil([this] { return !m_frame.m_told.empty(); }));
     ToldFrame other;
     other.SetFocus();
-    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
+    panel::ExpectHidden();
     EXPECT_EQ(other.m_told, std::vector{false});
     EXPECT_EQ(m_frame.m_told, (std::vector{true, false}));
     TVShowSIP(0);
@@ -174,17 +168,7 @@ TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
     panel::PumpFor(250);
     EXPECT_TRUE(panel::IsVisible()) << "there is still something to type into";
     next.DestroyWindow();
-    EXPECT_TRUE(panel::PumpUntil([] { return !panel::IsVisible(); }));
-}
-
-TEST_F(InputPanel, IsMadeAnewAfterItWasDestroyed) {
-    TVShowSIP(0);
-    ::DestroyWindow(panel::OfThread());
-    TVCloseSIP();
-    EXPECT_EQ(panel::OfThread(), nullptr);
-    TVShowSIP(2);
-    EXPECT_TRUE(panel::IsVisible());
-    EXPECT_EQ(Title(), L"かな");
+    panel::ExpectHidden();
 }
 
 TEST(InputPanelThreads, PanelEndsWithItsThread) {

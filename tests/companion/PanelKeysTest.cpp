@@ -1,7 +1,6 @@
 // Typing on the soft input panel with the pen.
 #include "support/PanelPen.h"
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/Form.h"
 
 namespace {
 
@@ -25,11 +24,7 @@ protected:
         EXPECT_EQ(Text(), strText);
     }
 
-    CString Text() const {
-        CString strText;
-        m_field.GetWindowText(strText);
-        return strText;
-    }
+    CString Text() const { return fx::TextOf(m_field); }
 
     void SetText(LPCTSTR pszText) {
         m_field.SetWindowText(pszText);
@@ -191,29 +186,19 @@ TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
 
 TEST(PanelInADialog, MovesOnAndConfirmsThoughTheOwnerIsDisabled) {
     fx::Frame owner;
-    const fx::DialogTemplate controls =
-        fx::DialogTemplate().Edit(10).Edit(11).Button(IDOK, L"OK", BS_DEFPUSHBUTTON);
-    fx::TemplateDialog dialog(controls, &owner);
-    CString strFirst;
-    CString strSecond;
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            dialog.GetDlgItem(10)->SetFocus();
-            TVShowSIP(0);
-        })
-        .Then([] { pen::Tap(panel::At(1, 5, 12)); })
-        .Then([] { pen::Tap(panel::NextKey()); })
-        .Then([] { pen::Tap(panel::At(1, 5, 36)); })
-        .Then([&] {
-            dialog.GetDlgItemText(10, strFirst);
-            dialog.GetDlgItemText(11, strSecond);
-            pen::Tap(panel::EnterKey());
-        });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
-    EXPECT_EQ(strFirst, L"q");
-    EXPECT_EQ(strSecond, L"w");
+    fx::Form dialog(&owner);
+    const auto show = [&] {
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        TVShowSIP(0);
+    };
+    const auto look = [&] {
+        EXPECT_EQ(L"q", fx::TextOf(*dialog.GetDlgItem(fx::Form::EDIT)));
+        EXPECT_EQ(L"w", fx::TextOf(*dialog.GetDlgItem(fx::Form::FIELD)));
+        pen::Tap(panel::EnterKey());
+    };
+    EXPECT_EQ(IDOK, fx::Play(dialog,
+                             {show, [] { pen::Tap(panel::At(1, 5, 12)); }, [] { pen::Tap(panel::NextKey()); },
+                              [] { pen::Tap(panel::At(1, 5, 36)); }, look}));
     panel::Close();
 }
 

@@ -35,16 +35,8 @@ public:
         return FALSE;
     }
 
-    CRect WindowRect() const {
-        CRect rect;
-        GetWindowRect(rect);
-        return rect;
-    }
-    CRect FieldRect(int nField) const {
-        CRect rect;
-        m_fields[nField].GetWindowRect(rect);
-        return rect;
-    }
+    CRect WindowRect() const { return fx::RectOf(m_hWnd); }
+    CRect FieldRect(int nField) const { return fx::RectOf(m_fields[nField]); }
     /// Whether the panel is there and the field stands clear of it, inside the dialog.
     bool IsClear(int nField) const {
         const CRect field = FieldRect(nField);
@@ -54,7 +46,26 @@ public:
         return panel::IsVisible() && field.bottom <= panel::Place().top && field.top >= client.top;
     }
 
-    panel::Field m_fields[4];
+    // Steps of a script.
+    fx::Step Enter(int nField) {
+        return [this, nField] { m_fields[nField].SetFocus(); };
+    }
+    fx::Step Leave() {
+        return [this] { m_other.SetFocus(); };
+    }
+    fx::Step UntilClear(int nField) {
+        return [this, nField] { return IsClear(nField); };
+    }
+    fx::Step UntilAt(CRect place) {
+        return [this, place] { return WindowRect() == place; };
+    }
+    /// Runs the steps, ends the dialog and closes the panel.
+    void Run(std::initializer_list<fx::Step> steps) {
+        fx::PlayAndEnd(*this, steps);
+        panel::Close();
+    }
+
+    panel::Field m_fields[3];
     CButton m_other;
 
 private:
@@ -64,121 +75,80 @@ private:
     std::vector<int> m_tops;
 };
 
-/// Runs the dialog with the script; the panel is closed afterwards.
-void RunDialog(CDialog& dialog, fx::ModalScript& script) {
-    script.Then([&] { dialog.EndDialog(IDOK); });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
-    panel::Close();
-}
+const fx::Step UNTIL_SHOWN = [] { return panel::IsVisible(); };
+const fx::Step UNTIL_HIDDEN = [] { return !panel::IsVisible(); };
+const CRect NO_PLACE;
 
 TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
-    FieldDialog dialog({}, {20, 150, 230});
+    FieldDialog dialog(NO_PLACE, {20, 150, 230});
     CRect home;
     CRect bar;
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            home = dialog.FieldRect(0);
-            dialog.m_pWndEmptyCB->GetWindowRect(bar);
-            dialog.m_fields[0].SetFocus(); // not covered
-        })
-        .Until([&] { return panel::IsVisible(); })
-        .Then([&] {
-            panel::PumpFor(100);
-            EXPECT_EQ(dialog.FieldRect(0), home);
-            dialog.m_fields[2].SetFocus();
-        })
-        .Until([&] { return dialog.IsClear(2); })
-        .Then([&] {
-            EXPECT_GE(dialog.FieldRect(2).bottom, panel::Place().top - 4) << "no more than needed";
-            CRect barNow;
-            dialog.m_pWndEmptyCB->GetWindowRect(barNow);
-            EXPECT_EQ(barNow, bar);
-            dialog.m_fields[1].SetFocus();
-        })
-        .Until([&] { return dialog.FieldRect(1).bottom >= panel::Place().top - 4; })
-        .Then([&] {
-            EXPECT_TRUE(dialog.IsClear(1));
-            dialog.m_other.SetFocus();
-        })
-        .Until([&] { return dialog.FieldRect(0) == home; })
-        .Then([&] { EXPECT_FALSE(panel::IsVisible()); });
-    RunDialog(dialog, script);
+    const auto remember = [&] {
+        home = dialog.FieldRect(0);
+        bar = fx::RectOf(*dialog.m_pWndEmptyCB);
+    };
+    const auto lookAtFirst = [&] {
+        panel::PumpFor(100);
+        EXPECT_EQ(home, dialog.FieldRect(0)) << "not covered";
+    };
+    const auto expectJustEnough = [&](int nField) {
+        EXPECT_GE(dialog.FieldRect(nField).bottom, panel::Place().top - 4) << "no more than needed";
+        EXPECT_EQ(bar, fx::RectOf(*dialog.m_pWndEmptyCB));
+    };
+    dialog.Run({remember, dialog.Enter(0), UNTIL_SHOWN, lookAtFirst, dialog.Enter(2), dialog.UntilClear(2),
+                [&] { expectJustEnough(2); }, dialog.Enter(1),
+                [&] { return dialog.IsClear(1) && dialog.FieldRect(1).bottom >= panel::Place().top - 4; },
+                dialog.Leave(), [&] { return dialog.FieldRect(0) == home; },
+                [] { EXPECT_FALSE(panel::IsVisible()); }});
 }
 
 TEST(FullScreenDialogAndPanel, FieldStaysUnderThePenUntilItIsLifted) {
-    FieldDialog dialog({}, {20, 135}); // the panel leaves a strip of the second one
+    FieldDialog dialog(NO_PLACE, {20, 135}); // the panel leaves a strip of the second one
     CRect home;
-    fx::ModalScript script;
-    script.Then([&] { dialog.m_fields[0].SetFocus(); })
-        .Until([] { return panel::IsVisible(); })
-        .Then([&] {
-            panel::PumpFor(100);
-            home = dialog.FieldRect(1);
-            ASSERT_LT(home.top + 4, panel::Place().top);
-            pen::Down(CPoint(home.CenterPoint().x, home.top + 4));
-        })
-        .Until([&] { return ::GetFocus() == dialog.m_fields[1].m_hWnd; })
-        .Then([&] {
-            panel::PumpFor(100);
-            EXPECT_EQ(dialog.FieldRect(1), home);
-            pen::Up(CPoint(home.CenterPoint().x, home.top + 4));
-        })
-        .Until([&] { return dialog.IsClear(1); });
-    RunDialog(dialog, script);
+    CPoint strip;
+    const auto press = [&] {
+        panel::PumpFor(100);
+        home = dialog.FieldRect(1);
+        strip = CPoint(home.CenterPoint().x, home.top + 4);
+        ASSERT_LT(strip.y, panel::Place().top);
+        pen::Down(strip);
+    };
+    const auto lift = [&] {
+        panel::PumpFor(100);
+        EXPECT_EQ(home, dialog.FieldRect(1));
+        pen::Up(strip);
+    };
+    dialog.Run({dialog.Enter(0), UNTIL_SHOWN, press,
+                [&] { return ::GetFocus() == dialog.m_fields[1].m_hWnd; }, lift, dialog.UntilClear(1)});
 }
 
-TEST(PopupDialogAndPanel, MovesUpWithItsButtonsAndBack) {
-    const CRect home(20, 110, 220, 220);
-    FieldDialog dialog(home, {50});
-    fx::ModalScript script;
-    script.Then([&] { dialog.m_fields[0].SetFocus(); })
-        .Until([&] { return dialog.IsClear(0); })
-        .Then([&] {
-            EXPECT_EQ(dialog.WindowRect().bottom, panel::Place().top) << "all of it is clear";
-            EXPECT_EQ(dialog.WindowRect().Size(), home.Size());
-            dialog.m_other.SetFocus();
-        })
-        .Until([&] { return dialog.WindowRect() == home; });
-    RunDialog(dialog, script);
-}
-
-TEST(PopupDialogAndPanel, TooTallForTheRoomScrollsTheRest) {
-    const CRect home(20, 30, 220, 290);
-    FieldDialog dialog(home, {10, 190});
-    CRect field;
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            field = dialog.FieldRect(1);
-            dialog.m_fields[1].SetFocus();
-        })
-        .Until([&] { return dialog.IsClear(1); })
-        .Then([&] {
-            EXPECT_EQ(dialog.WindowRect().top, 0) << "not beyond the work area";
-            EXPECT_EQ(dialog.WindowRect().Height(), home.Height());
-            dialog.m_other.SetFocus();
-        })
-        .Until([&] { return dialog.WindowRect() == home && dialog.FieldRect(1) == field; });
-    RunDialog(dialog, script);
+TEST(PopupDialogAndPanel, MovesUpAsFarAsTheWorkAreaScrollsTheRestAndGoesBack) {
+    const struct {
+        CRect home;
+        int nTop; ///< Of the field.
+        bool bWholly;
+    } rows[] = {{{20, 110, 220, 220}, 50, true}, {{20, 30, 220, 290}, 190, false}};
+    for (const auto& row : rows) {
+        FieldDialog dialog(row.home, {row.nTop});
+        CRect field;
+        const auto look = [&] {
+            EXPECT_EQ(row.home.Size(), dialog.WindowRect().Size());
+            EXPECT_EQ(row.bWholly ? panel::Place().top - row.home.Height() : 0, dialog.WindowRect().top);
+        };
+        dialog.Run({[&] { field = dialog.FieldRect(0); }, dialog.Enter(0), dialog.UntilClear(0), look,
+                    dialog.Leave(), dialog.UntilAt(row.home), [&] { return dialog.FieldRect(0) == field; }});
+    }
 }
 
 TEST(PopupDialogAndPanel, StaysWhereTheUserPutsItMeanwhile) {
     FieldDialog dialog(CRect(20, 150, 220, 250), {20});
     const CRect place(30, 40, 230, 140);
-    fx::ModalScript script;
-    script.Then([&] { dialog.m_fields[0].SetFocus(); })
-        .Until([&] { return dialog.IsClear(0); })
-        .Then([&] {
-            dialog.MoveWindow(place);
-            dialog.m_other.SetFocus();
-        })
-        .Until([] { return !panel::IsVisible(); })
-        .Then([&] {
-            panel::PumpFor(100);
-            EXPECT_EQ(dialog.WindowRect(), place);
-        });
-    RunDialog(dialog, script);
+    const auto look = [&] {
+        panel::PumpFor(100);
+        EXPECT_EQ(place, dialog.WindowRect());
+    };
+    dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { dialog.MoveWindow(place); }, dialog.Leave(),
+                UNTIL_HIDDEN, look});
 }
 
 TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
@@ -195,19 +165,14 @@ TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
     };
     const CRect home(20, 110, 220, 220);
     Dialog dialog(home, {50});
-    fx::ModalScript script;
-    script.Then([&] { dialog.m_fields[0].SetFocus(); })
-        .Until([&] { return dialog.IsClear(0); })
-        .Then([&] { pen::Down(pen::Middle(dialog.m_other)); })
-        .Until([&] { return ::GetFocus() == dialog.m_other.m_hWnd; })
-        .Then([&] {
-            panel::PumpFor(150);
-            EXPECT_NE(dialog.WindowRect(), home);
-            pen::Up(pen::Middle(dialog.m_other));
-        })
-        .Until([&] { return dialog.WindowRect() == home; });
-    RunDialog(dialog, script);
-    EXPECT_EQ(dialog.m_nClicks, 1);
+    const auto lift = [&] {
+        panel::PumpFor(150);
+        EXPECT_NE(home, dialog.WindowRect());
+        pen::Up(pen::Middle(dialog.m_other));
+    };
+    dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { pen::Down(pen::Middle(dialog.m_other)); },
+                [&] { return ::GetFocus() == dialog.m_other.m_hWnd; }, lift, dialog.UntilAt(home)});
+    EXPECT_EQ(1, dialog.m_nClicks);
 }
 
 TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
@@ -226,62 +191,40 @@ TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
     };
     const CRect home(20, 150, 220, 250);
     Dialog dialog(home, {20});
-    fx::ModalScript script;
-    script.Then([&] { dialog.m_fields[0].SetFocus(); }).Until([&] { return dialog.m_bTold; }).Then([&] {
+    const auto look = [&] {
         panel::PumpFor(100);
-        EXPECT_EQ(dialog.WindowRect(), home);
-    });
-    RunDialog(dialog, script);
+        EXPECT_EQ(home, dialog.WindowRect());
+    };
+    dialog.Run({dialog.Enter(0), [&] { return dialog.m_bTold; }, look});
 }
 
 TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoesBack) {
     const CRect ownerHome(20, 150, 220, 250);
     FieldDialog owner(ownerHome, {20});
     FieldDialog popup(CRect(30, 160, 210, 240), {20}, &owner);
-    fx::ModalScript script;
-    script.Then([&] { owner.m_fields[0].SetFocus(); })
-        .Until([&] { return owner.IsClear(0); })
-        .Then([&] { popup.DoModal(); })
-        .Then([&] { popup.m_fields[0].SetFocus(); })
-        .Until([&] { return popup.IsClear(0); })
-        .Then([&] { popup.EndDialog(IDCANCEL); }) // its field goes, the owner's takes over
-        .Until([&] { return owner.IsClear(0) && ::GetFocus() == owner.m_fields[0].m_hWnd; })
-        .Then([&] { owner.m_other.SetFocus(); })
-        .Until([&] { return owner.WindowRect() == ownerHome; });
-    RunDialog(owner, script);
+    owner.Run({owner.Enter(0), owner.UntilClear(0), [&] { popup.DoModal(); }, popup.Enter(0),
+               popup.UntilClear(0),
+               [&] { popup.EndDialog(IDCANCEL); }, // its field goes, the owner's takes over
+               [&] { return owner.IsClear(0) && ::GetFocus() == owner.m_fields[0].m_hWnd; }, owner.Leave(),
+               owner.UntilAt(ownerHome)});
 }
 
 TEST(PanelSwitch, ShowsAndHidesWhatIsReallyThereEvenBelowADialog) {
-    FieldDialog main({}, {20});
+    FieldDialog main(NO_PLACE, {20});
     FieldDialog popup(CRect(20, 40, 220, 140), {20}, &main);
     const auto tapSwitch = [&main] {
-        CRect bar;
-        main.m_pWndEmptyCB->GetWindowRect(bar);
+        const CRect bar = fx::RectOf(*main.m_pWndEmptyCB);
         pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));
     };
-    fx::ModalScript script;
-    script
-        .Then([&] { main.m_fields[0].SetFocus(); }) // the field has brought the panel already
-        .Until([] { return panel::IsVisible(); })
-        .Then(tapSwitch)
-        .Until([] { return !panel::IsVisible(); })
-        .Then(tapSwitch)
-        .Until([] { return panel::IsVisible(); })
-        .Then([&] { main.m_other.SetFocus(); })
-        .Until([] { return !panel::IsVisible(); })
-        .Then([&] { popup.DoModal(); })
-        .Then([&] {
-            EXPECT_FALSE(main.IsWindowEnabled());
-            tapSwitch();
-        })
-        .Until([] { return panel::IsVisible(); })
-        .Then([&] {
-            EXPECT_EQ(::GetActiveWindow(), popup.m_hWnd);
-            tapSwitch();
-        })
-        .Until([] { return !panel::IsVisible(); })
-        .Then([&] { popup.EndDialog(IDCANCEL); });
-    RunDialog(main, script);
+    const auto tapBelow = [&] {
+        EXPECT_FALSE(main.IsWindowEnabled());
+        EXPECT_EQ(popup.m_hWnd, ::GetActiveWindow());
+        tapSwitch();
+    };
+    main.Run({main.Enter(0), UNTIL_SHOWN, // the field has brought the panel already
+              tapSwitch, UNTIL_HIDDEN, tapSwitch, UNTIL_SHOWN, main.Leave(), UNTIL_HIDDEN,
+              [&] { popup.DoModal(); }, tapBelow, UNTIL_SHOWN, tapBelow, UNTIL_HIDDEN,
+              [&] { popup.EndDialog(IDCANCEL); }});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The entry fields and the soft input panel.
 #include "SipCalls.h"
+#include "support/PanelPen.h"
 #include "support/Stage.h"
 
 #include "controls/nComboBox.h"
@@ -65,14 +66,14 @@ TEST(EntryField, ThePanelItselfComesAndGoesAndLeavesTheFocus) {
     FieldStage stage;
     stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1);
     stage.TapOther();
-    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+    panel::ExpectHidden();
     stage.Tap(stage.m_edit);
-    EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
+    panel::ExpectShown();
     EXPECT_EQ(::GetFocus(), stage.m_edit.m_hWnd);
     stage.Type({'1', '2'});
     EXPECT_EQ(fx::TextOf(stage.m_edit), L"12");
     stage.TapOther();
-    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+    panel::ExpectHidden();
 }
 
 TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {

@@ -1,6 +1,6 @@
 // Full-screen dialogs whose first field brings up the soft input panel while they open.
 #include "Pixels.h"
-#include "support/Stage.h"
+#include "support/PanelPen.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 
@@ -59,94 +59,70 @@ private:
 /// Whether the screen shows the panel in its place, and the dialog above it. What the system
 /// says of its windows is not enough: it can be wrong.
 bool PanelIsSeen() {
-    if (!fx::PanelIsVisible())
+    if (!panel::IsVisible())
         return false;
-    CRect place;
-    ::GetWindowRect(::FindWindow(L"TesuvoInputPanel", nullptr), place);
+    const CRect place = panel::Place();
     CWindowDC screen(nullptr);
     const fx::Image image(screen, CSize(place.right, place.bottom));
     return image.Has(CRect(0, 0, place.right, place.top), fx::MAGENTA) && !image.Has(place, fx::MAGENTA);
 }
 
-/// Runs the dialog with the script; the panel goes with the dialog's field.
-void RunDialog(CDialog& dialog, fx::ModalScript& script) {
-    script.Then([&] { dialog.EndDialog(IDOK); });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
-    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+/// Runs the steps and ends the dialog; the panel goes with the dialog's field.
+void PlayWithPanel(CDialog& dialog, std::initializer_list<fx::Step> steps) {
+    fx::PlayAndEnd(dialog, steps);
+    panel::ExpectHidden();
 }
 
 TEST(PanelOverDialog, IsSeenWhenTheDialogOpensWithItsFieldFocused) {
     for (const AddField addField : {AddEdit, AddCombo, AddChoice}) {
         for (const auto order : {FirstFieldDialog::BeforeBase, FirstFieldDialog::AfterBase}) {
             FirstFieldDialog dlg(addField, nullptr, order);
-            fx::ModalScript script;
-            script.Until(PanelIsSeen);
-            RunDialog(dlg, script);
+            PlayWithPanel(dlg, {PanelIsSeen});
         }
     }
 }
 
-/// A page whose first field is attached last of all.
-class FirstFieldPage : public CnPropertyPage {
-public:
-    FirstFieldPage() : CnPropertyPage(201) {}
-
-protected:
-    BOOL OnInitDialog() override {
-        CnPropertyPage::OnInitDialog();
-        m_edit.Attach(IDC_EDIT, this, SipOptionMode0);
-        return TRUE;
-    }
-
-private:
-    CnEdit m_edit;
-};
-
 TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
-    FirstFieldPage page;
+    class Page : public CnPropertyPage {
+    public:
+        Page() : CnPropertyPage(201) {}
+        BOOL OnInitDialog() override {
+            return CnPropertyPage::OnInitDialog(), m_edit.Attach(IDC_EDIT, this, SipOptionMode0), TRUE;
+        }
+        CnEdit m_edit; // attached last of all
+    } page;
     CnPropertySheet sheet(L"設定", nullptr, 0);
     sheet.AddPage(&page);
-    fx::ModalScript script;
-    script.Until(fx::PanelIsVisible).Then([&] { sheet.EndDialog(IDOK); });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
+    fx::PlayAndEnd(sheet, {panel::IsVisible});
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
     FirstFieldDialog first(AddEdit);
     FirstFieldDialog second(AddCombo, &first);
-    fx::ModalScript script;
-    script.Until(PanelIsSeen)
-        .Then([&] { second.DoModal(); })
-        .Until(PanelIsSeen)
-        .Then([&] { second.EndDialog(IDOK); })
-        .Until([&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); });
-    RunDialog(first, script);
+    PlayWithPanel(first,
+                  {PanelIsSeen, [&] { second.DoModal(); }, PanelIsSeen, [&] { second.EndDialog(IDOK); },
+                   [&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); }});
 }
 
 TEST(PanelOverDialog, StaysBelowTheListThatDropsOverIt) {
     FirstFieldDialog dlg(AddCombo);
     COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
     CRect list;
     ULONGLONG nDropped = 0;
-    fx::ModalScript script;
-    script.Until(PanelIsSeen)
-        .Then([&] {
-            for (int i = 0; i < 20; ++i)
-                dlg.m_combo.AddString(L"測点");
-            dlg.m_combo.ShowDropDown();
-            ::GetComboBoxInfo(dlg.m_combo, &info);
-            ::GetWindowRect(info.hwndList, list);
-            nDropped = ::GetTickCount64();
-        })
-        .Until([&] { return ::GetTickCount64() > nDropped + 300; })
-        .Then([&] {
-            CRect panel;
-            ::GetWindowRect(::FindWindow(L"TesuvoInputPanel", nullptr), panel);
-            ASSERT_GT(list.bottom, panel.top + 4);
-            EXPECT_EQ(::WindowFromPoint(CPoint(list.left + 4, panel.top + 4)), info.hwndList);
-        });
-    RunDialog(dlg, script);
+    const auto drop = [&] {
+        for (int i = 0; i < 20; ++i)
+            dlg.m_combo.AddString(L"測点");
+        dlg.m_combo.ShowDropDown();
+        dlg.m_combo.GetComboBoxInfo(&info);
+        list = fx::RectOf(info.hwndList);
+        nDropped = ::GetTickCount64();
+    };
+    const auto look = [&] {
+        const CRect place = panel::Place();
+        ASSERT_GT(list.bottom, place.top + 4);
+        EXPECT_EQ(info.hwndList, ::WindowFromPoint(CPoint(list.left + 4, place.top + 4)));
+    };
+    PlayWithPanel(dlg, {PanelIsSeen, drop, [&] { return ::GetTickCount64() > nDropped + 300; }, look});
 }
 
 } // namespace

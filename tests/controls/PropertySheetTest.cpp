@@ -96,12 +96,12 @@ TEST(nPropertySheet, NeitherKeysNorCancelNorCloseEndIt) {
 
 TEST(nPropertySheet, OtherKeysReachThePage) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
-    fx::ModalScript script;
-    script.Then([&] { pen::Tap(*sheet.m_first.GetDlgItem(IDC_TEXT)); });
-    script.Then([&] { pen::TypeKeys({VK_END, '7', VK_RETURN, '8'}); });
-    script.Then([&] { pen::Tap(CPoint(sheet.Rect().right - 45, 13)); });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK) << "the OK button of the title bar";
-    EXPECT_EQ(sheet.m_first.m_strText, L"P178");
+    EXPECT_EQ(IDOK, fx::Play(sheet, {[&] { pen::Tap(*sheet.m_first.GetDlgItem(IDC_TEXT)); },
+                                     [&] {
+                                         pen::TypeKeys({VK_END, '7', VK_RETURN, '8'});
+                                     },
+                                     [&] { fx::TapOk(sheet); }}));
+    EXPECT_EQ(L"P178", sheet.m_first.m_strText);
 }
 
 } // namespace

@@ -69,15 +69,18 @@ TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
 }
 
 TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
-    Dialog dlg(CnDialog::OptionBarButtonSize);
-    WhileOpen(dlg, [&] {
-        CRect client;
-        dlg.GetClientRect(client);
-        EXPECT_EQ(client, CRect(0, 0, Screen().right, Screen().bottom - 26));
-        EXPECT_EQ(fx::RectOf(dlg.Bar()), CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
-        EXPECT_EQ(LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)), 32);
-        EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
-    });
+    for (const DWORD dwOption : {DWORD{0}, DWORD{CnDialog::OptionBarButtonSize}}) {
+        Dialog dlg(dwOption);
+        WhileOpen(dlg, [&] {
+            CRect client;
+            dlg.GetClientRect(client);
+            EXPECT_EQ(CRect(0, 0, Screen().right, Screen().bottom - 26), client);
+            EXPECT_EQ(CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom), fx::RectOf(dlg.Bar()));
+            const bool bLarge = LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
+            EXPECT_EQ(dwOption != 0, bLarge);
+            EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
+        });
+    }
 }
 
 TEST(nDialog, TakesItsIconForBothSizes) {
@@ -92,25 +95,23 @@ TEST(nDialog, TakesItsIconForBothSizes) {
 // --- Ending ------------------------------------------------------------------------------
 
 TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
-    struct Row {
+    const DWORD dwSwallow = CnDialog::OptionSwallowKeys;
+    const struct {
         DWORD option;
         WORD key;
         INT_PTR result;
-    };
-    const Row rows[] = {
-        {0, VK_RETURN, IDOK},
-        {0, VK_ESCAPE, IDCANCEL},
-        {CnDialog::OptionSwallowKeys, VK_RETURN, 77},
-        {CnDialog::OptionSwallowKeys, VK_ESCAPE, 77},
-    };
-    for (const Row& row : rows) {
+    } rows[] = {{0, VK_RETURN, IDOK},
+                {0, VK_ESCAPE, IDCANCEL},
+                {dwSwallow, VK_RETURN, 77},
+                {dwSwallow, VK_ESCAPE, 77}};
+    for (const auto& row : rows) {
         Dialog dlg(CnDialog::OptionPopup | row.option);
-        fx::ModalScript script;
-        script.Then([&] { pen::TypeKeys({row.key}); });
+        const auto type = [&] { pen::TypeKeys({row.key}); };
         int nWaited = 0;
-        if (row.result == 77)
-            script.Until([&] { return ++nWaited == 10; }).Then([&] { dlg.EndDialog(77); });
-        EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), row.result) << row.option << ' ' << row.key;
+        const auto wait = [&] { return ++nWaited == 10; };
+        const auto end = [&] { dlg.EndDialog(77); };
+        EXPECT_EQ(row.result, row.result == 77 ? fx::Play(dlg, {type, wait, end}) : fx::Play(dlg, {type}))
+            << row.option << ' ' << row.key;
     }
 }
 
@@ -126,11 +127,9 @@ TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
         int m_nAsked = 0;
     };
     Asking dlg(CnDialog::OptionPopup);
-    fx::ModalScript script;
-    script.Then([&] { dlg.PostMessage(WM_CLOSE); });
-    script.Until([&] { return dlg.m_nAsked == 1; }).Then([&] { dlg.PostMessage(WM_CLOSE); });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDCANCEL);
-    EXPECT_EQ(dlg.m_nAsked, 2);
+    const auto close = [&] { dlg.PostMessage(WM_CLOSE); };
+    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {close, [&] { return dlg.m_nAsked == 1; }, close}));
+    EXPECT_EQ(2, dlg.m_nAsked);
 }
 
 // --- Colour ------------------------------------------------------------------------------
@@ -168,15 +167,12 @@ void DragBy(Dialog& dlg, CSize offset) {
 
 TEST(nDialog, DragKeepsTheFrameInReach) {
     fx::Frame owner(CSize(200, 200)); // its coordinates have no part in it
-    struct Row {
-        const char* what;
-        CPoint from;
-        CPoint to;
-        CPoint stands;
-        DWORD option = CnDialog::OptionDrag;
-    };
     const CSize size(140, 100);
-    const Row rows[] = {
+    const struct {
+        const char* what;
+        CPoint from, to, stands;
+        DWORD option = CnDialog::OptionDrag;
+    } rows[] = {
         {"free", {20, 40}, {60, 90}, {60, 90}},
         {"top", {20, 40}, {20, 10}, {20, 26}},
         {"top edge itself", {20, 40}, {20, 26}, {20, 26}},
@@ -187,7 +183,7 @@ TEST(nDialog, DragKeepsTheFrameInReach) {
         {"gone at the right comes back whole", {20, 40}, {250, 40}, {100, 40}},
         {"without the option", {20, 40}, {60, 90}, {20, 40}, 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         Dialog dlg(CnDialog::OptionPopup | row.option, &owner);
         WhileOpen(dlg, [&] {
             dlg.MoveWindow(CRect(row.from, size));
@@ -206,72 +202,71 @@ public:
     using Dialog::Dialog;
 
 protected:
-    BOOL OnInitDialog() override {
-        CnDialog::OnInitDialog();
-        MoveWindow(PLACE);
-        return TRUE;
-    }
+    BOOL OnInitDialog() override { return CnDialog::OnInitDialog(), MoveWindow(PLACE), TRUE; }
 };
 
 /// Whether the left edge of the screen shows nothing but the window behind: a frame crosses it
 /// on its way, no window does.
 bool EdgeIsBlank() {
-    const CSize size(18, Screen().bottom);
     CWindowDC screen(nullptr);
-    const fx::Image image(screen, size);
-    for (int y = 0; y < size.cy; ++y)
-        for (int x = 0; x < size.cx; ++x)
-            if (image.At(x, y) != ::GetSysColor(COLOR_WINDOW))
-                return false;
-    return true;
+    const fx::Image image(screen, CSize(18, Screen().bottom));
+    return image.IsAll(image.Rect(), ::GetSysColor(COLOR_WINDOW));
 }
 
 TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
-    struct Row {
+    const auto openAnother = [](Dialog& dlg) {
+        PlacedDialog child(CnDialog::OptionPopup, &dlg);
+        WhileOpen(child, [] {});
+    };
+    const struct {
         const char* what;
         void (*interrupt)(Dialog&); ///< What comes in between before the pen is lifted.
         CSize moved;
-    };
-    const Row rows[] = {
-        {"nothing", [](Dialog&) {}, {-40, 60}},
-        {"capture lost", [](Dialog&) { ::ReleaseCapture(); }, {0, 0}},
-        {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
-        {"another dialog",
-         [](Dialog& dlg) {
-             PlacedDialog child(CnDialog::OptionPopup, &dlg);
-             WhileOpen(child, [] {});
-         },
-         {0, 0}},
-    };
+    } rows[] = {{"nothing", [](Dialog&) {}, {-40, 60}},
+                {"capture lost", [](Dialog&) { ::ReleaseCapture(); }, {0, 0}},
+                {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
+                {"another dialog", openAnother, {0, 0}}};
     const CPoint press = PlacedDialog::PLACE.CenterPoint();
     fx::Frame background; // the desktop draws itself in its own time
     background.MoveWindow(Screen());
     bool bSeen = false; // in one row is enough: the screen may be drawn over at any time
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         PlacedDialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &background);
-        fx::ModalScript script;
-        script.Until(EdgeIsBlank);
-        script.Then([&] {
+        const auto drag = [&] {
             pen::Down(press);
             pen::Move(press + CSize(-50, 40));
-        });
-        script.Then([&] {
+        };
+        const auto interrupt = [&] {
             bSeen = bSeen || !EdgeIsBlank();
             row.interrupt(dlg);
-        });
-        script.Then([&] { pen::Move(press + CSize(-55, 50)); });
-        script.Then([&] {
+        };
+        const auto lift = [&] {
             EXPECT_TRUE(EdgeIsBlank() || row.moved != CSize()) << row.what;
             pen::Up(press + CSize(-40, 60));
-        });
-        script.Then([&] {
-            EXPECT_EQ(dlg.Rect(), PlacedDialog::PLACE + row.moved) << row.what;
+        };
+        const auto look = [&] {
+            EXPECT_EQ(PlacedDialog::PLACE + row.moved, dlg.Rect()) << row.what;
             EXPECT_TRUE(EdgeIsBlank()) << row.what;
             dlg.EndDialog(IDOK);
-        });
-        script.Run([&] { return dlg.DoModal(); });
+        };
+        fx::Play(dlg, {EdgeIsBlank, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); }, lift, look});
     }
     EXPECT_TRUE(bSeen);
+}
+
+TEST(nDialog, MoveWithoutContactIsNotForTheFrame) {
+    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
+    CRect home;
+    const auto press = [&] {
+        home = dlg.Rect();
+        dlg.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
+        dlg.PostMessage(WM_MOUSEMOVE, 0, MAKELPARAM(40, 50));
+    };
+    const auto lift = [&] {
+        dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(40, 50));
+        EXPECT_EQ(home, dlg.Rect());
+    };
+    fx::PlayAndEnd(dlg, {press, lift});
 }
 
 TEST(nDialog, LiftWithoutAPressGoesToTheStoredFrameIfThereIsOne) {

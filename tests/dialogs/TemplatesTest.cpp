@@ -1,7 +1,7 @@
 // The library's dialog templates, item by item, as tests/data/dialogs/templates.txt has them.
 #include "support/FrameworkEnvironment.h"
+#include "support/TestData.h"
 
-#include <fstream>
 #include <sstream>
 
 namespace {
@@ -76,9 +76,8 @@ TEST(Templates, AreAsTheyWereDesigned) {
     std::string found;
     for (const int nID : {134, 140, 141, 1070, 1120, 1150})
         found += Describe(nID);
-    std::ifstream file(FIELDKIT_TEST_DATA "/dialogs/templates.txt");
     std::ostringstream wanted;
-    wanted << file.rdbuf();
+    wanted << testdata::Open("dialogs/templates.txt").rdbuf();
     EXPECT_EQ(wanted.str(), found);
 }
 

@@ -1,6 +1,7 @@
 // Each call into the system fails once: nothing may crash, hang, be lost or be left behind.
 #include "FaultLoop.h"
 #include "FaultTable.h"
+#include "support/OwnProcess.h"
 #include "support/TestDrive.h"
 
 #include <algorithm>
@@ -53,24 +54,9 @@ protected:
         CString strRange;
         strRange.Format(L"%d %d", nFirst, nStride);
         ::SetEnvironmentVariable(RANGE, strRange);
-        WCHAR szProgram[MAX_PATH];
-        ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
-        CString strLine;
-        strLine.Format(L"\"%s\" --gtest_also_run_disabled_tests --gtest_brief=1 "
-                       L"--gtest_filter=All/DISABLED_FaultLoop.Run/%hs",
-                       szProgram, pszScenario);
-        STARTUPINFO startup = {};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION process = {};
-        DWORD dwExit = 0;
-        if (!::CreateProcess(nullptr, strLine.GetBuffer(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                             &startup, &process))
-            return ::GetLastError();
-        ::WaitForSingleObject(process.hProcess, INFINITE);
-        ::GetExitCodeProcess(process.hProcess, &dwExit);
-        ::CloseHandle(process.hProcess);
-        ::CloseHandle(process.hThread);
-        return dwExit;
+        return fx::RunOwnProcess(L"--gtest_also_run_disabled_tests --gtest_brief=1 "
+                                 L"--gtest_filter=All/DISABLED_FaultLoop.Run/" +
+                                 CString(pszScenario));
     }
 
 private:

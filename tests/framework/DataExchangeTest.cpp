@@ -63,20 +63,15 @@ TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
     EXPECT_TRUE(strValue.IsEmpty());
 }
 
-class Listening : public ExchangeForm {
-public:
-    int m_nChanges = 0;
-
-protected:
-    afx_msg void OnChange() { ++m_nChanges; }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(Listening, ExchangeForm)
-ON_EN_CHANGE(ID_FIRST, &Listening::OnChange)
-END_MESSAGE_MAP()
-
 TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
+    class Listening : public ExchangeForm {
+    public:
+        int m_nChanges = 0;
+        BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
+            m_nChanges += nID == ID_FIRST && nCode == EN_CHANGE ? 1 : 0;
+            return ExchangeForm::OnCmdMsg(nID, nCode, pExtra, pInfo);
+        }
+    };
     Listening form;
     CString strValue = L"written";
     int nExchanges = 0;
@@ -87,9 +82,9 @@ TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
         }
     };
     EXPECT_TRUE(form.UpdateData(FALSE));
-    EXPECT_EQ(form.m_nChanges, 0);
+    EXPECT_EQ(0, form.m_nChanges);
     form.m_first.SendMessage(WM_CHAR, L'x', 1);
-    EXPECT_EQ(form.m_nChanges, 1);
+    EXPECT_EQ(1, form.m_nChanges);
 }
 
 // --- Buttons and lists --------------------------------------------------------------------------

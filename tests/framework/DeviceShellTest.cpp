@@ -1,105 +1,72 @@
 // What the device's shell does for dialogs: full screen, the OK button in the title bar,
 // the command bar. The screen is the device's or larger.
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/Form.h"
+#include "support/OwnProcess.h"
 #include "support/TitleBar.h"
 
 namespace {
 
-constexpr UINT ID_FULL_SCREEN = 300;
+/// On the whole screen.
+class FullDialog : public CDialog {
+public:
+    FullDialog() : CDialog(300U) { m_bFullScreen = TRUE; }
+};
 
-TEST(FullScreenDialog, CoversTheWorkAreaAndItsOkButtonSendsIdOk) {
-    CDialog dialog(ID_FULL_SCREEN);
-    dialog.m_bFullScreen = TRUE;
-    fx::ModalScript script;
-    script.Then([&] {
-        const CRect rect = fx::RectOf(dialog);
-        EXPECT_EQ(rect, fx::WorkArea());
+TEST(FullScreenDialog, CoversTheWorkAreaBetweenItsBars) {
+    FullDialog dialog;
+    const auto look = [&] {
+        const CRect area = fx::WorkArea();
+        EXPECT_EQ(area, fx::RectOf(dialog));
         CRect client;
         dialog.GetClientRect(client);
         dialog.ClientToScreen(client);
-        EXPECT_EQ(client.top, rect.top + AFX_DEVICE_BAR_HEIGHT);
-        EXPECT_NE(dialog.m_pWndEmptyCB, nullptr);
-        fx::TapOk(dialog);
-    });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
-    EXPECT_EQ(dialog.m_pWndEmptyCB, nullptr);
-}
-
-TEST(FullScreenDialog, OkButtonIsHiddenAndShownByTheDoneButtonCall) {
-    CDialog dialog(ID_FULL_SCREEN);
-    dialog.m_bFullScreen = TRUE;
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_GT(fx::FindOkButton(dialog).x, 0);
+        EXPECT_EQ(area.top + AFX_DEVICE_BAR_HEIGHT, client.top);
+        const int nBarTop = area.bottom - AFX_DEVICE_BAR_HEIGHT;
+        ASSERT_NE(nullptr, dialog.m_pWndEmptyCB);
+        EXPECT_EQ(CRect(area.left, nBarTop, area.right, area.bottom), fx::RectOf(*dialog.m_pWndEmptyCB));
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_HIDE));
-        EXPECT_EQ(fx::FindOkButton(dialog).x, -1);
+        EXPECT_EQ(-1, fx::FindOkButton(dialog).x);
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_SHOW));
-        EXPECT_GT(fx::FindOkButton(dialog).x, 0);
-        dialog.EndDialog(1);
-    });
-    script.Run([&] { return dialog.DoModal(); });
+        fx::TapOk(dialog);
+    };
+    EXPECT_EQ(IDOK, fx::Play(dialog, {look}));
+    EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
 }
 
-TEST(FullScreenDialog, CommandBarStandsAtTheBottomAndItsSwitchShowsThePanel) {
+TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
     static std::vector<BOOL> calls;
     calls.clear();
     const AFX_SIP_HANDLER handler = {[](BOOL bShow) { calls.push_back(bShow); },
                                      [](LPRECT) -> BOOL { return !calls.empty() && calls.back(); }};
     const AFX_SIP_HANDLER* const pOld = AfxSetSipHandler(&handler);
-    CDialog dialog(ID_FULL_SCREEN);
-    dialog.m_bFullScreen = TRUE;
-    fx::ModalScript script;
-    CPoint sip;
-    script
-        .Then([&] {
-            const CRect bar = fx::RectOf(*dialog.m_pWndEmptyCB);
-            EXPECT_EQ(bar, CRect(fx::WorkArea().left, fx::WorkArea().bottom - AFX_DEVICE_BAR_HEIGHT,
-                                 fx::WorkArea().right, fx::WorkArea().bottom));
-            sip = CPoint(bar.right - 14, bar.CenterPoint().y);
-            pen::Tap(sip);
-        })
-        .Then([&] { pen::Tap(sip); })
-        .Then([&] { dialog.EndDialog(1); });
-    script.Run([&] { return dialog.DoModal(); });
+    FullDialog dialog;
+    const auto tap = [&] {
+        const CRect bar = fx::RectOf(*dialog.m_pWndEmptyCB);
+        pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));
+    };
+    fx::Play(dialog, {tap, tap, [&] { dialog.EndDialog(1); }});
     AfxSetSipHandler(pOld);
-    EXPECT_EQ(calls, (std::vector<BOOL>{TRUE, FALSE}));
+    EXPECT_EQ((std::vector<BOOL>{TRUE, FALSE}), calls);
 }
 
 TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {
-    const fx::DialogTemplate dialogTemplate = fx::DialogTemplate(100, 60).Edit(10);
-    fx::TemplateDialog dialog(dialogTemplate);
-    fx::ModalScript script;
-    script.Then([&] {
+    fx::Form dialog;
+    const auto leave = [&] {
         EXPECT_LT(fx::RectOf(dialog).Height(), fx::WorkArea().Height());
-        EXPECT_EQ(dialog.m_pWndEmptyCB, nullptr);
-        EXPECT_EQ(fx::FindOkButton(dialog).x, -1);
+        EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
+        EXPECT_EQ(-1, fx::FindOkButton(dialog).x);
         EXPECT_TRUE(dialog.ModifyStyleEx(0, WS_EX_CAPTIONOKBTN));
-        EXPECT_NE(dialog.GetExStyle() & WS_EX_CAPTIONOKBTN, 0U);
-        EXPECT_EQ(static_cast<DWORD>(::GetWindowLong(dialog, GWL_EXSTYLE)) & WS_EX_CAPTIONOKBTN, 0U)
+        EXPECT_NE(0U, dialog.GetExStyle() & WS_EX_CAPTIONOKBTN);
+        EXPECT_EQ(0U, static_cast<DWORD>(::GetWindowLong(dialog, GWL_EXSTYLE)) & WS_EX_CAPTIONOKBTN)
             << "the desktop must not see it";
+        const CPoint button = fx::FindOkButton(dialog);
+        pen::Drag(button, button + CPoint(0, 60));
+    };
+    const auto tap = [&] {
+        ASSERT_NE(nullptr, dialog.m_hWnd) << "a pen that has left the button does nothing";
         fx::TapOk(dialog);
-    });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), IDOK);
-}
-
-TEST(PopupDialog, OkButtonLeftWithThePenDownDoesNothing) {
-    const fx::DialogTemplate dialogTemplate = fx::DialogTemplate(100, 60).Edit(10);
-    fx::TemplateDialog dialog(dialogTemplate);
-    bool bEnded = false;
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            dialog.ModifyStyleEx(0, WS_EX_CAPTIONOKBTN);
-            const CPoint button = fx::FindOkButton(dialog);
-            pen::Drag(button, button + CPoint(0, 60));
-        })
-        .Then([&] {
-            bEnded = dialog.m_hWnd == nullptr;
-            dialog.EndDialog(9);
-        });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), 9);
-    EXPECT_FALSE(bEnded);
+    };
+    EXPECT_EQ(IDOK, fx::Play(dialog, {leave, tap}));
 }
 
 TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
@@ -107,8 +74,8 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
         ULONG GetGestureStatus(CPoint ptTouch) override { return ptTouch == CPoint(3, 4) ? 0 : 1; }
     };
     fx::Frame frame;
-    EXPECT_EQ(frame.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0),
-              static_cast<LRESULT>(AFX_TABLET_DISABLE_PRESSANDHOLD));
+    EXPECT_EQ(static_cast<LRESULT>(AFX_TABLET_DISABLE_PRESSANDHOLD),
+              frame.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0));
     Patient child;
     ASSERT_TRUE(child.Create(WC_STATIC, L"", WS_CHILD, CRect(5, 5, 50, 50), &frame, 1));
     CPoint point(3, 4);
@@ -150,23 +117,9 @@ TEST(ShellLibrary, OneThatLiesInTheCurrentFolderIsNotLoaded) {
     }
     // A library is looked for once, and another test may have asked: so a process of its own.
     const PlantedFolder planted;
-    wchar_t szCommand[] = L"test --gtest_filter=ShellLibrary.*";
-    wchar_t szProgram[MAX_PATH];
-    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, L"1");
-    STARTUPINFO startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    const BOOL bStarted = ::CreateProcess(szProgram, szCommand, nullptr, nullptr, FALSE, 0, nullptr,
-                                          planted.m_strFolder, &startup, &process);
+    EXPECT_EQ(0U, fx::RunOwnProcess(L"--gtest_filter=ShellLibrary.*", planted.m_strFolder));
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr);
-    ASSERT_TRUE(bStarted);
-    ::WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD nExitCode = 1;
-    ::GetExitCodeProcess(process.hProcess, &nExitCode);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    EXPECT_EQ(nExitCode, 0U);
 }
 
 } // namespace

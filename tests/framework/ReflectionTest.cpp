@@ -18,23 +18,10 @@ public:
 
 protected:
     afx_msg void OnUpdate() { Log("child update"); }
-    afx_msg BOOL OnChange() {
-        Log("child change");
-        return m_bTake;
-    }
-    afx_msg void OnCode(NMHDR*, LRESULT* pResult) {
-        Log("child notify");
-        *pResult = 11;
-    }
-    afx_msg BOOL OnCodeEx(NMHDR*, LRESULT* pResult) {
-        Log("child notify ex");
-        *pResult = 12;
-        return m_bTake;
-    }
-    afx_msg HBRUSH CtlColor(CDC*, UINT) {
-        Log("child colour");
-        return m_hBrush;
-    }
+    afx_msg BOOL OnChange() { return Log("child change"), m_bTake; }
+    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { Log("child notify"), *pResult = 11; }
+    afx_msg BOOL OnCodeEx(NMHDR*, LRESULT* pResult) { return Log("child notify ex"), *pResult = 12, m_bTake; }
+    afx_msg HBRUSH CtlColor(CDC*, UINT) { return Log("child colour"), m_hBrush; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -51,10 +38,7 @@ protected:
     afx_msg void OnUpdate() { Log("parent update"); }
     afx_msg void OnChange() { Log("parent change"); }
     afx_msg void OnMaxText() { Log("parent maxtext"); }
-    afx_msg void OnCode(NMHDR*, LRESULT* pResult) {
-        Log("parent notify");
-        *pResult = 21;
-    }
+    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { Log("parent notify"), *pResult = 21; }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
         Log("parent colour");
         return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
@@ -72,76 +56,60 @@ ON_NOTIFY(-62, 1, &Parent::OnCode)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
-class Reflection : public testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &m_parent, 1));
-        m_hEdit = m_edit;
+TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
+    constexpr int UNATTACHED = -1; ///< The control has no object.
+    const struct {
+        UINT nMessage;
+        int nCode;
+        int nTake;
+        const char* pszLog;
+        LRESULT lResult;
+    } rows[] = {
+        {WM_COMMAND, EN_UPDATE, TRUE, "child update", 1},
+        {WM_COMMAND, EN_MAXTEXT, TRUE, "parent maxtext", 1},
+        {WM_COMMAND, EN_CHANGE, TRUE, "child change", 1},
+        {WM_COMMAND, EN_CHANGE, FALSE, "child change, parent change", 1},
+        {WM_NOTIFY, -60, TRUE, "child notify", 11},
+        {WM_NOTIFY, -61, TRUE, "child notify ex", 12},
+        {WM_NOTIFY, -62, TRUE, "parent notify", 21},
+        {WM_NOTIFY, -61, FALSE, "child notify ex, parent notify", 21},
+        {WM_COMMAND, EN_UPDATE, UNATTACHED, "parent update", 1},
+        {WM_COMMAND, EN_CHANGE, UNATTACHED, "parent change", 1},
+    };
+    for (const auto& row : rows) {
+        Parent parent;
+        ReflectingEdit edit;
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent, 1));
+        const HWND hEdit = edit;
+        edit.m_bTake = row.nTake == TRUE;
+        if (row.nTake == UNATTACHED)
+            edit.UnsubclassWindow();
+        NMHDR header = {hEdit, 1, static_cast<UINT>(row.nCode)};
         g_log.clear();
+        const LRESULT lResult =
+            row.nMessage == WM_COMMAND
+                ? parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, row.nCode), reinterpret_cast<LPARAM>(hEdit))
+                : parent.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&header));
+        EXPECT_EQ(row.pszLog, g_log);
+        EXPECT_EQ(row.lResult, lResult) << row.pszLog;
     }
-
-    std::string Command(WORD nCode) {
-        g_log.clear();
-        m_parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, nCode), reinterpret_cast<LPARAM>(m_hEdit));
-        return g_log;
-    }
-
-    std::string Notify(int nCode, LRESULT* pResult) {
-        g_log.clear();
-        NMHDR header = {m_hEdit, 1, static_cast<UINT>(nCode)};
-        *pResult = m_parent.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&header));
-        return g_log;
-    }
-
-    Parent m_parent;
-    ReflectingEdit m_edit;
-    HWND m_hEdit = nullptr;
-};
-
-TEST_F(Reflection, ControlComesBeforeItsParentAndDecidesWhetherTheParentHearsOfIt) {
-    EXPECT_EQ(Command(EN_UPDATE), "child update");
-    EXPECT_EQ(Command(EN_MAXTEXT), "parent maxtext");
-    EXPECT_EQ(Command(EN_CHANGE), "child change");
-    m_edit.m_bTake = false;
-    EXPECT_EQ(Command(EN_CHANGE), "child change, parent change");
 }
 
-TEST_F(Reflection, NotificationResultIsThatOfTheLastWhoHandledIt) {
-    LRESULT lResult = 0;
-    EXPECT_EQ(Notify(-60, &lResult), "child notify");
-    EXPECT_EQ(lResult, 11);
-    EXPECT_EQ(Notify(-61, &lResult), "child notify ex");
-    EXPECT_EQ(lResult, 12);
-    EXPECT_EQ(Notify(-62, &lResult), "parent notify");
-    EXPECT_EQ(lResult, 21);
-    m_edit.m_bTake = false;
-    EXPECT_EQ(Notify(-61, &lResult), "child notify ex, parent notify");
-    EXPECT_EQ(lResult, 21);
-}
-
-TEST_F(Reflection, RealEditReportsTypingToItsOwnObject) {
-    m_edit.SetWindowText(L"x");
-    EXPECT_EQ(g_log, "child update, child change");
-}
-
-TEST_F(Reflection, ParentChoosesColoursFirstAndItsBaseClassAsksTheControl) {
-    CClientDC dc(&m_edit);
+TEST(Reflection, ParentChoosesColoursFirstAndItsBaseClassAsksTheControl) {
+    Parent parent;
+    ReflectingEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent, 1));
+    CClientDC dc(&edit);
     const auto ask = [&] {
         g_log.clear();
-        return reinterpret_cast<HBRUSH>(m_parent.SendMessage(
-            WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(m_hEdit)));
+        return reinterpret_cast<HBRUSH>(parent.SendMessage(
+            WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(edit.m_hWnd)));
     };
-    m_edit.m_hBrush = static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
-    EXPECT_EQ(ask(), m_edit.m_hBrush);
-    EXPECT_EQ(g_log, "parent colour, child colour");
-    m_edit.m_hBrush = nullptr;
-    EXPECT_NE(ask(), nullptr) << "without a choice of the control the system's colour holds";
-}
-
-TEST_F(Reflection, ControlWithoutAnObjectReportsToItsParentOnly) {
-    m_edit.UnsubclassWindow();
-    EXPECT_EQ(Command(EN_UPDATE), "parent update");
-    EXPECT_EQ(Command(EN_CHANGE), "parent change");
+    edit.m_hBrush = static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
+    EXPECT_EQ(edit.m_hBrush, ask());
+    EXPECT_EQ("parent colour, child colour", g_log);
+    edit.m_hBrush = nullptr;
+    EXPECT_NE(nullptr, ask()) << "without a choice of the control the system's colour holds";
 }
 
 } // namespace

@@ -5,9 +5,11 @@
 #include "afxcmn.h"
 #include "afxmt.h"
 
+#include <thread>
+
 namespace {
 
-DWORD WINAPI UseEverything(void*) {
+void UseEverything() {
     CString str;
     str.Format(L"%d", static_cast<int>(::GetCurrentThreadId()));
     {
@@ -26,15 +28,11 @@ DWORD WINAPI UseEverything(void*) {
     }
     CWaitCursor wait;
     AfxRegisterWndClass(CS_DBLCLKS);
-    return 0;
 }
 
 size_t BytesAfter(int nThreads) {
-    for (int i = 0; i < nThreads; ++i) {
-        const HANDLE hThread = ::CreateThread(nullptr, 0, UseEverything, nullptr, 0, nullptr);
-        ::WaitForSingleObject(hThread, INFINITE);
-        ::CloseHandle(hThread);
-    }
+    for (int i = 0; i < nThreads; ++i)
+        std::thread(UseEverything).join();
     return fx::HeapBytes();
 }
 
@@ -49,26 +47,19 @@ TEST(Threads, LeaveNothingWhenTheyEnd) {
 TEST(Threads, EachHasItsOwnWaitCursor) {
     const CWaitCursor wait;
     const HCURSOR hMine = ::GetCursor();
-    const HANDLE hThread = ::CreateThread(nullptr, 0, UseEverything, nullptr, 0, nullptr);
-    ::WaitForSingleObject(hThread, INFINITE);
-    ::CloseHandle(hThread);
+    std::thread(UseEverything).join();
     EXPECT_EQ(::GetCursor(), hMine);
 }
 
 TEST(Threads, RegisterTheSameClassesAtTheSameTime) {
-    HANDLE threads[8] = {};
-    for (HANDLE& hThread : threads)
-        hThread = ::CreateThread(
-            nullptr, 0,
-            [](void*) -> DWORD {
-                for (UINT nStyle = 0; nStyle < 200; ++nStyle)
-                    AfxRegisterWndClass(CS_HREDRAW, nullptr, reinterpret_cast<HBRUSH>(UINT_PTR{nStyle}));
-                return 0;
-            },
-            nullptr, 0, nullptr);
-    ::WaitForMultipleObjects(8, threads, TRUE, INFINITE);
-    for (const HANDLE hThread : threads)
-        ::CloseHandle(hThread);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([] {
+            for (UINT nStyle = 0; nStyle < 200; ++nStyle)
+                AfxRegisterWndClass(CS_HREDRAW, nullptr, reinterpret_cast<HBRUSH>(UINT_PTR{nStyle}));
+        });
+    for (std::thread& thread : threads)
+        thread.join();
     const LPCTSTR pszClass = AfxRegisterWndClass(CS_HREDRAW, nullptr, reinterpret_cast<HBRUSH>(UINT_PTR{7}));
     WNDCLASS wc = {};
     EXPECT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), pszClass, &wc));

@@ -1,82 +1,67 @@
 // The OK button in the title bar and the field that has the focus.
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/Form.h"
 #include "support/TitleBar.h"
 #include "support/Watchdog.h"
 
-#include <string>
-
 namespace {
 
-constexpr int ID_FIRST = 10;
-constexpr int ID_FIELD = 11;
-
-class Form : public fx::TemplateDialog {
+/// On the whole screen, with a record of who has the focus.
+class Form : public fx::Form {
 public:
-    Form() : TemplateDialog(s_template) { m_bFullScreen = TRUE; }
+    Form() { m_bFullScreen = TRUE; }
 
     std::string m_log;
-    std::function<void(Form&)> m_onOk;
-
-    HWND Item(int nID) { return ::GetDlgItem(m_hWnd, nID); }
 
 protected:
-    void OnOK() override {
-        m_log += "ok ";
-        m_onOk(*this);
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (wParam == MAKEWPARAM(FIELD, EN_KILLFOCUS))
+            m_log += "left ";
+        if (wParam == MAKEWPARAM(FIELD, EN_SETFOCUS))
+            m_log += "entered ";
+        return fx::Form::OnCommand(wParam, lParam);
     }
-    afx_msg void OnLeft() { m_log += "left "; }
-    afx_msg void OnEntered() { m_log += "entered "; }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    static inline const fx::DialogTemplate s_template =
-        fx::DialogTemplate(100, 80).Edit(ID_FIRST).Edit(ID_FIELD);
 };
-
-BEGIN_MESSAGE_MAP(Form, CDialog)
-ON_EN_KILLFOCUS(ID_FIELD, &Form::OnLeft)
-ON_EN_SETFOCUS(ID_FIELD, &Form::OnEntered)
-END_MESSAGE_MAP()
 
 TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
     const fx::Watchdog watchdog(30);
+    const auto isAsking = [](Form& f) { return ::GetActiveWindow() != f.m_hWnd; };
     const struct {
         const char* pszOk;
         std::function<void(Form&)> onOk;
         const char* pszLog;
         int nFocus; ///< Afterwards; 0 if the dialog is over.
     } cases[] = {
-        {"stays", [](Form&) {}, "left ok entered ", ID_FIELD},
+        {"stays", [](Form&) {}, "left ok entered ", Form::FIELD},
         {"ends", [](Form& f) { f.EndDialog(8); }, "left ok ", 0},
         {"is destroyed", [](Form& f) { f.DestroyWindow(); }, "left ok ", 0},
-        {"goes elsewhere", [](Form& f) { ::SetFocus(f.Item(ID_FIRST)); }, "left ok ", ID_FIRST},
-        {"asks", [](Form&) { AfxMessageBox(L"?"); }, "left ok entered ", ID_FIELD},
+        {"goes elsewhere", [](Form& f) { ::SetFocus(f.Item(Form::EDIT)); }, "left ok ", Form::EDIT},
+        {"asks", [](Form&) { AfxMessageBox(L"?"); }, "left ok entered ", Form::FIELD},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszOk);
+        std::string log;
         Form form;
-        form.m_onOk = c.onOk;
-        const bool bAsks = std::string(c.pszOk) == "asks";
+        form.m_onOk = [&] {
+            form.m_log += "ok ";
+            c.onOk(form);
+        };
         fx::ModalScript script;
-        script.Then([&] { ::SetFocus(form.Item(ID_FIELD)); }).Then([&] {
+        script.Then([&] { ::SetFocus(form.Item(Form::FIELD)); }).Then([&] {
             form.m_log.clear();
             fx::TapOk(form);
         });
-        if (bAsks)
-            script.Until([&] { return ::GetActiveWindow() != form.m_hWnd; })
+        if (std::string(c.pszOk) == "asks")
+            script.Until([&] { return isAsking(form); })
                 .Then([] { ::PostMessage(::GetActiveWindow(), WM_COMMAND, IDOK, 0); })
-                .Until([&] { return ::GetActiveWindow() == form.m_hWnd; });
+                .Until([&] { return !isAsking(form); });
         if (c.nFocus != 0)
             script.Then([&] {
-                EXPECT_EQ(form.m_log, c.pszLog);
-                EXPECT_EQ(::GetFocus(), form.Item(c.nFocus));
+                EXPECT_EQ(form.Item(c.nFocus), ::GetFocus());
+                log = form.m_log;
                 form.EndDialog(1);
             });
         script.Run([&] { return form.DoModal(); });
-        if (c.nFocus == 0) {
-            EXPECT_EQ(form.m_log, c.pszLog);
-        }
+        EXPECT_EQ(c.pszLog, c.nFocus != 0 ? log : form.m_log);
     }
 }
 

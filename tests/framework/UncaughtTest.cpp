@@ -1,14 +1,10 @@
 // Exceptions that nobody catches, and memory that runs out.
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/Form.h"
 #include "support/Watchdog.h"
 
-#include <optional>
 #include <stdexcept>
 
 namespace {
-
-constexpr int ID_DO = 11;
 
 using Thrower = void (*)();
 
@@ -25,50 +21,38 @@ const struct {
     {"foreign", [] { throw 5; }, L"An unknown error occurred."},
 };
 
-/// Throws where it is told to.
-class Form : public fx::TemplateDialog {
+void RaiseMemory() {
+    throw std::bad_alloc();
+}
+
+/// Throws in one place.
+class Form : public fx::Form {
 public:
     enum Place { Nowhere, Command, Init, InitMessage, Translate, Attaching, End };
 
-    explicit Form(CWnd* pParentWnd = nullptr) : TemplateDialog(s_template, pParentWnd) {}
-
-    Place m_place = Nowhere;
-    Thrower m_raise = nullptr;
-
-    BOOL OnInitDialog() override {
-        CDialog::OnInitDialog();
-        Raise(Init);
-        return TRUE;
-    }
-    BOOL PreTranslateMessage(MSG* pMsg) override {
-        if (pMsg->message == WM_USER)
-            Raise(Translate);
-        return CDialog::PreTranslateMessage(pMsg);
+    Form(Place place, Thrower raise, CWnd* pParentWnd = nullptr)
+        : fx::Form(pParentWnd), m_place(place), m_raise(raise) {
+        m_onDo = [this] { Raise(Command); };
+        m_onInit = [this] { Raise(Init); };
+        m_onMessage = [this](UINT message, WPARAM) {
+            Raise(message == WM_INITDIALOG ? InitMessage : message == WM_NCDESTROY ? End : Nowhere);
+        };
+        m_preTranslate = [this](const MSG& msg) {
+            Raise(msg.message == WM_USER ? Translate : Nowhere);
+            return false;
+        };
     }
     void PreSubclassWindow() override { Raise(Attaching); }
 
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_INITDIALOG)
-            Raise(InitMessage);
-        if (message == WM_NCDESTROY)
-            Raise(End);
-        return CDialog::WindowProc(message, wParam, lParam);
-    }
-    afx_msg void OnDo() { Raise(Command); }
-    DECLARE_MESSAGE_MAP()
+    Place m_place;
 
 private:
     void Raise(Place place) {
-        if (place == m_place)
+        if (place != Nowhere && place == m_place)
             m_raise();
     }
-    static inline const fx::DialogTemplate s_template = fx::DialogTemplate(100, 80).Edit(10).Button(ID_DO);
+    Thrower m_raise;
 };
-
-BEGIN_MESSAGE_MAP(Form, CDialog)
-ON_COMMAND(ID_DO, &Form::OnDo)
-END_MESSAGE_MAP()
 
 TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
     const fx::Watchdog watchdog(30);
@@ -82,25 +66,17 @@ TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
     for (const auto& e : EXCEPTIONS) {
         for (const auto& p : places) {
             SCOPED_TRACE(std::string(e.pszName) + " " + std::to_string(p.place));
-            Form form(&owner);
-            form.m_place = p.place;
-            form.m_raise = e.raise;
+            Form form(p.place, e.raise, &owner);
             fx::MessageRecorder recorder;
-            fx::ModalScript script;
-            if (p.bOpens)
-                script
-                    .Then([&] {
-                        form.PostMessage(WM_COMMAND, ID_DO);
-                        form.PostMessage(WM_USER);
-                    })
-                    .Then([&] { form.EndDialog(6); });
-            EXPECT_EQ(script.Run([&] { return form.DoModal(); }), p.bOpens ? 6 : -1);
+            const auto raise = [&] {
+                form.PostDo();
+                form.PostMessage(WM_USER);
+            };
+            const auto end = [&] { form.EndDialog(6); };
+            EXPECT_EQ(p.bOpens ? 6 : -1, p.bOpens ? fx::Play(form, {raise, end}) : fx::Play(form, {}));
             const bool bTold = p.bTold && e.pszPrompt != nullptr;
-            ASSERT_EQ(recorder.m_prompts.size(), bTold ? 1U : 0U);
-            if (bTold) {
-                EXPECT_EQ(recorder.m_prompts[0], e.pszPrompt);
-            }
-            EXPECT_EQ(form.m_hWnd, nullptr);
+            EXPECT_EQ(bTold ? std::vector<CString>{e.pszPrompt} : std::vector<CString>(), recorder.m_prompts);
+            EXPECT_EQ(nullptr, form.m_hWnd);
             EXPECT_TRUE(owner.IsWindowEnabled());
             form.m_place = Form::Nowhere;
             fx::WhileOpen(form, [] {});
@@ -109,7 +85,7 @@ TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
 }
 
 TEST(Uncaught, ModelessDialogThatCannotBeInitialisedIsNotThere) {
-    const fx::DialogTemplate dialogTemplate = fx::DialogTemplate(100, 80).Edit(10);
+    const fx::DialogTemplate dialogTemplate;
     class Failing : public CDialog {
         BOOL OnInitDialog() override { throw std::bad_alloc(); }
     };
@@ -117,88 +93,59 @@ TEST(Uncaught, ModelessDialogThatCannotBeInitialisedIsNotThere) {
     dialog.m_bFullScreen = FALSE;
     fx::MessageRecorder recorder;
     EXPECT_FALSE(dialog.CreateIndirect(dialogTemplate.Get()));
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
 }
 
 /// The handler fails each time it is called, also while the box about the first time is open.
 TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
     const fx::Watchdog watchdog(20);
-    class Failing : public fx::TemplateDialog {
-    public:
-        using TemplateDialog::TemplateDialog;
-        int m_nFailures = 0;
-
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message == WM_TIMER) {
-                ++m_nFailures;
-                throw std::bad_alloc();
-            }
-            return CDialog::WindowProc(message, wParam, lParam);
+    int nFailures = 0;
+    fx::Form form;
+    form.m_onMessage = [&](UINT message, WPARAM) {
+        if (message == WM_TIMER) {
+            ++nFailures;
+            throw std::bad_alloc();
         }
     };
-    const fx::DialogTemplate dialogTemplate = fx::DialogTemplate(100, 80).Edit(10);
-    Failing dialog(dialogTemplate);
     const auto boxes = [] {
         int nBoxes = 0;
         for (HWND h = nullptr; (h = ::FindWindowEx(nullptr, h, L"#32770", L"test")) != nullptr;)
             ++nBoxes;
         return nBoxes;
     };
-    fx::ModalScript script;
-    script.Then([&] { dialog.SetTimer(1, 10); })
-        .Until([&] { return dialog.m_nFailures > 10; })
-        .Then([&] {
-            EXPECT_EQ(boxes(), 1);
-            dialog.KillTimer(1);
-            ::PostMessage(::FindWindow(L"#32770", L"test"), WM_COMMAND, IDOK, 0);
-        })
-        .Until([&] { return boxes() == 0; })
-        .Then([&] { dialog.EndDialog(1); });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), 1);
+    const auto look = [&] {
+        EXPECT_EQ(1, boxes());
+        form.KillTimer(1);
+        ::PostMessage(::FindWindow(L"#32770", L"test"), WM_COMMAND, IDOK, 0);
+    };
+    EXPECT_EQ(1, fx::Play(form, {[&] { form.SetTimer(1, 10); }, [&] { return nFailures > 10; }, look,
+                                 [&] { return boxes() == 0; }, [&] { form.EndDialog(1); }}));
 }
 
 /// The application's own way to tell needs memory that is not there.
 TEST(Uncaught, ThreadThatThrowsAgainDoesNotLetItOut) {
     fx::g_app.m_bThrowAgain = true;
-    Form form;
-    form.m_place = Form::Command;
-    form.m_raise = [] { throw std::runtime_error("first"); };
-    fx::ModalScript script;
-    script.Then([&] { form.SendMessage(WM_COMMAND, ID_DO); }).Then([&] { form.EndDialog(2); });
-    EXPECT_EQ(script.Run([&] { return form.DoModal(); }), 2);
+    Form form(Form::Command, RaiseMemory);
+    EXPECT_EQ(2, fx::Play(form, {[&] { form.SendDo(); }, [&] { form.EndDialog(2); }}));
     fx::g_app.m_bThrowAgain = false;
 }
 
 TEST(Uncaught, FailedExchangeLetsCommandsThroughAgain) {
-    class Exchanging : public fx::TemplateDialog {
-    public:
-        using TemplateDialog::TemplateDialog;
-        int m_nCommands = 0;
-
-    protected:
+    class Exchanging : public fx::Form {
         void DoDataExchange(CDataExchange* pDX) override {
             if (pDX->m_bSaveAndValidate)
                 throw std::bad_alloc();
         }
-        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-            const BOOL bResult = TemplateDialog::OnCommand(wParam, lParam);
-            m_nCommands += LOWORD(wParam) == 999 && !bResult ? 1 : 0; // handled while data are exchanged
-            return bResult;
-        }
     };
-    const fx::DialogTemplate dialogTemplate = fx::DialogTemplate(100, 80).Edit(10);
-    Exchanging dialog(dialogTemplate);
+    Exchanging form;
     fx::MessageRecorder recorder;
-    fx::ModalScript script;
-    script.Then([&] {
-        dialog.SendMessage(WM_COMMAND, IDOK);
-        EXPECT_EQ(recorder.m_prompts.size(), 1U);
-        dialog.SendMessage(WM_COMMAND, 999);
-        EXPECT_EQ(dialog.m_nCommands, 1);
-        dialog.EndDialog(1);
-    });
-    EXPECT_EQ(script.Run([&] { return dialog.DoModal(); }), 1);
+    const auto look = [&] {
+        form.SendMessage(WM_COMMAND, IDOK);
+        EXPECT_EQ(1U, recorder.m_prompts.size());
+        form.m_onDo = [&] { form.EndDialog(1); };
+        form.SendDo();
+    };
+    EXPECT_EQ(1, fx::Play(form, {look}));
 }
 
 TEST(Uncaught, FailingNewIsAMemoryException) {
@@ -207,8 +154,8 @@ TEST(Uncaught, FailingNewIsAMemoryException) {
     volatile size_t nBytes = SIZE_MAX / 4;
     void* pBlock = nullptr;
     EXPECT_THROW(pBlock = ::operator new(nBytes), CMemoryException*);
-    EXPECT_EQ(pBlock, nullptr);
-    EXPECT_EQ(::operator new(nBytes, std::nothrow), nullptr);
+    EXPECT_EQ(nullptr, pBlock);
+    EXPECT_EQ(nullptr, ::operator new(nBytes, std::nothrow));
     std::set_new_handler(pfnBefore);
 }
 

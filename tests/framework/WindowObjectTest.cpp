@@ -25,34 +25,22 @@ WNDPROC ProcedureOf(HWND hWnd) {
     return reinterpret_cast<WNDPROC>(::GetWindowLongPtr(hWnd, GWLP_WNDPROC));
 }
 
-/// Tells when it goes.
-class Watched : public CWnd {
+/// Lives on the heap as long as its window, and tells when it goes.
+class SelfDeleting : public CWnd {
 public:
-    explicit Watched(int* pnDeleted = nullptr) : m_pnDeleted(pnDeleted) {}
-    ~Watched() override {
-        if (m_pnDeleted != nullptr)
-            ++*m_pnDeleted;
-    }
-
-private:
-    int* m_pnDeleted;
-};
-
-/// Lives on the heap as long as its window.
-class SelfDeleting : public Watched {
-public:
-    using Watched::Watched;
+    explicit SelfDeleting(int& rnDeleted) : m_rnDeleted(rnDeleted) {}
+    ~SelfDeleting() override { ++m_rnDeleted; }
 
 protected:
     void PostNcDestroy() override { delete this; }
-    afx_msg LRESULT OnEnd(WPARAM, LPARAM) {
-        DestroyWindow();
-        return 42;
-    }
+    afx_msg LRESULT OnEnd(WPARAM, LPARAM) { return DestroyWindow(), 42; }
     DECLARE_MESSAGE_MAP()
+
+private:
+    int& m_rnDeleted;
 };
 
-BEGIN_MESSAGE_MAP(SelfDeleting, Watched)
+BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
 ON_MESSAGE(WM_APP, &SelfDeleting::OnEnd)
 END_MESSAGE_MAP()
 
@@ -185,44 +173,38 @@ TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
     EXPECT_FALSE(frame.DestroyWindow());
 }
 
-TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildren) {
+TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildrenAndAChildTakesItsWindow) {
     CWnd child;
     CWnd grandchild;
     auto pFrame = std::make_unique<fx::Frame>();
     ASSERT_TRUE(CreateChild(child, pFrame.get()));
     ASSERT_TRUE(CreateChild(grandchild, &child));
     pFrame.reset();
-    EXPECT_EQ(child.m_hWnd, nullptr);
-    EXPECT_EQ(grandchild.m_hWnd, nullptr);
-}
-
-TEST(WindowDestruction, ChildObjectFirstTakesItsWindowFromTheParent) {
+    EXPECT_EQ(nullptr, child.m_hWnd);
+    EXPECT_EQ(nullptr, grandchild.m_hWnd);
     fx::Frame frame;
-    {
-        CWnd child;
-        ASSERT_TRUE(CreateChild(child, &frame));
-    }
-    EXPECT_EQ(::GetWindow(frame, GW_CHILD), nullptr);
+    ASSERT_TRUE(CreateChild(*std::make_unique<CWnd>(), &frame));
+    EXPECT_EQ(nullptr, ::GetWindow(frame, GW_CHILD));
 }
 
 TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
     int nDeleted = 0;
     fx::Frame frame;
-    auto* pWnd = new SelfDeleting(&nDeleted);
+    auto* pWnd = new SelfDeleting(nDeleted);
     ASSERT_TRUE(CreateChild(*pWnd, &frame));
     EXPECT_TRUE(pWnd->DestroyWindow());
     EXPECT_EQ(nDeleted, 1) << "by its own call";
 
-    pWnd = new SelfDeleting(&nDeleted);
+    pWnd = new SelfDeleting(nDeleted);
     ASSERT_TRUE(CreateChild(*pWnd, &frame));
     EXPECT_EQ(pWnd->SendMessage(WM_APP), 42);
     EXPECT_EQ(nDeleted, 2) << "inside a handler of its own";
 
-    ASSERT_TRUE(CreateChild(*new SelfDeleting(&nDeleted), &frame));
+    ASSERT_TRUE(CreateChild(*new SelfDeleting(nDeleted), &frame));
     frame.DestroyWindow();
     EXPECT_EQ(nDeleted, 3) << "with its parent";
 
-    EXPECT_FALSE((new SelfDeleting(&nDeleted))->Create(L"no such class", L"", 0, CRect(), nullptr, 1));
+    EXPECT_FALSE((new SelfDeleting(nDeleted))->Create(L"no such class", L"", 0, CRect(), nullptr, 1));
     EXPECT_EQ(nDeleted, 4) << "when the window could not be created";
 }
 

@@ -29,6 +29,32 @@ TEST_F(ControlMessages, ProgressBar) {
     EXPECT_EQ(bar.GetPos(), 5);
 }
 
+TEST_F(ControlMessages, SpinButton) {
+    CSpinButtonCtrl spin;
+    CEdit edit;
+    Create(spin, UDS_SETBUDDYINT | UDS_NOTHOUSANDS);
+    Create(edit);
+    EXPECT_EQ(nullptr, spin.SetBuddy(&edit));
+    EXPECT_EQ(&edit, spin.GetBuddy());
+    spin.SetRange(-5, 20);
+    int nLower = 0;
+    int nUpper = 0;
+    spin.GetRange(nLower, nUpper);
+    EXPECT_EQ(CPoint(-5, 20), CPoint(nLower, nUpper));
+    for (const auto& [nPos, nSet] : {std::pair(7, 7), {-3, -3}, {99, 20}, {-99, -5}}) {
+        spin.SetPos(nPos);
+        EXPECT_EQ(nSet, ::_wtoi(fx::TextOf(edit)));
+        EXPECT_EQ(nSet, spin.GetPos32());
+    }
+    edit.SetWindowText(L"abc");
+    BOOL bError = FALSE;
+    spin.GetPos32(&bError);
+    EXPECT_TRUE(bError);
+    spin.SetRange32(-70000, 80000);
+    spin.GetRange32(nLower, nUpper);
+    EXPECT_EQ(CPoint(-70000, 80000), CPoint(nLower, nUpper));
+}
+
 TEST_F(ControlMessages, Slider) {
     CSliderCtrl slider;
     Create(slider, TBS_AUTOTICKS | TBS_ENABLESELRANGE);

@@ -13,7 +13,7 @@ CRect InnerArea() {
 bool Contains(const CRect& outer, const CRect& inner) {
     CRect both;
     both.UnionRect(outer, inner);
-    return both == outer && inner.Width() > 0 && inner.Height() > 0;
+    return both == outer && !inner.IsRectEmpty();
 }
 
 int CountCommandBars(const CWnd& wnd) {
@@ -31,8 +31,7 @@ void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage
     const CRect bar = fx::RectOf(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
     EXPECT_EQ(bar.bottom, fx::WorkArea().bottom);
     CRect free(CPoint(0, 0), tabs.Size());
-    sheet.GetTabControl()->SendMessage(TCM_ADJUSTRECT, FALSE,
-                                       reinterpret_cast<LPARAM>(static_cast<LPRECT>(free)));
+    sheet.GetTabControl()->AdjustRect(FALSE, free);
     free.OffsetRect(tabs.TopLeft());
     EXPECT_LT(free.Height(), tabs.Height() - 10) << "no room for the tabs' names";
     for (const CPropertyPage* pPage : pages)
@@ -44,32 +43,30 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE);
     fx::Page added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
     sheet.AddPage(&wide);
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            ExpectLaidOut(sheet, {&sheet.m_a});
-            EXPECT_TRUE(sheet.m_a.IsWindowVisible());
-            for (const int nID : {IDOK, IDCANCEL, ID_APPLY_NOW})
-                EXPECT_FALSE(sheet.ShowsButton(nID)) << nID;
-            EXPECT_NE(sheet.m_pWndEmptyCB, nullptr);
-            sheet.SetActivePage(1);
-            sheet.SetActivePage(&wide);
-        })
-        .Then([&] {
-            ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide});
-            EXPECT_TRUE(wide.IsWindowVisible());
-            EXPECT_FALSE(sheet.m_a.IsWindowVisible());
-            sheet.AddPage(&added);
-            sheet.SetActivePage(&added);
-        })
-        .Then([&] {
-            ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide, &added});
-            sheet.ShowWindow(SW_SHOWMAXIMIZED);
-            added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
-            ExpectLaidOut(sheet, {&added});
-            sheet.EndDialog(1);
-        });
-    script.Run([&] { return sheet.DoModal(); });
+    const auto first = [&] {
+        ExpectLaidOut(sheet, {&sheet.m_a});
+        EXPECT_TRUE(sheet.m_a.IsWindowVisible());
+        for (const int nID : {IDOK, IDCANCEL, ID_APPLY_NOW})
+            EXPECT_FALSE(sheet.ShowsButton(nID)) << nID;
+        EXPECT_NE(nullptr, sheet.m_pWndEmptyCB);
+        sheet.SetActivePage(1);
+        sheet.SetActivePage(&wide);
+    };
+    const auto others = [&] {
+        ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide});
+        EXPECT_TRUE(wide.IsWindowVisible());
+        EXPECT_FALSE(sheet.m_a.IsWindowVisible());
+        sheet.AddPage(&added);
+        sheet.SetActivePage(&added);
+    };
+    const auto last = [&] {
+        ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide, &added});
+        sheet.ShowWindow(SW_SHOWMAXIMIZED);
+        added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
+        ExpectLaidOut(sheet, {&added});
+        sheet.EndDialog(1);
+    };
+    fx::Play(sheet, {first, others, last});
     EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
 }
 
@@ -117,39 +114,32 @@ TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
         sheet.m_bOkButton = c.bOkButton;
         sheet.m_bOwnBar = c.bOwnBar;
         sheet.m_nShow = c.nShow;
-        fx::ModalScript script;
-        script.Then([&] {
+        fx::WhileOpen(sheet, [&] {
             EXPECT_TRUE(sheet.m_bResult);
-            EXPECT_EQ(sheet.IsWindowVisible(), c.nShow != SW_HIDE);
-            EXPECT_EQ(fx::FindOkButton(sheet).x != -1, c.bOkButton);
-            EXPECT_EQ(CountCommandBars(sheet), 1);
-            EXPECT_EQ(sheet.m_pWndEmptyCB == nullptr, c.bOwnBar);
+            EXPECT_EQ(c.nShow != SW_HIDE, sheet.IsWindowVisible() != FALSE);
+            EXPECT_EQ(c.bOkButton, fx::FindOkButton(sheet).x != -1);
+            EXPECT_EQ(1, CountCommandBars(sheet));
+            EXPECT_EQ(c.bOwnBar, sheet.m_pWndEmptyCB == nullptr);
             ExpectLaidOut(sheet, {&sheet.m_a});
-            sheet.EndDialog(5);
         });
-        EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), 5);
     }
 }
 
 TEST(FullScreenSheet, HandlerForCancelReplacesItForTheTitleBarAndTheKeyToo) {
     EarlySheet sheet;
-    fx::ModalScript script;
-    script.Then([&] { fx::TapClose(sheet); })
-        .Then([&] { pen::TypeKeys({VK_ESCAPE}); })
-        .Then([&] { sheet.PressButton(PSBTN_CANCEL); })
-        .Then([&] {
-            EXPECT_EQ(sheet.TakeLog(), "a.init a.set sheet.cancel sheet.cancel sheet.cancel ");
-            sheet.PressButton(PSBTN_OK);
-        });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
+    const auto look = [&] {
+        EXPECT_EQ("a.init a.set sheet.cancel sheet.cancel sheet.cancel ", sheet.TakeLog());
+        sheet.PressButton(PSBTN_OK);
+    };
+    EXPECT_EQ(IDOK, fx::Play(sheet, {[&] { fx::TapClose(sheet); }, [] { pen::TypeKeys({VK_ESCAPE}); },
+                                     [&] { sheet.PressButton(PSBTN_CANCEL); }, look}));
 }
 
 TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
     fx::Sheet sheet;
     sheet.SetWizardMode();
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(fx::FindOkButton(sheet).x, -1);
+    fx::WhileOpen(sheet, [&] {
+        EXPECT_EQ(-1, fx::FindOkButton(sheet).x);
         const CRect page = fx::RectOf(sheet.m_a.m_hWnd);
         EXPECT_TRUE(Contains(InnerArea(), page));
         CRect last;
@@ -163,22 +153,19 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
             last = button;
         }
         EXPECT_EQ(fx::RectOf(sheet.Button(ID_WIZFINISH)), fx::RectOf(sheet.Button(ID_WIZNEXT)));
-        sheet.EndDialog(1);
     });
-    script.Run([&] { return sheet.DoModal(); });
 }
 
 TEST(PopupSheet, KeepsTheSystemsLayoutWithItsButtons) {
     fx::Sheet sheet;
     sheet.m_bFullScreen = FALSE;
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
-        EXPECT_EQ(fx::FindOkButton(sheet).x, -1);
+    const auto look = [&] {
+        EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
+        EXPECT_EQ(-1, fx::FindOkButton(sheet).x);
         EXPECT_TRUE(sheet.ShowsButton(IDOK));
         ::SendMessage(sheet.Button(IDOK), BM_CLICK, 0, 0);
-    });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), IDOK);
+    };
+    EXPECT_EQ(IDOK, fx::Play(sheet, {look}));
 }
 
 TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {

@@ -5,15 +5,8 @@
 
 namespace {
 
-using Step = std::function<void(fx::Sheet&)>;
-
-/// Runs the sheet modally: each step in it, when the one before has been dealt with.
-INT_PTR RunSheet(fx::Sheet& sheet, std::initializer_list<Step> steps) {
-    fx::ModalScript script;
-    for (const Step& step : steps)
-        script.Then([&sheet, step] { step(sheet); });
-    return script.Run([&] { return sheet.DoModal(); });
-}
+using fx::Play;
+using fx::Sheet;
 
 void SetNumber(fx::Page& page, LPCTSTR psz) {
     page.SetDlgItemText(fx::IDC_NUMBER, psz);
@@ -22,237 +15,208 @@ void SetNumber(fx::Page& page, LPCTSTR psz) {
 TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
     const struct {
         const char* pszWay;
-        Step step;
+        std::function<void(Sheet&)> end;
         INT_PTR nResult;
         const char* pszLog;
     } cases[] = {
-        {"OK in the title bar", [](fx::Sheet& s) { fx::TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
-        {"Close in the title bar", [](fx::Sheet& s) { fx::TapClose(s); }, IDCANCEL, "a.cancel "},
-        {"Enter", [](fx::Sheet&) { pen::TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
-        {"Escape", [](fx::Sheet&) { pen::TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
-        {"PressButton", [](fx::Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, "a.kill a.apply a.ok "},
-        {"push button", [](fx::Sheet& s) { ::SendMessage(s.Button(IDOK), BM_CLICK, 0, 0); }, IDOK,
+        {"OK in the title bar", [](Sheet& s) { fx::TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
+        {"Close in the title bar", [](Sheet& s) { fx::TapClose(s); }, IDCANCEL, "a.cancel "},
+        {"Enter", [](Sheet&) { pen::TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
+        {"Escape", [](Sheet&) { pen::TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
+        {"PressButton", [](Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, "a.kill a.apply a.ok "},
+        {"button", [](Sheet& s) { ::SendMessage(s.Button(IDOK), BM_CLICK, 0, 0); }, IDOK,
          "a.kill a.apply a.ok "},
-        {"EndDialog of the sheet", [](fx::Sheet& s) { s.EndDialog(77); }, 77, ""},
-        {"EndDialog of a page", [](fx::Sheet& s) { s.m_a.EndDialog(78); }, 78, ""},
+        {"EndDialog of the sheet", [](Sheet& s) { s.EndDialog(77); }, 77, ""},
+        {"EndDialog of a page", [](Sheet& s) { s.m_a.EndDialog(78); }, 78, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszWay);
-        fx::Sheet sheet;
-        EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) { EXPECT_EQ(s.TakeLog(), "a.init a.set "); }, c.step}),
-                  c.nResult);
-        EXPECT_EQ(sheet.TakeLog(), c.pszLog);
-        EXPECT_EQ(sheet.m_hWnd, nullptr);
-        EXPECT_EQ(sheet.m_a.m_hWnd, nullptr);
+        Sheet sheet;
+        const auto end = [&] {
+            EXPECT_EQ("a.init a.set ", sheet.TakeLog());
+            c.end(sheet);
+        };
+        EXPECT_EQ(c.nResult, Play(sheet, {end}));
+        EXPECT_EQ(c.pszLog, sheet.TakeLog());
+        EXPECT_EQ(nullptr, sheet.m_hWnd);
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
     }
 }
 
 TEST(ModalSheet, PagesHearInOrderWhenTheUserChangesBetweenThem) {
-    fx::Sheet sheet;
+    Sheet sheet;
     sheet.m_a.m_nNumber = 5;
-    EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) {
-                                   EXPECT_TRUE(s.m_bSawCreation) << "attached before the first message";
-                                   EXPECT_EQ(s.GetActiveIndex(), 0);
-                                   SetNumber(s.m_a, L"7");
-                                   s.TakeLog();
-                                   EXPECT_TRUE(s.SetActivePage(1));
-                                   EXPECT_EQ(s.TakeLog(), "a.kill b.init b.set ");
-                                   EXPECT_TRUE(s.m_a.m_bSawCreation && s.m_b.m_bSawCreation);
-                                   EXPECT_EQ(s.GetActivePage(), &s.m_b);
-                                   EXPECT_EQ(s.m_a.m_nNumber, 7);
-                                   s.m_a.m_nNumber = 8;
-                               },
-                               [](fx::Sheet& s) {
-                                   CRect tab;
-                                   s.GetTabControl()->SendMessage(
-                                       TCM_GETITEMRECT, 0,
-                                       reinterpret_cast<LPARAM>(static_cast<LPRECT>(tab)));
-                                   s.GetTabControl()->ClientToScreen(tab);
-                                   pen::Tap(tab.CenterPoint());
-                               },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.TakeLog(), "b.kill a.set ");
-                                   EXPECT_EQ(s.m_a.GetDlgItemInt(fx::IDC_NUMBER), 8U) << "loaded again";
-                                   s.PressButton(PSBTN_OK);
-                               }}),
-              IDOK);
-    EXPECT_EQ(sheet.TakeLog(), "a.kill a.apply a.ok b.apply b.ok ");
+    const auto change = [&] {
+        EXPECT_TRUE(sheet.m_bSawCreation) << "attached before the first message";
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        SetNumber(sheet.m_a, L"7");
+        sheet.TakeLog();
+        EXPECT_TRUE(sheet.SetActivePage(1));
+        EXPECT_EQ("a.kill b.init b.set ", sheet.TakeLog());
+        EXPECT_TRUE(sheet.m_a.m_bSawCreation && sheet.m_b.m_bSawCreation);
+        EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
+        EXPECT_EQ(7, sheet.m_a.m_nNumber);
+        sheet.m_a.m_nNumber = 8;
+    };
+    const auto back = [&] {
+        EXPECT_EQ("b.kill a.set ", sheet.TakeLog());
+        EXPECT_EQ(8U, sheet.m_a.GetDlgItemInt(fx::IDC_NUMBER)) << "loaded again";
+        sheet.PressButton(PSBTN_OK);
+    };
+    EXPECT_EQ(IDOK, Play(sheet, {change, [&] { sheet.TapTab(0); }, back}));
+    EXPECT_EQ("a.kill a.apply a.ok b.apply b.ok ", sheet.TakeLog());
 }
 
-TEST(ModalSheet, PageWithARefusedValueIsNotLeft) {
-    fx::Sheet sheet;
+TEST(ModalSheet, PagesRefuseValuesTheirEndAndToBeCancelled) {
+    Sheet sheet;
+    sheet.m_a.m_bApply = sheet.m_a.m_bCancel = FALSE;
     fx::MessageRecorder recorder;
-    EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) {
-                                   SetNumber(s.m_a, L"101");
-                                   s.SetActivePage(1);
-                                   EXPECT_EQ(s.GetActiveIndex(), 0);
-                                   s.PressButton(PSBTN_OK);
-                               },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.TakeLog(), "a.init a.set a.kill a.kill ") << "nothing applied";
-                                   SetNumber(s.m_a, L"100");
-                                   s.PressButton(PSBTN_OK);
-                               }}),
-              IDOK);
-    EXPECT_EQ(recorder.m_prompts.size(), 2U);
-}
-
-TEST(ModalSheet, PagesCanRefuseToApplyAndToCancel) {
-    fx::Sheet sheet;
-    sheet.m_a.m_bApply = FALSE;
-    sheet.m_a.m_bCancel = FALSE;
-    EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) { s.PressButton(PSBTN_OK); },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.TakeLog(), "a.init a.set a.kill a.apply ");
-                                   pen::TypeKeys({VK_ESCAPE});
-                               },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.TakeLog(), "");
-                                   s.m_a.m_bCancel = TRUE;
-                                   pen::TypeKeys({VK_ESCAPE});
-                               }}),
-              IDCANCEL);
+    const auto refusedValue = [&] {
+        SetNumber(sheet.m_a, L"101");
+        sheet.SetActivePage(1);
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        sheet.PressButton(PSBTN_OK);
+    };
+    const auto refusedEnd = [&] {
+        EXPECT_EQ("a.init a.set a.kill a.kill ", sheet.TakeLog()) << "nothing applied";
+        EXPECT_EQ(2U, recorder.m_prompts.size());
+        SetNumber(sheet.m_a, L"100");
+        sheet.PressButton(PSBTN_OK);
+    };
+    const auto refusedCancel = [&] {
+        EXPECT_EQ("a.kill a.apply ", sheet.TakeLog());
+        pen::TypeKeys({VK_ESCAPE});
+    };
+    const auto cancel = [&] {
+        EXPECT_EQ("", sheet.TakeLog());
+        sheet.m_a.m_bCancel = TRUE;
+        pen::TypeKeys({VK_ESCAPE});
+    };
+    EXPECT_EQ(IDCANCEL, Play(sheet, {refusedValue, refusedEnd, refusedCancel, cancel}));
 }
 
 TEST(ModalSheet, ApplyTakesChangesOverAndStays) {
-    fx::Sheet sheet;
-    RunSheet(sheet, {[](fx::Sheet& s) {
-                         EXPECT_FALSE(::IsWindowEnabled(s.Button(ID_APPLY_NOW)));
-                         s.m_a.SetModified();
-                         EXPECT_TRUE(::IsWindowEnabled(s.Button(ID_APPLY_NOW)));
-                         s.TakeLog();
-                         s.PressButton(PSBTN_APPLYNOW);
-                     },
-                     [](fx::Sheet& s) {
-                         // The system then tells the page once more that it is shown.
-                         EXPECT_TRUE(s.TakeLog().starts_with("a.kill a.apply a.ok "));
-                         EXPECT_FALSE(::IsWindowEnabled(s.Button(ID_APPLY_NOW)));
-                         s.m_a.SetModified();
-                         s.m_a.SetModified(FALSE);
-                         EXPECT_FALSE(::IsWindowEnabled(s.Button(ID_APPLY_NOW)));
-                         s.m_a.CancelToClose();
-                         EXPECT_FALSE(::IsWindowEnabled(s.Button(IDCANCEL)));
-                         s.PressButton(PSBTN_OK);
-                     }});
+    Sheet sheet;
+    const auto isApplyEnabled = [&] { return ::IsWindowEnabled(sheet.Button(ID_APPLY_NOW)) != FALSE; };
+    const auto apply = [&] {
+        EXPECT_FALSE(isApplyEnabled());
+        sheet.m_a.SetModified();
+        EXPECT_TRUE(isApplyEnabled());
+        sheet.TakeLog();
+        sheet.PressButton(PSBTN_APPLYNOW);
+    };
+    const auto look = [&] {
+        // The system then tells the page once more that it is shown.
+        EXPECT_TRUE(sheet.TakeLog().starts_with("a.kill a.apply a.ok "));
+        EXPECT_FALSE(isApplyEnabled());
+        sheet.m_a.SetModified();
+        sheet.m_a.SetModified(FALSE);
+        EXPECT_FALSE(isApplyEnabled());
+        sheet.m_a.CancelToClose();
+        EXPECT_FALSE(::IsWindowEnabled(sheet.Button(IDCANCEL)));
+        sheet.PressButton(PSBTN_OK);
+    };
+    Play(sheet, {apply, look});
 }
 
 TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
-    fx::Sheet sheet;
+    Sheet sheet;
     fx::Page named(sheet.m_log, "c", fx::ID_PAGE_VIEW, 40011);
     sheet.AddPage(&named);
-    RunSheet(sheet, {[](fx::Sheet& s) {
-                 const LPCTSTR names[] = {L"一般", L"表示", L"測点"};
-                 for (int i = 0; i < 3; ++i) {
-                     TCHAR szName[20] = {};
-                     TCITEM item = {};
-                     item.mask = TCIF_TEXT;
-                     item.pszText = szName;
-                     item.cchTextMax = 20;
-                     s.GetTabControl()->SendMessage(TCM_GETITEM, static_cast<WPARAM>(i),
-                                                    reinterpret_cast<LPARAM>(&item));
-                     EXPECT_STREQ(szName, names[i]);
-                 }
-                 EXPECT_EQ(fx::TextOf(s), L"設定");
-                 s.SetTitle(L"別の名");
-                 EXPECT_EQ(fx::TextOf(s), L"別の名");
-                 s.EndDialog(1);
-             }});
+    fx::WhileOpen(sheet, [&] {
+        const LPCTSTR names[] = {L"一般", L"表示", L"測点"};
+        for (int i = 0; i < 3; ++i) {
+            TCHAR szName[20] = {};
+            TCITEM item = {};
+            item.mask = TCIF_TEXT;
+            item.pszText = szName;
+            item.cchTextMax = 20;
+            sheet.GetTabControl()->GetItem(i, &item);
+            EXPECT_STREQ(names[i], szName);
+        }
+        EXPECT_EQ(L"設定", fx::TextOf(sheet));
+        sheet.SetTitle(L"別の名");
+        EXPECT_EQ(L"別の名", fx::TextOf(sheet));
+    });
     CPropertySheet fromId(40010);
     fromId.AddPage(&named);
     ASSERT_TRUE(fromId.Create());
-    EXPECT_EQ(fx::TextOf(fromId), L"設定");
+    EXPECT_EQ(L"設定", fx::TextOf(fromId));
 }
 
-TEST(ModalSheet, PagesCanBeAddedAndRemovedBeforeAndWhileItRuns) {
-    fx::Sheet sheet;
+TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
+    Sheet sheet;
+    EXPECT_TRUE(sheet.SetActivePage(1));
+    EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
+    EXPECT_FALSE(sheet.SetActivePage(2));
+    fx::WhileOpen(sheet, [&] {
+        EXPECT_EQ("b.init b.set ", sheet.TakeLog());
+        EXPECT_EQ(::GetDlgItem(sheet.m_b, fx::IDC_NUMBER), ::GetFocus());
+    });
+    sheet.TakeLog();
     fx::Page c(sheet.m_log, "c", fx::ID_PAGE_VIEW);
     fx::Page missing(sheet.m_log, "missing", 9999);
     sheet.RemovePage(&sheet.m_a);
     sheet.RemovePage(5);
-    EXPECT_EQ(sheet.GetPageCount(), 1);
-    EXPECT_EQ(sheet.GetPageIndex(&sheet.m_b), 0);
-    EXPECT_EQ(sheet.GetPageIndex(&sheet.m_a), -1);
-    EXPECT_EQ(sheet.GetPage(1), nullptr);
-    RunSheet(sheet, {[&](fx::Sheet& s) {
-                 EXPECT_EQ(s.TakeLog(), "b.init b.set ");
-                 s.AddPage(&c);
-                 s.AddPage(&missing);
-                 EXPECT_EQ(s.GetPageCount(), 2) << "a page without a template is not added";
-                 EXPECT_TRUE(s.SetActivePage(&c));
-                 EXPECT_EQ(s.GetActiveIndex(), 1);
-                 s.RemovePage(0);
-                 EXPECT_EQ(s.GetTabControl()->SendMessage(TCM_GETITEMCOUNT), 1);
-                 EXPECT_EQ(s.GetActivePage(), &c);
-                 EXPECT_EQ(s.GetPage(0), &c);
-                 s.EndDialog(1);
-             }});
-}
-
-TEST(ModalSheet, StartsWithThePageThatWasChosen) {
-    fx::Sheet sheet;
-    EXPECT_TRUE(sheet.SetActivePage(1));
-    EXPECT_EQ(sheet.GetActivePage(), &sheet.m_b);
-    EXPECT_FALSE(sheet.SetActivePage(2));
-    RunSheet(sheet, {[](fx::Sheet& s) {
-                 EXPECT_EQ(s.TakeLog(), "b.init b.set ");
-                 EXPECT_EQ(CWnd::GetFocus()->GetSafeHwnd(), s.m_b.GetDlgItem(fx::IDC_NUMBER)->GetSafeHwnd());
-                 s.EndDialog(1);
-             }});
+    EXPECT_EQ(1, sheet.GetPageCount());
+    EXPECT_EQ(0, sheet.GetPageIndex(&sheet.m_b));
+    EXPECT_EQ(-1, sheet.GetPageIndex(&sheet.m_a));
+    EXPECT_EQ(nullptr, sheet.GetPage(1));
+    fx::WhileOpen(sheet, [&] {
+        EXPECT_EQ("b.init b.set ", sheet.TakeLog());
+        sheet.AddPage(&c);
+        sheet.AddPage(&missing);
+        EXPECT_EQ(2, sheet.GetPageCount()) << "a page without a template is not added";
+        EXPECT_TRUE(sheet.SetActivePage(&c));
+        EXPECT_EQ(1, sheet.GetActiveIndex());
+        sheet.RemovePage(0);
+        EXPECT_EQ(1, sheet.GetTabControl()->GetItemCount());
+        EXPECT_EQ(&c, sheet.GetActivePage());
+        EXPECT_EQ(&c, sheet.GetPage(0));
+    });
 }
 
 TEST(ModalSheet, WithoutPageOrTemplateIsNotShown) {
     CPropertySheet empty(L"");
-    EXPECT_EQ(empty.DoModal(), -1);
-    fx::Sheet sheet;
+    EXPECT_EQ(-1, empty.DoModal());
+    Sheet sheet;
     fx::Page missing(sheet.m_log, "missing", 9999);
     sheet.AddPage(&missing);
-    EXPECT_EQ(sheet.DoModal(), -1);
+    EXPECT_EQ(-1, sheet.DoModal());
     EXPECT_FALSE(sheet.Create());
-    EXPECT_EQ(sheet.m_hWnd, nullptr);
+    EXPECT_EQ(nullptr, sheet.m_hWnd);
 }
 
 TEST(ModalSheet, PageThatCannotBeMadeLeavesOtherWindowsAlone) {
-    fx::Sheet sheet;
+    Sheet sheet;
     fx::Page broken(sheet.m_log, "broken", fx::ID_PAGE_UNKNOWN);
     sheet.AddPage(&broken);
-    RunSheet(sheet, {[&](fx::Sheet& s) {
-                 s.SetActivePage(&broken);
-                 EXPECT_EQ(broken.m_hWnd, nullptr);
-                 const HWND hWnd =
-                     ::CreateWindow(WC_STATIC, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-                 EXPECT_EQ(CWnd::FromHandlePermanent(hWnd), nullptr);
-                 ::DestroyWindow(hWnd);
-                 s.EndDialog(1);
-             }});
+    fx::WhileOpen(sheet, [&] {
+        sheet.SetActivePage(&broken);
+        EXPECT_EQ(nullptr, broken.m_hWnd);
+        const HWND hWnd =
+            ::CreateWindow(WC_STATIC, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
+        ::DestroyWindow(hWnd);
+    });
 }
 
 TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
-    const struct {
-        const char* pszWhere;
-        std::function<void()> fx::Sheet::*pSheet;
-        fx::Page fx::Sheet::*pPage;
-        std::vector<Step> steps;
-    } cases[] = {
-        {"sheet", &fx::Sheet::m_onInit, nullptr, {}},
-        {"first page", nullptr, &fx::Sheet::m_a, {}},
-        {"page shown later", nullptr, &fx::Sheet::m_b, {[](fx::Sheet& s) { s.SetActivePage(1); }}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszWhere);
+    for (const int nPage : {-1, 0, 1}) { // the sheet itself, the first page, one shown later
         fx::MessageRecorder recorder;
         const int nWindows = fx::Leftovers::Now().nWindows;
-        fx::Sheet sheet;
-        std::function<void()>& onInit = c.pSheet != nullptr ? sheet.*c.pSheet : (sheet.*c.pPage).m_onInit;
+        Sheet sheet;
+        std::function<void()>& onInit = nPage == -1  ? sheet.m_onInit
+                                        : nPage == 0 ? sheet.m_a.m_onInit
+                                                     : sheet.m_b.m_onInit;
         onInit = [] { throw std::bad_alloc(); };
-        fx::ModalScript script;
-        for (const Step& step : c.steps)
-            script.Then([&] { step(sheet); });
-        EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), -1);
-        EXPECT_EQ(recorder.m_prompts.size(), 1U);
-        EXPECT_EQ(sheet.m_a.m_hWnd, nullptr);
-        EXPECT_EQ(fx::Leftovers::Now().nWindows, nWindows);
+        const auto show = [&] { sheet.SetActivePage(1); };
+        EXPECT_EQ(-1, nPage == 1 ? Play(sheet, {show}) : Play(sheet, {})) << nPage;
+        EXPECT_EQ(1U, recorder.m_prompts.size()) << nPage;
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd) << nPage;
+        EXPECT_EQ(nWindows, fx::Leftovers::Now().nWindows) << nPage;
         onInit = [] {};
-        EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) { fx::TapOk(s); }}), IDOK);
+        EXPECT_EQ(IDOK, Play(sheet, {[&] { fx::TapOk(sheet); }})) << nPage;
     }
 }
 
@@ -262,18 +226,13 @@ TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &frame, 1));
     frame.SetActiveWindow();
     edit.SetFocus();
-    class Owned : public fx::Sheet {
-    public:
-        explicit Owned(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
-    };
-    Owned sheet(&frame);
-    RunSheet(sheet, {[&](fx::Sheet& s) {
-                 EXPECT_FALSE(frame.IsWindowEnabled());
-                 EXPECT_EQ(s.GetParent()->GetSafeHwnd(), frame.m_hWnd);
-                 s.EndDialog(1);
-             }});
+    Sheet sheet(&frame);
+    fx::WhileOpen(sheet, [&] {
+        EXPECT_FALSE(frame.IsWindowEnabled());
+        EXPECT_EQ(frame.m_hWnd, ::GetParent(sheet));
+    });
     EXPECT_TRUE(frame.IsWindowEnabled());
-    EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+    EXPECT_EQ(edit.m_hWnd, ::GetFocus());
 }
 
 TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
@@ -288,60 +247,54 @@ TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
         std::vector<UINT> m_commands;
     };
     Owner owner;
-    fx::Sheet sheet;
+    Sheet sheet;
     ASSERT_TRUE(sheet.Create(&owner));
     for (CWnd* pSource : {static_cast<CWnd*>(&sheet), static_cast<CWnd*>(&sheet.m_a)}) {
         pSource->SendMessage(WM_COMMAND, ID_MENU);
         pSource->SendMessage(WM_COMMAND, ID_BUTTON);
-        EXPECT_EQ(std::exchange(owner.m_commands, {}), std::vector<UINT>{ID_MENU});
+        EXPECT_EQ(std::vector<UINT>{ID_MENU}, std::exchange(owner.m_commands, {}));
     }
 }
 
 TEST(ModelessSheet, DestroysItselfWhenItEnds) {
-    fx::Sheet sheet;
+    Sheet sheet;
     for (const UINT nID : {IDOK, IDCANCEL}) {
         ASSERT_TRUE(sheet.Create());
         EXPECT_FALSE(sheet.Create()) << "it exists already";
         EXPECT_TRUE(sheet.IsWindowVisible());
         fx::Pump();
         sheet.SendMessage(WM_COMMAND, MAKEWPARAM(nID, BN_CLICKED));
-        EXPECT_EQ(sheet.m_hWnd, nullptr);
-        EXPECT_EQ(sheet.m_a.m_hWnd, nullptr);
+        EXPECT_EQ(nullptr, sheet.m_hWnd);
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
     }
-    EXPECT_EQ(sheet.TakeLog(), "a.init a.set a.kill a.apply a.ok a.init a.set a.cancel ");
+    EXPECT_EQ("a.init a.set a.kill a.apply a.ok a.init a.set a.cancel ", sheet.TakeLog());
 }
 
 TEST(ModalSheet, WizardGoesThroughItsPagesAndFinishes) {
-    fx::Sheet sheet;
+    Sheet sheet;
     sheet.SetWizardMode();
-    EXPECT_EQ(RunSheet(sheet, {[](fx::Sheet& s) {
-                                   s.SetWizardButtons(PSWIZB_NEXT);
-                                   s.PressButton(PSBTN_NEXT);
-                               },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.GetActivePage(), &s.m_b);
-                                   s.PressButton(PSBTN_BACK);
-                               },
-                               [](fx::Sheet& s) {
-                                   EXPECT_EQ(s.GetActivePage(), &s.m_a);
-                                   s.PressButton(PSBTN_NEXT);
-                               },
-                               [](fx::Sheet& s) {
-                                   s.SetWizardButtons(PSWIZB_BACK | PSWIZB_FINISH);
-                                   s.TakeLog();
-                                   s.PressButton(PSBTN_FINISH);
-                               }}),
-              static_cast<INT_PTR>(ID_WIZFINISH));
-    EXPECT_NE(sheet.TakeLog().find("b.finish"), std::string::npos);
+    const auto next = [&] {
+        EXPECT_EQ(&sheet.m_a, sheet.GetActivePage());
+        sheet.SetWizardButtons(PSWIZB_NEXT);
+        sheet.PressButton(PSBTN_NEXT);
+    };
+    const auto back = [&] {
+        EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
+        sheet.PressButton(PSBTN_BACK);
+    };
+    const auto finish = [&] {
+        sheet.SetWizardButtons(PSWIZB_BACK | PSWIZB_FINISH);
+        sheet.TakeLog();
+        sheet.PressButton(PSBTN_FINISH);
+    };
+    EXPECT_EQ(static_cast<INT_PTR>(ID_WIZFINISH), Play(sheet, {next, back, next, finish}));
+    EXPECT_NE(std::string::npos, sheet.TakeLog().find("b.finish"));
 }
 
 TEST(ModalSheet, OpenedTwoHundredTimesLeavesNothing) {
     fx::ExpectNothingLeft([] {
-        fx::Sheet sheet;
-        RunSheet(sheet, {[](fx::Sheet& s) {
-                     s.SetActivePage(1);
-                     s.PressButton(PSBTN_OK);
-                 }});
+        Sheet sheet;
+        Play(sheet, {[&] { sheet.SetActivePage(1), sheet.PressButton(PSBTN_OK); }});
     });
 }
 

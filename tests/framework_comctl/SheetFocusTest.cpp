@@ -5,87 +5,63 @@
 
 namespace {
 
-using Step = std::function<void(fx::Sheet&)>;
+using fx::Sheet;
+
+void TypeCtrlTab(Sheet&) {
+    INPUT keys[4] = {};
+    for (INPUT& key : keys)
+        key.type = INPUT_KEYBOARD;
+    keys[0].ki.wVk = keys[3].ki.wVk = VK_CONTROL;
+    keys[1].ki.wVk = keys[2].ki.wVk = VK_TAB;
+    keys[2].ki.dwFlags = keys[3].ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(4, keys, sizeof(INPUT));
+}
 
 TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
     const fx::Watchdog watchdog(20);
+    const auto setFocusByProgram = [](Sheet& s) {
+        s.SetActivePage(1);
+        ::SetFocus(::GetDlgItem(s.m_a, fx::IDC_NUMBER));
+        ::PostMessage(::GetFocus(), WM_SYSCHAR, 'z', 0x20000001);
+    };
     const struct {
         const char* pszWay;
-        Step change;
-    } cases[] = {
-        {"Ctrl+Tab",
-         [](fx::Sheet&) {
-             INPUT keys[4] = {};
-             for (INPUT& key : keys)
-                 key.type = INPUT_KEYBOARD;
-             keys[0].ki.wVk = keys[3].ki.wVk = VK_CONTROL;
-             keys[1].ki.wVk = keys[2].ki.wVk = VK_TAB;
-             keys[2].ki.dwFlags = keys[3].ki.dwFlags = KEYEVENTF_KEYUP;
-             ::SendInput(4, keys, sizeof(INPUT));
-         }},
-        {"tap on a tab",
-         [](fx::Sheet& s) {
-             CRect tab;
-             s.GetTabControl()->SendMessage(TCM_GETITEMRECT, 1,
-                                            reinterpret_cast<LPARAM>(static_cast<LPRECT>(tab)));
-             s.GetTabControl()->ClientToScreen(tab);
-             pen::Tap(tab.CenterPoint());
-         }},
-        {"SetActivePage", [](fx::Sheet& s) { s.SetActivePage(1); }},
-        {"RemovePage", [](fx::Sheet& s) { s.RemovePage(0); }},
-    };
+        std::function<void(Sheet&)> change;
+    } cases[] = {{"Ctrl+Tab", TypeCtrlTab},
+                 {"tap on a tab", [](Sheet& s) { s.TapTab(1); }},
+                 {"SetActivePage", [](Sheet& s) { s.SetActivePage(1); }},
+                 {"RemovePage", [](Sheet& s) { s.RemovePage(0); }},
+                 {"by the application", setFocusByProgram}};
     for (const bool bWizard : {false, true}) {
         for (const auto& c : cases) {
             SCOPED_TRACE(c.pszWay);
-            fx::Sheet sheet;
+            Sheet sheet;
             if (bWizard)
                 sheet.SetWizardMode();
-            fx::ModalScript script;
-            script
-                .Then([&] {
-                    sheet.m_a.GetDlgItem(fx::IDC_NUMBER)->SetFocus();
-                    c.change(sheet);
-                })
-                .Then([&] {
-                    if (bWizard)
-                        sheet.SetActivePage(1); // the user cannot
-                    EXPECT_EQ(sheet.GetActivePage(), &sheet.m_b);
-                    const HWND hFocus = ::GetFocus();
-                    EXPECT_TRUE(::IsWindowVisible(hFocus));
-                    EXPECT_TRUE(sheet.m_hWnd == hFocus || ::IsChild(sheet, hFocus));
-                    ::PostMessage(hFocus, WM_SYSCHAR, 'z', 0x20000001);
-                    ::PostMessage(hFocus, WM_KEYDOWN, '5', 1);
-                })
-                .Then([&] { sheet.EndDialog(1); });
-            EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), 1);
+            const auto change = [&] {
+                sheet.m_a.GetDlgItem(fx::IDC_NUMBER)->SetFocus();
+                c.change(sheet);
+            };
+            const auto look = [&] {
+                if (bWizard)
+                    sheet.SetActivePage(1); // the user cannot
+                EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
+                const HWND hFocus = ::GetFocus();
+                EXPECT_TRUE(::IsWindowVisible(hFocus));
+                EXPECT_TRUE(sheet.m_hWnd == hFocus || ::IsChild(sheet, hFocus));
+                ::PostMessage(hFocus, WM_SYSCHAR, 'z', 0x20000001);
+                ::PostMessage(hFocus, WM_KEYDOWN, '5', 1);
+            };
+            EXPECT_EQ(1, fx::Play(sheet, {change, look, [&] { sheet.EndDialog(1); }}));
         }
     }
 }
 
-/// The focus may come there by the application, too.
-TEST(SheetFocus, KeysForAHiddenPageGoRoundNoMore) {
-    const fx::Watchdog watchdog(20);
-    fx::Sheet sheet;
-    fx::ModalScript script;
-    script
-        .Then([&] {
-            sheet.SetActivePage(1);
-            const HWND hHidden = ::GetDlgItem(sheet.m_a, fx::IDC_NUMBER);
-            ::SetFocus(hHidden);
-            ::PostMessage(hHidden, WM_SYSCHAR, 'z', 0x20000001);
-        })
-        .Then([&] {
-            EXPECT_FALSE(::IsChild(sheet.m_a, ::GetFocus()));
-            sheet.EndDialog(1);
-        });
-    EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), 1);
-}
-
 TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
     const fx::Watchdog watchdog(20);
-    class Owned : public fx::Sheet {
+    class Destroying : public Sheet {
     public:
-        explicit Owned(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
+        using Sheet::Sheet;
         BOOL OnInitDialog() override {
             const BOOL bResult = Sheet::OnInitDialog();
             if (m_bDestroy)
@@ -97,23 +73,20 @@ TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
     fx::Frame owner;
     const struct {
         const char* pszWay;
-        std::function<void(Owned&)> go;
+        std::function<void(Sheet&)> go;
     } cases[] = {
-        {"by the object", [](Owned& s) { s.DestroyWindow(); }},
-        {"by the system", [](Owned& s) { ::DestroyWindow(s); }},
-        {"its page destroyed it", [](Owned& s) { s.m_a.GetParent()->DestroyWindow(); }},
+        {"by the object", [](Sheet& s) { s.DestroyWindow(); }},
+        {"by the system", [](Sheet& s) { ::DestroyWindow(s); }},
+        {"its page destroyed it", [](Sheet& s) { s.m_a.GetParent()->DestroyWindow(); }},
         {"in OnInitDialog", nullptr},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszWay);
-        Owned sheet(&owner);
+        Destroying sheet(&owner);
         sheet.m_bDestroy = c.go == nullptr;
-        fx::ModalScript script;
-        if (c.go)
-            script.Then([&] { c.go(sheet); });
-        EXPECT_EQ(script.Run([&] { return sheet.DoModal(); }), -1);
-        EXPECT_EQ(sheet.m_hWnd, nullptr);
-        EXPECT_EQ(sheet.m_a.m_hWnd, nullptr);
+        EXPECT_EQ(-1, c.go ? fx::Play(sheet, {[&] { c.go(sheet); }}) : fx::Play(sheet, {}));
+        EXPECT_EQ(nullptr, sheet.m_hWnd);
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
         EXPECT_TRUE(owner.IsWindowEnabled());
         sheet.m_bDestroy = false;
         fx::WhileOpen(sheet, [] {});

@@ -76,7 +76,7 @@ private:
 /// A sheet of the pages a and b.
 class Sheet : public CPropertySheet {
 public:
-    Sheet() : CPropertySheet(L"設定") {
+    explicit Sheet(CWnd* pParentWnd = nullptr) : CPropertySheet(L"設定", pParentWnd) {
         m_bFullScreen = TRUE;
         AddPage(&m_a);
         AddPage(&m_b);
@@ -89,6 +89,13 @@ public:
     bool m_bSawCreation = false;
     std::function<void()> m_onInit = [] {};
 
+    /// Taps a tab with the pen.
+    void TapTab(int nTab) const {
+        CRect tab;
+        GetTabControl()->GetItemRect(nTab, tab);
+        GetTabControl()->ClientToScreen(tab);
+        pen::Tap(tab.CenterPoint());
+    }
     std::string TakeLog() { return std::exchange(m_log, {}); }
 
     HWND Button(UINT nID) const { return ::GetDlgItem(m_hWnd, static_cast<int>(nID)); }

@@ -117,37 +117,27 @@ private:
 
     // --- Which window ------------------------------------------------------------------------
 
-    static std::vector<HWND> TopLevels() {
-        std::vector<HWND> windows;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND hWnd, LPARAM lParam) -> BOOL {
-                if (::IsWindowVisible(hWnd))
-                    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&windows));
+    using Windows = std::vector<HWND>;
+
+    static BOOL CALLBACK Add(HWND hWnd, LPARAM lWindows) {
+        return reinterpret_cast<Windows*>(lWindows)->push_back(hWnd), TRUE;
+    }
+    static Windows TopLevels() {
+        Windows windows;
+        ::EnumThreadWindows(::GetCurrentThreadId(), Add, reinterpret_cast<LPARAM>(&windows));
+        std::erase_if(windows, [](HWND hWnd) { return !::IsWindowVisible(hWnd); });
         return windows;
     }
-
-    HWND AnyTopLevel() {
-        const std::vector<HWND> windows = TopLevels();
+    HWND Any(const Windows& windows) {
         return windows.empty() ? nullptr
                                : windows[static_cast<size_t>(Pick(static_cast<int>(windows.size())))];
     }
-
+    HWND AnyTopLevel() { return Any(TopLevels()); }
     HWND AnyWindow() {
-        std::vector<HWND> windows = TopLevels();
+        Windows windows = TopLevels();
         for (size_t i = windows.size(); i-- > 0;)
-            ::EnumChildWindows(
-                windows[i],
-                [](HWND hWnd, LPARAM lParam) -> BOOL {
-                    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
-                    return TRUE;
-                },
-                reinterpret_cast<LPARAM>(&windows));
-        return windows.empty() ? nullptr
-                               : windows[static_cast<size_t>(Pick(static_cast<int>(windows.size())))];
+            ::EnumChildWindows(windows[i], Add, reinterpret_cast<LPARAM>(&windows));
+        return Any(windows);
     }
 
     // --- Events ------------------------------------------------------------------------------
@@ -173,27 +163,16 @@ private:
             m_pen.Offset(Pick(41) - 20, Pick(41) - 20);
         }
         ::SetCursorPos(m_pen.x, m_pen.y);
-        switch (Pick(8)) {
-        case 0:
-            Mouse(WM_LBUTTONDOWN); // without a lift
-            break;
-        case 1:
-            Mouse(WM_LBUTTONUP); // without a press
-            break;
-        case 2:
-            Mouse(WM_MOUSEMOVE);
-            break;
-        case 3:
-            Mouse(WM_LBUTTONDOWN);
-            Mouse(WM_LBUTTONUP);
-            Mouse(WM_LBUTTONDBLCLK);
-            Mouse(WM_LBUTTONUP);
-            break;
-        default:
-            Mouse(WM_LBUTTONDOWN);
-            Mouse(WM_LBUTTONUP);
-            break;
-        }
+        // A press without a lift, a lift without a press, a move, a double tap, and mostly a tap.
+        static constexpr std::initializer_list<UINT> TAP = {WM_LBUTTONDOWN, WM_LBUTTONUP};
+        static constexpr std::initializer_list<UINT> KINDS[] = {
+            {WM_LBUTTONDOWN},
+            {WM_LBUTTONUP},
+            {WM_MOUSEMOVE},
+            {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}};
+        const size_t nKind = static_cast<size_t>(Pick(8));
+        for (const UINT message : nKind < std::size(KINDS) ? KINDS[nKind] : TAP)
+            Mouse(message);
     }
 
     /// To the window under the pen, as the system does it.
@@ -249,11 +228,8 @@ private:
         keys[VK_MENU] = nModifier == 2 ? 0x80 : 0;
         ::SetKeyboardState(keys);
         const HWND hFocus = ::GetFocus() != nullptr ? ::GetFocus() : ::GetActiveWindow();
-        Keep(nModifier == 2   ? "alt"
-             : nModifier == 1 ? "ctrl"
-             : nModifier == 0 ? "shift"
-                              : "key",
-             hFocus, wKey);
+        static constexpr const char* MODIFIERS[] = {"shift", "ctrl", "alt", "key"};
+        Keep(MODIFIERS[std::min(nModifier, 3)], hFocus, wKey);
         if (hFocus == nullptr)
             return;
         const bool bAlt = nModifier == 2 || wKey == VK_F10 || wKey == VK_MENU;

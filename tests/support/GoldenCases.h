@@ -5,7 +5,8 @@
 // Blank lines and lines that begin with # are skipped.
 #pragma once
 
-#include <fstream>
+#include "support/TestData.h"
+
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -49,12 +50,7 @@ inline Case Parse(const std::string& line, const std::string& place) {
 
 /// All cases of a file under the test data folder; throws when it cannot be read.
 inline std::vector<Case> Load(const std::string& name) {
-    const std::string path = std::string(FIELDKIT_TEST_DATA "/") + name;
-    std::ifstream file(path);
-    if (!file.is_open())
-        file.open("Z:" + path); // Wine's name for the root, when another drive is the current one
-    if (!file)
-        throw std::runtime_error("no test data in " + name);
+    std::ifstream file = testdata::Open(name);
     std::vector<Case> cases;
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {

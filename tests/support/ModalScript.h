@@ -132,6 +132,16 @@ INT_PTR Play(Modal&& modal, std::initializer_list<Step> steps) {
         return script.Run([&] { return modal.DoModal(); });
 }
 
+/// Runs a dialog with a script and ends it with OK after the last step.
+template <class Dialog>
+void PlayAndEnd(Dialog& dialog, std::initializer_list<Step> steps) {
+    ModalScript script;
+    for (const Step& step : steps)
+        script.Until(step.run);
+    script.Then([&] { dialog.EndDialog(IDOK); });
+    EXPECT_EQ(IDOK, script.Run([&] { return dialog.DoModal(); }));
+}
+
 /// Runs a look at an open modal dialog or sheet, then cancels it.
 template <class Dialog, class Look>
 void WhileOpen(Dialog&& dialog, Look look) {

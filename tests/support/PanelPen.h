@@ -50,10 +50,17 @@ inline void PumpFor(DWORD nMilliseconds) {
     PumpUntil([] { return false; }, nMilliseconds);
 }
 
+inline void ExpectShown() {
+    EXPECT_TRUE(PumpUntil(IsVisible));
+}
+inline void ExpectHidden() {
+    EXPECT_TRUE(PumpUntil([] { return !IsVisible(); }));
+}
+
 /// Closes the panel and waits until it has gone.
 inline void Close() {
     TVCloseSIP();
-    EXPECT_TRUE(PumpUntil([] { return !IsVisible(); }));
+    ExpectHidden();
 }
 
 /// An entry field that brings up the panel.

@@ -5,24 +5,8 @@
 #include "support/PenInput.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace fx {
-
-/// Handles messages until a condition holds, 3 seconds at most. @return whether it holds
-inline bool WaitFor(const std::function<bool()>& condition) {
-    const ULONGLONG nDeadline = ::GetTickCount64() + 3000;
-    while (!condition() && ::GetTickCount64() < nDeadline) {
-        ::Sleep(1);
-        Pump();
-    }
-    return condition();
-}
-
-/// Whether the soft input panel is on the screen; it comes and goes in its own time.
-inline bool PanelIsVisible() {
-    return ::IsWindowVisible(::FindWindow(L"TesuvoInputPanel", nullptr)) != FALSE;
-}
 
 /// An active window that knows which notifications its controls let through to it.
 class Stage : public Frame {

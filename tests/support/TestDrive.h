@@ -62,13 +62,10 @@ public:
                 kind == Files ? MakeFile(path(i)) : MakeFolder(path(i));
             return;
         }
-        const CString strLast = Long(path(nCount - 1));
-        const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
-        m_bByUnix = true;
-        RunUnix("cd '" + UnixName(strFolder + L"\\") + "' && seq -f '" + pszFormat + "' 0 " +
-                    std::to_string(nCount - 1) + " | xargs -d '\\n' " + (kind == Files ? "touch" : "mkdir"),
-                isThere);
-        Check(isThere(), "cannot make so many");
+        MakeByUnix("cd '" + UnixName(strFolder + L"\\") + "' && seq -f '" + pszFormat + "' 0 " +
+                       std::to_string(nCount - 1) + " | xargs -d '\\n' " +
+                       (kind == Files ? "touch" : "mkdir"),
+                   path(nCount - 1));
     }
     /// Empty files whose names this system would not make, as a server may have them. The last one
     /// is an ordinary name. @return false if no other system is there to make them
@@ -78,11 +75,7 @@ public:
         std::string command = "cd '" + UnixName(strFolder + L"\\") + "' && touch";
         for (const char* pszName : names)
             command += std::string(" '") + pszName + "'";
-        const CString strLast = Long(strFolder + L"\\" + CString(std::data(names)[names.size() - 1]));
-        const auto isThere = [&] { return ::GetFileAttributes(strLast) != INVALID_FILE_ATTRIBUTES; };
-        m_bByUnix = true;
-        RunUnix(command, isThere);
-        Check(isThere(), "cannot make foreign files");
+        MakeByUnix(command, strFolder + L"\\" + CString(std::data(names)[names.size() - 1]));
         return true;
     }
     /// A link to a folder. @return false if this user may not make links
@@ -91,10 +84,8 @@ public:
             return ::CreateSymbolicLink(Long(strPath), Root() + strTarget.Mid(1),
                                         SYMBOLIC_LINK_FLAG_DIRECTORY |
                                             SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE) != 0;
-        m_bByUnix = true;
-        RunUnix("ln -s '" + UnixName(strTarget) + "' '" + UnixName(strPath) + "'",
-                [&] { return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES; });
-        return ::GetFileAttributes(Long(strPath)) != INVALID_FILE_ATTRIBUTES;
+        MakeByUnix("ln -s '" + UnixName(strTarget) + "' '" + UnixName(strPath) + "'", strPath);
+        return true;
     }
 
     /// Takes the drive away, as a card that is pulled out. What is on it stays until the end.
@@ -144,6 +135,13 @@ private:
         std::string name = pszName != nullptr ? pszName : "";
         ::HeapFree(::GetProcessHeap(), 0, pszName);
         return name;
+    }
+
+    void MakeByUnix(const std::string& command, const CString& strLast) {
+        const auto isThere = [&] { return ::GetFileAttributes(Long(strLast)) != INVALID_FILE_ATTRIBUTES; };
+        m_bByUnix = true;
+        RunUnix(command, isThere);
+        Check(isThere(), "cannot make what is asked for");
     }
 
     /// Wine gives no handle of such a process to wait for.

@@ -1,8 +1,8 @@
 // The angle field: what it shows, what it takes, and when.
+#include "support/PanelPen.h"
 #include "support/Stage.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
-#include "support/TitleBar.h"
 
 #include "controls/nDialog.h"
 #include "survey/AngleEdit.h"
@@ -27,7 +27,6 @@ double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
 class OpenAngleEdit : public CAngleEdit {
 public:
     using CAngleEdit::DegToRad;
-    using CAngleEdit::RadToDeg;
     using CAngleEdit::RadToDMS;
 };
 
@@ -152,14 +151,6 @@ TEST(AngleEdit, PackedNumberBecomesAnAngle) {
         EXPECT_DOUBLE_EQ(field.DegToRad(row.dPacked), row.dAngle) << row.dPacked;
 }
 
-TEST(AngleEdit, AngleBecomesAPackedNumber) {
-    OpenAngleEdit field;
-    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(12, 34, 56.7)), 12.34567);
-    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(123, 4, 5.3)), 123.04053);
-    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(-12.5)), -11.7) << "the positive rest is added";
-    EXPECT_DOUBLE_EQ(field.RadToDeg(Radians(-0.5)), 0.3);
-}
-
 // --- When --------------------------------------------------------------------------------
 
 TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
@@ -190,19 +181,6 @@ TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
         EXPECT_EQ(stage.Text(), row.pszLeft);
         EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), row.dLeft);
     }
-}
-
-TEST(AngleEdit, TypedTextIsTakenWhenTheFocusGoes) {
-    AngleStage stage(TENTHS);
-    stage.m_angle.SetAngle(1.0);
-    stage.Enter();
-    stage.m_angle.SetSel(0, -1);
-    stage.Type({'1', '2', VK_OEM_PERIOD, '3', '4', '5', '6', '7'});
-    EXPECT_EQ(stage.Text(), L"12.34567");
-    EXPECT_EQ(stage.m_angle.GetAngle(), 1.0);
-    stage.Leave();
-    EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), Radians(12, 34, 56.7));
-    EXPECT_EQ(stage.Text(), L"12\uFF9F 34' 56\".7");
 }
 
 /// Puts a text on the clipboard.
@@ -300,48 +278,31 @@ private:
 
 TEST(AngleEdit, FirstFieldOfAScreenKeepsAnAngleThatNobodyTouches) {
     AngleDialog dlg;
-    fx::ModalScript script;
-    script.Then([&] {
-        EXPECT_EQ(fx::TextOf(dlg.m_first), L"90.0000");
+    const auto look = [&] {
+        EXPECT_EQ(L"90.0000", fx::TextOf(dlg.m_first));
         dlg.SendMessage(WM_COMMAND, IDOK);
-    });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-    EXPECT_DOUBLE_EQ(dlg.m_first.GetAngle(), PI / 2);
-}
-
-TEST(AngleEdit, TitleBarsOkFindsWhatWasTyped) {
-    class OkDialog : public AngleDialog {
-    public:
-        OkDialog() { SetOption(OptionOkButton); }
-        void OnOK() override {
-            m_dRead = m_first.GetAngle();
-            AngleDialog::OnOK();
-        }
-        double m_dRead = 0;
-    } dlg;
-    fx::ModalScript script;
-    script.Then([] { pen::TypeKeys({'2', VK_OEM_PERIOD, '3'}); });
-    script.Then([&] { fx::TapOk(dlg); });
-    EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-    EXPECT_DOUBLE_EQ(dlg.m_dRead, Radians(2, 30));
+    };
+    EXPECT_EQ(IDOK, fx::Play(dlg, {look}));
+    EXPECT_DOUBLE_EQ(PI / 2, dlg.m_first.GetAngle());
 }
 
 TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
     AngleDialog dlg;
-    fx::ModalScript script;
-    script.Then([] { pen::TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB}); });
-    script.Then([] { pen::TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB}); });
-    script.Then([&] {
-        EXPECT_DOUBLE_EQ(dlg.m_first.GetAngle(), Radians(2, 30));
-        EXPECT_DOUBLE_EQ(dlg.m_second.GetAngle(), Radians(4, 15));
+    const auto tap = [&] {
+        EXPECT_DOUBLE_EQ(Radians(2, 30), dlg.m_first.GetAngle());
+        EXPECT_DOUBLE_EQ(Radians(4, 15), dlg.m_second.GetAngle());
         pen::Tap(dlg.m_second);
-    });
-    script.Then([] { pen::TypeKeys({'6'}); });
-    script.Then([&] {
-        EXPECT_EQ(fx::TextOf(dlg.m_second), L"4.15006") << "a tap beside the text leaves the caret there";
-        dlg.EndDialog(IDOK);
-    });
-    script.Run([&] { return dlg.DoModal(); });
+    };
+    const auto look = [&] {
+        EXPECT_EQ(L"4.15006", fx::TextOf(dlg.m_second)) << "a tap beside the text leaves the caret there";
+    };
+    fx::PlayAndEnd(dlg, {[] {
+                             pen::TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB});
+                         },
+                         [] {
+                             pen::TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB});
+                         },
+                         tap, [] { pen::TypeKeys({'6'}); }, look});
 }
 
 /// The panel's own handling of focus changes stays beside the conversion.
@@ -353,10 +314,10 @@ TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
     stage.Leave();
     field.SetAngle(PI / 2);
     stage.Tap(field);
-    EXPECT_TRUE(fx::WaitFor(fx::PanelIsVisible));
+    panel::ExpectShown();
     EXPECT_EQ(fx::TextOf(field), L"90.0000");
     stage.Leave();
-    EXPECT_TRUE(fx::WaitFor([] { return !fx::PanelIsVisible(); }));
+    panel::ExpectHidden();
     field.UnsubclassWindow();
 }
 

@@ -20,7 +20,8 @@ class CReach : public testing::EmptyTestEventListener {
 
     static constexpr int SIZE = 1 << 16;
     unsigned char* m_pReached = fkmutant::Map();
-    std::ofstream m_file{std::string(std::getenv("MUTANT_REACH")) + ".txt"};
+    // A test may run this program once more, which writes here as well.
+    std::ofstream m_file{std::string(std::getenv("MUTANT_REACH")) + ".txt", std::ios::app};
 };
 
 const bool g_bListening = [] {

@@ -4,7 +4,8 @@ What a program's tests reach is in PROGRAM.reached.txt, written by Reach.cpp. EX
 faults that make no difference a test could see, a line "file | function | kind | code | reason"
 each; * stands for all functions, kinds or codes. Prints the survivors, and how many of how many
 were found. With --each all tests run that reach a fault, not just up to the first that finds it,
-and those assertions are listed that find a fault which no other finds.
+and those assertions are listed that find a fault which no other finds. With --one-in N a sample is
+tried, which the places decide: the same one before a change of the tests and after it.
 """
 import argparse
 import collections
@@ -16,6 +17,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import zlib
 
 FIRST = 8  # the quickest tests find most faults
 
@@ -124,10 +126,13 @@ def main():
     parser.add_argument("--workers", type=int, default=1)
     parser.add_argument("--explained", required=True)
     parser.add_argument("--each", help="where the assertions that fail are written, as JSON")
+    parser.add_argument("--folder", default="", help="faults of files whose names begin so")
+    parser.add_argument("--one-in", type=int, default=1)
     parser.add_argument("faults")
     parser.add_argument("programs", nargs="+")
     options = parser.parse_args()
-    faults = json.load(open(options.faults))
+    faults = [fault for fault in json.load(open(options.faults))
+              if fault["file"].startswith(options.folder) and zlib.crc32(fault["key"].encode()) % options.one_in == 0]
     tests = read_tests(options.programs)
     explained = read_explained(options.explained)
     found = []

@@ -1,7 +1,7 @@
 """Plants faults into a copy of a folder's sources: each place that can be spoiled becomes a
 call of a function of Mutant.h, which spoils it when the fault's number is the active one.
 
-    plant.py COMPILE_COMMANDS TREE COPY FOLDER[,HEADER...] LEFT_OUT -- COMPILER_ARGUMENTS
+    plant.py COMPILE_COMMANDS TREE COPY FOLDER[,FILE...] LEFT_OUT -- COMPILER_ARGUMENTS
 
 LEFT_OUT has the keys of places that do not compile in that form (constant expressions).
 Writes the changed sources into COPY and the list of the faults to standard output as JSON.
@@ -279,7 +279,7 @@ def main():
     index = cindex.Index.create()
     sources, counter, faults = {}, [0], []
     places = [os.path.join(tree, place) for place in folder.split(",")]
-    prefixes = tuple(place if place.endswith(".h") else place + os.sep for place in places)
+    prefixes = tuple(place if place.endswith((".h", ".cpp")) else place + os.sep for place in places)
     for entry in json.load(open(commands)):
         path = entry["file"]
         if not path.startswith(prefixes) or not path.endswith(".cpp") or path in sources:

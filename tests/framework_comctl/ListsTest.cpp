@@ -1,0 +1,173 @@
+// List views, tree views, image lists: texts, data, places, owners.
+#include "support/FrameworkEnvironment.h"
+
+#include "afxcmn.h"
+
+namespace {
+
+constexpr DWORD REPORT = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
+
+class Lists : public testing::Test {
+protected:
+    Lists() {
+        m_list.Create(REPORT, CRect(0, 0, 180, 80), &m_frame, 1);
+        m_list.InsertColumn(0, L"名前", LVCFMT_LEFT, 80);
+        m_list.InsertColumn(1, L"サイズ", LVCFMT_RIGHT, 60, 1);
+        for (int i = 0; i < 4; ++i)
+            m_list.InsertItem(LVIF_TEXT | LVIF_PARAM, i, L"item", 0, 0, 0, i + 33);
+        m_tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS, CRect(0, 80, 180, 160), &m_frame, 2);
+        m_root = m_tree.InsertItem(L"ﾙｰﾄ", 2, 3);
+        m_item = m_tree.InsertItem(L"beta", m_root);
+        m_leaf = m_tree.InsertItem(TVIF_TEXT | TVIF_PARAM, L"leaf", 0, 0, 0, 0, 77, m_item, TVI_LAST);
+    }
+    std::vector<int> Selected() const {
+        std::vector<int> items;
+        for (POSITION pos = m_list.GetFirstSelectedItemPosition(); pos != nullptr;)
+            items.push_back(m_list.GetNextSelectedItem(pos));
+        return items;
+    }
+
+    fx::Frame m_frame;
+    CListCtrl m_list;
+    CTreeCtrl m_tree;
+    HTREEITEM m_root = nullptr;
+    HTREEITEM m_item = nullptr;
+    HTREEITEM m_leaf = nullptr;
+};
+
+TEST_F(Lists, GiveTextsOfAnyLength) {
+    for (const int nLength : {0, 1, 126, 127, 128, 129, 255, 256}) {
+        const CString strText(L'x', nLength);
+        m_list.SetItemText(1, 1, strText);
+        EXPECT_EQ(strText, m_list.GetItemText(1, 1));
+        m_tree.SetItemText(m_item, strText.Left(255));
+        EXPECT_EQ(strText.Left(255), m_tree.GetItemText(m_item));
+    }
+    EXPECT_EQ(L"", m_list.GetItemText(9, 0));
+    TCHAR szText[4] = {};
+    EXPECT_EQ(3, m_list.GetItemText(1, 0, szText, 4));
+    EXPECT_STREQ(L"ite", szText);
+}
+
+TEST_F(Lists, ItemsHaveDataImagesAndState) {
+    EXPECT_EQ(34U, m_list.GetItemData(1));
+    EXPECT_EQ(0U, m_list.GetItemData(9));
+    EXPECT_EQ(77U, m_tree.GetItemData(m_leaf));
+    EXPECT_TRUE(m_list.SetItemData(1, 0x1234567890ULL));
+    EXPECT_TRUE(m_tree.SetItemData(m_leaf, 0x1234567890ULL));
+    EXPECT_EQ(0x1234567890ULL, m_list.GetItemData(1)) << "as wide as a pointer";
+    EXPECT_EQ(0x1234567890ULL, m_tree.GetItemData(m_leaf));
+    int nImage = -1;
+    int nSelected = -1;
+    ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
+    EXPECT_EQ(CPoint(2, 3), CPoint(nImage, nSelected));
+    EXPECT_TRUE(m_tree.SetItemImage(m_root, 4, 5));
+    ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
+    EXPECT_EQ(CPoint(4, 5), CPoint(nImage, nSelected));
+    EXPECT_TRUE(m_tree.SetItemState(m_leaf, TVIS_BOLD, TVIS_BOLD | TVIS_CUT));
+    EXPECT_EQ(UINT{TVIS_BOLD}, m_tree.GetItemState(m_leaf, TVIS_BOLD | TVIS_CUT));
+    EXPECT_TRUE(m_tree.ItemHasChildren(m_item));
+    EXPECT_FALSE(m_tree.ItemHasChildren(m_leaf));
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    m_tree.ModifyStyle(0, TVS_CHECKBOXES);
+    for (const BOOL bCheck : {TRUE, FALSE}) {
+        m_list.SetCheck(2, bCheck);
+        EXPECT_EQ(bCheck, m_list.GetCheck(2));
+        m_tree.SetCheck(m_leaf, bCheck);
+        EXPECT_EQ(bCheck, m_tree.GetCheck(m_leaf));
+    }
+}
+
+TEST_F(Lists, SelectedItemsAreWalkedOver) {
+    EXPECT_EQ(std::vector<int>(), Selected());
+    m_list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    m_list.SetItemState(2, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    EXPECT_EQ((std::vector<int>{0, 2}), Selected());
+    POSITION pos = nullptr;
+    EXPECT_EQ(-1, m_list.GetNextSelectedItem(pos));
+}
+
+TEST_F(Lists, ItemsHaveTheirPlaces) {
+    CRect item;
+    CRect sub;
+    ASSERT_TRUE(m_list.GetItemRect(1, item, LVIR_BOUNDS));
+    ASSERT_TRUE(m_list.GetSubItemRect(1, 1, LVIR_BOUNDS, sub));
+    EXPECT_EQ(item.left + 80, sub.left) << "right of column 0";
+    EXPECT_EQ(60, sub.Width());
+    UINT nFlags = 0;
+    EXPECT_EQ(1, m_list.HitTest(CPoint(5, item.CenterPoint().y), &nFlags));
+    EXPECT_NE(0U, nFlags & LVHT_ONITEM);
+
+    CRect rect(1, 2, 3, 4);
+    EXPECT_FALSE(m_tree.GetItemRect(m_leaf, rect, TRUE));
+    EXPECT_EQ(CRect(1, 2, 3, 4), rect) << "written only on success";
+    m_tree.SelectItem(m_leaf); // opens its parents
+    ASSERT_TRUE(m_tree.GetItemRect(m_leaf, rect, TRUE));
+    EXPECT_EQ(m_leaf, m_tree.HitTest(rect.CenterPoint(), &nFlags));
+    EXPECT_EQ(UINT{TVHT_ONITEMLABEL}, nFlags);
+}
+
+TEST_F(Lists, OnlyImageListsThatHaveNoOwnerAreDestroyed) {
+    CImageList owned;
+    owned.Create(16, 16, ILC_COLOR, 1, 1);
+    owned.SetImageCount(2);
+    EXPECT_EQ(nullptr, m_list.SetImageList(&owned, LVSIL_SMALL));
+    EXPECT_EQ(&owned, m_list.GetImageList(LVSIL_SMALL));
+    m_tree.SetImageList(&owned, TVSIL_NORMAL);
+    EXPECT_EQ(&owned, m_tree.GetImageList(TVSIL_NORMAL));
+    const HIMAGELIST hForeign = ::ImageList_Create(16, 16, ILC_COLOR, 1, 1);
+    ::ImageList_SetImageCount(hForeign, 3);
+    m_list.SetImageList(CImageList::FromHandle(hForeign), LVSIL_NORMAL);
+    m_list.DestroyWindow();
+    m_tree.DestroyWindow();
+    EXPECT_EQ(2, owned.GetImageCount());
+    EXPECT_EQ(0, ::ImageList_GetImageCount(hForeign)) << "gone with the control";
+}
+
+TEST_F(Lists, DrawTheirItemsThemselves) {
+    class Drawer : public CListCtrl {
+    public:
+        std::vector<UINT> m_drawn;
+        void DrawItem(LPDRAWITEMSTRUCT pDraw) override { m_drawn.push_back(pDraw->itemID); }
+    };
+    Drawer list;
+    ASSERT_TRUE(list.Create(REPORT | LVS_OWNERDRAWFIXED, CRect(0, 0, 180, 150), &m_frame, 1));
+    list.InsertColumn(0, L"", LVCFMT_LEFT, 160);
+    list.InsertItem(0, L"a");
+    list.InsertItem(1, L"b");
+    list.m_drawn.clear();
+    list.RedrawWindow();
+    EXPECT_EQ((std::vector<UINT>{0, 1}), list.m_drawn);
+}
+
+TEST(ImageList, HasOneOwnerWhichDestroysIt) {
+    const HIMAGELIST hList = ::ImageList_Create(16, 16, ILC_COLOR, 4, 4);
+    ::ImageList_SetImageCount(hList, 3);
+    CImageList* const pTemporary = CImageList::FromHandle(hList);
+    ASSERT_NE(nullptr, pTemporary);
+    EXPECT_EQ(pTemporary, CImageList::FromHandle(hList));
+    EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
+    CImageList::DeleteTempMap();
+    {
+        CImageList owner;
+        EXPECT_FALSE(owner.Attach(nullptr));
+        EXPECT_TRUE(owner.Attach(hList));
+        EXPECT_EQ(&owner, CImageList::FromHandle(hList));
+        EXPECT_EQ(hList, owner.Detach());
+        EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
+        EXPECT_FALSE(owner.DeleteImageList());
+    }
+    EXPECT_EQ(3, ::ImageList_GetImageCount(hList)) << "neither a temporary owner's nor one's that gave it up";
+    CImageList owner;
+    owner.Attach(hList);
+    CImageList copy;
+    ASSERT_TRUE(copy.Create(&owner));
+    ASSERT_TRUE(owner.Create(32, 16, ILC_COLOR, 1, 1));
+    EXPECT_EQ(0, owner.GetImageCount()) << "room is not images";
+    EXPECT_EQ(0, ::ImageList_GetImageCount(hList)) << "replaced";
+    EXPECT_EQ(3, copy.GetImageCount());
+    EXPECT_TRUE(owner.DeleteImageList());
+    EXPECT_EQ(nullptr, owner.GetSafeHandle());
+}
+
+} // namespace

@@ -1,0 +1,62 @@
+// A dialog that does what a test tells it.
+#pragma once
+
+#include "DialogTemplate.h"
+#include "ModalScript.h"
+
+namespace fx {
+
+/// A popup with two fields and two buttons.
+class Form : public TemplateDialog {
+public:
+    static constexpr int EDIT = 10;
+    static constexpr int FIELD = 11;
+    static constexpr int DO = 12; ///< A button; IDOK is the default one.
+
+    explicit Form(CWnd* pParentWnd = nullptr) : TemplateDialog(s_template, pParentWnd) {}
+
+    std::function<void()> m_onInit;
+    std::function<void()> m_onDo;
+    std::function<void()> m_onOk;                   ///< Instead of the end.
+    std::function<void(UINT, WPARAM)> m_onMessage;  ///< Before the window has it.
+    std::function<bool(const MSG&)> m_preTranslate; ///< True takes the message away.
+
+    HWND Item(int nID) const { return ::GetDlgItem(m_hWnd, nID); }
+    /// Has a message posted that presses DO.
+    void PostDo() { PostMessage(WM_COMMAND, DO); }
+    void SendDo() { SendMessage(WM_COMMAND, DO); }
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        if (m_onInit)
+            m_onInit();
+        return TRUE;
+    }
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        return (m_preTranslate && m_preTranslate(*pMsg)) || CDialog::PreTranslateMessage(pMsg);
+    }
+
+protected:
+    void OnOK() override { m_onOk ? m_onOk() : CDialog::OnOK(); }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        const BOOL bDone = CDialog::OnCommand(wParam, lParam);
+        if (bDone || LOWORD(wParam) != DO || !m_onDo)
+            return bDone;
+        m_onDo();
+        return TRUE;
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (m_onMessage)
+            m_onMessage(message, wParam);
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    static inline const DialogTemplate s_template = DialogTemplate(100, 80)
+                                                        .Edit(EDIT)
+                                                        .Edit(FIELD)
+                                                        .Button(IDOK, L"&ok", BS_DEFPUSHBUTTON | WS_TABSTOP)
+                                                        .Button(DO);
+};
+
+} // namespace fx
