@@ -2,6 +2,7 @@
 /// CString, the framework's string, and its narrow and wide forms.
 #pragma once
 
+#include "afxstrop_.h"
 #include "afxtypes.h"
 
 #include <atomic>
@@ -61,7 +62,7 @@ AFX_CORE extern CStringNil afxStringNil;
 /// Copies share one text and a count, and take their own when one of them changes: a copy costs some
 /// nanoseconds. Threads may use copies of the same text at the same time, but not the same CString.
 template <class Char>
-class CStringT {
+class CStringT : public AfxStringOperators<Char> {
 public:
     using XCHAR = Char;                                                          ///< its characters
     using YCHAR = std::conditional_t<std::is_same_v<Char, char>, wchar_t, char>; ///< those of the other form
@@ -170,6 +171,9 @@ public:
         SetLength(nLength + 1);
     }
     ///@}
+
+    /// Both texts in one new string.
+    static CStringT Join(PCXSTR pch1, int nLength1, PCXSTR pch2, int nLength2);
 
     /// Less than, equal to or greater than zero by the characters' numbers.
     int Compare(PCXSTR psz) const noexcept;
@@ -329,82 +333,6 @@ public:
     ///@}
 #endif
 
-    /// Both texts in one new string.
-    ///@{
-    friend CStringT operator+(const CStringT& s1, const CStringT& s2) {
-        return Join(s1, s1.GetLength(), s2, s2.GetLength());
-    }
-    friend CStringT operator+(const CStringT& s1, PCXSTR s2) {
-        return Join(s1, s1.GetLength(), s2, StringLength(s2));
-    }
-    friend CStringT operator+(PCXSTR s1, const CStringT& s2) {
-        return Join(s1, StringLength(s1), s2, s2.GetLength());
-    }
-    friend CStringT operator+(const CStringT& s1, PCYSTR s2) {
-        return s1 + CStringT(s2);
-    }
-    friend CStringT operator+(PCYSTR s1, const CStringT& s2) {
-        return CStringT(s1) + s2;
-    }
-    friend CStringT operator+(const CStringT& s1, XCHAR ch) {
-        return Join(s1, s1.GetLength(), &ch, 1);
-    }
-    friend CStringT operator+(XCHAR ch, const CStringT& s2) {
-        return Join(&ch, 1, s2, s2.GetLength());
-    }
-    friend CStringT operator+(const CStringT& s1, YCHAR ch) {
-        return s1 + CStringT(&ch, 1);
-    }
-    friend CStringT operator+(YCHAR ch, const CStringT& s2) {
-        return CStringT(&ch, 1) + s2;
-    }
-    // The room of an intermediate sum serves the next one.
-    friend CStringT operator+(CStringT&& s1, const CStringT& s2) {
-        return std::move(s1 += s2);
-    }
-    friend CStringT operator+(CStringT&& s1, PCXSTR s2) {
-        return std::move(s1 += s2);
-    }
-    friend CStringT operator+(CStringT&& s1, PCYSTR s2) {
-        return std::move(s1 += s2);
-    }
-    friend CStringT operator+(CStringT&& s1, XCHAR ch) {
-        return std::move(s1 += ch);
-    }
-    friend CStringT operator+(CStringT&& s1, YCHAR ch) {
-        return std::move(s1 += ch);
-    }
-    ///@}
-
-    // Text of the other form compares too: it converts first.
-    // clang-format off
-    /// Compare as by Compare.
-    ///@{
-    friend bool operator==(const CStringT& s1, const CStringT& s2) { return s1.m_pData == s2.m_pData || s1.Compare(s2) == 0; }
-    friend bool operator==(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) == 0; }
-    friend bool operator==(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) == 0; }
-    friend bool operator==(const CStringT& s1, XCHAR ch) { return s1.GetLength() == 1 && s1[0] == ch; }
-    friend bool operator==(XCHAR ch, const CStringT& s2) { return s2 == ch; }
-    friend bool operator!=(const CStringT& s1, const CStringT& s2) { return !(s1 == s2); }
-    friend bool operator!=(const CStringT& s1, PCXSTR s2) { return !(s1 == s2); }
-    friend bool operator!=(PCXSTR s1, const CStringT& s2) { return !(s1 == s2); }
-    friend bool operator!=(const CStringT& s1, XCHAR ch) { return !(s1 == ch); }
-    friend bool operator!=(XCHAR ch, const CStringT& s2) { return !(s2 == ch); }
-    friend bool operator<(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) < 0; }
-    friend bool operator<(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) < 0; }
-    friend bool operator<(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) > 0; }
-    friend bool operator>(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) > 0; }
-    friend bool operator>(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) > 0; }
-    friend bool operator>(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) < 0; }
-    friend bool operator<=(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) <= 0; }
-    friend bool operator<=(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) <= 0; }
-    friend bool operator<=(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) >= 0; }
-    friend bool operator>=(const CStringT& s1, const CStringT& s2) { return s1.Compare(s2) >= 0; }
-    friend bool operator>=(const CStringT& s1, PCXSTR s2) { return s1.Compare(s2) >= 0; }
-    friend bool operator>=(PCXSTR s1, const CStringT& s2) { return s2.Compare(s1) <= 0; }
-    ///@}
-    // clang-format on
-
 private:
     using View = std::basic_string_view<Char>;
 
@@ -451,7 +379,6 @@ private:
     static CStringData* NewData(int nAllocLength);
     static CStringData* NewData(PCXSTR pch, int nLength, int nAllocLength);
     static void Free(CStringData* pData) noexcept;
-    static CStringT Join(PCXSTR pch1, int nLength1, PCXSTR pch2, int nLength2);
     PXSTR Own(int nAllocLength);
     int Insert(int nIndex, PCXSTR psz, int nLength);
     CStringT& Keep(std::size_t nFirst, std::size_t nEnd);

@@ -9,7 +9,7 @@ covered=(
     survey
     util
     framework/base
-    framework/{afxcoll,afxstr,afxtypes,atltypes}.h
+    framework/{afxcoll,afxstr,afxstrop_,afxtypes,atltypes}.h
     framework/afx{arc,array,dump,elem,err,file,list,map,obj,stdio,time,try,typed}_.h
 )
 
