@@ -36,6 +36,9 @@ extent=(62 252)
 # Buttons at the bottom of the point list and of a result.
 left_button=(62 258)
 right_button=(179 258)
+list_edit=(42 258)
+list_remove=(120 258)
+list_undo=(198 258)
 
 ok_button=(196 13) # in the title bar
 close_button=(227 13)
@@ -132,7 +135,7 @@ expect() {
 
 rm -rf "$job"
 mkdir -p "$job/backup"
-cp "$data/points.csv" "$data/boundary.csv" "$data/points_bad.csv" "$job"
+cp "$data/points.csv" "$data/boundary.csv" "$data/points_bad.csv" "$data/utf8.csv" "$job"
 reset
 
 # --- Computations -------------------------------------------------------------------------------
@@ -150,10 +153,7 @@ shot 04-lines-unknown-name
 letters_enter
 shot 05-lines-unknown-name-told
 message_ok 194
-letters_backspace
-letters_backspace
-letters 4
-letters_enter
+answer K4
 shot 06-lines-result
 tap "${left_button[@]}"
 shot 07-lines-plan
@@ -277,7 +277,7 @@ tap "${close_button[@]}"
 
 tap "${point_entry[@]}"
 shot 35-point-entry
-tap 220 41
+tap 108 41
 shot 36-point-entry-kinds
 tap 100 70
 tap 100 67
@@ -306,19 +306,24 @@ digits_enter
 shot 42-point-entry-duplicate
 message_ok 194
 tap "${close_button[@]}"
-shot 43-main-unsaved
+shot 43a-typed-values-question
+digits_enter
+shot 43b-stayed
+tap "${close_button[@]}"
+message_yes 194
+shot 43c-main-unsaved
 
 tap "${point_list[@]}"
 wait_window 点の一覧
 shot 44-point-list
 tap 90 38
 shot 45-point-list-sorted
-tap "${left_button[@]}"
+tap "${list_edit[@]}"
 shot 46-point-list-none-selected
 message_ok 194
 tap 20 70
 shot 47-point-list-selected
-tap "${left_button[@]}"
+tap "${list_edit[@]}"
 shot 48-point-edit
 tap 100 145
 for ((i = 0; i < 6; ++i)); do digits_backspace; done
@@ -326,12 +331,17 @@ shot 49-point-edit-height-removed
 digits_enter
 shot 50-point-list-changed
 tap 20 84
-tap "${right_button[@]}"
+tap "${list_remove[@]}"
 shot 51-point-list-remove
 message_no 190
-tap "${right_button[@]}"
+tap "${list_remove[@]}"
 message_yes 190
-shot 52-point-list-removed
+shot 52a-point-list-removed
+tap "${list_undo[@]}"
+shot 52b-point-list-undone
+tap 20 84
+tap "${list_remove[@]}"
+message_yes 190
 tap "${ok_button[@]}"
 
 # --- Journal and settings -----------------------------------------------------------------------
@@ -411,7 +421,7 @@ shot 77-overwritten
 
 tap "${point_list[@]}"
 tap 20 84
-tap "${right_button[@]}"
+tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
 tap "${file_menu[@]}"
@@ -447,7 +457,7 @@ shot 86-other-file-open
 tap "${point_list[@]}"
 shot 87-points-without-coordinates
 tap 20 84
-tap "${right_button[@]}"
+tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
 tap "${menu_close[@]}"
@@ -477,7 +487,7 @@ shot 93-bad-lines
 tap 62 241
 tap "${point_list[@]}"
 tap 20 84
-tap "${right_button[@]}"
+tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
 tap "${file_menu[@]}"
@@ -485,6 +495,32 @@ tap "${save[@]}"
 shot 94-backup-kept
 message_ok 190
 shot 95-saved-without-bad-lines
+tap "${menu_close[@]}"
+wait_exit
+
+# --- A file of others, and a battery that falls out --------------------------------------------
+
+start_fieldbook utf8.csv
+tap "${point_list[@]}"
+shot 96-utf8-points
+tap "${ok_button[@]}"
+tap "${point_entry[@]}"
+tap 220 41
+letters gate
+tap 100 93
+answer 1
+answer 2
+shot 97-code-entered
+answer 3
+stop_app
+start_fieldbook utf8.csv
+shot 98-changes-are-back
+message_ok 194
+tap "${point_list[@]}"
+shot 99-point-of-before
+tap "${ok_button[@]}"
+tap "${file_menu[@]}"
+tap "${save[@]}"
 tap "${menu_close[@]}"
 wait_exit
 reset
@@ -499,4 +535,6 @@ diff "$root/samples/fieldbook/demo-results.txt" "$demo_shots/results.txt" ||
 expect backup/day1.csv 'K5,-35300.500000,13200.250000,24.500000'
 expect export.csv '13200.250000,K5,24.500000,'
 cmp -s "$data/points_bad.csv" "$job/points_bad.csv.bak" || die 'the file with bad lines was not kept'
+cmp -s "$data/utf8.csv" "$job/utf8.csv.bak" || die 'the file of others was not kept'
+[[ $(tail -n 1 "$job/utf8.csv") == T1,1.000000,2.000000,3.000000,GATE ]] || die 'the point is not in the UTF-8 file'
 cmp -s "$data/points.csv" "$job/points.csv" || die 'the file that was not saved has changed'

@@ -1,23 +1,14 @@
-// The line reader with what the sample application makes of its lines: points, names, angles.
-#include "fuzz/GivenFile.h"
+// Points files of the sample application in any encoding, its record of changes, and what is typed.
 #include "fuzz/Targets.h"
 
-#include "points/LineReader.h"
 #include "compute/PackedAngle.h"
-#include "points/PointBook.h"
-#include "points/PointLine.h"
+#include "points/ChangeLog.h"
+#include "points/PointFile.h"
 #include "Tesuvo.h"
 
 #include <cmath>
 
 namespace {
-
-void CheckLine(const CString& strLine) {
-    constexpr int kLongest = 511;
-    Promise(strLine.GetLength() <= kLongest, "a line is no longer than the reader's buffer");
-    for (int i = 0; i < strLine.GetLength(); ++i)
-        Promise(strLine[i] > L' ', "a line has no blanks and control characters");
-}
 
 void CheckNumber(const CString& strText) {
     double dValue = 0;
@@ -37,35 +28,46 @@ void CheckAngle(const CString& strText) {
         Promise(std::fabs(dRadians) <= kTurn, "an angle is one turn at the most");
 }
 
-void AddPoint(CPointBook& book, const CString& strLine) {
-    CLineFormat format;
-    CNamedPoint point;
-    if (!RecogniseFormat(strLine, format) ||
-        ParsePointLine(strLine, format.chSeparator, point) != LineFault::None)
+/// What was read can be saved, and what was saved is read as it was.
+void CheckFile(const std::string& bytes) {
+    const CFileText text = DecodeText(bytes);
+    Promise(text.unreadable.empty() || text.lines.empty(), "a file is text or it is not");
+    for (const CString& strLine : text.lines) {
+        CheckNumber(strLine);
+        CheckAngle(strLine);
+    }
+    CPointBook book;
+    const CReadReport report = ReadPoints(text, book);
+    Promise(report.badLines.size() + book.GetPoints().size() <= text.lines.size(), "a line is one point");
+    std::string saved;
+    CString strBad;
+    const CLineFormat format = FormatFor(book.GetPoints(), report.format);
+    if (!FormatPoints(book.GetPoints(), format, saved, strBad))
         return;
-    Promise(CheckPoint(point) == LineFault::None, "a point that was read can be written");
-    Promise(book.Find(point.strName) != nullptr || book.Add(point), "a point of a new name can be added");
-    Promise(book.Find(book.NextName(point.strName)) == nullptr, "the next name is free");
+    CPointBook again;
+    ReadPoints(DecodeText(saved), again);
+    if (again.GetCount() != book.GetCount())
+        std::fprintf(stderr, "[%s]\n", saved.c_str());
+    Promise(again.GetCount() == book.GetCount(), "all points are in the file");
+    for (const CNamedPoint& point : book.GetPoints())
+        Promise(book.Find(book.NextName(point.strName)) == nullptr, "the next name is free");
+}
+
+/// What stands behind the good bytes does not count, and they are read alike without it.
+void CheckRecord(const std::string& bytes) {
+    const CChangeRecord record = ReadChanges(bytes);
+    Promise(record.nGoodBytes <= bytes.size(), "no more than there is");
+    const CChangeRecord good = ReadChanges(bytes.substr(0, record.nGoodBytes));
+    Promise(good.changes.size() == record.changes.size(), "the good part is whole");
+    CPointBook book;
+    for (const CPointChange& change : record.changes)
+        book.Apply(change);
 }
 
 } // namespace
 
 void FuzzPoints(const std::uint8_t* pData, std::size_t nSize) {
-    CGivenFile file(pData, nSize);
-    CLineReader lines(file);
-    CPointBook book;
-    CString strLine;
-    // Each line, and each one that is too long or not terminated, has a byte of its own.
-    for (std::size_t nLine = 0; nLine <= nSize; ++nLine) {
-        const CLineReader::Line kind = lines.Next(strLine);
-        if (kind == CLineReader::Line::End)
-            return;
-        if (kind != CLineReader::Line::Text)
-            continue;
-        CheckLine(strLine);
-        CheckNumber(strLine);
-        CheckAngle(strLine);
-        AddPoint(book, strLine);
-    }
-    Promise(false, "a file comes to its end");
+    const std::string bytes(reinterpret_cast<const char*>(pData), nSize);
+    CheckFile(bytes);
+    CheckRecord(bytes);
 }

@@ -6,16 +6,16 @@
 
 namespace {
 
-CString FullPath(const CString& strPath) {
+constexpr int kDriveLength = 2; // "C:"
+
+} // namespace
+
+CString FullPathOf(const CString& strPath) {
     const DWORD nSize = ::GetFullPathName(strPath, 0, nullptr, nullptr);
     std::vector<wchar_t> full(nSize + 1);
     ::GetFullPathName(strPath, nSize, full.data(), nullptr);
     return full.data();
 }
-
-constexpr int kDriveLength = 2; // "C:"
-
-} // namespace
 
 CString TitleOf(const CString& strPath) {
     CString strTitle;
@@ -36,13 +36,13 @@ CString PathIn(const CString& strFolder, const CString& strName) {
 }
 
 bool IsSamePath(const CString& strPath1, const CString& strPath2) {
-    return FullPath(strPath1).CompareNoCase(FullPath(strPath2)) == 0;
+    return FullPathOf(strPath1).CompareNoCase(FullPathOf(strPath2)) == 0;
 }
 
 CString FolderOf(const CString& strPath) {
     CString strFolder;
-    TVResolveFilePath(FullPath(strPath), &strFolder, nullptr, nullptr);
-    const CString strCurrentDrive = FullPath(L"\\").Left(kDriveLength);
+    TVResolveFilePath(FullPathOf(strPath), &strFolder, nullptr, nullptr);
+    const CString strCurrentDrive = FullPathOf(L"\\").Left(kDriveLength);
     return strFolder.Left(kDriveLength).CompareNoCase(strCurrentDrive) == 0 ? strFolder.Mid(kDriveLength)
                                                                             : strFolder;
 }

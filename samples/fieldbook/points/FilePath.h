@@ -13,6 +13,9 @@ CString TitleOf(const CString& strPath);
 /// The path of a file of a folder.
 CString PathIn(const CString& strFolder, const CString& strName);
 
+/// The path from the drive on.
+CString FullPathOf(const CString& strPath);
+
 /// Whether two paths, written in whatever way, are those of one file.
 bool IsSamePath(const CString& strPath1, const CString& strPath2);
 

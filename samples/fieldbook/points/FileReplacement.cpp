@@ -28,7 +28,7 @@ public:
     CReplacement(const CReplacement&) = delete;
     CReplacement& operator=(const CReplacement&) = delete;
 
-    CAsciiFile& GetFile() { return m_file; }
+    CFile& GetFile() { return m_file; }
 
     void PutInPlace() {
         m_file.Flush(); // before the name changes: else a power cut could leave an empty file
@@ -42,14 +42,49 @@ public:
 private:
     const CString m_strTarget;
     const CString m_strTemporary;
-    CAsciiFile m_file;
+    CFile m_file;
     bool m_bInPlace = false;
 };
 
 } // namespace
 
-void RewriteFile(const CString& strPath, const std::function<void(CAsciiFile&)>& write) {
+void RewriteFile(const CString& strPath, const std::function<void(CFile&)>& write) {
     CReplacement replacement(strPath);
     write(replacement.GetFile());
     replacement.PutInPlace();
+}
+
+void RewriteFile(const CString& strPath, const std::string& bytes) {
+    RewriteFile(strPath, [&](CFile& file) { file.Write(bytes.data(), static_cast<UINT>(bytes.size())); });
+}
+
+std::string ReadWholeFile(const CString& strPath) {
+    constexpr ULONGLONG kLargest = 256 << 20;
+    CFile file;
+    CFileException error;
+    if (!file.Open(strPath, CFile::modeRead | CFile::shareDenyWrite, &error))
+        AfxThrowFileException(error.m_cause, error.m_lOsError, strPath);
+    if (file.GetLength() > kLargest)
+        AfxThrowFileException(CFileException::genericException, ERROR_FILE_TOO_LARGE, strPath);
+    std::string bytes(static_cast<size_t>(file.GetLength()), '\0');
+    size_t nDone = 0;
+    // A read may give less than it was asked for.
+    while (nDone < bytes.size()) {
+        const UINT nRead = file.Read(bytes.data() + nDone, static_cast<UINT>(bytes.size() - nDone));
+        if (nRead == 0)
+            break;
+        nDone += nRead;
+    }
+    bytes.resize(nDone);
+    return bytes;
+}
+
+bool KeepBackup(const CString& strPath) {
+    try {
+        RewriteFile(strPath + L".bak", ReadWholeFile(strPath));
+        return true;
+    } catch (CFileException* pError) {
+        pError->Delete();
+        return false;
+    }
 }

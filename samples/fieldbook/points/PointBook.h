@@ -4,6 +4,7 @@
 
 #include "survey/Coordinate.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <vector>
@@ -11,6 +12,20 @@
 struct CNamedPoint {
     CString strName;
     CCoordinate point;
+    CString strCode{};             ///< What kind of thing the point is, in the crew's own words.
+    std::vector<CString> others{}; ///< Fields of its line that mean nothing here, in their order.
+};
+
+/// A step from one state of a book to the next; with `before` and `after` changed over it leads back.
+struct CPointChange {
+    enum class Kind { Add, Replace, Remove };
+
+    Kind kind;
+    size_t nPlace;      ///< Of the point among the points.
+    CNamedPoint before; ///< Without meaning for Add.
+    CNamedPoint after;  ///< Without meaning for Remove.
+
+    CPointChange Reversed() const;
 };
 
 /// Points in the order in which they were added. No two have the same name.
@@ -18,16 +33,29 @@ class CPointBook {
 public:
     /// @return false, with nothing changed, if the name is taken
     bool Add(const CNamedPoint& point);
+    /// The same for a point that was read from a file, which is no change.
+    bool AddRead(const CNamedPoint& point);
     /// Puts a point, which may have a new name, in the place of another one.
     /// @return false, with nothing changed, if no point is called strName, or if the new name
     ///         is another point's
     bool Replace(const CString& strName, const CNamedPoint& point);
     /// @return false if no point has this name
     bool Remove(const CString& strName);
-    /// Back to the beginning: no points, not modified.
-    void Clear() { *this = CPointBook(); }
+    /// Makes a change of any kind.
+    /// @return false, with nothing changed, if the book is not in the state before it
+    bool Apply(const CPointChange& change);
+    /// Takes the last change back that has not been taken back. A point that comes back stands where
+    /// it was.
+    /// @return the change that was taken back is written; false if there is none
+    bool Undo(CPointChange& undone);
+    bool CanUndo() const { return !m_undo.empty(); }
+
+    /// Is told each change after it was made, those of Undo too.
+    using Observer = std::function<void(const CPointChange&)>;
+    void SetObserver(const Observer& observer) { m_observer = observer; }
 
     /// @return the point; null if no point has this name. Valid until the book is changed.
+    const CNamedPoint* FindPoint(const CString& strName) const;
     const CCoordinate* Find(const CString& strName) const;
     /// The first name behind the given one, counted up, that no point has: after K2, K3.
     CString NextName(const CString& strName) const;
@@ -36,6 +64,8 @@ public:
     /// and save the book.
     bool IsModified() const { return m_bModified; }
     void SetModified(bool bModified) { m_bModified = bModified; }
+    /// The points as they are now are the beginning: nothing to save, nothing to take back.
+    void BeginHere();
 
     /// Remembers that a computation has used a point. A point keeps that under a new name.
     void MarkUsed(const CString& strName) { m_used.insert(strName); }
@@ -46,8 +76,15 @@ public:
     int GetCount() const { return static_cast<int>(m_points.size()); }
 
 private:
+    bool Make(const CPointChange& change);
+    void Insert(size_t nPlace, const CNamedPoint& point);
+    void Erase(size_t nPlace);
+    bool IsAt(size_t nPlace, const CString& strName) const;
+
     std::vector<CNamedPoint> m_points;
     std::map<CString, size_t> m_index; ///< Name to place in m_points.
     std::set<CString> m_used;
+    std::vector<CPointChange> m_undo; ///< What can be taken back, the last change last.
+    Observer m_observer;
     bool m_bModified = false;
 };

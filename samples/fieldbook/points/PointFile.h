@@ -1,11 +1,8 @@
 /// @file
-/// Reading and writing of points files: text in the OEM code page, one point a line.
+/// Reading and writing of points files: one point a line, in the form in which the file came.
 #pragma once
 
 #include "points/PointLine.h"
-#include "util/AsciiFile.h"
-
-#include <vector>
 
 /// A line that could not be taken over.
 struct CBadLine {
@@ -17,22 +14,44 @@ struct CBadLine {
 struct CReadReport {
     std::vector<CBadLine> badLines; ///< The lines that gave no point.
     CLineFormat format;             ///< As the file is written; it can be saved in the same way.
+    bool bRead = true;              ///< False if the reading was given up.
 };
 
-/// Adds the points of a file to a book. Separator and header are recognised by the first line
-/// of three fields and more. Empty lines and the header are skipped.
-/// @param file open for reading
+/// What only a person can decide or wants to see while a file is read.
+struct CReadHelp {
+    /// Tells which column is which when the file does not.
+    /// @param strLine the heading, if there is one, else the first line
+    /// @param nFields of the line
+    /// @param columns proposed; receives the choice
+    /// @return false if reading is to be given up
+    std::function<bool(const CString& strLine, bool bHeading, size_t nFields, std::vector<Column>& columns)>
+        chooseColumns;
+    /// Is told how far the work is, from time to time.
+    /// @return false if it is to be given up
+    std::function<bool(size_t nDone, size_t nAll)> goOn;
+};
+
+/// Adds the points of a file to a book. Separator, heading and columns are recognised by the first
+/// line of three fields and more; A01 records by their first field. Empty lines are skipped.
+/// @param help with nothing in it, lines without a heading are name, N, E, Z and code
 /// @return what was left out; everything else is in the book
-/// @throw CFileException* as CFile::Read; the points read so far are in the book
-CReadReport ReadPoints(CAsciiFile& file, CPointBook& book);
+CReadReport ReadPoints(const CFileText& text, CPointBook& book, const CReadHelp& help = {});
 
-/// Writes all points of a book in place of the file that may be there. That one stays whole
-/// until the new one is complete: a full disk or a crash loses nothing. The book stays marked
-/// as modified.
-/// @throw CFileException* if the file cannot be written; the old one is as it was
-void SavePoints(const CString& strPath, const CPointBook& book, const CLineFormat& format);
+/// The form of a file that is made here: in the code page, with a heading.
+CLineFormat NewFormat();
+/// The form in which points are saved: columns that they need and the format has not got come behind
+/// the others.
+CLineFormat FormatFor(const std::vector<CNamedPoint>& points, const CLineFormat& format);
+/// The form of an export: chosen columns, with titles of its own if the format has a heading.
+CLineFormat ExportFormat(const std::vector<Column>& columns, const CLineFormat& format);
 
-/// Copies a file to one with ".bak" behind its name, before lines that could not be read are
-/// lost by saving. An older copy is replaced.
-/// @return false if that failed; an older copy is as it was
-bool KeepBackup(const CString& strPath);
+/// Points as the bytes of a file.
+/// @param bytes  written on success only
+/// @param strBad receives the name of the first point that the file cannot hold
+/// @return false if there is one
+bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& format, std::string& bytes,
+                  CString& strBad);
+
+/// Whether a file with these bytes has all that saving its points again would write: then
+/// nothing of it gets lost.
+bool IsAsSaved(const std::string& bytes, const CLineFormat& format);

@@ -1,8 +1,9 @@
 /// @file
-/// The choice of columns for the export.
+/// The choice of columns, for the export and for files that do not tell theirs.
 #pragma once
 
-#include "points/Export.h"
+#include "points/PointFile.h"
+#include "screens/Settings.h"
 
 #include <afxwin.h>
 
@@ -10,3 +11,8 @@
 /// @param columns shown at first; changed by OK. At least one comes out.
 /// @return false if the user has cancelled
 bool ChooseColumns(CWnd& parent, std::vector<Column>& columns);
+
+/// Help with reading a points file: the order of its columns is asked for when no heading tells it.
+/// That of files without any heading is asked once and kept in the settings.
+/// @param settings, parent must outlive the help
+CReadHelp HelpFor(CSettings& settings, CWnd& parent);

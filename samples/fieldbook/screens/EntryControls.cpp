@@ -29,8 +29,10 @@ bool IsControlCharacter(UINT nChar) {
 } // namespace
 
 // clang-format off
-BEGIN_MESSAGE_MAP(CNumberEdit, CnEdit)
+BEGIN_MESSAGE_MAP(CSelectEdit, CnEdit)
+    ON_WM_SETFOCUS()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CDirectionEdit, CAngleEdit)
@@ -61,13 +63,30 @@ END_MESSAGE_MAP()
 // clang-format on
 
 void CNumberEdit::PreSubclassWindow() {
-    CnEdit::PreSubclassWindow();
+    CSelectEdit::PreSubclassWindow();
     LimitText(kLongestNumber);
 }
 
-void CNumberEdit::OnLButtonDown(UINT nFlags, CPoint point) {
+void CCodeEdit::PreSubclassWindow() {
+    CSelectEdit::PreSubclassWindow();
+    LimitText(kLongestName);
+    ModifyStyle(0, ES_UPPERCASE);
+}
+
+void CSelectEdit::OnSetFocus(CWnd* pOldWnd) {
+    CnEdit::OnSetFocus(pOldWnd);
+    SetSel(0, -1);
+}
+
+void CSelectEdit::OnLButtonDown(UINT nFlags, CPoint point) {
     if (!EnterSelected(*this))
         CnEdit::OnLButtonDown(nFlags, point);
+}
+
+/// A hand that trembles enters the field as well.
+void CSelectEdit::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    if (!EnterSelected(*this))
+        CnEdit::OnLButtonDblClk(nFlags, point);
 }
 
 void CDirectionEdit::PreSubclassWindow() {

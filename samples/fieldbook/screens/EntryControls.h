@@ -9,12 +9,25 @@
 #include "controls/nSpinButtonCtrl.h"
 #include "survey/AngleEdit.h"
 
-/// A number: the tap that enters the field selects it all, so that typing replaces it.
-class CNumberEdit : public CnEdit {
+/// A field whose text is selected when it gets the focus, so that typing replaces it.
+class CSelectEdit : public CnEdit {
+protected:
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+};
+
+/// A number.
+class CNumberEdit : public CSelectEdit {
 protected:
     void PreSubclassWindow() override;
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    DECLARE_MESSAGE_MAP()
+};
+
+/// The code of a point, in capitals.
+class CCodeEdit : public CSelectEdit {
+protected:
+    void PreSubclassWindow() override;
 };
 
 /// An angle: entered with everything selected, too, and it takes no letters.

@@ -3,6 +3,8 @@
 #include "screens/AskForFile.h"
 #include "screens/ColumnChoice.h"
 #include "points/FilePath.h"
+#include "points/FileReplacement.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"
 #include "screens/Text.h"
@@ -13,13 +15,18 @@ namespace {
 
 void Write(const CJob& job, const CString& strPath) {
     const CString strName = FileNameOf(strPath);
+    const CLineFormat format = ExportFormat(job.settings.columns, job.format);
+    std::string bytes;
+    CString strBad;
+    if (!FormatPoints(job.book.GetPoints(), format, bytes, strBad)) {
+        CResMsgBox().ErrorMsgBox(Text(IDS_POINT_NOT_WRITABLE, strBad.GetString()));
+        return;
+    }
     try {
-        ExportPoints(strPath, job.book.GetPoints(), job.settings.columns, job.format);
+        RewriteFile(strPath, bytes);
         CResMsgBox().InformationMsgBox(Text(IDS_EXPORTED, job.book.GetCount(), strName.GetString()));
     } catch (CFileException* e) {
-        const int nCause = e->m_cause;
-        e->Delete();
-        CResMsgBox().ErrorMsgBox(Text(IDS_NOT_WRITTEN, nCause, strName.GetString()));
+        TellFileProblem(e, IDS_NOT_WRITTEN, strPath);
     }
 }
 

@@ -3,7 +3,9 @@
 #include "screens/AskForFile.h"
 #include "points/FilePath.h"
 #include "screens/JobFile.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
+#include "screens/Text.h"
 #include "screens/SettingsSheet.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ButtonMenuDlg.h"
@@ -40,7 +42,15 @@ bool CFileCommands::MayGiveUpPoints() {
         return true;
     if (CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
         return Save();
-    return CResMsgBox().WarningMsgBox(IDS_ASK_GIVE_UP) == IDYES;
+    if (!AskToLose(Text(IDS_ASK_GIVE_UP)))
+        return false;
+    GiveUpChanges(m_job);
+    return true;
+}
+
+void CFileCommands::OfferToSave() {
+    if (m_job.book.IsModified() && CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
+        Save();
 }
 
 void CFileCommands::Open() {

@@ -15,6 +15,8 @@ public:
     /// Asks what is to become of points that are not saved.
     /// @return false if the user wants to stay with them
     bool MayGiveUpPoints();
+    /// Asks whether points that are not saved shall be saved.
+    void OfferToSave();
 
 private:
     void Open();

@@ -2,20 +2,25 @@
 /// CJob: what all screens of the application work on.
 #pragma once
 
+#include "points/ChangeFile.h"
 #include "points/History.h"
-#include "screens/Journal.h"
 #include "points/PointFile.h"
+#include "screens/Journal.h"
 #include "screens/Settings.h"
 
 /// The points of a file with the day's results, and what the user has set and typed lately.
 struct CJob {
-    /// @param strHistoryPath where the names of points are kept that were entered lately
-    explicit CJob(const CString& strHistoryPath) : history(strHistoryPath) {}
+    /// @param strHistoryPath where the names of points are kept that were entered lately; changes to
+    ///                       points are recorded in its folder if they can be nowhere else
+    explicit CJob(const CString& strHistoryPath);
 
     CString strPath;                ///< The points file; empty while the points are in none.
     CLineFormat format;             ///< Of the points file.
     std::vector<CBadLine> badLines; ///< Lines of the points file that are not in the book.
     CPointBook book;
+    CChangeFile changes;        ///< What the points file has not got yet.
+    bool bRecorded = true;      ///< Whether the last change could be recorded.
+    std::uint64_t nContent = 0; ///< Hash of the points file as it was read or written last.
     CJournal journal;
     CHistory history;
     CSettings settings;

@@ -4,15 +4,24 @@
 
 #include "screens/Job.h"
 
-/// Reads a points file in place of the job's points, and shows the lines that could not be read.
-/// @return false, with the job as it was, if the file cannot be read
+/// Begins a job without a file: with points of an earlier one that were in no file when it ended.
+void BeginWithoutFile(CJob& job);
+
+/// Reads a points file in place of the job's points, with the changes that were not saved when the
+/// program ended the last time; says so in one line. Shows the lines that could not be read.
+/// @return false, with the job as it was, if the file cannot be read, is no text, is worked on by
+///         another program of this kind, or if the user gives up
 bool OpenPointsFile(CJob& job, const CString& strPath, CWnd& parent);
 
 /// Makes a points file without points, and begins a job with it.
 /// @return false, with the job as it was, if the file cannot be written
 bool MakePointsFile(CJob& job, const CString& strPath);
 
-/// Writes the points into a file, which becomes the job's. If the job's file has lines that could
-/// not be read, it is kept under another name before it is written over.
-/// @return false if the file cannot be written; the points count as unsaved still
+/// Writes the points into a file, which becomes the job's. A file that was changed by somebody else
+/// in the meantime is asked about. One that something else has written, or that has lines that
+/// could not be read, is kept under another name before it is written over.
+/// @return false if the file is not written; the points count as unsaved still
 bool SavePointsFile(CJob& job, const CString& strPath);
+
+/// Forgets changes that nobody wants.
+void GiveUpChanges(CJob& job);

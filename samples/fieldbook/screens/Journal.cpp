@@ -1,5 +1,6 @@
 #include "screens/Journal.h"
 
+#include "points/CodePage.h"
 #include "screens/Resource.h"
 #include "dialogs/ResMsgBox.h"
 #include "util/AsciiFile.h"
@@ -21,9 +22,9 @@ void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines
         if (!file.Open(m_strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite, &error))
             AfxThrowFileException(error.m_cause, error.m_lOsError, m_strPath);
         file.SeekToEnd();
-        file.WriteString(strTitle);
+        file.WriteString(SpellForOem(strTitle));
         for (const CString& strLine : lines)
-            file.WriteString(strLine);
+            file.WriteString(SpellForOem(strLine));
         file.Close();
     } catch (CFileException* e) {
         e->Delete();

@@ -24,6 +24,7 @@ constexpr UINT kEntryCount = 8;
 // clang-format off
 BEGIN_MESSAGE_MAP(CMainMenu, CButtonMenuDlg)
     ON_MESSAGE(WM_OPEN_FIRST, &CMainMenu::OnOpenFirst)
+    ON_WM_QUERYENDSESSION()
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -44,7 +45,8 @@ BOOL CMainMenu::OnInitDialog() {
 }
 
 LRESULT CMainMenu::OnOpenFirst(WPARAM, LPARAM) {
-    OpenPointsFile(m_job, m_strFirstPath, *this);
+    if (!OpenPointsFile(m_job, m_strFirstPath, *this))
+        BeginWithoutFile(m_job);
     ShowTitle();
     return 0;
 }
@@ -73,6 +75,12 @@ void CMainMenu::OnCancel() {
         CButtonMenuDlg::OnCancel();
     else
         ShowTitle();
+}
+
+/// The changes are on the disk: No leaves them to the next start.
+BOOL CMainMenu::OnQueryEndSession() {
+    m_files.OfferToSave();
+    return TRUE;
 }
 
 void CMainMenu::OnPointEntry() {

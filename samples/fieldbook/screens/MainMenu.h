@@ -23,6 +23,8 @@ protected:
     void OnCancel() override;
     /// Comes when the menu is on the screen.
     afx_msg LRESULT OnOpenFirst(WPARAM wParam, LPARAM lParam);
+    /// The system's session is about to end.
+    afx_msg BOOL OnQueryEndSession();
 
     DECLARE_MESSAGE_MAP()
 

@@ -18,7 +18,7 @@ BOOL CNameDlg::OnInitDialog() {
     ShowWindow(SW_SHOW);
     // The panel comes with the focus, and only to a window that is on the screen.
     m_name.SetFocus();
-    m_name.SetEditSel(m_strName.GetLength(), m_strName.GetLength());
+    m_name.SetEditSel(0, -1); // typing replaces what is proposed
     return FALSE;
 }
 

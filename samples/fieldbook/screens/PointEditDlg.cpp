@@ -11,7 +11,9 @@ BOOL CPointEditDlg::OnInitDialog() {
     SetWindowText(Text(IDS_EDIT_POINT));
     SetDlgItemText(IDC_ADD, Text(IDS_CHANGE_POINT));
     GetDlgItem(IDC_KIND)->EnableWindow(FALSE); // it proposes names of new points
-    ShowPoint({m_strName, *m_job.book.Find(m_strName)});
+    const CNamedPoint& point = *m_job.book.FindPoint(m_strName);
+    m_others = point.others;
+    ShowPoint(point);
     GetDlgItem(IDC_ADD)->SetFocus(); // the whole point is seen; the panel comes with a field
     return FALSE;
 }

@@ -5,6 +5,7 @@
 #include "Tesuvo.h"
 #include "screens/Text.h"
 #include "dialogs/ResMsgBox.h"
+#include "screens/Messages.h"
 
 #include <iterator>
 
@@ -30,6 +31,7 @@ BEGIN_MESSAGE_MAP(CPointEntryDlg, CnDialog)
     ON_BN_CLICKED(IDC_ADD, &CPointEntryDlg::OnAdd)
     ON_BN_CLICKED(IDC_NO_HEIGHT, &CPointEntryDlg::OnNoHeight)
     ON_CBN_SELCHANGE(IDC_KIND, &CPointEntryDlg::OnKind)
+    ON_WM_QUERYENDSESSION()
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -44,6 +46,7 @@ BOOL CPointEntryDlg::OnInitDialog() {
         m_kind.AddString(Text(IDS_KIND_FIRST + nKind));
     m_kind.SetCurSel(0);
     OnKind();
+    m_strShown = Typed();
     m_message.SetWindowText(Text(IDS_ENTER_POINT));
     return TRUE;
 }
@@ -53,6 +56,7 @@ void CPointEntryDlg::AttachControls() {
     m_kind.Attach(IDC_KIND, this, kNoPanel);
     m_name.Attach(IDC_NAME, this, SipOptionMode0);
     m_job.history.GetStack().SetupList(&m_name);
+    m_code.Attach(IDC_CODE, this, SipOptionMode0);
     m_n.Attach(IDC_N, this, SipOptionMode1);
     m_e.Attach(IDC_E, this, SipOptionMode1);
     m_z.Attach(IDC_Z, this, SipOptionMode1);
@@ -80,6 +84,15 @@ void CPointEntryDlg::ShowPoint(const CNamedPoint& point) {
     m_n.SetWindowText(NumberText(point.point.GetN()));
     m_e.SetWindowText(NumberText(point.point.GetE()));
     m_z.SetWindowText(NumberText(point.point.GetZ()));
+    m_code.SetWindowText(point.strCode);
+    m_strShown = Typed();
+}
+
+CString CPointEntryDlg::Typed() const {
+    CString strAll;
+    for (const CWnd* const pField : std::initializer_list<const CWnd*>{&m_name, &m_n, &m_e, &m_z, &m_code})
+        strAll += TextOf(*pField) + L'\n';
+    return strAll;
 }
 
 bool CPointEntryDlg::IsBlank() const {
@@ -91,8 +104,41 @@ void CPointEntryDlg::OnOK() {
         CnDialog::OnOK();
 }
 
+void CPointEntryDlg::OnCancel() {
+    if (MayGiveUpTyped())
+        CnDialog::OnCancel();
+}
+
+bool CPointEntryDlg::MayGiveUpTyped() {
+    return Typed() == m_strShown || AskToLose(Text(IDS_ASK_TYPED));
+}
+
+BOOL CPointEntryDlg::OnQueryEndSession() {
+    return MayGiveUpTyped();
+}
+
+/// The second tap of two quick ones is a hand that trembles, not a second point.
 void CPointEntryDlg::OnAdd() {
-    Add();
+    if (::GetTickCount64() - m_nLastAdded > ::GetDoubleClickTime())
+        Add();
+}
+
+bool CPointEntryDlg::IsOnLastField() const {
+    const CWnd* const pFocus = GetFocus();
+    return pFocus == &m_z || (pFocus == &m_e && !m_z.IsWindowEnabled());
+}
+
+BOOL CPointEntryDlg::PreTranslateMessage(MSG* pMsg) {
+    const CWnd* const pFocus = GetFocus();
+    const bool bEnter = pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN;
+    if (!bEnter || pFocus == nullptr || pFocus == GetDlgItem(IDC_ADD) || m_name.GetDroppedState() ||
+        m_kind.GetDroppedState())
+        return CnDialog::PreTranslateMessage(pMsg);
+    if (IsOnLastField())
+        OnAdd();
+    else
+        NextDlgCtrl();
+    return TRUE;
 }
 
 bool CPointEntryDlg::Add() {
@@ -103,10 +149,21 @@ bool CPointEntryDlg::Add() {
         CResMsgBox().ErrorMsgBox(FaultTextId(fault));
         return false;
     }
+    point.strCode = TextOf(m_code);
+    point.strCode.Trim();
+    point.others = m_others;
+    if (CheckPoint(point, m_job.format.text.encoding) != LineFault::None) {
+        CResMsgBox().ErrorMsgBox(FaultTextId(LineFault::BadName));
+        return false;
+    }
+    const bool bNoCoordinate = !point.point.IsExistNE() && !point.point.IsExistZ();
+    if (bNoCoordinate && !AskToLose(Text(IDS_ASK_NO_COORDINATE, point.strName.GetString())))
+        return false;
     if (!Take(point)) {
         CResMsgBox().ErrorMsgBox(Text(IDS_NAME_TAKEN, point.strName.GetString()));
         return false;
     }
+    m_nLastAdded = ::GetTickCount64();
     m_job.history.Add(point.strName);
     return true;
 }
@@ -116,7 +173,7 @@ bool CPointEntryDlg::Take(const CNamedPoint& point) {
     if (!m_job.book.Add(point))
         return false;
     m_message.SetWindowText(Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount()));
-    ShowPoint({m_job.book.NextName(point.strName), CCoordinate()});
+    ShowPoint({m_job.book.NextName(point.strName), CCoordinate(), point.strCode});
     GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
     return true;
 }

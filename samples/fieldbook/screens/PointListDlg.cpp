@@ -1,6 +1,7 @@
 #include "screens/PointListDlg.h"
 
 #include "screens/PointEditDlg.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
 #include "dialogs/ResMsgBox.h"
@@ -9,6 +10,7 @@
 BEGIN_MESSAGE_MAP(CPointListDlg, CnDialog)
     ON_BN_CLICKED(IDC_EDIT, &CPointListDlg::OnEdit)
     ON_BN_CLICKED(IDC_REMOVE, &CPointListDlg::OnRemove)
+    ON_BN_CLICKED(IDC_UNDO, &CPointListDlg::OnUndo)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -26,12 +28,9 @@ void CPointListDlg::DoDataExchange(CDataExchange* pDX) {
 BOOL CPointListDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     m_list.Fill();
-    ShowLegend();
-    return TRUE;
-}
-
-void CPointListDlg::ShowLegend() {
     m_legend.SetWindowText(Text(IDS_USED_POINTS, m_job.book.GetUsedCount()));
+    GetDlgItem(IDC_UNDO)->EnableWindow(m_job.book.CanUndo());
+    return TRUE;
 }
 
 CString CPointListDlg::SelectedName() const {
@@ -48,15 +47,29 @@ void CPointListDlg::OnEdit() {
     CPointEditDlg dialog(m_job, strName, this);
     if (dialog.DoModal() != IDOK)
         return;
-    m_list.Refresh();
-    ShowLegend();
+    ShowChange(Text(IDS_CHANGED));
 }
 
 void CPointListDlg::OnRemove() {
     const CString strName = SelectedName();
-    if (strName.IsEmpty() || CResMsgBox().WarningMsgBox(Text(IDS_ASK_REMOVE, strName.GetString())) != IDYES)
+    if (strName.IsEmpty() || !AskToLose(Text(IDS_ASK_REMOVE, strName.GetString())))
         return;
     m_job.book.Remove(strName);
+    ShowChange(Text(IDS_REMOVED, strName.GetString()));
+}
+
+/// A change that is taken back is told: the row may lie outside of what is seen.
+void CPointListDlg::OnUndo() {
+    CPointChange undone;
+    if (!m_job.book.Undo(undone))
+        return;
+    const bool bRemoved = undone.kind == CPointChange::Kind::Remove;
+    const CString strName = bRemoved ? undone.before.strName : undone.after.strName;
+    ShowChange(Text(IDS_UNDONE, strName.GetString()));
+}
+
+void CPointListDlg::ShowChange(const CString& strText) {
     m_list.Refresh();
-    ShowLegend();
+    m_legend.SetWindowText(strText);
+    GetDlgItem(IDC_UNDO)->EnableWindow(m_job.book.CanUndo());
 }

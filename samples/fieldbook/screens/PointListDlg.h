@@ -20,12 +20,14 @@ protected:
     BOOL OnInitDialog() override;
     afx_msg void OnEdit();
     afx_msg void OnRemove();
+    afx_msg void OnUndo();
     DECLARE_MESSAGE_MAP()
 
 private:
     /// @return the name in the row that is selected; empty if none is, which the user is told
     CString SelectedName() const;
-    void ShowLegend();
+    /// Shows the points as they are now, and what has become of them.
+    void ShowChange(const CString& strText);
 
     CJob& m_job;
     CPointListCtrl m_list;

@@ -8,6 +8,7 @@
 #include "screens/Text.h"
 #include "dialogs/InputDlg.h"
 #include "dialogs/ResMsgBox.h"
+#include "resources/ResourceIds.h"
 
 namespace {
 
@@ -21,6 +22,19 @@ public:
     ~CDigitPanel() { TVCloseSIP(); }
     CDigitPanel(const CDigitPanel&) = delete;
     CDigitPanel& operator=(const CDigitPanel&) = delete;
+};
+
+/// What is proposed is selected: typing replaces it.
+class CNumberDlg : public CInputDlg {
+public:
+    using CInputDlg::CInputDlg;
+
+protected:
+    BOOL OnInitDialog() override {
+        CInputDlg::OnInitDialog();
+        SendDlgItemMessage(IDC_FK_INPUT_VALUE, EM_SETSEL, 0, -1);
+        return FALSE;
+    }
 };
 
 } // namespace
@@ -46,7 +60,7 @@ bool CQuestions::Ask(UINT nQuestionId, const Put& put, const Check& check) {
 
 bool CQuestions::AskNumber(UINT nQuestionId, const Check& check) {
     const auto put = [&](CString& strAnswer) {
-        CInputDlg dialog(static_cast<int>(nQuestionId), static_cast<int>(m_nTitleId), &m_parent);
+        CNumberDlg dialog(static_cast<int>(nQuestionId), static_cast<int>(m_nTitleId), &m_parent);
         dialog.SetString(strAnswer);
         const CDigitPanel panel;
         if (dialog.DoModal() != IDOK)

@@ -57,7 +57,7 @@ void CReportDlg::OnKeep() {
 
 bool CReportDlg::Keep(const CString& strName) {
     const CNamedPoint point{strName, m_report.points[m_list.GetChosen()].point};
-    const LineFault fault = CheckPoint(point);
+    const LineFault fault = CheckPoint(point, m_job.format.text.encoding);
     if (fault != LineFault::None) {
         CResMsgBox().ErrorMsgBox(FaultTextId(fault));
         return false;

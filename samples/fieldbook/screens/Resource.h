@@ -37,6 +37,7 @@
 #define IDC_LEGEND 2121
 #define IDC_EDIT 2122
 #define IDC_REMOVE 2123
+#define IDC_UNDO 2124
 
 // Point entry dialog; IDC_NAME and IDC_MESSAGE are those of the name dialog, too
 #define IDC_KIND 2130
@@ -47,6 +48,7 @@
 #define IDC_NO_HEIGHT 2135
 #define IDC_ADD 2136
 #define IDC_MESSAGE 2137
+#define IDC_CODE 2138
 
 // Angle dialog
 #define IDC_COMPUTE 2139
@@ -157,13 +159,41 @@
 #define IDS_BACKUP_KEPT 2296
 #define IDS_NO_BACKUP 2297
 #define IDS_NO_NAME 2298
+#define IDS_NOT_RECORDED 2400
+#define IDS_ASK_REPEAT 2401
+#define IDS_REPEATED 2402
+#define IDS_RECOVERED 2403
+#define IDS_FILE_IN_USE 2404
+#define IDS_ASK_CHANGED_OUTSIDE 2405
+#define IDS_POINT_NOT_WRITABLE 2406
+#define IDS_ASK_CAPTION 2407
+#define IDS_ASK_TYPED 2408
+#define IDS_ASK_NO_COORDINATE 2409
+
+// Why a file could not be read or written
+#define IDS_CAUSE_FULL 2410
+#define IDS_CAUSE_DENIED 2411
+#define IDS_CAUSE_PROTECTED 2412
+#define IDS_CAUSE_GONE 2413
+#define IDS_CAUSE_IN_USE 2414
+#define IDS_CAUSE_NO_FILE 2415
+#define IDS_CAUSE_LARGE 2416
+#define IDS_CAUSE_OTHER 2417
+
+// Columns of a file that does not tell them
+#define IDS_FILE_COLUMNS 2420
+#define IDS_COLUMNS_MISSING 2421
+#define IDS_ASK_HEADING 2422
+#define IDS_ASK_ORDER 2423
+#define IDS_NO_TEXT 2424
+#define IDS_FAULT_NO_TEXT 2425
 
 // Export: the columns in the order of Column
 #define IDS_EXPORT_COLUMNS 2380
 #define IDS_NO_COLUMNS 2381
 #define IDS_EXPORTED 2382
 #define IDS_EXPORT_OWN_FILE 2383
-#define IDS_COLUMN_FIRST 2384
+#define IDS_COLUMN_FIRST 2390
 
 // File and points
 #define IDS_NOT_READ 2300
@@ -171,7 +201,6 @@
 #define IDS_BAD_LINES 2303
 #define IDS_BAD_LINE 2304
 #define IDS_MORE_BAD_LINES 2305
-#define IDS_NO_FILE 2308
 #define IDS_NO_JOURNAL 2309
 
 // Point list and point entry
@@ -185,6 +214,9 @@
 #define IDS_ASK_REMOVE 2327
 #define IDS_EDIT_POINT 2328
 #define IDS_CHANGE_POINT 2329
+#define IDS_REMOVED 2430
+#define IDS_UNDONE 2431
+#define IDS_CHANGED 2432
 
 // Kinds of points, in the order of the beginnings of their names
 #define IDS_KIND_FIRST 2330

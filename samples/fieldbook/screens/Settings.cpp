@@ -2,7 +2,6 @@
 
 #include "Tesuvo.h"
 
-#include <cwchar>
 #include <iterator>
 
 namespace {
@@ -12,9 +11,7 @@ constexpr wchar_t kTenths[] = L"Tenths";
 constexpr wchar_t kTolerance[] = L"Tolerance";
 constexpr wchar_t kFolder[] = L"Folder";
 constexpr wchar_t kColumns[] = L"Columns";
-
-/// The letters of the columns, in the order of Column.
-constexpr wchar_t kColumnLetters[] = L"PNEZ-";
+constexpr wchar_t kOrder[] = L"Order";
 
 // All applications of the device read the decimals of coordinates here: their number minus one.
 constexpr wchar_t kSharedSettings[] = L"Software\\Tesuvo\\Common";
@@ -23,22 +20,6 @@ constexpr wchar_t kSharedDecimals[] = L"1280";
 int LoadIndex(CWinApp& app, const wchar_t* pszName, size_t nCount) {
     const UINT nIndex = app.GetProfileInt(kSection, pszName, 0);
     return nIndex < nCount ? static_cast<int>(nIndex) : 0;
-}
-
-CString LettersOf(const std::vector<Column>& columns) {
-    CString strLetters;
-    for (const Column column : columns)
-        strLetters += kColumnLetters[static_cast<size_t>(column)];
-    return strLetters;
-}
-
-/// @return the columns of letters that mean something
-std::vector<Column> ColumnsOf(const CString& strLetters) {
-    std::vector<Column> columns;
-    for (int i = 0; i < strLetters.GetLength(); ++i)
-        if (const wchar_t* const pszFound = std::wcschr(kColumnLetters, strLetters[i]))
-            columns.push_back(static_cast<Column>(pszFound - kColumnLetters));
-    return columns;
 }
 
 bool SaveDecimals(int nDecimals) {
@@ -58,6 +39,9 @@ CSettings LoadSettings(CWinApp& app) {
     const std::vector<Column> columns = ColumnsOf(app.GetProfileString(kSection, kColumns));
     if (!columns.empty())
         settings.columns = columns;
+    const std::vector<Column> order = ColumnsOf(app.GetProfileString(kSection, kOrder));
+    if (AreComplete(order))
+        settings.order = order;
     return settings;
 }
 
@@ -66,5 +50,6 @@ bool SaveSettings(CWinApp& app, const CSettings& settings) {
     return app.WriteProfileInt(kSection, kTenths, settings.bTenths) &&
            app.WriteProfileInt(kSection, kTolerance, settings.nTolerance) &&
            app.WriteProfileString(kSection, kFolder, settings.strFolder) &&
-           app.WriteProfileString(kSection, kColumns, LettersOf(settings.columns)) && bShared;
+           app.WriteProfileString(kSection, kColumns, LettersOf(settings.columns)) &&
+           app.WriteProfileString(kSection, kOrder, LettersOf(settings.order)) && bShared;
 }

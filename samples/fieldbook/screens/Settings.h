@@ -2,7 +2,7 @@
 /// The settings that the user makes, and where they are kept.
 #pragma once
 
-#include "points/Export.h"
+#include "points/Column.h"
 
 #include <afxwin.h>
 
@@ -19,6 +19,7 @@ struct CSettings {
     int nTolerance = 0; ///< Index into kTolerances.
     CString strFolder;  ///< Where the file dialogs begin; empty if none has been chosen yet.
     std::vector<Column> columns = {Column::Name, Column::N, Column::E, Column::Z}; ///< Of the export.
+    std::vector<Column> order; ///< Of files without a heading; empty until one was opened.
 };
 
 /// @param app whose profile has the settings that are not shared

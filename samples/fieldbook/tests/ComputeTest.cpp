@@ -1,6 +1,7 @@
 #include "compute/Compute.h"
 
 #include "compute/PackedAngle.h"
+#include "points/FileReplacement.h"
 #include "points/PointFile.h"
 #include "geometry/Vector.h"
 
@@ -22,9 +23,7 @@ class Compute : public testing::Test {
 protected:
     void SetUp() override {
         CVector::SetTolerance(1e-6);
-        CAsciiFile file;
-        ASSERT_TRUE(file.Open(CString(FIELDBOOK_DATA) + L"/points.csv", CFile::modeRead));
-        ReadPoints(file, m_book);
+        ReadPoints(DecodeText(ReadWholeFile(CString(FIELDBOOK_DATA) + L"/points.csv")), m_book);
     }
 
     CCoordinate Point(const wchar_t* pszName) const {

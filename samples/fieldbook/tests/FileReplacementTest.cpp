@@ -9,7 +9,7 @@ namespace {
 constexpr char OLD[] = "all that was measured\r\n";
 
 /// @return the cause of the exception; none if there was none
-int CauseOf(const CString& strPath, const std::function<void(CAsciiFile&)>& write) {
+int CauseOf(const CString& strPath, const std::function<void(CFile&)>& write) {
     try {
         RewriteFile(strPath, write);
     } catch (CFileException* pError) {
@@ -21,8 +21,8 @@ int CauseOf(const CString& strPath, const std::function<void(CAsciiFile&)>& writ
     return CFileException::none;
 }
 
-void WriteNew(CAsciiFile& file) {
-    file.WriteString(L"new");
+void WriteNew(CFile& file) {
+    file.Write("new\r\n", 5);
 }
 
 class FileReplacement : public testing::Test {
@@ -36,8 +36,8 @@ protected:
 };
 
 TEST_F(FileReplacement, NewFileTakesTheOldOnesPlace) {
-    RewriteFile(m_file.GetPath(), [this](CAsciiFile& file) {
-        file.WriteString(L"new");
+    RewriteFile(m_file.GetPath(), [this](CFile& file) {
+        file.Write("new\r\n", 5);
         EXPECT_EQ(m_file.Read(), OLD) << "whole until the new one is complete";
     });
     EXPECT_EQ(m_file.Read(), "new\r\n");
@@ -49,8 +49,8 @@ TEST_F(FileReplacement, NewFileTakesTheOldOnesPlace) {
 }
 
 TEST_F(FileReplacement, FullDiskLeavesTheOldFile) {
-    const int nCause = CauseOf(m_file.GetPath(), [this](CAsciiFile& file) {
-        file.WriteString(L"the first half");
+    const int nCause = CauseOf(m_file.GetPath(), [this](CFile& file) {
+        file.Write("half", 4);
         AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, file.GetFilePath());
     });
     EXPECT_EQ(nCause, CFileException::diskFull);
@@ -85,6 +85,14 @@ TEST_F(FileReplacement, RestOfACrashIsWrittenOver) {
     const CTestFile rest(m_file.GetPath() + L".new", "a long half of a file that never became whole");
     RewriteFile(m_file.GetPath(), WriteNew);
     EXPECT_EQ(m_file.Read(), "new\r\n");
+}
+
+TEST_F(FileReplacement, BackupHoldsTheFileByteForByte) {
+    const CTestFile backup(m_file.GetPath() + L".bak", "older");
+    ASSERT_TRUE(KeepBackup(m_file.GetPath()));
+    EXPECT_EQ(backup.Read(), OLD);
+    EXPECT_FALSE(KeepBackup(L"no such file.csv"));
+    EXPECT_FALSE(CTestFile::Exists(L"no such file.csv.bak"));
 }
 
 } // namespace

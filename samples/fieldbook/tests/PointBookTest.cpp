@@ -6,11 +6,7 @@ namespace {
 
 class PointBook : public testing::Test {
 protected:
-    void SetUp() override {
-        for (const wchar_t* pszName : {L"T1", L"T2", L"K009"})
-            ASSERT_TRUE(m_book.Add(At(pszName, m_book.GetCount())));
-        m_book.SetModified(false);
-    }
+    void SetUp() override { m_book.SetModified(false); }
 
     static CNamedPoint At(const wchar_t* pszName, double dE) { return {pszName, CCoordinate(dE, 0, 0, 1)}; }
 
@@ -24,7 +20,14 @@ protected:
         return strNames;
     }
 
-    CPointBook m_book;
+    static CPointBook Fresh() {
+        CPointBook book;
+        for (const wchar_t* pszName : {L"T1", L"T2", L"K009"})
+            book.Add(At(pszName, book.GetCount()));
+        return book;
+    }
+
+    CPointBook m_book = Fresh();
 };
 
 TEST_F(PointBook, NextNameIsTheFirstFreeOne) {
@@ -72,14 +75,25 @@ TEST_F(PointBook, RemovedPointLeavesTheOthersInOrder) {
     EXPECT_TRUE(Names() == L"T2 K009 T1 ");
 }
 
-TEST_F(PointBook, ClearedBookIsAsNew) {
-    m_book.MarkUsed(L"T1");
+TEST_F(PointBook, ChangesAreTakenBackOneByOneAndToldLikeOthers) {
+    m_book.BeginHere();
+    std::vector<CPointChange> told;
+    m_book.SetObserver([&](const CPointChange& change) { told.push_back(change); });
+    m_book.Replace(L"T1", At(L"X1", 9));
     m_book.Remove(L"T2");
-    m_book.Clear();
-    EXPECT_EQ(m_book.GetCount(), 0);
-    EXPECT_EQ(m_book.GetUsedCount(), 0);
-    EXPECT_FALSE(m_book.IsModified());
-    EXPECT_TRUE(m_book.Add(At(L"T1", 1)));
+    m_book.Add(At(L"T1", 8));
+    CPointBook same = Fresh();
+    const wchar_t* const states[] = {L"X1 K009 ", L"X1 T2 K009 ", L"T1 T2 K009 "};
+    for (const wchar_t* pszNames : states) {
+        CPointChange undone{};
+        ASSERT_TRUE(m_book.Undo(undone));
+        EXPECT_TRUE(Names() == pszNames);
+    }
+    EXPECT_FALSE(m_book.CanUndo());
+    EXPECT_EQ(m_book.Find(L"T1")->GetE(), 0);
+    for (const CPointChange& change : told)
+        EXPECT_TRUE(same.Apply(change)) << "whoever repeats them all comes to the same";
+    EXPECT_FALSE(same.Apply(told.front().Reversed())) << "not made in this state";
 }
 
 } // namespace

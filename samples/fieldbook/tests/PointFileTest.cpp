@@ -1,6 +1,6 @@
 #include "points/PointFile.h"
 
-#include "TestFile.h"
+#include "points/FileReplacement.h"
 
 #include <gtest/gtest.h>
 
@@ -17,53 +17,123 @@ Faults FaultsOf(const CReadReport& report) {
     return faults;
 }
 
-CReadReport Read(const CString& strPath, CPointBook& book) {
-    CAsciiFile file;
-    if (!file.Open(strPath, CFile::modeRead)) {
-        ADD_FAILURE() << "cannot open the file";
-        return {};
-    }
-    return ReadPoints(file, book);
+std::string Shipped(const wchar_t* pszName) {
+    return ReadWholeFile(CString(FIELDBOOK_DATA) + L"/" + pszName);
 }
 
-CReadReport ReadShipped(const wchar_t* pszName, CPointBook& book) {
-    return Read(CString(FIELDBOOK_DATA) + L"/" + pszName, book);
+std::string Saved(const CPointBook& book, const CLineFormat& format) {
+    std::string bytes;
+    CString strBad;
+    const CLineFormat complete = FormatFor(book.GetPoints(), format);
+    EXPECT_TRUE(FormatPoints(book.GetPoints(), complete, bytes, strBad));
+    return bytes;
 }
 
-TEST(PointFile, ShippedPointsAreReadWithoutAnyFault) {
-    CPointBook book;
-    EXPECT_EQ(FaultsOf(ReadShipped(L"points.csv", book)), Faults());
-    EXPECT_EQ(book.GetCount(), 40);
-    EXPECT_TRUE(book.GetPoints().front().strName == L"T1");
-
-    const CCoordinate* pStone = book.Find(L"境界1");
-    ASSERT_NE(pStone, nullptr) << "is the OEM code page 932?";
-    EXPECT_EQ(pStone->GetN(), -35306.6);
-    EXPECT_EQ(pStone->GetE(), 13236.2);
-    EXPECT_EQ(pStone->GetZ(), 23.994);
-    const CCoordinate* pPole = book.Find(L"電柱1");
-    ASSERT_NE(pPole, nullptr);
-    EXPECT_TRUE(pPole->IsExistNE());
-    EXPECT_FALSE(pPole->IsExistZ());
-}
-
-TEST(PointFile, FaultyLinesAreReportedByNumberAndTheRestIsKept) {
-    CPointBook book;
-    const Faults expected = {
-        {4, LineFault::TooFewFields}, {6, LineFault::BadNumber},      {9, LineFault::DuplicateName},
-        {10, LineFault::NoName},      {11, LineFault::TooManyFields}, {12, LineFault::BadNumber},
-        {14, LineFault::TooLong},     {16, LineFault::NotTerminated},
+TEST(PointFile, ShippedFilesAreReadAndComeBackAsTheyWereSaved) {
+    const struct {
+        const wchar_t* pszName;
+        int nPoints;
+        const wchar_t* pszPoint;
+        double dN;
+        double dE;
+        double dZ;
+        Faults faults;
+    } cases[] = {
+        {L"points.csv", 40, L"境界1", -35306.6, 13236.2, 23.994, {}},
+        {L"boundary.csv", 8, L"K1", -35288, 13184, 24.512, {}},
+        {L"boundary.csv", 8, L"境界7", -35290.25, fieldkit::survey::kNull, fieldkit::survey::kNull, {}},
+        {L"levels.csv", 5, L"BM1", fieldkit::survey::kNull, fieldkit::survey::kNull, 25.204, {}},
+        {L"stakes.csv", 4, L"No.10+12.5", -35286.475, 13192.225, fieldkit::survey::kNull, {}},
+        {L"utf8.csv", 5, L"消火栓", -35290.735, 13228.16, 23.994, {}},
+        {L"lot.sim", 4, L"K3", -35312, 13216, 24.205, {}},
+        {L"points_bad.csv",
+         6,
+         L"K2",
+         -35285,
+         13220,
+         24.127,
+         {{4, LineFault::TooFewFields},
+          {6, LineFault::BadNumber},
+          {9, LineFault::DuplicateName},
+          {10, LineFault::NoName},
+          {11, LineFault::TooManyFields},
+          {12, LineFault::BadNumber},
+          {14, LineFault::TooFewFields},
+          {16, LineFault::NotTerminated}}},
     };
-    EXPECT_EQ(FaultsOf(ReadShipped(L"points_bad.csv", book)), expected);
-    EXPECT_EQ(book.GetCount(), 6);
-    ASSERT_NE(book.Find(L"K2"), nullptr);
-    EXPECT_EQ(book.Find(L"K2")->GetN(), -35285.0) << "the first of two points of one name stays";
-    EXPECT_NE(book.Find(L"電柱1"), nullptr) << "the line behind the long one";
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.pszName);
+        CPointBook book;
+        const CReadReport report = ReadPoints(DecodeText(Shipped(c.pszName)), book);
+        EXPECT_EQ(FaultsOf(report), c.faults);
+        EXPECT_EQ(book.GetCount(), c.nPoints);
+        const CCoordinate* const pPoint = book.Find(c.pszPoint);
+        ASSERT_NE(pPoint, nullptr) << "is the OEM code page 932?";
+        EXPECT_EQ(pPoint->GetN(), c.dN);
+        EXPECT_EQ(pPoint->GetE(), c.dE);
+        EXPECT_EQ(pPoint->GetZ(), c.dZ);
+
+        const std::string saved = Saved(book, report.format);
+        CPointBook again;
+        EXPECT_EQ(Saved(again, ReadPoints(DecodeText(saved), again).format), saved);
+        EXPECT_EQ(again.GetCount(), c.nPoints);
+        EXPECT_TRUE(IsAsSaved(saved, report.format));
+    }
 }
 
-TEST(PointFile, NoLineIsLostAtTheEdges) {
+/// One point in all these files: N 1, E 2, Z 3, code S; what is not there is left out.
+TEST(PointFile, HeadingDecidesWhatIsInAColumnAndIsKept) {
+    const struct {
+        const char* pszFile;
+        const char* pszSaved; ///< As the file if null.
+        const wchar_t* pszColumns;
+        const wchar_t* pszHeadingAsked;
+    } cases[] = {
+        {"name,N,E,Z\r\nP,1.000000,2.000000,3.000000\r\n", nullptr, L"PNEZ", nullptr},
+        {"ID;easting;NORTHING\r\nP;2.000000;1.000000\r\n", nullptr, L"PEN", nullptr},
+        {"Pt\tY (m)\tX (m)\tH[m]\tDesc\nP\t2.000000\t1.000000\t3.000000\tS\n", nullptr, L"PENZC", nullptr},
+        {"code,\"point\",E,N\r\nS,\"P\",2.000000,1.000000\r\n", nullptr, L"CPEN", nullptr},
+        {"job 7\r\nof May\r\nNo,name,n,e,date\r\n4,P,1.000000,2.000000,\"5,5\"\r\n", nullptr, L"OPNEO",
+         nullptr},
+        // Their saved form has what was not there before.
+        {"P,1,2,3,S\r\n", "P,1.000000,2.000000,3.000000,S\r\n", L"PNEZC", L"P,1,2,3,S"},
+        {"P,1,2\rQ,,,\r", "P,1.000000,2.000000,\rQ,,,\r", L"PNEZ", L"P,1,2"},
+        {"what,ever,it,says\r\nP,1,2,3\r\n", "what,ever,it,says\r\nP,1.000000,2.000000,3.000000\r\n", L"PNEZ",
+         L"what,ever,it,says"},
+        {"Z00,job,\r\nA00,\r\nA01,7,P,1.000000,2.000000,3.000000,\r\nA99,\r\n", nullptr, L"OOPNEZC", nullptr},
+        // A point may be called A01, too.
+        {"name,N,E,Z\r\nA01,1.000000,2.000000,3.000000\r\nP,1.000000,2.000000,\r\n", nullptr, L"PNEZ",
+         nullptr},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.pszFile);
+        CString strAsked;
+        CReadHelp help;
+        help.chooseColumns = [&](const CString& strLine, bool, size_t, std::vector<Column>& columns) {
+            strAsked = strLine;
+            columns = ColumnsOf(c.pszColumns);
+            return true;
+        };
+        CPointBook book;
+        const CReadReport report = ReadPoints(DecodeText(c.pszFile), book, help);
+        EXPECT_EQ(FaultsOf(report), Faults());
+        EXPECT_TRUE(LettersOf(report.format.columns) == c.pszColumns)
+            << CStringA(LettersOf(report.format.columns)).GetString();
+        EXPECT_TRUE(strAsked == c.pszHeadingAsked);
+        const CNamedPoint* const pPoint = book.FindPoint(L"P");
+        ASSERT_NE(pPoint, nullptr);
+        EXPECT_EQ(pPoint->point.GetN(), 1);
+        EXPECT_EQ(pPoint->point.GetE(), 2);
+        EXPECT_TRUE(!pPoint->point.IsExistZ() || pPoint->point.GetZ() == 3);
+        EXPECT_TRUE(pPoint->strCode ==
+                    (CString(c.pszColumns).Find(L'C') >= 0 && !report.format.bSima ? L"S" : L""));
+        EXPECT_EQ(Saved(book, report.format), c.pszSaved != nullptr ? c.pszSaved : c.pszFile);
+        EXPECT_EQ(IsAsSaved(c.pszFile, report.format), c.pszSaved == nullptr);
+    }
+}
+
+TEST(PointFile, NoLineIsLostOrShifted) {
     const std::string point = "P,1,2\r\n";
-    const std::string lf = "P,1,2\nQ,1,2\n";
     const struct {
         const char* pszCase;
         std::string content;
@@ -73,113 +143,76 @@ TEST(PointFile, NoLineIsLostAtTheEdges) {
         {"empty file", "", 0, {}},
         {"only line ends", "\r\n\r\n", 0, {}},
         {"blanks behind the last line", point + " \t\r\n \n", 1, {}},
-        {"a header behind line 1", point + "name,N,E,Z\r\n", 1, {{2, LineFault::BadNumber}}},
+        {"a heading behind line 1", point + "name,N,E,Z\r\n", 1, {{2, LineFault::BadNumber}}},
         {"CR alone", "P,1,2\rQ,1,2\r", 2, {}},
-        {"LF alone", lf, 0, {{1, LineFault::NotTerminated}}},
-        {"511 bytes", "P,1,2," + std::string(505, '0') + "\r\n" + "Q,1,2\r\n", 2, {}},
-        {"512 bytes", "P,1,2," + std::string(506, '0') + "\r\n" + "Q,1,2\r\n", 1, {{1, LineFault::TooLong}}},
-        {"several buffers", std::string(5000, 'n') + "\r\n" + point, 1, {{1, LineFault::TooLong}}},
-        {"long and never ended", point + std::string(2000, 'n'), 1, {{2, LineFault::TooLong}}},
-        {"512 bytes to the end", point + std::string(512, 'n'), 1, {{2, LineFault::NotTerminated}}},
+        {"no end", point + "Q,1,2", 1, {{2, LineFault::NotTerminated}}},
+        {"511 characters", "P,1,2," + std::string(505, '0') + "\r\n", 1, {}},
+        {"512 characters", "P,1,2," + std::string(506, '0') + "\r\n", 0, {{1, LineFault::TooLong}}},
+        {"a bad first point is no heading", "P,1o,2o,3\r\nQ,1,2\r\n", 1, {{1, LineFault::BadNumber}}},
+        {"thousands between semicolons", "P;13,200.5;35,100.25;1\r\n", 1, {}},
+        {"commas further down", "P;1;2\r\nQ,1,2\r\n", 1, {{2, LineFault::TooFewFields}}},
+        {"a code in a file without", "name,N,E\r\nP,1,2\r\nQ,1,2,3\r\n", 1, {{3, LineFault::TooManyFields}}},
+        {"open quotes",
+         "\"P,1,2,3\r\n\"Q\",1,2,3\r\n\"R\"x,1,2,3\r\n",
+         1,
+         {{1, LineFault::TooFewFields}, {3, LineFault::BadQuotes}}},
+        {"quotes in a name", "\"a \"\"b\"\"\",1,2,3\r\n", 1, {}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszCase);
-        const CTestFile file(L"fieldbook-edges.csv", c.content);
         CPointBook book;
-        EXPECT_EQ(FaultsOf(Read(file.GetPath(), book)), c.faults);
+        EXPECT_EQ(FaultsOf(ReadPoints(DecodeText(c.content), book)), c.faults);
         EXPECT_EQ(book.GetCount(), c.nPoints);
     }
 }
 
-TEST(PointFile, OtherKindsOfFilesAreRecognised) {
-    const struct {
-        const wchar_t* pszName;
-        wchar_t chSeparator;
-        bool bHeader;
-        int nPoints;
-    } cases[] = {
-        {L"points.csv", L',', true, 40},
-        {L"boundary.csv", L';', true, 8},
-        {L"levels.csv", L',', false, 5},
-        {L"stakes.csv", L';', false, 4},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.pszName);
-        CPointBook book;
-        const CReadReport report = ReadShipped(c.pszName, book);
-        EXPECT_EQ(FaultsOf(report), Faults());
-        EXPECT_EQ(report.format.chSeparator, c.chSeparator);
-        EXPECT_EQ(report.format.bHeader, c.bHeader);
-        EXPECT_EQ(book.GetCount(), c.nPoints);
-    }
-}
-
-TEST(PointFile, WhatIsBlankInAFileIsAbsentInThePoint) {
-    using fieldkit::survey::kNull;
+TEST(PointFile, WhatAFileHasNotGotIsAddedBehind) {
     CPointBook book;
-    for (const wchar_t* pszName : {L"boundary.csv", L"levels.csv", L"stakes.csv"})
-        ReadShipped(pszName, book);
+    CReadReport report = ReadPoints(DecodeText("name;N;E\r\nP;1;2\r\n"), book);
+    book.Add({L"Q", CCoordinate(4, 3, 5, 3), L"STONE"});
+    EXPECT_EQ(Saved(book, report.format), "name;N;E;Z;code\r\nP;1.000000;2.000000;;\r\n"
+                                          "Q;3.000000;4.000000;5.000000;STONE\r\n");
+    report = ReadPoints(DecodeText("A01,7,R,1,2,3,\r\nA01,9,S,1,2,,\r\n"), book);
+    EXPECT_NE(Saved(book, report.format).find("A01,10,P,1.000000,2.000000,,\r\n"), std::string::npos)
+        << "a point that is new there gets the next number";
+}
+
+TEST(PointFile, ExportHasTheChosenColumnsInTheirOrder) {
+    const std::vector<CNamedPoint> points = {{L"境界1", CCoordinate(13236.2, -35306.6, 23.994, 3), L"S"},
+                                             {L"電柱1", CCoordinate(13225.9, -35282.4, 0, 1)}};
+    CLineFormat format = NewFormat();
+    format.text = {Encoding::Utf8, LineEnd::Lf};
+    format.chSeparator = L';';
     const struct {
-        const wchar_t* pszName;
-        double dN;
-        double dE;
-        double dZ;
+        const wchar_t* pszColumns;
+        bool bHeading;
+        const char* pszFile;
     } cases[] = {
-        {L"K1", -35288, 13184, 24.512},      {L"境界1", -35306.6, 13236.2, kNull},
-        {L"境界7", -35290.25, kNull, kNull}, {L"境界8", kNull, 13229.5, kNull},
-        {L"BM1", kNull, kNull, 25.204},      {L"T7", kNull, kNull, kNull},
-        {L"仮BM1", kNull, kNull, 22.6},      {L"No.10+12.5", -35286.475, 13192.225, kNull},
+        {L"E-Z", true, "E;;Z\n13236.200000;;23.994000\n13225.900000;;\n"},
+        {L"CN", false, "S;-35306.600000\n;-35282.400000\n"},
     };
     for (const auto& c : cases) {
-        const CCoordinate* pPoint = book.Find(c.pszName);
-        ASSERT_NE(pPoint, nullptr) << c.pszName;
-        EXPECT_EQ(pPoint->GetN(), c.dN);
-        EXPECT_EQ(pPoint->GetE(), c.dE);
-        EXPECT_EQ(pPoint->GetZ(), c.dZ);
+        format.bHeading = c.bHeading;
+        std::string bytes;
+        CString strBad;
+        EXPECT_TRUE(FormatPoints(points, ExportFormat(ColumnsOf(c.pszColumns), format), bytes, strBad));
+        EXPECT_EQ(bytes, c.pszFile);
     }
 }
 
-TEST(PointFile, FormatIsThatOfTheFirstLineWithEnoughFields) {
-    const struct {
-        const char* pszCase;
-        std::string content;
-        wchar_t chSeparator;
-        bool bHeader;
-        int nPoints;
-        Faults faults;
-    } cases[] = {
-        {"a title above the header",
-         "job 7\r\n\r\nNAME;n;e\r\nP;1;2\r\n",
-         L';',
-         true,
-         1,
-         {{1, LineFault::TooFewFields}}},
-        {"thousands between semicolons", "P;13,200.5;35,100.25;1\r\n", L';', false, 1, {}},
-        {"semicolon in a name", "A;B,1,2,3\r\n", L',', false, 1, {}},
-        {"commas further down", "P;1;2\r\nQ,1,2\r\n", L';', false, 1, {{2, LineFault::TooFewFields}}},
-        {"E before N is no header of ours",
-         "name,E,N,Z\r\nP,1,2\r\n",
-         L',',
-         false,
-         1,
-         {{1, LineFault::BadNumber}}},
-        {"a bad first point is no header",
-         "P,1o,2o,3\r\nQ,1,2\r\n",
-         L',',
-         false,
-         1,
-         {{1, LineFault::BadNumber}}},
-        {"nothing to tell", "\r\n", L',', false, 0, {}},
+TEST(PointFile, PointThatAFileCannotHoldIsNamed) {
+    const CNamedPoint cases[] = {
+        {CString(L'n', 65), CCoordinate(1, 2, 0, 1)},
+        {L"\x263A", CCoordinate(1, 2, 0, 1)},
+        {L"P", CCoordinate(1, 1e300, 0, 1)},
+        {L"Q", CCoordinate(1, 2, 0, 1), L"\x263A"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszCase);
-        const CTestFile file(L"fieldbook-format.csv", c.content);
-        CPointBook book;
-        const CReadReport report = Read(file.GetPath(), book);
-        EXPECT_EQ(report.format.chSeparator, c.chSeparator);
-        EXPECT_EQ(report.format.bHeader, c.bHeader);
-        EXPECT_EQ(FaultsOf(report), c.faults);
-        EXPECT_EQ(book.GetCount(), c.nPoints);
+    for (const CNamedPoint& point : cases) {
+        std::string bytes = "old";
+        CString strBad;
+        EXPECT_FALSE(FormatPoints({point}, FormatFor({point}, NewFormat()), bytes, strBad));
+        EXPECT_TRUE(strBad == point.strName);
+        EXPECT_EQ(bytes, "old");
     }
 }
 

@@ -1,7 +1,8 @@
 // Each call that saving and loading make into the system fails, for each reason that there is.
 #include "FaultPoints.h"
 #include "points/History.h"
-#include "points/PointFile.h"
+#include "points/ChangeFile.h"
+#include "points/FileReplacement.h"
 #include "screens/Settings.h"
 
 #include "TestFile.h"
@@ -129,14 +130,38 @@ void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
 }
 
 TEST(SaveFaults, PointsAreTheOldOrTheNewOnes) {
-    CPointBook book;
-    for (const wchar_t* pszName : {L"T1", L"T2", L"境界7"})
-        book.Add({pszName, CCoordinate(13225.5, -35345, 24.318, 3)});
     const CTestFile file(L"fieldbook-faults.csv", "P,1,2,3\r\n");
     ExpectOldOrNew(file, [&] {
-        SavePoints(file.GetPath(), book, {});
+        RewriteFile(file.GetPath(), std::string(10'000, 'n'));
         return true;
     });
+}
+
+TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
+    const CTestFile points(L"fieldbook-faults.csv");
+    const CTestFile record(points.GetPath() + L".changes");
+    ::CreateDirectory(L"own", nullptr);
+    auto pFile = std::make_unique<CChangeFile>(L"own");
+    ASSERT_TRUE(pFile->Claim(points.GetPath()));
+    pFile->Begin(1);
+    size_t nRecorded = 0;
+    const auto append = [&] {
+        pFile->Append({CPointChange::Kind::Add, 0, {}, {L"P", CCoordinate(1, 2, 3, 3)}});
+        return true;
+    };
+    ForEveryFault(append, [&](bool bDone) {
+        pFile.reset(); // as if it were killed
+        pFile = std::make_unique<CChangeFile>(L"own");
+        ASSERT_TRUE(pFile->Claim(points.GetPath()));
+        const std::optional<CLeftChanges> left = pFile->FindLeft(1);
+        const size_t nLeft = left ? left->changes.size() : 0;
+        EXPECT_GE(nLeft, nRecorded + (bDone ? 1 : 0));
+        EXPECT_LE(nLeft, nRecorded + 1);
+        nRecorded = nLeft;
+        if (left)
+            pFile->Resume(*left);
+    });
+    pFile->Begin(1);
 }
 
 TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {

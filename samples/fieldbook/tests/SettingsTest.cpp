@@ -1,5 +1,7 @@
 #include "screens/Settings.h"
 
+#include "support/FrameworkEnvironment.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -8,7 +10,7 @@ constexpr wchar_t COMPANY[] = L"FieldbookTest";
 constexpr wchar_t PRIVATE_KEY[] = L"Software\\FieldbookTest";
 constexpr wchar_t SHARED_KEY[] = L"Software\\Tesuvo\\Common";
 
-CWinApp g_app(L"test"); // a program has one, and it lives as long as the program
+CWinApp& g_app = fx::g_app;
 
 class Settings : public testing::Test {
 protected:
@@ -34,6 +36,7 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     settings.nTolerance = 2;
     settings.strFolder = L"\\測量\\現場 1";
     settings.columns = {Column::Blank, Column::E, Column::Blank, Column::Name};
+    settings.order = {Column::Name, Column::E, Column::N};
     ASSERT_TRUE(SaveSettings(g_app, settings));
     const CSettings loaded = LoadSettings(g_app);
     EXPECT_EQ(loaded.nDecimals, 5);
@@ -41,6 +44,7 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     EXPECT_EQ(loaded.nTolerance, 2);
     EXPECT_TRUE(loaded.strFolder == settings.strFolder);
     EXPECT_EQ(loaded.columns, settings.columns);
+    EXPECT_EQ(loaded.order, settings.order);
 
     DWORD dwValue = 0;
     DWORD dwSize = sizeof dwValue;

@@ -1,0 +1,80 @@
+#include "points/CodePage.h"
+#include "points/FileText.h"
+
+#include <gtest/gtest.h>
+
+using namespace std::string_literals;
+
+namespace {
+
+TEST(FileText, EveryFormIsRecognisedAndWrittenAgain) {
+    const struct {
+        const char* pszCase;
+        std::string bytes;
+        Encoding encoding;
+        LineEnd lineEnd;
+        CString strFirst;
+    } cases[] = {
+        {"nothing but ASCII", "P1\r\nP2\r\n", Encoding::Oem, LineEnd::CrLf, L"P1"},
+        {"code page 932", "\x8b\xab\x8a\x45\x31\r\n", Encoding::Oem, LineEnd::CrLf, L"境界1"},
+        {"a trail byte like a backslash", "\x83\x5c\n", Encoding::Oem, LineEnd::Lf, L"ソ"},
+        {"half-width katakana like UTF-8", "\xc4\xb1\xc3\xbd\r", Encoding::Oem, LineEnd::Cr, L"ﾄｱﾃｽ"},
+        {"UTF-8", "\xe6\xb6\x88\xe7\x81\xab\xe6\xa0\x93,1\n", Encoding::Utf8, LineEnd::Lf, L"消火栓,1"},
+        {"UTF-8 with mark", "\xef\xbb\xbfP\r\nQ\r\n", Encoding::Utf8Bom, LineEnd::CrLf, L"P"},
+        {"beyond the code page", "\xf0\xa0\xae\xb7\r\n", Encoding::Utf8, LineEnd::CrLf, L"\U00020BB7"},
+        {"UTF-16", "\xff\xfeP\0\x4e\x57\r\0\n\0"s, Encoding::Utf16Le, LineEnd::CrLf, L"P\x574e"},
+        {"UTF-16 from the other end", "\xfe\xff\xd8\x42\xdf\xb7\0\n"s, Encoding::Utf16Be, LineEnd::Lf,
+         L"\U00020BB7"},
+        {"empty", "", Encoding::Oem, LineEnd::CrLf, L""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.pszCase);
+        const CFileText text = DecodeText(c.bytes);
+        EXPECT_TRUE(text.unreadable.empty());
+        EXPECT_EQ(text.form.encoding, c.encoding);
+        EXPECT_EQ(text.form.lineEnd, c.lineEnd);
+        EXPECT_TRUE((text.lines.empty() ? CString() : text.lines.front()) == c.strFirst);
+        CTextEncoder encoder(text.form);
+        for (const CString& strLine : text.lines)
+            EXPECT_TRUE(encoder.Add(strLine));
+        EXPECT_EQ(encoder.GetBytes(), c.bytes);
+    }
+}
+
+TEST(FileText, BytesThatAreNoTextAreToldByTheirLines) {
+    const struct {
+        const char* pszCase;
+        std::string bytes;
+        std::vector<int> lines;
+    } cases[] = {
+        {"half a character of either", "P\r\n\x83\r\nQ\r\n\xe6\r\n", {2, 4}},
+        {"a picture", "\x89PNG\r\n\x1a\n\0\0\0\rIHDR"s, {3}},
+        {"UTF-8 with mark and a wrong byte", "\xef\xbb\xbfP\n\xc0\xaf\n", {2}},
+        {"half a unit of UTF-16", "\xff\xfeP", {1}},
+        {"half a pair of UTF-16", "\xff\xfe\x42\xd8\r\0\n\0"s, {1}},
+    };
+    for (const auto& c : cases) {
+        const CFileText text = DecodeText(c.bytes);
+        EXPECT_EQ(text.unreadable, c.lines) << c.pszCase;
+        EXPECT_TRUE(text.lines.empty()) << c.pszCase;
+    }
+}
+
+TEST(FileText, WhatACodePageCannotHoldIsRefusedOrSpelled) {
+    const struct {
+        CString strText;
+        bool bFits;
+        CString strSpelled;
+    } cases[] = {
+        {L"境界1", true, L"境界1"},
+        {L"Ä1", false, L"<U+00C4>1"}, // would come back as A1, or as a question mark
+        {L"\U00020BB7野", false, L"<U+20BB7>野"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(CanEncode(c.strText, Encoding::Oem), c.bFits);
+        EXPECT_TRUE(CanEncode(c.strText, Encoding::Utf16Le));
+        EXPECT_TRUE(SpellForOem(c.strText) == c.strSpelled);
+    }
+}
+
+} // namespace
