@@ -307,7 +307,7 @@ shot 42-point-entry-duplicate
 message_ok 194
 tap "${close_button[@]}"
 shot 43a-typed-values-question
-digits_enter
+key Return
 shot 43b-stayed
 tap "${close_button[@]}"
 message_yes 194

@@ -88,6 +88,11 @@ CResult IntersectBearings(const CCoordinate& a, double dDirectionA, const CCoord
     return Meet(plane, p1, p1 + Sight(dDirectionA), p3, p3 + Sight(dDirectionB));
 }
 
+bool IsBehind(const CCoordinate& point, const CCoordinate& from, double dDirection) {
+    const CVector way = CLocalPlane(from).ToVector(point);
+    return way.GetX() * std::sin(dDirection) + way.GetY() * std::cos(dDirection) < -kSamePoint;
+}
+
 CResult IntersectLineCircle(const CCoordinate& p1, const CCoordinate& p2, const CCoordinate& centre,
                             double dRadius) {
     if (!HavePositions(p1, p2, centre))
@@ -140,7 +145,11 @@ CResult FindArcCentre(const CCoordinate& start, const CCoordinate& end, double d
     if (dAngle == 0 || std::fabs(dAngle) >= kTwoPi)
         return Failed(Verdict::BadAngle);
     const CLocalPlane plane(start);
-    return Found(plane, {CVector::CalcArcCenter(plane.ToVector(start), plane.ToVector(end), dAngle)});
+    // The library's half turn has ten digits, which moves the centre of a flat arc by millimetres.
+    const CVector chord = plane.ToVector(end);
+    const double dAside = 0.5 / std::tan(dAngle / 2); // of a chord, to its left
+    return Found(
+        plane, {CVector(chord.GetX() / 2 - chord.GetY() * dAside, chord.GetY() / 2 + chord.GetX() * dAside)});
 }
 
 CResult FindTangentCorners(const CCoordinate& start, const CCoordinate& centre, const CCoordinate& end) {
@@ -188,7 +197,9 @@ bool FindInverse(const CCoordinate& from, const CCoordinate& to, CInverse& inver
     // The library's angles go from x to y, a direction from north to east. As a unit vector even
     // a short way is above the length below which the library sees no direction.
     CVector northFirst(way.GetY(), way.GetX());
-    inverse = {way.UNorm(), CVector::Range0To360(northFirst.R_Unit().Angle())};
+    inverse = {way.UNorm(), CVector::Range0To360(northFirst.R_Unit().Angle()), way.GetY(), way.GetX(), {}};
+    if (from.IsExistZ() && to.IsExistZ())
+        inverse.dZ = to.GetZ() - from.GetZ();
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include "points/PointBook.h"
 
+#include <optional>
 #include <vector>
 
 /// How a computation ended.
@@ -22,6 +23,7 @@ enum class Verdict {
     NoCorner,    ///< The tangents do not meet.
     NoPosition,  ///< A point has no N or no E.
 };
+inline constexpr unsigned kVerdictCount = 11;
 
 struct CResult {
     Verdict verdict;
@@ -36,9 +38,11 @@ bool HasPosition(const CCoordinate& point);
 CResult IntersectLines(const CCoordinate& a1, const CCoordinate& a2, const CCoordinate& b1,
                        const CCoordinate& b2);
 /// The intersection of two unbounded lines, each given by a point and its direction. It may lie
-/// behind a point.
+/// behind a point; see IsBehind.
 /// @param dDirectionA,dDirectionB radians, clockwise from north
 CResult IntersectBearings(const CCoordinate& a, double dDirectionA, const CCoordinate& b, double dDirectionB);
+/// Whether a point lies behind another one for somebody who looks in a direction.
+bool IsBehind(const CCoordinate& point, const CCoordinate& from, double dDirection);
 /// The intersections of an unbounded line and a circle; one point where it touches.
 CResult IntersectLineCircle(const CCoordinate& p1, const CCoordinate& p2, const CCoordinate& centre,
                             double dRadius);
@@ -74,6 +78,9 @@ CCoordinate FindPolarPoint(const CCoordinate& from, double dDirection, double dD
 struct CInverse {
     double dDistance;  ///< Horizontal.
     double dDirection; ///< Radians, clockwise from north, from 0 to a full turn.
+    double dN;         ///< Differences, those of the second point less those of the first.
+    double dE;
+    std::optional<double> dZ; ///< If both points have a height.
 };
 
 /// @param inverse written if the result is true only

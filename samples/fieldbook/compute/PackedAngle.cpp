@@ -17,16 +17,18 @@ constexpr long long kUnitsPerDegree = 100 * kUnitsPerMinute;
 
 } // namespace
 
-bool ParsePackedAngle(const CString& strText, double& dRadians) {
+AngleFault ParsePackedAngle(const CString& strText, double& dRadians) {
     double dPacked = 0;
-    if (!TVString2Double(&strText, &dPacked) || !(std::fabs(dPacked) <= kMaxDegrees))
-        return false;
+    if (!TVString2Double(&strText, &dPacked))
+        return AngleFault::NoNumber;
+    if (!(std::fabs(dPacked) <= kMaxDegrees))
+        return AngleFault::TooLarge;
     const long long nPacked = std::llround(std::fabs(dPacked) * kUnitsPerDegree);
     const auto dDegrees = static_cast<double>(nPacked / kUnitsPerDegree);
     const auto dMinutes = static_cast<double>(nPacked % kUnitsPerDegree / kUnitsPerMinute);
     const double dSeconds = static_cast<double>(nPacked % kUnitsPerMinute) / kUnitsPerSecond;
     if (dMinutes >= 60 || dSeconds >= 60)
-        return false;
+        return AngleFault::BadSixties;
     dRadians = std::copysign((dDegrees + dMinutes / 60 + dSeconds / 3600) * kPi / 180, dPacked);
-    return true;
+    return AngleFault::None;
 }

@@ -4,9 +4,15 @@
 
 #include <afx.h>
 
+/// Why a text is no angle.
+enum class AngleFault {
+    None,
+    NoNumber,
+    TooLarge,   ///< More than 360 degrees.
+    BadSixties, ///< Minutes or seconds from 60 on.
+};
+
 /// Reads an angle of degrees, minutes and seconds packed into one number: d.mmss, with
 /// decimals of the second behind. 90.3015 is 90 degrees 30 minutes 15 seconds.
 /// @param dRadians written on success only
-/// @return false for a text that is no number, more than 360 degrees, and minutes or
-///         seconds from 60 on
-bool ParsePackedAngle(const CString& strText, double& dRadians);
+AngleFault ParsePackedAngle(const CString& strText, double& dRadians);

@@ -24,7 +24,7 @@ void CheckNumber(const CString& strText) {
 void CheckAngle(const CString& strText) {
     constexpr double kTurn = 6.2831853071795865;
     double dRadians = 0;
-    if (ParsePackedAngle(strText, dRadians))
+    if (ParsePackedAngle(strText, dRadians) == AngleFault::None)
         Promise(std::fabs(dRadians) <= kTurn, "an angle is one turn at the most");
 }
 

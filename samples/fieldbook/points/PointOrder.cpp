@@ -2,29 +2,82 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
 
 namespace {
 
+double ValueOf(const CNamedPoint& point, PointColumn column) {
+    return column == PointColumn::N   ? point.point.GetN()
+           : column == PointColumn::E ? point.point.GetE()
+                                      : point.point.GetZ();
+}
+
+bool IsText(PointColumn column) {
+    return column == PointColumn::Name || column == PointColumn::Code;
+}
+
+const CString& TextOf(const CNamedPoint& point, PointColumn column) {
+    return column == PointColumn::Name ? point.strName : point.strCode;
+}
+
+bool IsMissing(const CNamedPoint& point, PointColumn column) {
+    return IsText(column) ? TextOf(point, column).IsEmpty()
+                          : ValueOf(point, column) == fieldkit::survey::kNull;
+}
+
 bool IsBefore(const CNamedPoint& a, const CNamedPoint& b, PointColumn column) {
-    switch (column) {
-    case PointColumn::N:
-        return a.point.GetN() < b.point.GetN();
-    case PointColumn::E:
-        return a.point.GetE() < b.point.GetE();
-    case PointColumn::Z:
-        // A missing height is a number, too, but none to compare with.
-        return a.point.IsExistZ() && (!b.point.IsExistZ() || a.point.GetZ() < b.point.GetZ());
-    default:
-        return a.strName < b.strName;
-    }
+    return IsText(column) ? IsNameBefore(TextOf(a, column), TextOf(b, column))
+                          : ValueOf(a, column) < ValueOf(b, column);
+}
+
+bool IsDigit(wchar_t ch) {
+    return ch >= L'0' && ch <= L'9';
+}
+
+/// The digits from a place on without leading zeros. @param i moved behind them
+const wchar_t* SkipZeros(const wchar_t*& i) {
+    while (*i == L'0')
+        ++i;
+    const wchar_t* const pszDigits = i;
+    while (IsDigit(*i))
+        ++i;
+    return pszDigits;
 }
 
 } // namespace
 
-std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, PointColumn column) {
+bool IsNameBefore(const CString& strName1, const CString& strName2) {
+    const wchar_t* p1 = strName1;
+    const wchar_t* p2 = strName2;
+    while (*p1 != 0 && *p2 != 0) {
+        if (!IsDigit(*p1) || !IsDigit(*p2)) {
+            if (*p1 != *p2)
+                return *p1 < *p2;
+            ++p1;
+            ++p2;
+            continue;
+        }
+        const wchar_t* const pDigits1 = SkipZeros(p1);
+        const wchar_t* const pDigits2 = SkipZeros(p2);
+        const auto nLength1 = p1 - pDigits1;
+        const auto nLength2 = p2 - pDigits2;
+        if (nLength1 != nLength2)
+            return nLength1 < nLength2;
+        const int nOrder = std::wstring_view(pDigits1, static_cast<size_t>(nLength1))
+                               .compare(std::wstring_view(pDigits2, static_cast<size_t>(nLength2)));
+        if (nOrder != 0)
+            return nOrder < 0;
+    }
+    return *p1 == 0 && *p2 != 0;
+}
+
+std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, PointColumn column, bool bTurned) {
     std::vector<size_t> order(points.size());
     std::iota(order.begin(), order.end(), size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](size_t a, size_t b) { return IsBefore(points[a], points[b], column); });
+    const auto missing = std::stable_partition(order.begin(), order.end(),
+                                               [&](size_t i) { return !IsMissing(points[i], column); });
+    std::stable_sort(order.begin(), missing, [&](size_t a, size_t b) {
+        return bTurned ? IsBefore(points[b], points[a], column) : IsBefore(points[a], points[b], column);
+    });
     return order;
 }

@@ -1,6 +1,6 @@
 #include "screens/Computations.h"
 
-#include "compute/AngleText.h"
+#include "compute/ValueText.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
 #include "survey/2DLine.h"
@@ -12,21 +12,44 @@ namespace {
 constexpr bool kUnbounded = true;
 constexpr bool kBounded = false;
 
+using Unit = CReportLine::Unit;
+
 /// What is said of a curve besides its corners.
-std::vector<CString> CurveNotes(const CCurve& curve, double dStartRadius, const CString& strSweep) {
-    std::vector<CString> notes{Text(IDS_RADIUS_START, dStartRadius), Text(IDS_RADIUS_END, curve.dRadius),
-                               Text(IDS_SWEEP, strSweep.GetString()), Text(IDS_ARC_LENGTH, curve.dLength),
-                               Text(IDS_BULGE, curve.dBulge)};
+std::vector<CReportLine> CurveNotes(const CCurve& curve, double dStartRadius) {
+    std::vector<CReportLine> notes{{IDS_RADIUS_START, Unit::Length, dStartRadius},
+                                   {IDS_RADIUS_END, Unit::Length, curve.dRadius},
+                                   {IDS_SWEEP, Unit::Direction, curve.dSweep},
+                                   {IDS_ARC_LENGTH, Unit::Length, curve.dLength},
+                                   {IDS_BULGE, Unit::Number, curve.dBulge}};
     constexpr double kRadiusLimit = 0.010; // metres
     if (std::fabs(dStartRadius - curve.dRadius) > kRadiusLimit)
-        notes.push_back(Text(IDS_RADII_DIFFER));
+        notes.push_back({IDS_RADII_DIFFER});
     return notes;
 }
 
 /// How far a line goes north for each metre to the east.
-CString SlopeNote(const C2DLine& line) {
+CReportLine SlopeNote(const C2DLine& line) {
     constexpr int kNorthSouth = 1;
-    return line.GetStatus() == kNorthSouth ? Text(IDS_NORTH_SOUTH_LINE) : Text(IDS_SLOPE, line.GetSlope());
+    if (line.GetStatus() == kNorthSouth)
+        return {IDS_NORTH_SOUTH_LINE};
+    return {IDS_SLOPE, Unit::Number, line.GetSlope()};
+}
+
+std::vector<CReportLine> InverseNotes(const CInverse& inverse, const C2DLine& line) {
+    std::vector<CReportLine> notes = {{IDS_DISTANCE_LINE, Unit::Length, inverse.dDistance},
+                                      {IDS_DIRECTION_LINE, Unit::Direction, inverse.dDirection},
+                                      {IDS_DELTA_N, Unit::Length, inverse.dN},
+                                      {IDS_DELTA_E, Unit::Length, inverse.dE}};
+    if (inverse.dZ) {
+        const double dGradient = *inverse.dZ / inverse.dDistance;
+        notes.push_back({IDS_DELTA_Z, Unit::Length, *inverse.dZ});
+        notes.push_back({IDS_SLOPE_DISTANCE, Unit::Length, std::hypot(inverse.dDistance, *inverse.dZ)});
+        notes.push_back({IDS_GRADIENT, Unit::Percent, dGradient});
+        if (*inverse.dZ != 0)
+            notes.push_back({IDS_GRADIENT, Unit::OneIn, dGradient});
+    }
+    notes.push_back(SlopeNote(line));
+    return notes;
 }
 
 void DrawTangents(CDrawing& drawing, CCoordinate from, const std::vector<CCoordinate>& corners,
@@ -36,6 +59,13 @@ void DrawTangents(CDrawing& drawing, CCoordinate from, const std::vector<CCoordi
         from = corner;
     }
     drawing.AddLine(from, end, kBounded, Role::Result);
+}
+
+CCoordinate WithoutHeight(const CCoordinate& point) {
+    CCoordinate flat;
+    flat.SetN(point.GetN());
+    flat.SetE(point.GetE());
+    return flat;
 }
 
 void DrawBox(CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
@@ -56,10 +86,6 @@ CReport CComputations::Finish(CReport report) {
         report.drawing.AddPoint(point.strName, point.point, Role::Given);
     }
     return report;
-}
-
-CString CComputations::AngleText(double dRadians) const {
-    return DirectionText(dRadians, m_job.settings.bTenths != 0);
 }
 
 std::optional<CReport> CComputations::Lines() {
@@ -114,6 +140,10 @@ std::optional<CReport> CComputations::Bearings() {
         return std::nullopt;
     CReport report =
         MakeReport(IDS_BEARINGS, IDS_INTERSECTION, IntersectBearings(a, dDirectionA, b, dDirectionB));
+    if (!report.points.empty())
+        for (size_t i = 0; i < 2; ++i)
+            if (IsBehind(report.points.front().point, i == 0 ? a : b, i == 0 ? dDirectionA : dDirectionB))
+                report.notes.push_back({IDS_BEHIND, Unit::Name, 0, m_questions.GetPoints()[i].strName});
     constexpr double kAnyDistance = 1.0; // metres: the lines have no ends
     report.drawing.AddLine(a, FindPolarPoint(a, dDirectionA, kAnyDistance), kUnbounded, Role::Given);
     report.drawing.AddLine(b, FindPolarPoint(b, dDirectionB, kAnyDistance), kUnbounded, Role::Given);
@@ -130,7 +160,7 @@ std::optional<CReport> CComputations::ArcCentre() {
     CReport report = MakeReport(IDS_ARC_CENTRE, IDS_CENTRE, FindArcCentre(start, end, dAngle));
     if (!report.points.empty()) {
         const CCoordinate& centre = report.points.front().point;
-        report.notes.push_back(Text(IDS_RADIUS_LINE, Distance(centre, start)));
+        report.notes.push_back({IDS_RADIUS_LINE, Unit::Length, Distance(centre, start)});
         // One that turns right is the same arc as that to the left from its end to its start.
         report.drawing.AddArc(dAngle > 0 ? start : end, centre, dAngle > 0 ? end : start, Role::Result);
     }
@@ -147,7 +177,7 @@ std::optional<CReport> CComputations::Curve() {
     const Verdict verdict = FindCurve(start, centre, end, curve);
     CReport report = MakeReport(IDS_CURVE, IDS_CORNER, {verdict, curve.corners});
     if (verdict == Verdict::Found) {
-        report.notes = CurveNotes(curve, Distance(centre, start), AngleText(curve.dSweep));
+        report.notes = CurveNotes(curve, Distance(centre, start));
         report.drawing.AddArc(start, centre, end, Role::Given);
         DrawTangents(report.drawing, start, curve.corners, end);
     }
@@ -162,12 +192,7 @@ std::optional<CReport> CComputations::Inverse() {
     CInverse inverse = {};
     if (!FindInverse(from, to, inverse))
         return Finish(MakeReport(IDS_INVERSE, IDS_INVERSE, {Verdict::SamePoint, {}}));
-    CReport report;
-    report.nTitleId = IDS_INVERSE;
-    report.strMessage = Text(IDS_COMPUTED);
-    report.notes = {Text(IDS_DISTANCE_LINE, inverse.dDistance),
-                    Text(IDS_DIRECTION_LINE, AngleText(inverse.dDirection).GetString()),
-                    SlopeNote(C2DLine(from, to))};
+    CReport report = MakeReport(IDS_INVERSE, InverseNotes(inverse, C2DLine(from, to)));
     report.drawing.AddLine(from, to, kBounded, Role::Result);
     return Finish(report);
 }
@@ -177,11 +202,14 @@ std::optional<CReport> CComputations::Extent() {
     CCoordinate lo, hi;
     if (!FindExtent(m_job.book.GetPoints(), lo, hi))
         return MakeReport(IDS_EXTENT, IDS_CORNER, {Verdict::NoPosition, {}});
-    CReport report;
-    report.nTitleId = IDS_EXTENT;
-    report.strMessage = Text(IDS_COMPUTED);
-    report.points = {{Text(IDS_SOUTH_WEST), lo}, {Text(IDS_NORTH_EAST), hi}};
-    report.notes = {Text(IDS_NORTH_SOUTH, hi.GetN() - lo.GetN()), Text(IDS_EAST_WEST, hi.GetE() - lo.GetE())};
+    CReport report = MakeReport(IDS_EXTENT, {{IDS_NORTH_SOUTH, Unit::Length, hi.GetN() - lo.GetN()},
+                                             {IDS_EAST_WEST, Unit::Length, hi.GetE() - lo.GetE()}});
+    if (lo.IsExistZ()) {
+        report.notes.push_back({IDS_LOWEST, Unit::Length, lo.GetZ()});
+        report.notes.push_back({IDS_HIGHEST, Unit::Length, hi.GetZ()});
+    }
+    // The heights are those of other points: a corner has none.
+    report.points = {{Text(IDS_SOUTH_WEST), WithoutHeight(lo)}, {Text(IDS_NORTH_EAST), WithoutHeight(hi)}};
     for (const CNamedPoint& point : m_job.book.GetPoints())
         if (HasPosition(point.point))
             report.drawing.AddPoint(point.strName, point.point, Role::Given);

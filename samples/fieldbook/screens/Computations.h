@@ -27,7 +27,6 @@ public:
 private:
     /// The report with the points that were named in the drawing.
     CReport Finish(CReport report);
-    CString AngleText(double dRadians) const;
 
     CJob& m_job;
     CQuestions m_questions;

@@ -1,6 +1,8 @@
 #include "screens/EntryControls.h"
 
+#include "screens/Resource.h"
 #include "screens/Settings.h"
+#include "screens/Text.h"
 #include "Tesuvo.h"
 
 #include <cwchar>
@@ -28,6 +30,12 @@ bool IsControlCharacter(UINT nChar) {
 
 } // namespace
 
+static_assert(IDS_ANGLE_FIRST + static_cast<UINT>(AngleFault::BadSixties) - 1 < IDS_FOUND);
+
+CString AngleProblem(AngleFault fault) {
+    return fault == AngleFault::None ? CString() : Text(IDS_ANGLE_FIRST + static_cast<UINT>(fault) - 1);
+}
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CSelectEdit, CnEdit)
     ON_WM_SETFOCUS()
@@ -37,6 +45,7 @@ END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CDirectionEdit, CAngleEdit)
     ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
     ON_WM_CHAR()
 END_MESSAGE_MAP()
@@ -47,6 +56,7 @@ END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CNameCombo, CChoiceCombo)
     ON_CONTROL_REFLECT(CBN_EDITCHANGE, &CNameCombo::OnEditChange)
+    ON_CONTROL_REFLECT_EX(CBN_SETFOCUS, &CNameCombo::OnFocus)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CNoHeightButton, CIconButton)
@@ -94,10 +104,24 @@ void CDirectionEdit::PreSubclassWindow() {
     LimitText(kLongestNumber);
 }
 
-/// The number to edit is put in now, behind what the dialog has selected.
+/// The number to edit is put in now, behind what the dialog has selected. The base class would
+/// work it out from the angle and lose what is behind the tenths.
 void CDirectionEdit::OnSetFocus(CWnd* pOldWnd) {
     CAngleEdit::OnSetFocus(pOldWnd);
+    if (!m_strTyped.IsEmpty())
+        SetWindowText(m_strTyped);
     SetSel(0, -1);
+}
+
+void CDirectionEdit::OnKillFocus(CWnd* pNewWnd) {
+    GetWindowText(m_strTyped);
+    double dAngle = 0;
+    m_fault = ParsePackedAngle(m_strTyped, dAngle);
+    SetConvActive(0); // the base class would take anything
+    CAngleEdit::OnKillFocus(pNewWnd);
+    SetConvActive(1);
+    if (m_fault == AngleFault::None)
+        SetAngle(dAngle);
 }
 
 void CDirectionEdit::OnLButtonDown(UINT nFlags, CPoint point) {
@@ -106,7 +130,7 @@ void CDirectionEdit::OnLButtonDown(UINT nFlags, CPoint point) {
 }
 
 void CDirectionEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    if (IsControlCharacter(nChar) || std::wcschr(L"0123456789.-", static_cast<wchar_t>(nChar)) != nullptr)
+    if (IsControlCharacter(nChar) || std::wcschr(L"0123456789.", static_cast<wchar_t>(nChar)) != nullptr)
         CAngleEdit::OnChar(nChar, nRepCnt, nFlags);
     else
         ::MessageBeep(MB_OK);
@@ -133,6 +157,13 @@ void CNameCombo::OnEditChange() {
     const int nCaret = HIWORD(GetEditSel()) - (strText.GetLength() - strName.GetLength());
     SetWindowText(strName);
     SetEditSel(nCaret, nCaret);
+}
+
+/// Behind the tap that brought the focus, which puts the caret where the pen is.
+BOOL CNameCombo::OnFocus() {
+    CnComboBox::OnSetfocus();
+    PostMessage(CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+    return TRUE;
 }
 
 void CNoHeightButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {

@@ -2,6 +2,7 @@
 /// The entry fields and small controls of this application: what each adds to its base class.
 #pragma once
 
+#include "compute/PackedAngle.h"
 #include "controls/IconButton.h"
 #include "controls/InfoStatic.h"
 #include "controls/nComboBox.h"
@@ -30,14 +31,28 @@ protected:
     void PreSubclassWindow() override;
 };
 
-/// An angle: entered with everything selected, too, and it takes no letters.
+/// What is wrong with an angle, in words; empty for a good one.
+CString AngleProblem(AngleFault fault);
+
+/// An angle from 0 to 360 degrees: entered with everything selected, too. It takes no letters and
+/// no sign. What was typed stays as it was typed, however often it is looked at, and so does what
+/// is refused.
 class CDirectionEdit : public CAngleEdit {
+public:
+    /// @return what is wrong with what was typed; the angle is the last good one then
+    AngleFault GetFault() const { return m_fault; }
+
 protected:
     void PreSubclassWindow() override;
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
+
+private:
+    CString m_strTyped; ///< Empty until something was typed.
+    AngleFault m_fault = AngleFault::None;
 };
 
 /// A choice: the soft input panel makes room for the list that drops down.
@@ -52,6 +67,8 @@ protected:
 class CNameCombo : public CChoiceCombo {
 protected:
     afx_msg void OnEditChange();
+    /// What is proposed is selected: typing replaces it.
+    afx_msg BOOL OnFocus();
     DECLARE_MESSAGE_MAP()
 };
 

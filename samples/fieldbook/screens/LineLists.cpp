@@ -73,10 +73,13 @@ void CReportList::PreSubclassWindow() {
     InsertColumns(*this);
 }
 
-void CReportList::Show(const CReport& report) {
+void CReportList::Show(const CReport& report, const CSettings& settings) {
     for (size_t i = 0; i < report.points.size(); ++i)
-        AppendLines(*this, LinesOf(report.points[i]), i);
-    const bool bValues = AppendLines(*this, report.notes, kNoSolution);
+        AppendLines(*this, LinesOf(report.points[i], settings), i);
+    std::vector<CString> notes;
+    for (const CReportLine& note : report.notes)
+        notes.push_back(TextOf(note, settings));
+    const bool bValues = AppendLines(*this, notes, kNoSolution);
     FitColumns(*this, bValues || !report.points.empty());
 }
 

@@ -21,7 +21,7 @@ protected:
 /// chosen are in cyan; a tap on a row of another one chooses that.
 class CReportList : public CSelectListCtrl {
 public:
-    void Show(const CReport& report);
+    void Show(const CReport& report, const CSettings& settings);
     /// @return the index of the solution; 0 at first
     size_t GetChosen() const { return m_nChosen; }
 

@@ -1,5 +1,6 @@
 #include "screens/ListControls.h"
 
+#include "compute/ValueText.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
 
@@ -18,6 +19,7 @@ constexpr int kRowHeight = 22; // what a pen hits without care
 // clang-format off
 BEGIN_MESSAGE_MAP(CPointListCtrl, CSelectListCtrl)
     ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, &CPointListCtrl::OnColumnClick)
+    ON_NOTIFY_REFLECT(LVN_GETDISPINFO, &CPointListCtrl::OnGetDispInfo)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CJournalTree, CnTreeCtrl)
@@ -35,48 +37,75 @@ void CPointListCtrl::Fill() {
     InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, kCoordinateWidth);
     InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, kCoordinateWidth);
     InsertColumn(static_cast<int>(PointColumn::Z), L"Z", LVCFMT_RIGHT, kHeightWidth);
+    InsertColumn(static_cast<int>(PointColumn::Code), Text(IDS_COLUMN_CODE), LVCFMT_LEFT, kHeightWidth);
     Refresh();
 }
 
-std::vector<size_t> CPointListCtrl::Order() const {
-    if (m_column)
-        return OrderPoints(m_book.GetPoints(), *m_column);
-    std::vector<size_t> order(m_book.GetPoints().size());
-    std::iota(order.begin(), order.end(), size_t{0});
-    return order;
-}
-
 void CPointListCtrl::Refresh() {
-    const std::vector<size_t> order = Order();
-    SetRedraw(FALSE);
-    DeleteAllItems();
-    for (size_t i = 0; i < order.size(); ++i)
-        InsertRow(static_cast<int>(i), order[i]);
-    SetRedraw(TRUE);
+    const std::vector<CNamedPoint>& points = m_book.GetPoints();
+    if (m_column) {
+        m_order = OrderPoints(points, *m_column, m_bTurned);
+    } else {
+        m_order.resize(points.size());
+        std::iota(m_order.begin(), m_order.end(), size_t{0});
+    }
+    SetItemCountEx(static_cast<int>(points.size()), LVSICF_NOSCROLL);
     Invalidate();
 }
 
-void CPointListCtrl::InsertRow(int nRow, size_t nPoint) {
-    const CNamedPoint& row = m_book.GetPoints()[nPoint];
-    InsertItem(nRow, row.strName);
-    SetItemData(nRow, nPoint); // the rows may be in another order than the points
-    SetItemText(nRow, static_cast<int>(PointColumn::N), row.point.GetNString());
-    SetItemText(nRow, static_cast<int>(PointColumn::E), row.point.GetEString());
-    SetItemText(nRow, static_cast<int>(PointColumn::Z), row.point.GetZString());
+void CPointListCtrl::Select(const CString& strName) {
+    for (size_t i = 0; i < m_order.size(); ++i)
+        if (PointAt(static_cast<int>(i)).strName == strName) {
+            SetItemState(static_cast<int>(i), LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+            EnsureVisible(static_cast<int>(i), FALSE);
+            return;
+        }
+}
+
+const CNamedPoint& CPointListCtrl::PointAt(int nRow) const {
+    return m_book.GetPoints()[m_order[static_cast<size_t>(nRow)]];
 }
 
 const CNamedPoint* CPointListCtrl::GetSelectedPoint() const {
     const int nRow = GetNextItem(-1, LVNI_SELECTED);
-    return nRow < 0 ? nullptr : &m_book.GetPoints()[GetItemData(nRow)];
+    return nRow < 0 || static_cast<size_t>(nRow) >= m_order.size() ? nullptr : &PointAt(nRow);
+}
+
+CString CPointListCtrl::TextAt(int nRow, PointColumn column) const {
+    const CNamedPoint& row = PointAt(nRow);
+    switch (column) {
+    case PointColumn::Name:
+        return row.strName;
+    case PointColumn::N:
+        return LengthText(row.point.GetN(), m_nDecimals);
+    case PointColumn::E:
+        return LengthText(row.point.GetE(), m_nDecimals);
+    case PointColumn::Z:
+        return LengthText(row.point.GetZ(), m_nDecimals);
+    default:
+        return row.strCode;
+    }
+}
+
+/// The control asks for what it is about to draw and for nothing else.
+void CPointListCtrl::OnGetDispInfo(NMHDR* pNMHDR, LRESULT* pResult) {
+    LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(pNMHDR)->item;
+    *pResult = 0;
+    if ((item.mask & LVIF_TEXT) == 0 || item.iItem < 0 || static_cast<size_t>(item.iItem) >= m_order.size())
+        return;
+    const CString strText = TextAt(item.iItem, static_cast<PointColumn>(item.iSubItem));
+    ::lstrcpyn(item.pszText, strText, item.cchTextMax);
 }
 
 DWORD CPointListCtrl::GetItemAttribute(int nItem) {
-    const CNamedPoint& row = m_book.GetPoints()[GetItemData(nItem)];
-    return m_book.IsUsed(row.strName) ? static_cast<DWORD>(AttributeHighlight) : 0;
+    const bool bUsed = static_cast<size_t>(nItem) < m_order.size() && m_book.IsUsed(PointAt(nItem).strName);
+    return bUsed ? static_cast<DWORD>(AttributeHighlight) : 0;
 }
 
 void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
-    m_column = static_cast<PointColumn>(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem);
+    const auto column = static_cast<PointColumn>(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem);
+    m_bTurned = m_column == column && !m_bTurned;
+    m_column = column;
     Refresh();
     *pResult = 0;
 }

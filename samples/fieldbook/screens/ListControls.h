@@ -11,15 +11,20 @@
 #include <optional>
 
 /// The points with their coordinates, those used in computations in cyan. A tap on a heading
-/// sorts by that column.
+/// sorts by that column, a second one turns the order round.
+///
+/// It has the style LVS_OWNERDATA: no row is kept in the control, so that 100,000 are no more work
+/// than ten.
 class CPointListCtrl : public CSelectListCtrl {
 public:
     /// @param book must outlive the control
-    explicit CPointListCtrl(const CPointBook& book) : m_book(book) {}
+    CPointListCtrl(const CPointBook& book, int nDecimals) : m_book(book), m_nDecimals(nDecimals) {}
     /// Makes the columns and shows the points in the book's order.
     void Fill();
     /// Shows the points as they are now, in the order that the user has chosen.
     void Refresh();
+    /// Selects the row of a point and scrolls to it.
+    void Select(const CString& strName);
     /// @return the point whose row is selected; null if none is. Valid until the book changes.
     const CNamedPoint* GetSelectedPoint() const;
 
@@ -27,15 +32,18 @@ public:
 
 protected:
     afx_msg void OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnGetDispInfo(NMHDR* pNMHDR, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void InsertRow(int nRow, size_t nPoint);
-    /// The rows, each an index of a point.
-    std::vector<size_t> Order() const;
+    const CNamedPoint& PointAt(int nRow) const;
+    CString TextAt(int nRow, PointColumn column) const;
 
     const CPointBook& m_book;
+    int m_nDecimals;
+    std::vector<size_t> m_order;         ///< The rows, each an index of a point.
     std::optional<PointColumn> m_column; ///< By which the rows are sorted; at first by none.
+    bool m_bTurned = false;
 };
 
 /// The results of the day. A tap on a title opens and closes it, not only one on its small box.

@@ -15,7 +15,7 @@ END_MESSAGE_MAP()
 // clang-format on
 
 CPointListDlg::CPointListDlg(CJob& job, CWnd* pParent)
-    : CnDialog(IDD_POINT_LIST, pParent), m_job(job), m_list(job.book) {
+    : CnDialog(IDD_POINT_LIST, pParent), m_job(job), m_list(job.book, job.settings.nDecimals) {
     SetOption(OptionOkButton);
 }
 
@@ -66,6 +66,7 @@ void CPointListDlg::OnUndo() {
     const bool bRemoved = undone.kind == CPointChange::Kind::Remove;
     const CString strName = bRemoved ? undone.before.strName : undone.after.strName;
     ShowChange(Text(IDS_UNDONE, strName.GetString()));
+    m_list.Select(strName);
 }
 
 void CPointListDlg::ShowChange(const CString& strText) {

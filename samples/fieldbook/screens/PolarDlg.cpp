@@ -1,6 +1,5 @@
 #include "screens/PolarDlg.h"
 
-#include "compute/AngleText.h"
 #include "screens/ReportDlg.h"
 #include "screens/Resource.h"
 #include "Tesuvo.h"
@@ -49,6 +48,12 @@ void CPolarDlg::OnCompute() {
         CResMsgBox().ErrorMsgBox(Text(nTextId, strName.GetString()));
         return;
     }
+    for (CDirectionEdit* const pField : {&m_direction, &m_turn})
+        if (pField->GetFault() != AngleFault::None) {
+            CResMsgBox().ErrorMsgBox(AngleProblem(pField->GetFault()));
+            pField->SetFocus();
+            return;
+        }
     CString strDistance;
     m_distance.GetWindowText(strDistance);
     double dDistance = 0;
@@ -62,11 +67,11 @@ void CPolarDlg::OnCompute() {
 }
 
 CReport CPolarDlg::Report(const CNamedPoint& from, double dDistance) {
-    const double dDirection = m_direction.GetAngle() + m_turn.GetAngle();
+    const double dDirection =
+        m_direction.GetAngle() + (IsDlgButtonChecked(IDC_TURN_LEFT) ? -1 : 1) * m_turn.GetAngle();
     const CCoordinate point = FindPolarPoint(from.point, dDirection, dDistance);
     CReport report = MakeReport(IDS_POLAR, IDS_NEW_POINT, {Verdict::Found, {point}});
-    const CString strDirection = DirectionText(dDirection, m_job.settings.bTenths != 0);
-    report.notes.push_back(Text(IDS_DIRECTION_LINE, strDirection.GetString()));
+    report.notes.push_back({IDS_DIRECTION_LINE, CReportLine::Unit::Direction, dDirection});
     report.drawing.AddPoint(from.strName, from.point, Role::Given);
     report.drawing.AddLine(from.point, point, false, Role::Given);
     return report;

@@ -102,6 +102,6 @@ bool CQuestions::AskRadius(UINT nQuestionId, double& dRadius) {
 
 bool CQuestions::AskAngle(UINT nQuestionId, double& dAngle) {
     return AskNumber(nQuestionId, [&](const CString& strAnswer) {
-        return ParsePackedAngle(strAnswer, dAngle) ? CString() : Text(IDS_BAD_ANGLE);
+        return AngleProblem(ParsePackedAngle(strAnswer, dAngle));
     });
 }

@@ -1,18 +1,45 @@
 #include "screens/Report.h"
 
+#include "compute/ValueText.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
+
+static_assert(IDS_VERDICT_FIRST + kVerdictCount - 1 <= IDS_COMPUTED, "a text for each verdict but Found");
+
+namespace {
+
+CString ValueText(const CReportLine& line, const CSettings& settings) {
+    CString strText;
+    switch (line.unit) {
+    case CReportLine::Unit::Length:
+        return LengthText(line.dValue, settings.nDecimals);
+    case CReportLine::Unit::Direction:
+        return DirectionText(line.dValue, settings.bTenths != 0);
+    case CReportLine::Unit::Number:
+        strText.Format(L"%.6f", line.dValue);
+        return strText;
+    case CReportLine::Unit::Percent:
+        return LengthText(line.dValue * 100, 3) + L"%";
+    case CReportLine::Unit::OneIn:
+        strText.Format(L"1:%.1f", 1 / line.dValue);
+        return strText;
+    default:
+        return line.strName;
+    }
+}
+
+} // namespace
 
 CReport MakeReport(UINT nTitleId, UINT nPointId, const CResult& result) {
     CReport report;
     report.nTitleId = nTitleId;
     if (result.verdict != Verdict::Found) {
         const UINT nVerdict = static_cast<UINT>(result.verdict) - static_cast<UINT>(Verdict::SamePoint);
-        report.strMessage = Text(IDS_NOT_FOUND);
-        report.notes.push_back(Text(IDS_VERDICT_FIRST + nVerdict));
+        report.nMessageId = IDS_NOT_FOUND;
+        report.notes.push_back({IDS_VERDICT_FIRST + nVerdict});
         return report;
     }
-    report.strMessage = Text(IDS_FOUND, static_cast<int>(result.points.size()));
+    report.nMessageId = IDS_FOUND;
     for (const CCoordinate& point : result.points) {
         CString strName = Text(nPointId);
         if (result.points.size() > 1)
@@ -23,15 +50,33 @@ CReport MakeReport(UINT nTitleId, UINT nPointId, const CResult& result) {
     return report;
 }
 
-std::vector<CString> LinesOf(const CNamedPoint& point) {
-    return {point.strName, L"  N  " + point.point.GetNString(), L"  E  " + point.point.GetEString()};
+CReport MakeReport(UINT nTitleId, const std::vector<CReportLine>& notes) {
+    CReport report;
+    report.nTitleId = nTitleId;
+    report.nMessageId = IDS_COMPUTED;
+    report.notes = notes;
+    return report;
 }
 
-std::vector<CString> LinesOf(const CReport& report) {
+CString MessageOf(const CReport& report) {
+    return Text(report.nMessageId, static_cast<int>(report.points.size()));
+}
+
+CString TextOf(const CReportLine& line, const CSettings& settings) {
+    return Text(line.nTextId, ValueText(line, settings).GetString());
+}
+
+std::vector<CString> LinesOf(const CNamedPoint& point, const CSettings& settings) {
+    return {point.strName, L"  N  " + LengthText(point.point.GetN(), settings.nDecimals),
+            L"  E  " + LengthText(point.point.GetE(), settings.nDecimals)};
+}
+
+std::vector<CString> LinesOf(const CReport& report, const CSettings& settings) {
     std::vector<CString> lines;
     for (const CNamedPoint& point : report.points)
-        for (const CString& strLine : LinesOf(point))
+        for (const CString& strLine : LinesOf(point, settings))
             lines.push_back(strLine);
-    lines.insert(lines.end(), report.notes.begin(), report.notes.end());
+    for (const CReportLine& note : report.notes)
+        lines.push_back(TextOf(note, settings));
     return lines;
 }

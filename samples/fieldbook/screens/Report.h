@@ -1,25 +1,41 @@
 /// @file
-/// CReport: what came out of a computation, in words and as a drawing.
+/// CReport: what came out of a computation, as data and as a drawing. It becomes text where it is
+/// shown.
 #pragma once
 
 #include "compute/Compute.h"
 #include "plan/Drawing.h"
+#include "screens/Settings.h"
 
 #include <afxwin.h>
 
+/// A line of a result besides its points.
+struct CReportLine {
+    enum class Unit { None, Length, Direction, Number, Percent, OneIn, Name };
+
+    UINT nTextId; ///< A string id: the whole line, or two blanks between what it is and a place for it.
+    Unit unit = Unit::None;
+    double dValue = 0; ///< Metres, radians; of OneIn the ratio.
+    CString strName{};
+};
+
 struct CReport {
     UINT nTitleId = 0;               ///< The computation, a string id.
-    CString strMessage;              ///< How it ended, in one line.
+    UINT nMessageId = 0;             ///< How it ended; with a place for the number of points.
     std::vector<CNamedPoint> points; ///< The solutions, by what they are called.
-    std::vector<CString> notes;      ///< Further lines; two blanks stand between item and value.
+    std::vector<CReportLine> notes;
     CDrawing drawing;
 };
 
 /// The report of a result: its points, or why there are none. Its drawing has the points only.
 /// @param nPointId what a point is called, a string id; several are numbered
 CReport MakeReport(UINT nTitleId, UINT nPointId, const CResult& result);
+/// A report without points of its own.
+CReport MakeReport(UINT nTitleId, const std::vector<CReportLine>& notes);
 
+CString MessageOf(const CReport& report);
+CString TextOf(const CReportLine& line, const CSettings& settings);
 /// A point as lines: what it is called, N and E.
-std::vector<CString> LinesOf(const CNamedPoint& point);
+std::vector<CString> LinesOf(const CNamedPoint& point, const CSettings& settings);
 /// All of a report, as it is read in the journal.
-std::vector<CString> LinesOf(const CReport& report);
+std::vector<CString> LinesOf(const CReport& report, const CSettings& settings);

@@ -29,8 +29,8 @@ void CReportDlg::DoDataExchange(CDataExchange* pDX) {
 BOOL CReportDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     SetWindowText(Text(m_report.nTitleId));
-    m_message.SetWindowText(m_report.strMessage);
-    m_list.Show(m_report);
+    m_message.SetWindowText(MessageOf(m_report));
+    m_list.Show(m_report, m_job.settings);
     const bool bPoints = !m_report.points.empty();
     m_hint.SetWindowText(bPoints ? Text(IDS_CHOOSE_SOLUTION) : CString());
     m_hint.ShowWindow(bPoints ? SW_SHOW : SW_HIDE);
@@ -72,7 +72,7 @@ bool CReportDlg::Keep(const CString& strName) {
 }
 
 void ShowReport(CJob& job, const CReport& report, CWnd& parent) {
-    job.journal.Append(Text(report.nTitleId), LinesOf(report));
+    job.journal.Append(Text(report.nTitleId), LinesOf(report, job.settings));
     CReportDlg dialog(job, report, &parent);
     dialog.DoModal();
 }

@@ -56,6 +56,7 @@
 #define IDC_DIRECTION 2141
 #define IDC_TURN 2142
 #define IDC_DISTANCE 2143
+#define IDC_TURN_LEFT 2144
 
 // Journal dialog
 #define IDC_JOURNAL_TREE 2150
@@ -108,9 +109,10 @@
 // Why an answer was refused
 #define IDS_UNKNOWN_POINT 2240
 #define IDS_BAD_RADIUS 2241
-#define IDS_BAD_ANGLE 2242
 #define IDS_BAD_DISTANCE 2243
 #define IDS_POINT_WITHOUT_NE 2244
+// Why an angle was refused, in the order of AngleFault, from NoNumber on
+#define IDS_ANGLE_FIRST 2245
 
 // Results
 #define IDS_FOUND 2250
@@ -133,6 +135,14 @@
 #define IDS_NORTH_SOUTH 2277
 #define IDS_EAST_WEST 2278
 #define IDS_NEW_POINT 2279
+#define IDS_LOWEST 2440
+#define IDS_HIGHEST 2441
+#define IDS_DELTA_N 2442
+#define IDS_DELTA_E 2443
+#define IDS_DELTA_Z 2444
+#define IDS_SLOPE_DISTANCE 2445
+#define IDS_GRADIENT 2446
+#define IDS_BEHIND 2447
 #define IDS_SLOPE 2357
 #define IDS_NORTH_SOUTH_LINE 2358
 #define IDS_CHOOSE_SOLUTION 2354
@@ -217,6 +227,7 @@
 #define IDS_REMOVED 2430
 #define IDS_UNDONE 2431
 #define IDS_CHANGED 2432
+#define IDS_COLUMN_CODE 2433
 
 // Kinds of points, in the order of the beginnings of their names
 #define IDS_KIND_FIRST 2330

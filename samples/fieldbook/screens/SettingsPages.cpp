@@ -1,6 +1,6 @@
 #include "screens/SettingsPages.h"
 
-#include "compute/AngleText.h"
+#include "compute/ValueText.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
 

@@ -114,7 +114,7 @@ TEST_F(Compute, CirclesAreScreened) {
 
 TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
     double dQuarter = 0;
-    ASSERT_TRUE(ParsePackedAngle(L"90.0000", dQuarter));
+    ASSERT_EQ(ParsePackedAngle(L"90.0000", dQuarter), AngleFault::None);
     const CCoordinate bc = Point(L"BC");
     const CCoordinate ec = Point(L"EC");
     const CResult result = FindArcCentre(bc, ec, dQuarter);
@@ -124,6 +124,8 @@ TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
     ExpectPoints(FindArcCentre(bc, ec, -dQuarter), {Point(L"IP1")});
     ExpectPoints(FindArcCentre(bc, ec, 2 * dQuarter), {At(-35237, 13261)});
 
+    // 10 minutes over 50 m: (25, 25 / tan 5') along and left of the chord, from formulas of 50 digits.
+    ExpectPoints(FindArcCentre(At(0, 0), At(0, 50), 10 / 60.0 / 90 * QUARTER), {At(17188.721733581, 25)});
     ExpectNone(FindArcCentre(bc, ec, 0), Verdict::BadAngle);
     ExpectNone(FindArcCentre(bc, ec, 4 * dQuarter), Verdict::BadAngle);
     ExpectNone(FindArcCentre(bc, bc, dQuarter), Verdict::SamePoint);
@@ -188,7 +190,7 @@ TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
                         2e-9 + 1e-11 / dDistance);
             EXPECT_GE(inverse.dDirection, 0);
         }
-    CInverse inverse{1, 2};
+    CInverse inverse{1, 2, 0, 0, {}};
     EXPECT_FALSE(FindInverse(t1, t1, inverse));
     EXPECT_EQ(inverse.dDirection, 2);
 }

@@ -1,4 +1,4 @@
-#include "compute/AngleText.h"
+#include "compute/ValueText.h"
 #include "screens/JournalGroups.h"
 #include "points/PointOrder.h"
 
@@ -54,23 +54,47 @@ TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {
     }
 }
 
-TEST(PointOrder, EachColumnSortsAndPointsWithoutHeightComeLast) {
+TEST(PointOrder, EachColumnSortsBothWaysAndWhatIsMissingComesLast) {
+    using fieldkit::survey::kNull;
     const std::vector<CNamedPoint> points = {
-        {L"B", CCoordinate(3, 1, 0, 1)}, // E, N, Z; no height
-        {L"C", CCoordinate(1, 2, 9, 3)},
-        {L"A", CCoordinate(2, 2, -4, 3)},
+        {L"K10", CCoordinate(3, 1, 0, 1)}, // E, N, Z; no height
+        {L"K2", CCoordinate(1, 2, 9, 3), L"B"},
+        {L"K1", CCoordinate(2, 2, -4, 3), L"A"},
+        {L"BM", CCoordinate(0, 0, 5, 2)}, // a height alone
     };
     const struct {
         PointColumn column;
+        bool bTurned;
         std::vector<size_t> order;
     } cases[] = {
-        {PointColumn::Name, {2, 0, 1}},
-        {PointColumn::N, {0, 1, 2}}, // C and A are alike and stay as they were
-        {PointColumn::E, {1, 2, 0}},
-        {PointColumn::Z, {2, 1, 0}},
+        {PointColumn::Name, false, {3, 2, 1, 0}}, {PointColumn::Name, true, {0, 1, 2, 3}},
+        {PointColumn::N, false, {0, 1, 2, 3}}, // those that are alike stay as they were
+        {PointColumn::N, true, {1, 2, 0, 3}},     {PointColumn::E, false, {1, 2, 0, 3}},
+        {PointColumn::Z, false, {2, 3, 1, 0}},    {PointColumn::Code, true, {1, 2, 0, 3}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(OrderPoints(points, c.column), c.order) << static_cast<int>(c.column);
+        EXPECT_EQ(OrderPoints(points, c.column, c.bTurned), c.order) << static_cast<int>(c.column);
+}
+
+TEST(PointOrder, NumbersInNamesCount) {
+    const wchar_t* const names[] = {L"",    L"A",     L"K1",     L"K2",    L"K2A",
+                                    L"K10", L"K10-2", L"K10-11", L"境界9", L"境界10"};
+    for (size_t i = 0; i < std::size(names); ++i)
+        for (size_t j = 0; j < std::size(names); ++j)
+            EXPECT_EQ(IsNameBefore(names[i], names[j]), i < j) << i << ' ' << j;
+    EXPECT_FALSE(IsNameBefore(L"K02", L"K2"));
+    EXPECT_TRUE(IsNameBefore(L"K002", L"K3"));
+}
+
+TEST(LengthText, HasTheDecimalsAndNoSignOfNothing) {
+    const struct {
+        double dMetres;
+        int nDecimals;
+        const wchar_t* pszText;
+    } cases[] = {{-0.0004, 3, L"0.000"}, {-0.0006, 3, L"-0.001"}, {12.5, 1, L"12.5"},
+                 {-10, 2, L"-10.00"},    {0, 5, L"0.00000"},      {fieldkit::survey::kNull, 3, L""}};
+    for (const auto& c : cases)
+        EXPECT_TRUE(LengthText(c.dMetres, c.nDecimals) == c.pszText) << c.dMetres;
 }
 
 } // namespace

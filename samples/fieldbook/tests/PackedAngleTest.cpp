@@ -23,15 +23,24 @@ TEST(PackedAngle, ReadsDegreesMinutesAndSeconds) {
     };
     for (const auto& c : cases) {
         double dRadians = 0;
-        EXPECT_TRUE(ParsePackedAngle(c.pszText, dRadians)) << CString(c.pszText).GetLength();
+        EXPECT_EQ(ParsePackedAngle(c.pszText, dRadians), AngleFault::None) << CString(c.pszText).GetLength();
         EXPECT_NEAR(dRadians / RADIANS, c.dDegrees, 1e-12);
     }
 }
 
 TEST(PackedAngle, RefusesWhatIsNoAngleAndKeepsTheOldValue) {
-    for (const wchar_t* pszText : {L"", L"abc", L"90.6", L"90.0060", L"360.0001", L"-1e300", L"90-30-15"}) {
+    const struct {
+        const wchar_t* pszText;
+        AngleFault fault;
+    } cases[] = {
+        {L"", AngleFault::NoNumber},          {L"abc", AngleFault::NoNumber},
+        {L"90-30-15", AngleFault::NoNumber},  {L"90.6", AngleFault::BadSixties},
+        {L"45.7500", AngleFault::BadSixties}, {L"90.0060", AngleFault::BadSixties},
+        {L"400", AngleFault::TooLarge},       {L"-1e300", AngleFault::TooLarge},
+    };
+    for (const auto& c : cases) {
         double dRadians = 7;
-        EXPECT_FALSE(ParsePackedAngle(pszText, dRadians));
+        EXPECT_EQ(ParsePackedAngle(c.pszText, dRadians), c.fault) << CString(c.pszText).GetLength();
         EXPECT_EQ(dRadians, 7);
     }
 }

@@ -1,5 +1,5 @@
 /// @file
-/// Directions as they are written in results.
+/// Values as they are written in results.
 #pragma once
 
 #include <afx.h>
@@ -10,3 +10,7 @@
 /// @param dRadians any number of turns up to about a million
 /// @param bTenths  with tenths of seconds: 53°07'48.4"
 CString DirectionText(double dRadians, bool bTenths);
+
+/// A length or a coordinate in metres. Nothing for a coordinate that is missing, and no sign for
+/// what is rounded to zero.
+CString LengthText(double dMetres, int nDecimals);

@@ -1,6 +1,7 @@
-#include "compute/AngleText.h"
+#include "compute/ValueText.h"
 
 #include "compute/Turn.h"
+#include "survey/Coordinate.h"
 
 #include <cmath>
 
@@ -16,4 +17,13 @@ CString DirectionText(double dRadians, bool bTenths) {
     if (bTenths)
         strText.AppendFormat(L".%d", static_cast<int>(nCount % nUnits));
     return strText + L"\"";
+}
+
+CString LengthText(double dMetres, int nDecimals) {
+    CString strText;
+    if (dMetres == fieldkit::survey::kNull)
+        return strText;
+    strText.Format(L"%.*f", nDecimals, dMetres);
+    const bool bZero = CString(strText).Trim(L"-0.").IsEmpty();
+    return bZero && strText[0] == L'-' ? strText.Mid(1) : strText;
 }
