@@ -93,6 +93,9 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
         CImageList* const pImages = tree.GetImageList(TVSIL_NORMAL);
         ASSERT_NE(nullptr, pImages);
         EXPECT_EQ(3, pImages->GetImageCount());
+        CSize size;
+        ::ImageList_GetIconSize(*pImages, reinterpret_cast<int*>(&size.cx), reinterpret_cast<int*>(&size.cy));
+        EXPECT_EQ(CSize(16, 16), size);
         EXPECT_EQ(RGB(255, 255, 255), pImages->GetBkColor());
         const auto expectImage = [&](int nWanted, HTREEITEM hItem) {
             int nImage = -1;

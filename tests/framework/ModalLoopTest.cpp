@@ -131,7 +131,7 @@ TEST_F(Nested, QuitEndsAllLoopsAndReachesTheOutermost) {
     EXPECT_EQ(7U, msg.wParam);
 }
 
-TEST(ModalDialog, KeysPassTheirControlFirstAndThenTheDialog) {
+TEST(ModalDialog, KeysPassTheirControlFirstAndThenTheDialogWhichMovesTheFocus) {
     class Swallowing : public CEdit {
         BOOL PreTranslateMessage(MSG* pMsg) override {
             return (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN) ||
@@ -146,6 +146,16 @@ TEST(ModalDialog, KeysPassTheirControlFirstAndThenTheDialog) {
     const auto look = [&] {
         EXPECT_EQ(L"xy", fx::TextOf(edit));
         EXPECT_EQ(form.Item(Form::FIELD), ::GetFocus());
+        form.PrevDlgCtrl();
+        EXPECT_EQ(edit.m_hWnd, ::GetFocus());
+        form.NextDlgCtrl();
+        form.GotoDlgCtrl(nullptr);
+        EXPECT_EQ(form.Item(Form::FIELD), ::GetFocus());
+        form.GotoDlgCtrl(&edit);
+        EXPECT_EQ(edit.m_hWnd, ::GetFocus());
+        EXPECT_EQ(IDOK, LOWORD(form.GetDefID()));
+        form.SetDefID(Form::DO);
+        EXPECT_EQ(Form::DO, LOWORD(form.GetDefID()));
         form.EndDialog(1);
     };
     EXPECT_EQ(1, fx::Play(form, {type, look}));

@@ -37,6 +37,31 @@ TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
     EXPECT_TRUE(dialog.m_bReady);
 }
 
+TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
+    LOGFONT font = {};
+    font.lfHeight = -20;
+    CFontDialog fonts(&font, CF_SCREENFONTS);
+    EXPECT_EQ(DWORD{CF_SCREENFONTS | CF_ENABLEHOOK | CF_INITTOLOGFONTSTRUCT}, fonts.m_cf.Flags);
+    font = {};
+    fonts.GetCurrentFont(&font);
+    EXPECT_EQ(-20, font.lfHeight);
+
+    static int s_nDeleted = 0;
+    class Probe : public CFindReplaceDialog {
+    public:
+        ~Probe() override { ++s_nDeleted; }
+    };
+    fx::Frame frame;
+    auto* const pFind = new Probe;
+    ASSERT_TRUE(pFind->Create(TRUE, L"P1", nullptr, FR_DOWN, &frame));
+    EXPECT_EQ(L"P1", pFind->GetFindString());
+    EXPECT_TRUE(pFind->SearchDown());
+    EXPECT_EQ(pFind, CFindReplaceDialog::GetNotifier(reinterpret_cast<LPARAM>(&pFind->m_fr)));
+    EXPECT_EQ(pFind, CWnd::FromHandlePermanent(*pFind));
+    pFind->DestroyWindow();
+    EXPECT_EQ(1, s_nDeleted);
+}
+
 TEST(CommonDialogs, AnswersAreTakenApart) {
     TCHAR one[] = L"C:\\a.b\\plan.old.txt\0";
     TCHAR root[] = L"C:\\\0x\0y\0";

@@ -1,0 +1,257 @@
+// Parts that programs bring along: backgrounds, pictures on buttons, arguments, bars, locks.
+#include "Canvas.h"
+#include "afxdialogex.h"
+#include "afxext.h"
+#include "afxmt.h"
+#include "support/DialogTemplate.h"
+#include "support/OwnProcess.h"
+
+#include <thread>
+
+namespace {
+
+constexpr COLORREF RED = RGB(255, 0, 0);
+constexpr COLORREF BLUE = RGB(0, 0, 255);
+
+/// A bitmap of one colour that belongs to nobody.
+HBITMAP MakePicture(COLORREF color, int cx = 3, int cy = 2) {
+    CWindowDC screen(nullptr);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, cx, cy);
+    CBitmap* const pOld = dc.SelectObject(&bitmap);
+    dc.FillSolidRect(0, 0, cx, cy, color);
+    dc.SelectObject(pOld);
+    return static_cast<HBITMAP>(bitmap.Detach());
+}
+
+TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
+    const fx::DialogTemplate dialogTemplate(30, 20);
+    const HBITMAP hPicture = MakePicture(RED);
+    CDialogEx dialog;
+    dialog.m_bFullScreen = FALSE;
+    ASSERT_TRUE(dialog.CreateIndirect(dialogTemplate.Get()));
+    CRect client;
+    dialog.GetClientRect(client);
+    const CSize size = client.Size();
+    const auto corners = [&] {
+        fx::Canvas canvas(size.cx, size.cy);
+        dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.m_dc.m_hDC));
+        std::string found;
+        for (const CPoint p : {CPoint(2, 1), CPoint(size.cx - 3, 1), CPoint(2, size.cy - 2),
+                               CPoint(size.cx - 3, size.cy - 2), client.CenterPoint(), CPoint(3, 2)})
+            found += canvas.m_dc.GetPixel(p) == RED ? 'p' : canvas.m_dc.GetPixel(p) == BLUE ? 'c' : '.';
+        return found;
+    };
+    CStatic label;
+    ASSERT_TRUE(label.Create(L"", WS_CHILD, CRect(0, 0, 5, 5), &dialog));
+    CClientDC dc(&label);
+    const auto brush = [&](UINT nMessage) {
+        dc.SetBkMode(OPAQUE);
+        return reinterpret_cast<HGDIOBJ>(dialog.SendMessage(nMessage, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                            reinterpret_cast<LPARAM>(label.m_hWnd)));
+    };
+    EXPECT_EQ("......", corners());
+    brush(WM_CTLCOLORSTATIC);
+    EXPECT_EQ(OPAQUE, dc.GetBkMode());
+    dialog.SetBackgroundColor(BLUE);
+    EXPECT_EQ("cccccc", corners());
+    LOGBRUSH look = {};
+    ::GetObject(brush(WM_CTLCOLORSTATIC), sizeof look, &look);
+    EXPECT_EQ(BLUE, look.lbColor);
+    EXPECT_EQ(TRANSPARENT, dc.GetBkMode());
+    const std::pair<CDialogEx::BackgroundLocation, const char*> rows[] = {
+        {CDialogEx::BACKGR_TOPLEFT, "pccccc"},    {CDialogEx::BACKGR_TOPRIGHT, "cpcccc"},
+        {CDialogEx::BACKGR_BOTTOMLEFT, "ccpccc"}, {CDialogEx::BACKGR_BOTTOMRIGHT, "cccpcc"},
+        {CDialogEx::BACKGR_TILE, "pppppp"},
+    };
+    for (const auto& [location, pszCorners] : rows) {
+        dialog.SetBackgroundImage(hPicture, location, FALSE);
+        EXPECT_EQ(pszCorners, corners());
+    }
+    EXPECT_EQ(::GetStockObject(HOLLOW_BRUSH), brush(WM_CTLCOLORSTATIC));
+    brush(WM_CTLCOLOREDIT);
+    EXPECT_EQ(OPAQUE, dc.GetBkMode()) << "texts alone let it through";
+    const HBITMAP hOwned = MakePicture(BLUE);
+    dialog.SetBackgroundImage(hOwned, CDialogEx::BACKGR_TILE, TRUE);
+    EXPECT_NE(0U, ::GetObjectType(hPicture));
+    dialog.SetBackgroundImage(hPicture, CDialogEx::BACKGR_TILE, TRUE);
+    EXPECT_EQ(0U, ::GetObjectType(hOwned));
+    dialog.SetBackgroundImage(static_cast<HBITMAP>(nullptr), CDialogEx::BACKGR_TILE, FALSE);
+    EXPECT_EQ(0U, ::GetObjectType(hPicture));
+    dialog.SetBackgroundColor(static_cast<COLORREF>(-1));
+    EXPECT_EQ("......", corners());
+}
+
+TEST(BitmapButton, ShowsThePictureOfItsState) {
+    class Button : public CBitmapButton {
+    public:
+        Button() {
+            CBitmap* const bitmaps[] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
+            for (int i = 0; i < 4; ++i)
+                bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
+        }
+        void Forget() {
+            for (CBitmap* pBitmap : {&m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled})
+                pBitmap->DeleteObject();
+        }
+    };
+    fx::Frame frame;
+    Button button;
+    ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(3, 3, 50, 50), &frame, 1));
+    button.SizeToContent();
+    EXPECT_EQ(CSize(9, 7), fx::RectOf(button).Size());
+    const auto shown = [&](UINT nState) {
+        fx::Canvas canvas;
+        DRAWITEMSTRUCT item = {};
+        item.itemState = nState;
+        item.hDC = canvas.m_dc;
+        item.rcItem = CRect(5, 5, 14, 12);
+        button.DrawItem(&item);
+        EXPECT_EQ(RGB(255, 255, 255), canvas.m_dc.GetPixel(4, 4));
+        return static_cast<int>(canvas.m_dc.GetPixel(5, 5)) / 50;
+    };
+    for (const auto& [nState, nPicture] : {std::pair(0U, 0),
+                                           {UINT{ODS_SELECTED | ODS_FOCUS}, 1},
+                                           {UINT{ODS_FOCUS}, 2},
+                                           {UINT{ODS_DISABLED}, 3}})
+        EXPECT_EQ(nPicture, shown(nState));
+    button.Forget();
+    for (const UINT nState : {ODS_SELECTED, ODS_FOCUS, ODS_DISABLED})
+        EXPECT_EQ(0, shown(nState)) << "the one it has";
+}
+
+TEST(CommandLine, FirstArgumentWithoutAMarkIsTheFile) {
+    class Info : public CCommandLineInfo {
+    public:
+        CString m_strLog;
+        void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast) override {
+            CCommandLineInfo::ParseParam(pszParam, bFlag, bLast);
+            m_strLog.AppendFormat(L"%s%s%s;", bFlag ? L"!" : L"", pszParam, bLast ? L"." : L"");
+        }
+    } info;
+    if (::GetEnvironmentVariable(L"FK_TEST_ARGUMENTS", nullptr, 0) == 0) {
+        ::SetEnvironmentVariable(L"FK_TEST_ARGUMENTS", L"1");
+        EXPECT_EQ(0U, fx::RunOwnProcess(L"--gtest_filter=CommandLine.* -s /t \"a b\" c"));
+        ::SetEnvironmentVariable(L"FK_TEST_ARGUMENTS", nullptr);
+        return;
+    }
+    fx::g_app.ParseCommandLine(info);
+    EXPECT_EQ(L"!-gtest_filter=CommandLine.*;!s;!t;a b;c.;", info.m_strLog);
+    EXPECT_EQ(L"a b", info.m_strFileName);
+    EXPECT_EQ(CCommandLineInfo::FileOpen, info.m_nShellCommand);
+}
+
+TEST(FormatString, ArgumentsMayHoldAPercentSign) {
+    CString str;
+    AfxFormatString2(str, 40001, L"%2", L"b");
+    EXPECT_EQ(L"%2 b 100%%2 %", str);
+    AfxFormatString1(str, 40001, L"a");
+    EXPECT_EQ(L"a %2 100%a %", str);
+}
+
+TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
+    fx::Frame frame(CSize(230, 200));
+    CCeCommandBar bar;
+    ASSERT_TRUE(bar.Create(&frame));
+    const auto ids = [&] {
+        std::vector<int> all;
+        for (int i = 0; i < bar.GetButtonCount(); ++i) {
+            TBBUTTON button = {};
+            bar.GetButton(i, &button);
+            all.push_back(button.idCommand);
+        }
+        return all;
+    };
+    EXPECT_FALSE(bar.InsertMenuBar(311));
+    const std::vector<int> empty = ids();
+    ASSERT_EQ(2U, empty.size());
+    TBBUTTON buttons[2] = {};
+    buttons[0].idCommand = 5;
+    buttons[1].idCommand = 6;
+    EXPECT_TRUE(bar.AddButtons(2, buttons));
+    buttons[0].idCommand = 7;
+    EXPECT_TRUE(bar.InsertButton(1, buttons));
+    EXPECT_TRUE(bar.InsertSeparator(-1));
+    EXPECT_EQ((std::vector<int>{0, 5, 7, 6, empty[0], empty[1]}), ids());
+    for (int i = 0; i < 2; ++i) // the second one takes the place of what was there
+        ASSERT_TRUE(bar.InsertMenuBar(310));
+    EXPECT_EQ((std::vector<int>{0xE8F0, 0x8002, empty[0], empty[1]}), ids());
+    CRect last;
+    bar.GetItemRect(3, last);
+    EXPECT_NEAR(230, last.right, 3) << "the switch is at the right";
+    EXPECT_EQ(CRect(0, 200 - AFX_DEVICE_BAR_HEIGHT, 230, 200) + fx::RectOf(frame).TopLeft(), fx::RectOf(bar));
+}
+
+TEST(Locks, AreHeldByOneAtATime) {
+    CMutex mutex;
+    CSemaphore semaphore(2, 2);
+    CEvent event(FALSE, TRUE);
+    const auto isFree = [](CSyncObject& object) {
+        BOOL bFree = FALSE;
+        const auto ask = [&] { bFree = object.Lock(0) && object.Unlock(); };
+        std::thread(ask).join();
+        return bFree != FALSE;
+    };
+    {
+        CSingleLock lock(&mutex);
+        EXPECT_FALSE(lock.Unlock());
+        EXPECT_TRUE(lock.Lock(0));
+        EXPECT_FALSE(isFree(mutex));
+        EXPECT_TRUE(lock.Unlock());
+        EXPECT_TRUE(isFree(mutex));
+    }
+    EXPECT_TRUE(semaphore.Lock(0) && semaphore.Lock(0));
+    EXPECT_FALSE(semaphore.Lock(0));
+    LONG nBefore = -1;
+    EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
+    EXPECT_EQ(0, nBefore);
+    CSyncObject* objects[] = {&event, &mutex};
+    CMultiLock both(objects, 2);
+    EXPECT_EQ(WAIT_OBJECT_0 + 1, both.Lock(0, FALSE));
+    EXPECT_FALSE(both.IsLocked(0));
+    EXPECT_TRUE(both.IsLocked(1));
+    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
+    event.SetEvent();
+    EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
+    EXPECT_TRUE(both.IsLocked(0));
+    EXPECT_FALSE(isFree(mutex));
+    EXPECT_TRUE(both.Unlock());
+    EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
+}
+
+TEST(Relatives, AreFoundFromAnyWindow) {
+    fx::Frame frame;
+    CWnd outer;
+    CButton inner;
+    CButton second;
+    ASSERT_TRUE(outer.Create(WC_STATIC, L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 90), &frame, 1));
+    ASSERT_TRUE(inner.Create(L"", WS_CHILD | WS_VISIBLE | WS_GROUP, CRect(5, 5, 30, 30), &outer, 2));
+    ASSERT_TRUE(second.Create(L"", WS_CHILD | WS_VISIBLE, CRect(40, 5, 70, 30), &outer, 3));
+    CWnd popup;
+    ASSERT_TRUE(popup.CreateEx(0, WC_STATIC, L"", WS_POPUP, CRect(0, 0, 5, 5), &frame, 0));
+    const struct {
+        CWnd* pFound;
+        CWnd* pExpected;
+    } rows[] = {
+        {frame.GetTopWindow(), &outer},
+        {inner.GetNextWindow(), &second},
+        {second.GetNextWindow(GW_HWNDPREV), &inner},
+        {inner.GetAncestor(GA_ROOT), &frame},
+        {frame.ChildWindowFromPoint(CPoint(20, 20)), &outer},
+        {outer.ChildWindowFromPoint(CPoint(50, 10), CWP_SKIPINVISIBLE), &second},
+        {outer.GetNextDlgGroupItem(&inner), &second},
+        {frame.GetDescendantWindow(3), &second},
+        {frame.GetDescendantWindow(3, TRUE), &second},
+        {frame.GetDescendantWindow(9), nullptr},
+        {inner.GetParentOwner(), &frame},
+        {popup.GetTopLevelOwner(), &frame},
+        {CWnd::FindWindow(nullptr, L"frame"), &frame},
+        {CWnd::FindWindowEx(frame, nullptr, WC_STATIC, nullptr), &outer},
+    };
+    for (size_t i = 0; i < std::size(rows); ++i)
+        EXPECT_EQ(rows[i].pExpected, rows[i].pFound) << i;
+}
+
+} // namespace
