@@ -1,5 +1,5 @@
 // The icon button, on the screen and under the stylus.
-#include "Pixels.h"
+#include "support/Pixels.h"
 #include "support/Stage.h"
 
 #include "controls/IconButton.h"

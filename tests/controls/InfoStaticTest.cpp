@@ -1,5 +1,5 @@
 // The information text, pixel by pixel.
-#include "Pixels.h"
+#include "support/Pixels.h"
 
 #include "controls/InfoStatic.h"
 

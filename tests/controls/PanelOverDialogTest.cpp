@@ -1,5 +1,5 @@
 // Full-screen dialogs whose first field brings up the soft input panel while they open.
-#include "Pixels.h"
+#include "support/Pixels.h"
 #include "support/PanelPen.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"

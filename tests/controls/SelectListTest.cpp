@@ -1,5 +1,5 @@
 // The highlighted rows of a list view.
-#include "Pixels.h"
+#include "support/Pixels.h"
 
 #include "controls/SelectListCtrl.h"
 

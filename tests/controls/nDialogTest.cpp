@@ -1,6 +1,6 @@
 #include "controls/nDialog.h"
 
-#include "Pixels.h"
+#include "support/Pixels.h"
 #include "support/DialogTemplate.h"
 #include "support/ModalScript.h"
 #include "support/TitleBar.h"

@@ -55,7 +55,6 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
     auto* const pFind = new Probe;
     ASSERT_TRUE(pFind->Create(TRUE, L"P1", nullptr, FR_DOWN, &frame));
     EXPECT_EQ(L"P1", pFind->GetFindString());
-    EXPECT_TRUE(pFind->SearchDown());
     EXPECT_EQ(pFind, CFindReplaceDialog::GetNotifier(reinterpret_cast<LPARAM>(&pFind->m_fr)));
     EXPECT_EQ(pFind, CWnd::FromHandlePermanent(*pFind));
     pFind->DestroyWindow();

@@ -1,0 +1,86 @@
+// What the soft input panel shows.
+#include "support/PanelPen.h"
+#include "support/Pixels.h"
+
+namespace {
+
+constexpr COLORREF GROUND = RGB(80, 88, 96);
+constexpr COLORREF FUNCTION = RGB(200, 210, 220);
+constexpr COLORREF PRESSED = RGB(0, 64, 144);
+constexpr COLORREF SHIFTED = RGB(255, 208, 96);
+
+class PanelLook : public testing::Test {
+protected:
+    PanelLook() {
+        m_field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 150, 20), &m_frame, 10);
+        m_field.SetFocus();
+        TVShowSIP(0);
+    }
+    ~PanelLook() override { panel::Close(); }
+
+    static fx::Image Look() {
+        fx::Pump();
+        return fx::Image::Of(*CWnd::FromHandle(panel::OfThread()));
+    }
+    /// Expects a key of one colour with a label in the middle of another one. @return the label's place
+    static CRect ExpectKey(const fx::Image& image, CRect key, COLORREF cap, COLORREF label = fx::BLACK) {
+        EXPECT_EQ(GROUND, image.At(key.left, key.top + 5)) << "between the keys";
+        EXPECT_EQ(GROUND, image.At(key.left + 5, key.top));
+        key.DeflateRect(1, 1, 0, 0);
+        EXPECT_EQ(cap, image.At(key.left, key.top));
+        EXPECT_EQ(cap, image.At(key.right - 1, key.bottom - 1));
+        const CRect ink = image.Around(key, label);
+        EXPECT_NEAR(key.CenterPoint().x, ink.CenterPoint().x, 2);
+        EXPECT_NEAR(key.CenterPoint().y, ink.CenterPoint().y, 3);
+        return ink;
+    }
+
+    fx::Frame m_frame;
+    CEdit m_field;
+};
+
+/// Of the letters, whose rows are 25 pixels high.
+CRect Key(int nRow, int nLeft, int nRight) {
+    return CRect(nLeft, 25 * nRow, nRight, 25 * nRow + 25);
+}
+const CRect Q = Key(1, 0, 24);
+const CRect SHIFT = Key(3, 0, 36);
+
+TEST_F(PanelLook, KeysHaveTheColourOfTheirKindAndALabelThatFits) {
+    const auto image = Look();
+    for (const CRect& key : {Q, Key(0, 216, 240), Key(2, 96, 120)}) {
+        const CRect label = ExpectKey(image, key, fx::WHITE);
+        EXPECT_GE(label.Height(), 9);
+    }
+    for (const CRect& key : {SHIFT, Key(3, 204, 240), Key(4, 0, 30), Key(4, 30, 60), Key(4, 186, 240)}) {
+        const CRect label = ExpectKey(image, key, FUNCTION);
+        EXPECT_LE(label.Width(), key.Width() - 2);
+        EXPECT_GE(label.Width(), 10);
+    }
+    TVShowSIP(2);
+    const auto kana = Look();
+    const CRect mark = kana.Around(CRect(170, 23, 191, 41), fx::BLACK);
+    EXPECT_NEAR(186, mark.CenterPoint().x, 3) << "a sound mark, moved from its corner";
+    EXPECT_NEAR(31, mark.CenterPoint().y, 4);
+    EXPECT_GE(mark.Height(), 4);
+    pen::Tap(panel::ScriptKey());
+    const auto katakana = Look();
+    EXPECT_FALSE(katakana.Difference(kana).IsRectEmpty());
+    pen::Tap(panel::ScriptKey());
+    EXPECT_TRUE(Look().Difference(kana).IsRectEmpty());
+}
+
+TEST_F(PanelLook, PressedAndShiftedKeysStandOut) {
+    pen::Down(panel::At(1, 5, 12));
+    ExpectKey(Look(), Q, PRESSED, fx::WHITE);
+    pen::Up(panel::At(1, 5, 12));
+    ExpectKey(Look(), Q, fx::WHITE);
+    pen::Tap(panel::ShiftKey());
+    ExpectKey(Look(), SHIFT, SHIFTED);
+    pen::Tap(panel::ShiftKey());
+    ExpectKey(Look(), SHIFT, PRESSED, fx::WHITE);
+    pen::Tap(panel::ShiftKey());
+    ExpectKey(Look(), SHIFT, FUNCTION);
+}
+
+} // namespace
