@@ -36,13 +36,5 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
 
 const AFX_MSGMAP_ENTRY* fieldkit::detail::FindMapEntry(const AFX_MSGMAP* pMap, UINT message, int nCode,
                                                        UINT nID) {
-    for (; pMap != nullptr; pMap = pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr) {
-        for (const AFX_MSGMAP_ENTRY* p = pMap->lpEntries; p->pfnDispatch != nullptr; ++p) {
-            if (p->nMessage == message && p->nCode == nCode && nID >= p->nID && nID <= p->nLastID)
-                return p;
-            if (p->nMessage == AFX_REGISTERED_ && message >= AFX_REGISTERED_ && *p->pnRegistered == message)
-                return p;
-        }
-    }
-    return nullptr;
+    return CThreadState::Get().m_mapCache.Find(pMap, message, nCode, nID);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "HandleMap.h"
+#include "MapCache.h"
 #include "afxcmn.h"
 
 namespace fieldkit::detail {
@@ -17,6 +18,7 @@ public:
     CHandleMap<CGdiObject, HGDIOBJ> m_gdiObjects{&CGdiObject::m_hObject};
     CHandleMap<CMenu, HMENU> m_menus{&CMenu::m_hMenu};
     CHandleMap<CImageList, HIMAGELIST> m_imageLists{&CImageList::m_hImageList};
+    CMapCache m_mapCache;
     /// What the device's shell keeps for the thread; null until it has anything.
     std::shared_ptr<void> m_pShell;
 

@@ -15,8 +15,8 @@ void SetWindowProc(HWND hWnd, WNDPROC pfn) {
 /// Gives the thread's message being handled back to the outer handler.
 class CMessageScope {
 public:
-    CMessageScope(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
-        : m_current(CThreadState::Get().m_msgLast), m_outer(m_current) {
+    CMessageScope(MSG& current, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+        : m_current(current), m_outer(current) {
         m_current.hwnd = hWnd;
         m_current.message = message;
         m_current.wParam = wParam;
@@ -66,10 +66,11 @@ bool AttachNew(CWnd* pWnd, HWND hWnd) noexcept {
 } // namespace
 
 LRESULT CALLBACK fieldkit::detail::AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
+    CThreadState& state = CThreadState::Get();
+    CWnd* pWnd = state.m_windows.Permanent(hWnd);
     if (pWnd == nullptr)
         return ::DefWindowProc(hWnd, message, wParam, lParam);
-    const CMessageScope scope(hWnd, message, wParam, lParam);
+    const CMessageScope scope(state.m_msgLast, hWnd, message, wParam, lParam);
     MSG msg = {};
     msg.hwnd = hWnd;
     msg.message = message;

@@ -262,4 +262,27 @@ TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
     EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3)) << "the handler draws on the control's context";
 }
 
+/// A window with the map that lies at one place in memory, as after a change of DLLs.
+class OfUnloadedModule : public fx::Frame {
+public:
+    LRESULT OnFirst(WPARAM, LPARAM) { return 1; }
+    LRESULT OnSecond(WPARAM, LPARAM) { return 2; }
+    const AFX_MSGMAP* GetMessageMap() const override { return &m_map; }
+
+    using ThisClass = OfUnloadedModule;
+    const AFX_MSGMAP_ENTRY m_first[2] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnFirst){}};
+    const AFX_MSGMAP_ENTRY m_second[2] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnSecond){}};
+    AFX_MSGMAP m_map = {&CWnd::GetThisMessageMap, m_first};
+};
+
+TEST(MessageMap, AnswersAreForgottenWhenADllIsUnloaded) {
+    OfUnloadedModule wnd;
+    EXPECT_EQ(1, wnd.SendMessage(WM_BOTH));
+    wnd.m_map.lpEntries = wnd.m_second;
+    const HMODULE hModule = ::LoadLibrary(L"avifil32.dll");
+    ASSERT_NE(nullptr, hModule);
+    ::FreeLibrary(hModule);
+    EXPECT_EQ(2, wnd.SendMessage(WM_BOTH));
+}
+
 } // namespace

@@ -1,6 +1,7 @@
 // Measures the file dialogs and the text file beside the bare calls of the system that they
 // cannot do without. Prints one line for each, and writes the same as JSON to the file that is
 // named on the command line. The exit code is 1 if a goal is missed, 2 if something failed.
+#include "Dispatch.h"
 #include "Opening.h"
 #include "Report.h"
 
@@ -95,6 +96,7 @@ void MeasureLines(bench::Report& report, const std::string& line) {
 
 int Run(const char* pszJson) {
     bench::Report report;
+    bench::MeasureDispatch(report);
     MeasureFiles(report, 10000);
     MeasureFiles(report, 20000);
     MeasureTree(report);

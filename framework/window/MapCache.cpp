@@ -1,0 +1,81 @@
+#include "MapCache.h"
+
+#include <algorithm>
+#include <atomic>
+
+using namespace fieldkit::detail;
+
+namespace {
+
+// Both outlive every static object that may still get a message.
+std::atomic<unsigned> g_nUnloads{0};
+std::atomic<bool> g_bWatching{false};
+
+template <class Function>
+Function LoaderFunction(const char* pszName) {
+    return reinterpret_cast<Function>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandle(L"ntdll.dll"), pszName)));
+}
+
+/// Counts the DLLs that are unloaded. Where the loader cannot tell, nothing is remembered.
+class CUnloadWatch {
+public:
+    CUnloadWatch() {
+        using Register = LONG(NTAPI*)(ULONG, void(CALLBACK*)(ULONG, const void*, void*), void*, void**);
+        const auto pfnRegister = LoaderFunction<Register>("LdrRegisterDllNotification");
+        g_bWatching = pfnRegister != nullptr && pfnRegister(0, OnLoader, nullptr, &m_pCookie) == 0;
+    }
+    ~CUnloadWatch() {
+        using Unregister = LONG(NTAPI*)(void*);
+        if (g_bWatching.exchange(false))
+            if (const auto pfnUnregister = LoaderFunction<Unregister>("LdrUnregisterDllNotification"))
+                pfnUnregister(m_pCookie);
+    }
+    CUnloadWatch(const CUnloadWatch&) = delete;
+    CUnloadWatch& operator=(const CUnloadWatch&) = delete;
+
+private:
+    static void CALLBACK OnLoader(ULONG nReason, const void*, void*) {
+        constexpr ULONG kUnloaded = 2;
+        if (nReason == kUnloaded)
+            ++g_nUnloads;
+    }
+
+    void* m_pCookie = nullptr;
+};
+const CUnloadWatch g_unloadWatch;
+
+std::size_t PlaceOf(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    constexpr std::size_t kOdd = 0x9E3779B1; // spreads neighbours, see Knuth's multiplicative hashing
+    const std::size_t nKey = (reinterpret_cast<std::size_t>(pMap) >> 4) + message * kOdd +
+                             static_cast<UINT>(nCode) * (kOdd << 4) + nID * (kOdd << 8);
+    return nKey ^ nKey >> 16;
+}
+
+} // namespace
+
+const AFX_MSGMAP_ENTRY* CMapCache::Find(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    // The number of a registered message is not known before it has been registered.
+    if (!g_bWatching || message >= AFX_REGISTERED_)
+        return Search(pMap, message, nCode, nID);
+    if (const unsigned nUnloads = g_nUnloads; nUnloads != m_nUnloads) {
+        std::fill(std::begin(m_slots), std::end(m_slots), CSlot{});
+        m_nUnloads = nUnloads;
+    }
+    CSlot& slot = m_slots[PlaceOf(pMap, message, nCode, nID) % kSlots];
+    if (slot.pMap != pMap || slot.message != message || slot.nCode != nCode || slot.nID != nID)
+        slot = {pMap, message, nCode, nID, Search(pMap, message, nCode, nID)};
+    return slot.pEntry;
+}
+
+const AFX_MSGMAP_ENTRY* CMapCache::Search(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    for (; pMap != nullptr; pMap = pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr) {
+        for (const AFX_MSGMAP_ENTRY* p = pMap->lpEntries; p->pfnDispatch != nullptr; ++p) {
+            if (p->nMessage == message && p->nCode == nCode && nID >= p->nID && nID <= p->nLastID)
+                return p;
+            if (p->nMessage == AFX_REGISTERED_ && message >= AFX_REGISTERED_ && *p->pnRegistered == message)
+                return p;
+        }
+    }
+    return nullptr;
+}
