@@ -181,7 +181,8 @@ Error Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock) {
     range.l_whence = SEEK_SET;
     range.l_start = static_cast<off_t>(position);
     range.l_len = static_cast<off_t>(count);
-    return Check(fcntl(Fd(file), F_SETLK, &range));
+    const Error error = Check(fcntl(Fd(file), F_SETLK, &range));
+    return error == EWOULDBLOCK ? ENOLCK : error; // not the violation of a share flag
 }
 
 Error Rename(LPCTSTR from, LPCTSTR to) {

@@ -7,6 +7,10 @@
 #include <functional>
 #include <memory>
 #include <random>
+#ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -36,6 +40,8 @@ protected:
         const Bytes bytes = ContentOf(file);
         return {bytes.begin(), bytes.end()};
     }
+
+public:
     static int CauseOf(const std::function<void()>& use) {
         try {
             use();
@@ -46,6 +52,7 @@ protected:
         return CFileException::none;
     }
 
+protected:
     std::filesystem::path m_folder;
 };
 
@@ -150,8 +157,10 @@ TEST_F(File, KnowsItsNames) {
     EXPECT_STREQ(Path(L"x.y.txt"), file.GetFilePath());
     EXPECT_STREQ(L"x.y.txt", file.GetFileName());
     EXPECT_STREQ(L"x.y", file.GetFileTitle());
-    file.SetFilePath(L".hidden");
-    EXPECT_STREQ(L".hidden", file.GetFileTitle());
+    for (const auto& [path, title] : {std::pair{L".hidden", L".hidden"}, {L"a.b", L"a"}, {L"a", L"a"}}) {
+        file.SetFilePath(path);
+        EXPECT_STREQ(title, file.GetFileTitle());
+    }
     file.Close();
     EXPECT_STREQ(L"", file.GetFilePath());
     CFile relative;
@@ -188,12 +197,57 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
     {
         CFile guest(static_cast<HANDLE>(file));
         EXPECT_EQ(1U, guest.Read(&c, 1));
+        CFile former(path, CFile::modeRead | CFile::shareDenyNone);
+        former.Close();
+        former.m_hFile = file.m_hFile; // not what it has opened
+        CFile aborted(path, CFile::modeRead | CFile::shareDenyNone);
+        aborted.Abort();
+        EXPECT_STREQ(L"", aborted.GetFilePath());
+        aborted.m_hFile = file.m_hFile;
+        CFile failed(static_cast<HANDLE>(file));
+        EXPECT_FALSE(failed.Open(Path(L"none"), CFile::modeRead));
+        EXPECT_TRUE(failed.m_hFile == CFile::hFileNull && failed.GetFilePath().IsEmpty());
     }
     const std::unique_ptr<CFile> twin(file.Duplicate());
     EXPECT_STREQ(path, twin->GetFilePath());
     file.Close();
     EXPECT_EQ(1U, twin->Read(&c, 1)); // outlives the first, and shared its position
     EXPECT_EQ('2', c);
+}
+
+/// What another user of the file is told who locks a range for a moment.
+int CauseOfLocking(LPCTSTR path, ULONGLONG position, ULONGLONG count) {
+    const auto lock = [&] {
+        return File::CauseOf([&] {
+            CFile other(path, CFile::modeReadWrite | CFile::shareDenyNone);
+            other.LockRange(position, count);
+            other.UnlockRange(position, count);
+        });
+    };
+#ifdef _WIN32
+    return lock();
+#else
+    const pid_t child = ::fork(); // locks are those of a process
+    if (child == 0)
+        ::_exit(lock());
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WEXITSTATUS(status);
+#endif
+}
+
+TEST_F(File, LockedRangesKeepOthersOut) {
+    const CString path = Make(L"a", "123456");
+    CFile file(path, CFile::modeReadWrite | CFile::shareDenyNone);
+    file.SeekToEnd();
+    file.LockRange(2, 2);
+    for (const auto& [position, cause] : {std::pair{0, CFileException::none},
+                                          {1, CFileException::lockViolation},
+                                          {3, CFileException::lockViolation},
+                                          {4, CFileException::none}})
+        EXPECT_EQ(cause, CauseOfLocking(path, static_cast<ULONGLONG>(position), 2)) << position;
+    file.UnlockRange(2, 2);
+    EXPECT_EQ(CFileException::none, CauseOfLocking(path, 2, 2));
 }
 
 #ifdef _WIN32

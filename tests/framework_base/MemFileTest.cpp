@@ -66,6 +66,7 @@ TEST(MemFile, HasNothingToOpenOrShare) {
     CFileException error;
     EXPECT_FALSE(file.Open(L"x", CFile::modeCreate, &error));
     EXPECT_EQ(CFileException::genericException, error.m_cause);
+    EXPECT_STREQ(L"x", error.m_strFileName);
     EXPECT_FALSE(file.Open(L"x", CFile::modeCreate));
     EXPECT_THROW(static_cast<void>(file.Duplicate()), CNotSupportedException*);
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException*);

@@ -236,11 +236,17 @@ TEST(String, NarrowTextIsUtf8WithDamageReplaced) {
         {"over-long, three bytes", "\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
         {"surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
         {"low surrogate", "\xED\xB0\x80", L"\xFFFD\xFFFD\xFFFD"},
+        {"least and most of two bytes", "\xC2\x80\xDF\xBF", L"\x80\x7FF"},
+        {"of three", "\xE0\xA0\x80\xEF\xBF\xBF", L"\x800\xFFFF"},
+        {"of four", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", L"\x10000\x10FFFF"},
+        {"first of no sequence", "\xC1\xBF\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
         {"no second byte", "\xC3(", L"\xFFFD("},
-        {"the last character", "\xF4\x8F\xBF\xBF", L"\x10FFFF"},
         {"beyond the last", "\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         {"stray", "a\x80z", L"a\xFFFDz"},
     });
+    const char* const borders =
+        "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
+    EXPECT_STREQ(borders, CStringA(CString(borders)));
 }
 #endif
 

@@ -300,6 +300,12 @@ TEST_F(FaultsOfFiles, ADiskThatIsFullHalfWayKeepsTheFirstHalf) {
     file.Write("abcdef", 6); // the second half by a second call
     EXPECT_TRUE(faults::Disarm());
     EXPECT_EQ(6U, Length("a"));
+    CFile reader(Path("a"), CFile::modeRead | CFile::shareDenyNone);
+    char bytes[7] = {};
+    FailCall("read", 0);
+    EXPECT_EQ(6U, reader.Read(bytes, 6));
+    EXPECT_TRUE(faults::Disarm());
+    EXPECT_STREQ("abcdef", bytes);
     FailCall("close", EIO);
     EXPECT_NO_THROW(file.Abort());
     EXPECT_TRUE(faults::Disarm());
@@ -337,6 +343,14 @@ TEST_F(FaultsOfFiles, WhatTheSystemCannotDoChangesNothing) {
     CFile file(Path("a"),
                CFile::modeCreate | CFile::modeReadWrite | CFile::modeNoInherit | CFile::osWriteThrough);
     file.Write("abc", 3);
+    const int fd = static_cast<int>(reinterpret_cast<std::intptr_t>(file.m_hFile));
+    EXPECT_TRUE((::fcntl(fd, F_GETFD) & FD_CLOEXEC) != 0 && (::fcntl(fd, F_GETFL) & O_SYNC) == O_SYNC);
+    CFile plain(Path("plain"), CFile::modeCreate | CFile::modeWrite);
+    const int plainFd = static_cast<int>(reinterpret_cast<std::intptr_t>(plain.m_hFile));
+    EXPECT_TRUE(::fcntl(plainFd, F_GETFD) == 0 && (::fcntl(plainFd, F_GETFL) & O_SYNC) == 0);
+    struct stat status {};
+    ::fstat(plainFd, &status);
+    EXPECT_EQ(0600U, status.st_mode & 0700U);
     constexpr ULONGLONG kFar = ~0ULL;
     struct Row {
         int cause;
@@ -348,6 +362,7 @@ TEST_F(FaultsOfFiles, WhatTheSystemCannotDoChangesNothing) {
         {CFileException::diskFull, [&] { file.SetLength(kFar); }},
         {CFileException::badSeek, [&] { file.LockRange(kFar, 1); }},
         {CFileException::badSeek, [&] { file.LockRange(0, kFar); }},
+        {CFileException::lockViolation, [&] { FailCall("fcntl", EWOULDBLOCK), file.LockRange(0, 1); }},
         {CFileException::diskFull, [&] { FailCall("write", 0), file.Write("x", 1); }}, // takes nothing
     };
     for (const Row& row : rows) {
