@@ -43,7 +43,9 @@ list_undo=(198 258)
 ok_button=(196 13) # in the title bar
 close_button=(227 13)
 menu_close=(229 13)
-input_cancel=(172 146)
+input_cancel=(100 152)
+pick_list=(163 152)
+pick_plan=(210 152)
 sip_button=(217 307) # with the file dialogs, whose bar has wide buttons
 
 # The keys of the soft input panel, which lies on the screen from y = 169 to 294. Shift stands
@@ -229,8 +231,22 @@ tap "${ok_button[@]}"
 
 tap "${inverse[@]}"
 answer T1 T2
-shot 26-inverse-result
+shot 26a-inverse-result
 tap "${ok_button[@]}"
+tap "${inverse[@]}"
+letters_enter
+tap "${pick_plan[@]}"
+shot 26b-inverse-plan-to-pick-from
+tap 143 58
+shot 26c-inverse-from-there
+tap "${ok_button[@]}"
+tap "${inverse[@]}"
+tap "${pick_list[@]}"
+tap 150 38
+letters 3
+shot 26d-part-of-a-name
+tap "${close_button[@]}"
+tap "${input_cancel[@]}"
 
 tap "${extent[@]}"
 shot 27-extent-result

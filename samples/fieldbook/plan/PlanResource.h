@@ -12,4 +12,4 @@
 #define IDI_ZOOM_OUT 2411
 #define IDI_ZOOM_ALL 2412
 
-#define IDS_NO_DRAWING 2420
+#define IDS_NO_DRAWING 2450

@@ -189,6 +189,7 @@ std::optional<CReport> CComputations::Inverse() {
     CCoordinate from, to;
     if (!m_questions.AskPoint(IDS_INVERSE_FROM, from) || !m_questions.AskPoint(IDS_INVERSE_TO, to))
         return std::nullopt;
+    m_questions.Propose(IDS_INVERSE_FROM, m_questions.GetPoints().back().strName); // crews go on from there
     CInverse inverse = {};
     if (!FindInverse(from, to, inverse))
         return Finish(MakeReport(IDS_INVERSE, IDS_INVERSE, {Verdict::SamePoint, {}}));

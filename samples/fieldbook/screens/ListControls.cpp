@@ -4,6 +4,7 @@
 #include "screens/Resource.h"
 #include "screens/Text.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -49,8 +50,19 @@ void CPointListCtrl::Refresh() {
         m_order.resize(points.size());
         std::iota(m_order.begin(), m_order.end(), size_t{0});
     }
-    SetItemCountEx(static_cast<int>(points.size()), LVSICF_NOSCROLL);
+    const auto isLeftOut = [&](size_t i) {
+        return CString(points[i].strName).MakeUpper().Find(m_strPart) < 0;
+    };
+    if (!m_strPart.IsEmpty())
+        m_order.erase(std::remove_if(m_order.begin(), m_order.end(), isLeftOut), m_order.end());
+    SetItemCountEx(static_cast<int>(m_order.size()), LVSICF_NOSCROLL);
     Invalidate();
+}
+
+void CPointListCtrl::ShowOnly(const CString& strPart) {
+    m_strPart = CString(strPart).MakeUpper();
+    SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    Refresh();
 }
 
 void CPointListCtrl::Select(const CString& strName) {

@@ -23,6 +23,8 @@ public:
     void Fill();
     /// Shows the points as they are now, in the order that the user has chosen.
     void Refresh();
+    /// Shows those points only that have a part in their names, in capitals or not.
+    void ShowOnly(const CString& strPart);
     /// Selects the row of a point and scrolls to it.
     void Select(const CString& strName);
     /// @return the point whose row is selected; null if none is. Valid until the book changes.
@@ -44,6 +46,7 @@ private:
     std::vector<size_t> m_order;         ///< The rows, each an index of a point.
     std::optional<PointColumn> m_column; ///< By which the rows are sorted; at first by none.
     bool m_bTurned = false;
+    CString m_strPart; ///< Of the names that are shown, in capitals.
 };
 
 /// The results of the day. A tap on a title opens and closes it, not only one on its small box.

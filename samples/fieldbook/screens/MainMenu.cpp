@@ -99,11 +99,8 @@ void CMainMenu::OnCompute() {
 }
 
 void CMainMenu::OnPlan() {
-    CDrawing drawing;
-    for (const CNamedPoint& point : m_job.book.GetPoints())
-        if (HasPosition(point.point))
-            drawing.AddPoint(point.strName, point.point, Role::Given);
-    CPlanDlg dialog(drawing, this);
+    const CDrawing drawing = DrawingOf(m_job.book.GetPoints());
+    CPlanDlg dialog(drawing, Text(IDS_MENU_FIRST + 3), this);
     dialog.DoModal();
 }
 

@@ -5,7 +5,7 @@
 #include "controls/nDialog.h"
 
 #include "screens/EntryControls.h"
-#include "points/History.h"
+#include "screens/Job.h"
 
 /// A popup dialog with a message, an entry field whose list has the names entered lately, OK and
 /// cancel.
@@ -13,6 +13,11 @@ class CNameDlg : public CnDialog {
 public:
     /// @param history must outlive the dialog, which leaves it as it is
     CNameDlg(const CString& strMessage, const CString& strTitle, CHistory& history, CWnd* pParent);
+
+    /// The name is that of one of the job's points: the list and the plan offer them all. Call
+    /// before DoModal.
+    /// @param job must outlive the dialog
+    void OfferPoints(const CJob& job) { m_pJob = &job; }
 
     /// The name that is proposed. Call before DoModal.
     void SetName(const CString& strName) { m_strName = strName; }
@@ -22,8 +27,14 @@ public:
 protected:
     BOOL OnInitDialog() override;
     void OnOK() override;
+    afx_msg void OnList();
+    afx_msg void OnPlan();
+    DECLARE_MESSAGE_MAP()
 
 private:
+    void Choose(const CString& strName);
+
+    const CJob* m_pJob = nullptr; ///< None for a new name.
     CString m_strMessage;
     CString m_strTitle;
     CString m_strName;

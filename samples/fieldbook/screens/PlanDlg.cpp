@@ -1,5 +1,6 @@
 #include "screens/PlanDlg.h"
 
+#include "compute/Compute.h"
 #include "screens/Resource.h"
 
 namespace {
@@ -20,20 +21,39 @@ BEGIN_MESSAGE_MAP(CPlanDlg, CnDialog)
     ON_BN_CLICKED(IDC_ZOOM_IN, &CPlanDlg::OnZoomIn)
     ON_BN_CLICKED(IDC_ZOOM_OUT, &CPlanDlg::OnZoomOut)
     ON_BN_CLICKED(IDC_ZOOM_ALL, &CPlanDlg::OnZoomAll)
+    ON_MESSAGE(WM_POINT_TAPPED, &CPlanDlg::OnPointTapped)
 END_MESSAGE_MAP()
 // clang-format on
 
-CPlanDlg::CPlanDlg(const CDrawing& drawing, CWnd* pParent) : CnDialog(IDD_PLAN, pParent), m_drawing(drawing) {
+CDrawing DrawingOf(const std::vector<CNamedPoint>& points) {
+    CDrawing drawing;
+    for (const CNamedPoint& point : points)
+        if (HasPosition(point.point))
+            drawing.AddPoint(point.strName, point.point, Role::Given);
+    return drawing;
+}
+
+CPlanDlg::CPlanDlg(const CDrawing& drawing, const CString& strTitle, CWnd* pParent)
+    : CnDialog(IDD_PLAN, pParent), m_drawing(drawing), m_strTitle(strTitle) {
     SetOption(OptionOkButton);
 }
 
 BOOL CPlanDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    SetWindowText(m_strTitle);
     m_view.Attach(IDC_PLAN, this, m_drawing);
     m_zoomIn.Attach(IDC_ZOOM_IN, this, LoadSmallIcon(IDI_ZOOM_IN), CIconButton::StyleText);
     m_zoomOut.Attach(IDC_ZOOM_OUT, this, LoadSmallIcon(IDI_ZOOM_OUT), CIconButton::StyleText);
     m_zoomAll.Attach(IDC_ZOOM_ALL, this, LoadSmallIcon(IDI_ZOOM_ALL), CIconButton::StyleText);
     return TRUE;
+}
+
+LRESULT CPlanDlg::OnPointTapped(WPARAM wParam, LPARAM) {
+    m_strPicked = m_drawing.GetPoints()[wParam].strName;
+    SetWindowText(m_strTitle + L"  " + m_strPicked);
+    if (m_bPick)
+        EndDialog(IDOK);
+    return 0;
 }
 
 void CPlanDlg::OnZoomIn() {

@@ -1,7 +1,10 @@
 #include "screens/PlanView.h"
 
+#include "plan/PlanPick.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
+
+#include <cstdlib>
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CPlanView, CWnd)
@@ -82,17 +85,31 @@ void CPlanView::PaintEmpty(CDC& dc) {
 
 void CPlanView::OnLButtonDown(UINT, CPoint point) {
     m_ptPen = point;
+    m_bDragged = false;
     SetCapture();
 }
 
 void CPlanView::OnMouseMove(UINT, CPoint point) {
-    if (GetCapture() != this || point == m_ptPen)
+    constexpr int kTremble = 4; // pixels that a pen on its spot may move
+    const CSize way = point - m_ptPen;
+    if (GetCapture() != this || way == CSize() ||
+        (!m_bDragged && std::abs(way.cx) <= kTremble && std::abs(way.cy) <= kTremble))
         return;
+    m_bDragged = true;
     SetScale(m_scale.Panned(point - m_ptPen));
     m_ptPen = point;
 }
 
-void CPlanView::OnLButtonUp(UINT, CPoint) {
-    if (GetCapture() == this)
-        ::ReleaseCapture();
+void CPlanView::OnLButtonUp(UINT, CPoint point) {
+    if (GetCapture() != this)
+        return;
+    ::ReleaseCapture();
+    if (!m_bDragged)
+        Tap(point);
+}
+
+void CPlanView::Tap(CPoint point) {
+    const std::optional<size_t> found = NearestPoint(*m_pDrawing, m_scale, point);
+    if (found)
+        GetParent()->SendMessage(WM_POINT_TAPPED, *found);
 }

@@ -4,6 +4,9 @@
 
 #include "plan/PlanPainter.h"
 
+/// Sent to the parent: the index of the point that was tapped.
+constexpr UINT WM_POINT_TAPPED = WM_APP + 1;
+
 /// Shows a drawing to scale, north up, with a scale bar. The pen drags the plan.
 ///
 /// It takes over a static control with the style SS_NOTIFY.
@@ -28,6 +31,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void Tap(CPoint point);
     CSize GetSize() const;
     void SetScale(const CPlanScale& scale);
     void Paint(CDC& dc);
@@ -36,5 +40,6 @@ private:
     const CDrawing* m_pDrawing = nullptr;
     CPlanScale m_scale;
     CPlanFonts m_fonts;
-    CPoint m_ptPen; ///< Where the pen was last while it drags.
+    CPoint m_ptPen;          ///< Where the pen was last while it drags.
+    bool m_bDragged = false; ///< Since the pen is down.
 };

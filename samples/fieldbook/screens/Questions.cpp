@@ -75,6 +75,7 @@ bool CQuestions::AskPoint(UINT nQuestionId, CCoordinate& point) {
     const auto put = [&](CString& strName) {
         CNameDlg dialog(Text(nQuestionId), Text(m_nTitleId), m_job.history, &m_parent);
         dialog.SetName(strName);
+        dialog.OfferPoints(m_job);
         if (dialog.DoModal() != IDOK)
             return false;
         strName = dialog.GetName();

@@ -24,6 +24,9 @@ public:
     /// The points that were named in this round.
     const std::vector<CNamedPoint>& GetPoints() const { return m_points; }
 
+    /// What a question proposes the next time it is asked.
+    void Propose(UINT nQuestionId, const CString& strAnswer) { m_lastAnswers[nQuestionId] = strAnswer; }
+
     /// @param point has N and E
     bool AskPoint(UINT nQuestionId, CCoordinate& point);
     /// @param dRadius more than 0

@@ -39,7 +39,7 @@ BOOL CReportDlg::OnInitDialog() {
 }
 
 void CReportDlg::OnPlan() {
-    CPlanDlg dialog(m_report.drawing, this);
+    CPlanDlg dialog(m_report.drawing, Text(m_report.nTitleId), this);
     dialog.DoModal();
 }
 

@@ -13,6 +13,7 @@
 #define IDD_TOLERANCE 2009
 #define IDD_NAME 2010
 #define IDD_REPORT 2011
+#define IDD_PICK 2012
 
 // Computations: the buttons, in the order of the computations
 #define IDC_COMPUTATION_FIRST 2103
@@ -38,6 +39,11 @@
 #define IDC_EDIT 2122
 #define IDC_REMOVE 2123
 #define IDC_UNDO 2124
+
+// Choice of a point
+#define IDC_PART 2125
+#define IDC_PICK_LIST 2126
+#define IDC_PICK_PLAN 2127
 
 // Point entry dialog; IDC_NAME and IDC_MESSAGE are those of the name dialog, too
 #define IDC_KIND 2130
@@ -228,6 +234,7 @@
 #define IDS_UNDONE 2431
 #define IDS_CHANGED 2432
 #define IDS_COLUMN_CODE 2433
+#define IDS_PICK_FROM_PLAN 2434
 
 // Kinds of points, in the order of the beginnings of their names
 #define IDS_KIND_FIRST 2330

@@ -5,6 +5,7 @@
 #include "TestFile.h"
 #include "points/FileReplacement.h"
 #include "screens/JobFile.h"
+#include "screens/NameDlg.h"
 #include "screens/PointEntryDlg.h"
 #include "screens/PointListDlg.h"
 #include "screens/Resource.h"
@@ -37,6 +38,22 @@ fx::Step Keys(std::initializer_list<WORD> keys) {
 
 fx::Step Tap(const CDialog& dialog, UINT nId) {
     return [&dialog, nId] { pen::Tap(*dialog.GetDlgItem(static_cast<int>(nId))); };
+}
+
+/// Of the dialog that is on the screen then.
+fx::Step TapIn(int nId) {
+    return [nId] { pen::Tap(*CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), nId))); };
+}
+
+fx::Step TapRow(int nRow) {
+    return [nRow] {
+        auto& list =
+            *static_cast<CListCtrl*>(CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), IDC_POINTS)));
+        CRect row;
+        list.GetItemRect(nRow, row, LVIR_LABEL);
+        list.ClientToScreen(row);
+        pen::Tap(row.CenterPoint());
+    };
 }
 
 /// The panel lies on the lower buttons while a field has the focus.
@@ -242,23 +259,39 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
     }
 }
 
+TEST_F(JobFile, PointIsChosenFromListAndPlan) {
+    for (const wchar_t* pszName : {L"境界1", L"Ab", L"abc"})
+        m_pJob->book.Add({pszName, CCoordinate(m_pJob->book.GetCount() * 10.0, 1, 0, 1)});
+    const struct {
+        const char* pszCase;
+        std::initializer_list<fx::Step> steps;
+        const wchar_t* pszName;
+    } cases[] = {
+        {"a tap on a row", {TapIn(IDC_PICK_LIST), TapRow(0)}, L"境界1"},
+        {"part of the name", {TapIn(IDC_PICK_LIST), TapIn(IDC_PART), Keys({'B', 'C'}), TapRow(0)}, L"abc"},
+        // The three lie from the west to the east in the middle of the plan.
+        {"a tap on the plan", {TapIn(IDC_PICK_PLAN), TapIn(IDC_PLAN)}, L"Ab"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.pszCase);
+        CNameDlg dialog(L"?", L"", m_pJob->history, nullptr);
+        dialog.OfferPoints(*m_pJob);
+        EXPECT_EQ(fx::Play(dialog, c.steps), IDOK);
+        EXPECT_TRUE(dialog.GetName() == c.pszName);
+    }
+}
+
 TEST_F(JobFile, RemovedPointComesBackToItsPlace) {
     for (const wchar_t* pszName : {L"A", L"B", L"C"})
         m_pJob->book.Add({pszName, CCoordinate(2, 1, 0, 1)});
     m_pJob->book.BeginHere();
     CPointListDlg dialog(*m_pJob, nullptr);
-    const auto tapRow = [&] {
-        auto& list = *static_cast<CListCtrl*>(dialog.GetDlgItem(IDC_POINTS));
-        CRect row;
-        list.GetItemRect(1, row, LVIR_LABEL);
-        list.ClientToScreen(row);
-        pen::Tap(row.CenterPoint());
-    };
     const auto count = [&](int nExpected) {
         return [&, nExpected] { EXPECT_EQ(m_pJob->book.GetCount(), nExpected); };
     };
-    fx::Play(dialog, {tapRow, Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
-                      Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
+    fx::Play(dialog,
+             {TapRow(1), Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
+              Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
     EXPECT_TRUE(m_pJob->book.GetPoints()[1].strName == L"B");
     EXPECT_FALSE(m_pJob->book.CanUndo());
 }

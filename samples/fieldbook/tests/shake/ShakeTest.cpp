@@ -8,6 +8,7 @@
 #include "screens/JournalDlg.h"
 #include "screens/MainMenu.h"
 #include "screens/NameDlg.h"
+#include "screens/PickDlg.h"
 #include "screens/PlanDlg.h"
 #include "screens/PointEditDlg.h"
 #include "screens/PointListDlg.h"
@@ -68,6 +69,10 @@ TEST(FieldbookShake, Name) {
     ShakeJob([](CShakenJob& job, CWnd* pOwner) { CNameDlg(L"?", L"", job.history, pOwner).DoModal(); });
 }
 
+TEST(FieldbookShake, Pick) {
+    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPickDlg(job, pOwner).DoModal(); });
+}
+
 TEST(FieldbookShake, Compute) {
     ShakeJob([](CShakenJob& job, CWnd* pOwner) { CComputeDlg(job, pOwner).DoModal(); });
 }
@@ -81,7 +86,7 @@ TEST(FieldbookShake, Report) {
 }
 
 TEST(FieldbookShake, Plan) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPlanDlg(job.report.drawing, pOwner).DoModal(); });
+    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPlanDlg(job.report.drawing, L"", pOwner).DoModal(); });
 }
 
 TEST(FieldbookShake, Journal) {

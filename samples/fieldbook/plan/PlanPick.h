@@ -1,0 +1,11 @@
+/// @file
+/// Which point of a plan is meant by a tap.
+#pragma once
+
+#include "plan/Drawing.h"
+#include "plan/PlanScale.h"
+
+#include <optional>
+
+/// The index of the nearest point within the reach of a finger.
+std::optional<size_t> NearestPoint(const CDrawing& drawing, const CPlanScale& scale, CPoint tap);
