@@ -1,6 +1,7 @@
 #include "plan/PlanPainter.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -13,7 +14,8 @@ constexpr COLORREF kResultColor = RGB(208, 0, 0);
 constexpr int kFontHeight = 15;
 constexpr int kLongestName = 110; // wide; longer names end in dots
 constexpr int kLongestBar = 90;
-constexpr int kEdge = 6; // from scale bar and north arrow to the border
+constexpr int kNamesInVain = 200; // one after the other: then the plan is full
+constexpr int kEdge = 6;          // from scale bar and north arrow to the border
 
 COLORREF ColorOf(Role role) {
     return role == Role::Result ? kResultColor : kGivenColor;
@@ -35,6 +37,26 @@ public:
 private:
     CDC& m_dc;
     int m_nSaved;
+};
+
+/// Of marks that lie on each other one is drawn: of 100,000 points no more than there are places.
+class CThinning {
+public:
+    explicit CThinning(CSize view) : m_nAcross(view.cx / kPlace + 1), m_taken(PlacesIn(view)) {}
+
+    /// @return false if there is a mark already
+    bool Keeps(CPoint mark) {
+        return !std::exchange(m_taken[static_cast<size_t>(mark.y / kPlace * m_nAcross + mark.x / kPlace)], 1);
+    }
+
+private:
+    static constexpr int kPlace = 3; // pixels
+    size_t PlacesIn(CSize view) const {
+        return static_cast<size_t>(m_nAcross) * static_cast<size_t>(view.cy / kPlace + 1);
+    }
+
+    int m_nAcross;
+    std::vector<char> m_taken;
 };
 
 CPoint ToPoint(CVector v) {
@@ -149,8 +171,9 @@ void CPlanPainter::PaintNorthArrow() {
 void CPlanPainter::PaintPoints(const std::vector<CDrawnPoint>& points) {
     CRect mark;
     std::vector<const CDrawnPoint*> seen;
+    CThinning thinning(m_view.Size());
     for (const CDrawnPoint& point : points)
-        if (FindMark(point, mark)) {
+        if (FindMark(point, mark) && (point.role == Role::Result || thinning.Keeps(mark.CenterPoint()))) {
             seen.push_back(&point);
             m_space.Put(mark, Space::Mark);
         }
@@ -160,12 +183,14 @@ void CPlanPainter::PaintPoints(const std::vector<CDrawnPoint>& points) {
     m_dc.SetBkMode(TRANSPARENT);
     // The name of a result may lie on the marks of given points and then covers them.
     PaintMarks({firstGiven, seen.end()}, Role::Given);
+    int nInVain = 0;
     for (const CDrawnPoint* pPoint : seen)
-        PaintName(*pPoint);
+        if (nInVain < kNamesInVain)
+            nInVain = PaintName(*pPoint) ? 0 : nInVain + 1;
     PaintMarks({seen.begin(), firstGiven}, Role::Result);
 }
 
-void CPlanPainter::PaintName(const CDrawnPoint& point) {
+bool CPlanPainter::PaintName(const CDrawnPoint& point) {
     const bool bResult = point.role == Role::Result;
     m_dc.SelectObject(bResult ? &m_fonts.result : &m_fonts.given);
     CSize name = m_dc.GetTextExtent(point.strName);
@@ -173,10 +198,11 @@ void CPlanPainter::PaintName(const CDrawnPoint& point) {
     CRect mark;
     CRect place;
     if (!FindMark(point, mark) || !m_space.PlaceName(mark, name, bResult ? Space::Mark : Space::Line, place))
-        return;
+        return false;
     m_dc.FillSolidRect(place, kGroundColor); // a line through a name makes it hard to read
     m_dc.SetTextColor(ColorOf(point.role));
     m_dc.DrawText(point.strName, place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    return true;
 }
 
 void CPlanPainter::PaintMarks(const std::vector<const CDrawnPoint*>& points, Role role) {

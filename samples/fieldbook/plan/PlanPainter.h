@@ -35,7 +35,8 @@ private:
     void PaintScaleBar();
     void PaintNorthArrow();
     void PaintPoints(const std::vector<CDrawnPoint>& points);
-    void PaintName(const CDrawnPoint& point);
+    /// @return false if there is no room for it
+    bool PaintName(const CDrawnPoint& point);
     /// @param points all in the view and of that role
     void PaintMarks(const std::vector<const CDrawnPoint*>& points, Role role);
     /// @return false if the point is not in the view
