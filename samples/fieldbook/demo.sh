@@ -246,7 +246,7 @@ tap 150 38
 letters 3
 shot 26d-part-of-a-name
 tap "${close_button[@]}"
-tap "${input_cancel[@]}"
+tap 100 203 # the panel has gone, and the question stands lower
 
 tap "${extent[@]}"
 shot 27-extent-result
@@ -488,7 +488,7 @@ tap 210 119
 shot 89-names-of-the-day-before
 tap 60 138
 shot 90-name-chosen
-tap 62 203
+tap 35 203
 shot 91-second-point
 tap "${input_cancel[@]}"
 tap "${ok_button[@]}"

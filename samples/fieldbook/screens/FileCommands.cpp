@@ -42,10 +42,7 @@ bool CFileCommands::MayGiveUpPoints() {
         return true;
     if (CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
         return Save();
-    if (!AskToLose(Text(IDS_ASK_GIVE_UP)))
-        return false;
-    GiveUpChanges(m_job);
-    return true;
+    return AskToLose(Text(IDS_ASK_GIVE_UP));
 }
 
 void CFileCommands::OfferToSave() {

@@ -21,6 +21,7 @@ struct CJob {
     CChangeFile changes;        ///< What the points file has not got yet.
     bool bRecorded = true;      ///< Whether the last change could be recorded.
     std::uint64_t nContent = 0; ///< Hash of the points file as it was read or written last.
+    bool bWritten = false;      ///< Whether the points file has been written since it was opened.
     CJournal journal;
     CHistory history;
     CSettings settings;

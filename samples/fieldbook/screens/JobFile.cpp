@@ -31,6 +31,7 @@ void BeginJob(CJob& job, const CString& strPath, std::uint64_t nContent) {
     job.strPath = strPath;
     job.nContent = nContent;
     job.bRecorded = true;
+    job.bWritten = false;
     job.journal = strPath.IsEmpty() ? CJournal() : CJournal(strPath);
     job.book.BeginHere();
     job.book.SetObserver([&job](const CPointChange& change) { Record(job, change); });
@@ -99,7 +100,8 @@ CPresentFile ReadPresent(const CString& strPath) {
 /// Lines that nobody could read may still matter to whoever wrote them, and so may the way in which
 /// numbers were written.
 bool KeepForeignFile(const CJob& job, const CString& strPath, const CPresentFile& present) {
-    if (IsAsSaved(present.bytes, job.format))
+    const bool bOwn = job.bWritten && HashOf(present.bytes) == job.nContent;
+    if (bOwn || IsAsSaved(present.bytes, job.format))
         return true;
     const bool bKept = KeepBackup(strPath);
     const CString strName = FileNameOf(strPath);
@@ -155,8 +157,10 @@ bool OpenPointsFile(CJob& job, const CString& strPath, CWnd& parent) {
         TellFileProblem(e, IDS_NOT_READ, strPath);
         return false;
     }
-    if (!report.bRead || !job.changes.Claim(strPath))
+    if (!report.bRead)
         return false;
+    GiveUpChanges(job);
+    job.changes.Claim(strPath);
     job.book = std::move(book);
     job.badLines = std::move(report.badLines);
     job.format = report.format;
@@ -179,6 +183,7 @@ bool MakePointsFile(CJob& job, const CString& strPath) {
         TellFileProblem(e, IDS_NOT_WRITTEN, strPath);
         return false;
     }
+    GiveUpChanges(job);
     job.changes.Claim(strPath);
     job.changes.Begin(HashOf(bytes));
     job.book = std::move(book);
@@ -212,6 +217,7 @@ bool SavePointsFile(CJob& job, const CString& strPath) {
     job.strPath = strPath;
     job.nContent = HashOf(bytes);
     job.bRecorded = true;
+    job.bWritten = true;
     job.journal.SetPointsPath(strPath);
     job.badLines.clear();
     job.book.SetModified(false);

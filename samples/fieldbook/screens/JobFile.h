@@ -7,13 +7,14 @@
 /// Begins a job without a file: with points of an earlier one that were in no file when it ended.
 void BeginWithoutFile(CJob& job);
 
-/// Reads a points file in place of the job's points, with the changes that were not saved when the
-/// program ended the last time; says so in one line. Shows the lines that could not be read.
+/// Reads a points file in place of the job's points, whose unsaved changes are given up then, with the
+/// changes that were not saved when the program ended the last time; says so in one line. Shows the lines
+/// that could not be read.
 /// @return false, with the job as it was, if the file cannot be read, is no text, is worked on by
 ///         another program of this kind, or if the user gives up
 bool OpenPointsFile(CJob& job, const CString& strPath, CWnd& parent);
 
-/// Makes a points file without points, and begins a job with it.
+/// Makes a points file without points, and begins a job with it; unsaved changes are given up then.
 /// @return false, with the job as it was, if the file cannot be written
 bool MakePointsFile(CJob& job, const CString& strPath);
 
@@ -23,5 +24,5 @@ bool MakePointsFile(CJob& job, const CString& strPath);
 /// @return false if the file is not written; the points count as unsaved still
 bool SavePointsFile(CJob& job, const CString& strPath);
 
-/// Forgets changes that nobody wants.
+/// Forgets the record of changes that nobody wants: the program ends, or another job begins.
 void GiveUpChanges(CJob& job);

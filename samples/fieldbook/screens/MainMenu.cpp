@@ -71,10 +71,12 @@ void CMainMenu::OnOK() {
 }
 
 void CMainMenu::OnCancel() {
-    if (m_files.MayGiveUpPoints())
-        CButtonMenuDlg::OnCancel();
-    else
+    if (!m_files.MayGiveUpPoints()) {
         ShowTitle();
+        return;
+    }
+    GiveUpChanges(m_job);
+    CButtonMenuDlg::OnCancel();
 }
 
 /// The changes are on the disk: No leaves them to the next start.

@@ -188,6 +188,11 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
     EXPECT_EQ(m_pJob->book.GetCount(), 1);
     EXPECT_TRUE(m_pJob->book.IsModified());
     EXPECT_EQ(other.Read(), "A,1,2\r\n\x83,1,2\r\n");
+    Restart();
+    EXPECT_TRUE(Open({Answer(IDOK)})) << "the change is recorded still";
+    other.Write(FILE_OF_OURS);
+    ASSERT_TRUE(OpenPointsFile(*m_pJob, other.GetPath(), m_parent));
+    EXPECT_TRUE(Open()) << "who opens another file gives the change up";
 }
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
