@@ -174,6 +174,7 @@ bool CPointEntryDlg::Take(const CNamedPoint& point) {
         return false;
     m_message.SetWindowText(Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount()));
     ShowPoint({m_job.book.NextName(point.strName), CCoordinate(), point.strCode});
-    GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
+    if (m_hWnd != nullptr)               // not closed behind a question
+        GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
     return true;
 }

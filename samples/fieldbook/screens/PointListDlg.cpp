@@ -70,6 +70,8 @@ void CPointListDlg::OnUndo() {
 }
 
 void CPointListDlg::ShowChange(const CString& strText) {
+    if (m_hWnd == nullptr)
+        return; // closed behind a question
     m_list.Refresh();
     m_legend.SetWindowText(strText);
     GetDlgItem(IDC_UNDO)->EnableWindow(m_job.book.CanUndo());
