@@ -231,22 +231,8 @@ tap "${ok_button[@]}"
 
 tap "${inverse[@]}"
 answer T1 T2
-shot 26a-inverse-result
+shot 26-inverse-result
 tap "${ok_button[@]}"
-tap "${inverse[@]}"
-letters_enter
-tap "${pick_plan[@]}"
-shot 26b-inverse-plan-to-pick-from
-tap 143 58
-shot 26c-inverse-from-there
-tap "${ok_button[@]}"
-tap "${inverse[@]}"
-tap "${pick_list[@]}"
-tap 150 38
-letters 3
-shot 26d-part-of-a-name
-tap "${close_button[@]}"
-tap 100 203 # the panel has gone, and the question stands lower
 
 tap "${extent[@]}"
 shot 27-extent-result
@@ -272,6 +258,20 @@ digits_enter
 shot 33-polar-result
 tap "${ok_button[@]}"
 tap "${ok_button[@]}"
+tap "${inverse[@]}"
+letters_enter
+tap "${pick_plan[@]}"
+shot 33b-inverse-plan-to-pick-from
+tap 143 58
+shot 33c-inverse-from-there
+tap "${ok_button[@]}"
+tap "${inverse[@]}"
+tap "${pick_list[@]}"
+tap 150 38
+letters 3
+shot 33d-part-of-a-name
+tap "${close_button[@]}"
+tap 100 203 # the panel has gone, and the question stands lower
 tap "${ok_button[@]}"
 
 # --- The plan -----------------------------------------------------------------------------------
