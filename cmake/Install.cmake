@@ -32,6 +32,18 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/framework/l.jpn
 install(FILES ${PROJECT_SOURCE_DIR}/companion/Tesuvo.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/companion)
 
+# The system's headers by the names that programs of other disks write, where case makes a difference.
+foreach(_name CommCtrl CommDlg Commctrl Commdlg DbgHelp Dbghelp Dbt GdiPlus Gdiplus HtmlHelp Htmlhelp IPHlpApi
+        Iphlpapi MMReg MMSystem Mmsystem ObjBase Objbase Ole2 OleAuto PSAPI PowrProf Powrprof Psapi RichEdit Richedit
+        SetupAPI Setupapi ShLwApi ShellAPI ShellApi Shellapi ShlGuid ShlObj Shlobj Shlwapi StrSafe Strsafe TChar Tchar
+        TlHelp32 Tlhelp32 UxTheme Uxtheme Vssym32 WS2tcpip WinBase WinCrypt WinInet WinIoCtl WinNT WinReg WinSDKVer
+        WinSock WinSock2 WinSvc WinUser Wincrypt Windows Wininet Winioctl Winsock2 Winsvc Ws2tcpip WtsApi32 Wtsapi32)
+  string(TOLOWER ${_name} _lower)
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/names/${_name}.h CONTENT
+    "#pragma once\n#pragma GCC system_header\n#include_next <${_lower}.h>\n" @ONLY)
+endforeach()
+install(DIRECTORY ${PROJECT_BINARY_DIR}/names/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
+
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.in
   ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake INSTALL_DESTINATION ${_package})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake

@@ -96,6 +96,14 @@ public:
     virtual void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast);
 };
 
+/// What a program asks of the restart manager, which this framework does not use.
+enum : DWORD {
+    AFX_RESTART_MANAGER_SUPPORT_RESTART = 0x01,
+    AFX_RESTART_MANAGER_SUPPORT_RECOVERY = 0x02,
+    AFX_RESTART_MANAGER_SUPPORT_RESTART_ASPECTS = 0x11,
+    AFX_RESTART_MANAGER_SUPPORT_ALL_ASPECTS = 0x7F,
+};
+
 /// The application: one static object of a class derived from it in each program.
 class AFX_CORE CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
@@ -179,16 +187,45 @@ public:
     /// For lines ON_COMMAND: opens m_pszHelpFilePath if there is such a file; closes the main window.
     ///@{
     afx_msg void OnHelp();
+    afx_msg void OnHelpIndex() { OnHelp(); }
+    afx_msg void OnHelpFinder() { OnHelp(); }
+    afx_msg void OnHelpUsing() { OnHelp(); }
+    afx_msg void OnContextHelp() { OnHelp(); }
     afx_msg void OnAppExit();
     ///@}
+    /// Open the help file. @param dwData, nCmd a topic, which is left to the viewer's contents
+    ///@{
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    void EnableHtmlHelp() {}
+    ///@}
+    /// A cursor or an icon of the system. @param nIDCursor, nIDIcon OCR_..., OIC_...
+    ///@{
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const { return ::LoadCursor(nullptr, MAKEINTRESOURCE(nIDCursor)); }
+    HICON LoadOEMIcon(UINT nIDIcon) const { return ::LoadIcon(nullptr, MAKEINTRESOURCE(nIDIcon)); }
+    ///@}
+    /// Shows the wait cursor (1), ends it (-1), shows it again (0).
+    virtual void DoWaitCursor(int nCode);
+    /// Deletes a key of the registry with all below it. @return ERROR_...
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName) {
+        return ::RegDeleteTree(hParentKey, strKeyName);
+    }
 
     /// Nothing is to be done: the system's controls look as they should. @return TRUE
     ///@{
     BOOL Enable3dControls() { return TRUE; }
     BOOL Enable3dControlsStatic() { return TRUE; }
     ///@}
-    /// The taskbar's name for the program. Here: nothing.
+    /// The taskbar's name for the program, its buttons there, and older programs' colours. Here: nothing.
+    ///@{
     void SetAppID(LPCTSTR) {}
+    BOOL EnableTaskbarInteraction(BOOL = TRUE) { return TRUE; }
+    void SetDialogBkColor(COLORREF = RGB(192, 192, 192), COLORREF = RGB(0, 0, 0)) {}
+    ///@}
+    /// AFX_RESTART_MANAGER_...: not used, nothing is started again.
+    DWORD m_dwRestartManagerSupportFlags = 0;
+    /// Not used: there are no recent files.
+    void LoadStdProfileSettings(UINT = 4) {}
 
 private:
     void SetProfileName(LPCTSTR lpszName);
@@ -269,6 +306,12 @@ AFX_CORE LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = 
                                             HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 
 // --- Extension modules ---------------------------------------------------------------
+
+/// All modules have one state: nothing is to be switched at a DLL's entry points.
+///@{
+struct AFX_MODULE_STATE {};
+#define AFX_MANAGE_STATE(pState) static_cast<void>(0)
+///@}
 
 /// State of a DLL that extends the framework: a static object of the DLL.
 struct AFX_EXTENSION_MODULE {

@@ -24,6 +24,8 @@ constexpr UINT NM_RECOGNIZEGESTURE = NM_FIRST - 16U;
 #include "afxtab_.h"
 #include "afxpos_.h"
 #include "afxdt_.h"
+#include "afxcheck_.h"
+#include "afxrich_.h"
 
 /// A pair of arrows that count a position up and down, usually that of the entry field at
 /// its side (its buddy).

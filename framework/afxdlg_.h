@@ -36,9 +36,20 @@ public:
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     using CWnd::Create;
     /// Creates a modeless dialog from a template in memory. @return FALSE on failure
-    BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr);
+    /// @param lpDialogInit initialisation data (RT_DLGINIT); may be null
+    ///@{
+    virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                                void* lpDialogInit = nullptr);
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
+    ///@}
     /// Prepares a modal dialog from a template in memory, which must outlive DoModal.
-    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr);
+    ///@{
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                           void* lpDialogInit = nullptr);
+    BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
+    ///@}
+    /// The dialog's number in the help file.
+    void SetHelpID(UINT nIDR) { m_nIDHelp = nIDR; }
 
     /// Runs the dialog until EndDialog.
     /// @return what EndDialog was given; -1 if the dialog could not be created.
@@ -81,6 +92,10 @@ protected:
     LPCTSTR m_lpszTemplateName = nullptr;
     /// The template in memory; null for one of the resources.
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
+    /// Its initialisation data; may be null.
+    void* m_lpDialogInit = nullptr;
+    /// The template in memory of the system that CreateIndirect or InitModalIndirect was given; not owned.
+    HGLOBAL m_hDialogTemplate = nullptr;
     /// The owner that the dialog was constructed with.
     CWnd* m_pParentWnd = nullptr;
 

@@ -1,7 +1,8 @@
 /// @file
 /// Dates and times. Included by afxcmn.h.
 ///
-/// A member that is one message to the control means what that message means, and has its result.
+/// A member that is one message to the control means what that message means, and has its result. Where a
+/// CTime takes the place of a SYSTEMTIME, a time that it cannot hold is written as its beginning, 1970.
 #pragma once
 
 #include "afxwin.h"
@@ -29,6 +30,10 @@ public:
     BOOL SetCurSel(const SYSTEMTIME* pDateTime) {
         return AfxSendPointer(m_hWnd, MCM_SETCURSEL, 0, pDateTime);
     }
+    BOOL GetCurSel(CTime& refDateTime) const;
+    BOOL SetCurSel(const CTime& refDateTime);
+    BOOL GetSelRange(CTime& refMinRange, CTime& refMaxRange) const;
+    BOOL SetSelRange(const CTime& refMinRange, const CTime& refMaxRange);
     BOOL GetSelRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange) const;
     BOOL SetSelRange(const SYSTEMTIME* pMinRange, const SYSTEMTIME* pMaxRange);
     int GetMaxSelCount() const { return AfxSendInt(m_hWnd, MCM_GETMAXSELCOUNT); }
@@ -40,11 +45,18 @@ public:
     /// @return GDTR_...: the limits that there are
     ///@{
     DWORD GetRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange) const;
+    DWORD GetRange(CTime* pMinRange, CTime* pMaxRange) const;
     BOOL SetRange(const SYSTEMTIME* pMinRange, const SYSTEMTIME* pMaxRange);
+    BOOL SetRange(const CTime* pMinRange, const CTime* pMaxRange);
     ///@}
     /// @param dwFlags GMR_... @return the months
-    int GetMonthRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange, DWORD dwFlags) const;
     ///@{
+    int GetMonthRange(CTime& refMinRange, CTime& refMaxRange, DWORD dwFlags) const;
+    int GetMonthRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange, DWORD dwFlags) const;
+    ///@}
+    ///@{
+    BOOL GetToday(CTime& refDateTime) const;
+    void SetToday(const CTime& refDateTime);
     BOOL GetToday(LPSYSTEMTIME pDateTime) const { return AfxSendPointer(m_hWnd, MCM_GETTODAY, 0, pDateTime); }
     void SetToday(const SYSTEMTIME* pDateTime) { AfxSendPointer(m_hWnd, MCM_SETTODAY, 0, pDateTime); }
     /// @param nMonths as many as GetMonthRange tells with GMR_DAYSTATE; a bit a day
@@ -91,17 +103,21 @@ public:
     DWORD GetTime(LPSYSTEMTIME pTimeDest) const {
         return static_cast<DWORD>(AfxSendPointer(m_hWnd, DTM_GETSYSTEMTIME, 0, pTimeDest));
     }
-    BOOL SetTime(const SYSTEMTIME* pTimeNew) {
+    BOOL SetTime(const SYSTEMTIME* pTimeNew = nullptr) {
         const SYSTEMTIME none = {}; // not every system takes null
         return AfxSendPointer(m_hWnd, DTM_SETSYSTEMTIME, pTimeNew != nullptr ? GDT_VALID : GDT_NONE,
                               pTimeNew != nullptr ? pTimeNew : &none);
     }
+    DWORD GetTime(CTime& timeDest) const;
+    BOOL SetTime(const CTime* pTimeNew);
     ///@}
     /// The earliest and the latest time; null leaves that end open, or is not wanted.
     /// @return getting: GDTR_...: the limits that there are
     ///@{
     DWORD GetRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange) const;
+    DWORD GetRange(CTime* pMinRange, CTime* pMaxRange) const;
     BOOL SetRange(const SYSTEMTIME* pMinRange, const SYSTEMTIME* pMaxRange);
+    BOOL SetRange(const CTime* pMinRange, const CTime* pMaxRange);
     ///@}
     /// @param pstrFormat as "yyyy'/'MM'/'dd"; null is the format of the style
     BOOL SetFormat(LPCTSTR pstrFormat) { return AfxSendPointer(m_hWnd, DTM_SETFORMAT, 0, pstrFormat); }

@@ -7,6 +7,8 @@
 #define __AFXEXT_H__
 
 #include "afxcmn.h"
+#include "afxdisp.h"
+#include "afxdlgs.h"
 
 /// Height in pixels of the device's bars at the top and at the bottom of the screen.
 constexpr int AFX_DEVICE_BAR_HEIGHT = 26;

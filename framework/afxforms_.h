@@ -306,4 +306,30 @@ using UpdateUi = Command<PointerL<CCmdUI*>>;
 
 } // namespace form
 
+/// A line of ON_MESSAGE, for the first form that the handler has.
+template <class Handler>
+AFX_MSGMAP_ENTRY MessageEntry(UINT message, Handler pfn) {
+    using namespace form;
+    using NoResult = Wnd<void, W, L>;
+    using Narrow = Wnd<LONG, FromW<UINT>, FromL<LONG>>;
+    using NarrowAnswer = Wnd<LRESULT, FromW<UINT>, FromL<LONG>>;
+    using WideNarrow = Wnd<LONG, W, L>;
+    using NarrowNoResult = Wnd<void, FromW<UINT>, FromL<LONG>>;
+    using Empty = Wnd<LRESULT>;
+    using Form = std::conditional_t<
+        kIsOfForm<NoResult, Handler>, NoResult,
+        std::conditional_t<
+            kIsOfForm<Narrow, Handler>, Narrow,
+            std::conditional_t<
+                kIsOfForm<NarrowAnswer, Handler>, NarrowAnswer,
+                std::conditional_t<
+                    kIsOfForm<WideNarrow, Handler>, WideNarrow,
+                    std::conditional_t<
+                        kIsOfForm<NarrowNoResult, Handler>, NarrowNoResult,
+                        std::conditional_t<kIsOfForm<Empty, Handler>, Empty,
+                                           std::conditional_t<kIsOfForm<Void, Handler>, Void, Message>>>>>>>;
+    return {message, 0, 0, 0, &Form::Dispatch, AfxEraseHandler(static_cast<typename Form::Handler>(pfn)),
+            nullptr};
+}
+
 } // namespace fieldkit::detail

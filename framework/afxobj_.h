@@ -154,6 +154,20 @@ AFX_CORE CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObje
 /// Names where memory comes from, in older debug programs: here plain new.
 #define DEBUG_NEW new
 
+/// Marks of older compilers, which mean nothing here.
+///@{
+#define BASED_CODE
+#define AFX_CDECL
+#define AFX_EXT_CLASS
+#define AFX_EXT_API
+#define AFX_EXT_DATA
+///@}
+/// A parameter that is not used.
+///@{
+#define UNUSED_ALWAYS(x) static_cast<void>(x)
+#define UNUSED(x) static_cast<void>(x)
+///@}
+
 /// Reports a failed assertion and ends the program.
 [[noreturn]] AFX_CORE void AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
 /// Calls AssertValid, after an assertion that there is an object.
@@ -205,3 +219,12 @@ void AfxTrace(LPCSTR lpszFormat, Args... args) {
 ///@}
 /// Asserts that the object is of a kind.
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
+
+/// Asserts, and throws in the release build as well: ENSURE.
+///@{
+#define ATLASSERT(expr) ASSERT(expr)
+#define ATLTRACE TRACE
+#define ENSURE(cond) ENSURE_THROW(cond, AfxThrowInvalidArgException())
+#define ENSURE_THROW(cond, exception) ((cond) ? static_cast<void>(0) : (exception))
+#define ASSUME(cond) ASSERT(cond)
+///@}

@@ -6,8 +6,9 @@
 
 #include "afxwm_.h"
 
-/// A line for any window message: `LRESULT memberFxn(WPARAM, LPARAM)`.
-#define ON_MESSAGE(message, memberFxn) AFX_ENTRY_(message, 0, 0, 0, Message, memberFxn)
+/// A line for any window message: `LRESULT memberFxn(WPARAM, LPARAM)`. Handlers of older programs, which have
+/// no result, no arguments or UINT and LONG in their place, are taken as well.
+#define ON_MESSAGE(message, memberFxn) fieldkit::detail::MessageEntry(message, memberFxn),
 /// The same for a message of RegisterWindowMessage, whose number stands in a variable.
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                   \
     AFX_REGISTERED_ENTRY_(nMessageVariable, Message, memberFxn)

@@ -20,6 +20,7 @@
 /// Keeps the system's macros min and max away.
 #define NOMINMAX
 #endif
+#include "afxver_.h"
 #include <windows.h>
 #include <tchar.h>
 

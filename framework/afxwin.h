@@ -8,6 +8,7 @@
 
 #include "afx.h"
 #include "afxcoll.h"
+#include "atlconv.h"
 #include "afxtempl.h"
 #include "atltypes.h"
 

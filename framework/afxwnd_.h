@@ -4,6 +4,8 @@
 
 #include "afxwndon_.h"
 
+#include <commctrl.h>
+
 class CDataExchange;
 struct CCreateContext;
 
@@ -15,6 +17,7 @@ enum AFX_WND_FLAGS : UINT {
     WF_OKBUTTON = 0x0020,      ///< The title bar carries an OK button.
     WF_SHOWSET = 0x0040,       ///< ShowWindow has been called for it.
     WF_CAPTIONACTIVE = 0x0080, ///< The title bar is drawn as that of the active window.
+    WF_TOOLTIPS = 0x0200,      ///< Shows tips by itself.
     WF_INITFAILED = 0x0100,    ///< An exception came out of its initialisation: it must go.
 };
 
@@ -47,6 +50,14 @@ class AFX_CORE CWnd : public CWndHandlers {
 public:
     CWnd() = default;
     ~CWnd() override;
+
+    /// Places in the order of windows, for SetWindowPos alone; no windows.
+    ///@{
+    static const CWnd& wndTop;
+    static const CWnd& wndBottom;
+    static const CWnd& wndTopMost;
+    static const CWnd& wndNoTopMost;
+    ///@}
 
     /// The window, or null.
     operator HWND() const { return m_hWnd; }
@@ -106,6 +117,8 @@ public:
     /// @param nFlags SetWindowPos flags for a redraw of the frame, or 0 for none.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    static BOOL AFXAPI ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
+    static BOOL AFXAPI ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL IsWindowEnabled() const;
     BOOL ShowWindow(int nCmdShow);
@@ -233,6 +246,18 @@ public:
     /// Walks from the message's window up to hWndStop and offers it to each.
     static BOOL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
 
+    // --- Tips ----------------------------------------------------------------------
+    /// Lets the framework show tips for the children of this window. It asks the window for the text by
+    /// TTN_NEEDTEXT from control 0. @return TRUE
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    /// What a point (client coordinates) shows a tip for. Here: the child.
+    /// @param pTI receives the tool; may be null @return its number; -1 for none
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
+    /// Shows or hides the tip after a message; PreTranslateMessage calls it.
+    void FilterToolTipMessage(MSG* pMsg);
+    /// Hides the tip.
+    static void AFXAPI CancelToolTips(BOOL bKeys = FALSE);
+
     // --- Dialog items --------------------------------------------------------------
     /// The Win32 function of the same name for a control of this dialog.
     ///@{
@@ -249,6 +274,8 @@ public:
     ///@}
     /// Runs the initialisation data (RT_DLGINIT) of a dialog template.
     BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    /// The same with the data itself. @param nSize its bytes; it ends with a word 0 before them
+    BOOL ExecuteDlgInit(const void* lpResource, size_t nSize);
     /// Lets the system handle a dialog key. @return TRUE if it was one
     BOOL IsDialogMessage(LPMSG lpMsg);
     /// Exchanges data between members and controls.

@@ -14,6 +14,8 @@ inline HWND GetNextWindow(HWND hWnd, UINT wCmd) {
     return ::GetWindow(hWnd, wCmd);
 }
 
+class CBitmap;
+class CDC;
 class CFont;
 class CMenu;
 class CRgn;
@@ -113,12 +115,42 @@ public:
 
     /// Painting.
     ///@{
+    /// To be given back by ReleaseDC. @param prgnClip null for none; the context owns it
+    CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
+    /// Let the window draw itself, or its client area, into a context. @param dwFlags PRF_...
+    ///@{
+    void Print(CDC* pDC, DWORD dwFlags) const;
+    void PrintClient(CDC* pDC, DWORD dwFlags) const;
+    ///@}
     void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE);
     void ValidateRgn(CRgn* pRgn);
     BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE) { return ::GetUpdateRect(m_hWnd, lpRect, bErase); }
     int GetUpdateRgn(CRgn* pRgn, BOOL bErase = FALSE);
     BOOL LockWindowUpdate() { return ::LockWindowUpdate(m_hWnd); }
     static void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
+    ///@}
+
+    /// Lists and combo boxes of this dialog that show files. @return FALSE on failure
+    ///@{
+    int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType) {
+        return ::DlgDirList(m_hWnd, lpPathSpec, nIDListBox, nIDStaticPath, nFileType);
+    }
+    int DlgDirListComboBox(LPTSTR lpPathSpec, int nIDComboBox, int nIDStaticPath, UINT nFileType) {
+        return ::DlgDirListComboBox(m_hWnd, lpPathSpec, nIDComboBox, nIDStaticPath, nFileType);
+    }
+    BOOL DlgDirSelect(LPTSTR lpString, int nSize, int nIDListBox) {
+        return ::DlgDirSelectEx(m_hWnd, lpString, nSize, nIDListBox);
+    }
+    /// The room at lpString is MAX_PATH.
+    BOOL DlgDirSelect(LPTSTR lpString, int nIDListBox) {
+        return DlgDirSelect(lpString, MAX_PATH, nIDListBox);
+    }
+    BOOL DlgDirSelectComboBox(LPTSTR lpString, int nSize, int nIDComboBox) {
+        return ::DlgDirSelectComboBoxEx(m_hWnd, lpString, nSize, nIDComboBox);
+    }
+    BOOL DlgDirSelectComboBox(LPTSTR lpString, int nIDComboBox) {
+        return DlgDirSelectComboBox(lpString, MAX_PATH, nIDComboBox);
+    }
     ///@}
 
     /// Caret, clipboard, dropped files, input.
@@ -140,6 +172,19 @@ public:
     BOOL RegisterTouchWindow(BOOL bRegister = TRUE, ULONG ulFlags = 0) {
         return bRegister ? ::RegisterTouchWindow(m_hWnd, ulFlags) : ::UnregisterTouchWindow(m_hWnd);
     }
+    BOOL IsTouchWindow() const { return ::IsTouchWindow(m_hWnd, nullptr); }
+    static CWnd* GetOpenClipboardWindow();
+    static CWnd* GetClipboardViewer();
+    void CreateCaret(CBitmap* pBitmap);
+    /// Opens help: a topic of the program's old help file (HELP_...), or of its .chm file (HH_...).
+    ///@{
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    BOOL SetWindowContextHelpId(DWORD dwContextHelpId) {
+        return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
+    }
+    DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
+    ///@}
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
     }

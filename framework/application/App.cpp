@@ -150,6 +150,23 @@ void CWinApp::OnHelp() {
         ::ShellExecute(HandleOf(m_pMainWnd), nullptr, m_pszHelpFilePath, nullptr, nullptr, SW_SHOWNORMAL);
 }
 
+void CWinApp::WinHelp(DWORD_PTR, UINT) {
+    OnHelp();
+}
+
+void CWinApp::HtmlHelp(DWORD_PTR, UINT) {
+    OnHelp();
+}
+
+void CWinApp::DoWaitCursor(int nCode) {
+    if (nCode > 0)
+        BeginWaitCursor();
+    else if (nCode < 0)
+        EndWaitCursor();
+    else
+        RestoreWaitCursor();
+}
+
 void CWinApp::OnAppExit() {
     if (m_pMainWnd != nullptr)
         m_pMainWnd->SendMessage(WM_CLOSE);

@@ -101,3 +101,94 @@ CMonthCalCtrl* CDateTimeCtrl::GetMonthCalCtrl() const {
 CFont* CDateTimeCtrl::GetMonthCalFont() const {
     return CFont::FromHandle(AfxSendHandle(m_hWnd, DTM_GETMCFONT, 0, HFONT()));
 }
+
+// --- The same with CTime ------------------------------------------------------------------
+
+namespace {
+
+CTime ToTime(const SYSTEMTIME& time) {
+    try {
+        return CTime(time);
+    } catch (CInvalidArgException* e) { // the control knows more years
+        e->Delete();
+        return CTime();
+    }
+}
+
+/// What a control takes for a time; null for null.
+class CSystemTime {
+public:
+    explicit CSystemTime(const CTime* pTime) : m_bThere(pTime != nullptr && pTime->GetAsSystemTime(m_time)) {}
+    operator const SYSTEMTIME*() const { return m_bThere ? &m_time : nullptr; }
+
+private:
+    SYSTEMTIME m_time = {};
+    bool m_bThere;
+};
+
+/// Asks for two times.
+template <class Ask>
+auto AskTimes(CTime* pFirst, CTime* pSecond, Ask ask) {
+    SYSTEMTIME first = {};
+    SYSTEMTIME second = {};
+    const auto result = ask(&first, &second);
+    if (pFirst != nullptr)
+        *pFirst = ToTime(first);
+    if (pSecond != nullptr)
+        *pSecond = ToTime(second);
+    return result;
+}
+
+/// Asks for one.
+template <class Ask>
+auto AskTime(CTime& time, Ask ask) {
+    SYSTEMTIME systemTime = {};
+    const auto result = ask(&systemTime);
+    time = ToTime(systemTime);
+    return result;
+}
+
+} // namespace
+
+BOOL CMonthCalCtrl::GetCurSel(CTime& refDateTime) const {
+    return AskTime(refDateTime, [this](SYSTEMTIME* p) { return GetCurSel(p); });
+}
+BOOL CMonthCalCtrl::SetCurSel(const CTime& refDateTime) {
+    return SetCurSel(static_cast<const SYSTEMTIME*>(CSystemTime(&refDateTime)));
+}
+BOOL CMonthCalCtrl::GetSelRange(CTime& refMinRange, CTime& refMaxRange) const {
+    return AskTimes(&refMinRange, &refMaxRange,
+                    [this](SYSTEMTIME* p, SYSTEMTIME* q) { return GetSelRange(p, q); });
+}
+BOOL CMonthCalCtrl::SetSelRange(const CTime& refMinRange, const CTime& refMaxRange) {
+    return SetSelRange(CSystemTime(&refMinRange), CSystemTime(&refMaxRange));
+}
+DWORD CMonthCalCtrl::GetRange(CTime* pMinRange, CTime* pMaxRange) const {
+    return AskTimes(pMinRange, pMaxRange, [this](SYSTEMTIME* p, SYSTEMTIME* q) { return GetRange(p, q); });
+}
+BOOL CMonthCalCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange) {
+    return SetRange(CSystemTime(pMinRange), CSystemTime(pMaxRange));
+}
+int CMonthCalCtrl::GetMonthRange(CTime& refMinRange, CTime& refMaxRange, DWORD dwFlags) const {
+    return AskTimes(&refMinRange, &refMaxRange,
+                    [&](SYSTEMTIME* p, SYSTEMTIME* q) { return GetMonthRange(p, q, dwFlags); });
+}
+BOOL CMonthCalCtrl::GetToday(CTime& refDateTime) const {
+    return AskTime(refDateTime, [this](SYSTEMTIME* p) { return GetToday(p); });
+}
+void CMonthCalCtrl::SetToday(const CTime& refDateTime) {
+    SetToday(CSystemTime(&refDateTime));
+}
+
+DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {
+    return AskTime(timeDest, [this](SYSTEMTIME* p) { return GetTime(p); });
+}
+BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew) {
+    return SetTime(CSystemTime(pTimeNew));
+}
+DWORD CDateTimeCtrl::GetRange(CTime* pMinRange, CTime* pMaxRange) const {
+    return AskTimes(pMinRange, pMaxRange, [this](SYSTEMTIME* p, SYSTEMTIME* q) { return GetRange(p, q); });
+}
+BOOL CDateTimeCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange) {
+    return SetRange(CSystemTime(pMinRange), CSystemTime(pMaxRange));
+}

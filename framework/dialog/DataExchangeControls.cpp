@@ -89,6 +89,30 @@ void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {
     value.ReleaseBuffer();
 }
 
+void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    if (pDX->m_bSaveAndValidate)
+        return DDX_LBString(pDX, nIDC, value);
+    const HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
+    const int nItem =
+        AfxSendPointer(hWndCtrl, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), value.GetString());
+    if (nItem != LB_ERR)
+        AfxSendInt(hWndCtrl, LB_SETCURSEL, static_cast<WPARAM>(nItem));
+}
+
+void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    const HWND hWndCtrl = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        value = AfxControlText(hWndCtrl);
+        return;
+    }
+    const int nItem =
+        AfxSendPointer(hWndCtrl, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), value.GetString());
+    if (nItem != CB_ERR)
+        AfxSendInt(hWndCtrl, CB_SETCURSEL, static_cast<WPARAM>(nItem));
+    else
+        AfxSetControlText(hWndCtrl, value);
+}
+
 void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
     const HWND hWndCtrl = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
@@ -104,4 +128,36 @@ void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
         AfxSetControlText(hWndCtrl, value); // the search ignores case, the text must not change
     else if (nItem == CB_ERR)
         AfxSendPointer(hWndCtrl, CB_SELECTSTRING, kFromTop, value.GetString());
+}
+
+// --- Positions and addresses ----------------------------------------------------------------
+
+void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value) {
+    const HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = ::GetScrollPos(hWndCtrl, SB_CTL);
+    else
+        ::SetScrollPos(hWndCtrl, SB_CTL, value, TRUE);
+}
+
+void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value) {
+    const HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = AfxSendInt(hWndCtrl, TBM_GETPOS);
+    else
+        AfxSendInt(hWndCtrl, TBM_SETPOS, TRUE, value);
+}
+
+void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value) {
+    const HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
+    if (!pDX->m_bSaveAndValidate) {
+        AfxSendInt(hWndCtrl, IPM_SETADDRESS, 0, static_cast<LPARAM>(value));
+        return;
+    }
+    constexpr int kFields = 4;
+    DWORD dwAddress = 0;
+    const int nFilled = AfxSendPointer(hWndCtrl, IPM_GETADDRESS, 0, &dwAddress);
+    if (nFilled != 0 && nFilled != kFields)
+        AfxRefuse(pDX, AFX_IDP_PARSE_INT);
+    value = nFilled != 0 ? dwAddress : 0;
 }

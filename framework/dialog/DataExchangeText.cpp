@@ -12,6 +12,14 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value) {
         AfxSetControlText(hWndCtrl, value);
 }
 
+void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen) {
+    const HWND hWndCtrl = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        ::GetWindowText(hWndCtrl, value, nMaxLen);
+    else
+        AfxSetControlText(hWndCtrl, value);
+}
+
 namespace {
 
 template <class Number>
@@ -45,6 +53,12 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value) {
     ExchangeNumber(pDX, nIDC, value, AFX_IDP_PARSE_INT);
 }
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) {
+    ExchangeNumber(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
+}
+void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value) {
+    ExchangeNumber(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value) {
     ExchangeNumber(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
 }
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value) {
@@ -93,6 +107,21 @@ void CheckRange(CDataExchange* pDX, Number value, Number minVal, Number maxVal, 
 void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
     CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
 }
+void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
 void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) {
     CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
 }
@@ -107,4 +136,12 @@ void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal
 }
 void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal) {
     CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_REAL_RANGE);
+}
+void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    CheckRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+    if (pDX->m_bSaveAndValidate)
+        return;
+    const HWND hWndCtrl = pDX->PrepareCtrl(static_cast<int>(pDX->m_idLastControl));
+    AfxSendInt(hWndCtrl, TBM_SETRANGEMIN, FALSE, static_cast<LPARAM>(minVal));
+    AfxSendInt(hWndCtrl, TBM_SETRANGEMAX, TRUE, static_cast<LPARAM>(maxVal));
 }

@@ -92,19 +92,36 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
     return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
 }
 
-BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
     return CreateDlgIndirect(lpDialogTemplate, pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd());
 }
 
-BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
+BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    const auto* const pTemplate = static_cast<LPCDLGTEMPLATE>(::GlobalLock(hDialogTemplate));
+    const BOOL bCreated = CreateIndirect(pTemplate, pParentWnd);
+    ::GlobalUnlock(hDialogTemplate);
+    return bCreated;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
     m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
     if (m_pParentWnd == nullptr)
         m_pParentWnd = pParentWnd;
     return TRUE;
 }
 
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    m_hDialogTemplate = hDialogTemplate;
+    return InitModalIndirect(static_cast<LPCDLGTEMPLATE>(nullptr), pParentWnd);
+}
+
 /// Creates the window from the template in memory, else from the named resource.
 BOOL CDialog::CreateFromResource(CWnd* pParentWnd) {
+    if (m_hDialogTemplate != nullptr)
+        return CreateIndirect(m_hDialogTemplate, pParentWnd);
     if (m_lpDialogTemplate != nullptr)
         return CreateDlgIndirect(m_lpDialogTemplate, pParentWnd);
     const HINSTANCE hInstance = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
@@ -169,6 +186,8 @@ void CDialog::EndDialog(int nResult) {
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     if (m_lpDialogTemplate == nullptr)
         ExecuteDlgInit(m_lpszTemplateName);
+    else if (m_lpDialogInit != nullptr)
+        ExecuteDlgInit(m_lpDialogInit, SIZE_MAX);
     return Default(); // calls OnInitDialog through the system's dialog procedure
 }
 

@@ -290,7 +290,10 @@ int CPropertySheet::GetPageIndex(CPropertyPage* pPage) const {
 }
 
 int CPropertySheet::GetActiveIndex() const {
-    return m_hWnd != nullptr ? GetPageIndex(GetActivePage()) : static_cast<int>(m_psh.nStartPage);
+    if (m_hWnd == nullptr)
+        return static_cast<int>(m_psh.nStartPage);
+    // The tabs, which wizards have too, still know it when the sheet has been ended.
+    return AfxSendInt(GetTabControl()->GetSafeHwnd(), TCM_GETCURSEL);
 }
 
 CPropertyPage* CPropertySheet::GetActivePage() const {

@@ -32,6 +32,7 @@ public:
     CModalScope* m_pModal = nullptr; ///< The innermost one.
     /// The control whose data is being exchanged; keeps DDX from being entered twice.
     HWND m_hLockoutNotifyWindow = nullptr;
+    HWND m_hToolTip = nullptr; ///< The tips of EnableToolTips.
     CWinThread* m_pThread = nullptr;
     /// The user is being told of an exception.
     bool m_bTelling = false;

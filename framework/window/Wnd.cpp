@@ -12,6 +12,22 @@ HWND CWnd::GetSafeHwnd() const {
     return this != nullptr ? m_hWnd : nullptr;
 }
 
+namespace {
+
+/// Never destroyed: it has no window to be destroyed with it.
+const CWnd& PlaceInOrder(HWND hWnd) {
+    auto* pWnd = new CWnd;
+    pWnd->m_hWnd = hWnd;
+    return *pWnd;
+}
+
+} // namespace
+
+const CWnd& CWnd::wndTop = PlaceInOrder(HWND_TOP);
+const CWnd& CWnd::wndBottom = PlaceInOrder(HWND_BOTTOM);
+const CWnd& CWnd::wndTopMost = PlaceInOrder(HWND_TOPMOST);
+const CWnd& CWnd::wndNoTopMost = PlaceInOrder(HWND_NOTOPMOST);
+
 // --- Style and state -----------------------------------------------------------------------
 
 DWORD CWnd::GetStyle() const {
@@ -41,6 +57,14 @@ BOOL ModifyWindowLong(HWND hWnd, int nIndex, DWORD dwRemove, DWORD dwAdd, UINT n
 
 BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     return ModifyWindowLong(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL AFXAPI CWnd::ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return ModifyWindowLong(hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL AFXAPI CWnd::ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return ModifyWindowLong(hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
 }
 
 BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {

@@ -69,15 +69,21 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
     const HRSRC hResource = ::FindResource(hInstance, lpszResourceName, MAKEINTRESOURCE(240));
     if (hResource == nullptr)
         return TRUE; // most dialogs have none
-    const auto* p = static_cast<const BYTE*>(::LockResource(::LoadResource(hInstance, hResource)));
-    const BYTE* const pEnd = p + ::SizeofResource(hInstance, hResource);
-    while (static_cast<size_t>(pEnd - p) >= sizeof(CInitEntry)) {
+    return ExecuteDlgInit(::LockResource(::LoadResource(hInstance, hResource)),
+                          ::SizeofResource(hInstance, hResource));
+}
+
+BOOL CWnd::ExecuteDlgInit(const void* lpResource, size_t nSize) {
+    const auto* p = static_cast<const BYTE*>(lpResource);
+    while (nSize >= sizeof(CInitEntry)) {
         const auto* pEntry = reinterpret_cast<const CInitEntry*>(p);
-        p += sizeof(CInitEntry);
         if (pEntry->nID == 0)
             return TRUE;
-        if (pEntry->dwLength > static_cast<size_t>(pEnd - p))
+        p += sizeof(CInitEntry);
+        nSize -= sizeof(CInitEntry);
+        if (pEntry->dwLength > nSize)
             return FALSE;
+        nSize -= pEntry->dwLength;
         const UINT message = pEntry->nMessage == kInitLbAddstring   ? LB_ADDSTRING
                              : pEntry->nMessage == kInitCbAddstring ? CB_ADDSTRING
                                                                     : 0U;

@@ -12,6 +12,12 @@ namespace {
 bool IsColorMessage(UINT message) {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
 }
+// A list whose items are dragged tells its parent by a message of its own.
+bool IsDragList(UINT message) {
+    constexpr UINT kFirstRegistered = 0xC000;
+    static const UINT nDragMessage = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
+    return message >= kFirstRegistered && message == nDragMessage;
+}
 AFX_CTLCOLOR ColorOf(UINT message, WPARAM wParam, LPARAM lParam) {
     return {reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam), message - WM_CTLCOLORMSGBOX};
 }
@@ -60,6 +66,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         // Not every notification has a header behind it: the system sends itself some.
         return lParam != 0 && OnNotify(wParam, lParam, pResult);
     }
+    if (IsDragList(message))
+        return ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(wParam)), pResult);
     AFX_CTLCOLOR color;
     if (IsColorMessage(message)) {
         color = ColorOf(message, wParam, lParam);
@@ -91,6 +99,18 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     return nID != 0 && OnCmdMsg(nID, static_cast<int>(HIWORD(wParam)), nullptr, nullptr);
 }
 
+namespace {
+
+/// The number of the control that a notification is from. All tips are 0: what they give is no number.
+UINT SenderOf(const NMHDR& header) {
+    if (header.code >= TTN_LAST && header.code <= TTN_FIRST)
+        return 0;
+    const int nID = ::GetDlgCtrlID(header.hwndFrom);
+    return nID != 0 ? static_cast<UINT>(nID) : static_cast<UINT>(header.idFrom);
+}
+
+} // namespace
+
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     auto* pNMHDR = reinterpret_cast<NMHDR*>(lParam);
     const CThreadState& state = CThreadState::Get();
@@ -99,9 +119,7 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     if (ReflectLastMsg(pNMHDR->hwndFrom, pResult))
         return TRUE;
     AFX_NOTIFY notify = {pResult, pNMHDR};
-    const int nID = ::GetDlgCtrlID(pNMHDR->hwndFrom);
-    const UINT nCtlID = nID != 0 ? static_cast<UINT>(nID) : static_cast<UINT>(pNMHDR->idFrom);
-    return OnCmdMsg(nCtlID, static_cast<int>(pNMHDR->code), &notify, nullptr);
+    return OnCmdMsg(SenderOf(*pNMHDR), static_cast<int>(pNMHDR->code), &notify, nullptr);
 }
 
 // --- Reflection ------------------------------------------------------------------------------

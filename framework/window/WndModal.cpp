@@ -6,7 +6,9 @@
 
 using namespace fieldkit::detail;
 
-BOOL CWnd::PreTranslateMessage(MSG*) {
+BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    if (m_nFlags & WF_TOOLTIPS)
+        FilterToolTipMessage(pMsg);
     return FALSE;
 }
 

@@ -131,3 +131,30 @@ CPoint CWndSystem::GetCaretPos() {
 CWnd* CWndSystem::GetClipboardOwner() {
     return CWnd::FromHandle(::GetClipboardOwner());
 }
+
+CDC* CWndSystem::GetDCEx(CRgn* prgnClip, DWORD flags) {
+    return CDC::FromHandle(::GetDCEx(m_hWnd, RegionOf(prgnClip), flags));
+}
+void CWndSystem::Print(CDC* pDC, DWORD dwFlags) const {
+    ::SendMessage(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->m_hDC), static_cast<LPARAM>(dwFlags));
+}
+void CWndSystem::PrintClient(CDC* pDC, DWORD dwFlags) const {
+    ::SendMessage(m_hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(pDC->m_hDC), static_cast<LPARAM>(dwFlags));
+}
+CWnd* CWndSystem::GetOpenClipboardWindow() {
+    return CWnd::FromHandle(::GetOpenClipboardWindow());
+}
+CWnd* CWndSystem::GetClipboardViewer() {
+    return CWnd::FromHandle(::GetClipboardViewer());
+}
+void CWndSystem::CreateCaret(CBitmap* pBitmap) {
+    ::CreateCaret(m_hWnd, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), 0, 0);
+}
+void CWndSystem::WinHelp(DWORD_PTR dwData, UINT nCmd) {
+    if (CWinApp* pApp = AfxGetApp())
+        ::WinHelp(::GetAncestor(m_hWnd, GA_ROOT), pApp->m_pszHelpFilePath, nCmd, dwData);
+}
+void CWndSystem::HtmlHelp(DWORD_PTR dwData, UINT nCmd) {
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->HtmlHelp(dwData, nCmd);
+}

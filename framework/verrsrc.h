@@ -1,0 +1,5 @@
+/// @file
+/// What newer resource scripts include for their version.
+#pragma once
+
+#include <winver.h>
