@@ -42,6 +42,14 @@ build_sample() {
     logged build-fieldbook ninja -C "$build/fieldbook" -j"$(nproc)" "$@"
 }
 
+# Programs that others could have brought, built like the sample, and the test that drives them.
+build_programs() {
+    logged configure-programs cmake -S "$root/tests/programs" -B "$build/programs" -G Ninja \
+        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
+        -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release
+    logged build-programs ninja -C "$build/programs" -j"$(nproc)"
+}
+
 # start_app EXE ARGUMENTS...: EXE is a path; the installed DLLs are found.
 start_app() {
     local before

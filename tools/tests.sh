@@ -12,7 +12,7 @@ run_tests() {
     local built=$SECONDS lane
     start_lane native tests_without_screen "$1"
     start_lane long tests_on_second_screen "$1"
-    run_programs "$1" short win64 sample
+    run_programs "$1" short win64 sample programs
     for lane in native long; do
         end_lane "$lane"
     done
@@ -135,7 +135,7 @@ start_test() {
     case $preset in
     host) timeout -k 5 "$test_timeout" "$@" ;;
     arm) timeout -k 5 "$test_timeout" qemu-arm -L /usr/arm-linux-gnueabi "$@" ;;
-    win64 | sample) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
+    win64 | sample | programs) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
     esac
 }
 

@@ -1,0 +1,52 @@
+#include "Program.h"
+#include "../stationsetup/resource.h"
+
+#include <commctrl.h>
+
+using drive::Until;
+
+namespace {
+
+// The pages are dialogs in the sheet; the one that is shown comes first.
+HWND PageItem(const drive::Program& program, int nID) {
+    HWND hPage = nullptr;
+    EXPECT_TRUE(Until([&] {
+        hPage = ::FindWindowExW(program.Main(), nullptr, L"#32770", nullptr);
+        return ::GetDlgItem(hPage, nID) != nullptr;
+    }));
+    return ::GetDlgItem(hPage, nID);
+}
+
+bool IsTipShown() {
+    HWND hTip = nullptr;
+    while ((hTip = ::FindWindowExW(nullptr, hTip, TOOLTIPS_CLASSW, nullptr)) != nullptr)
+        if (::IsWindowVisible(hTip))
+            return true;
+    return false;
+}
+
+} // namespace
+
+TEST(ProgramsTest, StationSetupFillsItsListsAndKeepsItsSettings) {
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Levelling Tools");
+    for (const wchar_t* const pszExpected :
+         {L"-17", L"-30"}) { // what the second run finds is the first one's
+        const drive::Program program(L"StationSetup", L"Station setup");
+        const HWND hPrism = PageItem(program, IDC_PRISM);
+        EXPECT_EQ(::SendMessage(hPrism, CB_GETCOUNT, 0, 0), 4);
+        EXPECT_EQ(::SendMessage(PageItem(program, IDC_MODEL), CB_GETCOUNT, 0, 0), 4);
+        drive::FocusByTap(hPrism);
+        pen::TypeKeys({VK_RETURN}); // closes the list
+        pen::TypeKeys({VK_DOWN});
+        EXPECT_TRUE(
+            Until([&] { return drive::TextOf(PageItem(program, IDC_CONSTANT)).rfind(pszExpected, 0) == 0; }));
+        const POINT ok = drive::MiddleOf(program.Item(IDOK));
+        for (const LONG x : {210, 215}) // on the screen, and on the button
+            pen::Move({x, ok.y});
+        EXPECT_TRUE(Until(IsTipShown));
+        ::PostMessage(program.Main(), WM_COMMAND, IDOK, 0);
+        const HWND hSummary = program.Window(L"StationSetup");
+        EXPECT_TRUE(::PostMessage(hSummary, WM_COMMAND, IDOK, 0));
+        EXPECT_EQ(program.End(), 0U);
+    }
+}

@@ -1,0 +1,45 @@
+// PointBrowser.cpp : start and end of the program
+//
+
+#include "stdafx.h"
+#include "PointBrowser.h"
+#include "BrowserDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char THIS_FILE[] = __FILE__;
+#endif
+
+BEGIN_MESSAGE_MAP(CPointBrowserApp, CWinApp)
+	//{{AFX_MSG_MAP(CPointBrowserApp)
+	//}}AFX_MSG_MAP
+	ON_COMMAND(ID_HELP, CWinApp::OnHelp)
+END_MESSAGE_MAP()
+
+CPointBrowserApp::CPointBrowserApp()
+{
+}
+
+CPointBrowserApp theApp;
+
+BOOL CPointBrowserApp::InitInstance()
+{
+	if (!AfxOleInit())
+	{
+		AfxMessageBox(_T("COM"));
+		return FALSE;
+	}
+	AfxEnableControlContainer();
+	InitCommonControls();
+
+	CCommandLineInfo cmdInfo;
+	ParseCommandLine(cmdInfo);
+
+	CBrowserDlg dlg;
+	dlg.m_strPath = cmdInfo.m_strFileName;
+	m_pMainWnd = &dlg;
+	if (dlg.DoModal() == IDOK)
+		TRACE(_T("PointBrowser: %s\n"), dlg.m_strPath);
+	return FALSE;
+}

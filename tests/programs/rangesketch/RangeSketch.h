@@ -1,0 +1,20 @@
+// RangeSketch.h : the application class
+//
+
+#pragma once
+
+#include "resource.h"
+
+class CRangeSketchApp : public CWinApp
+{
+public:
+	CRangeSketchApp();
+	virtual BOOL InitInstance();
+	virtual int ExitInstance();
+	virtual BOOL OnIdle(LONG lCount);
+
+	afx_msg void OnAppAbout();
+	DECLARE_MESSAGE_MAP()
+};
+
+extern CRangeSketchApp theApp;

@@ -1,0 +1,81 @@
+// SketchWnd.h : the control that one draws in
+//
+
+#pragma once
+
+// What the control tells its parent with WM_COMMAND.
+#define SKN_CHANGED		1
+
+typedef CArray<CPoint, CPoint> CPointArray;
+
+class CSketchWnd : public CWnd
+{
+	DECLARE_DYNCREATE(CSketchWnd)
+
+public:
+	CSketchWnd();
+	virtual ~CSketchWnd();
+
+	// The name that the dialog's template has for it.
+	static BOOL RegisterWindowClass(HINSTANCE hInstance = NULL);
+	BOOL Create(CWnd* pParentWnd, const RECT& rect, UINT nID, DWORD dwStyle = WS_VISIBLE);
+
+// Attributes
+public:
+	const CPointArray& GetPoints() const { return m_points; }
+	// Millimetres of ground for a pixel.
+	void SetScale(int nScale);
+	int GetScale() const { return m_nScale; }
+	double GetLength() const;
+	void SetSnap(BOOL bSnap) { m_bSnap = bSnap; }
+	COLORREF SetLineColor(COLORREF crLine);
+	COLORREF GetLineColor() const { return m_crLine; }
+
+// Operations
+public:
+	void Clear();
+
+// Overrides
+protected:
+	virtual void PreSubclassWindow();
+	virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+
+// Implementation
+protected:
+	CPointArray m_points;
+	int m_nScale;
+	BOOL m_bSnap;
+	BOOL m_bDragging;
+	BOOL m_bBlink;
+	UINT_PTR m_nTimer;
+	COLORREF m_crLine;
+	CPoint m_ptDrag;
+	CBitmap m_bmpBuffer;
+	CSize m_sizeBuffer;
+	CBrush m_brPaper;
+	CFont m_font;
+	CPen m_penGrid;
+
+	void Draw(CDC* pDC, const CRect& rect);
+	void DrawGrid(CDC* pDC, const CRect& rect);
+	void DrawPoints(CDC* pDC);
+	void DrawNorth(CDC* pDC, const CRect& rect);
+	CPoint Snap(CPoint point) const;
+	void Changed();
+	void DrawRubber();
+
+	afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+	afx_msg void OnPaint();
+	afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+	afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+	afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+	afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+	afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+	afx_msg UINT OnGetDlgCode();
+	afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+	afx_msg void OnSetFocus(CWnd* pOldWnd);
+	afx_msg void OnKillFocus(CWnd* pNewWnd);
+	afx_msg void OnTimer(UINT nIDEvent);
+	afx_msg void OnDestroy();
+	DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,29 @@
+// OutputPage.h : where measurements are written to, and how
+//
+
+#pragma once
+
+class COutputPage : public CPropertyPage
+{
+	DECLARE_DYNCREATE(COutputPage)
+
+public:
+	COutputPage();
+
+// Dialog Data
+	enum { IDD = IDD_OUTPUT };
+	CListBox m_wndColumns;
+
+// Overrides
+	virtual BOOL OnInitDialog();
+	virtual BOOL OnKillActive();
+	virtual BOOL OnApply();
+
+protected:
+	virtual void DoDataExchange(CDataExchange* pDX);
+
+	afx_msg void OnBrowse();
+	afx_msg void OnSelchangeColumns();
+	afx_msg void OnSeparator(UINT nID);
+	DECLARE_MESSAGE_MAP()
+};

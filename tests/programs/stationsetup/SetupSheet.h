@@ -1,0 +1,31 @@
+// SetupSheet.h : the sheet
+//
+
+#pragma once
+
+#include "InstrumentPage.h"
+#include "AtmospherePage.h"
+#include "OutputPage.h"
+
+class CSetupSheet : public CPropertySheet
+{
+	DECLARE_DYNAMIC(CSetupSheet)
+
+public:
+	CSetupSheet(UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
+	CSetupSheet(LPCTSTR pszCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
+	virtual ~CSetupSheet();
+
+	virtual BOOL OnInitDialog();
+
+protected:
+	CInstrumentPage m_instrument;
+	CAtmospherePage m_atmosphere;
+	COutputPage m_output;
+
+	void AddPages();
+
+	afx_msg void OnDestroy();
+	afx_msg BOOL OnToolTipText(UINT id, NMHDR* pNMHDR, LRESULT* pResult);
+	DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,3 @@
+// stdafx.cpp : the precompiled header comes from here
+
+#include "stdafx.h"
