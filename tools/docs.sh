@@ -6,7 +6,8 @@ tutorial=$root/samples/tutorial
 
 # The reference of the public headers, build/docs/html/index.html. A warning is an error.
 run_docs() {
-    require doxygen
+    require doxygen python3
+    python3 "$root/tools/members.py" "$root" >"$root/docs/members.md"
     logged docs make_reference
     printf 'reference in %s\n' "${reference#"$root"/}/html/index.html"
 }

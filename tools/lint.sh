@@ -11,6 +11,7 @@ run_lint() {
     logged lint-arrows check_arrows
     logged lint-names check_names
     logged lint-subjects check_subjects
+    logged lint-members check_members
     logged lint-headers check_headers
     logged lint-configure configure_for_lint
     logged lint-tidy tidy_all
@@ -48,6 +49,13 @@ check_subjects() {
     found=$(git log --no-merges --format='%h %s' f1691c1..HEAD | awk 'length > 80')
     [[ -z $found ]] || printf 'subjects of more than 72 characters:\n%s\n' "$found"
     [[ -z $found ]]
+}
+
+# The page of all members is made from the headers, by ./run docs.
+check_members() {
+    python3 tools/members.py "$root" | cmp -s - docs/members.md && return
+    echo 'docs/members.md is not of these headers: ./run docs renews it'
+    return 1
 }
 
 # Each public header is enough by itself, from the oldest standard on that applications use.
