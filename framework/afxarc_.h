@@ -193,3 +193,13 @@ AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CStringA& string);
 AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);
 AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, CObject*& pOb);
 ///@}
+
+/// Stores or loads a point, a size or a rectangle, 4 bytes a coordinate.
+///@{
+AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const POINT& point);
+AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const SIZE& size);
+AFX_CORE CArchive& AFXAPI operator<<(CArchive& ar, const RECT& rect);
+AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, POINT& point);
+AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, SIZE& size);
+AFX_CORE CArchive& AFXAPI operator>>(CArchive& ar, RECT& rect);
+///@}

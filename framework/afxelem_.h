@@ -7,6 +7,7 @@
 
 #include <cwchar>
 #include <type_traits>
+#include <utility>
 
 template <class TYPE, class ARG_TYPE>
 /// Whether two elements are equal, by their ==.
@@ -14,7 +15,16 @@ BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pElement2) {
     return *pElement1 == *pElement2 ? TRUE : FALSE;
 }
 
-/// Stores or loads `nCount` elements: plain data byte by byte, objects and others with << and >>.
+/// Whether an archive has << and >> for a type.
+template <class TYPE, class = void>
+constexpr bool AfxIsArchived = false;
+template <class TYPE>
+constexpr bool
+    AfxIsArchived<TYPE, std::void_t<decltype(std::declval<CArchive&>() << std::declval<TYPE&>()),
+                                    decltype(std::declval<CArchive&>() >> std::declval<TYPE&>())>> = true;
+
+/// Stores or loads `nCount` elements: plain data byte by byte, objects and others with << and >>. What is
+/// neither throws CNotSupportedException*.
 /// Collections may call it several times for one file, in the same steps both ways.
 template <class TYPE>
 void AFXAPI SerializeElements(CArchive& ar, TYPE* pElements, INT_PTR nCount) {
@@ -24,6 +34,8 @@ void AFXAPI SerializeElements(CArchive& ar, TYPE* pElements, INT_PTR nCount) {
             ar.Write(pElements, nBytes);
         else if (ar.Read(pElements, nBytes) != nBytes)
             AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
+    } else if constexpr (!AfxIsArchived<TYPE>) {
+        AfxThrowNotSupportedException();
     } else {
         for (; nCount > 0; --nCount, ++pElements) {
             if (ar.IsStoring())

@@ -214,3 +214,24 @@ CArchive& CArchive::operator>>(wchar_t& ch) {
     ch = static_cast<wchar_t>(w);
     return *this;
 }
+
+// --- Points, sizes, rectangles --------------------------------------------------------------
+
+CArchive& AFXAPI operator<<(CArchive& ar, const POINT& point) {
+    return ar << point.x << point.y;
+}
+CArchive& AFXAPI operator<<(CArchive& ar, const SIZE& size) {
+    return ar << size.cx << size.cy;
+}
+CArchive& AFXAPI operator<<(CArchive& ar, const RECT& rect) {
+    return ar << rect.left << rect.top << rect.right << rect.bottom;
+}
+CArchive& AFXAPI operator>>(CArchive& ar, POINT& point) {
+    return ar >> point.x >> point.y;
+}
+CArchive& AFXAPI operator>>(CArchive& ar, SIZE& size) {
+    return ar >> size.cx >> size.cy;
+}
+CArchive& AFXAPI operator>>(CArchive& ar, RECT& rect) {
+    return ar >> rect.left >> rect.top >> rect.right >> rect.bottom;
+}
