@@ -13,7 +13,6 @@ Written by `tools/members.py` from the headers in `framework/`; `./run docs` ren
 PARTS = (("CWndHandlers", "CWnd"), ("CWndSystem", "CWnd"), ("CDCState", "CDC"))
 
 
-
 def plain(text):
     """Without comments, texts in quotes and preprocessor lines; of two branches the first remains."""
     text = re.sub(r"^#else\b.*?^#endif", "", text, flags=re.S | re.M)
@@ -135,7 +134,7 @@ def listed(names):
 
 def is_told(name):
     """Whether a member is a program's business."""
-    return not re.match(r"Handle[A-Z]|DefaultAs$|WordsOf$|Change$|[GS]et$|operator =$|~", name)
+    return not re.match(r"Handle[A-Z]|DefaultAs$|WordsOf$|Change$|[GS]et$|Join$|operator =$|~", name)
 
 
 def public_headers(root):
@@ -156,7 +155,7 @@ def page(root):
     out = [HEAD]
     for name in sorted((name for name in found if name.startswith("C")), key=str.lower):
         base, members = found[name]
-        out.append(f"**{name}**{' : ' + base if base else ''}  \n{listed(filter(is_told, members))}\n")
+        out.append(f"**{name}**{' : ' + base if base.startswith('C') else ''}  \n{listed(filter(is_told, members))}\n")
     out.append("## Functions\n\n" + listed(free) + "\n")
     out.append("## Lines of message maps\n\n" + listed(lines))
     return "\n".join(out) + "\n"

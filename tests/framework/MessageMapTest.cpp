@@ -155,77 +155,72 @@ TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
     EXPECT_EQ(wnd.TakeLog(), "notify 400, notify range 402");
 }
 
-// --- What handlers are given ----------------------------------------------------------------
+// --- Handlers of more forms than one -----------------------------------------------------------
 
-class Unpacking : public fx::Frame {
+/// As older programs declare them.
+class OlderForms : public fx::Frame {
 public:
     std::string m_log;
 
 protected:
-    void Log(const char* pszName, std::initializer_list<long long> values) {
-        m_log = pszName;
-        for (const long long n : values)
-            m_log += ' ' + std::to_string(n);
+    void Log(const char* pszName, long long n, long long m = 0) {
+        m_log = pszName + (' ' + std::to_string(n)) + ' ' + std::to_string(m);
     }
-    afx_msg void OnSize(UINT nType, int cx, int cy) { Log("size", {nType, cx, cy}); }
-    afx_msg void OnTimer(UINT_PTR nID) { Log("timer", {static_cast<long long>(nID)}); }
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt) { Log("down", {nFlags, pt.x, pt.y}); }
-    afx_msg void OnKeyDown(UINT nChar, UINT nRep, UINT nFlags) { Log("key", {nChar, nRep, nFlags}); }
-    afx_msg void OnSetFocus(CWnd* pOld) { Log("focus", {pOld == this}); }
-    afx_msg void OnActivate(UINT nState, CWnd* pOther, BOOL bMin) {
-        Log("activate", {nState, pOther == this, bMin});
+    afx_msg void OnTimer(UINT nID) { Log("timer", nID); }
+    afx_msg UINT OnNcHitTest(CPoint point) {
+        Log("hit", point.x, point.y);
+        return HTCAPTION;
     }
-    afx_msg void OnCaptureChanged(CWnd* pWnd) { Log("capture", {pWnd == this}); }
-    afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
-        Log("vscroll", {nCode, nPos, pBar == nullptr});
+    afx_msg UINT OnPowerBroadcast(UINT nEvent, UINT nData) {
+        Log("power", nEvent, nData);
+        return 4;
     }
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam) { Log("sys", {nID, lParam}); }
-    afx_msg UINT OnGetDlgCode() {
-        Log("code", {});
-        return DLGC_WANTARROWS;
+    afx_msg void OnActivateApp(BOOL bActive, HTASK) { Log("app", bActive); }
+    afx_msg LONG OnLong(UINT wParam, LONG lParam) {
+        Log("long", wParam, lParam);
+        return -5;
+    }
+    afx_msg void OnQuiet(WPARAM wParam, LPARAM lParam) {
+        Log("quiet", static_cast<long long>(wParam), lParam);
+    }
+    afx_msg LRESULT OnEmpty() {
+        Log("empty", 0);
+        return 6;
     }
     DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(Unpacking, CWnd)
-ON_WM_SIZE()
+BEGIN_MESSAGE_MAP(OlderForms, CWnd)
 ON_WM_TIMER()
-ON_WM_LBUTTONDOWN()
-ON_WM_KEYDOWN()
-ON_WM_SETFOCUS()
-ON_WM_ACTIVATE()
-ON_WM_CAPTURECHANGED()
-ON_WM_VSCROLL()
-ON_WM_SYSCOMMAND()
-ON_WM_GETDLGCODE()
+ON_WM_NCHITTEST()
+ON_WM_POWERBROADCAST()
+ON_WM_ACTIVATEAPP()
+ON_MESSAGE(WM_BOTH, &OlderForms::OnLong)
+ON_MESSAGE(WM_REWRITE, &OlderForms::OnQuiet)
+ON_MESSAGE(WM_NESTED, &OlderForms::OnEmpty)
 END_MESSAGE_MAP()
 
-TEST(MessageMap, HandlersGetTheMessagesParametersUnpacked) {
-    Unpacking wnd;
-    const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd);
+TEST(MessageMap, HandlersMayHaveTheFormsOfOlderPrograms) {
+    OlderForms wnd;
     const struct {
         UINT message;
         WPARAM wParam;
         LPARAM lParam;
         const char* pszLog;
+        LRESULT lResult;
     } cases[] = {
-        {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200), "size 2 300 200"},
-        {WM_TIMER, 77, 0, "timer 77"},
-        {WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-5, -7), "down 1 -5 -7"}, // captured, outside
-        {WM_KEYDOWN, VK_RETURN, 0x001C0003, "key 13 3 28"},
-        {WM_SETFOCUS, static_cast<WPARAM>(self), 0, "focus 1"},
-        {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), self, "activate 2 1 1"},
-        {WM_CAPTURECHANGED, 0, self, "capture 1"},
-        {WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "vscroll 5 55 1"},
-        {WM_VSCROLL, SB_LINEDOWN, self, "vscroll 1 0 0"},
-        {WM_SYSCOMMAND, SC_CLOSE, 8, "sys 61536 8"},
-        {WM_GETDLGCODE, 0, 0, "code"},
+        {WM_TIMER, 77, 0, "timer 77 0", 0},
+        {WM_NCHITTEST, 0, MAKELPARAM(-5, -7), "hit -5 -7", HTCAPTION},
+        {WM_POWERBROADCAST, 8, 9, "power 8 9", 4},
+        {WM_ACTIVATEAPP, TRUE, 0, "app 1 0", 0},
+        {WM_BOTH, 2, -3, "long 2 -3", -5},
+        {WM_REWRITE, 2, -3, "quiet 2 -3", 0},
+        {WM_NESTED, 2, 3, "empty 0 0", 6},
     };
     for (const auto& c : cases) {
-        wnd.SendMessage(c.message, c.wParam, c.lParam);
+        EXPECT_EQ(wnd.SendMessage(c.message, c.wParam, c.lParam), c.lResult);
         EXPECT_EQ(wnd.m_log, c.pszLog);
     }
-    EXPECT_EQ(wnd.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
 }
 
 class Colored : public fx::Frame {
