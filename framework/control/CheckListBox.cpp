@@ -15,12 +15,11 @@ int CheckSize() {
 
 /// The height that the list's font asks for.
 int TextHeight(CWnd& wnd) {
-    CClientDC dc(&wnd);
-    CFont* const pOld = dc.SelectObject(wnd.GetFont());
+    CClientDC dc(&wnd); // gone with what is selected
+    if (CFont* const pFont = wnd.GetFont())
+        dc.SelectObject(pFont);
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
-    if (pOld != nullptr)
-        dc.SelectObject(pOld);
     return metrics.tmHeight;
 }
 

@@ -5,15 +5,21 @@
 
 IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 
-// The system's libraries of the control stay loaded: windows of their classes may be open to the end.
+namespace {
+
+/// Stays loaded: windows of its classes may be open to the end.
+BOOL LoadControl(LPCTSTR lpszLibrary) {
+    return ::LoadLibraryEx(lpszLibrary, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32) != nullptr;
+}
+
+} // namespace
+
 BOOL AFXAPI AfxInitRichEdit2() {
-    static const HMODULE hLibrary = ::LoadLibraryEx(L"riched20.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return hLibrary != nullptr;
+    return LoadControl(L"riched20.dll");
 }
 
 BOOL AFXAPI AfxInitRichEdit() {
-    static const HMODULE hLibrary = ::LoadLibraryEx(L"riched32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return AfxInitRichEdit2() && hLibrary != nullptr;
+    return AfxInitRichEdit2() && LoadControl(L"riched32.dll");
 }
 
 BOOL CRichEditCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {

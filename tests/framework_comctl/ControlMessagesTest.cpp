@@ -156,7 +156,7 @@ TEST_F(ControlMessages, DatesKeysAndAddresses) {
     EXPECT_TRUE(field.SetRange(nullptr, &last));
     EXPECT_EQ(field.GetRange(nullptr, &read), static_cast<DWORD>(GDTR_MAX));
     EXPECT_EQ(read.wDay, 31);
-    EXPECT_TRUE(field.SetTime(nullptr));
+    EXPECT_TRUE(field.SetTime());
     EXPECT_EQ(field.GetTime(&read), static_cast<DWORD>(GDT_NONE));
 
     CMonthCalCtrl month;
