@@ -11,7 +11,8 @@ constexpr WPARAM kW = MAKEWPARAM(258, 65534);
 constexpr LPARAM kL = MAKELPARAM(65531, 7); // -5 as a coordinate
 
 // Line, handler, and what the handler is given: W and L are the parameters whole, as numbers, windows, menus
-// or pointers; the rest are their halves. The lines whose handlers have two forms are in MessageMapTest.cpp.
+// or pointers; the rest are their halves. The lines whose handlers have two forms are in MessageMapTest.cpp;
+// WININICHANGE is an older name of SETTINGCHANGE.
 // clang-format off
 #define LINES                                                                                                \
     X(ACTIVATE, OnActivate, "258 L 65534") \
@@ -79,7 +80,7 @@ constexpr LPARAM kL = MAKELPARAM(65531, 7); // -5 as a coordinate
     X(USERCHANGED, OnUserChanged, "") X(VKEYTOITEM, OnVKeyToItem, "258 L 65534") \
     X(VSCROLL, OnVScroll, "258 65534 L") X(VSCROLLCLIPBOARD, OnVScrollClipboard, "W 65531 7") \
     X(WINDOWPOSCHANGED, OnWindowPosChanged, "L") X(WINDOWPOSCHANGING, OnWindowPosChanging, "L") \
-    X(WININICHANGE, OnWinIniChange, "L") X(SESSIONCHANGE, OnSessionChange, "W L") \
+    X(SESSIONCHANGE, OnSessionChange, "W L") \
     X(XBUTTONDBLCLK, OnXButtonDblClk, "258 65534 -5 7") X(XBUTTONDOWN, OnXButtonDown, "258 65534 -5 7") \
     X(XBUTTONUP, OnXButtonUp, "258 65534 -5 7")
 // clang-format on
