@@ -98,7 +98,7 @@ tidy_all() {
     # The sample is a project of its own, and is built against the installed headers.
     find samples -name '*.cpp' -not -path '*/tests/*' -not -path '*/fuzz/*' >"$windows"
     tidy_each "$windows" -- -std=c++17 "${tidy_windows[@]}" -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0601 \
-        -I"$root" -I"$root/framework" -I"$root/companion" || status=1
+        -I"$root" -I"$root/framework" -I"$root/companion" -I"$root/samples/fieldbook" || status=1
     return $status
 }
 

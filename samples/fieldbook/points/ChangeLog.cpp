@@ -2,6 +2,7 @@
 
 #include "points/FileText.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cwchar>
 
@@ -66,7 +67,7 @@ public:
         }
         const int nFound = m_strLine.Find(kTab, m_nStart);
         const int nEnd = nFound < 0 ? m_strLine.GetLength() : nFound;
-        const CString strField = m_strLine.Mid(m_nStart, nEnd - m_nStart);
+        CString strField = m_strLine.Mid(m_nStart, nEnd - m_nStart);
         m_nStart = nEnd + 1;
         return strField;
     }
@@ -158,13 +159,11 @@ std::string SavedLine(std::uint64_t nHash) {
 }
 
 bool CChangeRecord::FitsTo(std::uint64_t nHash, size_t& nFirst) const {
-    for (auto it = saved.rbegin(); it != saved.rend(); ++it)
-        if (it->nHash == nHash) {
-            nFirst = it->nChanges;
-            return true;
-        }
-    nFirst = 0;
-    return nHash == nBase && nGoodBytes > 0;
+    const auto last =
+        std::find_if(saved.rbegin(), saved.rend(), [=](const auto& mark) { return mark.nHash == nHash; });
+    const bool bSaved = last != saved.rend();
+    nFirst = bSaved ? last->nChanges : 0;
+    return bSaved || (nHash == nBase && nGoodBytes > 0);
 }
 
 CChangeRecord ReadChanges(const std::string& bytes) {

@@ -180,6 +180,10 @@ CLineFormat NewFormat() {
 
 CLineFormat FormatFor(const std::vector<CNamedPoint>& points, const CLineFormat& format) {
     CLineFormat complete = format;
+    if (format.bSima && points.empty()) { // without a record nothing tells what the file is
+        complete = NewFormat();
+        complete.text = format.text;
+    }
     const auto need = [&](Column column, auto isThere) {
         if (HasColumn(complete.columns, column) || !std::any_of(points.begin(), points.end(), isThere))
             return;
@@ -192,7 +196,7 @@ CLineFormat FormatFor(const std::vector<CNamedPoint>& points, const CLineFormat&
     const auto hasBorder = [](const std::vector<CString>& lines) {
         return std::any_of(lines.begin(), lines.end(), IsBorder);
     };
-    if (format.bSima && !hasBorder(format.head) && !hasBorder(format.tail))
+    if (complete.bSima && !hasBorder(format.head) && !hasBorder(format.tail))
         complete.tail.push_back(L"A99,"); // one record alone would be taken for a point called A01
     return complete;
 }

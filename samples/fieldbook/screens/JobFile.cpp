@@ -213,7 +213,8 @@ bool SavePointsFile(CJob& job, const CString& strPath) {
     job.changes.Begin(HashOf(bytes)); // the record of the file before: its changes are in this one
     job.changes.Claim(strPath);
     job.changes.Begin(HashOf(bytes));
-    job.format = format;
+    if (job.book.GetCount() != 0) // a file without points is of no kind; the next ones get theirs back
+        job.format = format;
     job.strPath = strPath;
     job.nContent = HashOf(bytes);
     job.bRecorded = true;
