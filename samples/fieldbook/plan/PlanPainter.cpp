@@ -46,7 +46,9 @@ public:
 
     /// @return false if there is a mark already
     bool Keeps(CPoint mark) {
-        return !std::exchange(m_taken[static_cast<size_t>(mark.y / kPlace * m_nAcross + mark.x / kPlace)], 1);
+        const auto nRow = static_cast<size_t>(mark.y / kPlace);
+        const auto nColumn = static_cast<size_t>(mark.x / kPlace);
+        return !std::exchange(m_taken[nRow * static_cast<size_t>(m_nAcross) + nColumn], 1);
     }
 
 private:

@@ -233,7 +233,15 @@ bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& for
     for (const CString& strLine : format.tail)
         encoder.Add(strLine);
     bytes = encoder.GetBytes();
-    return true;
+    if (format.text.encoding != Encoding::Oem)
+        return true;
+    const CFileText again = DecodeText(bytes);
+    if (again.unreadable.empty() && again.form.encoding == Encoding::Oem)
+        return true;
+    // These bytes would be read as another encoding the next time.
+    CLineFormat marked = format;
+    marked.text.encoding = Encoding::Utf8Bom;
+    return FormatPoints(points, marked, bytes, strBad);
 }
 
 bool IsAsSaved(const std::string& bytes, const CLineFormat& format) {
