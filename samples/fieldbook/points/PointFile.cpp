@@ -146,6 +146,16 @@ private:
     long m_nLast = 0;
 };
 
+/// Whether a file without a mark would be taken for what it is the next time.
+bool IsReadAs(const std::string& bytes, Encoding encoding) {
+    const bool bMarked = encoding != Encoding::Oem && encoding != Encoding::Utf8;
+    const auto isAscii = [](char ch) { return static_cast<unsigned char>(ch) < 0x80; };
+    if (bMarked || std::all_of(bytes.begin(), bytes.end(), isAscii))
+        return true;
+    const CFileText again = DecodeText(bytes);
+    return again.unreadable.empty() && again.form.encoding == encoding;
+}
+
 } // namespace
 
 CReadReport ReadPoints(const CFileText& text, CPointBook& book, const CReadHelp& help) {
@@ -233,12 +243,8 @@ bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& for
     for (const CString& strLine : format.tail)
         encoder.Add(strLine);
     bytes = encoder.GetBytes();
-    if (format.text.encoding != Encoding::Oem)
+    if (IsReadAs(bytes, format.text.encoding))
         return true;
-    const CFileText again = DecodeText(bytes);
-    if (again.unreadable.empty() && again.form.encoding == Encoding::Oem)
-        return true;
-    // These bytes would be read as another encoding the next time.
     CLineFormat marked = format;
     marked.text.encoding = Encoding::Utf8Bom;
     return FormatPoints(points, marked, bytes, strBad);
