@@ -10,8 +10,8 @@ using fieldkit::survey::kNull;
 namespace {
 
 constexpr int kMaxName = 64;
-constexpr int kMaxLine = 511;
-constexpr double kNumberLimit = 1e9;
+constexpr int kMaxTexts = 511;              // of a point together
+constexpr double kNumberLimit = 1e9 - 1e-6; // below 1e9 as it is written, too
 constexpr wchar_t kQuote = L'"';
 
 bool IsBlank(wchar_t ch) {
@@ -77,6 +77,12 @@ struct CPointFields {
     CString strCode;
     std::vector<CString> others;
 
+    int TextLength() const {
+        int nLength = strName.GetLength() + strCode.GetLength();
+        for (const CString& strOther : others)
+            nLength += strOther.GetLength();
+        return nLength;
+    }
     void Put(Column column, const CString& strField) {
         switch (column) {
         case Column::Name:
@@ -162,8 +168,6 @@ CString JoinField(const CString& strField, bool bQuoted) {
 }
 
 LineFault ParsePointLine(const CString& strLine, const CLineFormat& format, CNamedPoint& point) {
-    if (strLine.GetLength() > kMaxLine)
-        return LineFault::TooLong;
     std::vector<CString> fields;
     bool bQuoted = false;
     if (!SplitFields(strLine, format.chSeparator, fields, bQuoted))
@@ -180,6 +184,9 @@ LineFault ParsePointLine(const CString& strLine, const CLineFormat& format, CNam
     CPointFields parts;
     for (size_t i = 0; i < fields.size(); ++i)
         parts.Put(columns[i], fields[i]);
+    // Marks of quotation and digits do not count: they may be more when the line is written.
+    if (parts.TextLength() > kMaxTexts)
+        return LineFault::TooLong;
     CNamedPoint candidate;
     const LineFault fault = ParsePoint(parts.strName, parts.strN, parts.strE, parts.strZ, candidate);
     if (fault != LineFault::None)

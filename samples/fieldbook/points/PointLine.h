@@ -26,7 +26,7 @@ enum class LineFault {
     NoName,
     BadNumber, ///< Not a number, or beyond what a file can hold; see ParsePoint.
     DuplicateName,
-    TooLong,       ///< Longer than any line of points.
+    TooLong,       ///< Longer texts than any point has.
     NotTerminated, ///< The last line, without its end.
     BadName,       ///< A name of more than 64 characters, or with some that files cannot hold.
     BadQuotes,     ///< Quotation marks that are not closed, or text behind them.
