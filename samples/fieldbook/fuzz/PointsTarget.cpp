@@ -4,6 +4,7 @@
 #include "compute/PackedAngle.h"
 #include "points/ChangeLog.h"
 #include "points/PointFile.h"
+#include "points/PointSaving.h"
 #include "Tesuvo.h"
 
 #include <cmath>
@@ -41,16 +42,19 @@ void CheckFile(const std::string& bytes) {
     Promise(report.badLines.size() + book.GetPoints().size() <= text.lines.size(), "a line is one point");
     std::string saved;
     CString strBad;
-    const CLineFormat format = FormatFor(book.GetPoints(), report.format);
-    if (!FormatPoints(book.GetPoints(), format, saved, strBad))
-        return;
+    CLineFormat format = report.format;
+    Promise(FormatFile(book.GetPoints(), format, saved, strBad), "what was read can be saved");
     CPointBook again;
     ReadPoints(DecodeText(saved), again);
-    if (again.GetCount() != book.GetCount())
-        std::fprintf(stderr, "[%s]\n", saved.c_str());
     Promise(again.GetCount() == book.GetCount(), "all points are in the file");
-    for (const CNamedPoint& point : book.GetPoints())
+    CLineFormat all;
+    all.columns.push_back(Column::Code);
+    for (const CNamedPoint& point : book.GetPoints()) {
         Promise(book.Find(book.NextName(point.strName)) == nullptr, "the next name is free");
+        const CNamedPoint* const pAgain = again.FindPoint(point.strName);
+        Promise(pAgain != nullptr && FormatPointLine(*pAgain, all) == FormatPointLine(point, all),
+                "a point is read as it was saved");
+    }
 }
 
 /// What stands behind the good bytes does not count, and they are read alike without it.

@@ -1,5 +1,5 @@
 /// @file
-/// Reading and writing of points files: one point a line, in the form in which the file came.
+/// Reading of points files: one point a line.
 #pragma once
 
 #include "points/PointLine.h"
@@ -36,22 +36,3 @@ struct CReadHelp {
 /// @param help with nothing in it, lines without a heading are name, N, E, Z and code
 /// @return what was left out; everything else is in the book
 CReadReport ReadPoints(const CFileText& text, CPointBook& book, const CReadHelp& help = {});
-
-/// The form of a file that is made here: in the code page, with a heading.
-CLineFormat NewFormat();
-/// The form in which points are saved: columns that they need and the format has not got come behind
-/// the others.
-CLineFormat FormatFor(const std::vector<CNamedPoint>& points, const CLineFormat& format);
-/// The form of an export: chosen columns, with titles of its own if the format has a heading.
-CLineFormat ExportFormat(const std::vector<Column>& columns, const CLineFormat& format);
-
-/// Points as the bytes of a file.
-/// @param bytes  written on success only
-/// @param strBad receives the name of the first point that the file cannot hold
-/// @return false if there is one
-bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& format, std::string& bytes,
-                  CString& strBad);
-
-/// Whether a file with these bytes has all that saving its points again would write: then
-/// nothing of it gets lost.
-bool IsAsSaved(const std::string& bytes, const CLineFormat& format);

@@ -26,6 +26,10 @@ CString Trimmed(const CString& strText, int nStart, int nEnd) {
     return strText.Mid(nStart, nEnd - nStart);
 }
 
+CString Trimmed(const CString& strText) {
+    return Trimmed(strText, 0, strText.GetLength());
+}
+
 CString CleanName(const CString& strName) {
     CString strClean;
     for (int i = 0; i < strName.GetLength(); ++i)
@@ -77,12 +81,6 @@ struct CPointFields {
     CString strCode;
     std::vector<CString> others;
 
-    int TextLength() const {
-        int nLength = strName.GetLength() + strCode.GetLength();
-        for (const CString& strOther : others)
-            nLength += strOther.GetLength();
-        return nLength;
-    }
     void Put(Column column, const CString& strField) {
         switch (column) {
         case Column::Name:
@@ -120,9 +118,9 @@ CString FieldOf(const CNamedPoint& point, Column column, size_t& nOther) {
     case Column::Z:
         return NumberField(point.point.GetZ());
     case Column::Code:
-        return point.strCode;
+        return Trimmed(point.strCode);
     case Column::Other:
-        return nOther < point.others.size() ? point.others[nOther++] : CString();
+        return nOther < point.others.size() ? Trimmed(point.others[nOther++]) : CString();
     default:
         return CString();
     }
@@ -151,7 +149,7 @@ bool SplitFields(const CString& strLine, wchar_t chSeparator, std::vector<CStrin
         const CString strRest = Trimmed(strLine, nRest, i);
         if (bQuote && !strRest.IsEmpty())
             return false;
-        fields.push_back(bQuote ? Trimmed(strField, 0, strField.GetLength()) : strRest);
+        fields.push_back(bQuote ? Trimmed(strField) : strRest);
         bQuoted = bQuoted || bQuote;
     }
     return true;
@@ -184,17 +182,16 @@ LineFault ParsePointLine(const CString& strLine, const CLineFormat& format, CNam
     CPointFields parts;
     for (size_t i = 0; i < fields.size(); ++i)
         parts.Put(columns[i], fields[i]);
-    // Marks of quotation and digits do not count: they may be more when the line is written.
-    if (parts.TextLength() > kMaxTexts)
-        return LineFault::TooLong;
     CNamedPoint candidate;
-    const LineFault fault = ParsePoint(parts.strName, parts.strN, parts.strE, parts.strZ, candidate);
+    LineFault fault = ParsePoint(parts.strName, parts.strN, parts.strE, parts.strZ, candidate);
     if (fault != LineFault::None)
         return fault;
     candidate.strCode = parts.strCode;
     candidate.others = std::move(parts.others);
-    point = std::move(candidate);
-    return LineFault::None;
+    fault = CheckPoint(candidate, Encoding::Utf8);
+    if (fault == LineFault::None)
+        point = std::move(candidate);
+    return fault;
 }
 
 CString FormatPointLine(const CNamedPoint& point, const CLineFormat& format) {
@@ -238,5 +235,14 @@ LineFault CheckPoint(const CNamedPoint& point, Encoding encoding) {
     for (const double dMember : {point.point.GetN(), point.point.GetE(), point.point.GetZ()})
         if (!(std::fabs(dMember) < kNumberLimit))
             return LineFault::BadNumber;
-    return LineFault::None;
+    int nTexts = point.strName.GetLength() + point.strCode.GetLength();
+    for (const CString& strOther : point.others) {
+        nTexts += strOther.GetLength();
+        if (!CanEncode(strOther, encoding))
+            return LineFault::BadCode;
+    }
+    // Quotation marks and digits do not count: they may be more when the line is written.
+    if (nTexts > kMaxTexts)
+        return LineFault::TooLong;
+    return CanEncode(point.strCode, encoding) ? LineFault::None : LineFault::BadCode;
 }

@@ -30,8 +30,8 @@ enum class LineFault {
     NotTerminated, ///< The last line, without its end.
     BadName,       ///< A name of more than 64 characters, or with some that files cannot hold.
     BadQuotes,     ///< Quotation marks that are not closed, or text behind them.
+    BadCode,       ///< A code, or another text, with characters that files cannot hold.
 };
-inline constexpr size_t kLineFaultCount = 10;
 
 /// The fields of a line, without the blanks and quotation marks around them.
 /// @param bQuoted receives whether a field stands in quotation marks
@@ -59,5 +59,6 @@ LineFault ParsePoint(const CString& strName, const CString& strN, const CString&
                      CNamedPoint& point);
 
 /// Whether a file can hold a point as it is.
-/// @return NoName; BadName; BadNumber from 1,000,000,000 on and for what is no number
+/// @return NoName; BadName; BadNumber from 1,000,000,000 on and for what is no number; TooLong for
+///         more than 511 characters in all texts together; BadCode
 LineFault CheckPoint(const CNamedPoint& point, Encoding encoding);

@@ -4,6 +4,7 @@
 #include "screens/ColumnChoice.h"
 #include "points/FilePath.h"
 #include "points/FileReplacement.h"
+#include "points/PointSaving.h"
 #include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"

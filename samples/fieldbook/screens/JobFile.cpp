@@ -3,6 +3,7 @@
 #include "dialogs/ResMsgBox.h"
 #include "points/FilePath.h"
 #include "points/FileReplacement.h"
+#include "points/PointSaving.h"
 #include "screens/BadLines.h"
 #include "screens/ColumnChoice.h"
 #include "screens/Messages.h"
@@ -196,8 +197,8 @@ bool MakePointsFile(CJob& job, const CString& strPath) {
 bool SavePointsFile(CJob& job, const CString& strPath) {
     std::string bytes;
     CString strBad;
-    const CLineFormat format = FormatFor(job.book.GetPoints(), job.format);
-    if (!FormatPoints(job.book.GetPoints(), format, bytes, strBad)) {
+    CLineFormat format = job.format;
+    if (!FormatFile(job.book.GetPoints(), format, bytes, strBad)) {
         CResMsgBox().ErrorMsgBox(Text(IDS_POINT_NOT_WRITABLE, strBad.GetString()));
         return false;
     }

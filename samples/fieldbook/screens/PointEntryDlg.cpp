@@ -144,16 +144,15 @@ BOOL CPointEntryDlg::PreTranslateMessage(MSG* pMsg) {
 bool CPointEntryDlg::Add() {
     CNamedPoint point;
     const CString strZ = m_noHeight.GetPush() ? CString() : TextOf(m_z);
-    const LineFault fault = ParsePoint(TextOf(m_name), TextOf(m_n), TextOf(m_e), strZ, point);
+    LineFault fault = ParsePoint(TextOf(m_name), TextOf(m_n), TextOf(m_e), strZ, point);
+    if (fault == LineFault::None) {
+        point.strCode = TextOf(m_code);
+        point.strCode.Trim();
+        point.others = m_others;
+        fault = CheckPoint(point, m_job.format.text.encoding);
+    }
     if (fault != LineFault::None) {
         CResMsgBox().ErrorMsgBox(FaultTextId(fault));
-        return false;
-    }
-    point.strCode = TextOf(m_code);
-    point.strCode.Trim();
-    point.others = m_others;
-    if (CheckPoint(point, m_job.format.text.encoding) != LineFault::None) {
-        CResMsgBox().ErrorMsgBox(FaultTextId(LineFault::BadName));
         return false;
     }
     const bool bNoCoordinate = !point.point.IsExistNE() && !point.point.IsExistZ();

@@ -4,6 +4,7 @@
 #include "Tesuvo.h"
 #include "TestFile.h"
 #include "points/FileReplacement.h"
+#include "points/PointSaving.h"
 #include "screens/JobFile.h"
 #include "screens/NameDlg.h"
 #include "screens/PointEntryDlg.h"

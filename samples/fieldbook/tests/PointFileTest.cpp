@@ -1,4 +1,5 @@
 #include "points/PointFile.h"
+#include "points/PointSaving.h"
 
 #include "points/FileReplacement.h"
 
@@ -24,8 +25,8 @@ std::string Shipped(const wchar_t* pszName) {
 std::string Saved(const CPointBook& book, const CLineFormat& format) {
     std::string bytes;
     CString strBad;
-    const CLineFormat complete = FormatFor(book.GetPoints(), format);
-    EXPECT_TRUE(FormatPoints(book.GetPoints(), complete, bytes, strBad));
+    CLineFormat complete = format;
+    EXPECT_TRUE(FormatFile(book.GetPoints(), complete, bytes, strBad));
     return bytes;
 }
 
@@ -177,6 +178,37 @@ TEST(PointFile, WhatAFileHasNotGotIsAddedBehind) {
         << "a point that is new there gets the next number";
 }
 
+TEST(PointFile, WhatWouldBeReadOtherwiseIsWrittenAnotherWay) {
+    CLineFormat noHeading;
+    noHeading.text = {Encoding::Utf8, LineEnd::Lf};
+    const struct {
+        const char* pszCase;
+        std::vector<CNamedPoint> points;
+        CLineFormat format;
+        const char* pszFile;
+    } cases[] = {
+        {"a mark for a name",
+         {{L"\xFEFFP", CCoordinate(2, 1, 0, 1)}},
+         noHeading,
+         "\xEF\xBB\xBF\xEF\xBB\xBFP,1.000000,2.000000,\n"},
+        {"records for names",
+         {{L"A01", CCoordinate(2, 1, 0, 1)}, {L"a01", CCoordinate(2, 1, 0, 1)}},
+         NewFormat(),
+         "\xEF\xBB\xBFname,N,E,Z,code\r\n\"A01\",1.000000,2.000000,,\r\n\"a01\",1.000000,2.000000,,\r\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.pszCase);
+        CLineFormat format = c.format;
+        std::string bytes;
+        CString strBad;
+        EXPECT_TRUE(FormatFile(c.points, format, bytes, strBad));
+        EXPECT_EQ(bytes, c.pszFile);
+        CPointBook book;
+        EXPECT_EQ(FaultsOf(ReadPoints(DecodeText(bytes), book)), Faults());
+        EXPECT_TRUE(book.FindPoint(c.points.front().strName) != nullptr);
+    }
+}
+
 TEST(PointFile, ExportHasTheChosenColumnsInTheirOrder) {
     const std::vector<CNamedPoint> points = {{L"境界1", CCoordinate(13236.2, -35306.6, 23.994, 3), L"S"},
                                              {L"電柱1", CCoordinate(13225.9, -35282.4, 0, 1)}};
@@ -206,11 +238,14 @@ TEST(PointFile, PointThatAFileCannotHoldIsNamed) {
         {L"\x263A", CCoordinate(1, 2, 0, 1)},
         {L"P", CCoordinate(1, 1e300, 0, 1)},
         {L"Q", CCoordinate(1, 2, 0, 1), L"\x263A"},
+        {L"R", CCoordinate(1, 2, 0, 1), L"two\r\nlines"},
+        {L"S", CCoordinate(1, 2, 0, 1), CString(L'c', 511)},
     };
     for (const CNamedPoint& point : cases) {
         std::string bytes = "old";
         CString strBad;
-        EXPECT_FALSE(FormatPoints({point}, FormatFor({point}, NewFormat()), bytes, strBad));
+        CLineFormat format = NewFormat();
+        EXPECT_FALSE(FormatFile({point}, format, bytes, strBad));
         EXPECT_TRUE(strBad == point.strName);
         EXPECT_EQ(bytes, "old");
     }
