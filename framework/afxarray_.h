@@ -86,6 +86,7 @@ private:
     TYPE* Data() { return reinterpret_cast<TYPE*>(m_slots.data()); }
     const TYPE* Data() const { return reinterpret_cast<const TYPE*>(m_slots.data()); }
     void MakeRoom(INT_PTR nNewSize);
+    void AddGrown(ARG_TYPE newElement);
     template <class Fill>
     void Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill);
 
@@ -154,13 +155,19 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement) {
 template <class TYPE, class ARG_TYPE>
 INT_PTR CArray<TYPE, ARG_TYPE>::Add(ARG_TYPE newElement) {
     if (m_slots.size() == m_slots.capacity()) {
-        TYPE copy(newElement); // it may be an element of this array
-        MakeRoom(GetSize() + 1);
-        m_slots.push_back(CSlot{std::move(copy)});
+        AddGrown(newElement);
     } else {
         m_slots.push_back(CSlot{TYPE(newElement)});
     }
     return GetSize() - 1;
+}
+
+/// Apart, so that the usual addition is short enough to become a part of its caller.
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::AddGrown(ARG_TYPE newElement) {
+    TYPE copy(newElement); // it may be an element of this array
+    MakeRoom(GetSize() + 1);
+    m_slots.push_back(CSlot{std::move(copy)});
 }
 
 template <class TYPE, class ARG_TYPE>

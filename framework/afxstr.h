@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <cstdarg>
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -60,7 +61,8 @@ AFX_CORE extern CStringNil afxStringNil;
 /// CMemoryException* or std::bad_alloc is thrown and the text is as it was.
 ///
 /// Copies share one text and a count, and take their own when one of them changes: a copy costs some
-/// nanoseconds. Threads may use copies of the same text at the same time, but not the same CString.
+/// nanoseconds. A string that has room of its own already keeps it and takes a short text in. Threads may use
+/// copies of the same text at the same time, but not the same CString.
 template <class Char>
 class CStringT : public AfxStringOperators<Char> {
 public:
@@ -95,8 +97,12 @@ public:
     /// Replaces the text; text of the other form is converted as by the constructor.
     ///@{
     CStringT& operator=(const CStringT& strSrc) {
-        if (this != &strSrc)
+        if (this == &strSrc)
+            return *this;
+        if (strSrc.IsNil() || strSrc.GetLength() > GetAllocLength() || !HasSmallRoom())
             Take(strSrc.Share());
+        else
+            CopyIn(strSrc);
         return *this;
     }
     CStringT& operator=(CStringT&& strSrc) noexcept {
@@ -286,10 +292,10 @@ public:
     /// Copies characters; the second form allows the two to overlap.
     ///@{
     static void CopyChars(PXSTR pchDest, PCXSTR pchSrc, int nChars) noexcept {
-        std::char_traits<XCHAR>::copy(pchDest, pchSrc, static_cast<std::size_t>(nChars));
+        std::memcpy(pchDest, pchSrc, static_cast<std::size_t>(nChars) * sizeof(XCHAR));
     }
     static void CopyCharsOverlapped(PXSTR pchDest, PCXSTR pchSrc, int nChars) noexcept {
-        std::char_traits<XCHAR>::move(pchDest, pchSrc, static_cast<std::size_t>(nChars));
+        std::memmove(pchDest, pchSrc, static_cast<std::size_t>(nChars) * sizeof(XCHAR));
     }
     ///@}
 
@@ -369,6 +375,16 @@ private:
         if (pData->nRefs.load(std::memory_order_acquire) <= 1 ||
             pData->nRefs.fetch_sub(1, std::memory_order_acq_rel) == 1)
             Free(pData);
+    }
+    /// Room that is this string's alone and not worth giving back for another text: copying that is
+    /// quicker than sharing it, freeing the room and asking for new one at the next change.
+    bool HasSmallRoom() const noexcept {
+        constexpr int kSmall = 256;
+        return GetAllocLength() <= kSmall && m_pData->nRefs.load(std::memory_order_acquire) == 1 && !IsNil();
+    }
+    void CopyIn(const CStringT& strSrc) noexcept {
+        CopyChars(TextOf(m_pData), strSrc.GetString(), strSrc.GetLength());
+        SetLength(strSrc.GetLength());
     }
     void Take(CStringData* pData) noexcept {
         Release(std::exchange(m_pData, pData));

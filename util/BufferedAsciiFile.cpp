@@ -70,6 +70,10 @@ UINT CBufferedAsciiFile::Read(void* lpBuf, UINT nCount) {
     if (m_bWriting)
         WriteBack();
     auto* const pTarget = static_cast<BYTE*>(lpBuf);
+    if (nCount == 1 && m_nNext != m_nEnd) { // what ReadString asks for
+        *pTarget = m_pBlock[m_nNext++];
+        return 1;
+    }
     for (UINT nDone = 0;;) {
         const UINT nPiece = std::min(nCount - nDone, m_nEnd - m_nNext);
         if (nPiece != 0)

@@ -1,18 +1,18 @@
 #include "util/StringStack.h"
 
 #include <cwchar>
+#include <string_view>
 
 // Versionable: files of an older or newer schema are left to Serialize, not refused.
 IMPLEMENT_SERIAL(CStringStack, CObject, VERSIONABLE_SCHEMA | 0)
 
 namespace {
 
+constexpr auto kDigits = L"0123456789";
+
 /// The characters before the digits at the end.
-std::size_t HeaderLength(const wchar_t* psz) {
-    std::size_t nHeader = std::wcslen(psz);
-    while (nHeader > 0 && psz[nHeader - 1] >= L'0' && psz[nHeader - 1] <= L'9')
-        --nHeader;
-    return nHeader;
+std::size_t HeaderLength(std::wstring_view text) {
+    return text.find_last_not_of(kDigits) + 1; // npos + 1 is 0
 }
 
 } // namespace
@@ -31,24 +31,26 @@ void CStringStack::Reset() {
 
 void CStringStack::SeparateHeaderToParam(const wchar_t* psz, CString& strHeader, CString& strParam) {
     const CString str(psz); // psz may belong to one of the results
-    const int nHeader = static_cast<int>(HeaderLength(str));
+    const int nHeader = static_cast<int>(HeaderLength(str.GetString()));
     strHeader = str.Left(nHeader);
     strParam = str.Mid(nHeader);
 }
 
-/// A key is the beginning of its text, so keys are compared where they stand.
-std::size_t CStringStack::KeyLength(const wchar_t* psz) const {
-    return m_nMode == ModeHeader ? HeaderLength(psz) : std::wcslen(psz);
-}
-
-/// The first entry with the key of this text; null if there is none.
+/// The first entry with the key of this text; null if there is none. A key is the beginning of its
+/// text, so keys are compared where they stand, and what stands behind decides.
 POSITION CStringStack::FindSameKey(const wchar_t* psz) const {
-    const std::size_t nKey = KeyLength(psz);
+    const std::wstring_view text(psz);
+    const std::wstring_view key = m_nMode == ModeHeader ? text.substr(0, HeaderLength(text)) : text;
+    const wchar_t* const pszBehind = m_nMode == ModeHeader ? kDigits : L"";
     for (POSITION pos = m_list.GetHeadPosition(); pos != nullptr;) {
         const POSITION posEntry = pos;
-        const wchar_t* const pszEntry = m_list.GetNext(pos);
-        if (std::wcsncmp(pszEntry, psz, nKey) == 0 && KeyLength(pszEntry) == nKey)
-            return posEntry;
+        const CString& strEntry = m_list.GetNext(pos);
+        const std::wstring_view entry(strEntry, static_cast<std::size_t>(strEntry.GetLength()));
+        if (entry.starts_with(key)) {
+            const wchar_t* const pszRest = entry.data() + key.size();
+            if (pszRest[std::wcsspn(pszRest, pszBehind)] == L'\0')
+                return posEntry;
+        }
     }
     return nullptr;
 }

@@ -59,7 +59,6 @@ private:
     static constexpr int kDefaultCapacity = 20;
     static constexpr int kEntryBlock = 10;
 
-    std::size_t KeyLength(const wchar_t* psz) const;
     POSITION FindSameKey(const wchar_t* psz) const;
     void RemoveLastBut(POSITION posNew);
     void Store(CArchive& ar) const;

@@ -156,7 +156,14 @@ void CArchive::StoreValue(Value value) {
 template <class Value>
 void CArchive::LoadValue(Value& value) {
     BYTE bytes[sizeof(Value)];
-    ReadAll(bytes, sizeof(bytes));
+    // What the buffer holds needs no loop; of an archive that stores or is closed Read says so.
+    if (IsLoading() && m_pFile != nullptr &&
+        m_lpBufMax - m_lpBufCur >= static_cast<std::ptrdiff_t>(sizeof(Value))) {
+        std::memcpy(bytes, m_lpBufCur, sizeof(Value));
+        m_lpBufCur += sizeof(Value);
+    } else {
+        ReadAll(bytes, sizeof(bytes));
+    }
     std::uint64_t wide = 0;
     for (std::size_t i = 0; i < sizeof(Value); ++i)
         wide |= static_cast<std::uint64_t>(bytes[i]) << (8 * i);

@@ -62,6 +62,13 @@ TextHead LoadHead(CArchive& ar) {
     }
 }
 
+template <class Unit>
+void ReadUnits(CArchive& ar, Unit* units, std::size_t count) {
+    const auto bytes = static_cast<UINT>(count * sizeof(Unit));
+    if (ar.Read(units, bytes) != bytes)
+        Fail(ar, CArchiveException::endOfFile);
+}
+
 // In pieces, so that a length in a damaged file does not fill the memory.
 template <class Unit>
 std::basic_string<Unit> LoadUnits(CArchive& ar, DWORD length) {
@@ -70,11 +77,20 @@ std::basic_string<Unit> LoadUnits(CArchive& ar, DWORD length) {
         const std::size_t done = text.size();
         const std::size_t count = std::min<std::size_t>(length - done, std::max<std::size_t>(kStep, done));
         text.resize(done + count);
-        const auto bytes = static_cast<UINT>(count * sizeof(Unit));
-        if (ar.Read(text.data() + done, bytes) != bytes)
-            Fail(ar, CArchiveException::endOfFile);
+        ReadUnits(ar, text.data() + done, count);
     }
     return text;
+}
+
+/// Loads units and hands them over, a short text without asking for memory.
+template <class Unit, class Use>
+void LoadText(CArchive& ar, DWORD length, Use use) {
+    constexpr DWORD kShort = 256;
+    if (length > kShort)
+        return use(std::basic_string_view<Unit>(LoadUnits<Unit>(ar, length)));
+    Unit units[kShort];
+    ReadUnits(ar, units, length);
+    use(std::basic_string_view<Unit>(units, length));
 }
 
 } // namespace
@@ -105,9 +121,18 @@ CArchive& AFXAPI operator>>(CArchive& ar, CStringW& string) {
     const TextHead head = LoadHead(ar);
     if (head.length > static_cast<DWORD>(std::numeric_limits<int>::max()))
         Fail(ar, CArchiveException::badIndex);
-    const std::wstring text = head.wide ? AfxFromUtf16(LoadUnits<char16_t>(ar, head.length))
-                                        : AfxWiden(LoadUnits<char>(ar, head.length));
-    string.SetString(text.data(), static_cast<int>(text.size()));
+    const auto set = [&string](std::wstring_view text) {
+        string.SetString(text.data(), static_cast<int>(text.size()));
+    };
+    if (!head.wide)
+        LoadText<char>(ar, head.length, [&](std::string_view text) { set(AfxWiden(text)); });
+#ifdef _WIN32
+    else
+        LoadText<wchar_t>(ar, head.length, set);
+#else
+    else
+        LoadText<char16_t>(ar, head.length, [&](std::u16string_view text) { set(AfxFromUtf16(text)); });
+#endif
     return ar;
 }
 

@@ -52,7 +52,10 @@ CStringT<Char>& CStringT<Char>::Keep(std::size_t nFirst, std::size_t nEnd) {
     const int nLength = nFirst < nEnd ? static_cast<int>(nEnd - nFirst) : 0;
     if (nLength == GetLength())
         return *this;
-    SetString(GetString() + nFirst, nLength);
+    if (nLength > 0 && IsShared()) // room for the whole: most likely the next text to be shortened is as long
+        Take(NewData(GetString() + nFirst, nLength, GetLength()));
+    else
+        SetString(GetString() + nFirst, nLength);
     return *this;
 }
 

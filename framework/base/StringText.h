@@ -168,7 +168,8 @@ CStringT<Char> CStringT<Char>::Join(PCXSTR pch1, int nLength1, PCXSTR pch2, int 
     const int nLength = ToLength(Count(nLength1) + Count(nLength2));
     if (nLength == 0)
         return joined;
-    joined.m_pData = NewData(OrEmpty(pch1), nLength1, nLength);
+    constexpr int kRoom = 24; // for what a longer sum adds to it
+    joined.m_pData = NewData(OrEmpty(pch1), nLength1, std::max(nLength, kRoom));
     CopyChars(TextOf(joined.m_pData) + nLength1, OrEmpty(pch2), nLength2);
     joined.SetLength(nLength);
     return joined;

@@ -17,7 +17,9 @@ std::string AfxNarrow(std::wstring_view text);
 /// The UTF-16 units of a wide text. Lone surrogates stay as they are, so that the way
 /// there and back loses nothing.
 std::u16string AfxToUtf16(std::wstring_view text);
+#ifndef _WIN32 // where text is such units already
 std::wstring AfxFromUtf16(std::u16string_view text);
+#endif
 
 /// Other case, in place. Of narrow text elsewhere than on Windows ASCII letters only.
 ///@{

@@ -36,10 +36,6 @@ std::u16string fieldkit::detail::AfxToUtf16(std::wstring_view text) {
     return {text.begin(), text.end()};
 }
 
-std::wstring fieldkit::detail::AfxFromUtf16(std::u16string_view text) {
-    return {text.begin(), text.end()};
-}
-
 // The system's own mapping, not the C library's: it knows full-width letters in every locale.
 void fieldkit::detail::AfxSystemUpper(wchar_t* text, std::size_t length) noexcept {
     CharUpperBuffW(text, static_cast<DWORD>(length));

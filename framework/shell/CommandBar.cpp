@@ -1,4 +1,3 @@
-#include "drawing/SelectScope.h"
 #include "Sip.h"
 
 #include <algorithm>
@@ -21,27 +20,25 @@ constexpr UINT kIdGap = 0xE8E1;
 constexpr UINT kIdPopupFirst = 0xE8F0;
 constexpr int kMaxPopups = 15;
 constexpr int kIconSize = 16;
-constexpr COLORREF kTransparentColor = RGB(255, 0, 255);
 
-/// Draws a keyboard: an outlined board, three rows of keys, the space bar.
+// A keyboard: an outlined board, three rows of keys, the space bar. A bit is a pixel, white or, in the
+// mask, transparent. Ready as bits, since each full-screen dialog has a bar of its own.
+constexpr BYTE kSipPicture[kIconSize][2] = {{0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00},
+                                            {0x7F, 0xFE}, {0x55, 0x56}, {0x7F, 0xFE}, {0x55, 0x56},
+                                            {0x7F, 0xFE}, {0x55, 0x56}, {0x7F, 0xFE}, {0x70, 0x0E},
+                                            {0x7F, 0xFE}, {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}};
+constexpr BYTE kSipMask[kIconSize][2] = {{0xFF, 0xFF}, {0xFF, 0xFF}, {0xFF, 0xFF}, {0x00, 0x00},
+                                         {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00},
+                                         {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00},
+                                         {0x00, 0x00}, {0x00, 0x00}, {0xFF, 0xFF}, {0xFF, 0xFF}};
+
 HIMAGELIST CreateSipImage() {
-    CWindowDC screen(nullptr);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, kIconSize, kIconSize);
-    {
-        const CSelectScope selected(dc, bitmap.m_hObject);
-        dc.FillSolidRect(0, 0, kIconSize, kIconSize, kTransparentColor);
-        dc.FillSolidRect(0, 3, 16, 11, RGB(0, 0, 0));
-        dc.FillSolidRect(1, 4, 14, 9, RGB(255, 255, 255));
-        for (int y = 5; y <= 9; y += 2)
-            for (int x = 2; x <= 13; x += 2)
-                dc.SetPixel(x, y, RGB(0, 0, 0));
-        dc.FillSolidRect(4, 11, 8, 1, RGB(0, 0, 0));
-    }
+    CBitmap picture;
+    CBitmap mask;
+    picture.CreateBitmap(kIconSize, kIconSize, 1, 1, kSipPicture);
+    mask.CreateBitmap(kIconSize, kIconSize, 1, 1, kSipMask);
     const HIMAGELIST hImages = ::ImageList_Create(kIconSize, kIconSize, ILC_COLOR24 | ILC_MASK, 1, 1);
-    ::ImageList_AddMasked(hImages, static_cast<HBITMAP>(bitmap.m_hObject), kTransparentColor);
+    ::ImageList_Add(hImages, picture, mask);
     return hImages;
 }
 

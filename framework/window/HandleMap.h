@@ -25,9 +25,14 @@ public:
     CHandleMap(const CHandleMap&) = delete;
     CHandleMap& operator=(const CHandleMap&) = delete;
 
+    /// Every message asks for its window, so what was found lately is kept, and where.
     Object* Permanent(Handle handle) const {
-        const auto it = m_permanent.find(handle);
-        return it == m_permanent.end() ? nullptr : it->second;
+        CRecent& recent = RecentOf(handle);
+        if (recent.handle != handle) {
+            const auto it = m_permanent.find(handle);
+            recent = {handle, it == m_permanent.end() ? nullptr : it->second};
+        }
+        return recent.pObject;
     }
 
     /// The first permanent object of which a condition holds, or null.
@@ -39,10 +44,14 @@ public:
         return nullptr;
     }
 
-    void SetPermanent(Handle handle, Object* pObject) { m_permanent[handle] = pObject; }
+    void SetPermanent(Handle handle, Object* pObject) {
+        m_permanent[handle] = pObject;
+        RecentOf(handle) = {};
+    }
 
     void Remove(Handle handle) {
         m_permanent.erase(handle);
+        RecentOf(handle) = {};
         Forget(handle);
     }
 
@@ -82,6 +91,16 @@ private:
         int nDepth = 0;
     };
 
+    struct CRecent {
+        Handle handle = nullptr;
+        Object* pObject = nullptr;
+    };
+
+    /// The place that a handle shares with others. Handles are even numbers, or addresses.
+    CRecent& RecentOf(Handle handle) const {
+        return m_recent[(reinterpret_cast<std::size_t>(handle) >> 1) % std::size(m_recent)];
+    }
+
     void Forget(Handle handle) {
         const auto it = m_temporary.find(handle);
         if (it == m_temporary.end())
@@ -94,6 +113,7 @@ private:
 
     Handle Object::*m_pMember;
     std::unordered_map<Handle, Object*> m_permanent;
+    mutable CRecent m_recent[32];
     std::map<Handle, CSlot> m_temporary;
     std::multimap<Handle, CSlot> m_orphans; ///< Their handles are gone, or another's.
 };

@@ -1,5 +1,8 @@
 #include "ThreadState.h"
 
+#include <winternl.h>
+
+#include <type_traits>
 #include <utility>
 
 using namespace fieldkit::detail;
@@ -13,12 +16,18 @@ DWORD Slot() {
     return nSlot;
 }
 
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Warray-bounds" // the system's header reads the block at address 0 of gs
+/// Every message asks several times. The thread's block has the first slots where TlsGetValue looks.
 CThreadState* Current() {
+    if (const DWORD nSlot = Slot(); nSlot < std::extent_v<decltype(TEB::TlsSlots)>)
+        return static_cast<CThreadState*>(::NtCurrentTeb()->TlsSlots[nSlot]);
     const DWORD nError = ::GetLastError(); // taking the value clears it
     auto* pState = static_cast<CThreadState*>(::TlsGetValue(Slot()));
     ::SetLastError(nError);
     return pState;
 }
+#pragma GCC diagnostic pop
 
 /// The main thread has no such end: an application's static objects (its CWinApp, its dialogs)
 /// still use the state when the process is already going down.
