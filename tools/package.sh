@@ -32,7 +32,7 @@ package_name() {
 assemble() {
     local tree=$1
     cmake --install "$build/win64-static" --prefix "$tree"
-    cmake --install "$build/win64" --prefix "$tree" --strip
+    cmake --install "$build/win64" --prefix "$tree"
     # Beside the DLLs, so that it starts with a double click.
     x86_64-w64-mingw32-strip -o "$tree/bin/fieldbook.exe" "$build/fieldbook/fieldbook.exe"
     cp "$root"/samples/fieldbook/data/*.csv "$tree/bin/"
@@ -79,6 +79,7 @@ test_package() {
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"
     check_hardened "${files[@]/#/$work/cmake/}"
+    check_small "$work"/cmake/{Fieldkit,FieldkitFx,Tesuvo}.dll
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$expected" "$work/pkgconf/shared.exe"
@@ -144,6 +145,18 @@ check_hardened() {
             fi
         done
     done
+}
+
+# check_small DLL...: they are stripped, and small enough together for the device; counts in "good" and "bad".
+check_small() {
+    local most=$((2 * 1024 * 1024)) size
+    size=$(cat "$@" | wc -c)
+    if ((size < most)) && [[ $(x86_64-w64-mingw32-nm "$@" 2>&1 | grep -c 'no symbols') == "$#" ]]; then
+        good=$((good + 1))
+    else
+        bad=$((bad + 1))
+        printf '  the DLLs have %d bytes, or symbols\n' "$size"
+    fi
 }
 
 # check EXPECTED PROGRAM ARGUMENTS...: runs it in its own folder; counts in "good" and "bad".
