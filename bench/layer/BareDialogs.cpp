@@ -81,7 +81,24 @@ void InsertFolders(HWND hTree, HTREEITEM hParent, const std::wstring& path) {
     ::FindClose(hFind);
 }
 
+double g_drawn; // when the dialog was
+
+INT_PTR CALLBACK OnDialog(HWND hDlg, UINT message, WPARAM, LPARAM) {
+    if (message != WM_INITDIALOG)
+        return FALSE;
+    ::RedrawWindow(hDlg, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+    g_drawn = Now();
+    ::EndDialog(hDlg, IDCANCEL);
+    return TRUE;
+}
+
 } // namespace
+
+Cost OpenBareDialog(LPCDLGTEMPLATE pTemplate) {
+    const double start = Now();
+    ::DialogBoxIndirectParam(::GetModuleHandle(nullptr), pTemplate, nullptr, OnDialog, 0);
+    return {g_drawn - start};
+}
 
 Cost FillBareList(const wchar_t* pszFolder) {
     const Control control(WC_LISTVIEW, LVS_REPORT);

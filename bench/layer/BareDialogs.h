@@ -9,5 +9,7 @@ namespace bench {
 Cost FillBareList(const wchar_t* pszFolder);
 /// Enumerates all folders below one and inserts them into a tree view.
 Cost FillBareTree(const wchar_t* pszFolder);
+/// Opens a dialog and draws it.
+Cost OpenBareDialog(LPCDLGTEMPLATE pTemplate);
 
 } // namespace bench

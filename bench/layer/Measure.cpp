@@ -8,10 +8,12 @@ namespace bench {
 
 namespace {
 
-double Median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+/// The value below which that part of all values is.
+double Quantile(std::vector<double> values, double part) {
+    const auto at =
+        values.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(values.size() - 1) + 0.5);
+    std::nth_element(values.begin(), at, values.end());
+    return *at;
 }
 
 } // namespace
@@ -25,22 +27,43 @@ double Now() {
 }
 
 Pair Compare(int nRounds, const std::function<Cost()>& bare, const std::function<Cost()>& ours) {
-    std::vector<Pair> rounds;
-    for (int i = 0; i < nRounds; ++i) {
-        Pair round = {bare(), ours()};
+    std::vector<Pair> rounds(static_cast<std::size_t>(nRounds));
+    bool bBareFirst = true;
+    for (Pair& round : rounds) {
+        if (bBareFirst)
+            round.bare = bare();
+        round.ours = ours();
+        if (!bBareFirst)
+            round.bare = bare();
         round.ratio = round.ours.ms / round.bare.ms;
-        rounds.push_back(round);
+        bBareFirst = !bBareFirst;
     }
-    const auto median = [&rounds](auto value) {
+    const auto quantile = [&rounds](double part, auto value) {
         std::vector<double> values;
         for (const Pair& round : rounds)
             values.push_back(value(round));
-        return Median(std::move(values));
+        return Quantile(std::move(values), part);
     };
-    return {
-        {median([](const Pair& p) { return p.bare.ms; }), median([](const Pair& p) { return p.bare.bytes; })},
-        {median([](const Pair& p) { return p.ours.ms; }), median([](const Pair& p) { return p.ours.bytes; })},
-        median([](const Pair& p) { return p.ratio; })};
+    const auto ratio = [](const Pair& p) { return p.ratio; };
+    constexpr double kMedian = 0.5;
+    return {{quantile(kMedian, [](const Pair& p) { return p.bare.ms; }),
+             quantile(kMedian, [](const Pair& p) { return p.bare.bytes; })},
+            {quantile(kMedian, [](const Pair& p) { return p.ours.ms; }),
+             quantile(kMedian, [](const Pair& p) { return p.ours.bytes; })},
+            quantile(kMedian, ratio),
+            quantile(0.25, ratio),
+            quantile(0.75, ratio)};
+}
+
+Pair Compare(const std::function<Cost()>& bare, const std::function<Cost()>& ours) {
+    constexpr double kTime = 1500; // ms
+    constexpr double kFewest = 5;
+    constexpr double kMost = 501;
+    const double start = Now();
+    bare();
+    ours();
+    const double rounds = kTime / (Now() - start);
+    return Compare(static_cast<int>(std::clamp(rounds, kFewest, kMost)), bare, ours);
 }
 
 } // namespace bench

@@ -3,8 +3,9 @@
 #include "BareDialogs.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/FileSelectDlg.h"
+#include "support/DialogTemplate.h"
 
-#include <cstdio>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -50,6 +51,13 @@ Cost OpenFiles(const CString& strFolder) {
     return dlg.Open();
 }
 
+fx::DialogTemplate SmallDialog() {
+    fx::DialogTemplate small(100, 150);
+    for (int nID = 100; nID < 110; ++nID)
+        nID % 2 == 0 ? small.Edit(nID) : small.Button(nID, L"button");
+    return small;
+}
+
 Cost Open(What what, const CString& strFolder) {
     switch (what) {
     case What::BareFiles:
@@ -60,6 +68,12 @@ Cost Open(What what, const CString& strFolder) {
         return FillBareTree(L"");
     case What::Tree:
         return Opened<CBrowseFolderDlg>(strFolder).Open();
+    case What::BareDialog:
+        return OpenBareDialog(SmallDialog().Get());
+    case What::Dialog: {
+        const fx::DialogTemplate small = SmallDialog();
+        return Opened<fx::TemplateDialog>(small).Open();
+    }
     }
     return {};
 }
@@ -81,7 +95,7 @@ Cost OpenInProcess(What what, const CString& strFolder) {
     wchar_t szProgram[MAX_PATH];
     ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
     CString strLine;
-    strLine.Format(L"\"%s\" %d \"%s\"", szProgram, static_cast<int>(what), strFolder.GetString());
+    strLine.Format(L"\"%s\" open %d \"%s\"", szProgram, static_cast<int>(what), strFolder.GetString());
     STARTUPINFO startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
@@ -102,10 +116,12 @@ Cost OpenInProcess(What what, const CString& strFolder) {
 }
 
 bool RunOpening(int argc, char** argv) {
-    if (argc != 3)
+    if (argc != 4 || std::strcmp(argv[1], "open") != 0)
         return false;
-    WarmUp();
-    const Cost cost = Open(static_cast<What>(std::stoi(argv[1])), CString(argv[2]));
+    const auto what = static_cast<What>(std::stoi(argv[2]));
+    if (what < What::BareDialog) // the small dialog is to be the first window
+        WarmUp();
+    const Cost cost = Open(what, CString(argv[3]));
     CFile file(kResult, CFile::modeCreate | CFile::modeWrite);
     file.Write(&cost, sizeof cost);
     return true;

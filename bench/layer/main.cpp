@@ -1,9 +1,11 @@
-// Measures the file dialogs and the text file beside the bare calls of the system that they
-// cannot do without. Prints one line for each, and writes the same as JSON to the file that is
-// named on the command line. The exit code is 1 if a goal is missed, 2 if something failed.
+// Measures the framework layer, the dialogs and the text files beside the bare calls of the system
+// or the standard library's. Prints one line for each, and writes the same as JSON to the file that
+// is named on the command line. A second argument picks the rows whose names contain it. The exit
+// code is 1 if a goal is missed, 2 if something failed.
 #include "Dispatch.h"
 #include "Opening.h"
 #include "Report.h"
+#include "Rows.h"
 
 #include "support/TestDrive.h"
 #include "util/AsciiFile.h"
@@ -18,6 +20,7 @@ namespace {
 using bench::What;
 
 constexpr double kDialogGoal = 1.3;
+constexpr double kSmallDialogGoal = 1.1;
 constexpr double kLinesGoal = 1.2;
 constexpr int kDialogRounds = 9;
 constexpr int kLinesRounds = 15;
@@ -31,11 +34,24 @@ BenchApp g_app;
 
 void MeasureOpenings(bench::Report& report, const std::string& name, What bare, What ours,
                      const CString& strFolder, int nItems) {
+    if (!report.Wants(name))
+        return;
     const bench::Pair pair = bench::Compare(
         kDialogRounds, [&] { return bench::OpenInProcess(bare, strFolder); },
         [&] { return bench::OpenInProcess(ours, strFolder); });
     report.AddTime(name, pair, kDialogGoal);
     report.AddMemory(name, pair, nItems);
+}
+
+void MeasureSmallDialog(bench::Report& report) {
+    const TestDrive drive; // for the results
+    constexpr auto pszName = "dialog of 10 controls";
+    if (report.Wants(pszName))
+        report.AddTime(pszName,
+                       bench::Compare(
+                           kDialogRounds, [] { return bench::OpenInProcess(What::BareDialog, L""); },
+                           [] { return bench::OpenInProcess(What::Dialog, L""); }),
+                       kSmallDialogGoal);
 }
 
 void MeasureFiles(bench::Report& report, int nFiles) {
@@ -64,6 +80,10 @@ void MeasureTree(bench::Report& report) {
 
 void MeasureLines(bench::Report& report, const std::string& line) {
     constexpr int kLines = 100000;
+    const std::string name =
+        std::to_string(kLines) + " lines of " + std::to_string(line.size()) + " bytes, one by one";
+    if (!report.Wants(name))
+        return;
     const TestDrive drive;
     const CString strPath = L"\\lines.txt";
     {
@@ -88,15 +108,23 @@ void MeasureLines(bench::Report& report, const std::string& line) {
         for (CString str; file.ReadString(str) != 0;)
             continue;
     };
-    report.AddTime(std::to_string(kLines) + " lines of " + std::to_string(line.size()) + " bytes",
+    report.AddTime(name,
                    bench::Compare(
                        kLinesRounds, [&] { return timed(bare); }, [&] { return timed(lines); }),
                    kLinesGoal);
 }
 
-int Run(const char* pszJson) {
-    bench::Report report;
+int Run(const char* pszJson, const char* pszOnly) {
+    bench::Report report(pszOnly);
     bench::MeasureDispatch(report);
+    MeasureRows(report, bench::StringRows());
+    MeasureRows(report, bench::CollectionRows());
+    MeasureRows(report, bench::ListRows());
+    {
+        const TestDrive drive;
+        MeasureRows(report, bench::FileRows());
+    }
+    MeasureSmallDialog(report);
     MeasureFiles(report, 10000);
     MeasureFiles(report, 20000);
     MeasureTree(report);
@@ -116,7 +144,7 @@ int main(int argc, char** argv) {
     try {
         if (bench::RunOpening(argc, argv))
             return 0;
-        return Run(argc > 1 ? argv[1] : nullptr);
+        return Run(argc > 1 ? argv[1] : nullptr, argc > 2 ? argv[2] : "");
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
     } catch (CException* pError) {
