@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include "Tesuvo.h"
@@ -13,11 +15,7 @@ std::wstring Text(const CString& text) {
 }
 
 TEST(NumberedName, CountsUpTheDigitsAtTheEnd) {
-    struct Row {
-        const wchar_t* name;
-        const wchar_t* next;
-    };
-    const Row rows[] = {
+    const Rows<const wchar_t*, const wchar_t*> rows = {
         {L"P009", L"P010"},
         {L"P999", L"P1000"},
         {L"P", L"P1"},
@@ -29,21 +27,15 @@ TEST(NumberedName, CountsUpTheDigitsAtTheEnd) {
         {L"測点099", L"測点100"},
         {L"P99999999999999999999999", L"P100000000000000000000000"},
     };
-    for (const Row& row : rows) {
-        CString name = row.name;
+    for (const auto& [before, next] : rows) {
+        CString name = before;
         TVIncrementName(name);
-        EXPECT_EQ(Text(name), row.next);
+        EXPECT_EQ(Text(name), next);
     }
 }
 
 TEST(PathSplit, GivesFolderNameAndExtension) {
-    struct Row {
-        const wchar_t* path;
-        const wchar_t* folder;
-        const wchar_t* name;
-        const wchar_t* extension;
-    };
-    const Row rows[] = {
+    const Rows<const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*> rows = {
         {L"C:\\Data\\site.csv", L"C:\\Data", L"site", L"csv"},
         {L"C:\\site.csv", L"C:\\", L"site", L"csv"},
         {L"\\site.csv", L"\\", L"site", L"csv"},
@@ -70,15 +62,13 @@ TEST(PathSplit, GivesFolderNameAndExtension) {
         {L"", L"", L"", L""},
         {nullptr, L"", L"", L""},
     };
-    for (const Row& row : rows) {
-        CString folder = L"?";
-        CString name = L"?";
-        CString extension = L"?";
-        TVResolveFilePath(row.path, &folder, &name, &extension);
-        const std::wstring path = row.path != nullptr ? row.path : L"(null)";
-        EXPECT_EQ(Text(folder), row.folder) << path;
-        EXPECT_EQ(Text(name), row.name) << path;
-        EXPECT_EQ(Text(extension), row.extension) << path;
+    for (const auto& [given, wantedFolder, wantedName, wantedExtension] : rows) {
+        CString folder = L"?", name = L"?", extension = L"?";
+        TVResolveFilePath(given, &folder, &name, &extension);
+        const std::wstring path = given != nullptr ? given : L"(null)";
+        EXPECT_EQ(Text(folder), wantedFolder) << path;
+        EXPECT_EQ(Text(name), wantedName) << path;
+        EXPECT_EQ(Text(extension), wantedExtension) << path;
     }
 }
 
@@ -87,8 +77,7 @@ TEST(PathSplit, NeedsNeitherAllResultsNorAPathOfItsOwn) {
     TVResolveFilePath(L"C:\\Data\\site.csv", nullptr, &name, nullptr);
     EXPECT_EQ(Text(name), L"site");
 
-    CString path = L"C:\\Data\\site.csv";
-    CString extension;
+    CString path = L"C:\\Data\\site.csv", extension;
     TVResolveFilePath(path, &path, &name, &extension);
     EXPECT_EQ(Text(path), L"C:\\Data");
     EXPECT_EQ(Text(name), L"site");

@@ -1,78 +1,43 @@
-#include <gtest/gtest.h>
+#include "support/Pixels.h"
 
 #include "Tesuvo.h"
 
-#include <algorithm>
-#include <map>
-#include <vector>
+#include <set>
 
 namespace {
 
 constexpr int kIcons[] = {2, 4, 5, 26, 31, 32, 39, 42};
-constexpr int kSize = 16;
 
-using Pixels = std::vector<DWORD>;
-
-/// Size of an icon's picture, and releases what the system hands out for it.
-SIZE SizeOf(HICON icon) {
-    ICONINFO info{};
-    if (!::GetIconInfo(icon, &info))
-        return {0, 0};
-    BITMAP bitmap{};
-    ::GetObjectW(info.hbmColor, sizeof bitmap, &bitmap);
-    ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    return {bitmap.bmWidth, bitmap.bmHeight};
-}
-
-/// What an icon looks like on a ground of one colour (0x00RRGGBB).
-Pixels Drawn(HICON icon, DWORD ground) {
-    BITMAPINFO format{};
-    format.bmiHeader.biSize = sizeof format.bmiHeader;
-    format.bmiHeader.biWidth = kSize;
-    format.bmiHeader.biHeight = -kSize;
-    format.bmiHeader.biPlanes = 1;
-    format.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const HDC dc = ::CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = ::CreateDIBSection(dc, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const HGDIOBJ previous = ::SelectObject(dc, bitmap);
-    auto* const first = static_cast<DWORD*>(bits);
-    std::fill_n(first, kSize * kSize, ground);
-    EXPECT_TRUE(::DrawIconEx(dc, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL));
-    ::GdiFlush();
-    Pixels pixels(first, first + kSize * kSize);
-    for (DWORD& pixel : pixels)
-        pixel &= 0x00FFFFFF;
-    ::SelectObject(dc, previous);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(dc);
-    return pixels;
-}
-
-TEST(SharedIcons, AreSmallSharedPictures) {
+TEST(SharedIcons, AreSmallSharedPicturesThatDifferAndLetTheGroundThrough) {
+    constexpr int kSize = 16;
+    const CRect inside(0, 0, kSize, kSize);
+    fx::Frame frame;
+    CClientDC dc(&frame);
+    const auto drawn = [&](HICON icon, COLORREF ground) {
+        dc.FillSolidRect(0, 0, 2 * kSize, 2 * kSize, ground);
+        EXPECT_TRUE(::DrawIconEx(dc, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL));
+        return fx::Image(dc, CSize(2 * kSize, 2 * kSize));
+    };
+    constexpr COLORREF kGreen = RGB(0, 255, 0);
+    std::set<std::vector<COLORREF>> seen;
     for (const int index : kIcons) {
         const HICON icon = TVGetCommonIcon(index);
         ASSERT_NE(icon, nullptr) << index;
         EXPECT_EQ(TVGetCommonIcon(index), icon) << index;
-        EXPECT_EQ(SizeOf(icon).cx, kSize) << index;
-        EXPECT_EQ(SizeOf(icon).cy, kSize) << index;
-    }
-}
-
-TEST(SharedIcons, DifferAndLetTheGroundThrough) {
-    std::map<Pixels, int> seen;
-    for (const int index : kIcons) {
-        const Pixels onWhite = Drawn(TVGetCommonIcon(index), 0x00FFFFFF);
-        const Pixels onGreen = Drawn(TVGetCommonIcon(index), 0x0000FF00);
-        const auto [twin, isNew] = seen.emplace(onWhite, index);
-        EXPECT_TRUE(isNew) << index << " looks like " << twin->second;
-
+        const fx::Image onWhite = drawn(icon, fx::WHITE), onGreen = drawn(icon, kGreen);
+        std::vector<COLORREF> pixels;
         int through = 0;
-        for (std::size_t at = 0; at < onWhite.size(); ++at)
-            through += onWhite[at] == 0x00FFFFFF && onGreen[at] == 0x0000FF00 ? 1 : 0;
+        for (int y = 0; y < kSize; ++y)
+            for (int x = 0; x < kSize; ++x) {
+                pixels.push_back(onWhite.At(x, y));
+                through += onWhite.At(x, y) == fx::WHITE && onGreen.At(x, y) == kGreen ? 1 : 0;
+            }
+        EXPECT_TRUE(seen.insert(pixels).second) << index << " looks like another one";
         EXPECT_GE(through, 32) << index << " has no transparent corner";
         EXPECT_GE(kSize * kSize - through, 64) << index << " is nearly empty";
+        const CRect around =
+            onGreen.Around(onGreen.Rect(), [&](CPoint p) { return onGreen.At(p.x, p.y) != kGreen; });
+        EXPECT_EQ(inside, inside | around) << index << " is too large";
     }
 }
 

@@ -6,15 +6,8 @@
 
 namespace {
 
-std::wstring Title() {
-    WCHAR szTitle[32] = L"";
-    ::GetWindowText(panel::OfThread(), szTitle, 32);
-    return szTitle;
-}
-
 /// A window that keeps what it is told about the panel: shown or not.
-class ToldFrame : public fx::Frame {
-public:
+struct ToldFrame : fx::Frame {
     std::vector<bool> m_told;
 
 protected:
@@ -28,8 +21,7 @@ protected:
 };
 
 /// A window with two entry fields that bring up the panel, and another control.
-class InputPanel : public testing::Test {
-protected:
+struct InputPanel : testing::Test {
     InputPanel() {
         m_letters.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &m_frame, 10);
         m_digits.Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 100, 50), &m_frame, 11);
@@ -42,8 +34,7 @@ protected:
     ~InputPanel() override { panel::Close(); }
 
     ToldFrame m_frame;
-    panel::Field m_letters;
-    panel::Field m_digits;
+    panel::Field m_letters, m_digits;
     CButton m_button;
 };
 
@@ -58,7 +49,7 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
         TVShowSIP(nMode);
         EXPECT_EQ(hPanel, panel::OfThread());
         EXPECT_TRUE(panel::IsVisible());
-        EXPECT_EQ(pszTitle, Title());
+        EXPECT_EQ(pszTitle, panel::Title());
         EXPECT_EQ(CRect(area.left, nBottom - 125, area.right, nBottom), panel::Place());
         EXPECT_NE(0, ::GetWindowLongPtr(hPanel, GWL_EXSTYLE) & WS_EX_TOPMOST);
     }
@@ -71,7 +62,7 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
     EXPECT_EQ(nullptr, panel::OfThread());
     TVShowSIP(2);
     EXPECT_TRUE(panel::IsVisible()) << "made anew";
-    EXPECT_EQ(L"かな", Title());
+    EXPECT_EQ(L"かな", panel::Title());
 }
 
 TEST_F(InputPanel, FrameworkKnowsItsPlace) {
@@ -85,9 +76,7 @@ TEST_F(InputPanel, FrameworkKnowsItsPlace) {
     EXPECT_EQ(CRect(info.rcVisibleDesktop), area);
     EXPECT_TRUE(CRect(info.rcSipRect).IsRectEmpty());
 
-    EXPECT_FALSE(SipShowIM(SIPF_DOCKED));
-    EXPECT_TRUE(SipShowIM(SIPF_ON));
-    EXPECT_TRUE(panel::IsVisible());
+    EXPECT_TRUE(!SipShowIM(SIPF_DOCKED) && SipShowIM(SIPF_ON) && panel::IsVisible());
     ASSERT_TRUE(SipGetInfo(&info));
     EXPECT_EQ(info.fdwFlags, SIPF_ON | SIPF_DOCKED);
     EXPECT_EQ(CRect(info.rcSipRect), panel::Place());
@@ -116,10 +105,10 @@ TEST_F(InputPanel, StaysOnTheWayFromFieldToField) {
     for (int i = 0; i < 3; ++i) {
         m_digits.SetFocus();
         panel::PumpFor(20);
-        EXPECT_EQ(L"123", Title());
+        EXPECT_EQ(L"123", panel::Title());
         m_letters.SetFocus();
         panel::PumpFor(20);
-        EXPECT_EQ(L"ABC", Title());
+        EXPECT_EQ(L"ABC", panel::Title());
     }
     panel::PumpFor(150);
     EXPECT_EQ(std::vector{true}, m_frame.m_told) << "it has come, and not gone";

@@ -101,8 +101,7 @@ TEST(Number, StopsAtNothingHidden) {
 TEST(Number, RefusesNullArguments) {
     const CString text = L"1";
     double value = kUntouched;
-    EXPECT_FALSE(TVString2Double(nullptr, &value));
-    EXPECT_FALSE(TVString2Double(&text, nullptr));
+    EXPECT_TRUE(!TVString2Double(nullptr, &value) && !TVString2Double(&text, nullptr));
     EXPECT_EQ(value, kUntouched);
 }
 

@@ -4,8 +4,7 @@
 
 namespace {
 
-class PanelKeys : public testing::Test {
-protected:
+struct PanelKeys : testing::Test {
     PanelKeys() {
         m_field.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 150, 20), &m_frame, 10);
         m_field.SetFocus();
@@ -38,13 +37,9 @@ protected:
 TEST_F(PanelKeys, TypeWhatTheyShow) {
     enum Page { Letters, Capitals, Digits, Hiragana, Katakana };
     constexpr wchar_t NO_CHARACTER = L'*';
-    const struct {
-        Page page;
-        int nRow;
-        int nLeft;  ///< Where the row's characters begin, in pixels.
-        int nWidth; ///< Of each of them.
-        const wchar_t* pszKeys;
-    } rows[] = {
+    // nLeft: Where the row's characters begin, in pixels.
+    // nWidth: Of each of them.
+    const Rows<Page, int, int, int, const wchar_t*> rows = {
         {Letters, 0, 0, 24, L"1234567890"},
         {Letters, 1, 0, 24, L"qwertyuiop"},
         {Letters, 2, 0, 24, L"asdfghjkl-"},
@@ -75,27 +70,26 @@ TEST_F(PanelKeys, TypeWhatTheyShow) {
         {Katakana, 3, 0, 24, L"エケセテネヘメ*レー"},
         {Katakana, 4, 0, 24, L"オコソトノホモヨロ"},
     };
-    constexpr int ROWS_OF_PAGE[] = {5, 5, 4, 6, 6};
-    constexpr int MODE_OF_PAGE[] = {0, 0, 1, 2, 2};
+    constexpr int ROWS_OF_PAGE[] = {5, 5, 4, 6, 6}, MODE_OF_PAGE[] = {0, 0, 1, 2, 2};
     int nShown = -1;
-    for (const auto& row : rows) {
-        if (row.page != nShown) {
-            TVShowSIP(MODE_OF_PAGE[row.page]);
-            if (row.page == Capitals)
+    for (const auto& [page, nRow, nLeft, nWidth, pszKeys] : rows) {
+        if (page != nShown) {
+            TVShowSIP(MODE_OF_PAGE[page]);
+            if (page == Capitals)
                 ExpectAfterTaps({panel::ShiftKey(), panel::ShiftKey()}, Text());
-            if (row.page == Katakana)
+            if (page == Katakana)
                 ExpectAfterTaps({panel::ScriptKey()}, Text());
-            nShown = row.page;
+            nShown = page;
         }
         SetText(L"");
         std::vector<CPoint> taps;
         CString strExpected;
-        for (int i = 0; row.pszKeys[i] != 0; ++i) {
-            if (row.pszKeys[i] == NO_CHARACTER)
+        for (int i = 0; pszKeys[i] != 0; ++i) {
+            if (pszKeys[i] == NO_CHARACTER)
                 continue;
-            const int nMiddle = row.nLeft + i * row.nWidth + row.nWidth / 2;
-            taps.push_back(panel::At(row.nRow, ROWS_OF_PAGE[row.page], nMiddle));
-            strExpected += row.pszKeys[i];
+            const int nMiddle = nLeft + i * nWidth + nWidth / 2;
+            taps.push_back(panel::At(nRow, ROWS_OF_PAGE[page], nMiddle));
+            strExpected += pszKeys[i];
         }
         ExpectAfterTaps(taps, strExpected);
     }
@@ -122,8 +116,7 @@ TEST_F(PanelKeys, LettersAndKanaReachEachOther) {
 }
 
 TEST_F(PanelKeys, PenMaySlideToTheKeyThatWasMeant) {
-    const CPoint q = panel::At(1, 5, 12);
-    const CPoint w = panel::At(1, 5, 36);
+    const CPoint q = panel::At(1, 5, 12), w = panel::At(1, 5, 36);
     pen::Drag(q, w);
     ExpectAfterTaps({}, L"w");
     pen::Drag(q, CPoint(q.x, panel::Place().top - 20)); // off the panel: nothing
@@ -162,14 +155,9 @@ TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
 
 TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
     TVShowSIP(2);
-    const CPoint voiced = panel::At(1, 6, 180);
-    const CPoint semiVoiced = panel::At(3, 6, 180);
+    const CPoint voiced = panel::At(1, 6, 180), semiVoiced = panel::At(3, 6, 180);
     const CPoint small = panel::At(4, 6, 228);
-    const struct {
-        LPCTSTR pszBefore;
-        CPoint key;
-        LPCTSTR pszAfter;
-    } rows[] = {
+    const Rows<LPCTSTR, CPoint, LPCTSTR> rows = {
         {L"あか", voiced, L"あが"}, {L"が", voiced, L"か"},     {L"ば", semiVoiced, L"ぱ"},
         {L"ほ", semiVoiced, L"ぽ"}, {L"か", semiVoiced, L"か"}, {L"つ", small, L"っ"},
         {L"っ", voiced, L"づ"},     {L"や", small, L"ゃ"},      {L"わ", small, L"ゎ"},
@@ -178,9 +166,9 @@ TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
         {L"ヨ", small, L"ョ"},      {L"P1", voiced, L"P1"},     {L"", voiced, L""},
         {L"ん", small, L"ん"},      {L"ー", semiVoiced, L"ー"},
     };
-    for (const auto& row : rows) {
-        SetText(row.pszBefore);
-        ExpectAfterTaps({row.key}, row.pszAfter);
+    for (const auto& [pszBefore, key, pszAfter] : rows) {
+        SetText(pszBefore);
+        ExpectAfterTaps({key}, pszAfter);
     }
     SetText(L"かか");
     m_field.SetSel(1, 1);

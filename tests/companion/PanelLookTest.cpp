@@ -9,8 +9,7 @@ constexpr COLORREF FUNCTION = RGB(200, 210, 220);
 constexpr COLORREF PRESSED = RGB(0, 64, 144);
 constexpr COLORREF SHIFTED = RGB(255, 208, 96);
 
-class PanelLook : public testing::Test {
-protected:
+struct PanelLook : testing::Test {
     PanelLook() {
         m_field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 150, 20), &m_frame, 10);
         m_field.SetFocus();

@@ -10,8 +10,7 @@ namespace {
 constexpr int FIELD_HEIGHT = 20;
 
 /// A dialog of the library with fields at given heights.
-class FieldDialog : public CnDialog {
-public:
+struct FieldDialog : CnDialog {
     /// @param window place on the screen; empty for a full-screen dialog
     /// @param tops   upper edges of the fields, in pixels
     FieldDialog(CRect window, std::vector<int> tops, CWnd* pParent = nullptr)
@@ -81,8 +80,7 @@ const CRect NO_PLACE;
 
 TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
     FieldDialog dialog(NO_PLACE, {20, 150, 230});
-    CRect home;
-    CRect bar;
+    CRect home, bar;
     const auto enterFirst = [&] {
         home = dialog.FieldRect(0);
         bar = fx::RectOf(*dialog.m_pWndEmptyCB);
@@ -125,23 +123,20 @@ TEST(FullScreenDialogAndPanel, FieldStaysUnderThePenUntilItIsLifted) {
 }
 
 TEST(PopupDialogAndPanel, MovesUpAsFarAsTheWorkAreaScrollsTheRestAndGoesBack) {
-    const struct {
-        CRect home;
-        int nTop; ///< Of the field.
-        bool bWholly;
-    } rows[] = {{{20, 110, 220, 220}, 50, true}, {{20, 30, 220, 290}, 190, false}};
-    for (const auto& row : rows) {
-        FieldDialog dialog(row.home, {row.nTop});
+    // nTop: Of the field.
+    const Rows<CRect, int, bool> rows = {{{20, 110, 220, 220}, 50, true}, {{20, 30, 220, 290}, 190, false}};
+    for (const auto& [home, nTop, bWholly] : rows) {
+        FieldDialog dialog(home, {nTop});
         CRect field;
         const auto enter = [&] {
             field = dialog.FieldRect(0);
             dialog.m_fields[0].SetFocus();
         };
         const auto look = [&] {
-            EXPECT_EQ(row.home.Size(), dialog.WindowRect().Size());
-            EXPECT_EQ(row.bWholly ? panel::Place().top - row.home.Height() : 0, dialog.WindowRect().top);
+            EXPECT_EQ(home.Size(), dialog.WindowRect().Size());
+            EXPECT_EQ(bWholly ? panel::Place().top - home.Height() : 0, dialog.WindowRect().top);
         };
-        dialog.Run({enter, dialog.UntilClear(0), look, dialog.Leave(), dialog.UntilAt(row.home),
+        dialog.Run({enter, dialog.UntilClear(0), look, dialog.Leave(), dialog.UntilAt(home),
                     [&] { return dialog.FieldRect(0) == field; }});
     }
 }
@@ -158,8 +153,7 @@ TEST(PopupDialogAndPanel, StaysWhereTheUserPutsItMeanwhile) {
 }
 
 TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
-    class Dialog : public FieldDialog {
-    public:
+    struct Dialog : FieldDialog {
         using FieldDialog::FieldDialog;
         int m_nClicks = 0;
 
@@ -182,8 +176,7 @@ TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
 }
 
 TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
-    class Dialog : public FieldDialog {
-    public:
+    struct Dialog : FieldDialog {
         using FieldDialog::FieldDialog;
         bool m_bTold = false;
 
@@ -206,8 +199,7 @@ TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
 
 TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoesBack) {
     const CRect ownerHome(20, 150, 220, 250);
-    FieldDialog owner(ownerHome, {20});
-    FieldDialog popup(CRect(30, 160, 210, 240), {20}, &owner);
+    FieldDialog owner(ownerHome, {20}), popup(CRect(30, 160, 210, 240), {20}, &owner);
     owner.Run({owner.Enter(0), owner.UntilClear(0), [&] { popup.DoModal(); }, popup.Enter(0),
                popup.UntilClear(0),
                [&] { popup.EndDialog(IDCANCEL); }, // its field goes, the owner's takes over
@@ -216,8 +208,7 @@ TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoe
 }
 
 TEST(PanelSwitch, ShowsAndHidesWhatIsReallyThereEvenBelowADialog) {
-    FieldDialog main(NO_PLACE, {20});
-    FieldDialog popup(CRect(20, 40, 220, 140), {20}, &main);
+    FieldDialog main(NO_PLACE, {20}), popup(CRect(20, 40, 220, 140), {20}, &main);
     const auto tapSwitch = [&main] {
         const CRect bar = fx::RectOf(*main.m_pWndEmptyCB);
         pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));

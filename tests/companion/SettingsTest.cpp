@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include "Tesuvo.h"
@@ -10,8 +12,7 @@ constexpr wchar_t kKey[] = L"Software\\Tesuvo\\Common";
 constexpr wchar_t kDecimals[] = L"1280";
 
 /// Keeps the user's own setting and puts it back afterwards.
-class Settings : public testing::Test {
-protected:
+struct Settings : testing::Test {
     void SetUp() override {
         ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &m_key,
                                     nullptr),
@@ -43,24 +44,16 @@ private:
 };
 
 TEST_F(Settings, DecimalsComeFromTheStoreWithinTheirRange) {
-    struct Row {
-        DWORD stored;
-        int value;
-    };
-    const Row rows[] = {{0, 0}, {1, 1}, {3, 3}, {4, 4}, {5, 2}, {0x80000000, 2}, {0xFFFFFFFF, 2}};
-    for (const Row& row : rows) {
-        Store(kDecimals, row.stored);
-        EXPECT_EQ(TVGetCommonRegInt(1280), row.value) << row.stored;
+    const Rows<DWORD, int> rows = {{0, 0}, {1, 1}, {3, 3}, {4, 4}, {5, 2}, {0x80000000, 2}, {0xFFFFFFFF, 2}};
+    for (const auto& [stored, value] : rows) {
+        Store(kDecimals, stored);
+        EXPECT_EQ(TVGetCommonRegInt(1280), value) << stored;
     }
 }
 
 TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
     EXPECT_EQ(TVGetCommonRegInt(1280), 2);
-    struct Row {
-        DWORD type;
-        std::vector<BYTE> stored;
-    };
-    const Row rows[] = {
+    const Rows<DWORD, std::vector<BYTE>> rows = {
         {REG_SZ, {'4', 0, 0, 0}},
         {REG_EXPAND_SZ, {'4', 0, 0, 0}},
         {REG_MULTI_SZ, {'4', 0, 0, 0, 0, 0}},
@@ -74,11 +67,11 @@ TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
         {REG_DWORD, {4, 0, 0, 0, 0, 0, 0, 0}},
         {REG_BINARY, std::vector<BYTE>(100000, 4)},
     };
-    for (const Row& row : rows) {
-        ASSERT_EQ(::RegSetValueExW(m_key, kDecimals, 0, row.type, row.stored.data(),
-                                   static_cast<DWORD>(row.stored.size())),
-                  ERROR_SUCCESS);
-        EXPECT_EQ(TVGetCommonRegInt(1280), 2) << row.type << ' ' << row.stored.size();
+    for (const auto& [type, stored] : rows) {
+        ASSERT_EQ(
+            ::RegSetValueExW(m_key, kDecimals, 0, type, stored.data(), static_cast<DWORD>(stored.size())),
+            ERROR_SUCCESS);
+        EXPECT_EQ(TVGetCommonRegInt(1280), 2) << type << ' ' << stored.size();
     }
 }
 

@@ -9,8 +9,7 @@ namespace {
 constexpr int IDC_BUTTON = 1;
 constexpr DWORD STYLE = WS_CHILD | WS_VISIBLE | BS_OWNERDRAW;
 
-class ButtonStage : public fx::Stage {
-public:
+struct ButtonStage : fx::Stage {
     explicit ButtonStage(CSize size = {60, 24}, UINT nStyle = 0, LPCTSTR pszText = L"") {
         ::CreateWindowEx(0, WC_BUTTON, pszText, STYLE, 20, 20, size.cx, size.cy, m_hWnd,
                          reinterpret_cast<HMENU>(IDC_BUTTON), nullptr, nullptr);
@@ -32,12 +31,7 @@ public:
 // --- Pixels ------------------------------------------------------------------------------
 
 TEST(IconButton, IconStandsInTheMiddleOrAtTheLeftAndSinksWhenPressed) {
-    const struct {
-        CSize button;
-        CSize icon;
-        UINT nStyle;
-        CPoint place;
-    } rows[] = {
+    const Rows<CSize, CSize, UINT, CPoint> rows = {
         {{60, 24}, {16, 16}, 0, {22, 4}},
         {{60, 24}, {16, 16}, CIconButton::StyleText, {4, 4}},
         {{61, 25}, {16, 16}, 0, {22, 4}},
@@ -45,13 +39,13 @@ TEST(IconButton, IconStandsInTheMiddleOrAtTheLeftAndSinksWhenPressed) {
         {{60, 40}, {32, 32}, 0, {14, 4}},
         {{60, 40}, {8, 20}, CIconButton::StyleText, {10, 10}},
     };
-    for (const auto& row : rows) {
-        ButtonStage stage(row.button, row.nStyle);
-        SIZE size = row.icon;
+    for (const auto& [button, icon, nStyle, place] : rows) {
+        ButtonStage stage(button, nStyle);
+        SIZE size = icon;
         stage.m_button.SetIconSize(&size);
-        EXPECT_EQ(stage.IconPlace(), CRect(row.place, CSize(16, 16))) << row.place.x;
+        EXPECT_EQ(stage.IconPlace(), CRect(place, CSize(16, 16))) << place.x;
         stage.m_button.SetState(TRUE);
-        EXPECT_EQ(stage.IconPlace(), CRect(row.place + CSize(1, 1), CSize(16, 16))) << row.place.x;
+        EXPECT_EQ(stage.IconPlace(), CRect(place + CSize(1, 1), CSize(16, 16))) << place.x;
     }
 }
 
@@ -61,8 +55,7 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     const auto released = stage.Look();
     stage.m_button.SetState(TRUE);
     const auto pressed = stage.Look();
-    EXPECT_TRUE(released.Has(inside, ::GetSysColor(COLOR_BTNTEXT)));
-    EXPECT_TRUE(pressed.Has(inside, fx::WHITE));
+    EXPECT_TRUE(released.Has(inside, ::GetSysColor(COLOR_BTNTEXT)) && pressed.Has(inside, fx::WHITE));
     const CRect text = released.Around(inside, ::GetSysColor(COLOR_BTNTEXT));
     const CRect pressedText = pressed.Around(inside, fx::WHITE);
     EXPECT_GE(text.left, 24);
@@ -87,12 +80,7 @@ TEST(IconButton, FocusRectangleOnlyWithItsStyle) {
 }
 
 TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
-    const struct {
-        UINT nAction;
-        UINT nState;
-        bool bFace;
-        bool bFocus;
-    } rows[] = {
+    const Rows<UINT, UINT, bool, bool> rows = {
         {ODA_DRAWENTIRE, 0, true, false},
         {ODA_SELECT, ODS_SELECTED, true, false},
         {ODA_SELECT, ODS_SELECTED | ODS_FOCUS, true, true},
@@ -105,7 +93,7 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
     constexpr COLORREF PAPER = RGB(10, 20, 30);
     ButtonStage stage(SIZE_, CIconButton::StyleFocus);
     CClientDC screen(&stage);
-    for (const auto& row : rows) {
+    for (const auto& [nAction, nState, bFace, bFocus] : rows) {
         CBitmap bitmap;
         bitmap.CreateCompatibleBitmap(&screen, SIZE_.cx, SIZE_.cy);
         CDC dc; // goes before the bitmap
@@ -116,19 +104,19 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
         dc.SetBkColor(RGB(2, 2, 2));
         DRAWITEMSTRUCT item = {};
         item.CtlType = ODT_BUTTON;
-        item.itemAction = row.nAction;
-        item.itemState = row.nState;
+        item.itemAction = nAction;
+        item.itemState = nState;
         item.hwndItem = stage.m_button;
         item.hDC = dc;
         item.rcItem = CRect(CPoint(), SIZE_);
         stage.m_button.DrawItem(&item);
         const fx::Image image(dc, SIZE_);
-        const std::string what = std::to_string(row.nAction) + ' ' + std::to_string(row.nState);
-        EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), row.bFace) << what;
-        if (!row.bFace) {
+        const std::string what = std::to_string(nAction) + ' ' + std::to_string(nState);
+        EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace) << what;
+        if (!bFace) {
             const CRect drawn =
                 image.Around(image.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != PAPER; });
-            EXPECT_EQ(drawn, row.bFocus ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0)) << what;
+            EXPECT_EQ(drawn, bFocus ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0)) << what;
         }
         EXPECT_EQ(dc.GetTextColor(), RGB(1, 1, 1)) << what;
         EXPECT_EQ(dc.GetBkColor(), RGB(2, 2, 2)) << what;
@@ -186,11 +174,7 @@ TEST(IconButton, RedrawsForChangesOnly) {
     CIconButton& button = stage.m_button;
     const fx::SquareIcon other;
     SIZE size = {8, 8};
-    const struct {
-        const char* what;
-        std::function<void()> change;
-        bool bRedraws;
-    } rows[] = {
+    const Rows<const char*, std::function<void()>, bool> rows = {
         {"same icon", [&] { EXPECT_EQ(button.SetIcon(stage.m_icon), stage.m_icon); }, false},
         {"other icon", [&] { EXPECT_EQ(button.SetIcon(other), stage.m_icon); }, true},
         {"no icon", [&] { EXPECT_EQ(button.SetIcon(nullptr), other); }, true},
@@ -201,10 +185,10 @@ TEST(IconButton, RedrawsForChangesOnly) {
         {"pushed again", [&] { button.SetPush(5); }, false},
         {"other style", [&] { button.SetButtonStyle(0); }, true},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, change, bRedraws] : rows) {
         stage.Look();
-        row.change();
-        EXPECT_EQ(stage.AwaitsRedraw(), row.bRedraws) << row.what;
+        change();
+        EXPECT_EQ(stage.AwaitsRedraw(), bRedraws) << what;
     }
 }
 
@@ -226,8 +210,7 @@ TEST(IconButton, BeforeItsWindowItTouchesNoOther) {
     button.SetIcon(icon);
     button.SetButtonStyle(CIconButton::StyleToggle);
     button.SetPush(TRUE);
-    EXPECT_FALSE(::GetUpdateRect(bystander, nullptr, FALSE));
-    EXPECT_TRUE(button.GetPush());
+    EXPECT_TRUE(!::GetUpdateRect(bystander, nullptr, FALSE) && button.GetPush());
 }
 
 } // namespace

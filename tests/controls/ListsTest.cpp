@@ -12,8 +12,7 @@ constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;
 constexpr UINT SELECTED_AND_FOCUSED = LVIS_SELECTED | LVIS_FOCUSED;
 
 /// All four controls, with something in them.
-class ListStage : public fx::Stage {
-public:
+struct ListStage : fx::Stage {
     ListStage() {
         m_listBox.Create(VISIBLE_CHILD | LBS_NOTIFY, CRect(5, 5, 105, 85), this, 1);
         m_list.Create(VISIBLE_CHILD | LVS_LIST, CRect(110, 5, 215, 85), this, 2);

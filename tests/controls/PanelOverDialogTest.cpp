@@ -12,8 +12,7 @@
 
 namespace {
 
-constexpr int IDC_EDIT = 100;
-constexpr int IDC_COMBO = 101;
+constexpr int IDC_EDIT = 100, IDC_COMBO = 101;
 
 /// Gives a dialog its only field.
 using AddField = void (*)(fx::DialogTemplate&);
@@ -29,8 +28,7 @@ void AddChoice(fx::DialogTemplate& dialogTemplate) {
 }
 
 /// A full-screen dialog with a surface of magenta.
-class FirstFieldDialog : public CnDialog {
-public:
+struct FirstFieldDialog : CnDialog {
     /// When the fields are attached; the base class shows the dialog.
     enum Order { BeforeBase, AfterBase };
 
@@ -83,8 +81,7 @@ TEST(PanelOverDialog, IsSeenWhenTheDialogOpensWithItsFieldFocused) {
 }
 
 TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
-    class Page : public CnPropertyPage {
-    public:
+    struct Page : CnPropertyPage {
         Page() : CnPropertyPage(201) {}
         BOOL OnInitDialog() override {
             return CnPropertyPage::OnInitDialog(), m_edit.Attach(IDC_EDIT, this, SipOptionMode0), TRUE;
@@ -97,8 +94,7 @@ TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
-    FirstFieldDialog first(AddEdit);
-    FirstFieldDialog second(AddCombo, &first);
+    FirstFieldDialog first(AddEdit), second(AddCombo, &first);
     PlayWithPanel(first,
                   {PanelIsSeen, [&] { second.DoModal(); }, PanelIsSeen, [&] { second.EndDialog(IDOK); },
                    [&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); }});

@@ -10,12 +10,9 @@ namespace {
 using fx::Screen;
 using fx::WhileOpen;
 
-constexpr int IDD_FIRST = 201;
-constexpr int IDD_SECOND = 202;
-constexpr int IDC_TEXT = 100;
+constexpr int IDD_FIRST = 201, IDD_SECOND = 202, IDC_TEXT = 100;
 
-class Page : public CnPropertyPage {
-public:
+struct Page : CnPropertyPage {
     explicit Page(int nIDTemplate) : CnPropertyPage(nIDTemplate) {}
 
     CString m_strText = L"P1";
@@ -27,8 +24,7 @@ protected:
     }
 };
 
-class Sheet : public CnPropertySheet {
-public:
+struct Sheet : CnPropertySheet {
     explicit Sheet(DWORD dwOption = 0) : CnPropertySheet(L"設定", nullptr, 0) {
         SetOption(dwOption);
         AddPage(&m_first);
@@ -39,8 +35,7 @@ public:
     bool HasOkButton() const { return (m_nFlags & WF_OKBUTTON) != 0; }
     HWND Bar() const { return ::GetDlgItem(m_hWnd, 0xE800); }
 
-    Page m_first{IDD_FIRST};
-    Page m_second{IDD_SECOND};
+    Page m_first{IDD_FIRST}, m_second{IDD_SECOND};
     BOOL m_bInitResult = FALSE;
 
 protected:

@@ -7,19 +7,16 @@ namespace {
 
 constexpr COLORREF CYAN = RGB(0, 255, 255);
 constexpr COLORREF RED = RGB(255, 0, 0);
-constexpr int MARKED = 3;
-constexpr int ROWS = 6;
+constexpr int MARKED = 3, ROWS = 6;
 
-class MarkingList : public CSelectListCtrl {
-public:
+struct MarkingList : CSelectListCtrl {
     DWORD GetItemAttribute(int nItem) override {
         // Other bits than the lowest have no meaning.
         return nItem == MARKED ? 0x1 : nItem == MARKED + 1 ? 0xFFFFFFFE : 0;
     }
 };
 
-class SelectList : public testing::Test {
-protected:
+struct SelectList : testing::Test {
     void Fill(CSelectListCtrl& list) {
         constexpr DWORD STYLE = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SINGLESEL;
         ASSERT_TRUE(list.Create(STYLE, CRect(0, 0, 200, 150), &m_frame, 1));
@@ -58,27 +55,21 @@ TEST_F(SelectList, AnswersEachStageOfDrawing) {
     MarkingList list;
     Fill(list);
     EXPECT_EQ(0U, list.CSelectListCtrl::GetItemAttribute(MARKED)) << "of itself it marks nothing";
-    const struct {
-        DWORD dwStage;
-        int nItem;
-        LRESULT lResult;
-        bool bColored;
-    } rows[] = {
+    const Rows<DWORD, int, LRESULT, bool> rows = {
         {CDDS_PREPAINT, MARKED, 0x20, false}, {CDDS_ITEMPREPAINT, MARKED, 2, true},
         {CDDS_ITEMPREPAINT, 0, 2, false},     {CDDS_ITEMPREPAINT | CDDS_SUBITEM, MARKED, 2, false},
         {CDDS_POSTPAINT, MARKED, 0, false},   {CDDS_ITEMPOSTPAINT, MARKED, 0, false},
         {CDDS_PREERASE, MARKED, 0, false},
     };
-    for (const auto& row : rows) {
+    for (const auto& [dwStage, nItem, lResult, bColored] : rows) {
         NMLVCUSTOMDRAW draw = {};
         draw.nmcd.hdr = {list.m_hWnd, 1, static_cast<UINT>(NM_CUSTOMDRAW)};
-        draw.nmcd.dwDrawStage = row.dwStage;
-        draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row.nItem);
+        draw.nmcd.dwDrawStage = dwStage;
+        draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(nItem);
         draw.clrText = draw.clrTextBk = RED;
-        EXPECT_EQ(m_frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&draw)), row.lResult)
-            << row.dwStage;
-        EXPECT_EQ(draw.clrText, row.bColored ? fx::BLACK : RED) << row.dwStage;
-        EXPECT_EQ(draw.clrTextBk, row.bColored ? CYAN : RED) << row.dwStage;
+        EXPECT_EQ(m_frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&draw)), lResult) << dwStage;
+        EXPECT_EQ(draw.clrText, bColored ? fx::BLACK : RED) << dwStage;
+        EXPECT_EQ(draw.clrTextBk, bColored ? CYAN : RED) << dwStage;
     }
 }
 

@@ -10,13 +10,11 @@ namespace {
 using fx::Screen;
 using fx::WhileOpen;
 
-constexpr int IDC_TEXT = 100;
-constexpr int IDC_EDIT = 101;
+constexpr int IDC_TEXT = 100, IDC_EDIT = 101;
 constexpr COLORREF YELLOW = RGB(255, 255, 160);
 
 /// A dialog of 60 x 40 units with a static text, an edit field and an OK button.
-class Dialog : public CnDialog {
-public:
+struct Dialog : CnDialog {
     explicit Dialog(DWORD dwOption, CWnd* pOwner = nullptr) : CnDialog(0, pOwner) {
         constexpr DWORD STYLE = WS_POPUP | WS_CAPTION | WS_SYSMENU;
         m_template = fx::DialogTemplate(60, 40, STYLE, L"題名");
@@ -38,16 +36,9 @@ private:
 // --- What the option word decides --------------------------------------------------------
 
 TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
-    constexpr DWORD OK = CnDialog::OptionOkButton;
-    constexpr DWORD POPUP = CnDialog::OptionPopup;
-    constexpr DWORD NO_BAR = CnDialog::OptionNoCommandBar;
-    constexpr DWORD HIDDEN = CnDialog::OptionHidden;
-    const struct {
-        DWORD options;
-        bool full;
-        bool okButton;
-        bool bar;
-    } rows[] = {
+    constexpr DWORD OK = CnDialog::OptionOkButton, POPUP = CnDialog::OptionPopup;
+    constexpr DWORD NO_BAR = CnDialog::OptionNoCommandBar, HIDDEN = CnDialog::OptionHidden;
+    const Rows<DWORD, bool, bool, bool> rows = {
         {0, true, false, true},
         {OK, true, true, true},
         {POPUP, false, false, false},
@@ -55,15 +46,15 @@ TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
         {OK | NO_BAR | HIDDEN, true, true, false},
         {POPUP | HIDDEN, false, false, false},
     };
-    for (const auto& row : rows) {
-        Dialog dlg(row.options & ~OK);
-        dlg.SetOption(row.options & OK); // they add up
-        EXPECT_EQ(row.full, dlg.m_bFullScreen != FALSE) << "known before the window is made";
+    for (const auto& [options, full, okButton, bar] : rows) {
+        Dialog dlg(options & ~OK);
+        dlg.SetOption(options & OK); // they add up
+        EXPECT_EQ(full, dlg.m_bFullScreen != FALSE) << "known before the window is made";
         WhileOpen(dlg, [&] {
-            EXPECT_EQ(row.full, dlg.Rect() == Screen()) << row.options;
-            EXPECT_EQ(row.okButton, dlg.HasOkButton()) << row.options;
-            EXPECT_EQ(row.bar, dlg.Bar() != nullptr) << row.options;
-            EXPECT_EQ((row.options & HIDDEN) == 0, dlg.IsWindowVisible() != FALSE) << row.options;
+            EXPECT_EQ(full, dlg.Rect() == Screen()) << options;
+            EXPECT_EQ(okButton, dlg.HasOkButton()) << options;
+            EXPECT_EQ(bar, dlg.Bar() != nullptr) << options;
+            EXPECT_EQ((options & HIDDEN) == 0, dlg.IsWindowVisible() != FALSE) << options;
         });
     }
 }
@@ -96,28 +87,23 @@ TEST(nDialog, TakesItsIconForBothSizes) {
 
 TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
     const DWORD dwSwallow = CnDialog::OptionSwallowKeys;
-    const struct {
-        DWORD option;
-        WORD key;
-        INT_PTR result;
-    } rows[] = {{0, VK_RETURN, IDOK},
-                {0, VK_ESCAPE, IDCANCEL},
-                {dwSwallow, VK_RETURN, 77},
-                {dwSwallow, VK_ESCAPE, 77}};
-    for (const auto& row : rows) {
-        Dialog dlg(CnDialog::OptionPopup | row.option);
-        const auto type = [&] { pen::TypeKeys({row.key}); };
+    const Rows<DWORD, WORD, INT_PTR> rows = {{0, VK_RETURN, IDOK},
+                                             {0, VK_ESCAPE, IDCANCEL},
+                                             {dwSwallow, VK_RETURN, 77},
+                                             {dwSwallow, VK_ESCAPE, 77}};
+    for (const auto& [option, key, result] : rows) {
+        Dialog dlg(CnDialog::OptionPopup | option);
+        const auto type = [&] { pen::TypeKeys({key}); };
         int nWaited = 0;
         const auto wait = [&] { return ++nWaited == 10; };
         const auto end = [&] { dlg.EndDialog(77); };
-        EXPECT_EQ(row.result, row.result == 77 ? fx::Play(dlg, {type, wait, end}) : fx::Play(dlg, {type}))
-            << row.option << ' ' << row.key;
+        EXPECT_EQ(result, result == 77 ? fx::Play(dlg, {type, wait, end}) : fx::Play(dlg, {type}))
+            << option << ' ' << key;
     }
 }
 
 TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
-    class Asking : public Dialog {
-    public:
+    struct Asking : Dialog {
         using Dialog::Dialog;
         void OnCancel() override {
             ++m_nAsked;
@@ -158,8 +144,7 @@ TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
 
 /// Sends a press, a move and a release, all as client points of the dialog as it stands.
 void DragBy(Dialog& dlg, CSize offset) {
-    const CPoint press(10, 10);
-    const CPoint end = press + offset;
+    const CPoint press(10, 10), end = press + offset;
     dlg.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(press.x, press.y));
     dlg.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(end.x, end.y));
     dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(end.x, end.y));
@@ -168,35 +153,31 @@ void DragBy(Dialog& dlg, CSize offset) {
 TEST(nDialog, DragKeepsTheFrameInReach) {
     fx::Frame owner(CSize(200, 200)); // its coordinates have no part in it
     const CSize size(140, 100);
-    const struct {
-        const char* what;
-        CPoint from, to, stands;
-        DWORD option = CnDialog::OptionDrag;
-    } rows[] = {
-        {"free", {20, 40}, {60, 90}, {60, 90}},
-        {"top", {20, 40}, {20, 10}, {20, 26}},
-        {"top edge itself", {20, 40}, {20, 26}, {20, 26}},
-        {"bottom", {20, 40}, {20, 250}, {20, 194}},
-        {"left", {20, 40}, {-5, 40}, {0, 40}},
-        {"hanging out at the right stays", {20, 40}, {230, 40}, {230, 40}},
-        {"left edge on the border stays", {20, 40}, {240, 40}, {240, 40}},
-        {"gone at the right comes back whole", {20, 40}, {250, 40}, {100, 40}},
-        {"without the option", {20, 40}, {60, 90}, {20, 40}, 0},
+    constexpr DWORD DRAG = CnDialog::OptionDrag;
+    const Rows<const char*, DWORD, CPoint, CPoint, CPoint> rows = {
+        {"free", DRAG, {20, 40}, {60, 90}, {60, 90}},
+        {"top", DRAG, {20, 40}, {20, 10}, {20, 26}},
+        {"top edge itself", DRAG, {20, 40}, {20, 26}, {20, 26}},
+        {"bottom", DRAG, {20, 40}, {20, 250}, {20, 194}},
+        {"left", DRAG, {20, 40}, {-5, 40}, {0, 40}},
+        {"hanging out at the right stays", DRAG, {20, 40}, {230, 40}, {230, 40}},
+        {"left edge on the border stays", DRAG, {20, 40}, {240, 40}, {240, 40}},
+        {"gone at the right comes back whole", DRAG, {20, 40}, {250, 40}, {100, 40}},
+        {"without the option", 0, {20, 40}, {60, 90}, {20, 40}},
     };
-    for (const auto& row : rows) {
-        Dialog dlg(CnDialog::OptionPopup | row.option, &owner);
+    for (const auto& [what, option, from, to, stands] : rows) {
+        Dialog dlg(CnDialog::OptionPopup | option, &owner);
         WhileOpen(dlg, [&] {
-            dlg.MoveWindow(CRect(row.from, size));
-            DragBy(dlg, row.to - row.from);
-            EXPECT_EQ(dlg.Rect(), CRect(row.stands, size)) << row.what;
-            EXPECT_NE(::GetCapture(), dlg.m_hWnd) << row.what;
+            dlg.MoveWindow(CRect(from, size));
+            DragBy(dlg, to - from);
+            EXPECT_EQ(dlg.Rect(), CRect(stands, size)) << what;
+            EXPECT_NE(::GetCapture(), dlg.m_hWnd) << what;
         });
     }
 }
 
 /// Opens at a place of its own, so that what is beside it is never covered.
-class PlacedDialog : public Dialog {
-public:
+struct PlacedDialog : Dialog {
     inline static const CRect PLACE{60, 60, 200, 160};
 
     using Dialog::Dialog;

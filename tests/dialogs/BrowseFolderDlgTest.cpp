@@ -12,8 +12,7 @@ constexpr int TREE = 1100;
 using fx::WhileOpen;
 using Paths = std::vector<CString>;
 
-class Dialog : public CBrowseFolderDlg {
-public:
+struct Dialog : CBrowseFolderDlg {
     using CBrowseFolderDlg::CBrowseFolderDlg;
     using CBrowseFolderDlg::MakeTreeSegment;
     using CBrowseFolderDlg::RemoveTreeItems;
@@ -98,8 +97,7 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
         EXPECT_EQ(CSize(16, 16), size);
         EXPECT_EQ(RGB(255, 255, 255), pImages->GetBkColor());
         const auto expectImage = [&](int nWanted, HTREEITEM hItem) {
-            int nImage = -1;
-            int nSelected = -1;
+            int nImage = -1, nSelected = -1;
             EXPECT_TRUE(tree.GetItemImage(hItem, nImage, nSelected));
             EXPECT_EQ(nWanted, nImage);
             EXPECT_EQ(nWanted, nSelected);
@@ -117,34 +115,30 @@ TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
     for (const wchar_t* pszPath : {L"\\a", L"\\data", L"\\data\\Site 1"})
         drive.MakeFolder(pszPath);
     drive.MakeMany(TestDrive::Folders, L"\\data\\Site 1", "%02.0f", 40); // more than the window shows
-    const struct {
-        const wchar_t* folder;
-        bool found;
-    } rows[] = {{L"\\data", true},
-                {L"\\data\\Site 1\\39", true},
-                {L"\\data\\Site 1\\", false},
-                {L"\\DATA", false},
-                {L"data", false},
-                {L"\\", false},
-                {nullptr, false}};
-    for (const auto& row : rows) {
-        Dialog dlg(row.folder);
+    const Rows<const wchar_t*, bool> rows = {{L"\\data", true},
+                                             {L"\\data\\Site 1\\39", true},
+                                             {L"\\data\\Site 1\\", false},
+                                             {L"\\DATA", false},
+                                             {L"data", false},
+                                             {L"\\", false},
+                                             {nullptr, false}};
+    for (const auto& [folder, found] : rows) {
+        Dialog dlg(folder);
         const auto look = [&] {
             const CTreeCtrl& tree = dlg.Tree();
             EXPECT_EQ(&tree, CWnd::GetFocus());
             const HTREEITEM hSelected = tree.GetSelectedItem();
-            ASSERT_EQ(row.found, hSelected != nullptr) << fx::Utf8(row.folder);
-            if (!row.found)
+            ASSERT_EQ(found, hSelected != nullptr) << fx::Utf8(folder);
+            if (!found)
                 return;
-            EXPECT_EQ(row.folder, dlg.PathOf(hSelected));
-            CRect item;
-            CRect client;
+            EXPECT_EQ(folder, dlg.PathOf(hSelected));
+            CRect item, client;
             tree.GetClientRect(client);
             ASSERT_TRUE(tree.GetItemRect(hSelected, item, FALSE)) << "its parents are closed";
-            EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(row.folder);
+            EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(folder);
         };
         EXPECT_EQ(IDOK, fx::Play(dlg, {look, [&] { fx::TapOk(dlg); }}));
-        EXPECT_EQ(CString(row.folder), dlg.GetSelectedFolder()) << "taken over as it was";
+        EXPECT_EQ(CString(folder), dlg.GetSelectedFolder()) << "taken over as it was";
     }
 }
 
@@ -152,25 +146,19 @@ TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
     TestDrive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFolder(L"\\data\\site");
-    const struct {
-        const char* what;
-        bool tapRoot;
-        void (*end)(const CWnd&);
-        INT_PTR result;
-        const wchar_t* folder;
-    } rows[] = {
+    const Rows<const char*, bool, void (*)(const CWnd&), INT_PTR, const wchar_t*> rows = {
         {"folder, OK", false, fx::TapOk, IDOK, L"\\data"},
         {"root, OK", true, fx::TapOk, IDOK, L"\\"},
         {"folder, close", false, fx::TapClose, IDCANCEL, L"\\data\\site"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, tapRoot, end, result, folder] : rows) {
         Dialog dlg(L"\\data\\site");
         const auto tap = [&] {
             const HTREEITEM hRoot = dlg.Tree().GetRootItem();
-            dlg.TapItem(row.tapRoot ? hRoot : dlg.Tree().GetChildItem(hRoot));
+            dlg.TapItem(tapRoot ? hRoot : dlg.Tree().GetChildItem(hRoot));
         };
-        EXPECT_EQ(row.result, fx::Play(dlg, {tap, [&] { row.end(dlg); }})) << row.what;
-        EXPECT_EQ(row.folder, dlg.GetSelectedFolder()) << row.what;
+        EXPECT_EQ(result, fx::Play(dlg, {tap, [&] { end(dlg); }})) << what;
+        EXPECT_EQ(folder, dlg.GetSelectedFolder()) << what;
     }
 }
 

@@ -5,9 +5,7 @@
 
 namespace {
 
-constexpr int TITLE = 1503;
-constexpr int FIRST_BUTTON = 5100;
-constexpr int BUTTON_HEIGHT = 36;
+constexpr int TITLE = 1503, FIRST_BUTTON = 5100, BUTTON_HEIGHT = 36;
 const UINT TEXTS[] = {1513, 1514, 1515}; // texts of the library, over and over
 
 /// A menu with that many entries.
@@ -87,15 +85,13 @@ TEST(ButtonMenuDlg, TheLastEntryThatCanBeChosenIsTheTwentyFirst) {
 
 TEST(ButtonMenuDlg, EnterChoosesTheButtonWithTheFocusAndNothingElse) {
     constexpr int NONE = -1;
-    const struct {
-        int nEntries;
-        int nFocus; ///< Entry.
-        int nChosen;
-    } rows[] = {{0, NONE, NONE}, {3, NONE, NONE}, {3, 0, 0}, {25, 20, 20}, {25, 21, NONE}};
-    for (const auto& row : rows) {
-        Menu menu(row.nEntries);
+    // nFocus: Entry.
+    const Rows<int, int, int> rows = {
+        {0, NONE, NONE}, {3, NONE, NONE}, {3, 0, 0}, {25, 20, 20}, {25, 21, NONE}};
+    for (const auto& [nEntries, nFocus, nChosen] : rows) {
+        Menu menu(nEntries);
         const auto enter = [&] {
-            ::SetFocus(row.nFocus == NONE ? nullptr : menu.Button(row.nFocus)->m_hWnd);
+            ::SetFocus(nFocus == NONE ? nullptr : menu.Button(nFocus)->m_hWnd);
             pen::TypeKeys({VK_RETURN});
         };
         // Any way to say OK, and then cancel, which comes too late if an entry was chosen.
@@ -103,11 +99,11 @@ TEST(ButtonMenuDlg, EnterChoosesTheButtonWithTheFocusAndNothingElse) {
             menu.m_dlg.PostMessage(WM_COMMAND, IDOK);
             menu.m_dlg.PostMessage(WM_COMMAND, IDCANCEL);
         };
-        const bool bChosen = row.nChosen != NONE;
+        const bool bChosen = nChosen != NONE;
         EXPECT_EQ(bChosen ? IDOK : IDCANCEL,
                   bChosen ? fx::Play(menu.m_dlg, {enter}) : fx::Play(menu.m_dlg, {enter, ok}))
-            << row.nEntries << ' ' << row.nFocus;
-        EXPECT_EQ(row.nChosen, menu.m_dlg.GetMenuIndex());
+            << nEntries << ' ' << nFocus;
+        EXPECT_EQ(nChosen, menu.m_dlg.GetMenuIndex());
     }
 }
 

@@ -37,26 +37,21 @@ TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
                        L"g.v.csv",   L"h.csv",     L"境界　点.csv", L"𠮷か\x3099.csv"};
     Texts both = csv;
     both.insert(both.begin() + 3, L"b.txt");
-    const struct {
-        const wchar_t* subName;
-        Texts names;
-    } rows[] = {
-        {L"csv", csv},
-        {L"csv txt", both},
-        {L"txt", {L"b.txt"}},
-        {L"CSV", {}}, // it has to be in lower case
-        {L"ｃｓｖ", {L"全角.ＣＳＶ"}},
-        {L"", {}},
-    };
-    for (const auto& row : rows) {
+    const Rows<const wchar_t*, Texts> rows = {{L"csv", csv},
+                                              {L"csv txt", both},
+                                              {L"txt", {L"b.txt"}},
+                                              {L"CSV", {}}, // it has to be in lower case
+                                              {L"ｃｓｖ", {L"全角.ＣＳＶ"}},
+                                              {L"", {}}};
+    for (const auto& [subName, wanted] : rows) {
         Dialog dlg;
-        dlg.SetSubName(row.subName);
+        dlg.SetSubName(subName);
         dlg.SetFileFolder(L"\\data");
         WhileOpen(dlg, [&] {
             Texts names = dlg.Names();
             std::sort(names.begin(), names.end());
-            EXPECT_EQ(row.names, names) << fx::Utf8(row.subName);
-            EXPECT_EQ(row.subName, Text(dlg, EXTENSION));
+            EXPECT_EQ(wanted, names) << fx::Utf8(subName);
+            EXPECT_EQ(subName, Text(dlg, EXTENSION));
             EXPECT_EQ(L"\\data", Text(dlg, FOLDER));
         });
     }
@@ -71,16 +66,13 @@ TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwnAndSoIsTheOrder) {
         const wchar_t* time;
         const wchar_t* size;
     };
-    const Row rows[] = {
-        {L"c.csv", {2024, 2, 0, 29, 4, 5, 59, 999}, 0, L"2024/02/29  4:05", L"0"},
-        {L"10.csv", {1999, 12, 0, 31, 23, 59, 0, 0}, 1, L"1999/12/31 23:59", L"1"},
-        {L"9.csv", {2031, 7, 0, 1, 0, 0, 0, 0}, 1234567, L"2031/07/01  0:00", L"1234567"},
-    };
+    const Row rows[] = {{L"c.csv", {2024, 2, 0, 29, 4, 5, 59, 999}, 0, L"2024/02/29  4:05", L"0"},
+                        {L"10.csv", {1999, 12, 0, 31, 23, 59, 0, 0}, 1, L"1999/12/31 23:59", L"1"},
+                        {L"9.csv", {2031, 7, 0, 1, 0, 0, 0, 0}, 1234567, L"2031/07/01  0:00", L"1234567"}};
     for (const Row& row : rows) {
         const CString strPath = CString(L"\\") + row.name;
         drive.MakeFile(strPath, row.bytes);
-        FILETIME local;
-        FILETIME time;
+        FILETIME local, time;
         ::SystemTimeToFileTime(&row.local, &local);
         ::LocalFileTimeToFileTime(&local, &time);
         const HANDLE hFile =
@@ -127,32 +119,28 @@ TEST(FileSelectDlg, FolderPathsReachTheirFilesAndOthersAreEmpty) {
         drive.MakeFolder(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i), 60));
     drive.MakeFile(strDeep + L"\\top.csv");
     const LockedFolder locked(L"\\locked");
-    const struct {
-        CString folder;
-        CString path; ///< Of the one file; empty for none.
-    } rows[] = {
-        {L"", L"\\top.csv"},
-        {L"\\", L"\\top.csv"}, // two backslashes would be a server
-        {drive.Letter(), drive.Letter() + L"\\top.csv"},
-        {drive.Root(), drive.Root() + L"\\top.csv"},
-        {drive.Letter() + strDeep, drive.Letter() + strDeep + L"\\top.csv"},
-        {L"\\nowhere", L""},
-        {L"\\top.csv", L""},
-        {L"\\a<|>b", L""},
-        {L"\\\\nobody\\nothing", L""},
-        {L"NUL", L""},
-        {L"\\locked", L""},
-    };
-    for (const auto& row : rows) {
-        Dialog dlg(CFileSelectDlg::ModeOpen, row.folder);
+    // path: Of the one file; empty for none.
+    const Rows<CString, CString> rows = {{L"", L"\\top.csv"},
+                                         {L"\\", L"\\top.csv"}, // two backslashes would be a server
+                                         {drive.Letter(), drive.Letter() + L"\\top.csv"},
+                                         {drive.Root(), drive.Root() + L"\\top.csv"},
+                                         {drive.Letter() + strDeep, drive.Letter() + strDeep + L"\\top.csv"},
+                                         {L"\\nowhere", L""},
+                                         {L"\\top.csv", L""},
+                                         {L"\\a<|>b", L""},
+                                         {L"\\\\nobody\\nothing", L""},
+                                         {L"NUL", L""},
+                                         {L"\\locked", L""}};
+    for (const auto& [strFolder, path] : rows) {
+        Dialog dlg(CFileSelectDlg::ModeOpen, strFolder);
         const auto tap = [&] {
-            EXPECT_EQ(row.path.IsEmpty() ? Texts() : Texts{L"top.csv"}, dlg.Names()) << fx::Utf8(row.folder);
-            EXPECT_EQ(row.folder, Text(dlg, FOLDER));
-            if (!row.path.IsEmpty())
+            EXPECT_EQ(path.IsEmpty() ? Texts() : Texts{L"top.csv"}, dlg.Names()) << fx::Utf8(strFolder);
+            EXPECT_EQ(strFolder, Text(dlg, FOLDER));
+            if (!path.IsEmpty())
                 dlg.TapFile(L"top.csv");
         };
         EXPECT_EQ(IDOK, fx::Play(dlg, {tap, [&] { fx::TapOk(dlg); }}));
-        EXPECT_EQ(row.path, dlg.GetFilePath());
+        EXPECT_EQ(path, dlg.GetFilePath());
     }
 }
 
@@ -185,12 +173,9 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
     drive.MakeFolder(L"\\data");
     drive.MakeFile(L"\\data\\in.csv");
     drive.MakeFile(L"\\top.csv");
-    const struct {
-        void (*end)(const CWnd&);
-        const wchar_t* folder;
-        Texts names;
-    } rows[] = {{fx::TapOk, L"\\data", {L"in.csv"}}, {fx::TapClose, L"\\", {L"top.csv"}}};
-    for (const auto& row : rows) {
+    const Rows<void (*)(const CWnd&), const wchar_t*, Texts> rows = {{fx::TapOk, L"\\data", {L"in.csv"}},
+                                                                     {fx::TapClose, L"\\", {L"top.csv"}}};
+    for (const auto& [end, folder, names] : rows) {
         Dialog dlg;
         const auto browse = [&] {
             dlg.SetDlgItemText(NAME, L"typed");
@@ -205,15 +190,15 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
         };
         const auto look = [&] {
             EXPECT_EQ(&dlg, CWnd::GetActiveWindow());
-            EXPECT_EQ(row.folder, Text(dlg, FOLDER));
-            EXPECT_EQ(row.names, dlg.Names());
+            EXPECT_EQ(folder, Text(dlg, FOLDER));
+            EXPECT_EQ(names, dlg.Names());
             EXPECT_EQ(L"typed", Text(dlg, NAME));
             auto* const pButton = static_cast<CIconButton*>(dlg.GetDlgItem(FOLDER_BUTTON));
             EXPECT_EQ(TVGetCommonIcon(2), pButton->SetIcon(nullptr)) << "a folder";
             fx::TapOk(dlg);
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {browse, pick, [&] { row.end(*CWnd::GetActiveWindow()); }, look}));
-        EXPECT_EQ(row.folder, dlg.GetFileFolder());
+        EXPECT_EQ(IDOK, fx::Play(dlg, {browse, pick, [&] { end(*CWnd::GetActiveWindow()); }, look}));
+        EXPECT_EQ(folder, dlg.GetFileFolder());
     }
 }
 

@@ -67,29 +67,25 @@ TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
     TestDrive drive;
     for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\abc.c", L"\\a.c"})
         drive.MakeFile(pszName);
-    const struct {
-        int mode;
-        const wchar_t* tapped;
-        const wchar_t* name;
-    } rows[] = {
+    const Rows<int, const wchar_t*, const wchar_t*> rows = {
         {CFileSelectDlg::ModeOpen, L"data.csv", L"data.csv"},
         {CFileSelectDlg::ModeSave, L"data.csv", L"data.csv"},
         {CFileSelectDlg::ModeNew, L"data1.csv", L"data2.csv"},
         {CFileSelectDlg::ModeNew, L"abc.c", L"a.csv"},
         {CFileSelectDlg::ModeNew, L"a.c", L".csv"}, // cut by the length of ".csv", as far as it goes
     };
-    for (const auto& row : rows) {
-        Dialog dlg(row.mode);
+    for (const auto& [mode, tapped, name] : rows) {
+        Dialog dlg(mode);
         const auto tapBeside = [&] {
-            EXPECT_EQ(row.name, Text(dlg, NAME));
+            EXPECT_EQ(name, Text(dlg, NAME));
             const CRect rect = fx::RectOf(dlg.List());
             pen::Tap(CPoint(rect.left + 20, rect.bottom - 30)); // below the last file
         };
         const auto look = [&] {
-            EXPECT_EQ(row.name, Text(dlg, NAME)) << "a tap beside the files changes nothing";
+            EXPECT_EQ(name, Text(dlg, NAME)) << "a tap beside the files changes nothing";
             dlg.EndDialog(IDCANCEL);
         };
-        fx::Play(dlg, {[&] { dlg.TapFile(row.tapped); }, tapBeside, look});
+        fx::Play(dlg, {[&] { dlg.TapFile(tapped); }, tapBeside, look});
     }
 }
 
@@ -104,11 +100,7 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
     for (const CString& strFolder : {strDeep, CString(L"\\data")})
         drive.MakeFile(strFolder + L"\\old.csv");
     ::SetFileAttributes(L"\\data\\old.csv", FILE_ATTRIBUTE_READONLY);
-    const struct {
-        int mode;
-        CString folder;
-        const wchar_t* typed;
-    } rows[] = {
+    const Rows<int, CString, const wchar_t*> rows = {
         {1, L"\\data", L"old"},
         {2, L"\\data", L"old...."},
         {1, L"\\data", L"OLD.Csv"},
@@ -116,8 +108,8 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
         {1, L"\\\\?\\" + drive.Letter() + L"\\data", L"old"},
         {2, strDeep, L"old"},
     };
-    for (const auto& row : rows) {
-        Dialog dlg(row.mode, row.folder);
+    for (const auto& [mode, folder, typed] : rows) {
+        Dialog dlg(mode, folder);
         const auto look = [&] {
             CString strQuestion = MessageText();
             strQuestion.Remove(L'\n'); // it may have been broken into more lines
@@ -128,8 +120,8 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
             EXPECT_EQ(&dlg, CWnd::GetActiveWindow()) << "No leaves the dialog open";
             fx::TapOk(dlg);
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(row.typed), look, Answer(IDNO), again, Answer(IDYES)}))
-            << fx::Utf8(row.typed);
+        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed), look, Answer(IDNO), again, Answer(IDYES)}))
+            << fx::Utf8(typed);
     }
     ::SetFileAttributes(L"\\data\\old.csv", FILE_ATTRIBUTE_NORMAL);
     Dialog dlg(CFileSelectDlg::ModeSave, L"\\data");
@@ -188,16 +180,12 @@ TEST(FileSelectNames, DialogMayBeDestroyedWhileItsMessageIsOpen) {
 TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
     TestDrive drive;
     drive.MakeFile(L"\\old.csv");
-    const struct {
-        int mode;
-        const wchar_t* typed;
-        const wchar_t* path;
-    } rows[] = {
+    const Rows<int, const wchar_t*, const wchar_t*> rows = {
         {0, L"old.csv", L"\\old.csv"}, {0, L"new", L"\\new"}, {1, L"", L""}, {3, L"old.csv", L"\\old.csv"}};
-    for (const auto& row : rows) {
-        Dialog dlg(row.mode);
-        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(row.typed)}));
-        EXPECT_EQ(row.path, dlg.GetFilePath());
+    for (const auto& [mode, typed, path] : rows) {
+        Dialog dlg(mode);
+        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed)}));
+        EXPECT_EQ(path, dlg.GetFilePath());
     }
 }
 

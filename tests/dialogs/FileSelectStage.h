@@ -9,11 +9,7 @@
 
 namespace file_select {
 
-constexpr int LIST = 1151;
-constexpr int NAME = 1152;
-constexpr int FOLDER_BUTTON = 1153;
-constexpr int FOLDER = 1154;
-constexpr int EXTENSION = 1155;
+constexpr int LIST = 1151, NAME = 1152, FOLDER_BUTTON = 1153, FOLDER = 1154, EXTENSION = 1155;
 
 using Texts = std::vector<CString>;
 
@@ -24,8 +20,7 @@ inline CString Text(const CWnd& dlg, int nID) {
 }
 
 /// A dialog for files whose extension is csv.
-class Dialog : public CFileSelectDlg {
-public:
+struct Dialog : CFileSelectDlg {
     explicit Dialog(int nMode = ModeOpen, LPCTSTR pszFolder = L"\\") : CFileSelectDlg(nullptr) {
         SetMode(nMode);
         SetSubName(L"csv");

@@ -6,8 +6,7 @@
 #include <set>
 
 /// Counts, while it exists, what the list views or tree views of this thread are told.
-class FillWatch {
-public:
+struct FillWatch {
     explicit FillWatch(LPCTSTR pszClass) : m_strClass(pszClass) {
         s_pCurrent = this;
         m_hHook = ::SetWindowsHookEx(WH_CALLWNDPROC, OnMessage, nullptr, ::GetCurrentThreadId());
@@ -16,8 +15,6 @@ public:
         ::UnhookWindowsHookEx(m_hHook);
         s_pCurrent = nullptr;
     }
-    FillWatch(const FillWatch&) = delete;
-    FillWatch& operator=(const FillWatch&) = delete;
 
     int nInserted = 0;
     int nInsertedWithRedraw = 0; ///< Each of them makes the control lay itself out and draw.

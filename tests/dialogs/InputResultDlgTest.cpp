@@ -8,10 +8,7 @@ namespace {
 
 using fx::WhileOpen;
 
-constexpr int INPUT_MESSAGE = 1065;
-constexpr int VALUE = 1066;
-constexpr int LINES = 1077;
-constexpr int RESULT_MESSAGE = 1078;
+constexpr int INPUT_MESSAGE = 1065, VALUE = 1066, LINES = 1077, RESULT_MESSAGE = 1078;
 constexpr int IDS_ERROR_CAPTION = 1500; // any text of the library serves as message or caption
 constexpr int IDS_SIZE_HEADING = 1512;
 
@@ -23,8 +20,7 @@ CString Text(CWnd& dlg, int nID) {
 
 TEST(InputDlg, TextsComeAsStringsOrFromResources) {
     CInputDlg bothIds(IDS_ERROR_CAPTION, IDS_SIZE_HEADING, nullptr);
-    CInputDlg messageId(IDS_ERROR_CAPTION, L"題", nullptr);
-    CInputDlg captionId(L"文", IDS_SIZE_HEADING, nullptr);
+    CInputDlg messageId(IDS_ERROR_CAPTION, L"題", nullptr), captionId(L"文", IDS_SIZE_HEADING, nullptr);
     CInputDlg noId(L"文", L"題", nullptr);
     const struct {
         CInputDlg& dlg;
@@ -43,25 +39,22 @@ TEST(InputDlg, TextsComeAsStringsOrFromResources) {
 
 TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {
     fx::Frame owner(CSize(100, 200));
-    const struct {
-        int button;
-        CString before, after;
-    } rows[] = {{IDOK, L"abc", L"abc79"},
-                {IDCANCEL, L"abc", L"abc"},
-                {IDOK, CString(L'x', 200), CString(L'x', 200) + L"79"}};
-    for (const auto& row : rows) {
+    const Rows<int, CString, CString> rows = {{IDOK, L"abc", L"abc79"},
+                                              {IDCANCEL, L"abc", L"abc"},
+                                              {IDOK, CString(L'x', 200), CString(L'x', 200) + L"79"}};
+    for (const auto& [button, before, after] : rows) {
         CInputDlg dlg(L"文", L"題", &owner);
-        dlg.SetString(row.before);
+        dlg.SetString(before);
         const auto look = [&] {
-            EXPECT_EQ(row.before, Text(dlg, VALUE));
+            EXPECT_EQ(before, Text(dlg, VALUE));
             EXPECT_EQ(dlg.GetDlgItem(VALUE), CWnd::GetFocus());
             EXPECT_NEAR(fx::RectOf(owner).CenterPoint().y, fx::RectOf(dlg).CenterPoint().y, 1);
             EXPECT_GE(fx::RectOf(dlg).left, 0) << "not beyond the screen";
         };
         const auto type = [] { pen::TypeKeys({'7', '9'}); }; // behind the text, nothing is selected
-        const auto tap = [&] { pen::Tap(*dlg.GetDlgItem(row.button)); };
-        EXPECT_EQ(row.button, fx::Play(dlg, {look, type, tap}));
-        EXPECT_EQ(row.after, dlg.GetString());
+        const auto tap = [&] { pen::Tap(*dlg.GetDlgItem(button)); };
+        EXPECT_EQ(button, fx::Play(dlg, {look, type, tap}));
+        EXPECT_EQ(after, dlg.GetString());
     }
 }
 
@@ -69,25 +62,21 @@ TEST(ResultDlg, ShowsItsTextsAndItsLinesInTheOrderGiven) {
     const std::vector<CString> lines = {L"Z 最後", L"A 最初", L"", L"A 最初"};
     CResultDlg popup(L"交点が見つかりました", L"計算", nullptr);
     CResultDlg full(IDS_SIZE_HEADING, IDS_ERROR_CAPTION, nullptr); // ids make a full-screen dialog
-    const struct {
-        CResultDlg& dlg;
-        BOOL bFullScreen;
-        const wchar_t* message;
-        const wchar_t* caption;
-    } rows[] = {{popup, FALSE, L"交点が見つかりました", L"計算"}, {full, TRUE, L"サイズ", L"エラー"}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.bFullScreen, row.dlg.m_bFullScreen);
+    const Rows<CResultDlg&, BOOL, const wchar_t*, const wchar_t*> rows = {
+        {popup, FALSE, L"交点が見つかりました", L"計算"}, {full, TRUE, L"サイズ", L"エラー"}};
+    for (const auto& [dlg, bFullScreen, message, caption] : rows) {
+        EXPECT_EQ(bFullScreen, dlg.m_bFullScreen);
         for (const CString& line : lines)
-            row.dlg.AddString(line);
+            dlg.AddString(line);
         for (int nRun = 0; nRun < 2; ++nRun) // the same object may be shown again
-            WhileOpen(row.dlg, [&] {
-                auto* pList = static_cast<CListBox*>(row.dlg.GetDlgItem(LINES));
+            WhileOpen(dlg, [&] {
+                auto* pList = static_cast<CListBox*>(dlg.GetDlgItem(LINES));
                 std::vector<CString> shown(static_cast<size_t>(pList->GetCount()));
                 for (size_t i = 0; i < shown.size(); ++i)
                     pList->GetText(static_cast<int>(i), shown[i]);
                 EXPECT_EQ(lines, shown);
-                EXPECT_EQ(row.message, Text(row.dlg, RESULT_MESSAGE));
-                EXPECT_EQ(row.caption, fx::TextOf(row.dlg));
+                EXPECT_EQ(message, Text(dlg, RESULT_MESSAGE));
+                EXPECT_EQ(caption, fx::TextOf(dlg));
             });
     }
 }

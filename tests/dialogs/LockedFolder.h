@@ -5,8 +5,7 @@
 
 /// Keeps everybody from listing a folder while it exists. A lock is in force for all users,
 /// where missing permissions would not stop an administrator.
-class LockedFolder {
-public:
+struct LockedFolder {
     explicit LockedFolder(LPCTSTR pszFolder)
         : m_hFolder(::CreateFile(pszFolder, FILE_LIST_DIRECTORY, 0, nullptr, OPEN_EXISTING,
                                  FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {
@@ -14,8 +13,6 @@ public:
         EXPECT_EQ(::FindFirstFile(CString(pszFolder) + L"\\*", &entry), INVALID_HANDLE_VALUE);
     }
     ~LockedFolder() { ::CloseHandle(m_hFolder); }
-    LockedFolder(const LockedFolder&) = delete;
-    LockedFolder& operator=(const LockedFolder&) = delete;
 
 private:
     HANDLE m_hFolder;

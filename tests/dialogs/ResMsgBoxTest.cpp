@@ -8,14 +8,12 @@
 namespace {
 
 constexpr UINT SIZE_TEXT = 1512; // any text of the library serves
-constexpr UINT NAME_TEXT = 1510;
-constexpr UINT NO_TEXT = 1599;
+constexpr UINT NAME_TEXT = 1510, NO_TEXT = 1599;
 const CString ANY = L"文";
 
 /// What a message box shows.
 struct Shown {
-    CString strText;
-    CString strCaption;
+    CString strText, strCaption;
     std::vector<int> buttons; ///< Control ids, ascending.
     HWND hOwner = nullptr;
     int nFocus = 0;     ///< Id of the button that Enter presses.
@@ -66,13 +64,7 @@ TEST(ResMsgBox, EachKindHasItsTextCaptionAndButtons) {
     CResMsgBox box;
     const Ids ok = {IDOK};
     const Ids yesNo = {IDYES, IDNO};
-    const struct {
-        std::function<int()> open;
-        CString strText;
-        CString strCaption;
-        Ids buttons;
-        int tap;
-    } rows[] = {
+    const Rows<std::function<int()>, CString, CString, Ids, int> rows = {
         {[&] { return box.ErrorMsgBox(SIZE_TEXT); }, L"サイズ", L"エラー", ok, IDOK},
         {[&] { return box.ErrorMsgBox(ANY); }, ANY, L"エラー", ok, IDOK},
         {[&] { return box.WarningMsgBox(SIZE_TEXT); }, L"サイズ", L"警告", yesNo, IDNO},
@@ -87,11 +79,11 @@ TEST(ResMsgBox, EachKindHasItsTextCaptionAndButtons) {
          IDRETRY},
         {[&] { return box.MsgBox(SIZE_TEXT, L"題", MB_YESNO); }, L"サイズ", L"題", yesNo, IDYES},
     };
-    for (const auto& row : rows) {
-        const Shown shown = WhileOpen(row.open, row.tap);
-        EXPECT_EQ(row.strText, shown.strText);
-        EXPECT_EQ(row.strCaption, shown.strCaption);
-        EXPECT_EQ(row.buttons, shown.buttons) << fx::Utf8(row.strCaption);
+    for (const auto& [open, strText, strCaption, buttons, tap] : rows) {
+        const Shown shown = WhileOpen(open, tap);
+        EXPECT_EQ(strText, shown.strText);
+        EXPECT_EQ(strCaption, shown.strCaption);
+        EXPECT_EQ(buttons, shown.buttons) << fx::Utf8(strCaption);
     }
     EXPECT_EQ(IDNO, WhileOpen([&] { return box.MsgBox(ANY, ANY, MB_YESNO | MB_DEFBUTTON2); }, IDYES).nFocus)
         << "the other parts of the style are kept";
@@ -149,21 +141,19 @@ TEST(ResMsgBox, LinesBreakBetweenCharactersAsTheyAreSeen) {
     const auto shown = [&](const CString& strText) {
         return WhileOpen([&] { return box.InformationMsgBox(strText); }, IDOK).strText;
     };
-    const struct {
-        CString strBefore, strRepeated;
-        const wchar_t* pszNotFirst; ///< In a line.
-    } rows[] = {{L"x", L"\xD867\xDE3D", L"\n\xDE3D"},
-                {L"", L"か\x3099", L"\n\x3099"},
-                {L"", L"か。", L"\n。"},
-                {L"", L"か、", L"\n、"}};
-    for (const auto& row : rows) {
-        CString strText = row.strBefore;
+    // pszNotFirst: In a line.
+    const Rows<CString, CString, const wchar_t*> rows = {{L"x", L"\xD867\xDE3D", L"\n\xDE3D"},
+                                                         {L"", L"か\x3099", L"\n\x3099"},
+                                                         {L"", L"か。", L"\n。"},
+                                                         {L"", L"か、", L"\n、"}};
+    for (const auto& [strBefore, strRepeated, pszNotFirst] : rows) {
+        CString strText = strBefore;
         for (int i = 0; i < 60; ++i)
-            strText += row.strRepeated;
+            strText += strRepeated;
         const CString strShown = shown(strText);
         EXPECT_EQ(strText, Joined(strShown));
         EXPECT_GT(strShown.GetLength(), strText.GetLength());
-        EXPECT_EQ(-1, strShown.Find(row.pszNotFirst));
+        EXPECT_EQ(-1, strShown.Find(pszNotFirst));
     }
     EXPECT_EQ(CString(L'a', 20) + L" \n" + CString(L'b', 25),
               shown(CString(L'a', 20) + L" " + CString(L'b', 25)));

@@ -7,8 +7,7 @@
 
 namespace {
 
-constexpr int LEFT = 1002;
-constexpr int RIGHT = 1006;
+constexpr int LEFT = 1002, RIGHT = 1006;
 constexpr wchar_t BLANK_SIGN = L'*';
 const CString BLANK_TEXT = L"[ブランク]";
 
@@ -18,8 +17,7 @@ unsigned long DataOf(wchar_t ch) {
 }
 
 /// A dialog whose members are letters, a blank being an asterisk.
-class Members {
-public:
+struct Members {
     Members(const CString& strLeft, const CString& strRight) {
         Fill(m_dlg.m_listAvailable, strLeft);
         Fill(m_dlg.m_listCurrent, strRight);
@@ -28,8 +26,6 @@ public:
         m_dlg.FlashSelMemberList(m_dlg.m_listAvailable);
         m_dlg.FlashSelMemberList(m_dlg.m_listCurrent);
     }
-    Members(const Members&) = delete;
-    Members& operator=(const Members&) = delete;
 
     CListBox& Box(int nID) { return *static_cast<CListBox*>(m_dlg.GetDlgItem(nID)); }
 
@@ -100,12 +96,8 @@ private:
 
 TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
     constexpr int ANY = -2;
-    const struct {
-        CString strLeft, strRight;
-        CString strActions;
-        CString strLeftAfter, strRightAfter;
-        int leftSelection, rightSelection; ///< -1: none; ANY: the system's affair.
-    } rows[] = {
+    // rightSelection: -1: none; ANY: the system's affair.
+    const Rows<CString, CString, CString, CString, CString, int, int> rows = {
         {L"ab", L"xy", L"> < ^ v", L"ab", L"xy", -1, -1}, // nothing selected
         {L"cab", L"xy", L"L1 >", L"cb", L"xya", -1, -1},
         {L"ab", L"xyz", L"R1 L0 >", L"b", L"xayz", -1, ANY}, // above the selected one
@@ -120,15 +112,15 @@ TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
         {L"a", L"xyz", L"R1 v v", L"a", L"xzy", -1, 2},
         {L"abc", L"xyz", L"L1 ^ v <", L"abc", L"xyz", 1, -1}, // the left selection does not move
     };
-    for (const auto& row : rows) {
-        Members members(row.strLeft, row.strRight);
-        members.Run(row.strActions, [&] {
-            EXPECT_EQ(row.strLeftAfter, members.InBox(LEFT)) << fx::Utf8(row.strActions);
-            EXPECT_EQ(row.strRightAfter, members.InBox(RIGHT)) << fx::Utf8(row.strActions);
-            EXPECT_EQ(row.leftSelection, members.Box(LEFT).GetCurSel()) << fx::Utf8(row.strActions);
+    for (const auto& [strLeft, strRight, strActions, strLeftAfter, strRightAfter, leftSelection,
+                      rightSelection] : rows) {
+        Members members(strLeft, strRight);
+        members.Run(strActions, [&] {
+            EXPECT_EQ(strLeftAfter, members.InBox(LEFT)) << fx::Utf8(strActions);
+            EXPECT_EQ(strRightAfter, members.InBox(RIGHT)) << fx::Utf8(strActions);
+            EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel()) << fx::Utf8(strActions);
             const int nSelected = members.Box(RIGHT).GetCurSel();
-            EXPECT_EQ(row.rightSelection, row.rightSelection == ANY ? ANY : nSelected)
-                << fx::Utf8(row.strActions);
+            EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected) << fx::Utf8(strActions);
             members.m_dlg.EndDialog(IDCANCEL);
         });
     }

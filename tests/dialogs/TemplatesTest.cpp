@@ -7,8 +7,7 @@
 namespace {
 
 /// Reads the words of a dialog template.
-class Reader {
-public:
+struct Reader {
     explicit Reader(const void* pTemplate) : m_p(static_cast<const WORD*>(pTemplate)), m_pBegin(m_p) {}
 
     WORD Word() { return *m_p++; }

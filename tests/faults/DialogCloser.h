@@ -12,8 +12,7 @@ namespace fault {
 
 /// While it exists, each dialog of the thread is used and then cancelled, as soon as it is there.
 /// Windows that are in the way, such as messages, are closed as well.
-class DialogCloser {
-public:
+struct DialogCloser {
     using Use = std::function<void(CWnd&)>;
 
     explicit DialogCloser(Use use = {}) : m_use(std::move(use)) {
@@ -24,8 +23,6 @@ public:
         ::KillTimer(nullptr, m_nTimer);
         s_pCurrent = nullptr;
     }
-    DialogCloser(const DialogCloser&) = delete;
-    DialogCloser& operator=(const DialogCloser&) = delete;
 
     /// Whether a dialog was there and its use came to its end.
     bool WasUsed() const { return m_bUsed; }
@@ -79,8 +76,7 @@ private:
     Use m_use;
     UINT_PTR m_nTimer = 0;
     int m_nTicks = 0;
-    bool m_bBegun = false;
-    bool m_bUsed = false;
+    bool m_bBegun = false, m_bUsed = false;
 };
 
 } // namespace fault

@@ -66,8 +66,7 @@ void WatchOver() {
     }).detach();
 }
 
-class Loop {
-public:
+struct Loop {
     explicit Loop(const Scenario& scenario) : m_scenario(scenario) {
         fx::g_app.m_pRecord = &m_messages;
         m_owner.SetForegroundWindow();
@@ -75,8 +74,6 @@ public:
             m_nCalls = Run(0);
     }
     ~Loop() { fx::g_app.m_pRecord = nullptr; }
-    Loop(const Loop&) = delete;
-    Loop& operator=(const Loop&) = delete;
 
     int Calls() const { return m_nCalls; }
 

@@ -9,6 +9,7 @@
 #include <shlobj.h>
 
 #include <cstdlib>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -16,39 +17,12 @@ namespace fault {
 
 namespace {
 
-/// Messages by which a control allocates, and its answer when there is no memory.
-bool InsertsIntoControl(HWND, UINT nMessage, WPARAM, LPARAM) {
-    switch (nMessage) {
-    case LB_ADDSTRING:
-    case LB_INSERTSTRING:
-    case CB_ADDSTRING:
-    case CB_INSERTSTRING:
-    case LVM_INSERTITEMW:
-    case LVM_INSERTCOLUMNW:
-    case TVM_INSERTITEMW:
-    case LVM_SETITEMW:
-    case LVM_SETITEMTEXTW:
-        return true;
-    default:
-        return false;
-    }
-}
-
-LRESULT RefusedByControl(UINT nMessage) {
-    switch (nMessage) {
-    case LB_ADDSTRING:
-    case LB_INSERTSTRING:
-        return LB_ERRSPACE;
-    case CB_ADDSTRING:
-    case CB_INSERTSTRING:
-        return CB_ERRSPACE;
-    case LVM_INSERTITEMW:
-    case LVM_INSERTCOLUMNW:
-        return -1;
-    default:
-        return 0;
-    }
-}
+/// Messages by which a control allocates, and its answers when there is no memory.
+const std::map<UINT, LRESULT> REFUSALS = {{LB_ADDSTRING, LB_ERRSPACE}, {LB_INSERTSTRING, LB_ERRSPACE},
+                                          {CB_ADDSTRING, CB_ERRSPACE}, {CB_INSERTSTRING, CB_ERRSPACE},
+                                          {LVM_INSERTITEMW, -1},       {LVM_INSERTCOLUMNW, -1},
+                                          {TVM_INSERTITEMW, 0},        {LVM_SETITEMW, 0},
+                                          {LVM_SETITEMTEXTW, 0}};
 
 /// Null, false or zero, whatever the function gives.
 struct Zero {
@@ -115,8 +89,8 @@ std::vector<Point> Points() {
         LATE_FAULT_POINT(FindClose, FALSE, ERROR_NOT_READY),
         MakePoint(
             "SendMessageW", ::SendMessageW,
-            [](auto, HWND, UINT nMessage, auto...) { return RefusedByControl(nMessage); },
-            [](auto... args) { return InsertsIntoControl(args...); })};
+            [](auto, HWND, UINT nMessage, auto...) { return REFUSALS.at(nMessage); },
+            [](HWND, UINT nMessage, auto...) { return REFUSALS.contains(nMessage); })};
 }
 // clang-format on
 

@@ -39,8 +39,7 @@ TEST_P(DISABLED_FaultLoop, Run) {
 
 INSTANTIATE_TEST_SUITE_P(All, DISABLED_FaultLoop, testing::ValuesIn(fault::Scenarios()), NameOf);
 
-class Faults : public testing::TestWithParam<Scenario> {
-protected:
+struct Faults : testing::TestWithParam<Scenario> {
     static void SetUpTestSuite() {
         s_pDrive = std::make_unique<TestDrive>();
         s_pDrive->MakeFolder(L"\\faults");

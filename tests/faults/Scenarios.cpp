@@ -113,11 +113,9 @@ bool OpenControls(CWnd& owner, bool bPopup) {
     });
 }
 
-constexpr int IDD_PAGE = 201;
-constexpr int IDC_TEXT = 100;
+constexpr int IDD_PAGE = 201, IDC_TEXT = 100;
 
-class Page : public CnPropertyPage {
-public:
+struct Page : CnPropertyPage {
     Page() : CnPropertyPage(IDD_PAGE) {}
 
 protected:
@@ -130,8 +128,7 @@ private:
     CString m_strText = L"P1";
 };
 
-class Sheet : public CnPropertySheet {
-public:
+struct Sheet : CnPropertySheet {
     explicit Sheet(CWnd& owner) : CnPropertySheet(L"設定", &owner, 0) {
         for (Page& page : m_pages)
             AddPage(&page);

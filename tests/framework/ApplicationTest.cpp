@@ -10,31 +10,26 @@ TEST(Application, RunsUntilItsMainWindowIsDestroyed) {
     fx::ModalScript script;
     script.Then([&] { frame.PostMessage(WM_CLOSE); });
     EXPECT_EQ(script.Run([] { return fx::g_app.Run(); }), 0);
-    EXPECT_EQ(frame.m_hWnd, nullptr);
-    EXPECT_EQ(AfxGetMainWnd(), nullptr);
+    EXPECT_TRUE(frame.m_hWnd == nullptr && AfxGetMainWnd() == nullptr);
     EXPECT_EQ(fx::g_app.Run(), 0) << "at once without one";
 }
 
 TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
     fx::Frame frame;
     fx::g_app.m_pMainWnd = &frame;
-    const struct {
-        UINT nType;
-        WORD nKey;
-        int nAnswer;
-    } cases[] = {
+    const Rows<UINT, WORD, int> cases = {
         {MB_OK, VK_RETURN, IDOK},
         {MB_YESNO | MB_DEFBUTTON2, VK_RETURN, IDNO},
         {MB_OKCANCEL, VK_ESCAPE, IDCANCEL},
     };
-    for (const auto& c : cases) {
+    for (const auto& [nType, nKey, nAnswer] : cases) {
         fx::ModalScript script;
         script.Then([&] {
             EXPECT_FALSE(frame.IsWindowEnabled());
             EXPECT_NE(::FindWindow(nullptr, L"test"), nullptr) << "the application's name is its caption";
-            pen::TypeKeys({c.nKey});
+            pen::TypeKeys({nKey});
         });
-        EXPECT_EQ(script.Run([&] { return AfxMessageBox(L"本文", c.nType); }), c.nAnswer);
+        EXPECT_EQ(script.Run([&] { return AfxMessageBox(L"本文", nType); }), nAnswer);
         EXPECT_TRUE(frame.IsWindowEnabled());
     }
     fx::g_app.m_pMainWnd = nullptr;

@@ -8,8 +8,7 @@
 namespace fx {
 
 /// White at first.
-class Canvas {
-public:
+struct Canvas {
     explicit Canvas(int cx = 40, int cy = 40) : m_size(cx, cy) {
         CWindowDC screen(nullptr);
         m_dc.CreateCompatibleDC(&screen);
@@ -18,8 +17,6 @@ public:
         m_dc.PatBlt(0, 0, cx, cy, WHITENESS);
     }
     ~Canvas() { m_dc.SelectObject(m_pOldBitmap); }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
 
     CDC m_dc;
 

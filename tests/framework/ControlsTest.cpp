@@ -5,8 +5,7 @@
 
 namespace {
 
-class Controls : public testing::Test {
-protected:
+struct Controls : testing::Test {
     template <class Control>
     void Create(Control& control, DWORD dwStyle) {
         ASSERT_TRUE(control.Create(WS_CHILD | WS_VISIBLE | dwStyle, CRect(0, 0, 150, 80), &m_frame, 1));
@@ -19,8 +18,7 @@ TEST_F(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {
     Create(edit, ES_MULTILINE | ES_AUTOHSCROLL);
     edit.SetWindowText(L"01234\r\nsecond line\r\n\r\n4");
     edit.SetSel(3, 1000);
-    int nStart = -1;
-    int nEnd = -1;
+    int nStart = -1, nEnd = -1;
     edit.GetSel(nStart, nEnd);
     EXPECT_EQ(CPoint(3, 23), CPoint(nStart, nEnd)) << "to the end";
     edit.SetSel(static_cast<DWORD>(MAKELONG(2, 4)));
@@ -91,8 +89,7 @@ TEST_F(Controls, ScrollBarsLimitLeavesRoomForThePage) {
 
 /// A control of any class that notes what it was asked to draw.
 template <class Control>
-class Drawn : public Control {
-public:
+struct Drawn : Control {
     UINT m_nStates = 0;
 
     void DrawItem(LPDRAWITEMSTRUCT pItem) override {
@@ -120,8 +117,7 @@ TEST_F(Controls, ButtonAndStaticDrawThemselves) {
 
 /// A list box or a combo box that does everything itself.
 template <class Box>
-class OwnBox : public Drawn<Box> {
-public:
+struct OwnBox : Drawn<Box> {
     std::vector<UINT_PTR> m_deleted;
 
     void MeasureItem(LPMEASUREITEMSTRUCT pItem) override { pItem->itemHeight = 37; }

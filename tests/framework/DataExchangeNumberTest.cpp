@@ -13,8 +13,7 @@ struct NumberCase {
 };
 
 template <class Number>
-class NumberField {
-public:
+struct NumberField {
     NumberField() {
         m_form.m_exchange = [this](CDataExchange* pDX) { DDX_Text(pDX, fx::ID_FIRST, m_value); };
     }
@@ -52,10 +51,9 @@ private:
     Number m_value{};
 };
 
-constexpr LPCTSTR INT_PROMPT = L"整数を入力してください。";
-constexpr LPCTSTR UINT_PROMPT = L"正の整数を入力してください。";
-constexpr LPCTSTR BYTE_PROMPT = L"0 から 255 までの整数を入力してください。";
-constexpr LPCTSTR REAL_PROMPT = L"数値を入力してください。";
+constexpr LPCTSTR INT_PROMPT = L"整数を入力してください。", UINT_PROMPT = L"正の整数を入力してください。";
+constexpr LPCTSTR BYTE_PROMPT = L"0 から 255 までの整数を入力してください。",
+                  REAL_PROMPT = L"数値を入力してください。";
 
 TEST(DataExchangeNumber, SignedIntegersTakeTheirWholeRangeAndNothingElse) {
     NumberField<int> integer;

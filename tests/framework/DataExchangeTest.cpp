@@ -7,8 +7,7 @@ namespace {
 
 using namespace fx; // the form's identifiers
 
-class DataExchange : public testing::Test {
-protected:
+struct DataExchange : testing::Test {
     ExchangeForm m_form;
     MessageRecorder m_recorder;
 };
@@ -16,8 +15,7 @@ protected:
 // --- Refusal ----------------------------------------------------------------------------------
 
 TEST_F(DataExchange, RefusalPutsTheFocusIntoTheFieldWithItsTextSelected) {
-    int nFirst = 0;
-    int nSecond = 7;
+    int nFirst = 0, nSecond = 7;
     m_form.m_exchange = [&](CDataExchange* pDX) {
         DDX_Text(pDX, ID_FIRST, nFirst);
         DDX_Text(pDX, ID_SECOND, nSecond);
@@ -59,13 +57,11 @@ TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(m_form.m_first.GetSel(), static_cast<DWORD>(MAKELONG(2, 2)));
     m_form.m_first.SetWindowText(L"");
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_TRUE(strValue.IsEmpty());
+    EXPECT_TRUE(m_form.UpdateData() && strValue.IsEmpty());
 }
 
 TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
-    class Listening : public ExchangeForm {
-    public:
+    struct Listening : ExchangeForm {
         int m_nChanges = 0;
         BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
             m_nChanges += nID == ID_FIRST && nCode == EN_CHANGE ? 1 : 0;
@@ -118,8 +114,7 @@ TEST_F(DataExchange, RadioButtonsCountWithinTheirGroup) {
 }
 
 TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
-    int nList = 1;
-    int nCombo = 2;
+    int nList = 1, nCombo = 2;
     m_form.m_exchange = [&](CDataExchange* pDX) {
         DDX_LBIndex(pDX, ID_LIST, nList);
         DDX_CBIndex(pDX, ID_DROPLIST, nCombo);
@@ -135,24 +130,17 @@ TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
 
     CString strList = L"be";
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_LBString(pDX, ID_LIST, strList); };
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_TRUE(m_form.UpdateData(FALSE) && m_form.UpdateData());
     EXPECT_EQ(strList, L"Beta");
     m_form.m_list.SetCurSel(-1);
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_TRUE(strList.IsEmpty());
+    EXPECT_TRUE(m_form.UpdateData() && strList.IsEmpty());
 }
 
 TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
     CString strValue;
     int nID = 0;
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_CBString(pDX, nID, strValue); };
-    const struct {
-        int nID;
-        LPCTSTR pszValue;
-        LPCTSTR pszBack;
-        int nSelected;
-    } cases[] = {
+    const Rows<int, LPCTSTR, LPCTSTR, int> cases = {
         {ID_COMBO, L"Beta", L"Beta", 2},
         {ID_COMBO, L"free text", L"free text", -1},
         {ID_COMBO, L"Al", L"Al", -1},
@@ -162,15 +150,15 @@ TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
         {ID_DROPLIST, L"Alpha", L"Alpha", 0},
         {ID_COMBO, L"BETA", L"BETA", 2}, // found without regard to case, shown as given
     };
-    for (const auto& c : cases) {
-        nID = c.nID;
-        strValue = c.pszValue;
+    for (const auto& [nControl, pszValue, pszBack, nSelected] : cases) {
+        nID = nControl;
+        strValue = pszValue;
         m_form.m_combo.SetCurSel(-1);
         EXPECT_TRUE(m_form.UpdateData(FALSE));
-        EXPECT_EQ((nID == ID_COMBO ? m_form.m_combo : m_form.m_dropList).GetCurSel(), c.nSelected)
-            << Utf8(c.pszValue);
+        EXPECT_EQ((nID == ID_COMBO ? m_form.m_combo : m_form.m_dropList).GetCurSel(), nSelected)
+            << Utf8(pszValue);
         EXPECT_TRUE(m_form.UpdateData());
-        EXPECT_EQ(strValue, c.pszBack);
+        EXPECT_EQ(strValue, pszBack);
     }
 }
 
@@ -181,8 +169,7 @@ TEST_F(DataExchange, ControlIsAttachedOnce) {
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(edit.GetDlgCtrlID(), ID_FIRST);
     EXPECT_EQ(CWnd::FromHandlePermanent(edit), &edit);
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_TRUE(m_form.UpdateData(FALSE) && m_form.UpdateData());
 }
 
 // --- Rules --------------------------------------------------------------------------------------
@@ -225,8 +212,7 @@ TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
 }
 
 TEST_F(DataExchange, LongestTextAlsoLimitsTyping) {
-    CString strEdit;
-    CString strCombo;
+    CString strEdit, strCombo;
     m_form.m_exchange = [&](CDataExchange* pDX) {
         DDX_Text(pDX, ID_FIRST, strEdit);
         DDV_MaxChars(pDX, strEdit, 4);

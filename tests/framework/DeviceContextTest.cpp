@@ -1,6 +1,7 @@
 // Device contexts: their state, and what appears on a bitmap.
 #include "Canvas.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -9,8 +10,7 @@ constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
 
 TEST(DeviceContext, PaintContextValidatesTheWindow) {
-    class Painted : public fx::Frame {
-    public:
+    struct Painted : fx::Frame {
         int m_nPaints = 0;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message != WM_PAINT)
@@ -43,58 +43,17 @@ TEST(DeviceContext, SelectingGivesThePreviousObjectBack) {
     CPen* const pOldPen = dc.SelectObject(&pen);
     CBrush* const pOldBrush = dc.SelectObject(&brush);
     CFont* const pOldFont = dc.SelectObject(&font);
-    EXPECT_EQ(dc.GetCurrentPen(), &pen);
-    EXPECT_EQ(dc.GetCurrentBrush(), &brush);
-    EXPECT_EQ(dc.GetCurrentFont(), &font);
-    EXPECT_EQ(dc.SelectObject(pOldPen), &pen);
-    EXPECT_EQ(dc.SelectObject(pOldBrush), &brush);
-    EXPECT_EQ(dc.SelectObject(pOldFont), &font);
-    EXPECT_EQ(dc.SelectStockObject(BLACK_PEN)->m_hObject, pOldPen->m_hObject);
+    EXPECT_TRUE(dc.GetCurrentPen() == &pen && dc.GetCurrentBrush() == &brush && dc.GetCurrentFont() == &font);
+    EXPECT_TRUE(dc.SelectObject(pOldPen) == &pen && dc.SelectObject(pOldBrush) == &brush);
+    EXPECT_EQ(&font, dc.SelectObject(pOldFont));
+    EXPECT_EQ(pOldPen->m_hObject, dc.SelectStockObject(BLACK_PEN)->m_hObject);
 }
 
-TEST(DeviceContext, DrawsShapesWhereTheyBelong) {
-    const CRect rect(1, 1, 6, 4);
+TEST(DeviceContext, DrawsWhereItBelongs) {
+    const CRect rect(1, 1, 6, 4), all(0, 0, 7, 5);
     CBrush black(RGB(0, 0, 0));
-    const struct {
-        const char* pszName;
-        std::function<void(CDC&)> draw;
-        const char* pszPicture;
-    } cases[] = {
-        {"frame", [&](CDC& dc) { dc.FrameRect(rect, &black); },
-         ".......\n.#####.\n.#...#.\n.#####.\n.......\n"},
-        {"solid", [&](CDC& dc) { dc.FillSolidRect(2, 1, 2, 2, 0); },
-         ".......\n..##...\n..##...\n.......\n.......\n"},
-        {"3d", [&](CDC& dc) { dc.Draw3dRect(rect, 0, RED); },
-         ".......\n.####x.\n.#...x.\n.xxxxx.\n.......\n"},
-        {"clipped",
-         [&](CDC& dc) {
-             dc.IntersectClipRect(CRect(2, 0, 7, 3));
-             dc.ExcludeClipRect(4, 0, 5, 5);
-             dc.FillRect(rect, &black);
-         },
-         ".......\n..##.#.\n..##.#.\n.......\n.......\n"},
-    };
-    for (const auto& c : cases) {
-        fx::Canvas canvas(7, 5);
-        c.draw(canvas.m_dc);
-        EXPECT_EQ(canvas.Picture(), c.pszPicture) << c.pszName;
-    }
-}
-
-TEST(DeviceContext, FillSolidRectKeepsTheBackgroundColour) {
-    fx::Canvas canvas;
-    canvas.m_dc.SetBkColor(BLUE);
-    canvas.m_dc.FillSolidRect(CRect(0, 0, 5, 5), RED);
-    EXPECT_EQ(canvas.m_dc.GetBkColor(), BLUE);
-    EXPECT_EQ(canvas.m_dc.GetPixel(4, 4), RED);
-}
-
-TEST(DeviceContext, DrawsBitmapsStatesAndRegions) {
-    const CRect all(0, 0, 7, 5);
-    CBrush black(RGB(0, 0, 0));
-    CRgn rgn;
+    CRgn rgn, other;
     rgn.CreateRectRgn(1, 1, 3, 3);
-    CRgn other;
     other.CreateRectRgn(0, 0, 2, 5);
     rgn.CombineRgn(&rgn, &other, RGN_DIFF);
     rgn.OffsetRgn(3, 0);
@@ -106,43 +65,53 @@ TEST(DeviceContext, DrawsBitmapsStatesAndRegions) {
     TRIVERTEX corners[] = {{0, 0, 0, 0, 0, 0}, {7, 5, 0, 0, 0, 0}};
     GRADIENT_RECT whole = {0, 1};
     const POINT points[] = {{1, 1}, {4, 1}, {4, 4}, {1, 4}};
-    const struct {
-        const char* pszName;
-        std::function<void(CDC&)> draw;
-        const char* pszPicture;
-    } cases[] = {
-        {"region", [&](CDC& dc) { dc.FillRgn(&rgn, &black); },
-         ".......\n.....#.\n.....#.\n.......\n.......\n"},
-        {"transparent", [&](CDC& dc) { dc.TransparentBlt(2, 1, 3, 1, &source.m_dc, 0, 0, 3, 1, RED); },
-         "#######\n##.#.##\n#######\n#######\n#######\n"},
-        {"gradient", [&](CDC& dc) { dc.GradientFill(corners, 2, &whole, 1, GRADIENT_FILL_RECT_H); },
-         "#######\n#######\n#######\n#######\n#######\n"},
-        {"path",
-         [&](CDC& dc) {
-             dc.SelectStockObject(BLACK_BRUSH);
-             dc.BeginPath();
-             dc.MoveTo(points[0]);
-             dc.PolylineTo(points + 1, 3);
-             dc.CloseFigure();
-             dc.EndPath();
-             dc.FillPath();
-         },
-         ".......\n.###...\n.###...\n.###...\n.......\n"},
-        {"scroll",
-         [&](CDC& dc) {
-             dc.FillSolidRect(0, 0, 1, 1, 0);
-             dc.ScrollDC(2, 1, all, all, nullptr, nullptr);
-         },
-         "#......\n..#....\n.......\n.......\n.......\n"},
-        {"bitmap", [&](CDC& dc) { dc.DrawState(CPoint(1, 1), CSize(3, 1), &picture, DSS_NORMAL); },
-         ".......\n..#....\n.......\n.......\n.......\n"},
+    const auto solid = [](CDC& dc) {
+        dc.SetBkColor(BLUE);
+        dc.FillSolidRect(2, 1, 2, 2, 0);
+        EXPECT_EQ(BLUE, dc.GetBkColor());
     };
-    for (const auto& c : cases) {
+    const auto clipped = [&](CDC& dc) {
+        dc.IntersectClipRect(CRect(2, 0, 7, 3));
+        dc.ExcludeClipRect(4, 0, 5, 5);
+        dc.FillRect(rect, &black);
+    };
+    const auto transparent = [&](CDC& dc) {
+        dc.PatBlt(0, 0, 7, 5, BLACKNESS);
+        dc.TransparentBlt(2, 1, 3, 1, &source.m_dc, 0, 0, 3, 1, RED);
+    };
+    const auto path = [&](CDC& dc) {
+        dc.SelectStockObject(BLACK_BRUSH);
+        dc.BeginPath();
+        dc.MoveTo(points[0]);
+        dc.PolylineTo(points + 1, 3);
+        dc.CloseFigure();
+        dc.EndPath();
+        dc.FillPath();
+    };
+    const auto scroll = [&](CDC& dc) {
+        dc.FillSolidRect(0, 0, 1, 1, 0);
+        dc.ScrollDC(2, 1, all, all, nullptr, nullptr);
+    };
+    const Rows<std::function<void(CDC&)>, std::string> rows = {
+        {[&](CDC& dc) { dc.FrameRect(rect, &black); }, "....... .#####. .#...#. .#####. ......."},
+        {solid, "....... ..##... ..##... ....... ......."},
+        {[&](CDC& dc) { dc.Draw3dRect(rect, 0, RED); }, "....... .####x. .#...x. .xxxxx. ......."},
+        {clipped, "....... ..##.#. ..##.#. ....... ......."},
+        {[&](CDC& dc) { dc.FillRgn(&rgn, &black); }, "....... .....#. .....#. ....... ......."},
+        {transparent, "####### ##.#.## ####### ####### #######"},
+        {[&](CDC& dc) { dc.GradientFill(corners, 2, &whole, 1, GRADIENT_FILL_RECT_H); },
+         "####### ####### ####### ####### #######"},
+        {path, "....... .###... .###... .###... ......."},
+        {scroll, "#...... ..#.... ....... ....... ......."},
+        {[&](CDC& dc) { dc.DrawState(CPoint(1, 1), CSize(3, 1), &picture, DSS_NORMAL); },
+         "....... ..#.... ....... ....... ......."},
+    };
+    for (const auto& [draw, wanted] : rows) {
         fx::Canvas canvas(7, 5);
-        if (std::string(c.pszName) == "transparent")
-            canvas.m_dc.PatBlt(0, 0, 7, 5, BLACKNESS);
-        c.draw(canvas.m_dc);
-        EXPECT_EQ(canvas.Picture(), c.pszPicture) << c.pszName;
+        draw(canvas.m_dc);
+        std::string drawn = canvas.Picture();
+        std::replace(drawn.begin(), drawn.end(), '\n', ' ');
+        EXPECT_EQ(wanted + ' ', drawn);
     }
 }
 
@@ -169,8 +138,7 @@ TEST(DeviceContext, MapsLogicalUnitsToTheDevice) {
 }
 
 TEST(DeviceContext, AnotherContextAnswersQuestions) {
-    fx::Canvas drawn;
-    fx::Canvas asked;
+    fx::Canvas drawn, asked;
     CDC dc;
     dc.SetOutputDC(drawn.m_dc);
     dc.SetAttribDC(asked.m_dc);

@@ -7,8 +7,7 @@
 namespace {
 
 /// On the whole screen.
-class FullDialog : public CDialog {
-public:
+struct FullDialog : CDialog {
     FullDialog() : CDialog(300U) { m_bFullScreen = TRUE; }
 };
 
@@ -84,8 +83,7 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
 }
 
 /// The folder that the program was started in, with a library of the shell's name in it.
-class PlantedFolder {
-public:
+struct PlantedFolder {
     PlantedFolder() {
         wchar_t szPath[MAX_PATH];
         ::GetTempPath(MAX_PATH, szPath);
@@ -98,8 +96,6 @@ public:
         ::DeleteFile(Library());
         ::RemoveDirectory(m_strFolder);
     }
-    PlantedFolder(const PlantedFolder&) = delete;
-    PlantedFolder& operator=(const PlantedFolder&) = delete;
 
     CString m_strFolder;
 

@@ -5,8 +5,7 @@
 namespace {
 
 /// A dialog with a container of controls, as sheets and forms have them, and a combo box.
-class Form : public fx::Form {
-public:
+struct Form : fx::Form {
     Form() {
         m_onInit = [this] {
             m_group.CreateEx(WS_EX_CONTROLPARENT, nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 80, 90, 110),
@@ -46,11 +45,7 @@ TEST(DialogKeys, NeverGoRoundForEver) {
     const auto inner = [](Form& f) { return f.m_inner.m_hWnd; };
     const auto edit = [](Form& f) { return f.Item(Form::EDIT); };
     const auto comboEdit = [](Form& f) { return ::GetWindow(f.m_combo, GW_CHILD); };
-    const struct {
-        const char* pszName;
-        std::function<HWND(Form&)> focus;
-        std::function<void(Form&)> spoil;
-    } cases[] = {
+    const Rows<const char*, std::function<HWND(Form&)>, std::function<void(Form&)>> cases = {
         {"in a hidden container", inner, [=](Form& f) { hide(f.m_group); }},
         {"in a disabled container", inner, [=](Form& f) { disable(f.m_group); }},
         {"hidden in a container", inner, [=](Form& f) { hide(f.m_inner); }},
@@ -69,14 +64,14 @@ TEST(DialogKeys, NeverGoRoundForEver) {
              disable(f.m_inner);
          }},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszName);
-        std::printf("%s\n", c.pszName); // what hung
+    for (const auto& [pszName, focus, change] : cases) {
+        SCOPED_TRACE(pszName);
+        std::printf("%s\n", pszName); // what hung
         Form form;
         const auto spoil = [&] {
-            const HWND hFocus = c.focus(form);
+            const HWND hFocus = focus(form);
             ::SetFocus(hFocus);
-            c.spoil(form);
+            change(form);
             ::SetFocus(hFocus); // as the system may leave it
             PostKeys(hFocus);
         };

@@ -21,19 +21,16 @@ std::vector<COLORREF> Pixels(const CDC& dc) {
 }
 
 TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
-    const struct {
-        CSize size;
-        int nPixels;
-    } cases[] = {
+    const Rows<CSize, int> cases = {
         {{1, 1}, 38},    // 20 x 20 less 18 x 18, halved
         {{2, 3}, 88},    // sides 2, top and bottom 3
         {{10, 10}, 200}, // the sides meet: all of it
         {{15, 15}, 200},
     };
-    for (const auto& c : cases) {
+    for (const auto& [size, nPixels] : cases) {
         fx::Canvas canvas;
-        canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), c.size, nullptr, c.size);
-        EXPECT_EQ(canvas.CountDrawn(), c.nPixels) << c.size.cx;
+        canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), size, nullptr, size);
+        EXPECT_EQ(canvas.CountDrawn(), nPixels) << size.cx;
         EXPECT_EQ(canvas.Picture().find('#'), canvas.Picture().find_first_not_of(".\n"));
         EXPECT_GE(canvas.Picture().find('#'), 10U * 41);
     }
@@ -61,10 +58,8 @@ TEST(DragRect, TakesOtherBrushesAndThicknessesBackToo) {
     fx::Canvas canvas;
     Paint(canvas.m_dc);
     const auto before = Pixels(canvas.m_dc);
-    CBrush solid(RGB(255, 255, 255));
-    CBrush red(RGB(255, 0, 0));
-    const CRect first(2, 2, 20, 20);
-    const CRect second(8, 8, 35, 35);
+    CBrush solid(RGB(255, 255, 255)), red(RGB(255, 0, 0));
+    const CRect first(2, 2, 20, 20), second(8, 8, 35, 35);
     canvas.m_dc.DrawDragRect(first, CSize(3, 3), nullptr, THIN, &solid);
     EXPECT_NE(canvas.m_dc.GetPixel(2, 2), RGB(12, 12, 12));
     EXPECT_NE(canvas.m_dc.GetPixel(3, 2), RGB(18, 12, 15)) << "a solid brush inverts every pixel";

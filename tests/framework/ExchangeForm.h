@@ -7,17 +7,11 @@
 
 namespace fx {
 
-constexpr int ID_FIRST = 1;
-constexpr int ID_SECOND = 2;
-constexpr int ID_CHECK = 3;
-constexpr int ID_LIST = 4;
-constexpr int ID_COMBO = 5;
-constexpr int ID_DROPLIST = 6;
+constexpr int ID_FIRST = 1, ID_SECOND = 2, ID_CHECK = 3, ID_LIST = 4, ID_COMBO = 5, ID_DROPLIST = 6;
 constexpr int ID_RADIO = 10; ///< Three radio buttons with a label between them.
 constexpr int ID_OTHER_GROUP = 20;
 
-class ExchangeForm : public Frame {
-public:
+struct ExchangeForm : Frame {
     ExchangeForm() {
         const DWORD dwVisible = WS_CHILD | WS_VISIBLE;
         m_first.Create(dwVisible | ES_AUTOHSCROLL, CRect(0, 0, 90, 20), this, ID_FIRST);
@@ -39,12 +33,10 @@ public:
     }
 
     std::function<void(CDataExchange*)> m_exchange;
-    CEdit m_first;
-    CEdit m_second;
+    CEdit m_first, m_second;
     CButton m_check;
     CListBox m_list;
-    CComboBox m_combo;
-    CComboBox m_dropList;
+    CComboBox m_combo, m_dropList;
     CButton m_radio[4];
     CStatic m_label;
 

@@ -5,8 +5,7 @@
 
 namespace {
 
-constexpr UINT WM_HELPINFO = WM_HELP;
-constexpr UINT WM_SESSIONCHANGE = WM_WTSSESSION_CHANGE;
+constexpr UINT WM_HELPINFO = WM_HELP, WM_SESSIONCHANGE = WM_WTSSESSION_CHANGE;
 constexpr WPARAM kW = MAKEWPARAM(258, 65534);
 constexpr LPARAM kL = MAKELPARAM(65531, 7); // -5 as a coordinate
 
@@ -105,8 +104,7 @@ std::string Text(const CMenu* pMenu) {
 }
 
 /// A handler is whatever its line asks for.
-class AllLines : public CWnd {
-public:
+struct AllLines : CWnd {
     std::string m_log;
 
     using CWnd::WindowProc;

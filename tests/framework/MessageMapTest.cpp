@@ -6,13 +6,10 @@
 namespace {
 
 const UINT g_nRegistered = ::RegisterWindowMessage(L"FieldkitTestMessage");
-constexpr UINT WM_BASE_ONLY = WM_APP + 1;
-constexpr UINT WM_BOTH = WM_APP + 2;
-constexpr UINT WM_REWRITE = WM_APP + 3;
+constexpr UINT WM_BASE_ONLY = WM_APP + 1, WM_BOTH = WM_APP + 2, WM_REWRITE = WM_APP + 3;
 constexpr UINT WM_NESTED = WM_APP + 4;
 
-class BaseWnd : public fx::Frame {
-public:
+struct BaseWnd : fx::Frame {
     std::string m_log;
 
     void Log(const std::string& text) { m_log += m_log.empty() ? text : ", " + text; }
@@ -116,12 +113,7 @@ TEST(MessageMap, CommandsFindTheirHandlerByIdentifierAndCode) {
     DerivedWnd wnd;
     const HWND hControl =
         ::CreateWindow(WC_STATIC, L"", WS_CHILD, 0, 0, 5, 5, wnd, nullptr, nullptr, nullptr);
-    const struct {
-        WORD nID;
-        WORD nCode;
-        bool bControl;
-        const char* pszLog;
-    } cases[] = {
+    const Rows<WORD, WORD, bool, const char*> cases = {
         {100, 0, false, "derived command"},
         {101, 0, false, "base command"},
         {199, 0, false, ""},
@@ -135,11 +127,11 @@ TEST(MessageMap, CommandsFindTheirHandlerByIdentifierAndCode) {
         {304, EN_CHANGE, true, "control range 304"},
         {100, 1, false, "derived command"}, // an accelerator
     };
-    for (const auto& c : cases) {
-        const bool bHandled = wnd.SendMessage(WM_COMMAND, MAKEWPARAM(c.nID, c.nCode),
-                                              reinterpret_cast<LPARAM>(c.bControl ? hControl : nullptr)) != 0;
-        EXPECT_EQ(wnd.TakeLog(), c.pszLog) << c.nID << " code " << c.nCode;
-        EXPECT_EQ(bHandled, *c.pszLog != 0) << c.nID << " code " << c.nCode;
+    for (const auto& [nID, nCode, bControl, pszLog] : cases) {
+        const bool bHandled = wnd.SendMessage(WM_COMMAND, MAKEWPARAM(nID, nCode),
+                                              reinterpret_cast<LPARAM>(bControl ? hControl : nullptr)) != 0;
+        EXPECT_EQ(wnd.TakeLog(), pszLog) << nID << " code " << nCode;
+        EXPECT_EQ(bHandled, *pszLog != 0) << nID << " code " << nCode;
     }
 }
 
@@ -158,8 +150,7 @@ TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
 // --- Handlers of more forms than one -----------------------------------------------------------
 
 /// As older programs declare them.
-class OlderForms : public fx::Frame {
-public:
+struct OlderForms : fx::Frame {
     std::string m_log;
 
 protected:
@@ -202,13 +193,7 @@ END_MESSAGE_MAP()
 
 TEST(MessageMap, HandlersMayHaveTheFormsOfOlderPrograms) {
     OlderForms wnd;
-    const struct {
-        UINT message;
-        WPARAM wParam;
-        LPARAM lParam;
-        const char* pszLog;
-        LRESULT lResult;
-    } cases[] = {
+    const Rows<UINT, WPARAM, LPARAM, const char*, LRESULT> cases = {
         {WM_TIMER, 77, 0, "timer 77 0", 0},
         {WM_NCHITTEST, 0, MAKELPARAM(-5, -7), "hit -5 -7", HTCAPTION},
         {WM_POWERBROADCAST, 8, 9, "power 8 9", 4},
@@ -217,14 +202,13 @@ TEST(MessageMap, HandlersMayHaveTheFormsOfOlderPrograms) {
         {WM_REWRITE, 2, -3, "quiet 2 -3", 0},
         {WM_NESTED, 2, 3, "empty 0 0", 6},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(wnd.SendMessage(c.message, c.wParam, c.lParam), c.lResult);
-        EXPECT_EQ(wnd.m_log, c.pszLog);
+    for (const auto& [message, wParam, lParam, pszLog, lResult] : cases) {
+        EXPECT_EQ(wnd.SendMessage(message, wParam, lParam), lResult);
+        EXPECT_EQ(wnd.m_log, pszLog);
     }
 }
 
-class Colored : public fx::Frame {
-public:
+struct Colored : fx::Frame {
     UINT m_nType = 99;
     CWnd* m_pControl = nullptr;
 
@@ -258,8 +242,7 @@ TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
 }
 
 /// A window with the map that lies at one place in memory, as after a change of DLLs.
-class OfUnloadedModule : public fx::Frame {
-public:
+struct OfUnloadedModule : fx::Frame {
     LRESULT OnFirst(WPARAM, LPARAM) { return 1; }
     LRESULT OnSecond(WPARAM, LPARAM) { return 2; }
     const AFX_MSGMAP* GetMessageMap() const override { return &m_map; }

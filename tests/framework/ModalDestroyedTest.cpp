@@ -12,20 +12,16 @@ using fx::Form;
 TEST(ModalDestroyed, DialogIsOverAndItsOwnerEnabled) {
     const fx::Watchdog watchdog(20);
     const auto destroyWhenTold = [](Form& f) { f.m_onDo = [&f] { f.DestroyWindow(); }; };
-    const struct {
-        const char* pszWay;
-        std::function<void(Form&)> prepare; ///< Before DoModal.
-        std::function<void(Form&)> go;      ///< Inside it.
-        INT_PTR nResult = -1;
-    } cases[] = {
-        {"by the system", {}, [](Form& f) { ::DestroyWindow(f); }},
-        {"by the object", {}, [](Form& f) { f.DestroyWindow(); }},
-        {"detached", {}, [](Form& f) { ::DestroyWindow(f.UnsubclassWindow()); }},
+    // Before DoModal, and inside it.
+    const Rows<const char*, std::function<void(Form&)>, std::function<void(Form&)>, INT_PTR> cases = {
+        {"by the system", {}, [](Form& f) { ::DestroyWindow(f); }, -1},
+        {"by the object", {}, [](Form& f) { f.DestroyWindow(); }, -1},
+        {"detached", {}, [](Form& f) { ::DestroyWindow(f.UnsubclassWindow()); }, -1},
         {"ended, then destroyed", {}, [](Form& f) { f.EndDialog(5), f.DestroyWindow(); }, 5},
         {"destroyed, then ended", {}, [](Form& f) { f.DestroyWindow(), f.EndDialog(6); }, 6},
-        {"in its own handler", destroyWhenTold, [](Form& f) { f.SendDo(); }},
-        {"in a posted message", destroyWhenTold, [](Form& f) { f.PostDo(); }},
-        {"in OnInitDialog", [](Form& f) { f.m_onInit = [&f] { f.DestroyWindow(); }; }, {}},
+        {"in its own handler", destroyWhenTold, [](Form& f) { f.SendDo(); }, -1},
+        {"in a posted message", destroyWhenTold, [](Form& f) { f.PostDo(); }, -1},
+        {"in OnInitDialog", [](Form& f) { f.m_onInit = [&f] { f.DestroyWindow(); }; }, {}, -1},
         {"opened again by its own handler",
          [](Form& f) {
              f.m_onDo = [&f] {
@@ -33,18 +29,17 @@ TEST(ModalDestroyed, DialogIsOverAndItsOwnerEnabled) {
                  EXPECT_EQ(-1, f.DoModal()) << "its first loop still runs";
              };
          },
-         [](Form& f) { f.SendDo(); }},
+         [](Form& f) { f.SendDo(); }, -1},
     };
     fx::Frame owner;
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszWay);
+    for (const auto& [pszWay, prepare, act, nResult] : cases) {
+        SCOPED_TRACE(pszWay);
         Form form(&owner);
-        if (c.prepare)
-            c.prepare(form);
-        const auto go = [&] { c.go(form); };
-        EXPECT_EQ(c.nResult, c.go ? fx::Play(form, {go}) : form.DoModal());
-        EXPECT_EQ(nullptr, form.m_hWnd);
-        EXPECT_TRUE(owner.IsWindowEnabled());
+        if (prepare)
+            prepare(form);
+        const auto go = [&] { act(form); };
+        EXPECT_EQ(nResult, act ? fx::Play(form, {go}) : form.DoModal());
+        EXPECT_TRUE(form.m_hWnd == nullptr && owner.IsWindowEnabled());
         EXPECT_EQ(owner.m_hWnd, ::GetActiveWindow());
         form.m_onInit = nullptr;
         fx::WhileOpen(form, [] {}); // and then it works as if nothing had happened
@@ -54,16 +49,14 @@ TEST(ModalDestroyed, DialogIsOverAndItsOwnerEnabled) {
 TEST(ModalDestroyed, OwnerTakesAllDialogsAboveItAlong) {
     const fx::Watchdog watchdog(20);
     auto pOwner = std::make_unique<fx::Frame>();
-    Form outer(pOwner.get());
-    Form inner(&outer);
+    Form outer(pOwner.get()), inner(&outer);
     INT_PTR nInner = 0;
     outer.m_onDo = [&] { nInner = inner.DoModal(); };
     inner.m_onInit = [&] { inner.PostDo(); };
     inner.m_onDo = [&] { pOwner.reset(); };
     EXPECT_EQ(-1, fx::Play(outer, {[&] { outer.SendDo(); }}));
     EXPECT_EQ(-1, nInner);
-    EXPECT_EQ(nullptr, outer.m_hWnd);
-    EXPECT_EQ(nullptr, inner.m_hWnd);
+    EXPECT_TRUE(outer.m_hWnd == nullptr && inner.m_hWnd == nullptr);
 }
 
 TEST(ModalDestroyed, OuterDialogThatGoesLeavesTheInnerOneToItsUser) {

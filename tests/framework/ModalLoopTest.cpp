@@ -8,11 +8,7 @@ namespace {
 using fx::Form;
 
 TEST(ModalDialog, EndsWithWhatEndedIt) {
-    const struct {
-        const char* pszWay;
-        std::function<void(Form&)> end;
-        INT_PTR nResult;
-    } cases[] = {
+    const Rows<const char*, std::function<void(Form&)>, INT_PTR> cases = {
         {"EndDialog", [](Form& form) { form.EndDialog(77); }, 77},
         {"tap on OK", [](Form& form) { pen::Tap(*form.GetDlgItem(IDOK)); }, IDOK},
         {"Enter", [](Form&) { pen::TypeKeys({VK_RETURN}); }, IDOK},
@@ -20,9 +16,9 @@ TEST(ModalDialog, EndsWithWhatEndedIt) {
         {"close", [](Form& form) { form.PostMessage(WM_CLOSE); }, IDCANCEL},
     };
     Form form; // the same one again and again
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.nResult, fx::Play(form, {[&] { c.end(form); }})) << c.pszWay;
-        EXPECT_EQ(nullptr, form.m_hWnd) << c.pszWay;
+    for (const auto& [pszWay, end, nResult] : cases) {
+        EXPECT_EQ(nResult, fx::Play(form, {[&] { end(form); }})) << pszWay;
+        EXPECT_EQ(nullptr, form.m_hWnd) << pszWay;
     }
 }
 
@@ -77,8 +73,7 @@ TEST(ModalDialog, WithoutItsTemplateFailsAndLeavesTheOwnerEnabled) {
 }
 
 /// A dialog that opens another one.
-class Nested : public testing::Test {
-protected:
+struct Nested : testing::Test {
     Nested() {
         m_outer.m_onDo = [this] {
             m_nInner = m_inner.DoModal();
@@ -93,21 +88,18 @@ protected:
     }
 
     fx::Frame m_owner;
-    Form m_outer{&m_owner};
-    Form m_inner{&m_outer};
+    Form m_outer{&m_owner}, m_inner{&m_outer};
     INT_PTR m_nInner = 0;
 };
 
 TEST_F(Nested, InnerDialogDisablesTheOuterOneOnly) {
     const auto end = [&] {
-        EXPECT_FALSE(m_outer.IsWindowEnabled());
-        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_TRUE(!m_outer.IsWindowEnabled() && !m_owner.IsWindowEnabled());
         m_inner.EndDialog(3);
     };
     const auto endOuter = [&] {
         EXPECT_EQ(3, m_nInner);
-        EXPECT_TRUE(m_outer.IsWindowEnabled());
-        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_TRUE(m_outer.IsWindowEnabled() && !m_owner.IsWindowEnabled());
         EXPECT_EQ(m_outer.m_hWnd, ::GetActiveWindow());
         m_outer.EndDialog(4);
     };
@@ -124,8 +116,7 @@ TEST_F(Nested, EndOfTheOuterDialogWaitsForTheInnerOne) {
 TEST_F(Nested, QuitEndsAllLoopsAndReachesTheOutermost) {
     m_outer.m_onDo = [this] { m_inner.DoModal(); };
     fx::Play(m_outer, {Open(), IsOpen(), [] { AfxPostQuitMessage(7); }});
-    EXPECT_EQ(nullptr, m_outer.m_hWnd);
-    EXPECT_EQ(nullptr, m_inner.m_hWnd);
+    EXPECT_TRUE(m_outer.m_hWnd == nullptr && m_inner.m_hWnd == nullptr);
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7U, msg.wParam);

@@ -5,8 +5,7 @@
 namespace {
 
 /// A popup of the given size, owned or not, for the time of a test.
-class Popup : public CWnd {
-public:
+struct Popup : CWnd {
     Popup(CRect rect, CWnd* pOwner, DWORD dwStyle = WS_POPUP | WS_VISIBLE) {
         CreateEx(0, WC_STATIC, L"", dwStyle, rect, pOwner, 0);
     }
@@ -45,8 +44,7 @@ TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
 }
 
 TEST(Placement, CentresOnAnotherWindowIfTold) {
-    Popup owner(CRect(0, 30, 100, 130), nullptr);
-    Popup other(CRect(100, 150, 200, 250), nullptr);
+    Popup owner(CRect(0, 30, 100, 130), nullptr), other(CRect(100, 150, 200, 250), nullptr);
     Popup popup(CRect(0, 0, 40, 20), &owner);
     popup.CenterWindow(&other);
     EXPECT_EQ(fx::RectOf(popup), CRect(130, 190, 170, 210));
@@ -54,8 +52,7 @@ TEST(Placement, CentresOnAnotherWindowIfTold) {
 
 TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
     fx::Frame frame;
-    EXPECT_TRUE(frame.ModifyStyle(0, WS_MAXIMIZEBOX));
-    EXPECT_FALSE(frame.ModifyStyle(0, WS_MAXIMIZEBOX));
+    EXPECT_TRUE(frame.ModifyStyle(0, WS_MAXIMIZEBOX) && !frame.ModifyStyle(0, WS_MAXIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyle(WS_MAXIMIZEBOX, WS_MINIMIZEBOX, SWP_NOREDRAW));
     EXPECT_EQ(frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX), static_cast<DWORD>(WS_MINIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyleEx(0, WS_EX_TOPMOST | WS_EX_TOOLWINDOW));

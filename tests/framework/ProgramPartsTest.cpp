@@ -85,8 +85,7 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
 }
 
 TEST(BitmapButton, ShowsThePictureOfItsState) {
-    class Button : public CBitmapButton {
-    public:
+    struct Button : CBitmapButton {
         Button() {
             CBitmap* const bitmaps[] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
             for (int i = 0; i < 4; ++i)
@@ -123,8 +122,7 @@ TEST(BitmapButton, ShowsThePictureOfItsState) {
 }
 
 TEST(CommandLine, FirstArgumentWithoutAMarkIsTheFile) {
-    class Info : public CCommandLineInfo {
-    public:
+    struct Info : CCommandLineInfo {
         CString m_strLog;
         void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast) override {
             CCommandLineInfo::ParseParam(pszParam, bFlag, bLast);
@@ -172,8 +170,7 @@ TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
     buttons[1].idCommand = 6;
     EXPECT_TRUE(bar.AddButtons(2, buttons));
     buttons[0].idCommand = 7;
-    EXPECT_TRUE(bar.InsertButton(1, buttons));
-    EXPECT_TRUE(bar.InsertSeparator(-1));
+    EXPECT_TRUE(bar.InsertButton(1, buttons) && bar.InsertSeparator(-1));
     EXPECT_EQ((std::vector<int>{0, 5, 7, 6, empty[0], empty[1]}), ids());
     for (int i = 0; i < 2; ++i) // the second one takes the place of what was there
         ASSERT_TRUE(bar.InsertMenuBar(310));
@@ -196,45 +193,33 @@ TEST(Locks, AreHeldByOneAtATime) {
     };
     {
         CSingleLock lock(&mutex);
-        EXPECT_FALSE(lock.Unlock());
-        EXPECT_TRUE(lock.Lock(0));
-        EXPECT_FALSE(isFree(mutex));
-        EXPECT_TRUE(lock.Unlock());
-        EXPECT_TRUE(isFree(mutex));
+        EXPECT_TRUE(!lock.Unlock() && lock.Lock(0) && !isFree(mutex) && lock.Unlock() && isFree(mutex));
     }
-    EXPECT_TRUE(semaphore.Lock(0) && semaphore.Lock(0));
-    EXPECT_FALSE(semaphore.Lock(0));
+    EXPECT_TRUE(semaphore.Lock(0) && semaphore.Lock(0) && !semaphore.Lock(0));
     LONG nBefore = -1;
     EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
     EXPECT_EQ(0, nBefore);
     CSyncObject* objects[] = {&event, &mutex};
     CMultiLock both(objects, 2);
     EXPECT_EQ(WAIT_OBJECT_0 + 1, both.Lock(0, FALSE));
-    EXPECT_FALSE(both.IsLocked(0));
-    EXPECT_TRUE(both.IsLocked(1));
+    EXPECT_TRUE(!both.IsLocked(0) && both.IsLocked(1));
     EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
     event.SetEvent();
     EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
-    EXPECT_TRUE(both.IsLocked(0));
-    EXPECT_FALSE(isFree(mutex));
-    EXPECT_TRUE(both.Unlock());
+    EXPECT_TRUE(both.IsLocked(0) && !isFree(mutex) && both.Unlock());
     EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
 }
 
 TEST(Relatives, AreFoundFromAnyWindow) {
     fx::Frame frame;
     CWnd outer;
-    CButton inner;
-    CButton second;
+    CButton inner, second;
     ASSERT_TRUE(outer.Create(WC_STATIC, L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 90), &frame, 1));
     ASSERT_TRUE(inner.Create(L"", WS_CHILD | WS_VISIBLE | WS_GROUP, CRect(5, 5, 30, 30), &outer, 2));
     ASSERT_TRUE(second.Create(L"", WS_CHILD | WS_VISIBLE, CRect(40, 5, 70, 30), &outer, 3));
     CWnd popup;
     ASSERT_TRUE(popup.CreateEx(0, WC_STATIC, L"", WS_POPUP, CRect(0, 0, 5, 5), &frame, 0));
-    const struct {
-        CWnd* pFound;
-        CWnd* pExpected;
-    } rows[] = {
+    const std::pair<CWnd*, CWnd*> rows[] = {
         {frame.GetTopWindow(), &outer},
         {inner.GetNextWindow(), &second},
         {second.GetNextWindow(GW_HWNDPREV), &inner},
@@ -248,10 +233,9 @@ TEST(Relatives, AreFoundFromAnyWindow) {
         {inner.GetParentOwner(), &frame},
         {popup.GetTopLevelOwner(), &frame},
         {CWnd::FindWindow(nullptr, L"frame"), &frame},
-        {CWnd::FindWindowEx(frame, nullptr, WC_STATIC, nullptr), &outer},
-    };
+        {CWnd::FindWindowEx(frame, nullptr, WC_STATIC, nullptr), &outer}};
     for (size_t i = 0; i < std::size(rows); ++i)
-        EXPECT_EQ(rows[i].pExpected, rows[i].pFound) << i;
+        EXPECT_EQ(rows[i].second, rows[i].first) << i;
 }
 
 } // namespace

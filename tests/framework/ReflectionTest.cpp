@@ -11,8 +11,7 @@ void Log(const char* psz) {
     g_log += g_log.empty() ? psz : std::string(", ") + psz;
 }
 
-class ReflectingEdit : public CEdit {
-public:
+struct ReflectingEdit : CEdit {
     bool m_bTake = true; ///< What the _EX handlers answer.
     HBRUSH m_hBrush = nullptr;
 
@@ -58,13 +57,7 @@ END_MESSAGE_MAP()
 
 TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
     constexpr int UNATTACHED = -1; ///< The control has no object.
-    const struct {
-        UINT nMessage;
-        int nCode;
-        int nTake;
-        const char* pszLog;
-        LRESULT lResult;
-    } rows[] = {
+    const Rows<UINT, int, int, const char*, LRESULT> rows = {
         {WM_COMMAND, EN_UPDATE, TRUE, "child update", 1},
         {WM_COMMAND, EN_MAXTEXT, TRUE, "parent maxtext", 1},
         {WM_COMMAND, EN_CHANGE, TRUE, "child change", 1},
@@ -76,22 +69,22 @@ TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
         {WM_COMMAND, EN_UPDATE, UNATTACHED, "parent update", 1},
         {WM_COMMAND, EN_CHANGE, UNATTACHED, "parent change", 1},
     };
-    for (const auto& row : rows) {
+    for (const auto& [nMessage, nCode, nTake, pszLog, lWanted] : rows) {
         Parent parent;
         ReflectingEdit edit;
         ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent, 1));
         const HWND hEdit = edit;
-        edit.m_bTake = row.nTake == TRUE;
-        if (row.nTake == UNATTACHED)
+        edit.m_bTake = nTake == TRUE;
+        if (nTake == UNATTACHED)
             edit.UnsubclassWindow();
-        NMHDR header = {hEdit, 1, static_cast<UINT>(row.nCode)};
+        NMHDR header = {hEdit, 1, static_cast<UINT>(nCode)};
         g_log.clear();
         const LRESULT lResult =
-            row.nMessage == WM_COMMAND
-                ? parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, row.nCode), reinterpret_cast<LPARAM>(hEdit))
+            nMessage == WM_COMMAND
+                ? parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, nCode), reinterpret_cast<LPARAM>(hEdit))
                 : parent.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&header));
-        EXPECT_EQ(row.pszLog, g_log);
-        EXPECT_EQ(row.lResult, lResult) << row.pszLog;
+        EXPECT_EQ(pszLog, g_log);
+        EXPECT_EQ(lWanted, lResult) << pszLog;
     }
 }
 

@@ -50,8 +50,7 @@ TEST(ResourceChain, ExtensionModuleIsSearchedWhileItsLinkRecordExists) {
     EXPECT_EQ(Text(nID), szText);
     EXPECT_EQ(Text(40000), L"応用の文字列");
     AfxTermExtensionModule(module);
-    EXPECT_EQ(AfxFindStringResourceHandle(nID), nullptr);
-    EXPECT_FALSE(module.bInitialized);
+    EXPECT_TRUE(AfxFindStringResourceHandle(nID) == nullptr && !module.bInitialized);
     ::FreeLibrary(hExtension);
 }
 

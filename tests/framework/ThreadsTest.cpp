@@ -33,14 +33,13 @@ void UseEverything() {
 size_t BytesAfter(int nThreads) {
     for (int i = 0; i < nThreads; ++i)
         std::thread(UseEverything).join();
-    return fx::HeapBytes();
+    return fx::Leftovers::Now().nHeapBytes;
 }
 
 TEST(Threads, LeaveNothingWhenTheyEnd) {
     constexpr int THREADS = 100;
     BytesAfter(10); // caches of the system
-    const size_t nBefore = fx::HeapBytes();
-    const size_t nAfter = BytesAfter(THREADS);
+    const size_t nBefore = fx::Leftovers::Now().nHeapBytes, nAfter = BytesAfter(THREADS);
     EXPECT_LT(nAfter, nBefore + THREADS * 16) << "less than the smallest block a thread";
 }
 
@@ -67,8 +66,7 @@ TEST(Threads, RegisterTheSameClassesAtTheSameTime) {
 
 constexpr UINT WM_ADD = WM_APP + 1;
 
-CEvent g_started(FALSE, TRUE);
-CEvent g_added;
+CEvent g_started(FALSE, TRUE), g_added;
 long g_nSum = 0;
 
 /// A thread with a message loop.
@@ -108,29 +106,20 @@ TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
     delete pThread;
 }
 
-struct Counter {
-    CCriticalSection section;
-    CSemaphore finished{0, 8};
-    int nCount = 0;
-};
-
-UINT Count(LPVOID pParam) {
-    auto* pCounter = static_cast<Counter*>(pParam);
-    for (int i = 0; i < 1000; ++i) {
-        const CSingleLock lock(&pCounter->section, TRUE);
-        ++pCounter->nCount;
-    }
-    pCounter->finished.Unlock();
-    return 0;
-}
-
 TEST(Threads, LocksKeepThemApart) {
-    Counter counter;
+    CCriticalSection section;
+    int nCount = 0;
+    std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i)
-        ASSERT_NE(AfxBeginThread(Count, &counter), nullptr);
-    for (int i = 0; i < 4; ++i)
-        ASSERT_TRUE(counter.finished.Lock(10000));
-    EXPECT_EQ(counter.nCount, 4000);
+        threads.emplace_back([&] {
+            for (int n = 0; n < 1000; ++n) {
+                const CSingleLock lock(&section, TRUE);
+                ++nCount;
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(4000, nCount);
 }
 
 } // namespace

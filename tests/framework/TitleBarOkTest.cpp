@@ -6,8 +6,7 @@
 namespace {
 
 /// On the whole screen, with a record of who has the focus.
-class Form : public fx::Form {
-public:
+struct Form : fx::Form {
     Form() { m_bFullScreen = TRUE; }
 
     std::string m_log;
@@ -25,43 +24,39 @@ protected:
 TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
     const fx::Watchdog watchdog(30);
     const auto isAsking = [](Form& f) { return ::GetActiveWindow() != f.m_hWnd; };
-    const struct {
-        const char* pszOk;
-        std::function<void(Form&)> onOk;
-        const char* pszLog;
-        int nFocus; ///< Afterwards; 0 if the dialog is over.
-    } cases[] = {
+    // nFocus: Afterwards; 0 if the dialog is over.
+    const Rows<const char*, std::function<void(Form&)>, const char*, int> cases = {
         {"stays", [](Form&) {}, "left ok entered ", Form::FIELD},
         {"ends", [](Form& f) { f.EndDialog(8); }, "left ok ", 0},
         {"is destroyed", [](Form& f) { f.DestroyWindow(); }, "left ok ", 0},
         {"goes elsewhere", [](Form& f) { ::SetFocus(f.Item(Form::EDIT)); }, "left ok ", Form::EDIT},
         {"asks", [](Form&) { AfxMessageBox(L"?"); }, "left ok entered ", Form::FIELD},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszOk);
+    for (const auto& [pszOk, act, pszLog, nFocus] : cases) {
+        SCOPED_TRACE(pszOk);
         std::string log;
         Form form;
         form.m_onOk = [&] {
             form.m_log += "ok ";
-            c.onOk(form);
+            act(form);
         };
         fx::ModalScript script;
         script.Then([&] { ::SetFocus(form.Item(Form::FIELD)); }).Then([&] {
             form.m_log.clear();
             fx::TapOk(form);
         });
-        if (std::string(c.pszOk) == "asks")
+        if (std::string(pszOk) == "asks")
             script.Until([&] { return isAsking(form); })
                 .Then([] { ::PostMessage(::GetActiveWindow(), WM_COMMAND, IDOK, 0); })
                 .Until([&] { return !isAsking(form); });
-        if (c.nFocus != 0)
+        if (nFocus != 0)
             script.Then([&] {
-                EXPECT_EQ(form.Item(c.nFocus), ::GetFocus());
+                EXPECT_EQ(form.Item(nFocus), ::GetFocus());
                 log = form.m_log;
                 form.EndDialog(1);
             });
         script.Run([&] { return form.DoModal(); });
-        EXPECT_EQ(c.pszLog, c.nFocus != 0 ? log : form.m_log);
+        EXPECT_EQ(pszLog, nFocus != 0 ? log : form.m_log);
     }
 }
 

@@ -26,8 +26,7 @@ void RaiseMemory() {
 }
 
 /// Throws in one place.
-class Form : public fx::Form {
-public:
+struct Form : fx::Form {
     enum Place { Nowhere, Command, Init, InitMessage, Translate, Attaching, End };
 
     Form(Place place, Thrower raise, CWnd* pParentWnd = nullptr)
@@ -76,8 +75,7 @@ TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
             EXPECT_EQ(p.bOpens ? 6 : -1, p.bOpens ? fx::Play(form, {raise, end}) : fx::Play(form, {}));
             const bool bTold = p.bTold && e.pszPrompt != nullptr;
             EXPECT_EQ(bTold ? std::vector<CString>{e.pszPrompt} : std::vector<CString>(), recorder.m_prompts);
-            EXPECT_EQ(nullptr, form.m_hWnd);
-            EXPECT_TRUE(owner.IsWindowEnabled());
+            EXPECT_TRUE(form.m_hWnd == nullptr && owner.IsWindowEnabled());
             form.m_place = Form::Nowhere;
             fx::WhileOpen(form, [] {});
         }
@@ -92,8 +90,7 @@ TEST(Uncaught, ModelessDialogThatCannotBeInitialisedIsNotThere) {
     Failing dialog;
     dialog.m_bFullScreen = FALSE;
     fx::MessageRecorder recorder;
-    EXPECT_FALSE(dialog.CreateIndirect(dialogTemplate.Get()));
-    EXPECT_EQ(nullptr, dialog.m_hWnd);
+    EXPECT_TRUE(!dialog.CreateIndirect(dialogTemplate.Get()) && dialog.m_hWnd == nullptr);
 }
 
 /// The handler fails each time it is called, also while the box about the first time is open.
@@ -154,8 +151,7 @@ TEST(Uncaught, FailingNewIsAMemoryException) {
     volatile size_t nBytes = SIZE_MAX / 4;
     void* pBlock = nullptr;
     EXPECT_THROW(pBlock = ::operator new(nBytes), CMemoryException*);
-    EXPECT_EQ(nullptr, pBlock);
-    EXPECT_EQ(nullptr, ::operator new(nBytes, std::nothrow));
+    EXPECT_TRUE(pBlock == nullptr && ::operator new(nBytes, std::nothrow) == nullptr);
     std::set_new_handler(pfnBefore);
 }
 

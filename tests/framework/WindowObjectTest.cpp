@@ -12,8 +12,7 @@ HWND CreateForeign(HWND hWndParent = nullptr) {
 }
 
 /// A foreign window for the time of a test.
-class Foreign {
-public:
+struct Foreign {
     ~Foreign() { ::DestroyWindow(m_hWnd); }
     operator HWND() const { return m_hWnd; }
 
@@ -26,8 +25,7 @@ WNDPROC ProcedureOf(HWND hWnd) {
 }
 
 /// Lives on the heap as long as its window, and tells when it goes.
-class SelfDeleting : public CWnd {
-public:
+struct SelfDeleting : CWnd {
     explicit SelfDeleting(int& rnDeleted) : m_rnDeleted(rnDeleted) {}
     ~SelfDeleting() override { ++m_rnDeleted; }
 
@@ -54,16 +52,14 @@ TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
     ASSERT_NE(pWnd, nullptr);
     EXPECT_EQ(pWnd->m_hWnd, window);
     EXPECT_EQ(CWnd::FromHandle(window), pWnd);
-    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
-    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    EXPECT_TRUE(CWnd::FromHandlePermanent(window) == nullptr && CWnd::FromHandle(nullptr) == nullptr);
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(window));
     EXPECT_EQ(CWnd::FromHandle(window)->m_hWnd, window);
 }
 
 TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
-    const Foreign window;
-    const Foreign other;
+    const Foreign window, other;
     CWnd wnd;
     EXPECT_FALSE(wnd.Attach(nullptr));
     ASSERT_TRUE(wnd.Attach(window));
@@ -72,19 +68,16 @@ TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
     EXPECT_FALSE(CWnd().Attach(window)) << "two objects of one window";
     EXPECT_FALSE(wnd.Attach(other)) << "two windows of one object";
     EXPECT_EQ(wnd.Detach(), window);
-    EXPECT_EQ(wnd.m_hWnd, nullptr);
-    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
+    EXPECT_TRUE(wnd.m_hWnd == nullptr && CWnd::FromHandlePermanent(window) == nullptr);
     EXPECT_TRUE(::IsWindow(window));
 }
 
 TEST(WindowObject, IsAttachedBeforeTheFirstMessage) {
-    class Early : public CWnd {
-    public:
+    struct Early : CWnd {
         std::vector<UINT> m_messages;
         int m_nPrepared = 0;
         void PreSubclassWindow() override {
-            EXPECT_NE(m_hWnd, nullptr);
-            EXPECT_TRUE(m_messages.empty());
+            EXPECT_TRUE(m_hWnd != nullptr && m_messages.empty());
             ++m_nPrepared;
         }
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -101,8 +94,7 @@ TEST(WindowObject, IsAttachedBeforeTheFirstMessage) {
 
 TEST(WindowObject, ParentNotificationsOfCreationDoNotTakeThePlaceOfTheNewWindow) {
     // A window that creates children while it is created itself must not lose its object to one.
-    class WithChild : public CWnd {
-    public:
+    struct WithChild : CWnd {
         CWnd m_child;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message == WM_CREATE)
@@ -139,10 +131,8 @@ TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
     fx::Frame frame;
     const HWND hItem = CreateForeign(frame);
     ::SetWindowLongPtr(hItem, GWLP_ID, 5);
-    CWnd item;
-    CWnd second;
-    EXPECT_FALSE(item.SubclassDlgItem(6, &frame));
-    EXPECT_TRUE(item.SubclassDlgItem(5, &frame));
+    CWnd item, second;
+    EXPECT_TRUE(!item.SubclassDlgItem(6, &frame) && item.SubclassDlgItem(5, &frame));
     EXPECT_EQ(item.m_hWnd, hItem);
     EXPECT_FALSE(second.SubclassDlgItem(5, &frame));
 }
@@ -158,8 +148,7 @@ TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
         CWnd attached;
         attached.Attach(hAttached);
     }
-    EXPECT_FALSE(::IsWindow(hCreated));
-    EXPECT_FALSE(::IsWindow(hAttached));
+    EXPECT_TRUE(!::IsWindow(hCreated) && !::IsWindow(hAttached));
     EXPECT_EQ(CWnd::FromHandlePermanent(hCreated), nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(hAttached), nullptr);
 }
@@ -168,20 +157,17 @@ TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
     fx::Frame frame;
     const HWND hWnd = frame;
     ::DestroyWindow(hWnd);
-    EXPECT_EQ(frame.m_hWnd, nullptr);
-    EXPECT_EQ(CWnd::FromHandlePermanent(hWnd), nullptr);
+    EXPECT_TRUE(frame.m_hWnd == nullptr && CWnd::FromHandlePermanent(hWnd) == nullptr);
     EXPECT_FALSE(frame.DestroyWindow());
 }
 
 TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildrenAndAChildTakesItsWindow) {
-    CWnd child;
-    CWnd grandchild;
+    CWnd child, grandchild;
     auto pFrame = std::make_unique<fx::Frame>();
     ASSERT_TRUE(CreateChild(child, pFrame.get()));
     ASSERT_TRUE(CreateChild(grandchild, &child));
     pFrame.reset();
-    EXPECT_EQ(nullptr, child.m_hWnd);
-    EXPECT_EQ(nullptr, grandchild.m_hWnd);
+    EXPECT_TRUE(child.m_hWnd == nullptr && grandchild.m_hWnd == nullptr);
     fx::Frame frame;
     ASSERT_TRUE(CreateChild(*std::make_unique<CWnd>(), &frame));
     EXPECT_EQ(nullptr, ::GetWindow(frame, GW_CHILD));

@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr int kNone = CArchiveException::none;
-constexpr int kEndOfFile = CArchiveException::endOfFile;
+constexpr int kNone = CArchiveException::none, kEndOfFile = CArchiveException::endOfFile;
 constexpr int kBadIndex = CArchiveException::badIndex;
 
 template <class Value>
@@ -62,24 +61,21 @@ std::string Head(const Bytes& bytes) {
 }
 
 TEST(Archive, StringsHaveTheUnicodeMarkAndALengthOfThreeSizes) {
-    struct Row {
-        CString text;
-        const char* head;
-        std::size_t size;
-    };
-    for (const Row& row : {Row{L"", "ff fe ff 00", 4}, Row{L"A\x3042", "ff fe ff 02 41 00 42 30", 8},
-                           Row{CString(L'x', 254), "ff fe ff fe 78 00 78 00 78 00 78 00", 4 + 508},
-                           Row{CString(L'x', 255), "ff fe ff ff ff 00 78 00 78 00 78 00", 6 + 510},
-                           Row{CString(L'x', 0xFFFD), "ff fe ff ff fd ff 78 00 78 00 78 00", 6 + 0x1FFFA},
-                           Row{CString(L'x', 0xFFFE), "ff fe ff ff ff ff fe ff 00 00 78 00", 10 + 0x1FFFC},
-                           Row{CString(L"a\0b", 3), "ff fe ff 03 61 00 00 00 62 00", 10}}) {
-        const Bytes bytes = Stored([&](CArchive& ar) { ar << row.text; });
-        EXPECT_EQ(row.head, Head(bytes));
-        EXPECT_EQ(row.size, bytes.size());
+    for (const auto& [wanted, head, size] : Rows<CString, const char*, std::size_t>{
+             {L"", "ff fe ff 00", 4},
+             {L"A\x3042", "ff fe ff 02 41 00 42 30", 8},
+             {CString(L'x', 254), "ff fe ff fe 78 00 78 00 78 00 78 00", 4 + 508},
+             {CString(L'x', 255), "ff fe ff ff ff 00 78 00 78 00 78 00", 6 + 510},
+             {CString(L'x', 0xFFFD), "ff fe ff ff fd ff 78 00 78 00 78 00", 6 + 0x1FFFA},
+             {CString(L'x', 0xFFFE), "ff fe ff ff ff ff fe ff 00 00 78 00", 10 + 0x1FFFC},
+             {CString(L"a\0b", 3), "ff fe ff 03 61 00 00 00 62 00", 10}}) {
+        const Bytes bytes = Stored([&](CArchive& ar) { ar << wanted; });
+        EXPECT_EQ(head, Head(bytes));
+        EXPECT_EQ(size, bytes.size());
         CString loaded;
         EXPECT_EQ(kNone, Loaded(bytes, [&](CArchive& ar) { ar >> loaded; }));
-        ASSERT_EQ(row.text.GetLength(), loaded.GetLength());
-        EXPECT_EQ(0, std::wmemcmp(row.text, loaded, static_cast<std::size_t>(loaded.GetLength())));
+        ASSERT_EQ(wanted.GetLength(), loaded.GetLength());
+        EXPECT_EQ(0, std::wmemcmp(wanted, loaded, static_cast<std::size_t>(loaded.GetLength())));
     }
 }
 
@@ -98,22 +94,20 @@ TEST(Archive, CharactersBeyondTheBasicPlaneAreSurrogates) {
 }
 
 TEST(Archive, StringsOfOddFormLoadOrFail) {
-    struct Row {
-        const char* hex;
-        int cause;
-        LPCTSTR text;
-    };
-    for (const Row& row :
-         {Row{"03 61 62 63", kNone, L"abc"}, Row{"ff 01 00 61", kNone, L"a"},
-          Row{"ff ff ff 01 00 00 00 61", kNone, L"a"}, Row{"ff fe ff ff 01 00 61 00", kNone, L"a"},
-          Row{"ff fe ff ff fe ff 01 61 00", kBadIndex, L"old"}, // the mark twice
-          Row{"ff fe ff ff ff ff ff ff ff 7f 61 00", kEndOfFile, L"old"},
-          Row{"ff fe ff ff ff ff 00 00 00 80 61 00", kBadIndex, L"old"},
-          Row{"ff ff ff ff ff ff ff 61", kBadIndex, L"old"}, Row{"ff fd ff 61", kEndOfFile, L"old"}}) {
-        SCOPED_TRACE(row.hex);
+    for (const auto& [hex, cause, wanted] :
+         Rows<const char*, int, LPCTSTR>{{"03 61 62 63", kNone, L"abc"},
+                                         {"ff 01 00 61", kNone, L"a"},
+                                         {"ff ff ff 01 00 00 00 61", kNone, L"a"},
+                                         {"ff fe ff ff 01 00 61 00", kNone, L"a"},
+                                         {"ff fe ff ff fe ff 01 61 00", kBadIndex, L"old"}, // the mark twice
+                                         {"ff fe ff ff ff ff ff ff ff 7f 61 00", kEndOfFile, L"old"},
+                                         {"ff fe ff ff ff ff 00 00 00 80 61 00", kBadIndex, L"old"},
+                                         {"ff ff ff ff ff ff ff 61", kBadIndex, L"old"},
+                                         {"ff fd ff 61", kEndOfFile, L"old"}}) {
+        SCOPED_TRACE(hex);
         CString text = L"old";
-        EXPECT_EQ(row.cause, Loaded(FromHex(row.hex), [&](CArchive& ar) { ar >> text; }));
-        EXPECT_STREQ(row.text, text);
+        EXPECT_EQ(cause, Loaded(FromHex(hex), [&](CArchive& ar) { ar >> text; }));
+        EXPECT_STREQ(wanted, text);
     }
 }
 
@@ -130,15 +124,7 @@ TEST(Archive, TheWrongDirectionThrows) {
     CMemFile file;
     CArchive storing(&file, CArchive::store | CArchive::bNoFlushOnDelete);
     CArchive loading(&file, CArchive::load);
-    const auto causeOf = [](auto use) {
-        try {
-            use();
-        } catch (CArchiveException* e) {
-            const std::unique_ptr<CArchiveException> owner(e);
-            return e->m_cause;
-        }
-        return kNone;
-    };
+    const auto causeOf = [](auto use) { return CauseOf<CArchiveException>(use); };
     int i = 0;
     CString s;
     EXPECT_EQ(CArchiveException::writeOnly, causeOf([&] { storing >> i; }));
@@ -175,8 +161,7 @@ TEST(Archive, TheCallersBufferIsUsed) {
     EXPECT_EQ(9, buffer[0]) << "one too small is left alone";
 }
 
-class FullDisk : public CMemFile {
-public:
+struct FullDisk : CMemFile {
     void Write(const void*, UINT) override {
         if (m_throwsNumbers)
             throw 1;

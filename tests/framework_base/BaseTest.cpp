@@ -111,8 +111,7 @@ TEST(ArchiveLines, AreReadUpToTheirEnd) {
 }
 
 int g_deleted = 0;
-class CCounted : public CException {
-public:
+struct CCounted : CException {
     ~CCounted() override { ++g_deleted; }
 };
 
@@ -163,8 +162,7 @@ TEST(ExceptionMacros, DeleteWhatIsNotThrownOn) {
 }
 // clang-format on
 
-class CFlushed : public CMemFile {
-public:
+struct CFlushed : CMemFile {
     void Flush() override { m_bFlushed = true; }
     bool m_bFlushed = false;
 };
@@ -194,15 +192,12 @@ TEST(Diagnostics, DumpsGoToAFileOrTheTrace) {
 }
 
 TEST(Diagnostics, PiecesOfTexts) {
-    const struct {
-        int index;
-        LPCTSTR piece;
-        BOOL found;
-    } pieces[] = {{0, L"a", TRUE}, {1, L"", TRUE}, {2, L"c", TRUE}, {3, L"", FALSE}, {-1, L"", FALSE}};
-    for (const auto& row : pieces) {
+    const Rows<int, LPCTSTR, BOOL> pieces = {
+        {0, L"a", TRUE}, {1, L"", TRUE}, {2, L"c", TRUE}, {3, L"", FALSE}, {-1, L"", FALSE}};
+    for (const auto& [index, wanted, found] : pieces) {
         CString piece;
-        EXPECT_EQ(row.found, AfxExtractSubString(piece, L"a||c", row.index, L'|')) << row.index;
-        EXPECT_STREQ(row.piece, piece);
+        EXPECT_EQ(found, AfxExtractSubString(piece, L"a||c", index, L'|')) << index;
+        EXPECT_STREQ(wanted, piece);
     }
     using namespace std; // both are in reach
     for (const int n : {1, 4})

@@ -16,8 +16,7 @@ namespace {
 
 constexpr UINT kCreate = CFile::modeCreate | CFile::modeReadWrite;
 
-class File : public testing::Test {
-protected:
+struct File : testing::Test {
     File() {
         static int s_count = 0;
         m_folder = std::filesystem::temp_directory_path() /
@@ -41,18 +40,6 @@ protected:
         return {bytes.begin(), bytes.end()};
     }
 
-public:
-    static int CauseOf(const std::function<void()>& use) {
-        try {
-            use();
-        } catch (CFileException* e) {
-            const std::unique_ptr<CFileException> owner(e);
-            return e->m_cause;
-        }
-        return CFileException::none;
-    }
-
-protected:
     std::filesystem::path m_folder;
 };
 
@@ -79,10 +66,8 @@ TEST_F(File, FailuresToOpenAreReportedNotThrown) {
     EXPECT_EQ(CFileException::fileNotFound, error.m_cause);
     EXPECT_GT(error.m_lOsError, 0);
     EXPECT_STREQ(Path(L"none"), error.m_strFileName);
-    EXPECT_TRUE(file.m_hFile == CFile::hFileNull);
-    EXPECT_FALSE(file.Open(Path(L"none"), CFile::modeRead));
-    EXPECT_FALSE(file.Open(L"", kCreate));
-    EXPECT_FALSE(file.Open(nullptr, CFile::modeRead));
+    EXPECT_TRUE(file.m_hFile == CFile::hFileNull && !file.Open(Path(L"none"), CFile::modeRead));
+    EXPECT_TRUE(!file.Open(L"", kCreate) && !file.Open(nullptr, CFile::modeRead));
     EXPECT_FALSE(file.Open(CString(m_folder.c_str()), CFile::modeRead, &error));
     EXPECT_EQ(CFileException::accessDenied, error.m_cause);
     EXPECT_EQ(CFileException::fileNotFound, CauseOf([&] { CFile(Path(L"none"), CFile::modeRead); }));
@@ -180,8 +165,7 @@ TEST_F(File, NamesMayHaveAnyCharacters) {
 }
 
 TEST_F(File, RenameReplacesNothing) {
-    const CString a = Make(L"a", "A");
-    const CString b = Make(L"b", "B");
+    const CString a = Make(L"a", "A"), b = Make(L"b", "B");
     EXPECT_EQ(CFileException::accessDenied, CauseOf([&] { CFile::Rename(a, b); }));
     EXPECT_EQ("B", Text(b));
     EXPECT_EQ(CFileException::fileNotFound, CauseOf([&] { CFile::Rename(Path(L"none"), Path(L"c")); }));
@@ -218,7 +202,7 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
 /// What another user of the file is told who locks a range for a moment.
 int CauseOfLocking(LPCTSTR path, ULONGLONG position, ULONGLONG count) {
     const auto lock = [&] {
-        return File::CauseOf([&] {
+        return CauseOf([&] {
             CFile other(path, CFile::modeReadWrite | CFile::shareDenyNone);
             other.LockRange(position, count);
             other.UnlockRange(position, count);

@@ -50,8 +50,7 @@ TEST(Object, IsCreatedByItsClassAndByName) {
 }
 
 TEST(Object, NamesGoWithTheModuleThatBroughtThem) {
-    CRuntimeClass first = CShape::classCShape;
-    CRuntimeClass second = CShape::classCShape;
+    CRuntimeClass first = CShape::classCShape, second = CShape::classCShape;
     first.m_lpszClassName = "CFirst";
     second.m_lpszClassName = "CSecond";
     auto firstModule = std::make_unique<AFX_CLASSINIT>(&first);
@@ -61,21 +60,6 @@ TEST(Object, NamesGoWithTheModuleThatBroughtThem) {
     EXPECT_EQ(nullptr, CRuntimeClass::FromName("CFirst"));
     EXPECT_EQ(&second, CRuntimeClass::FromName("CSecond"));
     EXPECT_NE(nullptr, CRuntimeClass::FromName("CStringArray"));
-}
-
-class CPlain : public CObject {};
-
-TEST(Object, NeedsNoClassOfItsOwn) {
-    CPlain plain;
-    ASSERT_VALID(&plain);
-    EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
-    EXPECT_TRUE(Stored([&](CArchive& ar) { plain.Serialize(ar); }).empty());
-}
-
-TEST(Object, TracesGoToTheErrorOutput) {
-    testing::internal::CaptureStderr();
-    AfxTrace(L"%d of %s", 1, L"two");
-    EXPECT_EQ("1 of two", testing::internal::GetCapturedStderr());
 }
 
 TEST(ObjectDeathTest, FailedChecksEndADebugProgram) {

@@ -66,15 +66,4 @@ TEST(StringFormat, OddFormatsDoNoHarm) {
     EXPECT_EQ(1'000'000, Formatted(L"%99999999999999d", 1).GetLength());
 }
 
-TEST(StringFormat, ArgumentsMayBeTheTextItself) {
-    CString s = L"ab";
-    s.Format(L"%s-%s", s.GetString(), s.GetString());
-    EXPECT_STREQ(L"ab-ab", s);
-    s.AppendFormat(L"/%s%d", s.GetString(), 1);
-    EXPECT_STREQ(L"ab-ab/ab-ab1", s);
-    const CString big(L'x', 5000);
-    s.Format(L"%s%s", big.GetString(), L"!");
-    EXPECT_EQ(5001, s.GetLength());
-}
-
 } // namespace

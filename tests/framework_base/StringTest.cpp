@@ -1,5 +1,7 @@
 #include "afx.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -26,44 +28,40 @@ void ExpectAll(const std::vector<Made>& table) {
 }
 
 TEST(String, IsConstructedFromEveryKindOfText) {
-    ExpectAll({
-        {"empty", {}, L""},
-        {"null", kNullText, L""},
-        {"null narrow", kNullNarrow, L""},
-        {"null with length", {kNullText, 5}, L""},
-        {"narrow with negative length", {"abc", -1}, L""},
-        {"null narrow with length", {kNullNarrow, 5}, L""},
-        {"narrow", "abc", L"abc"},
-        {"narrow with length", {"abc", 2}, L"ab"},
-        {"repeated", {L'x', 3}, L"xxx"},
-        {"repeated never", {L'x', -1}, L""},
-        {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
-        {"negative length", {L"abc", -1}, L""},
-        {"sum of nothing", L"" + CString(), L""},
-        {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))) + '7', L"1234567"},
-    });
+    ExpectAll({{"empty", {}, L""},
+               {"null", kNullText, L""},
+               {"null narrow", kNullNarrow, L""},
+               {"null with length", {kNullText, 5}, L""},
+               {"narrow with negative length", {"abc", -1}, L""},
+               {"null narrow with length", {kNullNarrow, 5}, L""},
+               {"narrow", "abc", L"abc"},
+               {"narrow with length", {"abc", 2}, L"ab"},
+               {"repeated", {L'x', 3}, L"xxx"},
+               {"repeated never", {L'x', -1}, L""},
+               {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
+               {"negative length", {L"abc", -1}, L""},
+               {"sum of nothing", L"" + CString(), L""},
+               {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))) + '7', L"1234567"}});
 }
 
 TEST(String, ExtractsWithClampedArguments) {
     const CString s = L"abcdef";
-    ExpectAll({
-        {"Mid", s.Mid(2), L"cdef"},
-        {"Mid counted", s.Mid(2, 3), L"cde"},
-        {"Mid behind the end", s.Mid(9, 2), L""},
-        {"Mid overflowing", s.Mid(3, INT_MAX), L"def"},
-        {"Mid negative start", s.Mid(-2, 3), L"abc"},
-        {"Mid negative count", s.Mid(2, -3), L""},
-        {"Left", s.Left(2), L"ab"},
-        {"Left too long", s.Left(99), L"abcdef"},
-        {"Left negative", s.Left(-1), L""},
-        {"Right", s.Right(2), L"ef"},
-        {"Right too long", s.Right(99), L"abcdef"},
-        {"Right negative", s.Right(INT_MIN), L""},
-        {"SpanIncluding", s.SpanIncluding(L"cab"), L"abc"},
-        {"SpanIncluding NULL", s.SpanIncluding(nullptr), L""},
-        {"SpanExcluding", s.SpanExcluding(L"fd"), L"abc"},
-        {"SpanExcluding NULL", s.SpanExcluding(nullptr), L"abcdef"},
-    });
+    ExpectAll({{"Mid", s.Mid(2), L"cdef"},
+               {"Mid counted", s.Mid(2, 3), L"cde"},
+               {"Mid behind the end", s.Mid(9, 2), L""},
+               {"Mid overflowing", s.Mid(3, INT_MAX), L"def"},
+               {"Mid negative start", s.Mid(-2, 3), L"abc"},
+               {"Mid negative count", s.Mid(2, -3), L""},
+               {"Left", s.Left(2), L"ab"},
+               {"Left too long", s.Left(99), L"abcdef"},
+               {"Left negative", s.Left(-1), L""},
+               {"Right", s.Right(2), L"ef"},
+               {"Right too long", s.Right(99), L"abcdef"},
+               {"Right negative", s.Right(INT_MIN), L""},
+               {"SpanIncluding", s.SpanIncluding(L"cab"), L"abc"},
+               {"SpanIncluding NULL", s.SpanIncluding(nullptr), L""},
+               {"SpanExcluding", s.SpanExcluding(L"fd"), L"abc"},
+               {"SpanExcluding NULL", s.SpanExcluding(nullptr), L"abcdef"}});
 }
 
 TEST(String, EditsInPlace) {
@@ -72,51 +70,51 @@ TEST(String, EditsInPlace) {
         edit(s);
         return s;
     };
-    ExpectAll({
-        {"upper", edited(L"az{AZ[`@\x3042z", [](CString& s) { s.MakeUpper(); }), L"AZ{AZ[`@\x3042Z"},
-        {"lower", edited(L"az{AZ[`@\x3042Z", [](CString& s) { s.MakeLower(); }), L"az{az[`@\x3042z"},
-        {"reverse", edited(L"abc", [](CString& s) { s.MakeReverse(); }), L"cba"},
-        {"insert", edited(L"ac", [](CString& s) { s.Insert(1, L"b"); }), L"abc"},
-        {"insert character", edited(L"ac", [](CString& s) { s.Insert(1, L'b'); }), L"abc"},
-        {"insert far behind", edited(L"a", [](CString& s) { s.Insert(99, L"b"); }), L"ab"},
-        {"insert before", edited(L"a", [](CString& s) { s.Insert(-5, L"b"); }), L"ba"},
-        {"insert nothing", edited(L"a", [](CString& s) { s.Insert(1, L""); }), L"a"},
-        {"insert into nothing", edited(L"", [](CString& s) { s.Insert(0, L"a"); }), L"a"},
-        {"insert with room", edited(L"ac", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }), L"abc"},
-        {"insert itself with room", edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(1, s); }),
-         L"aabb"},
-        {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
-        {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
-        {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
-        {"delete behind", edited(L"ab", [](CString& s) { s.Delete(7); }), L"ab"},
-        {"delete none", edited(L"ab", [](CString& s) { s.Delete(0, -1); }), L"ab"},
-        {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
-        {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
-        {"trim left", edited(L" a ", [](CString& s) { s.TrimLeft(); }), L"a "},
-        {"trim right", edited(L" a ", [](CString& s) { s.TrimRight(); }), L" a"},
-        {"trim right character", edited(L"axx", [](CString& s) { s.TrimRight(L'x'); }), L"a"},
-        {"trim left set", edited(L"xyaxy", [](CString& s) { s.TrimLeft(L"yx"); }), L"axy"},
-        {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
-        {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
-        {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
-        {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
-        {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
-        {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
-        {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
-        {"append", edited(L"a", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }), L"abc"},
-        {"append none", edited(L"a", [](CString& s) { s.Append(nullptr, 2); }), L"a"},
-        {"append text of the other form", edited(L"a", [](CString& s) { s += CStringA("b"); }), L"ab"},
-        {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
-        {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
-        {"assign null", edited(L"ab", [](CString& s) { s.SetString(nullptr, 2); }), L""},
-        {"assign none", edited(L"ab", [](CString& s) { s.SetString(L"x", -1); }), L""},
-        {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
-        {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
-        {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
-        {"free extra", edited(L"ab", [](CString& s) { s.FreeExtra(); }), L"ab"},
-        {"free all", edited(L"ab", [](CString& s) { s.Truncate(0), s.FreeExtra(); }), L""},
-        {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"},
-    });
+    ExpectAll(
+        {{"upper", edited(L"az{AZ[`@\x3042z", [](CString& s) { s.MakeUpper(); }), L"AZ{AZ[`@\x3042Z"},
+         {"lower", edited(L"az{AZ[`@\x3042Z", [](CString& s) { s.MakeLower(); }), L"az{az[`@\x3042z"},
+         {"reverse", edited(L"abc", [](CString& s) { s.MakeReverse(); }), L"cba"},
+         {"insert", edited(L"ac", [](CString& s) { s.Insert(1, L"b"); }), L"abc"},
+         {"insert character", edited(L"ac", [](CString& s) { s.Insert(1, L'b'); }), L"abc"},
+         {"insert far behind", edited(L"a", [](CString& s) { s.Insert(99, L"b"); }), L"ab"},
+         {"insert before", edited(L"a", [](CString& s) { s.Insert(-5, L"b"); }), L"ba"},
+         {"insert nothing", edited(L"a", [](CString& s) { s.Insert(1, L""); }), L"a"},
+         {"insert into nothing", edited(L"", [](CString& s) { s.Insert(0, L"a"); }), L"a"},
+         {"insert with room", edited(L"ac", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }),
+          L"abc"},
+         {"insert itself with room", edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(1, s); }),
+          L"aabb"},
+         {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
+         {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
+         {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
+         {"delete behind", edited(L"ab", [](CString& s) { s.Delete(7); }), L"ab"},
+         {"delete none", edited(L"ab", [](CString& s) { s.Delete(0, -1); }), L"ab"},
+         {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
+         {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
+         {"trim left", edited(L" a ", [](CString& s) { s.TrimLeft(); }), L"a "},
+         {"trim right", edited(L" a ", [](CString& s) { s.TrimRight(); }), L" a"},
+         {"trim right character", edited(L"axx", [](CString& s) { s.TrimRight(L'x'); }), L"a"},
+         {"trim left set", edited(L"xyaxy", [](CString& s) { s.TrimLeft(L"yx"); }), L"axy"},
+         {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
+         {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
+         {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
+         {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
+         {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
+         {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
+         {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
+         {"append", edited(L"a", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }), L"abc"},
+         {"append none", edited(L"a", [](CString& s) { s.Append(nullptr, 2); }), L"a"},
+         {"append text of the other form", edited(L"a", [](CString& s) { s += CStringA("b"); }), L"ab"},
+         {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
+         {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
+         {"assign null", edited(L"ab", [](CString& s) { s.SetString(nullptr, 2); }), L""},
+         {"assign none", edited(L"ab", [](CString& s) { s.SetString(L"x", -1); }), L""},
+         {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
+         {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
+         {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
+         {"free extra", edited(L"ab", [](CString& s) { s.FreeExtra(); }), L"ab"},
+         {"free all", edited(L"ab", [](CString& s) { s.Truncate(0), s.FreeExtra(); }), L""},
+         {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"}});
 }
 
 TEST(String, TrimsTheBlanksOfEveryScript) {
@@ -127,16 +125,16 @@ TEST(String, TrimsTheBlanksOfEveryScript) {
 }
 
 TEST(String, ReplacesAndRemovesAndCounts) {
-    struct Row {
-        LPCTSTR text, from, to, expected;
-        int count;
-    };
-    for (const Row& row : {Row{L"aXbX", L"X", L"--", L"a--b--", 2}, Row{L"aaa", L"aa", L"b", L"ba", 1},
-                           Row{L"abc", L"b", nullptr, L"ac", 1}, Row{L"abc", L"", L"x", L"abc", 0},
-                           Row{L"abc", nullptr, L"x", L"abc", 0}, Row{L"", L"a", L"b", L"", 0}}) {
-        CString s = row.text;
-        EXPECT_EQ(row.count, s.Replace(row.from, row.to)) << testing::PrintToString(row.text);
-        EXPECT_STREQ(row.expected, s);
+    for (const auto& [text, from, to, expected, count] :
+         Rows<LPCTSTR, LPCTSTR, LPCTSTR, LPCTSTR, int>{{L"aXbX", L"X", L"--", L"a--b--", 2},
+                                                       {L"aaa", L"aa", L"b", L"ba", 1},
+                                                       {L"abc", L"b", nullptr, L"ac", 1},
+                                                       {L"abc", L"", L"x", L"abc", 0},
+                                                       {L"abc", nullptr, L"x", L"abc", 0},
+                                                       {L"", L"a", L"b", L"", 0}}) {
+        CString s = text;
+        EXPECT_EQ(count, s.Replace(from, to)) << testing::PrintToString(text);
+        EXPECT_STREQ(expected, s);
     }
     CString s = L"banana";
     EXPECT_EQ(0, s.Replace(L'a', L'a') + s.Replace(L'x', L'a') + s.Remove(L'x'));
@@ -179,10 +177,8 @@ TEST(String, Compares) {
 
     EXPECT_TRUE(s == L"abc" && L"abc" == s && s == CString(s) && s == "abc" && L'a' == CString(L"a"));
     EXPECT_TRUE(s != L"abd" && L"abd" != s && s != CString() && L'a' != s);
-    EXPECT_TRUE(s != L'a' && CString(L"b") != L'a');
-    EXPECT_TRUE(s < L"abd" && L"abb" < s && s < CString(L"b"));
-    EXPECT_TRUE(s > L"abb" && L"abd" > s && s > CString());
-    EXPECT_TRUE(s <= L"abc" && L"abc" <= s && s <= CString(s));
+    EXPECT_TRUE(s != L'a' && CString(L"b") != L'a' && s < L"abd" && L"abb" < s && s < CString(L"b"));
+    EXPECT_TRUE(s > L"abb" && L"abd" > s && s > CString() && s <= L"abc" && L"abc" <= s && s <= CString(s));
     EXPECT_TRUE(s >= L"abc" && L"abc" >= s && s >= CString(s));
     EXPECT_FALSE(s < L"abc" || L"abc" > s || s <= L"abb" || L"abb" >= s);
 }
@@ -195,24 +191,6 @@ TEST(String, IndexOutsideThrows) {
     EXPECT_THROW(s[-1], CInvalidArgException*);
     EXPECT_THROW(s.SetAt(2, L'x'), CInvalidArgException*);
     EXPECT_THROW(s.SetAt(-1, L'x'), CInvalidArgException*);
-}
-
-TEST(String, BufferIsWrittenAndReleased) {
-    CString s = L"keep";
-    LPTSTR p = s.GetBuffer(10);
-    EXPECT_STREQ(L"keep", p);
-    p[4] = L'!';
-    p[5] = L'\0';
-    s.ReleaseBuffer();
-    EXPECT_EQ(5, s.GetLength());
-    EXPECT_STREQ(L"keep!", s);
-    s.GetBuffer(-1);
-    s.ReleaseBuffer(2);
-    EXPECT_STREQ(L"ke", s);
-    s.GetBufferSetLength(3)[2] = L'y';
-    EXPECT_STREQ(L"key", s);
-    s.Empty();
-    EXPECT_TRUE(s.IsEmpty());
 }
 
 TEST(String, TokenizesUntilNoneIsLeft) {
@@ -228,22 +206,20 @@ TEST(String, TokenizesUntilNoneIsLeft) {
 
 #ifndef _WIN32
 TEST(String, NarrowTextIsUtf8WithDamageReplaced) {
-    ExpectAll({
-        {"Japanese", "\xE6\xB8\xAC", L"\x6E2C"},
-        {"four bytes", "\xF0\x9F\x98\x80", L"\x1F600"},
-        {"cut", "\xE6\xB8", L"\xFFFD\xFFFD"},
-        {"over-long", "\xC0\x80", L"\xFFFD\xFFFD"},
-        {"over-long, three bytes", "\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
-        {"surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
-        {"low surrogate", "\xED\xB0\x80", L"\xFFFD\xFFFD\xFFFD"},
-        {"least and most of two bytes", "\xC2\x80\xDF\xBF", L"\x80\x7FF"},
-        {"of three", "\xE0\xA0\x80\xEF\xBF\xBF", L"\x800\xFFFF"},
-        {"of four", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", L"\x10000\x10FFFF"},
-        {"first of no sequence", "\xC1\xBF\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"no second byte", "\xC3(", L"\xFFFD("},
-        {"beyond the last", "\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"stray", "a\x80z", L"a\xFFFDz"},
-    });
+    ExpectAll({{"Japanese", "\xE6\xB8\xAC", L"\x6E2C"},
+               {"four bytes", "\xF0\x9F\x98\x80", L"\x1F600"},
+               {"cut", "\xE6\xB8", L"\xFFFD\xFFFD"},
+               {"over-long", "\xC0\x80", L"\xFFFD\xFFFD"},
+               {"over-long, three bytes", "\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
+               {"surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+               {"low surrogate", "\xED\xB0\x80", L"\xFFFD\xFFFD\xFFFD"},
+               {"least and most of two bytes", "\xC2\x80\xDF\xBF", L"\x80\x7FF"},
+               {"of three", "\xE0\xA0\x80\xEF\xBF\xBF", L"\x800\xFFFF"},
+               {"of four", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", L"\x10000\x10FFFF"},
+               {"first of no sequence", "\xC1\xBF\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
+               {"no second byte", "\xC3(", L"\xFFFD("},
+               {"beyond the last", "\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+               {"stray", "a\x80z", L"a\xFFFDz"}});
     const char* const borders =
         "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
     EXPECT_STREQ(borders, CStringA(CString(borders)));

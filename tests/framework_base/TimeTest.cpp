@@ -52,8 +52,7 @@ TEST(Time, RefusesWhatIsNoTime) {
 template <class Value>
 void ExpectOrder() {
     for (const LONGLONG n : {1, 2, 3}) {
-        const Value a(n);
-        const Value b(LONGLONG{2});
+        const Value a(n), b(LONGLONG{2});
         EXPECT_TRUE((a == b) == (n == 2) && (a != b) == (n != 2) && (a < b) == (n < 2) &&
                     (a > b) == (n > 2) && (a <= b) == (n <= 2) && (a >= b) == (n >= 2))
             << n;

@@ -1,5 +1,7 @@
 #include "atltypes.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,8 +18,7 @@ std::string Text(SIZE s) {
 }
 
 TEST(Types, PointsAndSizesCalculate) {
-    EXPECT_TRUE(CPoint(5, 7) == CPoint(2, 3) + CSize(3, 4));
-    EXPECT_TRUE(CSize(3, 4) == CPoint(5, 7) - CPoint(2, 3));
+    EXPECT_TRUE(CPoint(5, 7) == CPoint(2, 3) + CSize(3, 4) && CSize(3, 4) == CPoint(5, 7) - CPoint(2, 3));
     EXPECT_TRUE(CPoint(-1, -2) == -CPoint(1, 2));
     EXPECT_TRUE(CPoint(-3, 5) == CPoint(LPARAM{0x0005FFFD})); // signed words
     EXPECT_TRUE(CSize(-3, 5) == CSize(DWORD{0x0005FFFD}));
@@ -40,11 +41,7 @@ TEST(Types, PointsAndSizesCalculate) {
 }
 
 TEST(Types, RectCombinations) {
-    struct Row {
-        CRect a, b;
-        const char *common, *around, *rest;
-    };
-    const Row table[] = {
+    const Rows<CRect, CRect, const char*, const char*, const char*> table = {
         {{0, 0, 4, 4}, {2, 2, 6, 6}, "2 2 4 4", "0 0 6 6", "0 0 4 4"},
         {{0, 0, 4, 4}, {4, 0, 6, 4}, "0 0 0 0", "0 0 6 4", "0 0 4 4"}, // touching is not common
         {{0, 0, 4, 4}, {2, 0, 6, 4}, "2 0 4 4", "0 0 6 4", "0 0 2 4"},
@@ -59,18 +56,18 @@ TEST(Types, RectCombinations) {
         {{4, 4, 0, 0}, {1, 1, 2, 2}, "0 0 0 0", "1 1 2 2", "0 0 0 0"},
         {{9, 9, 9, 9}, {8, 8, 8, 8}, "0 0 0 0", "0 0 0 0", "0 0 0 0"},
     };
-    for (const Row& row : table) {
-        SCOPED_TRACE(Text(row.a) + " with " + Text(row.b));
+    for (const auto& [a, b, common, around, rest] : table) {
+        SCOPED_TRACE(Text(a) + " with " + Text(b));
         CRect result;
-        EXPECT_EQ(std::string(row.common) != "0 0 0 0", result.IntersectRect(row.a, row.b) != 0);
-        EXPECT_EQ(row.common, Text(result));
-        EXPECT_EQ(row.common, Text(row.a & row.b));
-        EXPECT_EQ(std::string(row.around) != "0 0 0 0", result.UnionRect(row.a, row.b) != 0);
-        EXPECT_EQ(row.around, Text(result));
-        EXPECT_EQ(row.around, Text(row.a | row.b));
-        result = row.a;
-        EXPECT_EQ(std::string(row.rest) != "0 0 0 0", result.SubtractRect(result, row.b) != 0);
-        EXPECT_EQ(row.rest, Text(result));
+        EXPECT_EQ(std::string(common) != "0 0 0 0", result.IntersectRect(a, b) != 0);
+        EXPECT_EQ(common, Text(result));
+        EXPECT_EQ(common, Text(a & b));
+        EXPECT_EQ(std::string(around) != "0 0 0 0", result.UnionRect(a, b) != 0);
+        EXPECT_EQ(around, Text(result));
+        EXPECT_EQ(around, Text(a | b));
+        result = a;
+        EXPECT_EQ(std::string(rest) != "0 0 0 0", result.SubtractRect(result, b) != 0);
+        EXPECT_EQ(rest, Text(result));
     }
 }
 
@@ -103,8 +100,7 @@ TEST(Types, RectChanges) {
     EXPECT_EQ("10 20 31 62", changed([](CRect& c) { c.BottomRight().Offset(1, 2); }));
     CRect turned(30, 60, 10, 20);
     turned.NormalizeRect();
-    EXPECT_TRUE(turned == r);
-    EXPECT_TRUE(r.Size() == CSize(20, 40) && r.CenterPoint() == CPoint(20, 40));
+    EXPECT_TRUE(turned == r && r.Size() == CSize(20, 40) && r.CenterPoint() == CPoint(20, 40));
     EXPECT_EQ("10 20 30 60", Text(r.TopLeft()) + " " + Text(r.BottomRight()));
     const RECT same = r;
     EXPECT_TRUE(CRect(same) == r && r == same && !(r != same) && r != CRect(0, 20, 30, 60) &&
@@ -112,8 +108,7 @@ TEST(Types, RectChanges) {
 }
 
 TEST(Types, WhatIsAddedMovesAndMarginsGrow) {
-    const CRect r(10, 20, 30, 60);
-    const CRect margins(1, 2, 3, 4);
+    const CRect r(10, 20, 30, 60), margins(1, 2, 3, 4);
     const CPoint p(3, 5);
     const CSize s(1, 2);
     EXPECT_EQ("13 25 33 65", Text(r + p));

@@ -7,8 +7,7 @@ namespace {
 
 enum : int { IDC_LIST = 10, IDC_SLIDER, IDC_SCROLL, IDC_DATE, IDC_CALENDAR, IDC_ADDRESS, IDC_NUMBER };
 
-class CheckFrame : public fx::Frame {
-public:
+struct CheckFrame : fx::Frame {
     int m_nChanged = 0;
 
 protected:
@@ -54,8 +53,7 @@ TEST(CheckList, StatesFollowTheirItemsAndATapChangesThem) {
     EXPECT_EQ(list.GetCheck(0), 0);
 }
 
-class ExchangeFrame : public fx::Frame {
-public:
+struct ExchangeFrame : fx::Frame {
     int m_nSlider = 7, m_nScroll = 8;
     CTime m_date{2024, 5, 6, 7, 8, 9}, m_day{2023, 4, 3, 0, 0, 0};
     DWORD m_dwAddress = 0x7F000001;

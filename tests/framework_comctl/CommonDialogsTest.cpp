@@ -6,8 +6,7 @@
 namespace {
 
 TEST(CommonDialogs, ColourIsTakenWithOK) {
-    class Probe : public CColorDialog {
-    public:
+    struct Probe : CColorDialog {
         using CColorDialog::CColorDialog;
         BOOL OnInitDialog() override {
             PostMessage(WM_COMMAND, IDOK);
@@ -22,8 +21,7 @@ TEST(CommonDialogs, ColourIsTakenWithOK) {
 }
 
 TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
-    class Probe : public CFileDialog {
-    public:
+    struct Probe : CFileDialog {
         using CFileDialog::CFileDialog;
         bool m_bReady = false;
         void OnInitDone() override {
@@ -47,8 +45,7 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
     EXPECT_EQ(-20, font.lfHeight);
 
     static int s_nDeleted = 0;
-    class Probe : public CFindReplaceDialog {
-    public:
+    struct Probe : CFindReplaceDialog {
         ~Probe() override { ++s_nDeleted; }
     };
     fx::Frame frame;
@@ -64,20 +61,16 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
 TEST(CommonDialogs, AnswersAreTakenApart) {
     TCHAR one[] = L"C:\\a.b\\plan.old.txt\0";
     TCHAR root[] = L"C:\\\0x\0y\0";
-    const struct {
-        LPTSTR pszFile;
-        DWORD dwFlags;
-        LPCTSTR pszPaths;
-    } cases[] = {{one, 0, L"C:\\a.b\\plan.old.txt;"},
-                 {one, OFN_ALLOWMULTISELECT, L"C:\\a.b\\plan.old.txt;"},
-                 {root, OFN_ALLOWMULTISELECT, L"C:\\x;C:\\y;"}};
-    for (const auto& c : cases) {
-        CFileDialog dialog(TRUE, nullptr, nullptr, c.dwFlags);
-        dialog.m_ofn.lpstrFile = c.pszFile;
+    const Rows<LPTSTR, DWORD, LPCTSTR> cases = {{one, 0, L"C:\\a.b\\plan.old.txt;"},
+                                                {one, OFN_ALLOWMULTISELECT, L"C:\\a.b\\plan.old.txt;"},
+                                                {root, OFN_ALLOWMULTISELECT, L"C:\\x;C:\\y;"}};
+    for (const auto& [pszFile, dwFlags, pszPaths] : cases) {
+        CFileDialog dialog(TRUE, nullptr, nullptr, dwFlags);
+        dialog.m_ofn.lpstrFile = pszFile;
         CString strPaths;
         for (POSITION pos = dialog.GetStartPosition(); pos != nullptr;)
             strPaths += dialog.GetNextPathName(pos) + L";";
-        EXPECT_EQ(strPaths, c.pszPaths);
+        EXPECT_EQ(strPaths, pszPaths);
     }
     CFileDialog dialog(TRUE);
     dialog.m_ofn.lpstrFile = one;

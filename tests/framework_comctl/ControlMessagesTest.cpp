@@ -1,32 +1,47 @@
-// What the members of the common controls send: each row sets something and reads it back.
+// What the members of the common controls send: something is set and read back.
 #include "support/ModalScript.h"
 
 #include "afxcmn.h"
 
 namespace {
 
-class ControlMessages : public testing::Test {
-protected:
+struct ControlMessages : testing::Test {
     template <class Control>
     void Create(Control& control, DWORD dwStyle = 0) {
         ASSERT_TRUE(control.Create(WS_CHILD | WS_VISIBLE | dwStyle, CRect(0, 0, 150, 60), &m_frame, 1));
     }
+    /// What a member writes into its two arguments.
+    template <class Number = int, class Read>
+    static CPoint Pair(Read read) {
+        Number first = 0, second = 0;
+        read(first, second);
+        return {first, second};
+    }
     fx::Frame m_frame;
 };
 
-TEST_F(ControlMessages, ProgressBar) {
+TEST_F(ControlMessages, ProgressBarAndSlider) {
     CProgressCtrl bar;
     Create(bar);
     bar.SetRange(-5, 20);
-    int nLower = 0;
-    int nUpper = 0;
-    bar.GetRange(nLower, nUpper);
-    EXPECT_EQ(CPoint(nLower, nUpper), CPoint(-5, 20));
+    EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { bar.GetRange(a, b); }));
     bar.SetPos(3);
     bar.SetStep(4);
-    EXPECT_EQ(bar.StepIt(), 3);
-    EXPECT_EQ(bar.OffsetPos(-2), 7);
-    EXPECT_EQ(bar.GetPos(), 5);
+    EXPECT_TRUE(bar.StepIt() == 3 && bar.OffsetPos(-2) == 7 && bar.GetPos() == 5);
+
+    CSliderCtrl slider;
+    Create(slider, TBS_AUTOTICKS | TBS_ENABLESELRANGE);
+    slider.SetRange(10, 50, TRUE);
+    slider.SetTicFreq(10);
+    slider.SetSelection(20, 30);
+    slider.SetPos(99);
+    EXPECT_EQ(CPoint(20, 30), Pair([&](int& a, int& b) { slider.GetSelection(a, b); }));
+    EXPECT_TRUE(slider.GetPos() == 50 && slider.GetNumTics() == 5 && slider.GetTic(1) == 30);
+    slider.SetLineSize(2);
+    slider.SetPageSize(7);
+    EXPECT_TRUE(slider.SetLineSize(3) == 2 && slider.GetPageSize() == 7);
+    slider.SetBuddy(&bar, FALSE);
+    EXPECT_TRUE(slider.GetBuddy(FALSE) == &bar && slider.GetBuddy(TRUE) == nullptr);
 }
 
 TEST_F(ControlMessages, SpinButton) {
@@ -34,63 +49,35 @@ TEST_F(ControlMessages, SpinButton) {
     CEdit edit;
     Create(spin, UDS_SETBUDDYINT | UDS_NOTHOUSANDS);
     Create(edit);
-    EXPECT_EQ(nullptr, spin.SetBuddy(&edit));
-    EXPECT_EQ(&edit, spin.GetBuddy());
+    EXPECT_TRUE(spin.SetBuddy(&edit) == nullptr && spin.GetBuddy() == &edit);
     spin.SetRange(-5, 20);
-    int nLower = 0;
-    int nUpper = 0;
-    spin.GetRange(nLower, nUpper);
-    EXPECT_EQ(CPoint(-5, 20), CPoint(nLower, nUpper));
+    EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange(a, b); }));
     for (const auto& [nPos, nSet] : {std::pair(7, 7), {-3, -3}, {99, 20}, {-99, -5}}) {
         spin.SetPos(nPos);
-        EXPECT_EQ(nSet, ::_wtoi(fx::TextOf(edit)));
-        EXPECT_EQ(nSet, spin.GetPos32());
+        EXPECT_EQ(CPoint(nSet, nSet), CPoint(::_wtoi(fx::TextOf(edit)), spin.GetPos32()));
     }
     edit.SetWindowText(L"abc");
     BOOL bError = FALSE;
     spin.GetPos32(&bError);
     EXPECT_TRUE(bError);
     spin.SetRange32(-70000, 80000);
-    spin.GetRange32(nLower, nUpper);
-    EXPECT_EQ(CPoint(-70000, 80000), CPoint(nLower, nUpper));
-}
-
-TEST_F(ControlMessages, Slider) {
-    CSliderCtrl slider;
-    Create(slider, TBS_AUTOTICKS | TBS_ENABLESELRANGE);
-    slider.SetRange(10, 50, TRUE);
-    slider.SetTicFreq(10);
-    slider.SetSelection(20, 30);
-    slider.SetPos(99);
-    int nMin = 0;
-    int nMax = 0;
-    slider.GetSelection(nMin, nMax);
-    EXPECT_EQ(CPoint(nMin, nMax), CPoint(20, 30));
-    EXPECT_EQ(slider.GetPos(), 50);
-    EXPECT_EQ(slider.GetNumTics(), 5U);
-    EXPECT_EQ(slider.GetTic(1), 30);
-    slider.SetLineSize(2);
-    EXPECT_EQ(slider.SetLineSize(3), 2);
-    slider.SetPageSize(7);
-    EXPECT_EQ(slider.GetPageSize(), 7);
-    CStatic buddy;
-    ASSERT_TRUE(buddy.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &m_frame));
-    slider.SetBuddy(&buddy, FALSE);
-    EXPECT_EQ(slider.GetBuddy(FALSE), &buddy);
-    EXPECT_EQ(slider.GetBuddy(TRUE), nullptr);
+    EXPECT_EQ(CPoint(-70000, 80000), Pair([&](int& a, int& b) { spin.GetRange32(a, b); }));
 }
 
 TEST_F(ControlMessages, TabsAndHeader) {
-    CTabCtrl tabs;
-    Create(tabs);
-    EXPECT_EQ(tabs.InsertItem(0, L"b"), 0);
-    EXPECT_EQ(tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 0, L"a", 0, 42), 0);
+    struct Drawn : CTabCtrl {
+        UINT m_nItem = 99;
+        void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override { m_nItem = lpDrawItemStruct->itemID; }
+    } tabs;
+    Create(tabs, TCS_OWNERDRAWFIXED);
+    tabs.InsertItem(0, L"b");
+    tabs.UpdateWindow();
+    EXPECT_EQ(0U, tabs.m_nItem);
+    EXPECT_EQ(0, tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 0, L"a", 0, 42));
     TCITEM item = {};
     item.mask = TCIF_PARAM;
-    EXPECT_TRUE(tabs.GetItem(0, &item));
-    EXPECT_EQ(item.lParam, 42);
-    EXPECT_EQ(tabs.SetCurSel(0), 1) << "the first tab, which has been moved";
-    EXPECT_EQ(tabs.GetCurSel(), 0);
+    EXPECT_TRUE(tabs.GetItem(0, &item) && item.lParam == 42);
+    EXPECT_TRUE(tabs.SetCurSel(0) == 1 && tabs.GetCurSel() == 0) << "the first tab had been moved";
     CRect page(0, 0, 150, 60);
     tabs.AdjustRect(FALSE, page);
     EXPECT_GT(page.top, 10);
@@ -100,116 +87,73 @@ TEST_F(ControlMessages, TabsAndHeader) {
     list.InsertColumn(0, L"a", LVCFMT_LEFT, 30);
     list.InsertColumn(1, L"b", LVCFMT_LEFT, 40);
     CHeaderCtrl* pHeader = list.GetHeaderCtrl();
-    ASSERT_NE(pHeader, nullptr);
-    EXPECT_EQ(pHeader->GetItemCount(), 2);
-    int order[] = {1, 0};
-    EXPECT_TRUE(list.SetColumnOrderArray(2, order));
-    int read[] = {9, 9};
-    EXPECT_TRUE(list.GetColumnOrderArray(read));
-    EXPECT_EQ(CPoint(read[0], read[1]), CPoint(1, 0));
-    EXPECT_EQ(pHeader->OrderToIndex(0), 1);
+    ASSERT_TRUE(pHeader != nullptr && pHeader->GetItemCount() == 2);
+    int order[] = {1, 0}, read[] = {9, 9};
+    EXPECT_TRUE(list.SetColumnOrderArray(2, order) && list.GetColumnOrderArray(read));
+    EXPECT_TRUE(read[0] == 1 && read[1] == 0 && pHeader->OrderToIndex(0) == 1);
     CRect rect;
-    EXPECT_TRUE(pHeader->GetItemRect(0, rect));
-    EXPECT_EQ(CPoint(rect.left, rect.right), CPoint(40, 70));
+    EXPECT_TRUE(pHeader->GetItemRect(0, rect) && rect.left == 40 && rect.right == 70);
     list.SetHoverTime(123);
-    EXPECT_EQ(list.GetHoverTime(), 123U);
+    EXPECT_EQ(123U, list.GetHoverTime());
 }
 
-TEST_F(ControlMessages, ToolTipAndStatusBar) {
+TEST_F(ControlMessages, ToolTipStatusBarAndToolBar) {
     CToolTipCtrl tip;
     ASSERT_TRUE(tip.Create(&m_frame));
-    CButton button;
-    ASSERT_TRUE(button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 30, 20), &m_frame, 7));
-    EXPECT_TRUE(tip.AddTool(&button, L"button"));
-    EXPECT_TRUE(tip.AddTool(&m_frame, L"part", CRect(50, 50, 60, 60), 3));
-    EXPECT_EQ(tip.GetToolCount(), 2);
+    CStatusBarCtrl bar;
+    Create(bar);
+    EXPECT_TRUE(tip.AddTool(&bar, L"bar") && tip.AddTool(&m_frame, L"part", CRect(50, 50, 60, 60), 3));
+    EXPECT_EQ(2, tip.GetToolCount());
     tip.UpdateTipText(L"other", &m_frame, 3);
     CString strText;
     tip.GetText(strText, &m_frame, 3);
-    EXPECT_EQ(strText, L"other");
+    EXPECT_EQ(L"other", strText);
     CToolInfo info = {};
-    EXPECT_TRUE(tip.GetToolInfo(info, &m_frame, 3));
-    EXPECT_EQ(CRect(info.rect), CRect(50, 50, 60, 60));
-    tip.DelTool(&button);
-    EXPECT_EQ(tip.GetToolCount(), 1);
+    EXPECT_TRUE(tip.GetToolInfo(info, &m_frame, 3) && CRect(info.rect) == CRect(50, 50, 60, 60));
+    tip.DelTool(&bar);
+    EXPECT_EQ(1, tip.GetToolCount());
 
-    CStatusBarCtrl bar;
-    Create(bar);
-    int edges[] = {50, -1};
-    EXPECT_TRUE(bar.SetParts(2, edges));
-    EXPECT_TRUE(bar.SetText(L"right", 1, SBT_POPOUT));
-    int nType = 0;
-    EXPECT_EQ(bar.GetText(1, &nType), L"right");
-    EXPECT_EQ(nType, SBT_POPOUT);
-    EXPECT_EQ(bar.GetText(0), L"");
+    int edges[] = {50, -1}, nType = 0;
+    EXPECT_TRUE(bar.SetParts(2, edges) && bar.SetText(L"right", 1, SBT_POPOUT));
+    EXPECT_TRUE(bar.GetText(1, &nType) == L"right" && nType == SBT_POPOUT && bar.GetText(0) == L"");
+
+    CToolBarCtrl tools;
+    Create(tools);
+    TBBUTTON buttons[2] = {{0, 5, TBSTATE_ENABLED, 0, {}, 0, 0}, {0, 6, TBSTATE_ENABLED, 0, {}, 0, 0}};
+    EXPECT_TRUE(tools.AddButtons(2, buttons) && tools.CommandToIndex(6) == 1);
+    EXPECT_TRUE(tools.EnableButton(6, FALSE) && !tools.IsButtonEnabled(6) && tools.HideButton(5));
+    EXPECT_EQ(TBSTATE_ENABLED | TBSTATE_HIDDEN, tools.GetState(5));
 }
 
 TEST_F(ControlMessages, DatesKeysAndAddresses) {
-    const SYSTEMTIME day = {2024, 2, 4, 29, 0, 0, 0, 0};
-    const SYSTEMTIME last = {2024, 3, 0, 31, 0, 0, 0, 0};
+    const SYSTEMTIME day = {2024, 2, 4, 29, 0, 0, 0, 0}, last = {2024, 3, 0, 31, 0, 0, 0, 0};
     CDateTimeCtrl field;
     Create(field, DTS_SHOWNONE);
     SYSTEMTIME read = {};
-    EXPECT_TRUE(field.SetTime(&day));
-    EXPECT_EQ(field.GetTime(&read), static_cast<DWORD>(GDT_VALID));
-    EXPECT_EQ(CPoint(read.wMonth, read.wDay), CPoint(2, 29));
-    EXPECT_TRUE(field.SetRange(nullptr, &last));
-    EXPECT_EQ(field.GetRange(nullptr, &read), static_cast<DWORD>(GDTR_MAX));
-    EXPECT_EQ(read.wDay, 31);
-    EXPECT_TRUE(field.SetTime());
-    EXPECT_EQ(field.GetTime(&read), static_cast<DWORD>(GDT_NONE));
+    EXPECT_TRUE(field.SetTime(&day) && field.GetTime(&read) == GDT_VALID);
+    EXPECT_TRUE(read.wMonth == 2 && read.wDay == 29);
+    EXPECT_TRUE(field.SetRange(nullptr, &last) && field.GetRange(nullptr, &read) == GDTR_MAX);
+    EXPECT_EQ(31, read.wDay);
+    EXPECT_TRUE(field.SetTime() && field.GetTime(&read) == GDT_NONE);
 
     CMonthCalCtrl month;
     Create(month, MCS_MULTISELECT);
-    EXPECT_TRUE(month.SetMaxSelCount(5));
     SYSTEMTIME until = day;
     until.wDay = 27;
-    EXPECT_TRUE(month.SetSelRange(&until, &day));
-    EXPECT_TRUE(month.GetSelRange(&read, &until));
-    EXPECT_EQ(CPoint(read.wDay, until.wDay), CPoint(27, 29));
+    EXPECT_TRUE(month.SetMaxSelCount(5) && month.SetSelRange(&until, &day));
+    EXPECT_TRUE(month.GetSelRange(&read, &until) && read.wDay == 27 && until.wDay == 29);
 
     CHotKeyCtrl key;
     Create(key);
     key.SetHotKey('K', HOTKEYF_CONTROL);
-    WORD wKey = 0;
-    WORD wModifiers = 0;
-    key.GetHotKey(wKey, wModifiers);
-    EXPECT_EQ(CPoint(wKey, wModifiers), CPoint('K', HOTKEYF_CONTROL));
+    EXPECT_EQ(CPoint('K', HOTKEYF_CONTROL), Pair<WORD>([&](WORD& a, WORD& b) { key.GetHotKey(a, b); }));
 
     CIPAddressCtrl address;
     Create(address);
     address.SetAddress(192, 168, 0, 7);
     BYTE fields[4] = {};
-    EXPECT_EQ(address.GetAddress(fields[0], fields[1], fields[2], fields[3]), 4);
-    EXPECT_EQ(CPoint(fields[0], fields[3]), CPoint(192, 7));
-}
-
-TEST_F(ControlMessages, ToolBar) {
-    CToolBarCtrl bar;
-    Create(bar);
-    TBBUTTON buttons[2] = {};
-    buttons[0].idCommand = 5;
-    buttons[1].idCommand = 6;
-    buttons[0].fsState = buttons[1].fsState = TBSTATE_ENABLED;
-    EXPECT_TRUE(bar.AddButtons(2, buttons));
-    EXPECT_EQ(bar.CommandToIndex(6), 1U);
-    EXPECT_TRUE(bar.EnableButton(6, FALSE));
-    EXPECT_FALSE(bar.IsButtonEnabled(6));
-    EXPECT_TRUE(bar.HideButton(5));
-    EXPECT_EQ(bar.GetState(5), TBSTATE_ENABLED | TBSTATE_HIDDEN);
-}
-
-TEST_F(ControlMessages, DrawItemOfTabIsReflected) {
-    class Drawn : public CTabCtrl {
-    public:
-        UINT m_nItem = 99;
-        void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override { m_nItem = lpDrawItemStruct->itemID; }
-    };
-    Drawn tabs;
-    Create(tabs, TCS_OWNERDRAWFIXED);
-    tabs.InsertItem(0, L"a");
-    tabs.UpdateWindow();
-    EXPECT_EQ(tabs.m_nItem, 0U);
+    EXPECT_EQ(4, address.GetAddress(fields[0], fields[1], fields[2], fields[3]));
+    EXPECT_TRUE(fields[0] == 192 && fields[3] == 7);
 }
 
 } // namespace

@@ -7,8 +7,7 @@ namespace {
 
 constexpr DWORD REPORT = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
 
-class Lists : public testing::Test {
-protected:
+struct Lists : testing::Test {
     Lists() {
         m_list.Create(REPORT, CRect(0, 0, 180, 80), &m_frame, 1);
         m_list.InsertColumn(0, L"名前", LVCFMT_LEFT, 80);
@@ -30,9 +29,7 @@ protected:
     fx::Frame m_frame;
     CListCtrl m_list;
     CTreeCtrl m_tree;
-    HTREEITEM m_root = nullptr;
-    HTREEITEM m_item = nullptr;
-    HTREEITEM m_leaf = nullptr;
+    HTREEITEM m_root = nullptr, m_item = nullptr, m_leaf = nullptr;
 };
 
 TEST_F(Lists, GiveTextsOfAnyLength) {
@@ -53,12 +50,10 @@ TEST_F(Lists, ItemsHaveDataImagesAndState) {
     EXPECT_EQ(34U, m_list.GetItemData(1));
     EXPECT_EQ(0U, m_list.GetItemData(9));
     EXPECT_EQ(77U, m_tree.GetItemData(m_leaf));
-    EXPECT_TRUE(m_list.SetItemData(1, 0x1234567890ULL));
-    EXPECT_TRUE(m_tree.SetItemData(m_leaf, 0x1234567890ULL));
+    EXPECT_TRUE(m_list.SetItemData(1, 0x1234567890ULL) && m_tree.SetItemData(m_leaf, 0x1234567890ULL));
     EXPECT_EQ(0x1234567890ULL, m_list.GetItemData(1)) << "as wide as a pointer";
     EXPECT_EQ(0x1234567890ULL, m_tree.GetItemData(m_leaf));
-    int nImage = -1;
-    int nSelected = -1;
+    int nImage = -1, nSelected = -1;
     ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
     EXPECT_EQ(CPoint(2, 3), CPoint(nImage, nSelected));
     EXPECT_TRUE(m_tree.SetItemImage(m_root, 4, 5));
@@ -66,8 +61,7 @@ TEST_F(Lists, ItemsHaveDataImagesAndState) {
     EXPECT_EQ(CPoint(4, 5), CPoint(nImage, nSelected));
     EXPECT_TRUE(m_tree.SetItemState(m_leaf, TVIS_BOLD, TVIS_BOLD | TVIS_CUT));
     EXPECT_EQ(UINT{TVIS_BOLD}, m_tree.GetItemState(m_leaf, TVIS_BOLD | TVIS_CUT));
-    EXPECT_TRUE(m_tree.ItemHasChildren(m_item));
-    EXPECT_FALSE(m_tree.ItemHasChildren(m_leaf));
+    EXPECT_TRUE(m_tree.ItemHasChildren(m_item) && !m_tree.ItemHasChildren(m_leaf));
     m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
     m_tree.ModifyStyle(0, TVS_CHECKBOXES);
     for (const BOOL bCheck : {TRUE, FALSE}) {
@@ -88,8 +82,7 @@ TEST_F(Lists, SelectedItemsAreWalkedOver) {
 }
 
 TEST_F(Lists, ItemsHaveTheirPlaces) {
-    CRect item;
-    CRect sub;
+    CRect item, sub;
     ASSERT_TRUE(m_list.GetItemRect(1, item, LVIR_BOUNDS));
     ASSERT_TRUE(m_list.GetSubItemRect(1, 1, LVIR_BOUNDS, sub));
     EXPECT_EQ(item.left + 80, sub.left) << "right of column 0";
@@ -125,8 +118,7 @@ TEST_F(Lists, OnlyImageListsThatHaveNoOwnerAreDestroyed) {
 }
 
 TEST_F(Lists, DrawTheirItemsThemselves) {
-    class Drawer : public CListCtrl {
-    public:
+    struct Drawer : CListCtrl {
         std::vector<UINT> m_drawn;
         void DrawItem(LPDRAWITEMSTRUCT pDraw) override { m_drawn.push_back(pDraw->itemID); }
     };
@@ -150,12 +142,10 @@ TEST(ImageList, HasOneOwnerWhichDestroysIt) {
     CImageList::DeleteTempMap();
     {
         CImageList owner;
-        EXPECT_FALSE(owner.Attach(nullptr));
-        EXPECT_TRUE(owner.Attach(hList));
+        EXPECT_TRUE(!owner.Attach(nullptr) && owner.Attach(hList));
         EXPECT_EQ(&owner, CImageList::FromHandle(hList));
         EXPECT_EQ(hList, owner.Detach());
-        EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
-        EXPECT_FALSE(owner.DeleteImageList());
+        EXPECT_TRUE(CImageList::FromHandlePermanent(hList) == nullptr && !owner.DeleteImageList());
     }
     EXPECT_EQ(3, ::ImageList_GetImageCount(hList)) << "neither a temporary owner's nor one's that gave it up";
     CImageList owner;
@@ -166,8 +156,7 @@ TEST(ImageList, HasOneOwnerWhichDestroysIt) {
     EXPECT_EQ(0, owner.GetImageCount()) << "room is not images";
     EXPECT_EQ(0, ::ImageList_GetImageCount(hList)) << "replaced";
     EXPECT_EQ(3, copy.GetImageCount());
-    EXPECT_TRUE(owner.DeleteImageList());
-    EXPECT_EQ(nullptr, owner.GetSafeHandle());
+    EXPECT_TRUE(owner.DeleteImageList() && owner.GetSafeHandle() == nullptr);
 }
 
 } // namespace

@@ -40,8 +40,7 @@ void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage
 
 TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     fx::Sheet sheet;
-    fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE);
-    fx::Page added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
+    fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE), added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
     sheet.AddPage(&wide);
     const auto first = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a});
@@ -54,8 +53,7 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     };
     const auto others = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide});
-        EXPECT_TRUE(wide.IsWindowVisible());
-        EXPECT_FALSE(sheet.m_a.IsWindowVisible());
+        EXPECT_TRUE(wide.IsWindowVisible() && !sheet.m_a.IsWindowVisible());
         sheet.AddPage(&added);
         sheet.SetActivePage(&added);
     };
@@ -72,10 +70,8 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
 
 /// What a full-screen sheet class of an application does: all its own settings first, the
 /// base class last.
-class EarlySheet : public fx::Sheet {
-public:
-    bool m_bOkButton = false;
-    bool m_bOwnBar = true;
+struct EarlySheet : fx::Sheet {
+    bool m_bOkButton = false, m_bOwnBar = true;
     int m_nShow = SW_SHOWMAXIMIZED;
     BOOL m_bResult = FALSE;
     CCeCommandBar m_bar;
@@ -101,25 +97,21 @@ ON_COMMAND(IDCANCEL, &EarlySheet::OnCancel)
 END_MESSAGE_MAP()
 
 TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
-    const struct {
-        bool bOkButton;
-        bool bOwnBar;
-        int nShow;
-    } cases[] = {{false, true, SW_SHOWMAXIMIZED},
-                 {true, true, SW_SHOWMAXIMIZED},
-                 {true, false, SW_SHOWMAXIMIZED},
-                 {true, true, SW_HIDE}};
-    for (const auto& c : cases) {
+    const Rows<bool, bool, int> cases = {{false, true, SW_SHOWMAXIMIZED},
+                                         {true, true, SW_SHOWMAXIMIZED},
+                                         {true, false, SW_SHOWMAXIMIZED},
+                                         {true, true, SW_HIDE}};
+    for (const auto& [bOkButton, bOwnBar, nShow] : cases) {
         EarlySheet sheet;
-        sheet.m_bOkButton = c.bOkButton;
-        sheet.m_bOwnBar = c.bOwnBar;
-        sheet.m_nShow = c.nShow;
+        sheet.m_bOkButton = bOkButton;
+        sheet.m_bOwnBar = bOwnBar;
+        sheet.m_nShow = nShow;
         fx::WhileOpen(sheet, [&] {
             EXPECT_TRUE(sheet.m_bResult);
-            EXPECT_EQ(c.nShow != SW_HIDE, sheet.IsWindowVisible() != FALSE);
-            EXPECT_EQ(c.bOkButton, fx::FindOkButton(sheet).x != -1);
+            EXPECT_EQ(nShow != SW_HIDE, sheet.IsWindowVisible() != FALSE);
+            EXPECT_EQ(bOkButton, fx::FindOkButton(sheet).x != -1);
             EXPECT_EQ(1, CountCommandBars(sheet));
-            EXPECT_EQ(c.bOwnBar, sheet.m_pWndEmptyCB == nullptr);
+            EXPECT_EQ(bOwnBar, sheet.m_pWndEmptyCB == nullptr);
             ExpectLaidOut(sheet, {&sheet.m_a});
         });
     }
@@ -172,10 +164,8 @@ TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
     fx::Sheet sheet;
     sheet.m_bFullScreen = FALSE;
     ASSERT_TRUE(sheet.Create());
-    EXPECT_FALSE(sheet.ShowsButton(IDOK));
-    EXPECT_FALSE(sheet.ShowsButton(IDCANCEL));
-    const CRect window = fx::RectOf(sheet.m_hWnd);
-    const CRect tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
+    EXPECT_TRUE(!sheet.ShowsButton(IDOK) && !sheet.ShowsButton(IDCANCEL));
+    const CRect window = fx::RectOf(sheet.m_hWnd), tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
     EXPECT_LT(window.bottom - tabs.bottom, 30);
     EXPECT_GT(window.bottom, tabs.bottom);
 }

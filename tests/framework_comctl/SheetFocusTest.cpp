@@ -24,23 +24,21 @@ TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
         ::SetFocus(::GetDlgItem(s.m_a, fx::IDC_NUMBER));
         ::PostMessage(::GetFocus(), WM_SYSCHAR, 'z', 0x20000001);
     };
-    const struct {
-        const char* pszWay;
-        std::function<void(Sheet&)> change;
-    } cases[] = {{"Ctrl+Tab", TypeCtrlTab},
-                 {"tap on a tab", [](Sheet& s) { s.TapTab(1); }},
-                 {"SetActivePage", [](Sheet& s) { s.SetActivePage(1); }},
-                 {"RemovePage", [](Sheet& s) { s.RemovePage(0); }},
-                 {"by the application", setFocusByProgram}};
+    const Rows<const char*, std::function<void(Sheet&)>> cases = {
+        {"Ctrl+Tab", TypeCtrlTab},
+        {"tap on a tab", [](Sheet& s) { s.TapTab(1); }},
+        {"SetActivePage", [](Sheet& s) { s.SetActivePage(1); }},
+        {"RemovePage", [](Sheet& s) { s.RemovePage(0); }},
+        {"by the application", setFocusByProgram}};
     for (const bool bWizard : {false, true}) {
-        for (const auto& c : cases) {
-            SCOPED_TRACE(c.pszWay);
+        for (const auto& [pszWay, way] : cases) {
+            SCOPED_TRACE(pszWay);
             Sheet sheet;
             if (bWizard)
                 sheet.SetWizardMode();
             const auto change = [&] {
                 sheet.m_a.GetDlgItem(fx::IDC_NUMBER)->SetFocus();
-                c.change(sheet);
+                way(sheet);
             };
             const auto look = [&] {
                 if (bWizard)
@@ -59,8 +57,7 @@ TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
 
 TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
     const fx::Watchdog watchdog(20);
-    class Destroying : public Sheet {
-    public:
+    struct Destroying : Sheet {
         using Sheet::Sheet;
         BOOL OnInitDialog() override {
             const BOOL bResult = Sheet::OnInitDialog();
@@ -71,23 +68,18 @@ TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
         bool m_bDestroy = false;
     };
     fx::Frame owner;
-    const struct {
-        const char* pszWay;
-        std::function<void(Sheet&)> go;
-    } cases[] = {
+    const Rows<const char*, std::function<void(Sheet&)>> cases = {
         {"by the object", [](Sheet& s) { s.DestroyWindow(); }},
         {"by the system", [](Sheet& s) { ::DestroyWindow(s); }},
         {"its page destroyed it", [](Sheet& s) { s.m_a.GetParent()->DestroyWindow(); }},
         {"in OnInitDialog", nullptr},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszWay);
+    for (const auto& [pszWay, go] : cases) {
+        SCOPED_TRACE(pszWay);
         Destroying sheet(&owner);
-        sheet.m_bDestroy = c.go == nullptr;
-        EXPECT_EQ(-1, c.go ? fx::Play(sheet, {[&] { c.go(sheet); }}) : fx::Play(sheet, {}));
-        EXPECT_EQ(nullptr, sheet.m_hWnd);
-        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
-        EXPECT_TRUE(owner.IsWindowEnabled());
+        sheet.m_bDestroy = go == nullptr;
+        EXPECT_EQ(-1, go ? fx::Play(sheet, {[&] { go(sheet); }}) : fx::Play(sheet, {}));
+        EXPECT_TRUE(sheet.m_hWnd == nullptr && sheet.m_a.m_hWnd == nullptr && owner.IsWindowEnabled());
         sheet.m_bDestroy = false;
         fx::WhileOpen(sheet, [] {});
     }

@@ -11,21 +11,16 @@
 
 namespace fx {
 
-constexpr UINT ID_PAGE_GENERAL = 300;
-constexpr UINT ID_PAGE_VIEW = 301;
-constexpr UINT ID_PAGE_WIDE = 302;
-constexpr UINT ID_PAGE_UNKNOWN = 303;
+constexpr UINT ID_PAGE_GENERAL = 300, ID_PAGE_VIEW = 301, ID_PAGE_WIDE = 302, ID_PAGE_UNKNOWN = 303;
 constexpr int IDC_NUMBER = 10;
 
 /// A page with a number between 0 and 100.
-class Page : public CPropertyPage {
-public:
+struct Page : CPropertyPage {
     Page(std::string& log, const char* pszName, UINT nIDTemplate, UINT nIDCaption = 0)
         : CPropertyPage(nIDTemplate, nIDCaption), m_log(log), m_name(pszName) {}
 
     int m_nNumber = 0;
-    BOOL m_bApply = TRUE;
-    BOOL m_bCancel = TRUE;
+    BOOL m_bApply = TRUE, m_bCancel = TRUE;
     bool m_bSawCreation = false;
     std::function<void()> m_onInit = [] {};
 
@@ -74,8 +69,7 @@ private:
 };
 
 /// A sheet of the pages a and b.
-class Sheet : public CPropertySheet {
-public:
+struct Sheet : CPropertySheet {
     explicit Sheet(CWnd* pParentWnd = nullptr) : CPropertySheet(L"設定", pParentWnd) {
         m_bFullScreen = TRUE;
         AddPage(&m_a);
@@ -84,8 +78,7 @@ public:
     ~Sheet() override { DestroyWindow(); } // before the pages go
 
     std::string m_log;
-    Page m_a{m_log, "a", ID_PAGE_GENERAL};
-    Page m_b{m_log, "b", ID_PAGE_VIEW};
+    Page m_a{m_log, "a", ID_PAGE_GENERAL}, m_b{m_log, "b", ID_PAGE_VIEW};
     bool m_bSawCreation = false;
     std::function<void()> m_onInit = [] {};
 

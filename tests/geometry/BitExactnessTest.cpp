@@ -33,8 +33,7 @@ struct Arguments {
     double a[3]; ///< angles
     double length;
     int flag;
-    CVector out = CVector(kUntouched, kUntouched);
-    CVector out2 = CVector(kUntouched, kUntouched);
+    CVector out = CVector(kUntouched, kUntouched), out2 = CVector(kUntouched, kUntouched);
 };
 
 Arguments Draw(CInputs& inputs) {
@@ -104,8 +103,7 @@ const Function kFunctions[] = {
      12095901738182998687U, 0},
     {"GetNearerPoint",
      [](H h, A g) {
-         double x = kUntouched;
-         double y = kUntouched;
+         double x = kUntouched, y = kUntouched;
          h << CVector::GetNearerPoint(g.p[0].GetX(), g.p[0].GetY(), g.p[1].GetX(), g.p[1].GetY(),
                                       g.p[2].GetX(), g.p[2].GetY(), &x, &y);
          h << x << y;
@@ -161,8 +159,7 @@ std::uint64_t MathematicsLibrary() {
     CInputs inputs(1);
     CHash hash;
     for (int i = 0; i < 2000; ++i) {
-        const double a = inputs.Angle();
-        const double x = inputs.Coordinate();
+        const double a = inputs.Angle(), x = inputs.Coordinate();
         hash << std::sin(a) << std::cos(a) << std::tan(a / 4) << std::atan2(a, x);
     }
     return hash.Value();

@@ -2,6 +2,7 @@
 // that are not finite, texts.
 
 #include "Tolerance.h"
+#include "support/Rows.h"
 
 #include <gtest/gtest.h>
 
@@ -19,13 +20,10 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 TEST(Vector, RoundsHalvesTowardZeroAndKeepsToInt) {
     constexpr int kLeast = std::numeric_limits<int>::min();
     constexpr int kMost = std::numeric_limits<int>::max();
-    const struct {
-        double value;
-        int expected;
-    } rows[] = {{0.5, 0},    {-0.5, 0},     {1.5, 1},        {2.5000001, 3},
-                {-1.51, -2}, {kInf, kMost}, {-kInf, kLeast}, {std::nan(""), 0}};
-    for (const auto& row : rows)
-        EXPECT_EQ(row.expected, CVector::Double2Int(row.value)) << row.value;
+    const Rows<double, int> rows = {{0.5, 0},    {-0.5, 0},     {1.5, 1},        {2.5000001, 3},
+                                    {-1.51, -2}, {kInf, kMost}, {-kInf, kLeast}, {std::nan(""), 0}};
+    for (const auto& [value, expected] : rows)
+        EXPECT_EQ(expected, CVector::Double2Int(value)) << value;
 }
 
 TEST(Vector, EqualIsInclusive) {
@@ -41,17 +39,13 @@ TEST(Vector, TooSmallForItsNormIsLeftAloneInPlaceAndNullAsAResult) {
 }
 
 TEST(Vector, ShowsItsCoordinates) {
-    const struct {
-        double x, y;
-        int prec;
-        const char* expected;
-    } rows[] = {{1.5, -2, 3, "(  1.500, -2.000)"},
-                {1.5, -2, -1, "(1.500000,-2.000000)"},
-                {0, -0.5, 0, "(      0,     -0)"}};
-    for (const auto& row : rows) {
+    const Rows<double, double, int, const char*> rows = {{1.5, -2, 3, "(  1.500, -2.000)"},
+                                                         {1.5, -2, -1, "(1.500000,-2.000000)"},
+                                                         {0, -0.5, 0, "(      0,     -0)"}};
+    for (const auto& [x, y, prec, expected] : rows) {
         char own[64];
-        EXPECT_STREQ(row.expected, CVector(row.x, row.y).Show(row.prec));
-        EXPECT_STREQ(row.expected, CVector(row.x, row.y).Show(own, row.prec));
+        EXPECT_STREQ(expected, CVector(x, y).Show(prec));
+        EXPECT_STREQ(expected, CVector(x, y).Show(own, prec));
     }
     EXPECT_EQ(1023U, std::string(CVector(-1e308, 1).Show(100000)).size());
 }
@@ -73,24 +67,18 @@ TEST(Lines, IntersectionTheCoarseToleranceAwayIsNone) {
 
 // All figures are exact in binary, so the differences equal the tolerance to the last bit.
 TEST(Circles, TouchingAndDistanceAreStrict) {
-    const struct {
-        const char* what;
-        double tolerance, r1, r2, distance;
-        int found;
-    } rows[] = {
+    const Rows<const char*, double, double, double, double, int> rows = {
         {"short of touching by the tolerance", 0.5, 1, 1.5, 3, 0},
         {"touching, without a tolerance", 0, 1, 1, 2, 2},
         {"centres the tolerance apart are the same", 0.5, 2, 2, 0.5, -1},
         {"radii the tolerance apart are not", 0.5, 2, 1.5, 0, 0},
         {"half chord squared equal to the tolerance", 0.5, 0.75, 1.125, 1.125, 2},
     };
-    CVector p1;
-    CVector p2;
-    for (const auto& row : rows) {
-        const CToleranceScope tolerance(row.tolerance);
-        const CVector c2(row.distance, 0);
-        EXPECT_EQ(row.found, CVector::IntersectArcArcInf(CVector(0, 0), row.r1, c2, row.r2, p1, p2))
-            << row.what;
+    CVector p1, p2;
+    for (const auto& [what, allowed, r1, r2, distance, found] : rows) {
+        const CToleranceScope tolerance(allowed);
+        const CVector c2(distance, 0);
+        EXPECT_EQ(found, CVector::IntersectArcArcInf(CVector(0, 0), r1, c2, r2, p1, p2)) << what;
     }
     EXPECT_EQ(1, CVector::IntersectArcArc(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, nullptr, nullptr));
 }
@@ -98,8 +86,7 @@ TEST(Circles, TouchingAndDistanceAreStrict) {
 // A margin equal to the tolerance still touches an oblique line, but no other.
 TEST(LineArc, TouchingDependsOnTheToleranceItself) {
     const CToleranceScope tolerance(0.5);
-    CVector p1;
-    CVector p2;
+    CVector p1, p2;
     const CVector origin(0, 0);
     EXPECT_EQ(2, CVector::IntersectLineArcInf(CVector(0, 0.25), CVector(9, 0.25), origin, 0.75, p1, p2));
     EXPECT_EQ(1, CVector::IntersectLineArcInf(origin, CVector(1, 1), origin, 0.5, p1, p2));
@@ -108,12 +95,10 @@ TEST(LineArc, TouchingDependsOnTheToleranceItself) {
 
 // Half a turn to the last bit, where the C library's arc tangent is the usual one.
 TEST(LineArc, HalfATurnHoldsThePointsThatOneChordDoesNot) {
-    CVector start(-1.1469828380997749, -1.6384231349393799);
-    CVector end(1.146982837427682, 1.6384231354098804);
+    CVector start(-1.1469828380997749, -1.6384231349393799), end(1.146982837427682, 1.6384231354098804);
     CVector on(-0.87655572791837522, -1.7976790747665412);
     const CVector centre(0, 0);
-    CVector out1;
-    CVector out2;
+    CVector out1, out2;
     const double sweep =
         CVector::Range0To360(end.Angle()) + 6.283185308 - CVector::Range0To360(start.Angle());
     EXPECT_EQ(sweep >= 3.141592654,
@@ -123,19 +108,16 @@ TEST(LineArc, HalfATurnHoldsThePointsThatOneChordDoesNot) {
 // The first three could be halved for ever: their ends are too near the centre to have a direction.
 // Of the next only the second half needs halving again. Of the last cross product one half overflows.
 TEST(ArcConstruction, FullTurnHasNoCorner) {
-    const struct {
-        CVector start, end;
-    } rows[] = {
+    const Rows<CVector, CVector> rows = {
         {{0, 0}, {0, 0}},
         {{0.01, 0.01}, {-0.01, 0.01}},
         {{0, 0}, {1, 0}},
         {{-12, -15}, {-12, -15}},
         {{0x1.9480583abdfb6p+511, 0x1.9d8dbb3a5bde4p+511}, {0x1.3cf0d4f48e39p+512, 0x1.440895906bb2cp+512}}};
-    for (const auto& row : rows) {
-        CVector p1;
-        CVector p2;
+    for (const auto& [start, end] : rows) {
+        CVector p1, p2;
         int split = -1;
-        EXPECT_EQ(0, CVector::CalcPiOfArc(row.start, CVector(0, 0), row.end, p1, p2, split));
+        EXPECT_EQ(0, CVector::CalcPiOfArc(start, CVector(0, 0), end, p1, p2, split));
         EXPECT_EQ(1, split);
     }
 }

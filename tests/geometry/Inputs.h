@@ -65,8 +65,7 @@ private:
 
     double MakeCoordinate() {
         static constexpr double kLimits[] = {1e-8, 0.017, 0.35, 1e-12};
-        const double recent = m_Recent[Below(kRecent)];
-        const double limit = Signed(kLimits[Below(4)]);
+        const double recent = m_Recent[Below(kRecent)], limit = Signed(kLimits[Below(4)]);
         switch (Below(8)) {
         case 0:
         case 1:

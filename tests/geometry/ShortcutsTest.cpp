@@ -102,8 +102,7 @@ ArcCase SomeArc(CInputs& inputs) {
     const double opposite = inputs.Below(4) ? 0 : 3.141592653589793;
     const P on = Along(marks[inputs.Below(4)] + near + opposite, r);
     const P along = Along(SomeDirection(inputs), r);
-    const double before = 3 * inputs.Unit();
-    const double after = 3 * inputs.Unit();
+    const double before = 3 * inputs.Unit(), after = 3 * inputs.Unit();
     c.start = {c.centre.x + start.x, c.centre.y + start.y};
     c.end = {c.centre.x + end.x, c.centre.y + end.y};
     c.p1 = {c.centre.x + on.x + before * along.x, c.centre.y + on.y + before * along.y};

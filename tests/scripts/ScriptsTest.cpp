@@ -6,13 +6,8 @@
 
 namespace {
 
-struct TextRow {
-    UINT nID;
-    LPCTSTR pszText;
-};
-
 TEST(ResourceScriptTest, TextsOfAllPagesArrive) {
-    const TextRow rows[] = {
+    const Rows<UINT, LPCTSTR> rows = {
         {IDS_NUMBERED, L"\u00A9 \u00B2 \\ %d\n"},
         {IDS_LETTERS, L"D\u00FCne"},
         {IDS_TRAIL, L"\u8868\u793A\u3001\u80FD\u529B"},
@@ -20,10 +15,10 @@ TEST(ResourceScriptTest, TextsOfAllPagesArrive) {
         {IDS_MARKED, L"\u00B10"},
         {AFX_IDP_PARSE_INT, L"\u6574\u6570\u3092\u5165\u529B\u3057\u3066\u304F\u3060\u3055\u3044\u3002"},
     };
-    for (const TextRow& row : rows) {
+    for (const auto& [nID, pszText] : rows) {
         CString text;
-        EXPECT_TRUE(text.LoadString(row.nID)) << row.nID;
-        EXPECT_STREQ(text.GetString(), row.pszText) << row.nID;
+        EXPECT_TRUE(text.LoadString(nID)) << nID;
+        EXPECT_STREQ(text.GetString(), pszText) << nID;
     }
 }
 
@@ -36,8 +31,7 @@ TEST(ResourceScriptTest, WhatTheEditorKeepsForItselfIsLeftOut) {
     EXPECT_EQ(::FindResource(hModule, MAKEINTRESOURCE(AFX_IDP_PARSE_INT / 16 + 1), RT_STRING), nullptr);
 }
 
-class CListsDlg : public CDialog {
-public:
+struct CListsDlg : CDialog {
     CListsDlg() : CDialog(IDD_LISTS) {}
     CString m_texts;
 

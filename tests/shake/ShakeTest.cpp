@@ -20,14 +20,8 @@
 
 namespace {
 
-/// With the soft input panel.
-void Shake(const std::function<void(CWnd*)>& open) {
-    shake::Shake(open, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
-}
-
 /// A drive with a few files and folders; nothing else can be reached from it.
-class Disk {
-public:
+struct Disk {
     Disk() {
         for (const wchar_t* psz : {L"\\a", L"\\a\\b", L"\\a\\b\\c", L"\\測量"})
             m_drive.MakeFolder(psz);
@@ -40,8 +34,7 @@ private:
 };
 
 template <class SheetClass, class PageClass, int COUNT>
-class Sheet : public SheetClass {
-public:
+struct Sheet : SheetClass {
     explicit Sheet(CWnd* pParentWnd) : SheetClass(L"設定", pParentWnd, 0) {
         for (int i = 0; i < COUNT; ++i) {
             m_pages.push_back(std::make_unique<PageClass>(300 + i % 3));
@@ -54,88 +47,79 @@ private:
     std::vector<std::unique_ptr<PageClass>> m_pages;
 };
 
-TEST(Shake, FileSelect) {
+void SelectFile(CWnd* pOwner) {
+    static int s_nMode = 0;
+    CFileSelectDlg dlg(pOwner);
+    dlg.SetMode(s_nMode++ % 3);
+    dlg.SetSubName(L"csv");
+    dlg.SetFileFolder(L"\\");
+    dlg.DoModal();
+    dlg.GetFilePath();
+}
+
+void SelectMembers(CWnd* pOwner) {
+    CSelMemberDlg dlg(L"点", pOwner);
+    for (CPtrList* pList : {&dlg.m_listAvailable, &dlg.m_listCurrent})
+        for (unsigned long i = 0; i < 5; ++i)
+            CSelMemberDlg::AddSelMemberItemToList(*pList, L"P", i);
+    dlg.DoModal();
+    for (CPtrList* pList : {&dlg.m_listAvailable, &dlg.m_listCurrent})
+        CSelMemberDlg::FlashSelMemberList(*pList);
+}
+
+void ChooseFromMenu(CWnd* pOwner) {
+    CUIntArray entries;
+    for (UINT nID = 40001; nID <= 40003; ++nID)
+        entries.Add(nID);
+    CButtonMenuDlg(40001, &entries, pOwner).DoModal();
+}
+
+void ShowResult(CWnd* pOwner) {
+    CResultDlg dlg(L"結果", L"点", pOwner);
+    for (int i = 0; i < 40; ++i)
+        dlg.AddString(L"12.345");
+    dlg.DoModal();
+}
+
+void ShowMessages(CWnd*) {
+    CResMsgBox().WarningMsgBox(L"?");
+    AfxMessageBox(L"!");
+}
+
+void RunWizard(CWnd* pOwner) {
+    Sheet<CPropertySheet, CPropertyPage, 3> sheet(pOwner);
+    sheet.SetWizardMode();
+    sheet.DoModal();
+}
+
+struct Window {
+    const char* pszName;
+    void (*open)(CWnd* pOwner);
+};
+
+const Window WINDOWS[] = {
+    {"FileSelect", SelectFile},
+    {"BrowseFolder", [](CWnd* p) { CBrowseFolderDlg(L"\\a\\b", p).DoModal(); }},
+    {"SelMember", SelectMembers},
+    {"ButtonMenu", ChooseFromMenu},
+    {"Input", [](CWnd* p) { CInputDlg(L"名前", L"点", p).DoModal(); }},
+    {"Result", ShowResult},
+    {"MessageBoxes", ShowMessages},
+    {"ControlsFullScreen", [](CWnd* p) { fx::AllControls(p, false).DoModal(); }},
+    {"ControlsPopup", [](CWnd* p) { fx::AllControls(p, true).DoModal(); }},
+    {"SheetOfTwo", [](CWnd* p) { Sheet<CPropertySheet, CPropertyPage, 2>(p).DoModal(); }},
+    {"SheetOfFour", [](CWnd* p) { Sheet<CnPropertySheet, CnPropertyPage, 4>(p).DoModal(); }},
+    {"Wizard", RunWizard},
+};
+
+class Shake : public testing::TestWithParam<Window> {};
+
+TEST_P(Shake, Of) {
     const Disk disk;
-    int nMode = 0;
-    Shake([&](CWnd* pOwner) {
-        CFileSelectDlg dlg(pOwner);
-        dlg.SetMode(nMode++ % 3);
-        dlg.SetSubName(L"csv");
-        dlg.SetFileFolder(L"\\");
-        dlg.DoModal();
-        dlg.GetFilePath();
-    });
+    shake::Shake(GetParam().open, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
 }
 
-TEST(Shake, BrowseFolder) {
-    const Disk disk;
-    Shake([](CWnd* pOwner) { CBrowseFolderDlg(L"\\a\\b", pOwner).DoModal(); });
-}
-
-TEST(Shake, SelMember) {
-    Shake([](CWnd* pOwner) {
-        CSelMemberDlg dlg(L"点", pOwner);
-        for (unsigned long i = 0; i < 5; ++i) {
-            CSelMemberDlg::AddSelMemberItemToList(dlg.m_listAvailable, L"P", i);
-            CSelMemberDlg::AddSelMemberItemToList(dlg.m_listCurrent, L"Q", i);
-        }
-        dlg.DoModal();
-        CSelMemberDlg::FlashSelMemberList(dlg.m_listAvailable);
-        CSelMemberDlg::FlashSelMemberList(dlg.m_listCurrent);
-    });
-}
-
-TEST(Shake, ButtonMenu) {
-    Shake([](CWnd* pOwner) {
-        CUIntArray entries;
-        for (UINT nID = 40001; nID <= 40003; ++nID)
-            entries.Add(nID);
-        CButtonMenuDlg(40001, &entries, pOwner).DoModal();
-    });
-}
-
-TEST(Shake, Input) {
-    Shake([](CWnd* pOwner) { CInputDlg(L"名前", L"点", pOwner).DoModal(); });
-}
-
-TEST(Shake, Result) {
-    Shake([](CWnd* pOwner) {
-        CResultDlg dlg(L"結果", L"点", pOwner);
-        for (int i = 0; i < 40; ++i)
-            dlg.AddString(L"12.345");
-        dlg.DoModal();
-    });
-}
-
-TEST(Shake, MessageBoxes) {
-    Shake([](CWnd*) {
-        CResMsgBox().WarningMsgBox(L"?");
-        AfxMessageBox(L"!");
-    });
-}
-
-TEST(Shake, ControlsFullScreen) {
-    Shake([](CWnd* pOwner) { fx::AllControls(pOwner, false).DoModal(); });
-}
-
-TEST(Shake, ControlsPopup) {
-    Shake([](CWnd* pOwner) { fx::AllControls(pOwner, true).DoModal(); });
-}
-
-TEST(Shake, SheetOfTwo) {
-    Shake([](CWnd* pOwner) { Sheet<CPropertySheet, CPropertyPage, 2>(pOwner).DoModal(); });
-}
-
-TEST(Shake, SheetOfFour) {
-    Shake([](CWnd* pOwner) { Sheet<CnPropertySheet, CnPropertyPage, 4>(pOwner).DoModal(); });
-}
-
-TEST(Shake, Wizard) {
-    Shake([](CWnd* pOwner) {
-        Sheet<CPropertySheet, CPropertyPage, 3> sheet(pOwner);
-        sheet.SetWizardMode();
-        sheet.DoModal();
-    });
-}
+INSTANTIATE_TEST_SUITE_P(All, Shake, testing::ValuesIn(WINDOWS),
+                         [](const auto& test) { return std::string(test.param.pszName); });
 
 } // namespace

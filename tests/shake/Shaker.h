@@ -17,8 +17,7 @@ namespace shake {
 /// Pen, keys, focus, activation, settings and destruction, a burst at each timer tick, in whatever
 /// message loop is the innermost. Events are posted as the system posts them: the same seed gives
 /// the same ones, and there are many more a second than by real input.
-class Shaker {
-public:
+struct Shaker {
     Shaker(const char* pszScenario, unsigned nSeed) : m_nSeed(nSeed), m_random(nSeed) {
         s_pThis = this;
         m_pszScenario = pszScenario;
@@ -31,8 +30,6 @@ public:
         ::SetKeyboardState(keys);
         s_pThis = nullptr;
     }
-    Shaker(const Shaker&) = delete;
-    Shaker& operator=(const Shaker&) = delete;
 
     int Events() const { return m_nEvents; }
 
@@ -49,12 +46,9 @@ private:
     struct CEvent {
         const char* pszKind = "";
         HWND hWnd = nullptr;
-        int nFirst = 0;
-        int nSecond = 0;
+        int nFirst = 0, nSecond = 0;
     };
-    static constexpr int BURST = 16;
-    static constexpr int KEPT = 20;
-    static constexpr int MOST_FORCE = 200;
+    static constexpr int BURST = 16, KEPT = 20, MOST_FORCE = 200;
     static constexpr DWORD HANG_SECONDS = 20;
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
@@ -305,8 +299,7 @@ private:
     std::mt19937 m_random;
     UINT_PTR m_nTimer = 0;
     bool m_bOn = false;
-    int m_nEvents = 0;
-    int m_nRoundEnd = 0;
+    int m_nEvents = 0, m_nRoundEnd = 0;
     int m_nForced = 0; ///< Ticks since the round is to end.
     CPoint m_pen{100, 100};
     std::array<CEvent, KEPT> m_events;

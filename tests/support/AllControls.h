@@ -17,8 +17,7 @@
 
 namespace fx {
 
-class AllControls : public CnDialog {
-public:
+struct AllControls : CnDialog {
     static constexpr int FIRST = 11; ///< Identifiers.
     static constexpr int LAST = 20;
 

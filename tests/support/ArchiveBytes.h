@@ -2,6 +2,8 @@
 /// Archives as hexadecimal text, so that tests can show every byte.
 #pragma once
 
+#include "support/Rows.h"
+
 #include "afx.h"
 
 #include <string>
@@ -63,6 +65,19 @@ bool Throws(Use use) {
     }
 }
 
+/// The cause of the exception that `use()` throws, 0 if it throws none.
+template <class Exception = CFileException, class Use>
+int CauseOf(Use use) {
+    try {
+        use();
+    } catch (Exception* e) {
+        const int cause = e->m_cause;
+        e->Delete();
+        return cause;
+    }
+    return 0;
+}
+
 /// Lets `use(archive)` load from the bytes.
 /// @return the cause of its CArchiveException, none if it threw none.
 template <class Use>
@@ -70,25 +85,8 @@ int Loaded(const Bytes& bytes, Use use) {
     CMemFile file;
     file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
     file.SeekToBegin();
-    try {
+    return CauseOf<CArchiveException>([&] {
         CArchive ar(&file, CArchive::load, 128);
         use(ar);
-        return CArchiveException::none;
-    } catch (CArchiveException* e) {
-        const int cause = e->m_cause;
-        e->Delete();
-        return cause;
-    }
-}
-
-/// The lengths to which the bytes can be cut so that `use` does not report a cut file.
-template <class Use>
-std::vector<std::size_t> CutsNotNoticed(const Bytes& bytes, Use use) {
-    std::vector<std::size_t> unnoticed;
-    for (std::size_t length = 0; length < bytes.size(); ++length) {
-        const Bytes cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length));
-        if (Loaded(cut, use) != CArchiveException::endOfFile)
-            unnoticed.push_back(length);
-    }
-    return unnoticed;
+    });
 }

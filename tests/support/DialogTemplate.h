@@ -8,8 +8,7 @@
 namespace fx {
 
 /// A dialog template with its controls, all in dialog units.
-class DialogTemplate {
-public:
+struct DialogTemplate {
     explicit DialogTemplate(short cx = 100, short cy = 80, DWORD dwStyle = WS_POPUP | WS_VISIBLE | WS_CAPTION,
                             LPCTSTR pszTitle = L"") {
         Long(dwStyle);
@@ -68,8 +67,7 @@ private:
 };
 
 /// A popup dialog from a template in memory.
-class TemplateDialog : public CDialog {
-public:
+struct TemplateDialog : CDialog {
     explicit TemplateDialog(const DialogTemplate& dialogTemplate, CWnd* pParentWnd = nullptr) {
         m_bFullScreen = FALSE;
         InitModalIndirect(dialogTemplate.Get(), pParentWnd);

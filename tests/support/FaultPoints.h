@@ -15,8 +15,7 @@ namespace fault {
 
 /// Counts the calls through fault points while it exists, and fails one of them, or that one and
 /// all that come after it. Only the calls of the thread that made it count.
-class Injection {
-public:
+struct Injection {
     static constexpr int FRAMES = 24;
 
     enum Extent { Once, Onwards };
@@ -26,10 +25,7 @@ public:
         s_pCurrent = this;
     }
     ~Injection() { s_pCurrent = nullptr; }
-    Injection(const Injection&) = delete;
-    Injection& operator=(const Injection&) = delete;
 
-    static Injection* Current() { return s_pCurrent; }
     /// No call fails any more.
     void Stop() { m_nFailing = 0; }
 
@@ -110,8 +106,7 @@ Point MakePoint(const char* pszName, R (*)(A...), Fail, Counts = {}) {
 
 /// A function that a module imports by name.
 struct Import {
-    std::string dll;
-    std::string name;
+    std::string dll, name;
     void** ppFunction;
 };
 
@@ -137,15 +132,6 @@ inline std::vector<Import> ImportsOf(HMODULE hModule) {
     return imports;
 }
 
-/// Has another function called. @return the one before
-inline void* SetImport(const Import& import, void* pFunction) {
-    DWORD dwOld = 0;
-    ::VirtualProtect(import.ppFunction, sizeof(void*), PAGE_READWRITE, &dwOld);
-    void* const pBefore = std::exchange(*import.ppFunction, pFunction);
-    ::VirtualProtect(import.ppFunction, sizeof(void*), dwOld, &dwOld);
-    return pBefore;
-}
-
 /// Points a module's imports at the stand-ins. This holds until the process ends.
 inline void Install(HMODULE hModule, const std::vector<Point>& points) {
     std::map<std::string, Point> byName;
@@ -155,8 +141,10 @@ inline void Install(HMODULE hModule, const std::vector<Point>& points) {
         const auto found = byName.find(import.name);
         if (found == byName.end() || *import.ppFunction == found->second.pStandIn)
             continue;
-        *found->second.ppReal = *import.ppFunction;
-        SetImport(import, found->second.pStandIn);
+        DWORD dwOld = 0;
+        ::VirtualProtect(import.ppFunction, sizeof(void*), PAGE_READWRITE, &dwOld);
+        *found->second.ppReal = std::exchange(*import.ppFunction, found->second.pStandIn);
+        ::VirtualProtect(import.ppFunction, sizeof(void*), dwOld, &dwOld);
     }
 }
 

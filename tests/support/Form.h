@@ -7,10 +7,8 @@
 namespace fx {
 
 /// A popup with two fields and two buttons.
-class Form : public TemplateDialog {
-public:
-    static constexpr int EDIT = 10;
-    static constexpr int FIELD = 11;
+struct Form : TemplateDialog {
+    static constexpr int EDIT = 10, FIELD = 11;
     static constexpr int DO = 12; ///< A button; IDOK is the default one.
 
     explicit Form(CWnd* pParentWnd = nullptr) : TemplateDialog(s_template, pParentWnd) {}

@@ -1,6 +1,8 @@
 // An application for tests that open windows: include this in each of their files.
 #pragma once
 
+#include "Rows.h"
+
 #include "afxext.h"
 
 #include <gtest/gtest.h>
@@ -12,8 +14,7 @@
 namespace fx {
 
 /// The application object of a test program.
-class TestApp : public CWinApp {
-public:
+struct TestApp : CWinApp {
     TestApp() : CWinApp(L"test") {}
 
     int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override {
@@ -36,8 +37,7 @@ public:
 
 inline TestApp g_app;
 
-class Environment : public testing::Environment {
-public:
+struct Environment : testing::Environment {
     void SetUp() override {
         AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL);
     }
@@ -46,12 +46,9 @@ public:
 inline testing::Environment* const g_environment = testing::AddGlobalTestEnvironment(new Environment);
 
 /// While it exists, what AfxMessageBox would show is kept here and answered with OK.
-class MessageRecorder {
-public:
+struct MessageRecorder {
     MessageRecorder() : m_pOuter(std::exchange(g_app.m_pRecord, &m_prompts)) {}
     ~MessageRecorder() { g_app.m_pRecord = m_pOuter; }
-    MessageRecorder(const MessageRecorder&) = delete;
-    MessageRecorder& operator=(const MessageRecorder&) = delete;
 
     std::vector<CString> m_prompts;
 
@@ -60,8 +57,7 @@ private:
 };
 
 /// A top-level window to try controls and children in.
-class Frame : public CWnd {
-public:
+struct Frame : CWnd {
     explicit Frame(CSize size = {200, 200}, DWORD dwStyle = WS_POPUP | WS_VISIBLE) {
         CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS, nullptr, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1)),
                  L"frame", dwStyle, CRect(CPoint(10, 40), size), nullptr, 0);

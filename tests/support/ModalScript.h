@@ -19,8 +19,7 @@ namespace fx {
 ///     ModalScript script;
 ///     script.Then([&] { pen::Tap(dlg.m_ok); });
 ///     EXPECT_EQ(script.Run([&] { return dlg.DoModal(); }), IDOK);
-class ModalScript {
-public:
+struct ModalScript {
     using Step = std::function<void()>;
     using Condition = std::function<bool()>;
 

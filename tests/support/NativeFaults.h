@@ -23,8 +23,7 @@ bool Disarm();
 
 /// What is in use: blocks of memory and open files. Equal before and after if nothing leaks.
 struct Use {
-    long blocks = 0;
-    long files = 0;
+    long blocks = 0, files = 0;
     bool operator==(const Use&) const = default;
 };
 inline std::ostream& operator<<(std::ostream& out, const Use& use) {

@@ -28,6 +28,13 @@ inline bool IsVisible() {
     return ::IsWindowVisible(OfThread());
 }
 
+/// Names its mode.
+inline CString Title() {
+    WCHAR szTitle[32] = L"";
+    ::GetWindowText(OfThread(), szTitle, 32);
+    return szTitle;
+}
+
 inline CRect Place() {
     CRect place;
     ::GetWindowRect(OfThread(), place);
@@ -64,8 +71,7 @@ inline void Close() {
 }
 
 /// An entry field that brings up the panel.
-class Field : public CEdit {
-public:
+struct Field : CEdit {
     int m_nMode = 0;
 
 protected:

@@ -13,8 +13,7 @@ constexpr COLORREF WHITE = RGB(255, 255, 255);
 constexpr COLORREF MAGENTA = RGB(255, 0, 255);
 
 /// A copy of the pixels of a window's client area or of a device context.
-class Image {
-public:
+struct Image {
     /// Draws the window before.
     static Image Of(CWnd& wnd) {
         wnd.RedrawWindow();
@@ -78,8 +77,7 @@ private:
 };
 
 /// An icon that is one square of magenta.
-class SquareIcon {
-public:
+struct SquareIcon {
     explicit SquareIcon(int nSize = 16) {
         CBitmap mask; // all 0: nothing shines through
         const std::vector<BYTE> bits(static_cast<size_t>(nSize * nSize), 0);
@@ -91,8 +89,6 @@ public:
         m_hIcon = ::CreateIconIndirect(&info);
     }
     ~SquareIcon() { ::DestroyIcon(m_hIcon); }
-    SquareIcon(const SquareIcon&) = delete;
-    SquareIcon& operator=(const SquareIcon&) = delete;
     operator HICON() const { return m_hIcon; }
 
 private:

@@ -9,8 +9,7 @@
 namespace fx {
 
 /// An active window that knows which notifications its controls let through to it.
-class Stage : public Frame {
-public:
+struct Stage : Frame {
     Stage() : Frame(CSize(220, 180)) {
         SetForegroundWindow();
         Pump();

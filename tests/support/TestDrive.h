@@ -29,8 +29,6 @@ public:
         else
             s_pDrive->Clear(m_bByUnix);
     }
-    TestDrive(const TestDrive&) = delete;
-    TestDrive& operator=(const TestDrive&) = delete;
 
     /// "X:"
     CString Letter() const { return m_strLetter; }
@@ -111,8 +109,7 @@ private:
         WIN32_FIND_DATA entry;
         const HANDLE hFind = ::FindFirstFile(L"\\\\?\\" + strFolder + L"\\*", &entry);
         for (BOOL bMore = hFind != INVALID_HANDLE_VALUE; bMore; bMore = ::FindNextFile(hFind, &entry)) {
-            const CString strName = entry.cFileName;
-            const CString strPath = strFolder + L"\\" + strName;
+            const CString strName = entry.cFileName, strPath = strFolder + L"\\" + strName;
             ::SetFileAttributes(L"\\\\?\\" + strPath, FILE_ATTRIBUTE_NORMAL);
             if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
                 ::DeleteFile(L"\\\\?\\" + strPath);
@@ -177,8 +174,6 @@ private:
                         [this] { return ::GetFileAttributes(strFolder) == INVALID_FILE_ATTRIBUTES; });
             }
         }
-        Drive(const Drive&) = delete;
-        Drive& operator=(const Drive&) = delete;
 
         void Clear(bool bByUnix) const {
             const auto isThere = [this] { return ::GetFileAttributes(strFolder) != INVALID_FILE_ATTRIBUTES; };
@@ -203,8 +198,7 @@ private:
             return CString(chLetter) + L":";
         }
 
-        CString strFolder;
-        CString strLetter;
+        CString strFolder, strLetter;
         std::string unixLink; ///< Under Wine: the link that is the drive.
     };
     static inline std::unique_ptr<Drive> s_pDrive;

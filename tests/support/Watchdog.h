@@ -10,8 +10,7 @@ namespace fx {
 
 /// While it exists, the program is ended by force when the time is over; for tests of what could
 /// go round for ever, where no timer of the window system is any help.
-class Watchdog {
-public:
+struct Watchdog {
     explicit Watchdog(DWORD nSeconds, void (*pfnReport)() = nullptr) : m_pfnReport(pfnReport) {
         m_nMilliseconds = nSeconds * 1000;
         m_hStop = ::CreateEvent(nullptr, FALSE, FALSE, nullptr);
@@ -24,8 +23,6 @@ public:
         ::CloseHandle(m_hThread);
         ::CloseHandle(m_hStop);
     }
-    Watchdog(const Watchdog&) = delete;
-    Watchdog& operator=(const Watchdog&) = delete;
 
     /// The time begins anew.
     void Feed() { ++m_nFed; }
@@ -53,8 +50,7 @@ private:
     DWORD m_nMilliseconds = 0;
     std::atomic<bool> m_bStop = false;
     std::atomic<unsigned> m_nFed = 0;
-    HANDLE m_hStop = nullptr;
-    HANDLE m_hThread = nullptr;
+    HANDLE m_hStop = nullptr, m_hThread = nullptr;
 };
 
 } // namespace fx

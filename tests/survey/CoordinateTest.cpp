@@ -1,6 +1,8 @@
 #include "survey/Coordinate.h"
 
 #include "Tesuvo.h"
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -71,8 +73,7 @@ TEST(Coordinate, AddsAndSubtractsWhatBothHave) {
         {"nothing to add", 3, 0, {10, 20, 5}, {10, 20, 5}},
     };
     for (const auto& row : rows) {
-        const CCoordinate own(20, 10, 5, row.own);
-        const CCoordinate other(2, 1, 1, row.other);
+        const CCoordinate own(20, 10, 5, row.own), other(2, 1, 1, row.other);
         const double exist = row.own;
         EXPECT_EQ((Members{row.sum[0], row.sum[1], row.sum[2], exist}), MembersOf(own + other)) << row.what;
         EXPECT_EQ((Members{row.difference[0], row.difference[1], row.difference[2], exist}),
@@ -83,11 +84,7 @@ TEST(Coordinate, AddsAndSubtractsWhatBothHave) {
 
 TEST(Coordinate, ComparesWhatItHasItself) {
     const double limit = 1e-6;
-    const struct {
-        const char* what;
-        CCoordinate a, b;
-        int equal;
-    } rows[] = {
+    const Rows<const char*, CCoordinate, CCoordinate, int> rows = {
         {"just inside the tolerance", {0, std::nextafter(limit, 0), 0, 1}, {0, 0, 0, 1}, 1},
         {"nearly the same", {7, 8 + 5e-7, 9, 3}, {7, 8, 9, 3}, 1},
         {"northing the tolerance away", {0, limit, 0, 1}, {0, 0, 0, 1}, 0},
@@ -98,36 +95,29 @@ TEST(Coordinate, ComparesWhatItHasItself) {
         {"no flags here", {1, 2, 3, 0}, {4, 5, 6, 3}, 1},
         {"no flags there", {4, 5, 6, 3}, {1, 2, 3, 0}, 1},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.equal, row.a == row.b) << row.what;
-        EXPECT_EQ(!row.equal, row.a != row.b) << row.what;
+    for (const auto& [what, a, b, equal] : rows) {
+        EXPECT_EQ(equal, a == b) << what;
+        EXPECT_EQ(!equal, a != b) << what;
     }
 }
 
 TEST(Coordinate, WritesAsManyDecimalsAsTheDeviceIsSetTo) {
-    const CCoordinate all(-0.05, 1234.5678, 2, 3);
-    const CCoordinate plane(1, 2, 3, 1);
-    const struct {
-        int setting; // a damaged one counts as that of a new device
-        const wchar_t* text;
-    } rows[] = {
+    const CCoordinate all(-0.05, 1234.5678, 2, 3), plane(1, 2, 3, 1);
+    // setting: a damaged one counts as that of a new device
+    const Rows<int, const wchar_t*> rows = {
         {0, L"1234.6/-0.1/2.0"},          {1, L"1234.57/-0.05/2.00"},          {2, L"1234.568/-0.050/2.000"},
         {3, L"1234.5678/-0.0500/2.0000"}, {4, L"1234.56780/-0.05000/2.00000"}, {-1, L"1234.568/-0.050/2.000"},
         {5, L"1234.568/-0.050/2.000"}};
-    for (const auto& row : rows) {
-        StoreDecimals(row.setting);
-        EXPECT_STREQ(row.text, all.GetNString() + L"/" + all.GetEString() + L"/" + all.GetZString());
+    for (const auto& [setting, text] : rows) {
+        StoreDecimals(setting);
+        EXPECT_STREQ(text, all.GetNString() + L"/" + all.GetEString() + L"/" + all.GetZString());
     }
     StoreDecimals(2);
     EXPECT_STREQ(L"", plane.GetZString() + CCoordinate(1, 2, 3, 2).GetNString());
 }
 
 TEST(Coordinate, ExtentGrowsPointByPoint) {
-    const struct {
-        const char* what;
-        std::vector<CCoordinate> points;
-        Members lo, hi;
-    } rows[] = {
+    const Rows<const char*, std::vector<CCoordinate>, Members, Members> rows = {
         // The easting of an empty corner counts as the null value once its northing is set.
         {"positive eastings leave the low one null",
          {{5, 5, 0, 1}, {7, 3, 0, 1}},
@@ -141,13 +131,12 @@ TEST(Coordinate, ExtentGrowsPointByPoint) {
         {"and below", {{1, 1, -4, 2}, {1, 1, -9, 2}}, {kNull, kNull, -9, 2}, {kNull, kNull, -4, 2}},
         {"a northing that is the null value", {{5, kNull, 0, 1}}, {kNull, 5, kNull, 1}, {kNull, 5, kNull, 1}},
     };
-    for (const auto& row : rows) {
-        CCoordinate lo;
-        CCoordinate hi;
-        for (CCoordinate p : row.points)
+    for (const auto& [what, points, low, high] : rows) {
+        CCoordinate lo, hi;
+        for (CCoordinate p : points)
             p.AddExtent(lo, hi);
-        EXPECT_EQ(row.lo, MembersOf(lo)) << row.what;
-        EXPECT_EQ(row.hi, MembersOf(hi)) << row.what;
+        EXPECT_EQ(low, MembersOf(lo)) << what;
+        EXPECT_EQ(high, MembersOf(hi)) << what;
     }
 }
 

@@ -1,6 +1,8 @@
 #include "survey/2DCircle.h"
 #include "survey/2DLine.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -8,9 +10,7 @@
 
 namespace {
 
-constexpr double kPi = 3.141592653589793;
-constexpr double kNotFinite = 1e+32;
-constexpr double kLimit = 1e-05;
+constexpr double kPi = 3.141592653589793, kNotFinite = 1e+32, kLimit = 1e-05;
 const double kMore = std::nextafter(kLimit, 1);
 const double kLess = std::nextafter(kLimit, 0);
 
@@ -27,12 +27,7 @@ Parameters ParametersOf(const C2DLine& line) {
 }
 
 TEST(Line2D, PassesThroughTwoPoints) {
-    const struct {
-        const char* what;
-        CCoordinate p1, p2;
-        int status;
-        Parameters parameters;
-    } rows[] = {
+    const Rows<const char*, CCoordinate, CCoordinate, int, Parameters> rows = {
         {"oblique", At(1, 2), At(4, 9), 0, {-3, 7, 1}},
         {"close in both, which GetStatus calls undefined", At(0, 0), At(5e-6, 5e-6), 1, {-5e-6, 5e-6, 0}},
         {"the limit itself is not negligible here", At(0, 0), At(-1, kLimit), 0, {1, kLimit, 0}},
@@ -44,52 +39,45 @@ TEST(Line2D, PassesThroughTwoPoints) {
         {"a height alone is no point", CCoordinate(5, 4, 0, 2), At(1, 1), 3, {0, 0, 0}},
         {"on either side", At(1, 1), CCoordinate(5, 4, 0, 2), 3, {0, 0, 0}},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, p1, p2, status, parameters] : rows) {
         C2DLine line;
-        EXPECT_EQ(row.status, line.Setup(row.p1, row.p2)) << row.what;
-        EXPECT_EQ(row.parameters, ParametersOf(line)) << row.what;
-        EXPECT_EQ(row.parameters, ParametersOf(C2DLine(row.p1, row.p2))) << row.what;
+        EXPECT_EQ(status, line.Setup(p1, p2)) << what;
+        EXPECT_EQ(parameters, ParametersOf(line)) << what;
+        EXPECT_EQ(parameters, ParametersOf(C2DLine(p1, p2))) << what;
     }
 }
 
 TEST(Line2D, RecognisesFourDirections) {
     const double half = kPi / 2;
-    const struct {
-        double angle;
-        int status;
-    } rows[] = {{kLimit, 1},        {-kLimit, 1},      {kMore, 0},
-                {kPi + 9e-6, 1},    {kPi + 1.1e-5, 0}, {half - 9e-6, 2},
-                {half - 1.1e-5, 0}, {3 * half, 2},     {3 * half + 1.1e-5, 0},
-                {2 * kPi, 0},       {-half, 0},        {0.5, 0}};
-    for (const auto& row : rows) {
+    const Rows<double, int> rows = {{kLimit, 1},        {-kLimit, 1},      {kMore, 0},
+                                    {kPi + 9e-6, 1},    {kPi + 1.1e-5, 0}, {half - 9e-6, 2},
+                                    {half - 1.1e-5, 0}, {3 * half, 2},     {3 * half + 1.1e-5, 0},
+                                    {2 * kPi, 0},       {-half, 0},        {0.5, 0}};
+    for (const auto& [angle, status] : rows) {
         C2DLine line;
-        EXPECT_EQ(row.status, line.Setup(At(7, 3), row.angle)) << row.angle;
-        const double slope = std::tan(half - row.angle);
+        EXPECT_EQ(status, line.Setup(At(7, 3), angle)) << angle;
+        const double slope = std::tan(half - angle);
         const Parameters expected[] = {{slope, -1, -7 + 3 * slope}, {1, 0, 3}, {0, 1, 7}};
-        EXPECT_EQ(expected[row.status], ParametersOf(line)) << row.angle;
+        EXPECT_EQ(expected[status], ParametersOf(line)) << angle;
     }
     EXPECT_DOUBLE_EQ(1, C2DLine(At(0, 0), kPi / 4).GetSlope());
 }
 
 TEST(Line2D, ValuesThatAreNotFiniteHaveANumber) {
-    const struct {
-        double a, b;
-        int status;
-        double slope, interceptN, interceptE;
-    } rows[] = {
+    const Rows<double, double, int, double, double, double> rows = {
         {2, 4, 0, -0.5, 2, 4},
         {2, kLimit, 1, kNotFinite, kNotFinite, 4},
         {kLimit, 4, 2, -kLimit / 4, 2, kNotFinite},
         {kLimit, -kLimit, 3, kNotFinite, kNotFinite, kNotFinite},
         {kMore, -kMore, 0, 1, 8 / -kMore, 8 / kMore},
     };
-    for (const auto& row : rows) {
+    for (const auto& [a, b, status, slope, interceptN, interceptE] : rows) {
         C2DLine line;
-        line = C2DLine(row.a, row.b, 8);
-        EXPECT_EQ(row.status, line.GetStatus());
-        EXPECT_EQ(row.slope, line.GetSlope());
-        EXPECT_EQ(row.interceptN, line.GetInterceptN());
-        EXPECT_EQ(row.interceptE, line.GetInterceptE());
+        line = C2DLine(a, b, 8);
+        EXPECT_EQ(status, line.GetStatus());
+        EXPECT_EQ(slope, line.GetSlope());
+        EXPECT_EQ(interceptN, line.GetInterceptN());
+        EXPECT_EQ(interceptE, line.GetInterceptE());
     }
 }
 

@@ -13,26 +13,22 @@
 
 namespace {
 
-constexpr int IDC_ANGLE = 100;
-constexpr int IDC_OTHER = 101;
+constexpr int IDC_ANGLE = 100, IDC_OTHER = 101;
 constexpr double PI = 3.141592653589793;
 constexpr double INF = std::numeric_limits<double>::infinity();
-constexpr int WHOLE = CAngleEdit::WHOLE_SECONDS;
-constexpr int TENTHS = 0;
+constexpr int WHOLE = CAngleEdit::WHOLE_SECONDS, TENTHS = 0;
 
 double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
     return (dDegrees + dMinutes / 60 + dSeconds / 3600) * PI / 180;
 }
 
-class OpenAngleEdit : public CAngleEdit {
-public:
+struct OpenAngleEdit : CAngleEdit {
     using CAngleEdit::DegToRad;
     using CAngleEdit::RadToDMS;
 };
 
 /// An angle field and another one to go to.
-class AngleStage : public fx::Stage {
-public:
+struct AngleStage : fx::Stage {
     explicit AngleStage(int nMode = WHOLE) {
         CreateItem(IDC_ANGLE, 5);
         CreateItem(IDC_OTHER, 50);
@@ -56,11 +52,7 @@ private:
 // --- What it shows -----------------------------------------------------------------------
 
 TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
-    const struct {
-        double dAngle;
-        LPCTSTR pszWhole;
-        LPCTSTR pszTenths;
-    } rows[] = {
+    const Rows<double, LPCTSTR, LPCTSTR> rows = {
         {0.0, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
         {-0.0, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
         {PI / 2, L"90\uFF9F 0' 00\"", L"90\uFF9F 0' 0\".0"},
@@ -79,46 +71,36 @@ TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
         // One radian, 206264.806 seconds.
         {1.0, L"57\uFF9F 17' 45\"", L"57\uFF9F 17' 44\".8"},
         // The obliquity of the ecliptic of the epoch 2000, 84381.448 seconds.
-        {0.40909280422232897, L"23\uFF9F 26' 21\"", L"23\uFF9F 26' 21\".4"},
-    };
-    AngleStage whole(WHOLE);
-    AngleStage tenths(TENTHS);
-    for (const auto& row : rows) {
-        whole.m_angle.SetAngle(row.dAngle);
-        EXPECT_EQ(whole.Text(), row.pszWhole) << row.dAngle;
-        tenths.m_angle.SetAngle(row.dAngle);
-        EXPECT_EQ(tenths.Text(), row.pszTenths) << row.dAngle;
+        {0.40909280422232897, L"23\uFF9F 26' 21\"", L"23\uFF9F 26' 21\".4"}};
+    AngleStage whole(WHOLE), tenths(TENTHS);
+    for (const auto& [dAngle, pszWhole, pszTenths] : rows) {
+        whole.m_angle.SetAngle(dAngle);
+        EXPECT_EQ(whole.Text(), pszWhole) << dAngle;
+        tenths.m_angle.SetAngle(dAngle);
+        EXPECT_EQ(tenths.Text(), pszTenths) << dAngle;
     }
 }
 
 TEST(AngleEdit, PartsOfAnAngle) {
-    const struct {
-        double dAngle;
-        int nDegree;
-        int nMinute;
-        double dSecond;
-    } rows[] = {
-        {Radians(12, 34, 56.7), 12, 34, 56.7},
-        {Radians(-12, -34, -56.7), -12, 34, 56.7},
-        {Radians(0, 0, 0.04), 0, 0, 0.0},
-        {Radians(0, 0, 0.06), 0, 0, 0.1},
-        {Radians(59652, 19, 24), 59652, 19, 24.0},
-        // Beyond the range: its end, 2147483647 tenths of a second.
-        {Radians(60000), 59652, 19, 24.7},
-        {-1e300, -59652, 19, 24.7},
-        {INF, 0, 0, 0.0},
-        {-INF, 0, 0, 0.0},
-        {std::nan(""), 0, 0, 0.0},
-    };
+    const Rows<double, int, int, double> rows = {{Radians(12, 34, 56.7), 12, 34, 56.7},
+                                                 {Radians(-12, -34, -56.7), -12, 34, 56.7},
+                                                 {Radians(0, 0, 0.04), 0, 0, 0.0},
+                                                 {Radians(0, 0, 0.06), 0, 0, 0.1},
+                                                 {Radians(59652, 19, 24), 59652, 19, 24.0},
+                                                 // Beyond the range: its end, 2147483647 tenths of a second.
+                                                 {Radians(60000), 59652, 19, 24.7},
+                                                 {-1e300, -59652, 19, 24.7},
+                                                 {INF, 0, 0, 0.0},
+                                                 {-INF, 0, 0, 0.0},
+                                                 {std::nan(""), 0, 0, 0.0}};
     OpenAngleEdit field;
-    for (const auto& row : rows) {
-        int nDegree = 0;
-        int nMinute = 0;
+    for (const auto& [dAngle, nWantedDegree, nWantedMinute, dWantedSecond] : rows) {
+        int nDegree = 0, nMinute = 0;
         double dSecond = 0;
-        field.RadToDMS(row.dAngle, &nDegree, &nMinute, &dSecond);
-        EXPECT_EQ(nDegree, row.nDegree) << row.dAngle;
-        EXPECT_EQ(nMinute, row.nMinute) << row.dAngle;
-        EXPECT_DOUBLE_EQ(dSecond, row.dSecond) << row.dAngle;
+        field.RadToDMS(dAngle, &nDegree, &nMinute, &dSecond);
+        EXPECT_EQ(nDegree, nWantedDegree) << dAngle;
+        EXPECT_EQ(nMinute, nWantedMinute) << dAngle;
+        EXPECT_DOUBLE_EQ(dSecond, dWantedSecond) << dAngle;
     }
 }
 
@@ -126,26 +108,23 @@ TEST(AngleEdit, PartsOfAnAngle) {
 
 TEST(AngleEdit, PackedNumberBecomesAnAngle) {
     const struct {
-        double dPacked;
-        double dAngle;
-    } rows[] = {
-        {0.0, 0.0},
-        {12.3456, Radians(12, 34, 56)},
-        {12.34567, Radians(12, 34, 56.7)},
-        {12.3456789, Radians(12, 34, 56.8)},
-        {12.99995, Radians(12, 99, 99.5)}, // 60 and more add up
-        {12.999996, Radians(13)},
-        {-12.3456, -Radians(12, 34, 56)},
-        {-0.3, -Radians(0, 30)},
-        {0.000004, 0.0},
-        {21474.83647, Radians(21474, 83, 64.7)},
-        // Beyond the range: its end.
-        {21475, Radians(21474, 83, 64.7)},
-        {1e300, Radians(21474, 83, 64.7)},
-        {-1.7e308, 0.0}, // infinite on the way
-        {-1e300, -Radians(21474, 83, 64.7)},
-        {std::nan(""), 0.0},
-    };
+        double dPacked, dAngle;
+    } rows[] = {{0.0, 0.0},
+                {12.3456, Radians(12, 34, 56)},
+                {12.34567, Radians(12, 34, 56.7)},
+                {12.3456789, Radians(12, 34, 56.8)},
+                {12.99995, Radians(12, 99, 99.5)}, // 60 and more add up
+                {12.999996, Radians(13)},
+                {-12.3456, -Radians(12, 34, 56)},
+                {-0.3, -Radians(0, 30)},
+                {0.000004, 0.0},
+                {21474.83647, Radians(21474, 83, 64.7)},
+                // Beyond the range: its end.
+                {21475, Radians(21474, 83, 64.7)},
+                {1e300, Radians(21474, 83, 64.7)},
+                {-1.7e308, 0.0}, // infinite on the way
+                {-1e300, -Radians(21474, 83, 64.7)},
+                {std::nan(""), 0.0}};
     OpenAngleEdit field;
     for (const auto& row : rows)
         EXPECT_DOUBLE_EQ(field.DegToRad(row.dPacked), row.dAngle) << row.dPacked;
@@ -154,13 +133,7 @@ TEST(AngleEdit, PackedNumberBecomesAnAngle) {
 // --- When --------------------------------------------------------------------------------
 
 TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
-    const struct {
-        int nMode;
-        double dAngle;
-        LPCTSTR pszEntered;
-        LPCTSTR pszLeft;
-        double dLeft;
-    } rows[] = {
+    const Rows<int, double, LPCTSTR, LPCTSTR, double> rows = {
         {WHOLE, PI / 2, L"90.0000", L"90\uFF9F 0' 00\"", PI / 2},
         {WHOLE, Radians(123, 4, 5), L"123.0405", L"123\uFF9F 4' 05\"", Radians(123, 4, 5)},
         {TENTHS, Radians(123, 4, 5.3), L"123.04053", L"123\uFF9F 4' 5\".3", Radians(123, 4, 5.3)},
@@ -169,17 +142,16 @@ TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
         {WHOLE, Radians(12, 34, 59.6), L"12.3460", L"12\uFF9F 35' 00\"", Radians(12, 35)},
         // -12.5 is edited as -11.70 and comes back as 11 degrees 70 minutes.
         {WHOLE, Radians(-12.5), L"-11.7000", L"-12\uFF9F 10' 00\"", -Radians(12, 10)},
-        {WHOLE, Radians(-0.5), L"0.3000", L"0\uFF9F 30' 00\"", Radians(0.5)},
-    };
-    for (const auto& row : rows) {
-        AngleStage stage(row.nMode);
-        stage.m_angle.SetAngle(row.dAngle);
+        {WHOLE, Radians(-0.5), L"0.3000", L"0\uFF9F 30' 00\"", Radians(0.5)}};
+    for (const auto& [nMode, dAngle, pszEntered, pszLeft, dLeft] : rows) {
+        AngleStage stage(nMode);
+        stage.m_angle.SetAngle(dAngle);
         stage.Enter();
-        EXPECT_EQ(stage.Text(), row.pszEntered);
-        EXPECT_EQ(stage.m_angle.GetAngle(), row.dAngle) << "nothing has been typed yet";
+        EXPECT_EQ(stage.Text(), pszEntered);
+        EXPECT_EQ(stage.m_angle.GetAngle(), dAngle) << "nothing has been typed yet";
         stage.Leave();
-        EXPECT_EQ(stage.Text(), row.pszLeft);
-        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), row.dLeft);
+        EXPECT_EQ(stage.Text(), pszLeft);
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dLeft);
     }
 }
 
@@ -196,10 +168,7 @@ void Copy(const CString& str) {
 }
 
 TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
-    const struct {
-        LPCTSTR pszPasted;
-        double dAngle;
-    } rows[] = {
+    const Rows<LPCTSTR, double> rows = {
         {L"", 0.0},
         {L"north", 0.0},
         {L"12\uFF9F 34' 56\"", 0.0}, // what it shows itself is no number
@@ -213,15 +182,15 @@ TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
         {L"1e305", 0.0}, // infinite once packed
     };
     AngleStage stage;
-    for (const auto& row : rows) {
+    for (const auto& [pszPasted, dAngle] : rows) {
         stage.m_angle.SetAngle(1.0);
         stage.Enter();
-        Copy(row.pszPasted);
+        Copy(pszPasted);
         stage.m_angle.SetSel(0, -1);
         stage.m_angle.Clear();
         stage.m_angle.Paste();
         stage.Leave();
-        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), row.dAngle) << fx::Utf8(row.pszPasted);
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dAngle) << fx::Utf8(pszPasted);
     }
 }
 
@@ -254,8 +223,7 @@ TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
 }
 
 /// A full-screen dialog with two angles, attached when the base class has shown it.
-class AngleDialog : public CnDialog {
-public:
+struct AngleDialog : CnDialog {
     AngleDialog() : CnDialog(0, nullptr) {
         m_template.Edit(IDC_ANGLE).Edit(IDC_OTHER);
         InitModalIndirect(m_template.Get(), nullptr);
@@ -269,8 +237,7 @@ public:
         return TRUE;
     }
 
-    CAngleEdit m_first;
-    CAngleEdit m_second;
+    CAngleEdit m_first, m_second;
 
 private:
     fx::DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};

@@ -1,5 +1,7 @@
 #include "util/AsciiFile.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -11,8 +13,7 @@ namespace {
 const CString PATH = L"ascii_file_test.txt";
 
 /// A file that is removed again afterwards.
-class AsciiFile : public testing::Test {
-protected:
+struct AsciiFile : testing::Test {
     ~AsciiFile() override { std::remove("ascii_file_test.txt"); }
 };
 
@@ -51,10 +52,7 @@ TEST_F(AsciiFile, LinesEndWithCrAndComeWithoutBlanksAndControls) {
 }
 
 TEST_F(AsciiFile, WritesLinesInTheOemCodePage) {
-    const struct {
-        CString text;
-        std::string bytes;
-    } rows[] = {
+    const Rows<CString, std::string> rows = {
         {L"", "\r\n"},
         {L"A B\tC", "A B\tC\r\n"},
 #ifdef _WIN32
@@ -66,14 +64,14 @@ TEST_F(AsciiFile, WritesLinesInTheOemCodePage) {
         {CString(L'z', 511), std::string(511, 'z') + "\r\n"},
         {CString(L'z', 512), "\r\n"}, // no room for the terminator: an empty line
     };
-    for (const auto& row : rows) {
+    for (const auto& [line, content] : rows) {
         CAsciiFile file;
         ASSERT_TRUE(file.Open(PATH, CFile::modeCreate | CFile::modeReadWrite));
-        file.WriteString(row.text);
+        file.WriteString(line);
         std::string bytes(static_cast<size_t>(file.GetLength()), '\0');
         file.SeekToBegin();
         file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-        EXPECT_EQ(row.bytes, bytes);
+        EXPECT_EQ(content, bytes);
     }
 }
 

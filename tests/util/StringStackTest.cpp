@@ -25,12 +25,8 @@ Texts TextsOf(CStringStack& stack) {
 }
 
 TEST(StringStack, KeepsTheMostRecentTextsOfEachKey) {
-    struct Row {
-        const char* what;
-        int mode, capacity;
-        Texts steps, texts; // +A adds A at the head, -A at the tail
-    };
-    const Row rows[] = {
+    // texts: +A adds A at the head, -A at the tail
+    const Rows<const char*, int, int, Texts, Texts> rows = {
         {"the oldest falls off", 0, 3, {L"+A", L"+B", L"+C", L"+D"}, {L"D", L"C", L"B"}},
         {"a repeated one costs no other", 0, 3, {L"+A", L"+B", L"+C", L"+B"}, {L"B", L"C", L"A"}},
         {"empty", 0, 3, {L"+", L"-", L"+A", L"+"}, {L"A"}},
@@ -44,17 +40,16 @@ TEST(StringStack, KeepsTheMostRecentTextsOfEachKey) {
         {"tail on a full list", 0, 3, {L"+A", L"+B", L"+C", L"-D"}, {L"C", L"B", L"D"}},
         {"negative capacity", 1, -2147483647 - 1, {L"-A1", L"+A2", L"+B"}, {L"B"}},
     };
-    for (const Row& row : rows) {
-        CStringStack stack(row.mode, row.capacity);
-        for (const CString& step : row.steps)
+    for (const auto& [what, mode, capacity, steps, texts] : rows) {
+        CStringStack stack(mode, capacity);
+        for (const CString& step : steps)
             stack.Add(step.Mid(1), step[0] == L'-' ? 1 : 0);
-        EXPECT_EQ(row.texts, TextsOf(stack)) << row.what;
+        EXPECT_EQ(texts, TextsOf(stack)) << what;
     }
 }
 
 TEST(StringStack, SplitsANameBeforeTheNumberAtItsEnd) {
-    class Open : public CStringStack {
-    public:
+    struct Open : CStringStack {
         using CStringStack::SeparateHeaderToParam;
     } stack;
     for (const auto& [text, header, param] : {std::array{L"A1B0:9", L"A1B0:", L"9"},
@@ -76,8 +71,7 @@ const std::string TEXT_A =
 const std::string TEXT_B = "01 00 00 00 ff fe ff 01 42 00 00 00 00 00 14 00 00 00 ";
 
 TEST(StringStack, IsStoredAndLoadedAsAnObject) {
-    CStringStack a(1, 300);
-    CStringStack b;
+    CStringStack a(1, 300), b;
     a.Add(L"A", 0);
     b.Add(L"B", 0);
     const auto store = [&](CArchive& ar) { ar << &a << &b << &a; };
@@ -97,19 +91,16 @@ TEST(StringStack, IsStoredAndLoadedAsAnObject) {
 }
 
 TEST(StringStack, LoadingReplacesAndStopsAtDamage) {
-    const struct {
-        std::string hex;
-        int cause;
-        Texts texts;
-    } rows[] = {{TEXT_A, CArchiveException::none, {L"A"}},
-                {"00 00 00 00 00 00 00 00 14 00 00 00", CArchiveException::none, {}},
-                {"ff ff ff ff", CArchiveException::badIndex, {}},
-                {"ff ff ff 7f ff fe ff 01 41 00", CArchiveException::endOfFile, {L"A"}}};
-    for (const auto& row : rows) {
+    const Rows<std::string, int, Texts> rows = {
+        {TEXT_A, CArchiveException::none, {L"A"}},
+        {"00 00 00 00 00 00 00 00 14 00 00 00", CArchiveException::none, {}},
+        {"ff ff ff ff", CArchiveException::badIndex, {}},
+        {"ff ff ff 7f ff fe ff 01 41 00", CArchiveException::endOfFile, {L"A"}}};
+    for (const auto& [hex, cause, texts] : rows) {
         CStringStack stack;
         stack.Add(L"old", 0);
-        EXPECT_EQ(row.cause, Loaded(FromHex(row.hex), [&](CArchive& ar) { stack.Serialize(ar); })) << row.hex;
-        EXPECT_EQ(row.texts, TextsOf(stack)) << row.hex;
+        EXPECT_EQ(cause, Loaded(FromHex(hex), [&](CArchive& ar) { stack.Serialize(ar); })) << hex;
+        EXPECT_EQ(texts, TextsOf(stack)) << hex;
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "TestFile.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -46,20 +48,15 @@ TEST(ChangeLog, RecordIsReadUpToTheFirstLineThatIsNotWhole) {
 }
 
 TEST(ChangeLog, ChangesThatTheFileHasAreNotRepeated) {
-    const struct {
-        std::uint64_t nHash;
-        bool bFits;
-        size_t nFirst;
-    } cases[] = {{1, true, 0}, {2, true, 2}, {3, false, 0}};
-    for (const auto& c : cases) {
+    const Rows<std::uint64_t, bool, size_t> cases = {{1, true, 0}, {2, true, 2}, {3, false, 0}};
+    for (const auto& [nHash, bFits, nWanted] : cases) {
         size_t nFirst = 9;
-        EXPECT_EQ(ReadChanges(Record()).FitsTo(c.nHash, nFirst), c.bFits);
-        EXPECT_EQ(nFirst, c.nFirst);
+        EXPECT_EQ(ReadChanges(Record()).FitsTo(nHash, nFirst), bFits);
+        EXPECT_EQ(nFirst, nWanted);
     }
 }
 
-class ChangeFile : public testing::Test {
-protected:
+struct ChangeFile : testing::Test {
     void SetUp() override {
         ::CreateDirectory(L"own", nullptr);
         Restart();
@@ -86,8 +83,7 @@ protected:
         return strNames;
     }
 
-    const CTestFile m_points{L"fieldbook-changes.csv", ""};
-    const CTestFile m_record{L"fieldbook-changes.csv.changes"};
+    const CTestFile m_points{L"fieldbook-changes.csv", ""}, m_record{L"fieldbook-changes.csv.changes"};
     std::unique_ptr<CChangeFile> m_pFile;
 };
 
@@ -124,8 +120,7 @@ TEST_F(ChangeFile, RecordGoesOnInTheOwnFolderIfItMust) {
 
 TEST_F(ChangeFile, OneProgramAloneHasTheRecord) {
     CChangeFile other(L"own");
-    EXPECT_FALSE(other.IsFree(L".\\fieldbook-CHANGES.csv"));
-    EXPECT_FALSE(other.Claim(m_points.GetPath()));
+    EXPECT_TRUE(!other.IsFree(L".\\fieldbook-CHANGES.csv") && !other.Claim(m_points.GetPath()));
     EXPECT_TRUE(m_pFile->IsFree(m_points.GetPath()));
     EXPECT_TRUE(m_pFile->Claim(m_points.GetPath())) << "one's own, once more";
     m_pFile.reset();

@@ -5,6 +5,8 @@
 #include "points/PointFile.h"
 #include "geometry/Vector.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -19,8 +21,7 @@ namespace {
 constexpr double QUARTER = 3.14159265358979323846 / 2; // of a turn
 
 /// On the shipped points, which are laid out for round results; see data/README.md.
-class Compute : public testing::Test {
-protected:
+struct Compute : testing::Test {
     void SetUp() override {
         CVector::SetTolerance(1e-6);
         ReadPoints(DecodeText(ReadWholeFile(CString(FIELDBOOK_DATA) + L"/points.csv")), m_book);
@@ -62,8 +63,7 @@ TEST_F(Compute, DiagonalsOfTheLotMeetInItsMiddle) {
 }
 
 TEST_F(Compute, LinesWithoutASinglePointAreTold) {
-    const CCoordinate k1 = Point(L"K1");
-    const CCoordinate k2 = Point(L"K2");
+    const CCoordinate k1 = Point(L"K1"), k2 = Point(L"K2");
     ExpectNone(IntersectLines(k1, k2, k2, k1), Verdict::Parallel);
     ExpectNone(IntersectLines(k1, k1, k2, Point(L"K3")), Verdict::SamePoint);
     // Running north: their slopes differ by a lot, their directions do not.
@@ -71,9 +71,7 @@ TEST_F(Compute, LinesWithoutASinglePointAreTold) {
 }
 
 TEST_F(Compute, WallMeetsTheCurveInItsEnd) {
-    const CCoordinate w1 = Point(L"W1");
-    const CCoordinate w2 = Point(L"W2");
-    const CCoordinate centre = Point(L"CC1");
+    const CCoordinate w1 = Point(L"W1"), w2 = Point(L"W2"), centre = Point(L"CC1");
     ExpectPoints(IntersectLineCircle(w1, w2, centre, 30), {Point(L"EC"), At(-35240, 13210)});
     ExpectNone(IntersectLineCircle(w1, w2, centre, 13), Verdict::LineMisses);
     ExpectNone(IntersectLineCircle(w1, w1, centre, 30), Verdict::SamePoint);
@@ -91,22 +89,16 @@ TEST_F(Compute, DistancesFromTwoTraversePointsGiveTheStones) {
 
 TEST_F(Compute, CirclesAreScreened) {
     const CCoordinate c = At(-35300, 13200);
-    const struct {
-        const char* pszCase;
-        CCoordinate centre;
-        double dRadius1;
-        double dRadius2;
-        Verdict verdict;
-    } cases[] = {
+    const Rows<const char*, CCoordinate, double, double, Verdict> cases = {
         {"apart", At(-35300, 13270), 40, 29, Verdict::Apart},
         {"second inside first", At(-35300, 13205), 40, 30, Verdict::Inside},
         {"first inside second", At(-35300, 13205), 30, 40, Verdict::Inside},
         {"concentric", c, 40, 30, Verdict::Inside},
         {"identical", c, 40, 40, Verdict::SameCircle},
     };
-    for (const auto& example : cases) {
-        SCOPED_TRACE(example.pszCase);
-        ExpectNone(IntersectCircles(c, example.dRadius1, example.centre, example.dRadius2), example.verdict);
+    for (const auto& [pszCase, centre, dRadius1, dRadius2, verdict] : cases) {
+        SCOPED_TRACE(pszCase);
+        ExpectNone(IntersectCircles(c, dRadius1, centre, dRadius2), verdict);
     }
     ExpectPoints(IntersectCircles(c, 40, At(-35300, 13270), 30), {At(-35300, 13240)});
     ExpectPoints(IntersectCircles(c, 40, At(-35300, 13210), 30), {At(-35300, 13240)});
@@ -115,8 +107,7 @@ TEST_F(Compute, CirclesAreScreened) {
 TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
     double dQuarter = 0;
     ASSERT_EQ(ParsePackedAngle(L"90.0000", dQuarter), AngleFault::None);
-    const CCoordinate bc = Point(L"BC");
-    const CCoordinate ec = Point(L"EC");
+    const CCoordinate bc = Point(L"BC"), ec = Point(L"EC");
     const CResult result = FindArcCentre(bc, ec, dQuarter);
     ExpectPoints(result, {Point(L"CC1")});
     EXPECT_NEAR(Distance(result.points.at(0), bc), 30, 1e-6);
@@ -132,9 +123,7 @@ TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
 }
 
 TEST_F(Compute, TangentsOfTheCurveMeetInItsCorner) {
-    const CCoordinate bc = Point(L"BC");
-    const CCoordinate ec = Point(L"EC");
-    const CCoordinate centre = Point(L"CC1");
+    const CCoordinate bc = Point(L"BC"), ec = Point(L"EC"), centre = Point(L"CC1");
     ExpectPoints(FindTangentCorners(bc, centre, ec), {Point(L"IP1")});
 
     // The other way round it is three quarters of a circle: two corners, both at the same
@@ -196,9 +185,7 @@ TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
 }
 
 TEST_F(Compute, CurveOfTheRoad) {
-    const CCoordinate bc = Point(L"BC");
-    const CCoordinate ec = Point(L"EC");
-    const CCoordinate centre = Point(L"CC1");
+    const CCoordinate bc = Point(L"BC"), ec = Point(L"EC"), centre = Point(L"CC1");
     CCurve curve{};
     ASSERT_EQ(FindCurve(bc, centre, ec, curve), Verdict::Found);
     EXPECT_NEAR(curve.dRadius, 30, 1e-9);
@@ -226,8 +213,7 @@ TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
             named.push_back({L"P", point});
         return FindExtent(named, lo, hi);
     };
-    CCoordinate lo = At(7, 7);
-    CCoordinate hi = At(8, 8);
+    CCoordinate lo = At(7, 7), hi = At(8, 8);
     EXPECT_FALSE(Found({}, lo, hi));
     EXPECT_FALSE(Found({north, height}, lo, hi));
     EXPECT_EQ(lo.GetN(), 7);
@@ -242,13 +228,11 @@ TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
     EXPECT_EQ(hi.GetZ(), 5);
 
     ASSERT_TRUE(Found({At(3, 4)}, lo, hi));
-    EXPECT_TRUE(lo.GetN() == 3 && hi.GetE() == 4);
-    EXPECT_FALSE(lo.IsExistZ());
+    EXPECT_TRUE(lo.GetN() == 3 && hi.GetE() == 4 && !lo.IsExistZ());
 }
 
 TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
-    const CCoordinate p = At(1, 2);
-    const CCoordinate q = At(3, 4);
+    const CCoordinate p = At(1, 2), q = At(3, 4);
     CCoordinate half;
     half.SetN(5);
     for (const CCoordinate& none : {half, CCoordinate()}) {

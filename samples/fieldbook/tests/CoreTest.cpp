@@ -2,6 +2,8 @@
 #include "screens/JournalGroups.h"
 #include "points/PointOrder.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -9,11 +11,7 @@ namespace {
 constexpr double RADIANS = 3.14159265358979323846 / 180;
 
 TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
-    const struct {
-        double dDegrees;
-        bool bTenths;
-        const wchar_t* pszText;
-    } cases[] = {
+    const Rows<double, bool, const wchar_t*> cases = {
         {0, false, L"0°00'00\""},
         {53.1301, false, L"53°07'48\""},
         {53 + 7 / 60.0 + 48.4 / 3600, true, L"53°07'48.4\""},
@@ -21,10 +19,9 @@ TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
         {12 + 59 / 60.0 + 59.96 / 3600, true, L"13°00'00.0\""},
         {359.99999, false, L"0°00'00\""},
         {-0.5, false, L"359°30'00\""},
-        {725.25, true, L"5°15'00.0\""},
-    };
-    for (const auto& c : cases)
-        EXPECT_TRUE(DirectionText(c.dDegrees * RADIANS, c.bTenths) == c.pszText) << c.dDegrees;
+        {725.25, true, L"5°15'00.0\""}};
+    for (const auto& [dDegrees, bTenths, pszText] : cases)
+        EXPECT_TRUE(DirectionText(dDegrees * RADIANS, bTenths) == pszText) << dDegrees;
 }
 
 TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
@@ -38,19 +35,14 @@ TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
 }
 
 TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {
-    const struct {
-        const wchar_t* pszLine;
-        const wchar_t* pszItem;
-        const wchar_t* pszValue;
-    } cases[] = {
+    const Rows<const wchar_t*, const wchar_t*, const wchar_t*> cases = {
         {L"  N  -35300.000", L"N", L"-35300.000"},
         {L"始点の半径  30.000", L"始点の半径", L"30.000"},
         {L"注意: 半径が一致しません", L"注意: 半径が一致しません", L""},
-        {L"", L"", L""},
-    };
-    for (const auto& c : cases) {
-        const auto [strItem, strValue] = SplitLine(c.pszLine);
-        EXPECT_TRUE(strItem == c.pszItem && strValue == c.pszValue);
+        {L"", L"", L""}};
+    for (const auto& [pszLine, pszItem, pszValue] : cases) {
+        const auto [strItem, strValue] = SplitLine(pszLine);
+        EXPECT_TRUE(strItem == pszItem && strValue == pszValue);
     }
 }
 
@@ -62,18 +54,13 @@ TEST(PointOrder, EachColumnSortsBothWaysAndWhatIsMissingComesLast) {
         {L"K1", CCoordinate(2, 2, -4, 3), L"A"},
         {L"BM", CCoordinate(0, 0, 5, 2)}, // a height alone
     };
-    const struct {
-        PointColumn column;
-        bool bTurned;
-        std::vector<size_t> order;
-    } cases[] = {
+    const Rows<PointColumn, bool, std::vector<size_t>> cases = {
         {PointColumn::Name, false, {3, 2, 1, 0}}, {PointColumn::Name, true, {0, 1, 2, 3}},
         {PointColumn::N, false, {0, 1, 2, 3}}, // those that are alike stay as they were
         {PointColumn::N, true, {1, 2, 0, 3}},     {PointColumn::E, false, {1, 2, 0, 3}},
-        {PointColumn::Z, false, {2, 3, 1, 0}},    {PointColumn::Code, true, {1, 2, 0, 3}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(OrderPoints(points, c.column, c.bTurned), c.order) << static_cast<int>(c.column);
+        {PointColumn::Z, false, {2, 3, 1, 0}},    {PointColumn::Code, true, {1, 2, 0, 3}}};
+    for (const auto& [column, bTurned, order] : cases)
+        EXPECT_EQ(OrderPoints(points, column, bTurned), order) << static_cast<int>(column);
 }
 
 TEST(PointOrder, NumbersInNamesCount) {
@@ -82,19 +69,15 @@ TEST(PointOrder, NumbersInNamesCount) {
     for (size_t i = 0; i < std::size(names); ++i)
         for (size_t j = 0; j < std::size(names); ++j)
             EXPECT_EQ(IsNameBefore(names[i], names[j]), i < j) << i << ' ' << j;
-    EXPECT_FALSE(IsNameBefore(L"K02", L"K2"));
-    EXPECT_TRUE(IsNameBefore(L"K002", L"K3"));
+    EXPECT_TRUE(!IsNameBefore(L"K02", L"K2") && IsNameBefore(L"K002", L"K3"));
 }
 
 TEST(LengthText, HasTheDecimalsAndNoSignOfNothing) {
-    const struct {
-        double dMetres;
-        int nDecimals;
-        const wchar_t* pszText;
-    } cases[] = {{-0.0004, 3, L"0.000"}, {-0.0006, 3, L"-0.001"}, {12.5, 1, L"12.5"},
-                 {-10, 2, L"-10.00"},    {0, 5, L"0.00000"},      {fieldkit::survey::kNull, 3, L""}};
-    for (const auto& c : cases)
-        EXPECT_TRUE(LengthText(c.dMetres, c.nDecimals) == c.pszText) << c.dMetres;
+    const Rows<double, int, const wchar_t*> cases = {
+        {-0.0004, 3, L"0.000"}, {-0.0006, 3, L"-0.001"}, {12.5, 1, L"12.5"},
+        {-10, 2, L"-10.00"},    {0, 5, L"0.00000"},      {fieldkit::survey::kNull, 3, L""}};
+    for (const auto& [dMetres, nDecimals, pszText] : cases)
+        EXPECT_TRUE(LengthText(dMetres, nDecimals) == pszText) << dMetres;
 }
 
 } // namespace

@@ -17,8 +17,7 @@ CCoordinate At(double dN, double dE) {
 }
 
 void ExpectExtent(const CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
-    CCoordinate foundLo;
-    CCoordinate foundHi;
+    CCoordinate foundLo, foundHi;
     ASSERT_TRUE(drawing.GetExtent(foundLo, foundHi));
     EXPECT_NEAR(foundLo.GetN(), lo.GetN(), 1e-6);
     EXPECT_NEAR(foundLo.GetE(), lo.GetE(), 1e-6);
@@ -43,8 +42,7 @@ TEST(Drawing, LeavesOutWhatCannotBeDrawn) {
         drawing.AddCircle(At(0, 0), dRadius, Role::Given);
     drawing.AddArc(At(5, 5), At(5, 5), At(5, 5), Role::Given);
     EXPECT_TRUE(drawing.IsEmpty());
-    CCoordinate lo;
-    CCoordinate hi;
+    CCoordinate lo, hi;
     EXPECT_FALSE(drawing.GetExtent(lo, hi));
 }
 
@@ -61,9 +59,7 @@ TEST(Drawing, ExtentHoldsPointsLinesAndCircles) {
 }
 
 TEST(Drawing, ArcTurnsLeftFromStartToEnd) {
-    const CCoordinate centre = At(100, 200);
-    const CCoordinate east = At(100, 230);
-    const CCoordinate north = At(130, 200);
+    const CCoordinate centre = At(100, 200), east = At(100, 230), north = At(130, 200);
     CDrawing quarter;
     quarter.AddArc(east, centre, north, Role::Given);
     ASSERT_EQ(quarter.GetArcs().size(), 1U);

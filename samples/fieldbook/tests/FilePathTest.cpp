@@ -1,5 +1,7 @@
 #include "points/FilePath.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -23,23 +25,17 @@ TEST(FilePath, OneFileIsKnownByEachOfItsPaths) {
     const CString strFull = PathIn(szCurrent, L"Points.csv");
     EXPECT_TRUE(IsSamePath(strFull, L"points.csv"));
     EXPECT_TRUE(IsSamePath(strFull.Mid(2), L".\\day\\..\\points.csv"));
-    EXPECT_FALSE(IsSamePath(strFull, L"points1.csv"));
-    EXPECT_TRUE(PathIn(L"\\", L"points.csv") == L"\\points.csv");
+    EXPECT_TRUE(!IsSamePath(strFull, L"points1.csv") && PathIn(L"\\", L"points.csv") == L"\\points.csv");
 }
 
 TEST(FilePath, NamesComeWithAndWithoutTheirExtension) {
-    const struct {
-        const wchar_t* pszPath;
-        const wchar_t* pszName;
-        const wchar_t* pszTitle;
-    } cases[] = {
+    const Rows<const wchar_t*, const wchar_t*, const wchar_t*> cases = {
         {L"\\job\\points.csv", L"points.csv", L"points"},
         {L"C:\\job.7\\points", L"points", L"points"},
         {L"現場.1.csv", L"現場.1.csv", L"現場.1"},
     };
-    for (const auto& c : cases) {
-        EXPECT_TRUE(FileNameOf(c.pszPath) == c.pszName);
-        EXPECT_TRUE(TitleOf(c.pszPath) == c.pszTitle);
+    for (const auto& [pszPath, pszName, pszTitle] : cases) {
+        EXPECT_TRUE(FileNameOf(pszPath) == pszName && TitleOf(pszPath) == pszTitle);
     }
 }
 

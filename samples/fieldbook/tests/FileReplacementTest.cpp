@@ -25,8 +25,7 @@ void WriteNew(CFile& file) {
     file.Write("new\r\n", 5);
 }
 
-class FileReplacement : public testing::Test {
-protected:
+struct FileReplacement : testing::Test {
     void ExpectOldFileAlone() const {
         EXPECT_EQ(m_file.Read(), OLD);
         EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
@@ -91,8 +90,7 @@ TEST_F(FileReplacement, BackupHoldsTheFileByteForByte) {
     const CTestFile backup(m_file.GetPath() + L".bak", "older");
     ASSERT_TRUE(KeepBackup(m_file.GetPath()));
     EXPECT_EQ(backup.Read(), OLD);
-    EXPECT_FALSE(KeepBackup(L"no such file.csv"));
-    EXPECT_FALSE(CTestFile::Exists(L"no such file.csv.bak"));
+    EXPECT_TRUE(!KeepBackup(L"no such file.csv") && !CTestFile::Exists(L"no such file.csv.bak"));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "points/CodePage.h"
 #include "points/FileText.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 using namespace std::string_literals;
@@ -8,13 +10,7 @@ using namespace std::string_literals;
 namespace {
 
 TEST(FileText, EveryFormIsRecognisedAndWrittenAgain) {
-    const struct {
-        const char* pszCase;
-        std::string bytes;
-        Encoding encoding;
-        LineEnd lineEnd;
-        CString strFirst;
-    } cases[] = {
+    const Rows<const char*, std::string, Encoding, LineEnd, CString> cases = {
         {"nothing but ASCII", "P1\r\nP2\r\n", Encoding::Oem, LineEnd::CrLf, L"P1"},
         {"code page 932", "\x8b\xab\x8a\x45\x31\r\n", Encoding::Oem, LineEnd::CrLf, L"境界1"},
         {"a trail byte like a backslash", "\x83\x5c\n", Encoding::Oem, LineEnd::Lf, L"ソ"},
@@ -25,55 +21,43 @@ TEST(FileText, EveryFormIsRecognisedAndWrittenAgain) {
         {"UTF-16", "\xff\xfeP\0\x4e\x57\r\0\n\0"s, Encoding::Utf16Le, LineEnd::CrLf, L"P\x574e"},
         {"UTF-16 from the other end", "\xfe\xff\xd8\x42\xdf\xb7\0\n"s, Encoding::Utf16Be, LineEnd::Lf,
          L"\U00020BB7"},
-        {"empty", "", Encoding::Oem, LineEnd::CrLf, L""},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszCase);
-        const CFileText text = DecodeText(c.bytes);
+        {"empty", "", Encoding::Oem, LineEnd::CrLf, L""}};
+    for (const auto& [pszCase, bytes, encoding, lineEnd, strFirst] : cases) {
+        SCOPED_TRACE(pszCase);
+        const CFileText text = DecodeText(bytes);
         EXPECT_TRUE(text.unreadable.empty());
-        EXPECT_EQ(text.form.encoding, c.encoding);
-        EXPECT_EQ(text.form.lineEnd, c.lineEnd);
-        EXPECT_TRUE((text.lines.empty() ? CString() : text.lines.front()) == c.strFirst);
+        EXPECT_EQ(text.form.encoding, encoding);
+        EXPECT_EQ(text.form.lineEnd, lineEnd);
+        EXPECT_TRUE((text.lines.empty() ? CString() : text.lines.front()) == strFirst);
         CTextEncoder encoder(text.form);
         for (const CString& strLine : text.lines)
             EXPECT_TRUE(encoder.Add(strLine));
-        EXPECT_EQ(encoder.GetBytes(), c.bytes);
+        EXPECT_EQ(encoder.GetBytes(), bytes);
     }
 }
 
 TEST(FileText, BytesThatAreNoTextAreToldByTheirLines) {
-    const struct {
-        const char* pszCase;
-        std::string bytes;
-        std::vector<int> lines;
-    } cases[] = {
+    const Rows<const char*, std::string, std::vector<int>> cases = {
         {"half a character of either", "P\r\n\x83\r\nQ\r\n\xe6\r\n", {2, 4}},
         {"a picture", "\x89PNG\r\n\x1a\n\0\0\0\rIHDR"s, {3}},
         {"UTF-8 with mark and a wrong byte", "\xef\xbb\xbfP\n\xc0\xaf\n", {2}},
         {"half a unit of UTF-16", "\xff\xfeP", {1}},
-        {"half a pair of UTF-16", "\xff\xfe\x42\xd8\r\0\n\0"s, {1}},
-    };
-    for (const auto& c : cases) {
-        const CFileText text = DecodeText(c.bytes);
-        EXPECT_EQ(text.unreadable, c.lines) << c.pszCase;
-        EXPECT_TRUE(text.lines.empty()) << c.pszCase;
+        {"half a pair of UTF-16", "\xff\xfe\x42\xd8\r\0\n\0"s, {1}}};
+    for (const auto& [pszCase, bytes, lines] : cases) {
+        const CFileText text = DecodeText(bytes);
+        EXPECT_EQ(text.unreadable, lines) << pszCase;
+        EXPECT_TRUE(text.lines.empty()) << pszCase;
     }
 }
 
 TEST(FileText, WhatACodePageCannotHoldIsRefusedOrSpelled) {
-    const struct {
-        CString strText;
-        bool bFits;
-        CString strSpelled;
-    } cases[] = {
+    const Rows<CString, bool, CString> cases = {
         {L"境界1", true, L"境界1"},
         {L"Ä1", false, L"<U+00C4>1"}, // would come back as A1, or as a question mark
-        {L"\U00020BB7野", false, L"<U+20BB7>野"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(CanEncode(c.strText, Encoding::Oem), c.bFits);
-        EXPECT_TRUE(CanEncode(c.strText, Encoding::Utf16Le));
-        EXPECT_TRUE(SpellForOem(c.strText) == c.strSpelled);
+        {L"\U00020BB7野", false, L"<U+20BB7>野"}};
+    for (const auto& [strText, bFits, strSpelled] : cases) {
+        EXPECT_EQ(CanEncode(strText, Encoding::Oem), bFits);
+        EXPECT_TRUE(CanEncode(strText, Encoding::Utf16Le) && SpellForOem(strText) == strSpelled);
     }
 }
 

@@ -24,8 +24,7 @@ std::string ArchiveOfAList(const CTestFile& file) {
     return file.Read();
 }
 
-class History : public testing::Test {
-protected:
+struct History : testing::Test {
     const CTestFile m_file{L"fieldbook-history.dat"};
 };
 

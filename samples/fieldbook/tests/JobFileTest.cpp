@@ -11,6 +11,8 @@
 #include "screens/PointListDlg.h"
 #include "screens/Resource.h"
 
+#include <sstream>
+
 namespace {
 
 constexpr char FILE_OF_OURS[] = "name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\nB,4.000000,5.000000,\r\n";
@@ -69,8 +71,7 @@ fx::Step Close(CDialog& dialog) {
     return [&dialog] { dialog.PostMessage(WM_CLOSE); };
 }
 
-class JobFile : public testing::Test {
-protected:
+struct JobFile : testing::Test {
     void SetUp() override { m_parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0); }
     void TearDown() override {
         GiveUpChanges(*m_pJob);
@@ -97,12 +98,11 @@ protected:
 };
 
 TEST_F(JobFile, FirstSaveKeepsWhatSomethingElseHasWritten) {
+    // Lists of initialisers live as long as the members of a struct, but not in Rows.
     const struct {
-        const char* pszFile;
-        const char* pszSaved;
+        const char *pszFile, *pszSaved;
         bool bBackup;
-        std::initializer_list<fx::Step> opening;
-        std::initializer_list<fx::Step> saving;
+        std::initializer_list<fx::Step> opening, saving;
     } cases[] = {
         {FILE_OF_OURS, FILE_OF_OURS, false, {}, {}},
         {FILE_OF_OTHERS, "\xE7\x82\xB9;N;E\nA;1.000000;2.000000\n", true, {}, {}},
@@ -112,14 +112,14 @@ TEST_F(JobFile, FirstSaveKeepsWhatSomethingElseHasWritten) {
          {Answer(IDOK)},
          {Answer(IDOK)}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszFile);
-        m_file.Write(c.pszFile);
-        ASSERT_TRUE(Open(c.opening));
-        ASSERT_TRUE(Save(c.saving));
-        EXPECT_EQ(m_file.Read(), c.pszSaved);
-        EXPECT_EQ(HasBackup(), c.bBackup);
-        EXPECT_TRUE(!c.bBackup || CTestFile::ReadFrom(m_file.GetPath() + L".bak") == c.pszFile);
+    for (const auto& [pszFile, pszSaved, bBackup, opening, saving] : cases) {
+        SCOPED_TRACE(pszFile);
+        m_file.Write(pszFile);
+        ASSERT_TRUE(Open(opening));
+        ASSERT_TRUE(Save(saving));
+        EXPECT_EQ(m_file.Read(), pszSaved);
+        EXPECT_EQ(HasBackup(), bBackup);
+        EXPECT_TRUE(!bBackup || CTestFile::ReadFrom(m_file.GetPath() + L".bak") == pszFile);
         ::DeleteFile(m_file.GetPath() + L".bak");
         EXPECT_TRUE(Save());
         EXPECT_FALSE(HasBackup()) << "it is ours now";
@@ -133,8 +133,7 @@ TEST_F(JobFile, FileThatWasChangedOutsideIsAskedAbout) {
     m_file.Write(FILE_OF_OTHERS);
     EXPECT_FALSE(Save({Keys({VK_RETURN})})) << "Enter loses nothing";
     EXPECT_EQ(m_file.Read(), FILE_OF_OTHERS);
-    EXPECT_TRUE(m_pJob->book.IsModified());
-    EXPECT_TRUE(Save({Answer(IDYES)}));
+    EXPECT_TRUE(m_pJob->book.IsModified() && Save({Answer(IDYES)}));
     EXPECT_EQ(m_file.Read(), "name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\n");
     EXPECT_TRUE(HasBackup());
 }
@@ -198,70 +197,48 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
 
+/// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "++" with two quick taps, "x"
+/// closes, "yes" answers.
+fx::Step Action(CPointEntryDlg& dialog, const std::string& action) {
+    if (action == "N" || action == "E")
+        return Tap(dialog, action == "N" ? IDC_N : IDC_E);
+    if (action == "x")
+        return Close(dialog);
+    if (action == "yes")
+        return Answer(IDYES);
+    return [&dialog, action] {
+        for (const char ch : action)
+            if (ch == '+')
+                pen::Tap(*dialog.GetDlgItem(IDC_ADD));
+            else
+                pen::TypeKeys({static_cast<WORD>(ch == '!' ? VK_RETURN : ch)});
+    };
+}
+
 TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
-    struct Case {
-        const char* pszCase;
-        std::vector<fx::Step> (*steps)(CPointEntryDlg&);
-        const char* pszPoints; ///< As a file without heading.
-    };
-    const Case cases[] = {
-        {"Enter goes on and stores from the last field",
-         [](CPointEntryDlg& d) -> std::vector<fx::Step> {
-             return {Tap(d, IDC_N), Keys({'1', VK_RETURN}), Keys({'2', VK_RETURN}), Keys({'3', VK_RETURN}),
-                     Close(d)};
-         },
-         "T1,1.000000,2.000000,3.000000\r\n"},
-        {"typing replaces what is there",
-         [](CPointEntryDlg& d) -> std::vector<fx::Step> {
-             return {Tap(d, IDC_N),
-                     Keys({'1', VK_RETURN}),
-                     Keys({'2', VK_RETURN}),
-                     Tap(d, IDC_N),
-                     Keys({'7'}),
-                     NoPanel(),
-                     Tap(d, IDC_ADD),
-                     Close(d)};
-         },
-         "T1,7.000000,2.000000,\r\n"},
-        {"two quick taps",
-         [](CPointEntryDlg& d) -> std::vector<fx::Step> {
-             return {Tap(d, IDC_N),
-                     Keys({'1'}),
-                     Tap(d, IDC_E),
-                     Keys({'2'}),
-                     NoPanel(),
-                     [&d] {
-                         pen::Tap(*d.GetDlgItem(IDC_ADD));
-                         pen::Tap(*d.GetDlgItem(IDC_ADD));
-                     },
-                     Close(d)};
-         },
-         "T1,1.000000,2.000000,\r\n"},
-        {"no coordinate, and Enter in the question",
-         [](CPointEntryDlg& d) -> std::vector<fx::Step> {
-             return {Tap(d, IDC_ADD), Keys({VK_RETURN}), Tap(d, IDC_ADD), Answer(IDYES), Close(d)};
-         },
-         "T1,,,\r\n"},
-        {"closing with typed values",
-         [](CPointEntryDlg& d) -> std::vector<fx::Step> {
-             return {Tap(d, IDC_N), Keys({'1'}), Close(d),  Keys({VK_RETURN}),
-                     Tap(d, IDC_E), Keys({'2'}), NoPanel(), Tap(d, IDC_ADD),
-                     Tap(d, IDC_N), Keys({'9'}), Close(d),  Answer(IDYES)};
-         },
-         "T1,1.000000,2.000000,\r\n"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.pszCase);
+    // The points are as in a file without heading.
+    const Rows<const char*, std::string, std::string> cases = {
+        {"Enter goes on and stores from the last field", "N 1! 2! 3! x", "T1,1.000000,2.000000,3.000000\r\n"},
+        {"typing replaces what is there", "N 1! 2! N 7 + x", "T1,7.000000,2.000000,\r\n"},
+        {"two quick taps", "N 1 E 2 ++ x", "T1,1.000000,2.000000,\r\n"},
+        {"no coordinate, and Enter in the question", "+ ! + yes x", "T1,,,\r\n"},
+        {"closing with typed values", "N 1 x ! E 2 + N 9 x yes", "T1,1.000000,2.000000,\r\n"}};
+    for (const auto& [pszCase, actions, points] : cases) {
+        SCOPED_TRACE(pszCase);
         Restart();
         CPointEntryDlg dialog(*m_pJob, nullptr);
         fx::ModalScript script;
-        for (const fx::Step& step : c.steps(dialog))
-            script.Until(step.run);
+        std::istringstream words(actions);
+        for (std::string action; words >> action;) {
+            if (action[0] == '+')
+                script.Until(NoPanel().run);
+            script.Until(Action(dialog, action).run);
+        }
         script.Run([&] { return dialog.DoModal(); });
         std::string bytes;
         CString strBad;
         FormatPoints(m_pJob->book.GetPoints(), {}, bytes, strBad);
-        EXPECT_EQ(bytes, c.pszPoints);
+        EXPECT_EQ(bytes, points);
     }
 }
 
@@ -278,12 +255,12 @@ TEST_F(JobFile, PointIsChosenFromListAndPlan) {
         // The three lie from the west to the east in the middle of the plan.
         {"a tap on the plan", {TapIn(IDC_PICK_PLAN), TapIn(IDC_PLAN)}, L"Ab"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszCase);
+    for (const auto& [pszCase, steps, pszName] : cases) {
+        SCOPED_TRACE(pszCase);
         CNameDlg dialog(L"?", L"", m_pJob->history, nullptr);
         dialog.OfferPoints(*m_pJob);
-        EXPECT_EQ(fx::Play(dialog, c.steps), IDOK);
-        EXPECT_TRUE(dialog.GetName() == c.pszName);
+        EXPECT_EQ(fx::Play(dialog, steps), IDOK);
+        EXPECT_TRUE(dialog.GetName() == pszName);
     }
 }
 
@@ -298,8 +275,7 @@ TEST_F(JobFile, RemovedPointComesBackToItsPlace) {
     fx::Play(dialog,
              {TapRow(1), Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
               Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
-    EXPECT_TRUE(m_pJob->book.GetPoints()[1].strName == L"B");
-    EXPECT_FALSE(m_pJob->book.CanUndo());
+    EXPECT_TRUE(m_pJob->book.GetPoints()[1].strName == L"B" && !m_pJob->book.CanUndo());
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "compute/PackedAngle.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -7,10 +9,7 @@ namespace {
 constexpr double RADIANS = 3.14159265358979323846 / 180;
 
 TEST(PackedAngle, ReadsDegreesMinutesAndSeconds) {
-    const struct {
-        const wchar_t* pszText;
-        double dDegrees;
-    } cases[] = {
+    const Rows<const wchar_t*, double> cases = {
         {L"90", 90},
         {L"90.0000", 90},
         {L"45.3", 45.5},
@@ -21,26 +20,23 @@ TEST(PackedAngle, ReadsDegreesMinutesAndSeconds) {
         {L" 359.5959 ", 360 - 1 / 3600.0},
         {L"９０．３０００", 90.5}, // full width, as a Japanese panel types it
     };
-    for (const auto& c : cases) {
+    for (const auto& [pszText, dDegrees] : cases) {
         double dRadians = 0;
-        EXPECT_EQ(ParsePackedAngle(c.pszText, dRadians), AngleFault::None) << CString(c.pszText).GetLength();
-        EXPECT_NEAR(dRadians / RADIANS, c.dDegrees, 1e-12);
+        EXPECT_EQ(ParsePackedAngle(pszText, dRadians), AngleFault::None) << CString(pszText).GetLength();
+        EXPECT_NEAR(dRadians / RADIANS, dDegrees, 1e-12);
     }
 }
 
 TEST(PackedAngle, RefusesWhatIsNoAngleAndKeepsTheOldValue) {
-    const struct {
-        const wchar_t* pszText;
-        AngleFault fault;
-    } cases[] = {
+    const Rows<const wchar_t*, AngleFault> cases = {
         {L"", AngleFault::NoNumber},          {L"abc", AngleFault::NoNumber},
         {L"90-30-15", AngleFault::NoNumber},  {L"90.6", AngleFault::BadSixties},
         {L"45.7500", AngleFault::BadSixties}, {L"90.0060", AngleFault::BadSixties},
         {L"400", AngleFault::TooLarge},       {L"-1e300", AngleFault::TooLarge},
     };
-    for (const auto& c : cases) {
+    for (const auto& [pszText, fault] : cases) {
         double dRadians = 7;
-        EXPECT_EQ(ParsePackedAngle(c.pszText, dRadians), c.fault) << CString(c.pszText).GetLength();
+        EXPECT_EQ(ParsePackedAngle(pszText, dRadians), fault) << CString(pszText).GetLength();
         EXPECT_EQ(dRadians, 7);
     }
 }

@@ -3,6 +3,8 @@
 #include "plan/PlanClip.h"
 #include "plan/PlanSpace.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -26,25 +28,20 @@ void ExpectPixel(CVector pixel, double dX, double dY) {
 }
 
 TEST(PlanScale, ShowsTheWholeBoxNorthUpWithOneScale) {
-    const struct {
-        const char* pszCase;
-        double dHeight;
-        double dWidth;
-    } cases[] = {{"wide", 10, 100}, {"high", 100, 10}, {"line to the east", 0, 50}, {"country", 1e6, 1e6}};
-    for (const auto& box : cases) {
-        SCOPED_TRACE(box.pszCase);
-        const CCoordinate lo = At(-35300, 13200);
-        const CCoordinate hi = At(-35300 + box.dHeight, 13200 + box.dWidth);
+    const Rows<const char*, double, double> cases = {
+        {"wide", 10, 100}, {"high", 100, 10}, {"line to the east", 0, 50}, {"country", 1e6, 1e6}};
+    for (const auto& [pszCase, dHeight, dWidth] : cases) {
+        SCOPED_TRACE(pszCase);
+        const CCoordinate lo = At(-35300, 13200), hi = At(-35300 + dHeight, 13200 + dWidth);
         const CPlanScale scale(lo, hi, VIEW);
-        CVector southWest = scale.ToPixel(lo);
-        CVector northEast = scale.ToPixel(hi);
+        CVector southWest = scale.ToPixel(lo), northEast = scale.ToPixel(hi);
         EXPECT_GE(southWest.GetX(), 20);
         EXPECT_LE(southWest.GetY(), VIEW.cy - 20);
         EXPECT_LE(northEast.GetX(), VIEW.cx - 20);
         EXPECT_GE(northEast.GetY(), 20);
         CVector diagonal = northEast - southWest;
-        EXPECT_NEAR(diagonal.GetX(), box.dWidth * scale.GetFactor(), 1e-6);
-        EXPECT_NEAR(diagonal.GetY(), -box.dHeight * scale.GetFactor(), 1e-6);
+        EXPECT_NEAR(diagonal.GetX(), dWidth * scale.GetFactor(), 1e-6);
+        EXPECT_NEAR(diagonal.GetY(), -dHeight * scale.GetFactor(), 1e-6);
         EXPECT_GT(diagonal.UNorm(), 160); // and as large as there is room
     }
 }
@@ -78,31 +75,21 @@ TEST(PlanScale, PanMovesThePlanWithThePenAndBack) {
 }
 
 TEST(PlanScale, BarHasARoundLength) {
-    const struct {
-        double dFactor;
-        const wchar_t* pszText;
-        int nPixels;
-    } cases[] = {
+    const Rows<double, const wchar_t*, int> cases = {
         {1, L"50 m", 50},    {0.9, L"100 m", 90},    {0.91, L"50 m", 46}, {4, L"20 m", 80},
         {8, L"10 m", 80},    {90, L"1 m", 90},       {200, L"0.2 m", 40}, {20000, L"0.002 m", 40},
         {0.09, L"1 km", 90}, {1e-5, L"5000 km", 50},
     };
-    for (const auto& example : cases) {
-        SCOPED_TRACE(example.dFactor);
-        const CScaleBar bar = FindScaleBar(example.dFactor, 90);
-        EXPECT_STREQ(ScaleBarText(bar.dLength), example.pszText);
-        EXPECT_EQ(bar.nPixels, example.nPixels);
+    for (const auto& [dFactor, pszText, nPixels] : cases) {
+        SCOPED_TRACE(dFactor);
+        const CScaleBar bar = FindScaleBar(dFactor, 90);
+        EXPECT_STREQ(ScaleBarText(bar.dLength), pszText);
+        EXPECT_EQ(bar.nPixels, nPixels);
     }
 }
 
 TEST(PlanClip, CutsLinesAtTheBorders) {
-    const struct {
-        const char* pszCase;
-        CSegment line;
-        bool bUnbounded;
-        bool bSeen;
-        CSegment seen;
-    } cases[] = {
+    const Rows<const char*, CSegment, bool, bool, CSegment> cases = {
         {"inside", {{10, 20}, {30, 40}}, false, true, {{10, 20}, {30, 40}}},
         {"inside, without ends", {{10, 20}, {11, 21}}, true, true, {{0, 10}, {222, 232}}},
         {"through", {{-1e9, 100}, {1e9, 100}}, false, true, {{0, 100}, {240, 100}}},
@@ -114,14 +101,14 @@ TEST(PlanClip, CutsLinesAtTheBorders) {
         {"point", {{5, 5}, {5, 5}}, false, true, {{5, 5}, {5, 5}}},
         {"point without direction", {{5, 5}, {5, 5}}, true, false, {}},
     };
-    for (const auto& example : cases) {
-        SCOPED_TRACE(example.pszCase);
-        CSegment line = example.line;
-        ASSERT_EQ(ClipSegment(line, VIEW_RECT, example.bUnbounded), example.bSeen);
-        if (!example.bSeen)
+    for (const auto& [pszCase, given, bUnbounded, bSeen, seen] : cases) {
+        SCOPED_TRACE(pszCase);
+        CSegment line = given;
+        ASSERT_EQ(ClipSegment(line, VIEW_RECT, bUnbounded), bSeen);
+        if (!bSeen)
             continue;
-        ExpectPixel(line.start, example.seen.start.GetX(), example.seen.start.GetY());
-        ExpectPixel(line.end, example.seen.end.GetX(), example.seen.end.GetY());
+        ExpectPixel(line.start, seen.start.GetX(), seen.start.GetY());
+        ExpectPixel(line.end, seen.end.GetX(), seen.end.GetY());
     }
 }
 
@@ -135,14 +122,8 @@ double LengthOf(const std::vector<CSegment>& pieces) {
 }
 
 TEST(PlanClip, ArcsKeepToTheirCircleInTheView) {
-    const struct {
-        const char* pszCase;
-        CVector centre;
-        double dRadius;
-        double dStart;
-        double dSweep;
-        double dLength; ///< Pixels in the view.
-    } cases[] = {
+    // dLength: Pixels in the view.
+    const Rows<const char*, CVector, double, double, double, double> cases = {
         {"whole circle", {120, 116}, 50, 0, TWO_PI, 50 * TWO_PI},
         {"quarter to the upper right", {0, 232}, 100, 0, TWO_PI / 4, 25 * TWO_PI},
         {"its other three quarters", {0, 232}, 100, TWO_PI / 4, TWO_PI * 3 / 4, 0},
@@ -153,15 +134,14 @@ TEST(PlanClip, ArcsKeepToTheirCircleInTheView) {
         {"a dot", {120, 116}, 0.1, 0, TWO_PI, 0.1 * TWO_PI},
         {"beside", {-500, 116}, 400, 0, TWO_PI, 0},
     };
-    for (const auto& example : cases) {
-        SCOPED_TRACE(example.pszCase);
-        const std::vector<CSegment> pieces =
-            ClipArc(example.centre, example.dRadius, example.dStart, example.dSweep, VIEW_RECT);
-        EXPECT_NEAR(LengthOf(pieces), example.dLength, 0.01 * example.dLength + 0.2);
+    for (const auto& [pszCase, centre, dRadius, dStart, dSweep, dLength] : cases) {
+        SCOPED_TRACE(pszCase);
+        const std::vector<CSegment> pieces = ClipArc(centre, dRadius, dStart, dSweep, VIEW_RECT);
+        EXPECT_NEAR(LengthOf(pieces), dLength, 0.01 * dLength + 0.2);
         EXPECT_LT(pieces.size(), 300U);
         for (const CSegment& piece : pieces) {
             CVector start = piece.start;
-            EXPECT_NEAR((start - example.centre).UNorm(), example.dRadius, 0.3);
+            EXPECT_NEAR((start - centre).UNorm(), dRadius, 0.3);
             EXPECT_TRUE(VIEW_RECT.left <= start.GetX() && start.GetX() <= VIEW_RECT.right);
             EXPECT_TRUE(VIEW_RECT.top <= start.GetY() && start.GetY() <= VIEW_RECT.bottom);
         }

@@ -4,8 +4,7 @@
 
 namespace {
 
-class PointBook : public testing::Test {
-protected:
+struct PointBook : testing::Test {
     void SetUp() override { m_book.SetModified(false); }
 
     static CNamedPoint At(const wchar_t* pszName, double dE) { return {pszName, CCoordinate(dE, 0, 0, 1)}; }
@@ -31,10 +30,8 @@ protected:
 };
 
 TEST_F(PointBook, NextNameIsTheFirstFreeOne) {
-    EXPECT_TRUE(m_book.NextName(L"T") == L"T3");
-    EXPECT_TRUE(m_book.NextName(L"T1") == L"T3");
-    EXPECT_TRUE(m_book.NextName(L"K009") == L"K010");
-    EXPECT_TRUE(m_book.NextName(L"BM") == L"BM1");
+    EXPECT_TRUE(m_book.NextName(L"T") == L"T3" && m_book.NextName(L"T1") == L"T3");
+    EXPECT_TRUE(m_book.NextName(L"K009") == L"K010" && m_book.NextName(L"BM") == L"BM1");
 }
 
 TEST_F(PointBook, PointIsChangedInItsPlace) {
@@ -47,19 +44,14 @@ TEST_F(PointBook, PointIsChangedInItsPlace) {
 TEST_F(PointBook, PointKeepsItsPlaceAndItsMarkUnderANewName) {
     m_book.MarkUsed(L"T1");
     ASSERT_TRUE(m_book.Replace(L"T1", At(L"T7", 7)));
-    EXPECT_TRUE(Names() == L"T7 T2 K009 ");
-    EXPECT_EQ(m_book.Find(L"T1"), nullptr);
-    EXPECT_TRUE(m_book.IsUsed(L"T7"));
+    EXPECT_TRUE(Names() == L"T7 T2 K009 " && m_book.Find(L"T1") == nullptr && m_book.IsUsed(L"T7"));
     EXPECT_FALSE(m_book.IsUsed(L"T1"));
     EXPECT_TRUE(m_book.Add(At(L"T1", 1))) << "the old name is free";
 }
 
 TEST_F(PointBook, WhatIsRefusedChangesNothing) {
-    EXPECT_FALSE(m_book.Add(At(L"T1", 9)));
-    EXPECT_FALSE(m_book.Replace(L"T1", At(L"T2", 9)));
-    EXPECT_FALSE(m_book.Replace(L"X", At(L"Y", 9)));
-    EXPECT_FALSE(m_book.Remove(L"X"));
-    EXPECT_FALSE(m_book.IsModified());
+    EXPECT_TRUE(!m_book.Add(At(L"T1", 9)) && !m_book.Replace(L"T1", At(L"T2", 9)));
+    EXPECT_TRUE(!m_book.Replace(L"X", At(L"Y", 9)) && !m_book.Remove(L"X") && !m_book.IsModified());
     EXPECT_TRUE(Names() == L"T1 T2 K009 ");
     EXPECT_EQ(m_book.Find(L"T1")->GetE(), 0);
     EXPECT_EQ(m_book.Find(L"T2")->GetE(), 1);
@@ -68,8 +60,7 @@ TEST_F(PointBook, WhatIsRefusedChangesNothing) {
 TEST_F(PointBook, RemovedPointLeavesTheOthersInOrder) {
     m_book.MarkUsed(L"T1");
     ASSERT_TRUE(m_book.Remove(L"T1"));
-    EXPECT_TRUE(m_book.IsModified());
-    EXPECT_TRUE(Names() == L"T2 K009 ");
+    EXPECT_TRUE(m_book.IsModified() && Names() == L"T2 K009 ");
     EXPECT_EQ(m_book.GetUsedCount(), 0);
     ASSERT_TRUE(m_book.Add(At(L"T1", 5)));
     EXPECT_TRUE(Names() == L"T2 K009 T1 ");

@@ -138,8 +138,7 @@ TEST(SaveFaults, PointsAreTheOldOrTheNewOnes) {
 }
 
 TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
-    const CTestFile points(L"fieldbook-faults.csv");
-    const CTestFile record(points.GetPath() + L".changes");
+    const CTestFile points(L"fieldbook-faults.csv"), record(points.GetPath() + L".changes");
     ::CreateDirectory(L"own", nullptr);
     auto pFile = std::make_unique<CChangeFile>(L"own");
     ASSERT_TRUE(pFile->Claim(points.GetPath()));

@@ -12,8 +12,7 @@ constexpr wchar_t SHARED_KEY[] = L"Software\\Tesuvo\\Common";
 
 CWinApp& g_app = fx::g_app;
 
-class Settings : public testing::Test {
-protected:
+struct Settings : testing::Test {
     void SetUp() override {
         AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL);
         g_app.SetRegistryKey(COMPANY);
@@ -46,8 +45,7 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     EXPECT_EQ(loaded.columns, settings.columns);
     EXPECT_EQ(loaded.order, settings.order);
 
-    DWORD dwValue = 0;
-    DWORD dwSize = sizeof dwValue;
+    DWORD dwValue = 0, dwSize = sizeof dwValue;
     ASSERT_EQ(
         ::RegGetValue(HKEY_CURRENT_USER, SHARED_KEY, L"1280", RRF_RT_REG_DWORD, nullptr, &dwValue, &dwSize),
         ERROR_SUCCESS);

@@ -7,13 +7,10 @@
 #include <string>
 
 /// A name in the working folder; the file is removed at the end, with what can stand beside it.
-class CTestFile {
-public:
+struct CTestFile {
     explicit CTestFile(const CString& strPath) : m_strPath(strPath) { Remove(); }
     CTestFile(const CString& strPath, const std::string& content) : CTestFile(strPath) { Write(content); }
     ~CTestFile() { Remove(); }
-    CTestFile(const CTestFile&) = delete;
-    CTestFile& operator=(const CTestFile&) = delete;
 
     const CString& GetPath() const { return m_strPath; }
 

@@ -5,12 +5,9 @@
 #include <afxwin.h>
 
 /// While it exists, the active window of the thread is told to close, again and again.
-class CWindowCloser {
-public:
+struct CWindowCloser {
     CWindowCloser() : m_nTimer(::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, CloseActiveWindow)) {}
     ~CWindowCloser() { ::KillTimer(nullptr, m_nTimer); }
-    CWindowCloser(const CWindowCloser&) = delete;
-    CWindowCloser& operator=(const CWindowCloser&) = delete;
 
 private:
     static void CALLBACK CloseActiveWindow(HWND, UINT, UINT_PTR, DWORD) {

@@ -27,8 +27,7 @@ std::wstring ProgramPath() {
     return path + L"\\first.exe";
 }
 
-class FirstDialog : public testing::Test {
-protected:
+struct FirstDialog : testing::Test {
     void SetUp() override {
         STARTUPINFO start = {};
         start.cb = sizeof start;

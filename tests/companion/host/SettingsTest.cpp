@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include "Tesuvo.h"
@@ -7,27 +9,12 @@
 namespace {
 
 TEST(Settings, DecimalsComeFromTheEnvironmentWithinTheirRange) {
-    struct Row {
-        const char* stored;
-        int value;
-    };
-    const Row rows[] = {
-        {"0", 0},
-        {"3", 3},
-        {"4", 4},
-        {"5", 2},
-        {"-1", 2},
-        {"4294967296", 2},
-        {"99999999999999999999", 2},
-        {"", 2},
-        {"abc", 2},
-        {"3x", 2},
-        {" 3", 2},
-        {"3.0", 2},
-    };
-    for (const Row& row : rows) {
-        ::setenv("TESUVO_SETTING_1280", row.stored, 1);
-        EXPECT_EQ(TVGetCommonRegInt(1280), row.value) << row.stored;
+    const Rows<const char*, int> rows = {
+        {"0", 0}, {"3", 3},   {"4", 4},  {"5", 2},  {"-1", 2}, {"4294967296", 2}, {"99999999999999999999", 2},
+        {"", 2},  {"abc", 2}, {"3x", 2}, {" 3", 2}, {"3.0", 2}};
+    for (const auto& [stored, value] : rows) {
+        ::setenv("TESUVO_SETTING_1280", stored, 1);
+        EXPECT_EQ(TVGetCommonRegInt(1280), value) << stored;
     }
     ::unsetenv("TESUVO_SETTING_1280");
     EXPECT_EQ(TVGetCommonRegInt(1280), 2);

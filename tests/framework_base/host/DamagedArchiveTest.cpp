@@ -45,9 +45,7 @@ int CJoint::s_made = 0;
 IMPLEMENT_SERIAL(CJoint, CObject, 1)
 
 TEST(DamagedArchive, GraphsWithCirclesAreFreedOnce) {
-    CJoint a;
-    CJoint b;
-    CJoint c;
+    CJoint a, b, c;
     a.m_references[0].pJoint = &b;
     a.m_references[1].pJoint = &c;
     b.m_references[0].pJoint = &a;
@@ -88,13 +86,7 @@ TEST(DamagedArchive, CollectionsAndValuesComeToAnEnd) {
 
 // The number of elements is what the file says; the bytes for them are few or many.
 TEST(DamagedArchive, MemoryGoesWithTheSizeOfTheFile) {
-    struct Row {
-        const char* what;
-        const char* head;
-        std::size_t size; // of zeros behind it
-        std::size_t perByte;
-        std::function<void(CArchive&)> load;
-    };
+    // size: of zeros behind it
     constexpr std::size_t kMega = 1 << 20;
     const auto list = [](CArchive& ar) { CStringList().Serialize(ar); };
     const auto array = [](CArchive& ar) { CStringArray().Serialize(ar); };
@@ -103,19 +95,20 @@ TEST(DamagedArchive, MemoryGoesWithTheSizeOfTheFile) {
         CString string;
         ar >> string;
     };
-    for (const Row& row : {
-             Row{"empty texts, a byte each", "ff ff ff ff ff ff", kMega, 60, list},
-             Row{"the same in an array", "ff ff ff ff ff ff", kMega, 90, array},
-             Row{"numbers", "ff ff ff ff ff 7f", kMega, 3, numbers},
-             Row{"a wide text", "ff fe ff ff ff ff ff ff ff 7f", kMega, 8, text},
-             Row{"a narrow text", "ff ff ff ff ff ff 7f", kMega, 8, text},
-             Row{"no bytes for a text", "ff ff ff ff ff ff 7f", 0, 0, text},
+    for (const auto& [what, head, size, perByte, load] :
+         Rows<const char*, const char*, std::size_t, std::size_t, std::function<void(CArchive&)>>{
+             {"empty texts, a byte each", "ff ff ff ff ff ff", kMega, 60, list},
+             {"the same in an array", "ff ff ff ff ff ff", kMega, 90, array},
+             {"numbers", "ff ff ff ff ff 7f", kMega, 3, numbers},
+             {"a wide text", "ff fe ff ff ff ff ff ff ff 7f", kMega, 8, text},
+             {"a narrow text", "ff ff ff ff ff ff 7f", kMega, 8, text},
+             {"no bytes for a text", "ff ff ff ff ff ff 7f", 0, 0, text},
          }) {
-        Bytes bytes = FromHex(row.head);
-        bytes.resize(bytes.size() + row.size);
+        Bytes bytes = FromHex(head);
+        bytes.resize(bytes.size() + size);
         constexpr std::size_t kAnyway = 100'000;
         // The file itself lies in memory here, too.
-        EXPECT_LT(LoadWithoutLoss(bytes, row.load), row.perByte * row.size + kAnyway) << row.what;
+        EXPECT_LT(LoadWithoutLoss(bytes, load), perByte * size + kAnyway) << what;
     }
 }
 

@@ -49,8 +49,7 @@ TEST(StringOfWindows, MessagesAndVariables) {
     EXPECT_STREQ(L"5 of three", s);
     ::SetEnvironmentVariable(L"FIELDKIT_TEST", CString(L'v', 300));
     EXPECT_TRUE(s.GetEnvironmentVariable(L"FIELDKIT_TEST") && s == CString(L'v', 300));
-    EXPECT_FALSE(s.GetEnvironmentVariable(L"FIELDKIT_NONE"));
-    EXPECT_TRUE(s.IsEmpty());
+    EXPECT_TRUE(!s.GetEnvironmentVariable(L"FIELDKIT_NONE") && s.IsEmpty());
     EXPECT_EQ(0, CString(L"\xFF21\xFF22").CompareNoCase(L"\xFF41\xFF42")); // full width
     EXPECT_STREQ(L"A\xFF21", CString(L"a\xFF41").MakeUpper());
     CStringA oem("\x82\xA0");

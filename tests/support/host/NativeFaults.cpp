@@ -24,8 +24,7 @@ long g_left = 0;
 bool g_failed = false;
 
 faults::Use g_use;
-std::size_t g_bytes = 0;
-std::size_t g_peak = 0;
+std::size_t g_bytes = 0, g_peak = 0;
 
 bool FailsNow(Kind kind, const char* call) {
     if (g_kind != kind || (g_call != nullptr && std::strcmp(g_call, call) != 0) || --g_left != 0)
@@ -65,23 +64,32 @@ auto Answer(const char* name, Call call) -> decltype(call()) {
     return -1;
 }
 
+/// The same of a call that can do half of what it is asked for.
+template <class Call>
+ssize_t AnswerPartly(const char* name, std::size_t count, Call call) {
+    if (g_error != 0)
+        return Answer(name, [&] { return call(count); });
+    return call(FailsNow(Kind::Call, name) ? count / 2 : count);
+}
+
+void Arm(Kind kind, const char* call, int error, long nth) {
+    g_kind = kind;
+    g_call = call;
+    g_error = error;
+    g_left = nth;
+    g_failed = false;
+}
+
 } // namespace
 
 namespace faults {
 
 void FailMemory(long nth) {
-    g_kind = Kind::Memory;
-    g_call = nullptr;
-    g_left = nth;
-    g_failed = false;
+    Arm(Kind::Memory, nullptr, g_error, nth);
 }
 
 void FailCall(const char* call, int error, long nth) {
-    g_kind = Kind::Call;
-    g_call = call;
-    g_error = error;
-    g_left = nth;
-    g_failed = false;
+    Arm(Kind::Call, call, error, nth);
 }
 
 bool Disarm() {
@@ -130,13 +138,6 @@ int __real_close(int fd);
 int __real_fcntl(int fd, int command, ...);
 ssize_t __real_read(int fd, void* buffer, std::size_t count);
 ssize_t __real_write(int fd, const void* buffer, std::size_t count);
-off_t __real_lseek(int fd, off_t offset, int whence);
-int __real_ftruncate(int fd, off_t length);
-int __real_fsync(int fd);
-int __real_flock(int fd, int operation);
-int __real_fstat(int fd, struct stat* status);
-int __real_rename(const char* from, const char* to);
-int __real_unlink(const char* path);
 
 void* __wrap_malloc(std::size_t size) {
     return FailsNow(Kind::Memory, "") ? nullptr : __real_malloc(size);
@@ -183,40 +184,23 @@ int __wrap_fcntl(int fd, int command, ...) {
 }
 
 ssize_t __wrap_read(int fd, void* buffer, std::size_t count) {
-    if (g_error == 0 && FailsNow(Kind::Call, "read"))
-        count /= 2;
-    else if (g_error != 0)
-        return Answer("read", [&] { return __real_read(fd, buffer, count); });
-    return __real_read(fd, buffer, count);
+    return AnswerPartly("read", count, [&](std::size_t n) { return __real_read(fd, buffer, n); });
 }
-
 ssize_t __wrap_write(int fd, const void* buffer, std::size_t count) {
-    if (g_error == 0 && FailsNow(Kind::Call, "write"))
-        count /= 2;
-    else if (g_error != 0)
-        return Answer("write", [&] { return __real_write(fd, buffer, count); });
-    return __real_write(fd, buffer, count);
+    return AnswerPartly("write", count, [&](std::size_t n) { return __real_write(fd, buffer, n); });
 }
 
-off_t __wrap_lseek(int fd, off_t offset, int whence) {
-    return Answer("lseek", [&] { return __real_lseek(fd, offset, whence); });
-}
-int __wrap_ftruncate(int fd, off_t length) {
-    return Answer("ftruncate", [&] { return __real_ftruncate(fd, length); });
-}
-int __wrap_fsync(int fd) {
-    return Answer("fsync", [&] { return __real_fsync(fd); });
-}
-int __wrap_flock(int fd, int operation) {
-    return Answer("flock", [&] { return __real_flock(fd, operation); });
-}
-int __wrap_fstat(int fd, struct stat* status) {
-    return Answer("fstat", [&] { return __real_fstat(fd, status); });
-}
-int __wrap_rename(const char* from, const char* to) {
-    return Answer("rename", [&] { return __real_rename(from, to); });
-}
-int __wrap_unlink(const char* path) {
-    return Answer("unlink", [&] { return __real_unlink(path); });
-}
+#define WRAP(result, call, parameters, arguments)                                                            \
+    result __real_##call parameters;                                                                         \
+    result __wrap_##call parameters {                                                                        \
+        return Answer(#call, [&] { return __real_##call arguments; });                                       \
+    }
+WRAP(off_t, lseek, (int fd, off_t offset, int whence), (fd, offset, whence))
+WRAP(int, ftruncate, (int fd, off_t length), (fd, length))
+WRAP(int, fsync, (int fd), (fd))
+WRAP(int, flock, (int fd, int operation), (fd, operation))
+WRAP(int, fstat, (int fd, struct stat* status), (fd, status))
+WRAP(int, rename, (const char* from, const char* to), (from, to))
+WRAP(int, unlink, (const char* path), (path))
+#undef WRAP
 }

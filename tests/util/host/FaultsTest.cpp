@@ -47,8 +47,7 @@ TEST(StringStackFaults, LoadingLeaksNothingAndTakesWhatTheFileHas) {
 
 TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
     CMemFile content;
-    class CGiven : public CAsciiFile {
-    public:
+    struct CGiven : CAsciiFile {
         explicit CGiven(CFile& file) : m_file(file) {}
         UINT Read(void* lpBuf, UINT nCount) override { return m_file.Read(lpBuf, nCount); }
         CFile& m_file;

@@ -14,8 +14,7 @@ constexpr wchar_t COUNTER_NAME[] = L"FieldbookKilled";
 constexpr int SAVE_EVERY = 7;
 
 /// A number that both programs see.
-class CSharedNumber {
-public:
+struct CSharedNumber {
     CSharedNumber()
         : m_hMapping(::CreateFileMapping(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG),
                                          COUNTER_NAME)),
@@ -24,8 +23,6 @@ public:
         ::UnmapViewOfFile(const_cast<LONG*>(m_pNumber));
         ::CloseHandle(m_hMapping);
     }
-    CSharedNumber(const CSharedNumber&) = delete;
-    CSharedNumber& operator=(const CSharedNumber&) = delete;
     volatile LONG& operator*() const { return *m_pNumber; }
 
 private:
@@ -62,8 +59,7 @@ TEST(Killed, DISABLED_Child) {
     }
 }
 
-class CChild {
-public:
+struct CChild {
     CChild() {
         wchar_t szProgram[MAX_PATH] = {};
         ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
@@ -80,8 +76,6 @@ public:
         ::CloseHandle(m_process.hThread);
         ::CloseHandle(m_process.hProcess);
     }
-    CChild(const CChild&) = delete;
-    CChild& operator=(const CChild&) = delete;
     bool IsAlive() const { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT; }
 
 private:
@@ -93,8 +87,7 @@ TEST(Killed, ConfirmedPointsAreThereAfterEachKill) {
     const char* const pszSeed = std::getenv("SHAKE_SEED");
     const int KILLS = pszSeed != nullptr ? 200 : 20;
     constexpr int MOST_POINTS = 400; // then a new file: each start reads all of it
-    const CTestFile file(FILE_NAME, "name,N,E,Z\r\n");
-    const CTestFile record(file.GetPath() + L".changes");
+    const CTestFile file(FILE_NAME, "name,N,E,Z\r\n"), record(file.GetPath() + L".changes");
     const CSharedNumber confirmed;
     std::mt19937 random(pszSeed != nullptr ? std::strtoul(pszSeed, nullptr, 10) : 1);
     int nWithRecord = 0;

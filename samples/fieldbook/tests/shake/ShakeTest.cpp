@@ -33,83 +33,50 @@ struct CShakenJob : CJob {
     CReport report;
 };
 
-/// @param open gets a job as it is in the morning
-void ShakeJob(const std::function<void(CShakenJob&, CWnd*)>& open) {
+struct Screen {
+    const char* pszName;
+    std::function<void(CShakenJob&, CWnd*)> open; ///< Gets a job as it is in the morning.
+};
+
+const Screen SCREENS[] = {
+    {"Settings",
+     [nPage = 0U](CShakenJob& job, CWnd* p) mutable { CSettingsSheet(job.settings, nPage, p).DoModal(); }},
+    {"MainMenu", [](CShakenJob& job, CWnd*) { CMainMenu(job, L"\\points.csv").DoModal(); }},
+    {"PointList", [](CShakenJob& job, CWnd* p) { CPointListDlg(job, p).DoModal(); }},
+    {"PointEntry", [](CShakenJob& job, CWnd* p) { CPointEntryDlg(job, p).DoModal(); }},
+    {"PointEdit", [](CShakenJob& job, CWnd* p) { CPointEditDlg(job, L"T1", p).DoModal(); }},
+    {"Name", [](CShakenJob& job, CWnd* p) { CNameDlg(L"?", L"", job.history, p).DoModal(); }},
+    {"Pick", [](CShakenJob& job, CWnd* p) { CPickDlg(job, p).DoModal(); }},
+    {"Compute", [](CShakenJob& job, CWnd* p) { CComputeDlg(job, p).DoModal(); }},
+    {"Polar", [](CShakenJob& job, CWnd* p) { CPolarDlg(job, p).DoModal(); }},
+    {"Report", [](CShakenJob& job, CWnd* p) { CReportDlg(job, job.report, p).DoModal(); }},
+    {"Plan", [](CShakenJob& job, CWnd* p) { CPlanDlg(job.report.drawing, L"", p).DoModal(); }},
+    {"Journal",
+     [](CShakenJob& job, CWnd* p) {
+         job.journal.Append(L"T", {L"1"});
+         CJournalDlg(job.journal, p).DoModal();
+     }},
+    {"Columns", [](CShakenJob& job, CWnd* p) { ChooseColumns(*p, job.settings.columns); }},
+    {"Files", [](CShakenJob& job, CWnd* p) { CFileCommands(job, *p).RunMenu(); }},
+    {"Export", [](CShakenJob& job, CWnd* p) { RunExport(job, *p); }},
+    {"BadLines",
+     [](CShakenJob&, CWnd* p) {
+         ShowBadLines(*p, {{3, LineFault::TooFewFields}});
+     }},
+};
+
+class FieldbookShake : public testing::TestWithParam<Screen> {};
+
+TEST_P(FieldbookShake, Of) {
     const TestDrive drive;
-    const auto panel = [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); };
-    const auto openJob = [&](CWnd* pOwner) {
+    const auto openJob = [open = GetParam().open](CWnd* pOwner) {
         CShakenJob job;
         open(job, pOwner);
     };
-    shake::Shake(openJob, panel);
+    shake::Shake(openJob, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
 }
 
-TEST(FieldbookShake, Settings) {
-    UINT nPage = 0;
-    ShakeJob([&](CShakenJob& job, CWnd* pOwner) { CSettingsSheet(job.settings, nPage, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, MainMenu) {
-    ShakeJob([](CShakenJob& job, CWnd*) { CMainMenu(job, L"\\points.csv").DoModal(); });
-}
-
-TEST(FieldbookShake, PointList) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPointListDlg(job, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, PointEntry) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPointEntryDlg(job, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, PointEdit) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPointEditDlg(job, L"T1", pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Name) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CNameDlg(L"?", L"", job.history, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Pick) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPickDlg(job, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Compute) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CComputeDlg(job, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Polar) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPolarDlg(job, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Report) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CReportDlg(job, job.report, pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Plan) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CPlanDlg(job.report.drawing, L"", pOwner).DoModal(); });
-}
-
-TEST(FieldbookShake, Journal) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) {
-        job.journal.Append(L"T", {L"1"});
-        CJournalDlg(job.journal, pOwner).DoModal();
-    });
-}
-
-TEST(FieldbookShake, Columns) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { ChooseColumns(*pOwner, job.settings.columns); });
-}
-
-TEST(FieldbookShake, Files) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { CFileCommands(job, *pOwner).RunMenu(); });
-}
-
-TEST(FieldbookShake, Export) {
-    ShakeJob([](CShakenJob& job, CWnd* pOwner) { RunExport(job, *pOwner); });
-}
-
-TEST(FieldbookShake, BadLines) {
-    ShakeJob([](CShakenJob&, CWnd* pOwner) { ShowBadLines(*pOwner, {{3, LineFault::TooFewFields}}); });
-}
+INSTANTIATE_TEST_SUITE_P(All, FieldbookShake, testing::ValuesIn(SCREENS),
+                         [](const auto& test) { return std::string(test.param.pszName); });
 
 } // namespace
