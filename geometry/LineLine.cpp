@@ -97,16 +97,14 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
     const double mA = dyA / dxA;
     const double mB = dyB / dxB;
     const double turn = mB - mA;
-    const bool bParallel = IsNull(turn, t);
+    // A branch, though parallels among others are mispredicted: a choice of where to store would make
+    // each store, and the loads of the next case behind it, wait for the quotients.
+    if (IsNull(turn, t))
+        return 0;
     const double ox = (mB * x3 - mA * x1 + y1 - y3) / turn;
     const double oy = mA * (ox - x1) + y1;
-    // Parallels are computed like the rest and discarded: a misprediction would cost more.
-    double discarded;
-    double* const to[][2] = {{px, py}, {&discarded, &discarded}};
-    Store(ox, oy, to[bParallel][0], to[bParallel][1]);
-    if (!bSegment)
-        return !bParallel;
-    return !bParallel & IsStrictlyInBox(ox, oy, x1, y1, x2, y2) & IsStrictlyInBox(ox, oy, x3, y3, x4, y4);
+    Store(ox, oy, px, py);
+    return !bSegment || (IsStrictlyInBox(ox, oy, x1, y1, x2, y2) & IsStrictlyInBox(ox, oy, x3, y3, x4, y4));
 }
 
 int CVector::Intersection(CVector a, CVector b, CVector& out, int bInfinite) {

@@ -4,12 +4,13 @@
 kernel_bench_packages=(libboost-dev libeigen3-dev libcgal-dev libgeos++-dev gnuplot-nox)
 
 # bench_kernel: the geometry kernel beside the floor of its formulas and other libraries.
-# The table goes to the screen; figures and chart are build/bench/kernel.json and kernel.png.
+# The tables go to the screen; figures and chart are build/bench/kernel.json, kernel.png and contexts.txt.
 bench_kernel() {
     require "${kernel_bench_packages[@]}"
     logged configure-bench cmake -S "$root/bench/kernel" -B "$build/bench" -G Ninja -DFIELDKIT_PEERS=ON
-    logged build-bench ninja -C "$build/bench" -j"$(nproc)" bench_kernel
+    logged build-bench ninja -C "$build/bench" -j"$(nproc)" bench_kernel bench_contexts
     "$build/bench/bin/bench_kernel" "$build/bench"
+    "$build/bench/bin/bench_contexts" | tee "$build/bench/contexts.txt"
     draw_kernel_chart "$build/bench/kernel.dat" "$build/bench/kernel.png"
 }
 
