@@ -1,18 +1,24 @@
 # shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
-# Keeps the kernel's speed: the instructions that fixed inputs take must not become more. They
-# are the same in every run and on every x86-64 processor, which no time is.
+# Keeps the speed of the kernel and of the framework's portable base: the instructions that fixed
+# inputs take must not become more. They are the same in every run and on every x86-64 processor,
+# which no time is.
 
-# count_instructions: adds to "passed" and "failed" like the test programs. Leaves the counts in
-# build/bench-counts/instructions.txt, in the form of the expected ones.
 count_instructions() {
-    local counts=$root/bench/kernel/instructions.txt start=$EPOCHREALTIME
-    local program=$build/bench-counts/bin/kernel_instructions good=0 bad=0 problems=() workload expected count
-    logged configure-counts cmake -S "$root/bench/kernel" -B "$build/bench-counts" -G Ninja
-    logged build-counts ninja -C "$build/bench-counts" -j"$(nproc)" kernel_instructions
-    grep '^#' "$counts" >"$build/bench-counts/instructions.txt"
+    count_instructions_of kernel
+    count_instructions_of portable
+}
+
+# count_instructions_of BENCH: adds to "passed" and "failed" like the test programs. Leaves the
+# counts in build/bench-counts/BENCH/instructions.txt, in the form of the expected ones.
+count_instructions_of() {
+    local counts=$root/bench/$1/instructions.txt folder=$build/bench-counts/$1 start=$EPOCHREALTIME
+    local program=$folder/bin/$1_instructions good=0 bad=0 problems=() workload expected count
+    logged "configure-counts-$1" cmake -S "$root/bench/$1" -B "$folder" -G Ninja
+    logged "build-counts-$1" ninja -C "$folder" -j"$(nproc)" "$1_instructions"
+    grep '^#' "$counts" >"$folder/instructions.txt"
     while read -r workload expected; do
         count=$(instructions_of "$program" "$workload")
-        printf '%s %s\n' "$workload" "$count" >>"$build/bench-counts/instructions.txt"
+        printf '%s %s\n' "$workload" "$count" >>"$folder/instructions.txt"
         if [[ -n $count ]] && ((count * 100 <= expected * 105)); then
             good=$((good + 1))
         else
@@ -27,23 +33,23 @@ count_instructions() {
     fi
     passed=$((passed + good))
     failed=$((failed + bad))
-    printf '%-6s %-20s %5d passed, %d failed (%s s)\n' host instructions: "$good" "$bad" "$(seconds_since "$start")"
+    printf '%-6s %-20s %5d passed, %d failed (%s s)\n' host "$1 instructions:" "$good" "$bad" "$(seconds_since "$start")"
     ((bad == 0)) || printf '  %s\n' "${problems[@]}"
 }
 
 # instructions_of PROGRAM WORKLOAD: those of one pass, without those of the C and the
 # mathematics library, which have a variant for each kind of processor.
 instructions_of() {
-    local folder=$build/bench-counts/counts
+    local folder=${1%/*}/counts
     mkdir -p "$folder"
-    valgrind --tool=callgrind --toggle-collect=CountedPass --callgrind-out-file="$folder/$2.out" \
-        "$1" "$2" >"$folder/$2.log" 2>&1 </dev/null || return 0
+    (cd "$folder" && valgrind --tool=callgrind --toggle-collect=CountedPass \
+        --callgrind-out-file="$folder/$2.out" "$1" "$2") >"$folder/$2.log" 2>&1 </dev/null || return 0
     # A module is named once and then called by its number; the line after "calls=" repeats
     # what the called function has on lines of its own.
     awk '
         match($0, /^c?ob=\([0-9]+\)/) {
             id = substr($0, index($0, "("), RLENGTH - index($0, "(") + 1)
-            if (length($0) > RLENGTH) own[id] = $0 ~ /\/kernel_instructions$/
+            if (length($0) > RLENGTH) own[id] = $0 ~ /\/[a-z]+_instructions$/
             if (!/^c/) inside = own[id]
             next
         }
