@@ -34,8 +34,8 @@ struct Pair {
     double upper = 0;
 };
 
-/// Does both works by turns and takes medians. The ratio is that of works done one directly
-/// after the other: what else the computer does falls on both alike.
+/// Does both works by turns and takes medians; a round is bare, ours, ours, bare. The ratio is that of
+/// works done one directly after the other: what else the computer does falls on both alike.
 Pair Compare(int nRounds, const std::function<Cost()>& bare, const std::function<Cost()>& ours);
 /// The same, with as many rounds as a second or two has time for.
 Pair Compare(const std::function<Cost()>& bare, const std::function<Cost()>& ours);

@@ -22,8 +22,8 @@ using bench::What;
 constexpr double kDialogGoal = 1.3;
 constexpr double kSmallDialogGoal = 1.1;
 constexpr double kLinesGoal = 1.2;
-constexpr int kDialogRounds = 9;
-constexpr int kLinesRounds = 15;
+constexpr int kDialogRounds = 5;
+constexpr int kLinesRounds = 5;
 
 class BenchApp : public CWinApp {
 public:

@@ -130,7 +130,7 @@ BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
 }
 
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult) {
-    const MSG msg = *GetCurrentMessage();
+    const MSG& msg = *GetCurrentMessage();
     return OnChildNotify(msg.message, msg.wParam, msg.lParam, pResult);
 }
 
