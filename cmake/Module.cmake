@@ -26,7 +26,7 @@ function(fieldkit_part_symbols target)
   set(symbols $<TARGET_FILE_NAME:${target}>.debug)
   add_custom_command(TARGET ${target} POST_BUILD WORKING_DIRECTORY $<TARGET_FILE_DIR:${target}>
     COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE_NAME:${target}> ${symbols}
-    COMMAND ${CMAKE_STRIP} --strip-unneeded $<TARGET_FILE_NAME:${target}>
+    COMMAND ${CMAKE_STRIP} $<TARGET_FILE_NAME:${target}>
     COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=${symbols} $<TARGET_FILE_NAME:${target}>
     COMMENT "Moving the symbols of $<TARGET_FILE_NAME:${target}> to ${symbols}" VERBATIM)
   install(FILES $<TARGET_FILE:${target}>.debug DESTINATION ${CMAKE_INSTALL_BINDIR}
