@@ -20,6 +20,8 @@ public:
     CDC() = default;
     ~CDC() override;
 
+    /// The address of a temporary, for the call that it is written in.
+    CDC* operator&() && noexcept { return this; }
     /// The handle; null also for a null object.
     HDC GetSafeHdc() const;
     /// The object of a context, a temporary one if nobody owns it; null for null.

@@ -17,6 +17,8 @@ public:
     HDC m_hDC = nullptr;       ///< What drawing goes to.
     HDC m_hAttribDC = nullptr; ///< What questions are answered from.
 
+    BOOL m_bPrinting = FALSE; ///< What IsPrinting says at least; for programs to set.
+
     /// What drawing goes to, or null.
     operator HDC() const { return m_hDC; }
     /// Sets or takes away the context for questions, or the one for drawing; neither is owned.
@@ -29,7 +31,7 @@ public:
     /// @param nIndex LOGPIXELSX, BITSPIXEL...
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
     /// Whether the device prints on paper.
-    BOOL IsPrinting() const { return GetDeviceCaps(TECHNOLOGY) == DT_RASPRINTER; }
+    BOOL IsPrinting() const { return m_bPrinting || GetDeviceCaps(TECHNOLOGY) == DT_RASPRINTER; }
 
     // --- Attributes: each setter returns the previous value --------------------------
     /// The attribute of this name. COLORREF is 0x00BBGGRR.

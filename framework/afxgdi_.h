@@ -69,6 +69,8 @@ public:
          const DWORD* lpStyle = nullptr);
     ///@}
 
+    /// The address of a temporary, for the call that it is written in.
+    CPen* operator&() && noexcept { return this; }
     /// The handle, or null.
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
     /// The object of a handle, a temporary one if nobody owns it; null for null.
@@ -99,6 +101,8 @@ public:
     /// @param pBitmap must outlive the brush
     explicit CBrush(CBitmap* pBitmap);
 
+    /// The address of a temporary, for the call that it is written in.
+    CBrush* operator&() && noexcept { return this; }
     /// The handle, or null.
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
     /// The object of a handle, a temporary one if nobody owns it; null for null.
@@ -130,6 +134,8 @@ class AFX_CORE CFont : public CGdiObject {
 public:
     CFont() = default;
 
+    /// The address of a temporary, for the call that it is written in.
+    CFont* operator&() && noexcept { return this; }
     /// The handle, or null.
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     /// The object of a handle, a temporary one if nobody owns it; null for null.
@@ -156,6 +162,8 @@ class AFX_CORE CBitmap : public CGdiObject {
 public:
     CBitmap() = default;
 
+    /// The address of a temporary, for the call that it is written in.
+    CBitmap* operator&() && noexcept { return this; }
     /// The handle, or null.
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
     /// The object of a handle, a temporary one if nobody owns it; null for null.
@@ -204,6 +212,8 @@ class AFX_CORE CRgn : public CGdiObject {
 public:
     CRgn() = default;
 
+    /// The address of a temporary, for the call that it is written in.
+    CRgn* operator&() && noexcept { return this; }
     /// The handle, or null.
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
     /// The object of a handle, a temporary one if nobody owns it; null for null.

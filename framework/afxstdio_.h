@@ -4,20 +4,26 @@
 
 #include "afxfile_.h"
 
+#include <cstdio>
 #include <memory>
 
 /// A file of lines, buffered. As text (the default), lines end with \r\n in the file and with \n
 /// here, Ctrl+Z ends reading, and wide text is narrow in the file: in the ANSI code page on Windows,
 /// UTF-8 elsewhere. With typeBinary the characters are written as they are, 2 bytes each.
 ///
-/// It is a CFile with a buffer of its own, not a FILE: there is no m_pStream.
+/// It is a CFile with a buffer of its own, and a stream of C only if it is made of one.
 class AFX_CORE CStdioFile : public CFile {
     DECLARE_DYNAMIC(CStdioFile)
 public:
     CStdioFile() = default;
     /// Opens the file; throws CFileException* if that fails.
     CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags);
+    /// Works on a stream of C, which stays the caller's unless Close or Abort closes it: the destructor
+    /// writes only what is in the buffer. Text and binary are as the stream has it.
+    explicit CStdioFile(std::FILE* pOpenStream);
     ~CStdioFile() override;
+
+    std::FILE* m_pStream = nullptr; ///< The stream that the file was made of, or null.
 
     /// Writes text; \n ends a line.
     virtual void WriteString(LPCTSTR lpsz);
@@ -59,6 +65,7 @@ private:
     bool GetCharacter(wchar_t& ch);
     void WriteBack();
     void Settle();
+    void CloseStream();
 
     // Either bytes read and not used yet, from m_nFirst to m_nLast, or bytes to be written, up to
     // m_nLast.

@@ -104,6 +104,17 @@ template <int = 128>
 using CT2WEX = CW2W;
 ///@}
 
+/// Converts into a buffer of `count` characters. @return the characters written, with the NUL; 0 if
+/// there is not enough room
+///@{
+inline int _wcstombsz(char* mbstr, const wchar_t* wcstr, ULONG count) {
+    return ::WideCharToMultiByte(CP_ACP, 0, wcstr, -1, mbstr, static_cast<int>(count), nullptr, nullptr);
+}
+inline int _mbstowcsz(wchar_t* wcstr, const char* mbstr, ULONG count) {
+    return ::MultiByteToWideChar(CP_ACP, 0, mbstr, -1, wcstr, static_cast<int>(count));
+}
+///@}
+
 /// Stands at the beginning of a block that uses the macros below.
 #define USES_CONVERSION                                                                                      \
     [[maybe_unused]] fieldkit::detail::CConversions _convert;                                                \

@@ -1,6 +1,8 @@
 /// @file
 /// CSize, CPoint and CRect. The same arithmetic in every build, without the system.
 ///
+/// A temporary of these has an address, as compilers of the time gave it: `Draw(&CRect(0, 0, 8, 8))`.
+///
 /// Comparisons stand twice: with one only, C++20 finds a comparison of two equal types
 /// ambiguous with itself turned round.
 #pragma once
@@ -26,6 +28,8 @@ public:
     CSize(DWORD dwSize) noexcept
         : SIZE{static_cast<short>(dwSize & 0xFFFF), static_cast<short>(dwSize >> 16 & 0xFFFF)} {}
 
+    /// The address of a temporary, for the call that it is written in.
+    CSize* operator&() && noexcept { return this; }
     /// Whether both are equal.
     ///@{
     BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy ? TRUE : FALSE; }
@@ -80,6 +84,8 @@ public:
     CPoint(LPARAM dwPoint) noexcept
         : POINT{static_cast<short>(dwPoint & 0xFFFF), static_cast<short>(dwPoint >> 16 & 0xFFFF)} {}
 
+    /// The address of a temporary, for the call that it is written in.
+    CPoint* operator&() && noexcept { return this; }
     /// Moves the point.
     ///@{
     void Offset(int xOffset, int yOffset) noexcept { SetPoint(x + xOffset, y + yOffset); }
@@ -136,6 +142,8 @@ public:
         : RECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y} {}
     ///@}
 
+    /// The address of a temporary, for the call that it is written in.
+    CRect* operator&() && noexcept { return this; }
     /// Right less left, bottom less top; negative for a rectangle that is not normalised.
     ///@{
     int Width() const noexcept { return right - left; }

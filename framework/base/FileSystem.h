@@ -5,6 +5,8 @@
 
 #include "afx.h"
 
+#include <cstdio>
+
 namespace fieldkit::detail::filesystem {
 
 using Error = LONG;
@@ -27,6 +29,10 @@ Error SetEndOfFile(HANDLE file, ULONGLONG length);
 Error GetLength(HANDLE file, ULONGLONG& length);
 Error Flush(HANDLE file);
 Error Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock);
+/// The handle of a stream of C, its position that of the stream, and whether the stream is of text.
+HANDLE HandleOf(std::FILE* stream, bool& text);
+/// Writes all of it as it is, in the stream's own way, which may be to append.
+Error WriteStream(std::FILE* stream, const void* buffer, UINT count);
 Error Rename(LPCTSTR from, LPCTSTR to);
 Error Remove(LPCTSTR path);
 /// The path from the root; the path as it is if the system gives none.

@@ -139,6 +139,16 @@ Error Write(HANDLE file, const void* buffer, UINT count, UINT& written) {
     return 0;
 }
 
+HANDLE HandleOf(std::FILE* stream, bool& text) {
+    std::fseek(stream, 0, SEEK_CUR);
+    text = true;
+    return Handle(fileno(stream));
+}
+
+Error WriteStream(std::FILE* stream, const void* buffer, UINT count) {
+    return std::fwrite(buffer, 1, count, stream) == count && std::fflush(stream) == 0 ? 0 : errno;
+}
+
 Error Seek(HANDLE file, LONGLONG offset, UINT from, ULONGLONG& position) {
     constexpr int kOrigins[] = {SEEK_SET, SEEK_CUR, SEEK_END};
     if (from >= std::size(kOrigins))

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <fcntl.h>
+#include <io.h>
 
 using namespace fieldkit::detail;
 
@@ -125,6 +127,23 @@ Error Write(HANDLE file, const void* buffer, UINT count, UINT& written) {
             return error;
     }
     return 0;
+}
+
+HANDLE HandleOf(std::FILE* stream, bool& text) {
+    std::fseek(stream, 0, SEEK_CUR);
+    const int number = _fileno(stream);
+    const int mode = _setmode(number, _O_BINARY); // there is no other way to ask for it
+    _setmode(number, mode);
+    text = (mode & _O_TEXT) != 0;
+    return reinterpret_cast<HANDLE>(_get_osfhandle(number));
+}
+
+Error WriteStream(std::FILE* stream, const void* buffer, UINT count) {
+    const int mode = _setmode(_fileno(stream), _O_BINARY);
+    const bool done = std::fwrite(buffer, 1, count, stream) == count && std::fflush(stream) == 0;
+    const Error error = done ? 0 : LastError();
+    _setmode(_fileno(stream), mode);
+    return error;
 }
 
 Error Seek(HANDLE file, LONGLONG offset, UINT from, ULONGLONG& position) {

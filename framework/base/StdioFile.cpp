@@ -37,9 +37,16 @@ CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags) {
         AfxThrowFileException(error.m_cause, error.m_lOsError, error.m_strFileName);
 }
 
+CStdioFile::CStdioFile(std::FILE* pOpenStream) : m_pStream(pOpenStream) {
+    m_hFile = filesystem::HandleOf(pOpenStream, m_bText);
+}
+
 CStdioFile::~CStdioFile() {
     try {
-        CStdioFile::Close();
+        if (m_pStream != nullptr)
+            Settle();
+        else
+            CStdioFile::Close();
     } catch (CException* e) {
         e->Delete(); // nobody can be told any more
     }
@@ -98,7 +105,11 @@ void CStdioFile::Put(BYTE by) {
 // What the disk does not take is gone, as the exception says.
 void CStdioFile::WriteBack() {
     const UINT nCount = std::exchange(m_nLast, 0);
-    CFile::Write(m_pBuffer.get(), nCount);
+    if (m_pStream != nullptr)
+        CFileException::ThrowOsError(filesystem::WriteStream(m_pStream, m_pBuffer.get(), nCount),
+                                     m_strFileName);
+    else
+        CFile::Write(m_pBuffer.get(), nCount);
 }
 
 /// Makes the file as it would be without the buffer.
@@ -210,16 +221,28 @@ void CStdioFile::Close() {
     try {
         Settle();
     } catch (...) {
-        CFile::Abort();
+        CStdioFile::Abort();
         throw;
     }
-    CFile::Close();
+    if (m_pStream != nullptr)
+        CloseStream();
+    else
+        CFile::Close();
+}
+
+/// The stream closes the handle.
+void CStdioFile::CloseStream() {
+    m_hFile = hFileNull;
+    std::fclose(std::exchange(m_pStream, nullptr));
 }
 
 void CStdioFile::Abort() {
     m_nFirst = m_nLast = 0;
     m_bWriting = false;
-    CFile::Abort();
+    if (m_pStream != nullptr)
+        CloseStream();
+    else
+        CFile::Abort();
 }
 
 CFile* CStdioFile::Duplicate() const {

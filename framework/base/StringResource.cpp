@@ -3,6 +3,7 @@
 #include "StringText.h"
 
 #include <memory>
+#include <oleauto.h>
 
 // What strings have on Windows only; LoadString stands beside the modules that it searches.
 namespace {
@@ -66,6 +67,22 @@ BOOL CStringT<Char>::GetEnvironmentVariable(PCXSTR pszVar) {
 }
 
 template <class Char>
+BSTR CStringT<Char>::AllocSysString() const {
+    const CStringW strWide(*this);
+    const BSTR bstr = SysAllocStringLen(strWide, static_cast<UINT>(strWide.GetLength()));
+    if (bstr == nullptr)
+        AfxThrowMemoryException();
+    return bstr;
+}
+
+template <class Char>
+BSTR CStringT<Char>::SetSysString(BSTR* pbstr) const {
+    const BSTR bstr = AllocSysString();
+    SysFreeString(std::exchange(*pbstr, bstr));
+    return bstr;
+}
+
+template <class Char>
 void CStringT<Char>::AnsiToOem() {
     CharToOemBuffA(GetString(), Own(GetLength()), static_cast<DWORD>(GetLength()));
 }
@@ -81,7 +98,9 @@ template void CStringT<char>::OemToAnsi();
 #define RESOURCE_MEMBERS(Char)                                                                               \
     template void CStringT<Char>::FormatMessageV(PCXSTR, va_list*);                                          \
     template void CStringT<Char>::FormatMessageList(PCXSTR, ...);                                            \
-    template BOOL CStringT<Char>::GetEnvironmentVariable(PCXSTR);
+    template BOOL CStringT<Char>::GetEnvironmentVariable(PCXSTR);                                            \
+    template BSTR CStringT<Char>::AllocSysString() const;                                                    \
+    template BSTR CStringT<Char>::SetSysString(BSTR*) const;
 RESOURCE_MEMBERS(wchar_t)
 RESOURCE_MEMBERS(char)
 #undef RESOURCE_MEMBERS

@@ -73,7 +73,7 @@ TEST(DeviceContext, DrawsWhereItBelongs) {
     const auto clipped = [&](CDC& dc) {
         dc.IntersectClipRect(CRect(2, 0, 7, 3));
         dc.ExcludeClipRect(4, 0, 5, 5);
-        dc.FillRect(rect, &black);
+        dc.FillRect(rect, &CBrush(RGB(0, 0, 0)));
     };
     const auto transparent = [&](CDC& dc) {
         dc.PatBlt(0, 0, 7, 5, BLACKNESS);

@@ -111,4 +111,41 @@ TEST_F(StdioFile, RefusesWhatItCannotDo) {
     EXPECT_TRUE(Throws<CFileException>([] { CStdioFile(L"none", CFile::modeRead); }));
 }
 
+TEST_F(StdioFile, AStreamStaysTheCallersAndAsItIs) {
+    struct Row {
+        const char *mode, *before, *after; ///< what the stream writes itself, what is on disk in the end
+    };
+    for (const Row& row : {
+#ifdef _WIN32
+             Row{"w", "1\n", "31 0d 0a 61 0d 0a 32 0d 0a"}, Row{"wb", "1\n", "31 0a 61 00 0a 00 32 0a"},
+             Row{"a", "", "31 0a 61 00 0a 00 32 0a 61 0d 0a 32 0d 0a"}, // behind the row before
+#else
+             Row{"w", "1\n", "31 0a 61 0d 0a 32 0a"},
+             Row{"a", "", "31 0a 61 0d 0a 32 0a 61 0d 0a 32 0a"},
+#endif
+         }) {
+        SCOPED_TRACE(row.mode);
+        std::FILE* const stream = std::fopen("stdio.txt", row.mode);
+        ASSERT_NE(nullptr, stream);
+        std::fputs(row.before, stream);
+        {
+            CStdioFile file(stream);
+            EXPECT_EQ(stream, file.m_pStream);
+            file.WriteString(L"a\n");
+        }
+        EXPECT_GE(std::fputs("2\n", stream), 0);
+        CStdioFile(stream).Close();
+        EXPECT_EQ(row.after, ToHex(OnDisk()));
+    }
+    CStdioFile file(std::fopen("stdio.txt", "r"));
+    CString line;
+    EXPECT_TRUE(file.ReadString(line) && line == L"1");
+    EXPECT_TRUE(Throws<CFileException>([&] {
+        file.WriteString(L"x");
+        file.Flush();
+    }));
+    file.Abort();
+    EXPECT_TRUE(file.m_hFile == CFile::hFileNull && file.m_pStream == nullptr);
+}
+
 } // namespace

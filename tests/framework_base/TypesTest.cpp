@@ -40,6 +40,13 @@ TEST(Types, PointsAndSizesCalculate) {
                 CSize(plainSize) == plainSize);
 }
 
+TEST(Types, TemporariesHaveAnAddress) {
+    const CRect rect(1, 2, 3, 4);
+    const auto text = [](const CRect* p) { return Text(*p); };
+    EXPECT_EQ(text(&rect), text(&CRect(1, 2, 3, 4)));
+    EXPECT_TRUE((&CPoint(5, 6))->y == 6 && (&CSize(7, 8))->cx == 7);
+}
+
 TEST(Types, RectCombinations) {
     const Rows<CRect, CRect, const char*, const char*, const char*> table = {
         {{0, 0, 4, 4}, {2, 2, 6, 6}, "2 2 4 4", "0 0 6 6", "0 0 4 4"},
