@@ -5,7 +5,7 @@
 # - UTF-16, UTF-8 with a mark, or 8-bit text of the page that #pragma code_page names: becomes
 #   UTF-8. For pages with more than ASCII in the text iconv is called.
 # - DLGINIT, in which editors leave out commas.
-# - Paths with backslashes.
+# - Paths with backslashes, or written in another case than on the disk.
 # Scripts (.rc, .rc2, .dlg) that a script includes are converted as well. Run as a script
 # (cmake -DINPUT=FILE -DOUTPUT=FILE -P), this file converts one script.
 
@@ -83,6 +83,43 @@ function(fieldkit_slashes variable pattern text)
   set(${variable} "${text}" PARENT_SCOPE)
 endfunction()
 
+# fieldkit_true_path(VARIABLE FOLDER PATH): the relative path as the disk spells it; empty if
+# nothing is there in any case.
+function(fieldkit_true_path variable folder path)
+  set(true_path "")
+  string(REPLACE "/" ";" parts "${path}")
+  foreach(part IN LISTS parts)
+    if(NOT EXISTS "${folder}/${true_path}${part}")
+      file(GLOB names LIST_DIRECTORIES true RELATIVE "${folder}/${true_path}" "${folder}/${true_path}*")
+      string(TOLOWER "${names}" lower_names)
+      string(TOLOWER "${part}" lower)
+      list(FIND lower_names "${lower}" index)
+      if(index LESS 0)
+        set(${variable} "" PARENT_SCOPE)
+        return()
+      endif()
+      list(GET names ${index} part)
+    endif()
+    string(APPEND true_path "${part}/")
+  endforeach()
+  string(REGEX REPLACE "/$" "" true_path "${true_path}")
+  set(${variable} "${true_path}" PARENT_SCOPE)
+endfunction()
+
+# fieldkit_spell(VARIABLE PATTERN FOLDER TEXT): the path of each line of the pattern becomes that
+# of the disk. The pattern ends inside the quotation marks.
+function(fieldkit_spell variable pattern folder text)
+  string(REGEX MATCHALL "\n${pattern}[^\"\n]+\"" lines "${text}")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE ".*\"([^\"\n]+)\"$" "\\1" path "${line}")
+    fieldkit_true_path(true_path "${folder}" "${path}")
+    if(true_path AND NOT true_path STREQUAL path)
+      string(REPLACE "\"${path}\"" "\"${true_path}\"" text "${text}")
+    endif()
+  endforeach()
+  set(${variable} "${text}" PARENT_SCOPE)
+endfunction()
+
 # fieldkit_convert_rc(INPUT OUTPUT): one script, and those that it includes.
 function(fieldkit_convert_rc INPUT OUTPUT)
   fieldkit_read_script(text "${INPUT}")
@@ -91,11 +128,14 @@ function(fieldkit_convert_rc INPUT OUTPUT)
   # The heads of DLGINIT's records, and the last byte of an odd one.
   string(REGEX REPLACE "([0-9A-Za-z_]+,[ \t]*0x[0-9A-Fa-f]+,[ \t]*[0-9]+,[ \t]*0)[ \t]*\n" "\\1,\n" text "${text}")
   string(REGEX REPLACE "(\"\\\\000\")[ \t]*\n" "\\1,\n" text "${text}")
-  fieldkit_slashes(text "[ \t]*#[ \t]*include[ \t]+\"" "${text}")
-  fieldkit_slashes(text "[0-9A-Za-z_\"]+[ \t]+[0-9A-Za-z_\"]+[ \t]+([A-Z]+[ \t]+)*\"" "${text}")
+  get_filename_component(from "${INPUT}" DIRECTORY)
+  foreach(pattern IN ITEMS
+      "[ \t]*#[ \t]*include[ \t]+\"" "[0-9A-Za-z_\"]+[ \t]+[0-9A-Za-z_\"]+[ \t]+([A-Z]+[ \t]+)*\"")
+    fieldkit_slashes(text "${pattern}" "${text}")
+    fieldkit_spell(text "${pattern}" "${from}" "${text}")
+  endforeach()
   file(WRITE "${OUTPUT}" "#pragma code_page(65001)${text}")
 
-  get_filename_component(from "${INPUT}" DIRECTORY)
   get_filename_component(to "${OUTPUT}" DIRECTORY)
   string(REGEX MATCHALL "\n[ \t]*#[ \t]*include[ \t]+\"[^\"\n]+\\.(rc|rc2|dlg)\"" includes "${text}")
   foreach(include IN LISTS includes)

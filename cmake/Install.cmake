@@ -50,7 +50,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cma
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
   ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
-  ${PROJECT_SOURCE_DIR}/cmake/FieldkitResources.cmake DESTINATION ${_package})
+  ${PROJECT_SOURCE_DIR}/cmake/FieldkitResources.cmake
+  ${PROJECT_SOURCE_DIR}/cmake/FieldkitSources.cmake DESTINATION ${_package})
 
 if(WIN32)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/fieldkit-${_kind}.pc.in ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc @ONLY)

@@ -54,7 +54,7 @@ print_sizes() {
 }
 
 foreign_dlls() {
-    local windows='advapi32|comctl32|comdlg32|dwmapi|gdi32|kernel32|msvcrt|shell32|user32|ole32'
+    local windows='advapi32|comctl32|comdlg32|dwmapi|gdi32|kernel32|msvcrt|shell32|user32|ole32|oleaut32'
     local names
     names=$(x86_64-w64-mingw32-objdump -p "$1"/bin/*.dll | sed -n 's/.*DLL Name: //p' | sort -uf |
         grep -viE "^($windows|fieldkit|fieldkitfx|tesuvo)\.dll\$") || true
