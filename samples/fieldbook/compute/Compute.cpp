@@ -21,10 +21,6 @@ bool HavePositions(const Points&... points) {
     return (HasPosition(points) && ...);
 }
 
-bool IsSamePoint(const CCoordinate& a, const CCoordinate& b) {
-    return Distance(a, b) < kSamePoint;
-}
-
 bool IsParallel(CVector u, CVector v) {
     return u.IsSameDir(v, kSameDirection) || u.IsSameDir(v.R_Scalar(-1), kSameDirection);
 }
@@ -40,26 +36,14 @@ CResult Found(const CLocalPlane& plane, std::initializer_list<CVector> vectors) 
     return result;
 }
 
-CResult Meet(const CLocalPlane& plane, CVector p1, CVector p2, CVector p3, CVector p4) {
-    constexpr int kUnbounded = 0;
-    CVector meeting;
-    // The library lets lines meet in an end that they share, even if they are one and the same.
-    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, kUnbounded))
-        return Failed(Verdict::Parallel);
-    return Found(plane, {meeting});
-}
-
-/// The way to another point of a line. The library takes a line for parallel to an axis if its
-/// ends differ by less than the tolerance: with these 10 km that is no angle that matters.
-CVector Sight(double dDirection) {
-    constexpr double kLength = 1e4;
-    return CVector(kLength * std::sin(dDirection), kLength * std::cos(dDirection));
-}
-
 } // namespace
 
 bool HasPosition(const CCoordinate& point) {
     return point.GetN() != kNull && point.GetE() != kNull;
+}
+
+bool IsSamePoint(const CCoordinate& a, const CCoordinate& b) {
+    return Distance(a, b) < kSamePoint;
 }
 
 double Distance(const CCoordinate& a, const CCoordinate& b) {
@@ -72,20 +56,17 @@ CResult IntersectLines(const CCoordinate& a1, const CCoordinate& a2, const CCoor
         return Failed(Verdict::NoPosition);
     if (IsSamePoint(a1, a2) || IsSamePoint(b1, b2))
         return Failed(Verdict::SamePoint);
+    constexpr int kUnbounded = 0;
     const CLocalPlane plane(a1);
-    return Meet(plane, plane.ToVector(a1), plane.ToVector(a2), plane.ToVector(b1), plane.ToVector(b2));
-}
-
-CResult IntersectBearings(const CCoordinate& a, double dDirectionA, const CCoordinate& b,
-                          double dDirectionB) {
-    if (!HavePositions(a, b))
-        return Failed(Verdict::NoPosition);
-    if (IsSamePoint(a, b))
-        return Failed(Verdict::SamePoint);
-    const CLocalPlane plane(a);
-    CVector p1 = plane.ToVector(a);
-    CVector p3 = plane.ToVector(b);
-    return Meet(plane, p1, p1 + Sight(dDirectionA), p3, p3 + Sight(dDirectionB));
+    CVector p1 = plane.ToVector(a1);
+    CVector p2 = plane.ToVector(a2);
+    CVector p3 = plane.ToVector(b1);
+    CVector p4 = plane.ToVector(b2);
+    CVector meeting;
+    // The library lets lines meet in an end that they share, even if they are one and the same.
+    if (IsParallel(p2 - p1, p4 - p3) || !CVector::IntersectLineLine(p1, p2, p3, p4, meeting, kUnbounded))
+        return Failed(Verdict::Parallel);
+    return Found(plane, {meeting});
 }
 
 bool IsBehind(const CCoordinate& point, const CCoordinate& from, double dDirection) {

@@ -22,8 +22,9 @@ enum class Verdict {
     RadiusSmall, ///< The end of an arc is too close to its centre.
     NoCorner,    ///< The tangents do not meet.
     NoPosition,  ///< A point has no N or no E.
+    TooFewCorners,
 };
-inline constexpr unsigned kVerdictCount = 11;
+inline constexpr unsigned kVerdictCount = 12;
 
 struct CResult {
     Verdict verdict;
@@ -37,10 +38,6 @@ bool HasPosition(const CCoordinate& point);
 /// The intersection of two unbounded lines, each given by two points.
 CResult IntersectLines(const CCoordinate& a1, const CCoordinate& a2, const CCoordinate& b1,
                        const CCoordinate& b2);
-/// The intersection of two unbounded lines, each given by a point and its direction. It may lie
-/// behind a point; see IsBehind.
-/// @param dDirectionA,dDirectionB radians, clockwise from north
-CResult IntersectBearings(const CCoordinate& a, double dDirectionA, const CCoordinate& b, double dDirectionB);
 /// Whether a point lies behind another one for somebody who looks in a direction.
 bool IsBehind(const CCoordinate& point, const CCoordinate& from, double dDirection);
 /// The intersections of an unbounded line and a circle; one point where it touches.
@@ -93,5 +90,7 @@ bool FindInverse(const CCoordinate& from, const CCoordinate& to, CInverse& inver
 /// @return false if no point has a position
 bool FindExtent(const std::vector<CNamedPoint>& points, CCoordinate& lo, CCoordinate& hi);
 
+/// Whether two points, both with a position, are closer than a millimetre.
+bool IsSamePoint(const CCoordinate& a, const CCoordinate& b);
 /// The horizontal distance of two points, both with a position.
 double Distance(const CCoordinate& a, const CCoordinate& b);

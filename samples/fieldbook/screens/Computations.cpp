@@ -3,6 +3,7 @@
 #include "compute/ValueText.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
+#include "dialogs/ButtonMenuDlg.h"
 #include "survey/2DLine.h"
 
 #include <cmath>
@@ -78,9 +79,17 @@ void DrawBox(CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
         drawing.AddLine(corners[i - 1], corners[i], kBounded, Role::Result);
 }
 
+/// The box of a drawing has both points of a line, that of a sight 10 km away left out.
+CCoordinate EndToDraw(const CCoordinate& from, const CCoordinate& to,
+                      const std::optional<double>& direction) {
+    constexpr double kAnyDistance = 1.0; // metres: the line has no ends
+    return direction ? FindPolarPoint(from, *direction, kAnyDistance) : to;
+}
+
 } // namespace
 
 CReport CComputations::Finish(CReport report) {
+    report.inputs = m_questions.GetInputs();
     for (const CNamedPoint& point : m_questions.GetPoints()) {
         m_job.book.MarkUsed(point.strName);
         report.drawing.AddPoint(point.strName, point.point, Role::Given);
@@ -88,65 +97,135 @@ CReport CComputations::Finish(CReport report) {
     return report;
 }
 
-std::optional<CReport> CComputations::Lines() {
-    m_questions.Begin(IDS_LINES);
-    CCoordinate a1, a2, b1, b2;
-    if (!m_questions.AskPoint(IDS_LINE1_START, a1) || !m_questions.AskPoint(IDS_LINE1_END, a2) ||
-        !m_questions.AskPoint(IDS_LINE2_START, b1) || !m_questions.AskPoint(IDS_LINE2_END, b2))
+bool CComputations::AskFigure(Figure kind, UINT nWhich, CAskedFigure& asked) {
+    CCoordinate first, second;
+    double dNumber = 0;
+    switch (kind) {
+    case Figure::Line: {
+        const UINT nFirst = IDS_LINE_FIRST + 2 * nWhich;
+        if (!m_questions.AskPoint(nFirst, first) || !m_questions.AskPoint(nFirst + 1, second))
+            return false;
+        asked.figure = LineThrough(first, second);
+        return true;
+    }
+    case Figure::Sight: {
+        const UINT nFirst = IDS_SIGHT_FIRST + 2 * nWhich;
+        if (!m_questions.AskPoint(nFirst, first) || !m_questions.AskAngle(nFirst + 1, dNumber))
+            return false;
+        asked.figure = LineTowards(first, dNumber);
+        asked.strFrom = m_questions.GetPoints().back().strName;
+        asked.dDirection = dNumber;
+        return true;
+    }
+    case Figure::Parallel: {
+        const UINT nFirst = IDS_PARALLEL_FIRST + 3 * nWhich;
+        if (!m_questions.AskPoint(nFirst, first) || !m_questions.AskPoint(nFirst + 1, second) ||
+            !m_questions.AskNumber(nFirst + 2, dNumber))
+            return false;
+        asked.figure = LineBeside(first, second, dNumber);
+        return true;
+    }
+    case Figure::Circle: {
+        const UINT nFirst = IDS_CIRCLE_FIRST + 2 * nWhich;
+        if (!m_questions.AskPoint(nFirst, first) || !m_questions.AskRadius(nFirst + 1, dNumber))
+            return false;
+        asked.figure = CircleAround(first, dNumber);
+        return true;
+    }
+    }
+    return false;
+}
+
+std::optional<CReport> CComputations::Intersection(UINT nTitleId, Figure first, Figure second) {
+    m_questions.Begin(nTitleId);
+    const bool bTwice = first == second;
+    CAskedFigure figures[2];
+    if (!AskFigure(first, bTwice ? 1 : 0, figures[0]) || !AskFigure(second, bTwice ? 2 : 0, figures[1]))
         return std::nullopt;
-    CReport report = MakeReport(IDS_LINES, IDS_INTERSECTION, IntersectLines(a1, a2, b1, b2));
-    report.drawing.AddLine(a1, a2, kUnbounded, Role::Given);
-    report.drawing.AddLine(b1, b2, kUnbounded, Role::Given);
+    CReport report = MakeReport(nTitleId, IDS_INTERSECTION, Meet(figures[0].figure, figures[1].figure));
+    for (const CAskedFigure& asked : figures) {
+        const CFigure& figure = asked.figure;
+        for (const CNamedPoint& point : report.points)
+            if (asked.dDirection && IsBehind(point.point, figure.first, *asked.dDirection))
+                report.notes.push_back({IDS_BEHIND, Unit::Name, 0, asked.strFrom});
+        if (figure.IsCircle())
+            report.drawing.AddCircle(figure.first, figure.dRadius, Role::Given);
+        else
+            report.drawing.AddLine(figure.first, EndToDraw(figure.first, figure.second, asked.dDirection),
+                                   kUnbounded, Role::Given);
+    }
     return Finish(report);
+}
+
+std::optional<CReport> CComputations::Lines() {
+    return Intersection(IDS_LINES, Figure::Line, Figure::Line);
 }
 
 std::optional<CReport> CComputations::LineCircle() {
-    m_questions.Begin(IDS_LINE_CIRCLE);
-    CCoordinate p1, p2, centre;
-    double dRadius = 0;
-    if (!m_questions.AskPoint(IDS_LINE_START, p1) || !m_questions.AskPoint(IDS_LINE_END, p2) ||
-        !m_questions.AskPoint(IDS_CIRCLE_CENTRE, centre) ||
-        !m_questions.AskRadius(IDS_CIRCLE_RADIUS, dRadius))
-        return std::nullopt;
-    CReport report =
-        MakeReport(IDS_LINE_CIRCLE, IDS_INTERSECTION, IntersectLineCircle(p1, p2, centre, dRadius));
-    report.drawing.AddLine(p1, p2, kUnbounded, Role::Given);
-    report.drawing.AddCircle(centre, dRadius, Role::Given);
-    return Finish(report);
+    return Intersection(IDS_LINE_CIRCLE, Figure::Line, Figure::Circle);
 }
 
 std::optional<CReport> CComputations::Circles() {
-    m_questions.Begin(IDS_CIRCLES);
-    CCoordinate c1, c2;
-    double dRadius1 = 0;
-    double dRadius2 = 0;
-    if (!m_questions.AskPoint(IDS_CIRCLE1_CENTRE, c1) ||
-        !m_questions.AskRadius(IDS_CIRCLE1_RADIUS, dRadius1) ||
-        !m_questions.AskPoint(IDS_CIRCLE2_CENTRE, c2) || !m_questions.AskRadius(IDS_CIRCLE2_RADIUS, dRadius2))
-        return std::nullopt;
-    CReport report = MakeReport(IDS_CIRCLES, IDS_INTERSECTION, IntersectCircles(c1, dRadius1, c2, dRadius2));
-    report.drawing.AddCircle(c1, dRadius1, Role::Given);
-    report.drawing.AddCircle(c2, dRadius2, Role::Given);
-    return Finish(report);
+    return Intersection(IDS_CIRCLES, Figure::Circle, Figure::Circle);
 }
 
 std::optional<CReport> CComputations::Bearings() {
-    m_questions.Begin(IDS_BEARINGS);
-    CCoordinate a, b;
-    double dDirectionA = 0;
-    double dDirectionB = 0;
-    if (!m_questions.AskPoint(IDS_BEARING_FROM_A, a) || !m_questions.AskAngle(IDS_BEARING_A, dDirectionA) ||
-        !m_questions.AskPoint(IDS_BEARING_FROM_B, b) || !m_questions.AskAngle(IDS_BEARING_B, dDirectionB))
+    return Intersection(IDS_BEARINGS, Figure::Sight, Figure::Sight);
+}
+
+std::optional<CReport> CComputations::Combined() {
+    const std::optional<Figure> first = ChooseFigure(IDS_FIRST_FIGURE);
+    if (!first)
         return std::nullopt;
-    CReport report =
-        MakeReport(IDS_BEARINGS, IDS_INTERSECTION, IntersectBearings(a, dDirectionA, b, dDirectionB));
-    if (!report.points.empty())
-        for (size_t i = 0; i < 2; ++i)
-            if (IsBehind(report.points.front().point, i == 0 ? a : b, i == 0 ? dDirectionA : dDirectionB))
-                report.notes.push_back({IDS_BEHIND, Unit::Name, 0, m_questions.GetPoints()[i].strName});
-    constexpr double kAnyDistance = 1.0; // metres: the lines have no ends
-    report.drawing.AddLine(a, FindPolarPoint(a, dDirectionA, kAnyDistance), kUnbounded, Role::Given);
-    report.drawing.AddLine(b, FindPolarPoint(b, dDirectionB, kAnyDistance), kUnbounded, Role::Given);
+    const std::optional<Figure> second = ChooseFigure(IDS_SECOND_FIGURE);
+    return second ? Intersection(IDS_COMBINED, *first, *second) : std::nullopt;
+}
+
+std::optional<CComputations::Figure> CComputations::ChooseFigure(UINT nTitleId) {
+    CUIntArray entries;
+    for (UINT nKind = 0; nKind < kFigureCount; ++nKind)
+        entries.Add(IDS_FIGURE_FIRST + nKind);
+    CButtonMenuDlg menu(static_cast<int>(nTitleId), &entries, &m_parent);
+    menu.DoModal();
+    return menu.GetMenuIndex() < 0 ? std::nullopt : std::optional(static_cast<Figure>(menu.GetMenuIndex()));
+}
+
+std::optional<CReport> CComputations::Foot() {
+    m_questions.Begin(IDS_FOOT);
+    CCoordinate first, second, point;
+    if (!m_questions.AskPoint(IDS_LINE_FIRST, first) || !m_questions.AskPoint(IDS_LINE_FIRST + 1, second) ||
+        !m_questions.AskPoint(IDS_FOOT_POINT, point))
+        return std::nullopt;
+    COffset offset{};
+    const Verdict verdict = FindOffset(first, second, point, offset);
+    CReport report = MakeReport(IDS_FOOT, IDS_FOOT_NAME, {verdict, {offset.foot}});
+    if (verdict == Verdict::Found) {
+        const bool bRight = offset.dToTheRight >= 0;
+        report.notes.push_back({IDS_ALONG, Unit::Length, offset.dAlong});
+        report.notes.push_back({static_cast<UINT>(bRight ? IDS_OFFSET_RIGHT : IDS_OFFSET_LEFT), Unit::Length,
+                                std::fabs(offset.dToTheRight)});
+        report.drawing.AddLine(point, offset.foot, kBounded, Role::Result);
+    }
+    report.drawing.AddLine(first, second, kUnbounded, Role::Given);
+    return Finish(report);
+}
+
+std::optional<CReport> CComputations::Area() {
+    m_questions.Begin(IDS_AREA);
+    std::vector<CCoordinate> corners;
+    if (!m_questions.AskCorners(IDS_VERTEX, corners))
+        return std::nullopt;
+    CPolygon polygon{};
+    const Verdict verdict = MeasurePolygon(corners, polygon);
+    if (verdict != Verdict::Found)
+        return Finish(MakeReport(IDS_AREA, IDS_AREA, {verdict, {}}));
+    CReport report = MakeReport(IDS_AREA, {{IDS_PERIMETER, Unit::Length, polygon.dPerimeter}});
+    if (polygon.bCrosses)
+        report.notes.push_back({IDS_SIDES_CROSS});
+    else
+        report.notes.insert(report.notes.begin(), {IDS_AREA_LINE, Unit::Length, polygon.dArea});
+    for (size_t i = 0; i < corners.size(); ++i)
+        report.drawing.AddLine(corners[i], corners[(i + 1) % corners.size()], kBounded, Role::Result);
     return Finish(report);
 }
 

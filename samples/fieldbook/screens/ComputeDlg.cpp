@@ -19,10 +19,12 @@ CComputeDlg::CComputeDlg(CJob& job, CWnd* pParent)
 void CComputeDlg::OnComputation(UINT nID) {
     using Computation = std::optional<CReport> (CComputations::*)();
     static constexpr Computation kComputations[] = {
-        &CComputations::Lines,    &CComputations::LineCircle, &CComputations::Circles,
-        &CComputations::Bearings, &CComputations::ArcCentre,  &CComputations::Curve,
-        &CComputations::Inverse,  &CComputations::Extent,
+        &CComputations::Lines,     &CComputations::LineCircle, &CComputations::Circles,
+        &CComputations::Bearings,  &CComputations::Combined,   &CComputations::Foot,
+        &CComputations::ArcCentre, &CComputations::Curve,      &CComputations::Inverse,
+        &CComputations::Extent,    &CComputations::Area,
     };
+    static_assert(std::size(kComputations) == IDC_COMPUTATION_LAST - IDC_COMPUTATION_FIRST + 1);
     const Computation computation = kComputations[nID - IDC_COMPUTATION_FIRST];
     if (const std::optional<CReport> report = (m_computations.*computation)())
         ShowReport(m_job, *report, *this);

@@ -13,7 +13,7 @@
 #include "dialogs/ResMsgBox.h"
 
 void CFileCommands::RunMenu() {
-    enum { EntryOpen, EntryNew, EntrySave, EntrySaveAs, EntryFolder, EntryCount };
+    enum { EntryOpen, EntryPrevious, EntryNew, EntrySave, EntrySaveAs, EntryFolder, EntryCount };
     CUIntArray entries;
     for (UINT nEntry = 0; nEntry < EntryCount; ++nEntry)
         entries.Add(IDS_FILE_MENU_FIRST + nEntry);
@@ -22,6 +22,8 @@ void CFileCommands::RunMenu() {
     switch (menu.GetMenuIndex()) {
     case EntryOpen:
         return Open();
+    case EntryPrevious:
+        return OpenPrevious();
     case EntryNew:
         return New();
     case EntrySave:
@@ -56,6 +58,13 @@ void CFileCommands::Open() {
     const CString strPath = AskForFile(m_parent, m_job.settings, CFileSelectDlg::ModeOpen, L"");
     if (!strPath.IsEmpty())
         OpenPointsFile(m_job, strPath, m_parent);
+}
+
+void CFileCommands::OpenPrevious() {
+    if (m_job.settings.strPrevious.IsEmpty())
+        CResMsgBox().InformationMsgBox(IDS_NO_PREVIOUS);
+    else if (MayGiveUpPoints())
+        OpenPointsFile(m_job, m_job.settings.strPrevious, m_parent);
 }
 
 void CFileCommands::New() {

@@ -20,6 +20,7 @@ public:
 
 private:
     void Open();
+    void OpenPrevious();
     void New();
     /// @return false if the points are not saved
     bool Save();

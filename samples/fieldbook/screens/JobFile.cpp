@@ -27,9 +27,19 @@ void Record(CJob& job, const CPointChange& change) {
     }
 }
 
+/// Remembers the file before this one: crews go back and forth between two jobs.
+void UseFile(CSettings& settings, const CString& strPath) {
+    const CString strFile = FullPathOf(strPath);
+    if (strPath.IsEmpty() || IsSamePath(strFile, settings.strFile))
+        return;
+    settings.strPrevious = settings.strFile;
+    settings.strFile = strFile;
+}
+
 /// From now on changes are recorded.
 void BeginJob(CJob& job, const CString& strPath, std::uint64_t nContent) {
     job.strPath = strPath;
+    UseFile(job.settings, strPath);
     job.nContent = nContent;
     job.bRecorded = true;
     job.bWritten = false;
@@ -217,6 +227,7 @@ bool SavePointsFile(CJob& job, const CString& strPath) {
     if (job.book.GetCount() != 0) // a file without points is of no kind; the next ones get theirs back
         job.format = format;
     job.strPath = strPath;
+    UseFile(job.settings, strPath);
     job.nContent = HashOf(bytes);
     job.bRecorded = true;
     job.bWritten = true;

@@ -8,12 +8,14 @@
 void CJournal::SetPointsPath(const CString& strPointsPath) {
     const int nDot = strPointsPath.ReverseFind(L'.');
     const int nSlash = strPointsPath.ReverseFind(L'\\');
+    m_strFile = strPointsPath.Mid(nSlash + 1);
     m_strPath = (nDot > nSlash ? strPointsPath.Left(nDot) : strPointsPath) + L"_results.txt";
     m_bWritable = true;
 }
 
 void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines) {
-    m_entries.push_back({strTitle, lines});
+    const CString strTime = CTime::GetCurrentTime().Format(L"%Y-%m-%d %H:%M");
+    m_entries.push_back({strTitle, lines, strTime, m_strFile});
     if (!m_bWritable)
         return;
     try {
@@ -22,7 +24,7 @@ void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines
         if (!file.Open(m_strPath, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite, &error))
             AfxThrowFileException(error.m_cause, error.m_lOsError, m_strPath);
         file.SeekToEnd();
-        file.WriteString(SpellForOem(strTitle));
+        file.WriteString(strTime + L"  " + SpellForOem(strTitle));
         for (const CString& strLine : lines)
             file.WriteString(SpellForOem(strLine));
         file.Close();

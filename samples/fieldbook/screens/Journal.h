@@ -18,8 +18,8 @@ public:
     /// @param strPointsPath the points file; the journal gets its name with "_results.txt"
     void SetPointsPath(const CString& strPointsPath);
 
-    /// Appends a title and its lines. A journal that cannot be written is told once and then only
-    /// remembered: the results themselves are on the screen.
+    /// Appends a title, with the time, and its lines. A journal that cannot be written is told once and then
+    /// only remembered: the results themselves are on the screen.
     void Append(const CString& strTitle, const std::vector<CString>& lines);
 
     /// The results since the points file was opened, not those that were in the journal before.
@@ -27,6 +27,7 @@ public:
 
 private:
     CString m_strPath;
+    CString m_strFile; ///< The name of the points file.
     bool m_bWritable = false;
     std::vector<CJournalEntry> m_entries;
 };

@@ -12,6 +12,7 @@ constexpr DWORD_PTR kTitle = static_cast<DWORD_PTR>(-1);
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CJournalDlg, CnDialog)
+    ON_EN_CHANGE(IDC_PART, &CJournalDlg::OnPart)
     ON_NOTIFY(TVN_SELCHANGED, IDC_JOURNAL_TREE, &CJournalDlg::OnSelChanged)
 END_MESSAGE_MAP()
 // clang-format on
@@ -29,23 +30,42 @@ void CJournalDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CJournalDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    m_part.Attach(IDC_PART, this, SipOptionMode0);
     FillTree();
-    return TRUE;
+    m_tree.SetFocus(); // the panel comes with the field
+    return FALSE;
+}
+
+void CJournalDlg::OnPart() {
+    m_tree.DeleteAllItems();
+    m_lines.Show({});
+    FillTree();
 }
 
 void CJournalDlg::FillTree() {
-    for (const CJournalGroup& group : GroupByTitle(m_journal.GetEntries())) {
+    CString strPart;
+    m_part.GetWindowText(strPart);
+    for (const CJournalGroup& group : GroupByTitle(m_journal.GetEntries(), strPart)) {
         const HTREEITEM hTitle = m_tree.InsertItem(group.strTitle);
         m_tree.SetItemData(hTitle, kTitle);
         int nNumber = 0;
         for (const size_t nEntry : group.entries)
             m_tree.SetItemData(m_tree.InsertItem(Text(IDS_RESULT_NUMBER, ++nNumber), hTitle), nEntry);
+        if (!strPart.IsEmpty())
+            m_tree.Expand(hTitle, TVE_EXPAND); // who looks for a point wants to see it
     }
 }
 
 void CJournalDlg::OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     const LPARAM nEntry = reinterpret_cast<const NMTREEVIEW*>(pNMHDR)->itemNew.lParam;
     const auto nIndex = static_cast<size_t>(nEntry);
-    m_lines.Show(nIndex == kTitle ? std::vector<CString>() : m_journal.GetEntries()[nIndex].lines);
+    std::vector<CString> lines;
+    if (nIndex != kTitle) {
+        const CJournalEntry& entry = m_journal.GetEntries()[nIndex];
+        lines = entry.lines;
+        lines.push_back(Text(IDS_TIME, entry.strTime.GetString()));
+        lines.push_back(Text(IDS_FILE, entry.strFile.GetString()));
+    }
+    m_lines.Show(lines);
     *pResult = 0;
 }

@@ -4,6 +4,7 @@
 
 #include "controls/nDialog.h"
 
+#include "screens/EntryControls.h"
 #include "screens/Journal.h"
 #include "screens/LineLists.h"
 #include "screens/ListControls.h"
@@ -18,6 +19,8 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    /// Leaves the results that have what was typed in one of their lines.
+    afx_msg void OnPart();
     afx_msg void OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
 
@@ -25,6 +28,7 @@ private:
     void FillTree();
 
     const CJournal& m_journal;
+    CCodeEdit m_part;
     CJournalTree m_tree;
     CResultList m_lines;
 };

@@ -10,6 +10,8 @@
 struct CJournalEntry {
     CString strTitle;
     std::vector<CString> lines;
+    CString strTime; ///< When it was computed.
+    CString strFile; ///< The name of the points file; empty while there was none.
 };
 
 /// The results of one computation.
@@ -19,7 +21,8 @@ struct CJournalGroup {
 };
 
 /// The results by their titles, which stand in the order in which they first appear.
-std::vector<CJournalGroup> GroupByTitle(const std::vector<CJournalEntry>& entries);
+/// @param strPart leaves the results that have it in one of their lines, in either case; empty: all
+std::vector<CJournalGroup> GroupByTitle(const std::vector<CJournalEntry>& entries, const CString& strPart);
 
 /// Takes a line apart at the blanks: "  N  -35300.000" is "N" and "-35300.000". A line without
 /// two blanks between its parts is the first part alone.

@@ -25,6 +25,7 @@ constexpr UINT kEntryCount = 8;
 BEGIN_MESSAGE_MAP(CMainMenu, CButtonMenuDlg)
     ON_MESSAGE(WM_OPEN_FIRST, &CMainMenu::OnOpenFirst)
     ON_WM_QUERYENDSESSION()
+    ON_WM_ENDSESSION()
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -47,6 +48,7 @@ BOOL CMainMenu::OnInitDialog() {
 LRESULT CMainMenu::OnOpenFirst(WPARAM, LPARAM) {
     if (!OpenPointsFile(m_job, m_strFirstPath, *this))
         BeginWithoutFile(m_job);
+    KeepSettings(m_job.settings); // which file was used last
     ShowTitle();
     return 0;
 }
@@ -85,6 +87,12 @@ BOOL CMainMenu::OnQueryEndSession() {
     return TRUE;
 }
 
+/// Nothing behind DoModal is reached any more.
+void CMainMenu::OnEndSession(BOOL bEnding) {
+    if (bEnding)
+        m_job.history.Save();
+}
+
 void CMainMenu::OnPointEntry() {
     CPointEntryDlg dialog(m_job, this);
     dialog.DoModal();
@@ -113,6 +121,7 @@ void CMainMenu::OnJournal() {
 
 void CMainMenu::OnFile() {
     m_files.RunMenu();
+    KeepSettings(m_job.settings); // which file was used last
 }
 
 void CMainMenu::OnExport() {

@@ -25,6 +25,7 @@ protected:
     afx_msg LRESULT OnOpenFirst(WPARAM wParam, LPARAM lParam);
     /// The system's session is about to end.
     afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
 
     DECLARE_MESSAGE_MAP()
 

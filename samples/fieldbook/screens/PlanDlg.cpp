@@ -3,6 +3,8 @@
 #include "compute/Compute.h"
 #include "screens/Resource.h"
 
+#include <utility>
+
 namespace {
 
 constexpr double kZoomStep = 2;
@@ -50,13 +52,17 @@ BOOL CPlanDlg::OnInitDialog() {
 
 LRESULT CPlanDlg::OnPointTapped(WPARAM wParam, LPARAM) {
     m_strPicked = m_drawing.GetPoints()[wParam].strName;
+    m_pCentre = &m_drawing.GetPoints()[wParam].point;
     SetWindowText(m_strTitle + L"  " + m_strPicked);
     if (m_bPick)
         EndDialog(IDOK);
     return 0;
 }
 
+/// Who has tapped a point wants to see what is around it.
 void CPlanDlg::OnZoomIn() {
+    if (m_pCentre != nullptr)
+        m_view.Centre(*std::exchange(m_pCentre, nullptr));
     m_view.Zoom(kZoomStep);
 }
 

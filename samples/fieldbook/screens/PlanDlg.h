@@ -37,6 +37,7 @@ private:
     const CDrawing& m_drawing;
     CString m_strTitle;
     CString m_strPicked;
+    const CCoordinate* m_pCentre = nullptr; ///< Of the next larger plan: the point tapped last.
     bool m_bPick = false;
     CPlanView m_view;
     CIconButton m_zoomIn;

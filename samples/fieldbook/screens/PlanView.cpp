@@ -4,6 +4,7 @@
 #include "screens/Resource.h"
 #include "screens/Text.h"
 
+#include <cmath>
 #include <cstdlib>
 
 // clang-format off
@@ -35,6 +36,13 @@ void CPlanView::ShowAll() {
 
 void CPlanView::Zoom(double dTimes) {
     SetScale(m_scale.Zoomed(dTimes));
+}
+
+void CPlanView::Centre(const CCoordinate& point) {
+    const CVector pixel = m_scale.ToPixel(point);
+    const CSize size = GetSize();
+    SetScale(m_scale.Panned({static_cast<int>(std::lround(size.cx / 2.0 - pixel.GetX())),
+                             static_cast<int>(std::lround(size.cy / 2.0 - pixel.GetY()))}));
 }
 
 void CPlanView::SetScale(const CPlanScale& scale) {

@@ -20,6 +20,8 @@ public:
     /// @param dTimes more than 1 for a larger plan; its middle stays
     void Zoom(double dTimes);
     void ShowAll();
+    /// The plan goes so far that a point lies in its middle.
+    void Centre(const CCoordinate& point);
 
 protected:
     afx_msg void OnPaint();

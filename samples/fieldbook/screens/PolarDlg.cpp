@@ -72,6 +72,17 @@ CReport CPolarDlg::Report(const CNamedPoint& from, double dDistance) {
     const CCoordinate point = FindPolarPoint(from.point, dDirection, dDistance);
     CReport report = MakeReport(IDS_POLAR, IDS_NEW_POINT, {Verdict::Found, {point}});
     report.notes.push_back({IDS_DIRECTION_LINE, CReportLine::Unit::Direction, dDirection});
+    const auto typed = [this](int nId) {
+        CString strText;
+        GetDlgItemText(nId, strText);
+        return strText;
+    };
+    const bool bLeft = IsDlgButtonChecked(IDC_TURN_LEFT) != 0;
+    report.inputs = {
+        {IDS_POLAR_FROM, 0, from.strName, from.point},
+        {IDS_POLAR_DIRECTION, 0, typed(IDC_DIRECTION), {}},
+        {static_cast<UINT>(bLeft ? IDS_POLAR_TURN_LEFT : IDS_POLAR_TURN), 0, typed(IDC_TURN), {}},
+        {IDS_POLAR_DISTANCE, 0, typed(IDC_DISTANCE), {}}};
     report.drawing.AddPoint(from.strName, from.point, Role::Given);
     report.drawing.AddLine(from.point, point, false, Role::Given);
     return report;

@@ -41,6 +41,7 @@ protected:
 
 void CQuestions::Begin(UINT nTitleId) {
     m_nTitleId = nTitleId;
+    m_inputs.clear();
     m_points.clear();
 }
 
@@ -68,29 +69,65 @@ bool CQuestions::AskNumber(UINT nQuestionId, const Check& check) {
         strAnswer = dialog.GetString();
         return true;
     };
-    return Ask(nQuestionId, put, check);
+    if (!Ask(nQuestionId, put, check))
+        return false;
+    m_inputs.push_back({nQuestionId, 0, m_lastAnswers[nQuestionId], {}});
+    return true;
+}
+
+bool CQuestions::PutName(const CString& strQuestion, CString& strName) {
+    CNameDlg dialog(strQuestion, Text(m_nTitleId), m_job.history, &m_parent);
+    dialog.SetName(strName);
+    dialog.OfferPoints(m_job);
+    if (dialog.DoModal() != IDOK)
+        return false;
+    strName = dialog.GetName();
+    return true;
+}
+
+CString CQuestions::TakePoint(UINT nQuestionId, int nNumber, const CString& strName, CCoordinate& point) {
+    const CCoordinate* const pFound = m_job.book.Find(strName);
+    if (pFound == nullptr)
+        return Text(IDS_UNKNOWN_POINT, strName.GetString());
+    if (!HasPosition(*pFound))
+        return Text(IDS_POINT_WITHOUT_NE, strName.GetString());
+    point = *pFound;
+    m_inputs.push_back({nQuestionId, nNumber, strName, point});
+    m_points.push_back({strName, point});
+    m_job.history.Add(strName);
+    return CString();
 }
 
 bool CQuestions::AskPoint(UINT nQuestionId, CCoordinate& point) {
-    const auto put = [&](CString& strName) {
-        CNameDlg dialog(Text(nQuestionId), Text(m_nTitleId), m_job.history, &m_parent);
-        dialog.SetName(strName);
-        dialog.OfferPoints(m_job);
-        if (dialog.DoModal() != IDOK)
+    return Ask(
+        nQuestionId, [&](CString& strName) { return PutName(Text(nQuestionId), strName); },
+        [&](const CString& strName) { return TakePoint(nQuestionId, 0, strName, point); });
+}
+
+bool CQuestions::AskCorners(UINT nQuestionId, std::vector<CCoordinate>& corners) {
+    constexpr size_t kLeastCorners = 3;
+    for (CString strName;;) {
+        const int nNumber = static_cast<int>(corners.size()) + 1;
+        if (!PutName(Text(nQuestionId, nNumber), strName))
             return false;
-        strName = dialog.GetName();
-        return true;
-    };
-    return Ask(nQuestionId, put, [&](const CString& strName) {
-        const CCoordinate* const pFound = m_job.book.Find(strName);
-        if (pFound == nullptr)
-            return Text(IDS_UNKNOWN_POINT, strName.GetString());
-        if (!HasPosition(*pFound))
-            return Text(IDS_POINT_WITHOUT_NE, strName.GetString());
-        point = *pFound;
-        m_points.push_back({strName, point});
-        m_job.history.Add(strName);
-        return CString();
+        const bool bClosed = strName.IsEmpty() || (!m_points.empty() && strName == m_points.front().strName);
+        if (bClosed && corners.size() >= kLeastCorners)
+            return true;
+        CCoordinate corner;
+        const CString strProblem =
+            bClosed ? Text(IDS_FEW_CORNERS) : TakePoint(nQuestionId, nNumber, strName, corner);
+        if (!strProblem.IsEmpty()) {
+            CResMsgBox().ErrorMsgBox(strProblem);
+            continue;
+        }
+        corners.push_back(corner);
+        strName.Empty();
+    }
+}
+
+bool CQuestions::AskNumber(UINT nQuestionId, double& dNumber) {
+    return AskNumber(nQuestionId, [&](const CString& strAnswer) {
+        return TVString2Double(&strAnswer, &dNumber) ? CString() : Text(IDS_BAD_NUMBER);
     });
 }
 

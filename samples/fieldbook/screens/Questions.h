@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include "screens/Job.h"
+#include "screens/Report.h"
 
 #include <functional>
 #include <map>
@@ -21,6 +22,8 @@ public:
     /// Begins a round of questions.
     /// @param nTitleId their title, a string id
     void Begin(UINT nTitleId);
+    /// What was answered in this round.
+    const std::vector<CReportInput>& GetInputs() const { return m_inputs; }
     /// The points that were named in this round.
     const std::vector<CNamedPoint>& GetPoints() const { return m_points; }
 
@@ -29,6 +32,9 @@ public:
 
     /// @param point has N and E
     bool AskPoint(UINT nQuestionId, CCoordinate& point);
+    /// Asks for points, at least three, until an empty answer or the first point again.
+    bool AskCorners(UINT nQuestionId, std::vector<CCoordinate>& corners);
+    bool AskNumber(UINT nQuestionId, double& dNumber);
     /// @param dRadius more than 0
     bool AskRadius(UINT nQuestionId, double& dRadius);
     /// @param dAngle in radians; the user types d.mmss
@@ -41,10 +47,14 @@ private:
     using Check = std::function<CString(const CString& strAnswer)>;
     bool Ask(UINT nQuestionId, const Put& put, const Check& check);
     bool AskNumber(UINT nQuestionId, const Check& check);
+    bool PutName(const CString& strQuestion, CString& strName);
+    /// Looks a point up and remembers it.
+    CString TakePoint(UINT nQuestionId, int nNumber, const CString& strName, CCoordinate& point);
 
     CWnd& m_parent;
     CJob& m_job;
     UINT m_nTitleId = 0;
+    std::vector<CReportInput> m_inputs;
     std::vector<CNamedPoint> m_points;
     std::map<UINT, CString> m_lastAnswers; ///< By question.
 };

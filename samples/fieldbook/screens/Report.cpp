@@ -4,7 +4,7 @@
 #include "screens/Resource.h"
 #include "screens/Text.h"
 
-static_assert(IDS_VERDICT_FIRST + kVerdictCount - 1 <= IDS_COMPUTED, "a text for each verdict but Found");
+static_assert(IDS_VERDICT_LAST - IDS_VERDICT_FIRST + 2 == kVerdictCount, "a text for each verdict but Found");
 
 namespace {
 
@@ -26,6 +26,16 @@ CString ValueText(const CReportLine& line, const CSettings& settings) {
     default:
         return line.strName;
     }
+}
+
+/// A question without its explanations: "円の中心の点名" asks for "円の中心".
+CString LabelOf(const CReportInput& input) {
+    const CString strName = L"の点名";
+    CString strLabel = Text(input.nQuestionId, input.nNumber);
+    const int nEnd = strLabel.FindOneOf(L"\n（");
+    strLabel = nEnd < 0 ? strLabel : strLabel.Left(nEnd);
+    const int nName = strLabel.GetLength() - strName.GetLength();
+    return nName > 0 && strLabel.Mid(nName) == strName ? strLabel.Left(nName) : strLabel;
 }
 
 } // namespace
@@ -78,5 +88,13 @@ std::vector<CString> LinesOf(const CReport& report, const CSettings& settings) {
             lines.push_back(strLine);
     for (const CReportLine& note : report.notes)
         lines.push_back(TextOf(note, settings));
+    if (!report.inputs.empty())
+        lines.push_back(Text(IDS_INPUTS));
+    for (const CReportInput& input : report.inputs) {
+        lines.push_back(L"  " + LabelOf(input) + L"  " + input.strAnswer);
+        if (input.point)
+            lines.push_back(L"  N, E  " + LengthText(input.point->GetN(), settings.nDecimals) + L", " +
+                            LengthText(input.point->GetE(), settings.nDecimals));
+    }
     return lines;
 }

@@ -9,6 +9,8 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
 /// A line of a result besides its points.
 struct CReportLine {
     enum class Unit { None, Length, Direction, Number, Percent, OneIn, Name };
@@ -19,11 +21,20 @@ struct CReportLine {
     CString strName{};
 };
 
+/// What the user answered.
+struct CReportInput {
+    UINT nQuestionId; ///< A string id; with a place for the number.
+    int nNumber;      ///< Of a question that is asked several times, else 0.
+    CString strAnswer;
+    std::optional<CCoordinate> point; ///< The point of that name.
+};
+
 struct CReport {
     UINT nTitleId = 0;               ///< The computation, a string id.
     UINT nMessageId = 0;             ///< How it ended; with a place for the number of points.
     std::vector<CNamedPoint> points; ///< The solutions, by what they are called.
     std::vector<CReportLine> notes;
+    std::vector<CReportInput> inputs; ///< In the order of the questions.
     CDrawing drawing;
 };
 

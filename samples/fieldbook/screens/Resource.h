@@ -16,17 +16,20 @@
 #define IDD_PICK 2012
 
 // Computations: the buttons, in the order of the computations
-#define IDC_COMPUTATION_FIRST 2103
-#define IDC_LINES 2103
-#define IDC_LINE_CIRCLE 2104
-#define IDC_CIRCLES 2105
-#define IDC_BEARINGS 2106
+#define IDC_COMPUTATION_FIRST 2101
+#define IDC_LINES 2101
+#define IDC_LINE_CIRCLE 2102
+#define IDC_CIRCLES 2103
+#define IDC_BEARINGS 2104
+#define IDC_COMBINED 2105
+#define IDC_FOOT 2106
 #define IDC_ARC_CENTRE 2107
 #define IDC_CURVE 2108
 #define IDC_INVERSE 2109
 #define IDC_EXTENT 2110
-#define IDC_COMPUTATION_LAST 2110
-#define IDC_POLAR 2111
+#define IDC_AREA 2111
+#define IDC_COMPUTATION_LAST 2111
+#define IDC_POLAR 2112
 
 // Result of a computation; with IDC_MESSAGE and IDC_LEGEND
 #define IDC_REPORT 2115
@@ -85,32 +88,35 @@
 #define IDS_BEARINGS 2205
 #define IDS_INVERSE 2206
 #define IDS_EXTENT 2207
+#define IDS_COMBINED 2208
+#define IDS_FOOT 2209
+#define IDS_AREA 2219
 
-// What the user is asked for
-#define IDS_LINE1_START 2210
-#define IDS_LINE1_END 2211
-#define IDS_LINE2_START 2212
-#define IDS_LINE2_END 2213
-#define IDS_LINE_START 2214
-#define IDS_LINE_END 2215
-#define IDS_CIRCLE_CENTRE 2216
-#define IDS_CIRCLE_RADIUS 2217
-#define IDS_CIRCLE1_CENTRE 2218
-#define IDS_CIRCLE1_RADIUS 2219
-#define IDS_CIRCLE2_CENTRE 2220
-#define IDS_CIRCLE2_RADIUS 2221
+// What the user is asked for. Figures: the questions for the only one of its kind, for the first
+// of two and for the second
+#define IDS_LINE_FIRST 2480
+#define IDS_SIGHT_FIRST 2490
+#define IDS_PARALLEL_FIRST 2500
+#define IDS_CIRCLE_FIRST 2510
+#define IDS_FIGURE_FIRST 2520 // kinds, in the order of Figure
+#define IDS_FIRST_FIGURE 2525
+#define IDS_SECOND_FIGURE 2526
 #define IDS_ARC_START 2222
 #define IDS_ARC_END 2223
 #define IDS_ARC_ANGLE 2224
 #define IDS_CURVE_START 2225
 #define IDS_CURVE_CENTRE 2226
 #define IDS_CURVE_END 2227
-#define IDS_BEARING_FROM_A 2228
-#define IDS_BEARING_A 2229
-#define IDS_BEARING_FROM_B 2230
-#define IDS_BEARING_B 2231
+#define IDS_FOOT_POINT 2228
+#define IDS_VERTEX 2229
+#define IDS_FEW_CORNERS 2230
 #define IDS_INVERSE_FROM 2232
 #define IDS_INVERSE_TO 2233
+#define IDS_POLAR_FROM 2234
+#define IDS_POLAR_DIRECTION 2235
+#define IDS_POLAR_TURN 2236
+#define IDS_POLAR_TURN_LEFT 2237
+#define IDS_POLAR_DISTANCE 2238
 
 // Why an answer was refused
 #define IDS_UNKNOWN_POINT 2240
@@ -149,6 +155,14 @@
 #define IDS_SLOPE_DISTANCE 2445
 #define IDS_GRADIENT 2446
 #define IDS_BEHIND 2447
+#define IDS_FOOT_NAME 2545
+#define IDS_ALONG 2546
+#define IDS_OFFSET_RIGHT 2547
+#define IDS_OFFSET_LEFT 2548
+#define IDS_AREA_LINE 2549
+#define IDS_PERIMETER 2550
+#define IDS_SIDES_CROSS 2551
+#define IDS_BAD_NUMBER 2552
 #define IDS_SLOPE 2357
 #define IDS_NORTH_SOUTH_LINE 2358
 #define IDS_CHOOSE_SOLUTION 2354
@@ -156,7 +170,8 @@
 #define IDS_KEEP_POINT 2356
 
 // Why there is no result, in the order of Verdict, from SamePoint on
-#define IDS_VERDICT_FIRST 2260
+#define IDS_VERDICT_FIRST 2530
+#define IDS_VERDICT_LAST 2540
 
 // Why a line of the file was left out, in the order of LineFault, from TooFewFields on
 #define IDS_FAULT_FIRST 2280
@@ -170,6 +185,7 @@
 // File menu: the title, and the entries in the order of its commands
 #define IDS_FILE_MENU 2293
 #define IDS_FILE_MENU_FIRST 2470
+#define IDS_NO_PREVIOUS 2299
 #define IDS_ASK_SAVE 2294
 #define IDS_ASK_GIVE_UP 2295
 #define IDS_BACKUP_KEPT 2296
@@ -247,6 +263,9 @@
 #define IDS_RESULT_NUMBER 2350
 #define IDS_COLUMN_ITEM 2351
 #define IDS_COLUMN_VALUE 2352
+#define IDS_TIME 2353
+#define IDS_FILE 2366
+#define IDS_INPUTS 2367
 
 // Settings
 #define IDS_SETTINGS 2360

@@ -10,6 +10,8 @@ constexpr wchar_t kSection[] = L"Settings";
 constexpr wchar_t kTenths[] = L"Tenths";
 constexpr wchar_t kTolerance[] = L"Tolerance";
 constexpr wchar_t kFolder[] = L"Folder";
+constexpr wchar_t kFile[] = L"File";
+constexpr wchar_t kPrevious[] = L"Previous";
 constexpr wchar_t kColumns[] = L"Columns";
 constexpr wchar_t kOrder[] = L"Order";
 
@@ -36,6 +38,8 @@ CSettings LoadSettings(CWinApp& app) {
     settings.bTenths = LoadIndex(app, kTenths, 2);
     settings.nTolerance = LoadIndex(app, kTolerance, std::size(kTolerances));
     settings.strFolder = app.GetProfileString(kSection, kFolder);
+    settings.strFile = app.GetProfileString(kSection, kFile);
+    settings.strPrevious = app.GetProfileString(kSection, kPrevious);
     const std::vector<Column> columns = ColumnsOf(app.GetProfileString(kSection, kColumns));
     if (!columns.empty())
         settings.columns = columns;
@@ -50,6 +54,8 @@ bool SaveSettings(CWinApp& app, const CSettings& settings) {
     return app.WriteProfileInt(kSection, kTenths, settings.bTenths) &&
            app.WriteProfileInt(kSection, kTolerance, settings.nTolerance) &&
            app.WriteProfileString(kSection, kFolder, settings.strFolder) &&
+           app.WriteProfileString(kSection, kFile, settings.strFile) &&
+           app.WriteProfileString(kSection, kPrevious, settings.strPrevious) &&
            app.WriteProfileString(kSection, kColumns, LettersOf(settings.columns)) &&
            app.WriteProfileString(kSection, kOrder, LettersOf(settings.order)) && bShared;
 }

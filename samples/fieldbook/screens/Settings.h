@@ -14,10 +14,12 @@ constexpr int kMaxDecimals = 5;
 constexpr double kTolerances[] = {1e-6, 1e-5, 1e-4};
 
 struct CSettings {
-    int nDecimals = 3;  ///< Of coordinates: the device's shared setting, MIN_ to kMaxDecimals.
-    int bTenths = 0;    ///< Whether seconds are shown with their tenths; 0 or 1.
-    int nTolerance = 0; ///< Index into kTolerances.
-    CString strFolder;  ///< Where the file dialogs begin; empty if none has been chosen yet.
+    int nDecimals = 3;   ///< Of coordinates: the device's shared setting, MIN_ to kMaxDecimals.
+    int bTenths = 0;     ///< Whether seconds are shown with their tenths; 0 or 1.
+    int nTolerance = 0;  ///< Index into kTolerances.
+    CString strFolder;   ///< Where the file dialogs begin; empty if none has been chosen yet.
+    CString strFile;     ///< The points file that was used last, with its whole path.
+    CString strPrevious; ///< The one before it; empty if there was none.
     std::vector<Column> columns = {Column::Name, Column::N, Column::E, Column::Z}; ///< Of the export.
     std::vector<Column> order; ///< Of files without a heading; empty until one was opened.
 };

@@ -1,4 +1,4 @@
-#include "compute/Compute.h"
+#include "compute/Figure.h"
 
 #include "compute/PackedAngle.h"
 #include "points/FileReplacement.h"
@@ -146,24 +146,84 @@ TEST_F(Compute, DirectionAndDistanceLeadToThePoint) {
     ExpectPoints({Verdict::Found, {FindPolarPoint(t1, -QUARTER, 10)}}, {At(-35345, 13215)});
 }
 
-TEST_F(Compute, SightsFromTwoPointsMeet) {
+TEST_F(Compute, FiguresMeetInAnyCombination) {
     const CCoordinate t1 = Point(L"T1");
     const CCoordinate t2 = Point(L"T2"); // (30, 40) from T1
     const double dToT2 = std::atan2(40, 30);
-    ExpectPoints(IntersectBearings(t1, 0, t2, -QUARTER), {At(-35315, 13225)});
-    ExpectPoints(IntersectBearings(t1, 2 * QUARTER, t2, QUARTER), {At(-35315, 13225)}); // behind both
-    ExpectPoints(IntersectBearings(t1, dToT2, t2, 0), {t2});
-    ExpectPoints(IntersectBearings(t1, 0.5, At(-35315, 13225 + 30 * std::tan(0.5)), 2), // on the way
+    const auto sights = [](const CCoordinate& a, double dA, const CCoordinate& b, double dB) {
+        return Meet(LineTowards(a, dA), LineTowards(b, dB));
+    };
+    ExpectPoints(sights(t1, 0, t2, -QUARTER), {At(-35315, 13225)});
+    ExpectPoints(sights(t1, 2 * QUARTER, t2, QUARTER), {At(-35315, 13225)}); // behind both
+    ExpectPoints(sights(t1, dToT2, t2, 0), {t2});
+    ExpectPoints(sights(t1, 0.5, At(-35315, 13225 + 30 * std::tan(0.5)), 2), // on the way
                  {At(-35315, 13225 + 30 * std::tan(0.5))});
-
     CVector::SetTolerance(1e-4);
-    ExpectPoints(IntersectBearings(t1, 5e-7, At(-25345, 13325), -QUARTER), {At(-25345, 13225.005)}); // 10 km
+    ExpectPoints(sights(t1, 5e-7, At(-25345, 13325), -QUARTER), {At(-25345, 13225.005)}); // 10 km
     CVector::SetTolerance(1e-6);
+    ExpectNone(sights(t1, 1, t2, 1), Verdict::Parallel);
+    ExpectNone(sights(t1, 1, t2, 1 + 2 * QUARTER), Verdict::Parallel);
+    ExpectNone(sights(t1, dToT2, t2, dToT2), Verdict::Parallel); // one and the same line
 
-    ExpectNone(IntersectBearings(t1, 1, t2, 1), Verdict::Parallel);
-    ExpectNone(IntersectBearings(t1, 1, t2, 1 + 2 * QUARTER), Verdict::Parallel);
-    ExpectNone(IntersectBearings(t1, dToT2, t2, dToT2), Verdict::Parallel); // one and the same line
-    ExpectNone(IntersectBearings(t1, 1, t1, 2), Verdict::SamePoint);
+    // 4 m to the right of a wall that runs north, 3 m to the left of one that runs east.
+    const CFigure wall = LineBeside(At(0, 0), At(10, 0), 4);
+    ExpectPoints(Meet(wall, LineBeside(At(0, 0), At(0, 10), -3)), {At(3, 4)});
+    ExpectPoints(Meet(wall, CircleAround(At(0, 0), 5)), {At(3, 4), At(-3, 4)});
+    ExpectPoints(Meet(CircleAround(At(0, 0), 5), LineTowards(At(-9, 4), 0)), {At(3, 4), At(-3, 4)});
+    ExpectPoints(Meet(CircleAround(t1, 40), CircleAround(t2, 30)), {Point(L"境界1"), Point(L"境界2")});
+    ExpectNone(Meet(LineBeside(t1, t1, 4), wall), Verdict::SamePoint);
+}
+
+TEST_F(Compute, PointBesideALine) {
+    const struct {
+        CCoordinate point;
+        CCoordinate foot;
+        double dAlong;
+        double dToTheRight;
+    } cases[] = {
+        {At(10, 5), At(10, 0), 10, 5},
+        {At(-3, -2), At(-3, 0), -3, -2},
+        {At(40, 0), At(40, 0), 40, 0},
+    };
+    COffset offset{};
+    for (const auto& c : cases) {
+        EXPECT_EQ(FindOffset(At(0, 0), At(20, 0), c.point, offset), Verdict::Found);
+        ExpectPoints({Verdict::Found, {offset.foot}}, {c.foot});
+        EXPECT_DOUBLE_EQ(offset.dAlong, c.dAlong);
+        EXPECT_DOUBLE_EQ(offset.dToTheRight, c.dToTheRight);
+    }
+    EXPECT_EQ(FindOffset(At(1, 1), At(1, 1), At(2, 2), offset), Verdict::SamePoint);
+    EXPECT_EQ(FindOffset(At(1, 1), CCoordinate(), At(2, 2), offset), Verdict::NoPosition);
+}
+
+TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
+    const CCoordinate a = At(-35300, 13200);
+    const CCoordinate b = At(-35300, 13230);
+    const CCoordinate c = At(-35260, 13230);
+    const CCoordinate d = At(-35260, 13200);
+    const struct {
+        const char* pszCase;
+        std::vector<CCoordinate> corners;
+        double dArea;
+        double dPerimeter;
+        bool bCrosses;
+    } cases[] = {
+        {"counter-clockwise", {a, b, c, d}, 1200, 140, false},
+        {"clockwise", {d, c, b, a}, 1200, 140, false},
+        {"a triangle", {a, b, c}, 600, 120, false},
+        {"a corner on a side", {a, b, At(-35280, 13230), c, d}, 1200, 140, false},
+        {"sides that cross", {a, c, b, d}, 0, 180, true},
+    };
+    CPolygon polygon{};
+    for (const auto& example : cases) {
+        SCOPED_TRACE(example.pszCase);
+        EXPECT_EQ(MeasurePolygon(example.corners, polygon), Verdict::Found);
+        EXPECT_NEAR(polygon.dArea, example.dArea, 1e-9);
+        EXPECT_NEAR(polygon.dPerimeter, example.dPerimeter, 1e-9);
+        EXPECT_EQ(polygon.bCrosses, example.bCrosses);
+    }
+    EXPECT_EQ(MeasurePolygon({a, b}, polygon), Verdict::TooFewCorners);
+    EXPECT_EQ(MeasurePolygon({a, b, CCoordinate()}, polygon), Verdict::NoPosition);
 }
 
 TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
@@ -238,7 +298,7 @@ TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
     for (const CCoordinate& none : {half, CCoordinate()}) {
         EXPECT_FALSE(HasPosition(none));
         ExpectNone(IntersectLines(p, q, none, At(9, 9)), Verdict::NoPosition);
-        ExpectNone(IntersectBearings(p, 0, none, 1), Verdict::NoPosition);
+        ExpectNone(Meet(LineTowards(p, 0), LineTowards(none, 1)), Verdict::NoPosition);
         ExpectNone(IntersectLineCircle(p, q, none, 3), Verdict::NoPosition);
         ExpectNone(IntersectCircles(none, 1, p, 1), Verdict::NoPosition);
         ExpectNone(FindArcCentre(p, none, 1), Verdict::NoPosition);

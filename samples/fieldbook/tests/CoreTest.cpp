@@ -25,13 +25,16 @@ TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
 }
 
 TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
-    const std::vector<CJournalEntry> entries = {{L"b", {}}, {L"a", {}}, {L"b", {}}};
-    const std::vector<CJournalGroup> groups = GroupByTitle(entries);
+    const std::vector<CJournalEntry> entries = {
+        {L"b", {L"始点  K10"}, L"", L""}, {L"a", {}, L"", L""}, {L"b", {}, L"", L""}};
+    const std::vector<CJournalGroup> groups = GroupByTitle(entries, L"");
     ASSERT_EQ(groups.size(), 2U);
     EXPECT_TRUE(groups[0].strTitle == L"b");
     EXPECT_EQ(groups[0].entries, (std::vector<size_t>{0, 2}));
     EXPECT_EQ(groups[1].entries, (std::vector<size_t>{1}));
-    EXPECT_TRUE(GroupByTitle({}).empty());
+    const std::vector<CJournalGroup> found = GroupByTitle(entries, L"k1");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].entries, std::vector<size_t>{0});
 }
 
 TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {

@@ -1,8 +1,7 @@
 // What becomes of the user's files, with the answers that a pen gives.
-#include "support/ModalScript.h"
-#include "support/PanelPen.h"
-#include "Tesuvo.h"
+#include "PenSteps.h"
 #include "TestFile.h"
+#include "points/FilePath.h"
 #include "points/FileReplacement.h"
 #include "points/PointSaving.h"
 #include "screens/JobFile.h"
@@ -18,58 +17,6 @@ namespace {
 constexpr char FILE_OF_OURS[] = "name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\nB,4.000000,5.000000,\r\n";
 constexpr char FILE_OF_OTHERS[] = "\xE7\x82\xB9;N;E\nA;1;2\n";
 constexpr char FILE_WITH_BAD_LINES[] = "name,N,E,Z\r\nA,1,2,3\r\nB,4\r\n";
-
-/// Taps a button of the message box that is on the screen.
-fx::Step Answer(int nButton) {
-    return [nButton] {
-        if (panel::IsVisible())
-            return false; // it goes with the focus, but not at once
-        const HWND hButton = ::GetDlgItem(::GetActiveWindow(), nButton);
-        EXPECT_NE(hButton, nullptr) << "no such question";
-        pen::Tap(*CWnd::FromHandle(hButton));
-        return true;
-    };
-}
-
-fx::Step Keys(std::initializer_list<WORD> keys) {
-    const std::vector<WORD> copy = keys;
-    return [copy] {
-        for (const WORD key : copy)
-            pen::TypeKeys({key});
-    };
-}
-
-fx::Step Tap(const CDialog& dialog, UINT nId) {
-    return [&dialog, nId] { pen::Tap(*dialog.GetDlgItem(static_cast<int>(nId))); };
-}
-
-/// Of the dialog that is on the screen then.
-fx::Step TapIn(int nId) {
-    return [nId] { pen::Tap(*CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), nId))); };
-}
-
-fx::Step TapRow(int nRow) {
-    return [nRow] {
-        auto& list =
-            *static_cast<CListCtrl*>(CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), IDC_POINTS)));
-        CRect row;
-        list.GetItemRect(nRow, row, LVIR_LABEL);
-        list.ClientToScreen(row);
-        pen::Tap(row.CenterPoint());
-    };
-}
-
-/// The panel lies on the lower buttons while a field has the focus.
-fx::Step NoPanel() {
-    return [] {
-        TVCloseSIP();
-        return !panel::IsVisible();
-    };
-}
-
-fx::Step Close(CDialog& dialog) {
-    return [&dialog] { dialog.PostMessage(WM_CLOSE); };
-}
 
 struct JobFile : testing::Test {
     void SetUp() override { m_parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0); }
@@ -193,19 +140,22 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
     other.Write(FILE_OF_OURS);
     ASSERT_TRUE(OpenPointsFile(*m_pJob, other.GetPath(), m_parent));
     EXPECT_TRUE(Open()) << "who opens another file gives the change up";
+    EXPECT_TRUE(IsSamePath(m_pJob->settings.strPrevious, other.GetPath()));
 }
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
 
 /// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "++" with two quick taps, "x"
-/// closes, "yes" answers.
+/// closes, "end" ends the session, "yes" and "no" answer.
 fx::Step Action(CPointEntryDlg& dialog, const std::string& action) {
     if (action == "N" || action == "E")
         return Tap(dialog, action == "N" ? IDC_N : IDC_E);
     if (action == "x")
         return Close(dialog);
-    if (action == "yes")
-        return Answer(IDYES);
+    if (action == "end")
+        return [&dialog] { EXPECT_EQ(dialog.SendMessage(WM_QUERYENDSESSION), FALSE) << "the answer is No"; };
+    if (action == "yes" || action == "no")
+        return Answer(action == "yes" ? IDYES : IDNO);
     return [&dialog, action] {
         for (const char ch : action)
             if (ch == '+')
@@ -222,7 +172,8 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
         {"typing replaces what is there", "N 1! 2! N 7 + x", "T1,7.000000,2.000000,\r\n"},
         {"two quick taps", "N 1 E 2 ++ x", "T1,1.000000,2.000000,\r\n"},
         {"no coordinate, and Enter in the question", "+ ! + yes x", "T1,,,\r\n"},
-        {"closing with typed values", "N 1 x ! E 2 + N 9 x yes", "T1,1.000000,2.000000,\r\n"}};
+        {"closing with typed values", "N 1 x ! E 2 + N 9 x yes", "T1,1.000000,2.000000,\r\n"},
+        {"the system's session ends with typed values", "N 1 end no x yes", ""}};
     for (const auto& [pszCase, actions, points] : cases) {
         SCOPED_TRACE(pszCase);
         Restart();

@@ -34,6 +34,8 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     settings.bTenths = 1;
     settings.nTolerance = 2;
     settings.strFolder = L"\\測量\\現場 1";
+    settings.strFile = L"\\測量\\今日.csv";
+    settings.strPrevious = L"\\測量\\昨日.csv";
     settings.columns = {Column::Blank, Column::E, Column::Blank, Column::Name};
     settings.order = {Column::Name, Column::E, Column::N};
     ASSERT_TRUE(SaveSettings(g_app, settings));
@@ -42,6 +44,7 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     EXPECT_EQ(loaded.bTenths, 1);
     EXPECT_EQ(loaded.nTolerance, 2);
     EXPECT_TRUE(loaded.strFolder == settings.strFolder);
+    EXPECT_TRUE(loaded.strFile == settings.strFile && loaded.strPrevious == settings.strPrevious);
     EXPECT_EQ(loaded.columns, settings.columns);
     EXPECT_EQ(loaded.order, settings.order);
 
