@@ -16,22 +16,26 @@ journal=(120 191)
 file_menu=(120 227)
 export=(120 263)
 settings=(120 299)
-open=(120 100)
-new=(120 136)
-save=(120 172)
-save_as=(120 208)
-folder=(120 244)
+open=(120 82)
+previous=(120 118)
+new=(120 154)
+save=(120 190)
+save_as=(120 226)
+folder=(120 262)
 
 # Buttons of the screen of computations.
-lines=(62 63)
-line_circle=(179 63)
-circles=(62 101)
-bearings=(179 101)
-arc_centre=(62 158)
-curve=(179 158)
-polar=(62 214)
-inverse=(179 214)
-extent=(62 252)
+lines=(62 58)
+line_circle=(179 58)
+circles=(62 91)
+bearings=(179 91)
+combined=(62 123)
+foot=(179 123)
+arc_centre=(62 174)
+curve=(179 174)
+polar=(62 224)
+inverse=(179 224)
+extent=(62 257)
+area=(179 257)
 
 # Buttons at the bottom of the point list and of a result.
 left_button=(62 258)
@@ -229,6 +233,38 @@ shot 25-curve-plan
 tap "${close_button[@]}"
 tap "${ok_button[@]}"
 
+tap "${foot[@]}"
+answer T1 T2 K1
+shot 25b-foot-result
+tap "${left_button[@]}"
+shot 25c-foot-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
+
+tap "${area[@]}"
+answer K1 K2
+shot 25d-area-corner
+answer K3 K4
+letters_enter
+shot 25e-area-result
+tap "${left_button[@]}"
+shot 25f-area-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
+
+tap "${combined[@]}"
+shot 25g-first-figure
+tap 120 189
+tap 120 224
+answer K1 K2
+shot 25h-parallel-offset
+answer 5 K1 30
+shot 25i-parallel-and-circle
+tap "${left_button[@]}"
+shot 25j-parallel-and-circle-plan
+tap "${close_button[@]}"
+tap "${ok_button[@]}"
+
 tap "${inverse[@]}"
 answer T1 T2
 shot 26-inverse-result
@@ -243,15 +279,15 @@ tap "${ok_button[@]}"
 
 tap "${polar[@]}"
 shot 29-polar
-tap 223 41
+tap 139 41
 shot 30-polar-names-entered-lately
-tap 100 55
-tap 120 67
+tap 100 68
+tap 120 69
 digits 23.0748
 shot 31-polar-direction-typed
 digits_next
 digits 30
-tap 120 119
+tap 120 124
 shot 32-polar-angles-shown
 digits 50
 digits_enter
@@ -296,27 +332,27 @@ shot 35-point-entry
 tap 108 41
 shot 36-point-entry-kinds
 tap 100 70
-tap 100 67
+tap 100 69
 shot 37-point-entry-name
-tap 100 93
+tap 100 97
 digits -35300.5
-tap 100 119
+tap 100 124
 digits 13200.25
-tap 100 145
+tap 100 152
 digits 24.5
 shot 38-point-entry-complete
 digits_enter
 shot 39-point-added
-tap 200 145
+tap 200 152
 shot 40-point-entry-no-height
-tap 100 67
+tap 100 69
 letters_backspace
 letters_backspace
 letters k1
 shot 41-point-entry-capitals
-tap 100 93
+tap 100 97
 digits 1
-tap 100 119
+tap 100 124
 digits 2
 digits_enter
 shot 42-point-entry-duplicate
@@ -337,16 +373,16 @@ shot 45-point-list-sorted
 tap "${list_edit[@]}"
 shot 46-point-list-none-selected
 message_ok 194
-tap 20 70
+tap 20 85
 shot 47-point-list-selected
 tap "${list_edit[@]}"
 shot 48-point-edit
-tap 100 145
+tap 100 152
 for ((i = 0; i < 6; ++i)); do digits_backspace; done
 shot 49-point-edit-height-removed
 digits_enter
 shot 50-point-list-changed
-tap 20 84
+tap 20 113
 tap "${list_remove[@]}"
 shot 51-point-list-remove
 message_no 190
@@ -355,7 +391,7 @@ message_yes 190
 shot 52a-point-list-removed
 tap "${list_undo[@]}"
 shot 52b-point-list-undone
-tap 20 84
+tap 20 113
 tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
@@ -364,9 +400,9 @@ tap "${ok_button[@]}"
 
 tap "${journal[@]}"
 shot 53-journal
-tap 90 62
+tap 90 74
 shot 54-journal-open
-tap 70 84
+tap 70 102
 shot 55-journal-result
 tap "${ok_button[@]}"
 
@@ -436,7 +472,7 @@ message_yes 190
 shot 77-overwritten
 
 tap "${point_list[@]}"
-tap 20 84
+tap 20 113
 tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
@@ -472,7 +508,7 @@ shot 86-other-file-open
 
 tap "${point_list[@]}"
 shot 87-points-without-coordinates
-tap 20 84
+tap 20 113
 tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
@@ -502,7 +538,7 @@ start_fieldbook points_bad.csv 読み込みの結果
 shot 93-bad-lines
 tap 62 241
 tap "${point_list[@]}"
-tap 20 84
+tap 20 113
 tap "${list_remove[@]}"
 message_yes 190
 tap "${ok_button[@]}"
@@ -523,7 +559,7 @@ tap "${ok_button[@]}"
 tap "${point_entry[@]}"
 tap 220 41
 letters gate
-tap 100 93
+tap 100 97
 answer 1
 answer 2
 shot 97-code-entered
@@ -544,7 +580,8 @@ reset
 # --- What is left on the disk -------------------------------------------------------------------
 
 # The journal holds what the screens showed, in the device's code page.
-iconv -f CP932 -t UTF-8 "$job/points_results.txt" | tr -d '\r' >"$demo_shots/results.txt"
+iconv -f CP932 -t UTF-8 "$job/points_results.txt" | tr -d '\r' |
+    sed -E 's/^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}  //' >"$demo_shots/results.txt"
 cat "$demo_shots/results.txt"
 diff "$root/samples/fieldbook/demo-results.txt" "$demo_shots/results.txt" ||
     die 'the computed coordinates are not the expected ones'

@@ -9,6 +9,7 @@
 
 namespace {
 
+constexpr int kFieldHeight = 22; // pixels within the frame: 28 with it
 constexpr int kLongestName = 16;
 constexpr int kLongestNumber = 20;
 constexpr COLORREF kResultColor = RGB(255, 255, 224);
@@ -139,6 +140,8 @@ void CDirectionEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 void CChoiceCombo::PreSubclassWindow() {
     CnComboBox::PreSubclassWindow();
     LimitText(kLongestName);
+    SetItemHeight(-1, kFieldHeight);
+    SetItemHeight(0, kFieldHeight);
 }
 
 void CChoiceCombo::OnDropDown() {

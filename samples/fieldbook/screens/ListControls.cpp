@@ -13,7 +13,7 @@ namespace {
 constexpr int kNameWidth = 46;
 constexpr int kCoordinateWidth = 78;
 constexpr int kHeightWidth = 60;
-constexpr int kRowHeight = 22; // what a pen hits without care
+constexpr int kRowHeight = 28; // what a gloved hand hits
 
 } // namespace
 
@@ -34,6 +34,9 @@ END_MESSAGE_MAP()
 
 void CPointListCtrl::Fill() {
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
+    // A row is as high as its image, though there is none.
+    m_rowImages.Create(1, kRowHeight - 1, ILC_COLOR, 0, 1);
+    SetImageList(&m_rowImages, LVSIL_SMALL);
     InsertColumn(static_cast<int>(PointColumn::Name), Text(IDS_COLUMN_NAME), LVCFMT_LEFT, kNameWidth);
     InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, kCoordinateWidth);
     InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, kCoordinateWidth);

@@ -41,6 +41,7 @@ private:
     const CNamedPoint& PointAt(int nRow) const;
     CString TextAt(int nRow, PointColumn column) const;
 
+    CImageList m_rowImages;
     const CPointBook& m_book;
     int m_nDecimals;
     std::vector<size_t> m_order;         ///< The rows, each an index of a point.

@@ -1,5 +1,6 @@
 #include "screens/PolarDlg.h"
 
+#include "screens/PickDlg.h"
 #include "screens/ReportDlg.h"
 #include "screens/Resource.h"
 #include "Tesuvo.h"
@@ -9,6 +10,8 @@
 // clang-format off
 BEGIN_MESSAGE_MAP(CPolarDlg, CnDialog)
     ON_BN_CLICKED(IDC_COMPUTE, &CPolarDlg::OnCompute)
+    ON_BN_CLICKED(IDC_PICK_LIST, &CPolarDlg::OnList)
+    ON_BN_CLICKED(IDC_PICK_PLAN, &CPolarDlg::OnPlan)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -35,6 +38,18 @@ void CPolarDlg::AttachControls() {
     m_direction.Attach(IDC_DIRECTION, this, nMode, SipOptionMode1);
     m_turn.Attach(IDC_TURN, this, nMode, SipOptionMode1);
     m_distance.Attach(IDC_DISTANCE, this, SipOptionMode1);
+}
+
+void CPolarDlg::OnList() {
+    CPickDlg dialog(m_job, this);
+    if (dialog.DoModal() == IDOK)
+        m_from.SetWindowText(dialog.GetName());
+}
+
+void CPolarDlg::OnPlan() {
+    const CString strName = PickFromPlan(m_job, *this);
+    if (!strName.IsEmpty())
+        m_from.SetWindowText(strName);
 }
 
 void CPolarDlg::OnCompute() {

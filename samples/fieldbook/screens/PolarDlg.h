@@ -17,6 +17,8 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    afx_msg void OnList();
+    afx_msg void OnPlan();
     afx_msg void OnCompute();
     DECLARE_MESSAGE_MAP()
 
