@@ -69,6 +69,7 @@ inline void Shake(const std::function<void(CWnd*)>& open, const std::function<vo
             while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
                 if (msg.message != WM_QUIT)
                     ::DispatchMessage(&msg);
+            CWnd::DeleteTempMap(); // as an idle loop does; this one is not the framework's
         }
         return fx::Leftovers::Now();
     };
