@@ -503,6 +503,11 @@ shot 85-open
 tap 60 101
 tap "${ok_button[@]}"
 shot 86-other-file-open
+tap "${file_menu[@]}"
+tap "${previous[@]}"
+shot 86b-file-before-this-one
+tap "${file_menu[@]}"
+tap "${previous[@]}"
 
 # --- The next day -------------------------------------------------------------------------------
 

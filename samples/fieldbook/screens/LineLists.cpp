@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kItemWidth = 146; // pixels
+constexpr int kItemWidth = 130; // pixels
 
 void InsertColumns(CListCtrl& list) {
     list.InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, kItemWidth);

@@ -16,10 +16,14 @@ CPickDlg::CPickDlg(const CJob& job, CWnd* pParent)
     SetOption(OptionOkButton);
 }
 
+void CPickDlg::DoDataExchange(CDataExchange* pDX) {
+    CnDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_POINTS, m_list);
+}
+
 BOOL CPickDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     m_part.Attach(IDC_PART, this, SipOptionMode0);
-    m_list.SubclassDlgItem(IDC_POINTS, this);
     m_list.Fill();
     m_list.SetFocus(); // the panel comes with the field
     return FALSE;

@@ -18,6 +18,7 @@ public:
     CString GetName() const { return m_strName; }
 
 protected:
+    void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
     afx_msg void OnPart();

@@ -39,6 +39,11 @@ CPointEntryDlg::CPointEntryDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POINT_EN
     SetOption(OptionOkButton);
 }
 
+void CPointEntryDlg::DoDataExchange(CDataExchange* pDX) {
+    CnDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_MESSAGE, m_message);
+}
+
 BOOL CPointEntryDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     AttachControls();
@@ -48,7 +53,8 @@ BOOL CPointEntryDlg::OnInitDialog() {
     OnKind();
     m_strShown = Typed();
     m_message.SetWindowText(Text(IDS_ENTER_POINT));
-    return TRUE;
+    m_n.SetFocus(); // the name is proposed: typing can begin
+    return FALSE;
 }
 
 void CPointEntryDlg::AttachControls() {
@@ -62,7 +68,6 @@ void CPointEntryDlg::AttachControls() {
     m_z.Attach(IDC_Z, this, SipOptionMode1);
     m_noHeight.Attach(IDC_NO_HEIGHT, this, TVGetCommonIcon(TVICON_UP),
                       CIconButton::StyleToggle | CIconButton::StyleText);
-    m_message.SubclassDlgItem(IDC_MESSAGE, this);
 }
 
 CString CPointEntryDlg::TextOf(const CWnd& control) const {
@@ -117,10 +122,13 @@ BOOL CPointEntryDlg::OnQueryEndSession() {
     return MayGiveUpTyped();
 }
 
-/// The second tap of two quick ones is a hand that trembles, not a second point.
+/// The second tap of two quick ones is a hand that trembles, not a second point: for the same reason no
+/// panel may come up under the pen.
 void CPointEntryDlg::OnAdd() {
-    if (::GetTickCount64() - m_nLastAdded > ::GetDoubleClickTime())
-        Add();
+    if (Typed() == m_strShown && ::GetTickCount64() - m_nLastAdded <= ::GetDoubleClickTime())
+        return;
+    if (Add() && m_hWnd != nullptr) // not closed behind a question
+        GetDlgItem(IDC_ADD)->SetFocus();
 }
 
 bool CPointEntryDlg::IsOnLastField() const {
@@ -134,10 +142,10 @@ BOOL CPointEntryDlg::PreTranslateMessage(MSG* pMsg) {
     if (!bEnter || pFocus == nullptr || pFocus == GetDlgItem(IDC_ADD) || m_name.GetDroppedState() ||
         m_kind.GetDroppedState())
         return CnDialog::PreTranslateMessage(pMsg);
-    if (IsOnLastField())
-        OnAdd();
-    else
+    if (!IsOnLastField())
         NextDlgCtrl();
+    else if (Add() && m_hWnd != nullptr)
+        m_n.SetFocus(); // the panel stays for the next point
     return TRUE;
 }
 
@@ -171,9 +179,9 @@ bool CPointEntryDlg::Add() {
 bool CPointEntryDlg::Take(const CNamedPoint& point) {
     if (!m_job.book.Add(point))
         return false;
-    m_message.SetWindowText(Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount()));
+    const CString strAdded = Text(IDS_ADDED, point.strName.GetString(), m_job.book.GetCount());
+    m_message.SetWindowText(strAdded);
+    SetWindowText(strAdded); // the panel may lie over the message
     ShowPoint({m_job.book.NextName(point.strName), CCoordinate(), point.strCode});
-    if (m_hWnd != nullptr)               // not closed behind a question
-        GetDlgItem(IDC_ADD)->SetFocus(); // the panel goes, and the message can be read
     return true;
 }

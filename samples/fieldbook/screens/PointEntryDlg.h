@@ -14,6 +14,7 @@ public:
     CPointEntryDlg(CJob& job, CWnd* pParent);
 
 protected:
+    void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     /// Enter goes from field to field; from the last one it stores.
     BOOL PreTranslateMessage(MSG* pMsg) override;

@@ -32,7 +32,7 @@ CString ValueText(const CReportLine& line, const CSettings& settings) {
 CString LabelOf(const CReportInput& input) {
     const CString strName = L"の点名";
     CString strLabel = Text(input.nQuestionId, input.nNumber);
-    const int nEnd = strLabel.FindOneOf(L"\n（");
+    const int nEnd = strLabel.FindOneOf(L"\n（\x3000");
     strLabel = nEnd < 0 ? strLabel : strLabel.Left(nEnd);
     const int nName = strLabel.GetLength() - strName.GetLength();
     return nName > 0 && strLabel.Mid(nName) == strName ? strLabel.Left(nName) : strLabel;
@@ -92,9 +92,10 @@ std::vector<CString> LinesOf(const CReport& report, const CSettings& settings) {
         lines.push_back(Text(IDS_INPUTS));
     for (const CReportInput& input : report.inputs) {
         lines.push_back(L"  " + LabelOf(input) + L"  " + input.strAnswer);
-        if (input.point)
-            lines.push_back(L"  N, E  " + LengthText(input.point->GetN(), settings.nDecimals) + L", " +
-                            LengthText(input.point->GetE(), settings.nDecimals));
+        if (!input.point)
+            continue;
+        lines.push_back(L"  N  " + LengthText(input.point->GetN(), settings.nDecimals));
+        lines.push_back(L"  E  " + LengthText(input.point->GetE(), settings.nDecimals));
     }
     return lines;
 }

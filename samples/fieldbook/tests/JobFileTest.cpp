@@ -169,6 +169,8 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
     // The points are as in a file without heading.
     const Rows<const char*, std::string, std::string> cases = {
         {"Enter goes on and stores from the last field", "N 1! 2! 3! x", "T1,1.000000,2.000000,3.000000\r\n"},
+        {"the next point begins by itself", "1!2!! 3!4!! x",
+         "T1,1.000000,2.000000,\r\nT2,3.000000,4.000000,\r\n"},
         {"typing replaces what is there", "N 1! 2! N 7 + x", "T1,7.000000,2.000000,\r\n"},
         {"two quick taps", "N 1 E 2 ++ x", "T1,1.000000,2.000000,\r\n"},
         {"no coordinate, and Enter in the question", "+ ! + yes x", "T1,,,\r\n"},
