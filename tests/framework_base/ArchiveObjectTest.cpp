@@ -217,4 +217,16 @@ TEST(ArchiveObject, ClassesWithoutSerialAreNotSupported) {
               }));
 }
 
+TEST(ArchiveObject, AReferenceMustFitItsPlace) {
+    const auto readAnd = [](auto then) {
+        return Loaded(FromHex(kLinkClass + "01 0000 0200"), [&](CArchive& ar) {
+            const std::unique_ptr<CObject> owner(ar.ReadObject(nullptr));
+            then(ar);
+        });
+    };
+    EXPECT_EQ(kNone, readAnd([](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CLink)); }));
+    EXPECT_EQ(kBadClass, readAnd([](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CVersioned)); }));
+    EXPECT_EQ(kBadIndex, readAnd([](CArchive& ar) { ar.ReadClass(); }));
+}
+
 } // namespace

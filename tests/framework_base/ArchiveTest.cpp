@@ -1,5 +1,7 @@
 #include "support/ArchiveBytes.h"
 
+#include "atltypes.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -38,6 +40,9 @@ TEST(Archive, ValuesAreLittleEndianOfFixedWidth) {
     ExpectValue("00 00 c0 bf", -1.5F);
     ExpectValue("00 00 00 00 00 00 f8 bf", -1.5);
     ExpectValue("ff ff ff ff ff ff ef 7f", std::numeric_limits<double>::max());
+    ExpectValue("01 00 00 00 fe ff ff ff", CPoint(1, -2));
+    ExpectValue("01 00 00 00 fe ff ff ff", CSize(1, -2));
+    ExpectValue("01 00 00 00 02 00 00 00 03 00 00 00 fc ff ff ff", CRect(1, 2, 3, -4));
 }
 
 TEST(Archive, CountsTakeTwoOrSixBytes) {
@@ -132,6 +137,8 @@ TEST(Archive, TheWrongDirectionThrows) {
     EXPECT_EQ(CArchiveException::readOnly, causeOf([&] { loading << i; }));
     storing.Close();
     EXPECT_EQ(CArchiveException::genericException, causeOf([&] { storing << i; }));
+    loading.Close();
+    EXPECT_EQ(CArchiveException::genericException, causeOf([&] { loading >> i; }));
     EXPECT_THROW(CArchive(nullptr, CArchive::load), CInvalidArgException*);
 }
 

@@ -263,4 +263,18 @@ TEST(Collection, LargeOnesSurviveTheRoundTrip) {
     EXPECT_TRUE(same(numbers[0], numbers[1]) && same(strings[0], strings[1]));
 }
 
+TEST(List, MissingElementsThrow) {
+    CPtrList list;
+    POSITION none = nullptr;
+    EXPECT_THROW(list.GetHead(), CInvalidArgException*);
+    EXPECT_THROW(list.RemoveTail(), CInvalidArgException*);
+    EXPECT_THROW(list.GetNext(none), CInvalidArgException*);
+    EXPECT_THROW(list.RemoveAt(none), CInvalidArgException*);
+    EXPECT_THROW(list.AddHead(static_cast<CPtrList*>(nullptr)), CInvalidArgException*);
+    EXPECT_THROW(list.AddTail(static_cast<CPtrList*>(nullptr)), CInvalidArgException*);
+    int value = 0;
+    list.AddTail(&value);
+    EXPECT_EQ(list.GetHeadPosition(), list.Find(&value));
+}
+
 } // namespace

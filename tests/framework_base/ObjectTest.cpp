@@ -105,4 +105,13 @@ TEST(Exception, SayWhatHappenedToWhichFile) {
     EXPECT_THROW(AfxThrowUserException(), CUserException*);
 }
 
+struct CPlain : CObject {};
+
+TEST(Object, NeedsNoClassOfItsOwn) {
+    CPlain plain;
+    ASSERT_VALID(&plain);
+    EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
+    EXPECT_TRUE(Stored([&](CArchive& ar) { plain.Serialize(ar); }).empty());
+}
+
 } // namespace

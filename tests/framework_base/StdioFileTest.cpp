@@ -148,4 +148,17 @@ TEST_F(StdioFile, AStreamStaysTheCallersAndAsItIs) {
     EXPECT_TRUE(file.m_hFile == CFile::hFileNull && file.m_pStream == nullptr);
 }
 
+TEST_F(StdioFile, LongTextsPassTheBuffer) {
+    {
+        CStdioFile file(kName, kNew);
+        for (int i = 0; i < 3; ++i)
+            file.WriteString(CString(L'x', 4095) + L"\n");
+    }
+    CStdioFile file(kName, CFile::modeRead);
+    CString line;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(file.ReadString(line) && line.GetLength() == 4095);
+    EXPECT_FALSE(file.ReadString(line));
+}
+
 } // namespace

@@ -279,4 +279,11 @@ TEST(ModalSheet, WizardGoesThroughItsPagesAndFinishes) {
     EXPECT_NE(std::string::npos, sheet.TakeLog().find("b.finish"));
 }
 
+TEST(ModalSheet, OpenedTwoHundredTimesLeavesNothing) {
+    fx::ExpectNothingLeft([] {
+        Sheet sheet;
+        Play(sheet, {[&] { sheet.SetActivePage(1), sheet.PressButton(PSBTN_OK); }});
+    });
+}
+
 } // namespace

@@ -398,4 +398,11 @@ TEST(SystemErrors, EachHasItsCause) {
         EXPECT_EQ(wanted, CFileException::OsErrorToException(error)) << error;
 }
 
+TEST_F(FaultsOfFiles, WhatIsNoCharacterIsReplaced) {
+    const CString wrong(static_cast<TCHAR>(0x110000));
+    EXPECT_EQ("ff fe ff 01 fd ff", ToHex(Stored([&](CArchive& ar) { ar << wrong; })));
+    CFile(Path("") + wrong, CFile::modeCreate | CFile::modeWrite);
+    EXPECT_TRUE(std::filesystem::exists(m_folder / u8"\uFFFD"));
+}
+
 } // namespace
