@@ -83,6 +83,7 @@ class Source:
         edits = []
         for i, child in enumerate(children):
             fixed = constant or (kind == Kind.CASE_STMT and i == 0) or self.is_if_constexpr(cursor, i)
+            fixed = fixed or self.is_array_bound(cursor, child)
             edits += self.walk(child, fixed)
         if kind in FUNCTIONS:
             for edit in edits:
@@ -93,6 +94,10 @@ class Source:
             edits = make(cursor, children, edits)
         edits = self.dropped(cursor, children, edits)
         return self.condition(cursor, children, edits)
+
+    def is_array_bound(self, cursor, child):
+        before = self.bytes[:child.extent.start.offset].rstrip()
+        return cursor.kind in (Kind.VAR_DECL, Kind.FIELD_DECL) and before.endswith(b"[")
 
     def is_if_constexpr(self, cursor, index):
         is_head = self.bytes.startswith(b"if constexpr", cursor.extent.start.offset)

@@ -85,8 +85,34 @@ TEST(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
     EXPECT_GT(faults::FailEach(faults::FailMemory, [&] { use(true); }), 1);
     EXPECT_GT(faults::FailEach(fail, [&] { use(true); }), 8);
     faults::FailCall("write", EIO, 2);
+    const faults::Use before = faults::Now();
     EXPECT_EQ(faults::End::Done, faults::EndOf([&] { use(false); })) << "a destructor tells nobody";
     EXPECT_TRUE(faults::Disarm());
+    EXPECT_EQ(before, faults::Now());
+}
+
+TEST(BufferedAsciiFileFaults, AfterALossTheNextFileIsClean) {
+    constexpr UINT kMode = CFile::modeCreate | CFile::modeReadWrite;
+    CBufferedAsciiFile file;
+    for (const bool bClose : {true, false}) {
+        ASSERT_TRUE(file.Open(L"faults.txt", kMode));
+        file.WriteString(L"lost");
+        faults::FailCall("write", EIO);
+        EXPECT_EQ(bClose ? faults::End::FileError : faults::End::Done,
+                  faults::EndOf([&] { bClose ? file.Close() : file.Abort(); }));
+        EXPECT_TRUE(faults::Disarm() && file.m_hFile == CFile::hFileNull);
+        ASSERT_TRUE(file.Open(L"faults.txt", kMode));
+        CString str;
+        EXPECT_TRUE(file.GetPosition() == 0 && file.GetLength() == 0 && file.ReadString(str) == 0);
+        file.WriteString(L"kept");
+        faults::FailCall("fsync", EIO);
+        EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
+        ASSERT_TRUE(file.Open(L"faults2.txt", kMode));
+        file.Close();
+        EXPECT_TRUE(file.m_hFile == CFile::hFileNull &&
+                    CFile(L"faults.txt", CFile::modeRead).GetLength() == 6);
+    }
+    std::remove("faults2.txt");
 }
 
 TEST(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
