@@ -91,6 +91,13 @@ template <class Type>
 Type FromL(const Call& c) {
     return static_cast<Type>(c.lParam);
 }
+/// For a handler of the days of 32 bits: what does not fit, a pointer above all, is told, not cut.
+inline LONG NarrowL(const Call& c) {
+    const auto lValue = static_cast<LONG>(c.lParam);
+    if (c.lParam != lValue && c.lParam != static_cast<LPARAM>(static_cast<ULONG>(lValue)))
+        AfxThrowInvalidArgException();
+    return lValue;
+}
 template <class Type>
 Type PointerW(const Call& c) {
     return reinterpret_cast<Type>(c.wParam);
@@ -311,10 +318,10 @@ template <class Handler>
 AFX_MSGMAP_ENTRY MessageEntry(UINT message, Handler pfn) {
     using namespace form;
     using NoResult = Wnd<void, W, L>;
-    using Narrow = Wnd<LONG, FromW<UINT>, FromL<LONG>>;
-    using NarrowAnswer = Wnd<LRESULT, FromW<UINT>, FromL<LONG>>;
+    using Narrow = Wnd<LONG, FromW<UINT>, NarrowL>;
+    using NarrowAnswer = Wnd<LRESULT, FromW<UINT>, NarrowL>;
     using WideNarrow = Wnd<LONG, W, L>;
-    using NarrowNoResult = Wnd<void, FromW<UINT>, FromL<LONG>>;
+    using NarrowNoResult = Wnd<void, FromW<UINT>, NarrowL>;
     using Empty = Wnd<LRESULT>;
     using Form = std::conditional_t<
         kIsOfForm<NoResult, Handler>, NoResult,
