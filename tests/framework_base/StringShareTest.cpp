@@ -151,4 +151,15 @@ TEST(StringMembers, DoWhatTheDocumentationSays) {
     EXPECT_LT(s.GetAllocLength(), 20);
 }
 
+TEST(StringShare, SmallRoomIsKeptAndMuchIsNot) {
+    for (const int nRoom : {100, 1000}) {
+        const CString text = L"abc";
+        CString assigned;
+        assigned.Preallocate(nRoom);
+        assigned = text;
+        EXPECT_EQ(nRoom == 1000, assigned.GetString() == text.GetString()) << nRoom;
+        EXPECT_STREQ(L"abc", assigned);
+    }
+}
+
 } // namespace
