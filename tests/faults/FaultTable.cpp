@@ -5,6 +5,7 @@
 #include <commctrl.h>
 #include <commdlg.h>
 #include <dwmapi.h>
+#include <oleauto.h>
 #include <shellapi.h>
 #include <shlobj.h>
 
@@ -40,7 +41,7 @@ struct Zero {
 std::vector<Point> Points() {
     return {
         NOTHING(malloc), NOTHING(calloc), NOTHING(realloc), NOTHING(LoadResource), NOTHING(LoadLibraryW),
-        NOTHING(LoadLibraryExW), NOTHING(BeginPaint), NOTHING(CreateDialogIndirectParamW),
+        NOTHING(SysAllocStringLen), NOTHING(LoadLibraryExW), NOTHING(BeginPaint), NOTHING(CreateDialogIndirectParamW),
         NOTHING(CreateIconFromResourceEx), NOTHING(CreateWindowExW), NOTHING(GetDC), NOTHING(GetWindowDC),
         NOTHING(LoadBitmapW), NOTHING(LoadCursorW), NOTHING(LoadIconW), NOTHING(LoadMenuW),
         NOTHING(SetWindowsHookExW), NOTHING(CreateBitmap), NOTHING(CreateBitmapIndirect),
