@@ -160,6 +160,11 @@ TEST(StringShare, SmallRoomIsKeptAndMuchIsNot) {
         EXPECT_EQ(nRoom == 1000, assigned.GetString() == text.GetString()) << nRoom;
         EXPECT_STREQ(L"abc", assigned);
     }
+    CString none; // the text of all empty strings: nothing is copied into it
+    CString room;
+    room.Preallocate(10);
+    none = room;
+    EXPECT_EQ(none.GetString(), room.GetString());
 }
 
 } // namespace

@@ -379,6 +379,9 @@ TEST_F(FaultsOfFiles, OnlyFilesOnDiskAreOpened) {
     CFile full(reinterpret_cast<HANDLE>(static_cast<std::intptr_t>(::open("/dev/full", O_WRONLY))));
     EXPECT_EQ(CFileException::diskFull, CauseOf([&] { full.Write("x", 1); }));
     full.Close();
+    CStdioFile stream(std::fopen("/dev/full", "w")); // its buffer takes the text, the disk does not
+    EXPECT_EQ(CFileException::diskFull, CauseOf([&] { stream.WriteString(L"x"), stream.Flush(); }));
+    stream.Abort();
 }
 
 TEST(SystemErrors, EachHasItsCause) {
