@@ -103,7 +103,7 @@ Row Walked() {
                     map[i * 7] = i;
                 return Timed(TimesFor(n), [&] {
                     for (const auto& [key, value] : map)
-                        Take(static_cast<std::size_t>(key + value));
+                        Take(static_cast<std::size_t>(key) + static_cast<std::size_t>(value));
                 });
             },
             [](int n) {
@@ -115,7 +115,7 @@ Row Walked() {
                     int value = 0;
                     for (POSITION pos = map.GetStartPosition(); pos != nullptr;) {
                         map.GetNextAssoc(pos, key, value);
-                        Take(static_cast<std::size_t>(key + value));
+                        Take(static_cast<std::size_t>(key) + static_cast<std::size_t>(value));
                     }
                 });
             }};

@@ -1,6 +1,7 @@
 #include "Measure.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -10,8 +11,7 @@ namespace {
 
 /// The value below which that part of all values is.
 double Quantile(std::vector<double> values, double part) {
-    const auto at =
-        values.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(values.size() - 1) + 0.5);
+    const auto at = values.begin() + std::lround(part * static_cast<double>(values.size() - 1));
     std::nth_element(values.begin(), at, values.end());
     return *at;
 }

@@ -28,7 +28,10 @@ std::function<Cost(int)> OnEach(Work work) {
             const std::wstring text = TextOf(i, n);
             std::wstring other = text;
             ::CharUpperBuff(other.data(), static_cast<DWORD>(other.size()));
-            samples.push_back({text.c_str(), (L"  " + text + L" ").c_str(), other.c_str()});
+            const auto as = [](const std::wstring& s) {
+                return String(s.data(), static_cast<int>(s.size()));
+            };
+            samples.push_back({as(text), as(L"  " + text + L" "), as(other)});
         }
         String result;
         return Timed(kTimes, [&] {
