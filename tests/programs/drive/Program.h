@@ -47,9 +47,23 @@ inline bool HasFocus(HWND hWnd) {
     return ::GetGUIThreadInfo(::GetWindowThreadProcessId(hWnd, nullptr), &info) && info.hwndFocus == hWnd;
 }
 
+/// Taps into a control and waits for the focus. A window is visible before it is in front, and
+/// what is typed until then goes to the window that was.
 inline void FocusByTap(HWND hWnd) {
+    const HWND hTop = ::GetAncestor(hWnd, GA_ROOT);
+    EXPECT_TRUE(Until([&] { return ::GetForegroundWindow() == hTop; })) << "not in front";
     pen::Tap(MiddleOf(hWnd));
     EXPECT_TRUE(Until([&] { return HasFocus(hWnd); }));
+}
+
+/// Empties an edit control that has the focus, each key once the one before has done its work.
+inline void Empty(HWND hEdit) {
+    pen::TypeKeys({VK_HOME});
+    EXPECT_TRUE(Until([&] { return ::SendMessageW(hEdit, EM_GETSEL, 0, 0) == 0; })) << "HOME is lost";
+    for (size_t n = TextOf(hEdit).size(); n > 0; --n) {
+        pen::TypeKeys({VK_DELETE});
+        EXPECT_TRUE(Until([&] { return TextOf(hEdit).size() < n; })) << "DELETE is lost";
+    }
 }
 
 class Program {
@@ -94,9 +108,7 @@ public:
     /// Replaces what is in a field.
     void Fill(int nID, std::initializer_list<WORD> keys) const {
         FocusByTap(Item(nID));
-        pen::TypeKeys({VK_HOME});
-        for (size_t n = Text(nID).size(); n > 0; --n)
-            pen::TypeKeys({VK_DELETE});
+        Empty(Item(nID));
         pen::TypeKeys(keys);
         EXPECT_TRUE(Until([&] { return TextOf(Item(nID)).size() == keys.size(); }))
             << testing::PrintToString(Text(nID));
