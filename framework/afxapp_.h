@@ -70,6 +70,13 @@ public:
     /// deletes it. @return what the window procedure answers
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
+    /// A menu, message box or dialog is about to handle a message: also those of the system, whose loops
+    /// PreTranslateMessage does not see. Only in threads that the framework runs (AfxWinMain,
+    /// AfxBeginThread). Here: does nothing.
+    /// @param code MSGF_...
+    /// @return TRUE if the message shall go no further
+    virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
+
 protected:
     /// Looks for a handler (ON_THREAD_MESSAGE) of a message without a window. @return TRUE if there is one
     BOOL DispatchThreadMessage(MSG* pMsg);

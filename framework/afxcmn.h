@@ -26,6 +26,7 @@ constexpr UINT NM_RECOGNIZEGESTURE = NM_FIRST - 16U;
 #include "afxdt_.h"
 #include "afxcheck_.h"
 #include "afxrich_.h"
+#include "afxlink_.h"
 
 /// A pair of arrows that count a position up and down, usually that of the entry field at
 /// its side (its buddy).

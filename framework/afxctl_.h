@@ -100,6 +100,19 @@ public:
         return AfxSendInt(m_hWnd, BCM_SETSHIELD, 0, fElevationRequired);
     }
     BOOL SetNote(LPCTSTR lpszNote) { return AfxSendPointer(m_hWnd, BCM_SETNOTE, 0, lpszNote); }
+    /// @param pcchNote in: the room at lpszNote; out: the characters needed
+    BOOL GetNote(LPTSTR lpszNote, UINT* pcchNote) const {
+        return AfxSendInt(m_hWnd, BCM_GETNOTE, reinterpret_cast<WPARAM>(pcchNote),
+                          reinterpret_cast<LPARAM>(lpszNote));
+    }
+    UINT GetNoteLength() const { return static_cast<UINT>(AfxSendInt(m_hWnd, BCM_GETNOTELENGTH)); }
+    BOOL SetDropDownState(BOOL fDropDown) {
+        return AfxSendInt(m_hWnd, BCM_SETDROPDOWNSTATE, static_cast<WPARAM>(fDropDown));
+    }
+    BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo) { return AfxSendPointer(m_hWnd, BCM_SETSPLITINFO, 0, pInfo); }
+    BOOL GetSplitInfo(PBUTTON_SPLITINFO pInfo) const {
+        return AfxSendPointer(m_hWnd, BCM_GETSPLITINFO, 0, pInfo);
+    }
     ///@}
 
     /// Draws a BS_OWNERDRAW button; override it.

@@ -3,6 +3,9 @@
 /// compiler reads this too, and gets the system's names with it.
 #pragma once
 
+/// What programs ask for to see whether this header has been included.
+#define __AFXRES_H__
+
 #ifdef RC_INVOKED
 #include <windows.h>
 #endif

@@ -1,4 +1,5 @@
 // The application and its thread.
+#include "MessageFilter.h"
 #include "window/MessageMap.h"
 #include "window/WndProc.h"
 
@@ -76,6 +77,10 @@ BOOL CWinThread::OnIdle(LONG lCount) {
     if (lCount == 0 && m_pMainWnd != nullptr && m_pMainWnd->m_hWnd != nullptr)
         m_pMainWnd->SendMessage(WM_IDLEUPDATECMDUI);
     CThreadState::Get().DeleteTemporaries();
+    return FALSE;
+}
+
+BOOL CWinThread::ProcessMessageFilter(int, LPMSG) {
     return FALSE;
 }
 
@@ -201,6 +206,7 @@ LPCTSTR AFXAPI AfxGetAppName() {
 namespace {
 
 int RunThread(CWinThread& thread) {
+    const CMessageFilter filter;
     if (thread.InitInstance())
         return thread.Run();
     if (thread.m_pMainWnd != nullptr)

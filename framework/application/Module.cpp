@@ -67,6 +67,9 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
     const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES | ICC_DATE_CLASSES |
                                                                 ICC_USEREX_CLASSES | ICC_INTERNET_CLASSES};
     ::InitCommonControlsEx(&controls);
+    // Apart from the others, as the older controls refuse a class that they do not know.
+    const INITCOMMONCONTROLSEX links = {sizeof links, ICC_LINK_CLASS};
+    ::InitCommonControlsEx(&links);
     if (CWinApp* pApp = AfxGetApp()) {
         pApp->m_hInstance = hInstance;
         pApp->m_lpCmdLine = lpCmdLine;

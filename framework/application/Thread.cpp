@@ -1,4 +1,5 @@
 // Threads that the framework starts.
+#include "MessageFilter.h"
 #include "window/WndProc.h"
 
 #include <process.h>
@@ -31,6 +32,7 @@ private:
 
 UINT RunStarted(CWinThread& thread) {
     const CMainWindowOfStarter mainWindow(thread);
+    const CMessageFilter filter;
     if (thread.m_pfnThreadProc != nullptr)
         return thread.m_pfnThreadProc(thread.m_pThreadParams);
     return static_cast<UINT>(thread.InitInstance() ? thread.Run() : thread.ExitInstance());

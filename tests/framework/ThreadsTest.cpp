@@ -74,10 +74,15 @@ class AddingThread : public CWinThread {
     DECLARE_DYNCREATE(AddingThread)
 public:
     BOOL InitInstance() override { return AfxGetThread() == this && g_started.SetEvent(); }
+    BOOL ProcessMessageFilter(int code, LPMSG lpMsg) override {
+        return code == MSGF_MENU && lpMsg->message == WM_ADD;
+    }
 
 protected:
     afx_msg void OnAdd(WPARAM wParam, LPARAM lParam) {
-        g_nSum += static_cast<long>(wParam) + static_cast<long>(lParam);
+        MSG msg = {nullptr, WM_ADD, 0, 0, 0, {}}; // as the loop of a menu offers it
+        if (::CallMsgFilter(&msg, MSGF_MENU) && !::CallMsgFilter(&msg, MSGF_SCROLLBAR))
+            g_nSum += static_cast<long>(wParam) + static_cast<long>(lParam);
         g_added.SetEvent();
     }
     DECLARE_MESSAGE_MAP()

@@ -156,4 +156,50 @@ TEST_F(ControlMessages, DatesKeysAndAddresses) {
     EXPECT_TRUE(fields[0] == 192 && fields[3] == 7);
 }
 
+TEST_F(ControlMessages, LinksHaveTextsAndStates) {
+    CLinkCtrl link;
+    ASSERT_TRUE(link.Create(L"see <a id=\"a\" href=\"p.htm\">points</a>", WS_CHILD, CRect(0, 0, 150, 60),
+                            &m_frame, 1));
+    CString strID, strUrl;
+    EXPECT_TRUE(link.GetItemID(0, strID) && link.GetItemUrl(0, strUrl));
+    EXPECT_EQ(L"a", strID);
+    EXPECT_EQ(L"p.htm", strUrl);
+    EXPECT_TRUE(link.SetItemID(0, L"points") && link.SetItemState(0, LIS_VISITED, LIS_VISITED));
+    wchar_t szID[4] = L"";
+    UINT nState = 0;
+    EXPECT_TRUE(link.GetItemID(0, szID, 4) && link.GetItemState(0, &nState, LIS_VISITED));
+    EXPECT_STREQ(L"poi", szID);
+    EXPECT_EQ(UINT{LIS_VISITED}, nState);
+    EXPECT_FALSE(link.GetItemUrl(1, strUrl));
+    EXPECT_TRUE(strUrl.IsEmpty());
+}
+
+struct MenuOwner : fx::Frame {
+    WORD m_nItem = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_INITMENUPOPUP) {
+            m_nItem = static_cast<WORD>(::GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0));
+            ::EndMenu();
+        }
+        return fx::Frame::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(SplitButton, OpensItsMenu) {
+    MenuOwner frame;
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, 77, L"x"));
+    CSplitButton button(&menu);
+    ASSERT_TRUE(button.Create(L"s", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &frame, 1));
+    NMBCDROPDOWN drop = {{button, 1, BCN_DROPDOWN}, {}};
+    frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&drop));
+    EXPECT_EQ(77, frame.m_nItem);
+    frame.m_nItem = 0;
+    button.SetDropDownMenu(0xFFFF, 0); // there is none
+    frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&drop));
+    EXPECT_EQ(0, frame.m_nItem);
+}
+
 } // namespace
