@@ -4,8 +4,8 @@
 /// A member that is one message to the control means what that message means, and has its result.
 #pragma once
 
-#include "afxsend_.h"
-#include "afxwnd_.h"
+#include "afxctl_.h"
+#include "afxmenu_.h"
 
 #include <commctrl.h>
 

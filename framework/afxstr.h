@@ -2,55 +2,14 @@
 /// CString, the framework's string, and its narrow and wide forms.
 #pragma once
 
+#include "afxstrfwd_.h"
 #include "afxstrop_.h"
-#include "afxtypes.h"
 
-#include <atomic>
 #include <cstdarg>
 #include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <utility>
-
-template <class Char>
-class CStringT;
-
-/// Wide text: UTF-16 on Windows.
-using CStringW = CStringT<wchar_t>;
-/// Narrow text: bytes of the ANSI code page on Windows, UTF-8 elsewhere.
-using CStringA = CStringT<char>;
-/// The string of Unicode programs. A name for CStringW, not a class of its own, as the
-/// documentation has it; so it cannot be declared by `class CString;`: include this header.
-using CString = CStringW;
-
-/// What an argument of Format and its like becomes on its way through the ellipsis: the text of a
-/// string, any other plain value as it is.
-template <class Arg>
-auto AfxFormatArgument(const Arg& arg) noexcept {
-    if constexpr (std::is_base_of_v<CStringW, Arg> || std::is_base_of_v<CStringA, Arg>) {
-        return arg.GetString();
-    } else {
-        static_assert(std::is_arithmetic_v<Arg> || std::is_enum_v<Arg> || std::is_pointer_v<Arg> ||
-                          std::is_null_pointer_v<Arg>,
-                      "Only numbers, pointers and CString can be formatted: pass a member or the text of "
-                      "this object");
-        return arg;
-    }
-}
-
-/// What stands in front of the characters of a string.
-struct CStringData {
-    std::atomic<int> nRefs; ///< the strings that share the text; -1: one, which nobody may share
-    int nDataLength;        ///< characters, without the NUL behind them
-    int nAllocLength;       ///< room in characters, without the NUL; 0: the static empty text
-};
-
-/// The text of every empty string, wide or narrow.
-struct CStringNil {
-    CStringData data; ///< never counted
-    wchar_t chEnd;
-};
-AFX_CORE extern CStringNil afxStringNil;
 
 /// A growing string that passes as a pointer to constant text wherever one is wanted.
 ///
@@ -424,50 +383,4 @@ extern template class AFX_CORE CStringT<wchar_t>;
 extern template class AFX_CORE CStringT<char>;
 #endif
 
-/// The buffer of a string while the object exists, for functions that write into it:
-/// `GetWindowText(hWnd, CStrBuf(str, 100), 101)`.
-template <class Char>
-class CStrBufT {
-public:
-    using PXSTR = Char*;               ///< the buffer
-    using PCXSTR = const Char*;        ///< the text in it
-    using StringType = CStringT<Char>; ///< whose buffer it is
-
-    /// Combined with |.
-    ///@{
-    static constexpr DWORD AUTO_LENGTH = 0x01; ///< the text ends at its first NUL
-    static constexpr DWORD SET_LENGTH = 0x02;  ///< the text has the asked length from the beginning
-    ///@}
-
-    /// @param nMinLength characters that there is room for, and a NUL
-    ///@{
-    explicit CStrBufT(StringType& str) : CStrBufT(str, str.GetLength(), AUTO_LENGTH) {}
-    CStrBufT(StringType& str, int nMinLength, DWORD dwFlags = AUTO_LENGTH)
-        : m_str(str), m_pszBuffer((dwFlags & SET_LENGTH) != 0 ? str.GetBufferSetLength(nMinLength)
-                                                              : str.GetBuffer(nMinLength)),
-          m_nLength((dwFlags & AUTO_LENGTH) != 0 ? -1 : nMinLength) {}
-    ///@}
-    CStrBufT(const CStrBufT&) = delete;
-    CStrBufT& operator=(const CStrBufT&) = delete;
-    ~CStrBufT() { m_str.ReleaseBuffer(m_nLength); }
-
-    /// The buffer.
-    ///@{
-    operator PXSTR() noexcept { return m_pszBuffer; }
-    operator PCXSTR() const noexcept { return m_pszBuffer; }
-    ///@}
-    /// The length that the text is to have in the end.
-    void SetLength(int nLength) noexcept { m_nLength = nLength; }
-
-private:
-    StringType& m_str;
-    PXSTR m_pszBuffer;
-    int m_nLength;
-};
-
-/// The buffers of strings.
-///@{
-using CStrBufW = CStrBufT<wchar_t>;
-using CStrBufA = CStrBufT<char>;
-using CStrBuf = CStrBufW;
-///@}
+#include "afxstrbuf_.h"

@@ -5,7 +5,7 @@ IMPLEMENT_DYNAMIC(CLinkCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CSplitButton, CButton)
 
 BEGIN_MESSAGE_MAP(CSplitButton, CButton)
-    ON_NOTIFY_REFLECT(BCN_DROPDOWN, &CSplitButton::OnDropDown)
+ON_NOTIFY_REFLECT(BCN_DROPDOWN, &CSplitButton::OnDropDown)
 END_MESSAGE_MAP()
 
 namespace {

@@ -116,7 +116,9 @@ private:
                 return;
             last = now;
         }
-        last.nHeapBytes = std::max(last.nHeapBytes - REPEATS * m_scenario.nSystemBytes, before.nHeapBytes);
+        if (nFailing != 0)
+            last.nHeapBytes =
+                std::max(last.nHeapBytes - REPEATS * m_scenario.nSystemBytes, before.nHeapBytes);
         if (!IsMore(before, last))
             return;
         ADD_FAILURE() << m_scenario.pszName << ' ' << m_strStory << "\nleaves after " << REPEATS
