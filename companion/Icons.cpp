@@ -2,11 +2,14 @@
 
 #include "companion/detail/Module.h"
 
+#include <afxwin.h>
+
 #include <cstddef>
 #include <cstring>
 #include <map>
 #include <optional>
 #include <span>
+#include <utility>
 
 using namespace fieldkit::detail;
 
@@ -32,16 +35,26 @@ DWORD DwordAt(Bytes file, std::size_t offset) {
     return value;
 }
 
-/// The file's first picture; ours have one each.
-HICON MakeIcon(Bytes file) {
+/// Of the file's pictures, which come in rising sizes, the first that is large enough, or else the
+/// last.
+Bytes PictureFor(Bytes file, int size) {
+    constexpr std::size_t kCountField = 4;
+    constexpr std::size_t kHeader = 6;
+    constexpr std::size_t kEntry = 16; // of the list of pictures behind the header:
+    constexpr std::size_t kSizeField = 8;
+    constexpr std::size_t kOffsetField = 12;
+    std::size_t entry = kHeader;
+    const std::size_t last = kHeader + (file[kCountField] - std::size_t{1}) * kEntry;
+    while (entry < last && file[entry] < size)
+        entry += kEntry;
+    return file.subspan(DwordAt(file, entry + kOffsetField), DwordAt(file, entry + kSizeField));
+}
+
+HICON MakeIcon(Bytes picture, int size) {
     constexpr DWORD kVersion = 0x00030000; // the only one that the system knows
-    constexpr int kIconSize = 16;
-    constexpr std::size_t kSizeField = 14; // behind the header: size, then offset of the picture
-    constexpr std::size_t kOffsetField = 18;
-    const Bytes picture = file.subspan(DwordAt(file, kOffsetField), DwordAt(file, kSizeField));
     // The system reads only, although its interface takes a pointer to mutable bytes.
     return ::CreateIconFromResourceEx(const_cast<BYTE*>(picture.data()), static_cast<DWORD>(picture.size()),
-                                      TRUE, kVersion, kIconSize, kIconSize, LR_DEFAULTCOLOR);
+                                      TRUE, kVersion, size, size, LR_DEFAULTCOLOR);
 }
 
 } // namespace
@@ -50,14 +63,16 @@ HICON TVGetCommonIcon(int nIndex) {
     // A number beyond 16 bits would be taken for the address of a name.
     if (nIndex <= 0 || nIndex > 0xFFFF)
         return nullptr;
-    // One handle a picture for every caller and thread, freed with the process.
+    constexpr int kIconSize = 16;
+    const int size = AfxScale(::GetActiveWindow(), kIconSize);
+    // One handle a picture and size for every caller and thread, freed with the process.
     static SRWLOCK lock = SRWLOCK_INIT;
-    static std::map<int, HICON> icons;
+    static std::map<std::pair<int, int>, HICON> icons;
     ::AcquireSRWLockExclusive(&lock);
-    HICON& icon = icons[nIndex];
+    HICON& icon = icons[{nIndex, size}];
     if (icon == nullptr)
         if (const std::optional<Bytes> file = IconFile(nIndex))
-            icon = MakeIcon(*file);
+            icon = MakeIcon(PictureFor(*file, size), size);
     const HICON result = icon;
     ::ReleaseSRWLockExclusive(&lock);
     return result;

@@ -15,9 +15,11 @@ namespace {
 constexpr wchar_t kPanelClass[] = L"TesuvoInputPanel";
 
 // The panel's height on the device, and the screen for which it was made.
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kPanelHeight = 125;
 constexpr int kScreenWidth = 240;
 constexpr int kScreenHeight = 320;
+constexpr int kPanelHeightMost = 200;
 
 constexpr UINT WM_ANNOUNCE = WM_APP;
 constexpr UINT_PTR kCloseTimer = 1;
@@ -48,12 +50,16 @@ RECT WorkArea() {
     return info.rcWork;
 }
 
-/// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow.
+/// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow,
+/// as far as it makes them easier to hit; on a low one they stay as they are, for half of it.
 RECT PlaceIn(const RECT& area) {
+    const HWND focus = ::GetFocus();
     const LONG width = area.right - area.left;
-    const LONG height = std::min(width * kPanelHeight / kScreenWidth,
-                                 (area.bottom - area.top) * kPanelHeight / kScreenHeight);
-    const LONG bottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
+    const LONG whole = area.bottom - area.top;
+    const LONG least = std::min<LONG>(AfxScale(focus, kPanelHeight), whole / 2);
+    const LONG most = std::min<LONG>(AfxScale(focus, kPanelHeightMost), width * kPanelHeight / kScreenWidth);
+    const LONG height = std::min(std::max(whole * kPanelHeight / kScreenHeight, least), most);
+    const LONG bottom = area.bottom - AfxScale(focus, AFX_DEVICE_BAR_HEIGHT);
     return {area.left, bottom - height, area.right, bottom};
 }
 

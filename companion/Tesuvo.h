@@ -108,11 +108,12 @@ enum TVIcon : int {
     TVICON_DEVICE = 42,
 };
 
-/// The device's shared icon of the given number, 16 x 16 pixels.
+/// The device's shared icon of the given number, 16 x 16 pixels at 96 pixels per inch and as large
+/// to the eye at other resolutions: that of the thread's active window, or of the primary screen.
 ///
 /// @param nIndex  one of TVIcon
-/// @return a handle that all callers share, the same for each call, which must not
-///         be destroyed; NULL for an unknown number
+/// @return a handle that all callers share, the same for each call at a resolution, which must
+///         not be destroyed; NULL for an unknown number
 TESUVO_API HICON TVGetCommonIcon(int nIndex);
 
 /// Whether a file of that name exists. A folder or a device is not a file.

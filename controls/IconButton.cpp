@@ -9,7 +9,7 @@ namespace {
 constexpr COLORREF kPushedBackground = RGB(0, 0, 0);
 constexpr COLORREF kPushedText = RGB(255, 255, 255);
 
-/// How far the contents of a pressed button sink to the right and down.
+/// How far the contents of a pressed button sink to the right and down, at AFX_DESIGN_DPI.
 constexpr int kSink = 1;
 
 } // namespace
@@ -90,21 +90,24 @@ void CIconButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
 void CIconButton::DrawFace(CDC& dc, const CRect& rect, bool bPushed) const {
     CRect frame = rect;
     dc.DrawFrameControl(frame, DFC_BUTTON, static_cast<UINT>(DFCS_BUTTONPUSH | (bPushed ? DFCS_PUSHED : 0)));
+    const CSize size(AfxScale(m_hWnd, m_sizeIcon.cx), AfxScale(m_hWnd, m_sizeIcon.cy));
+    const int nSink = AfxScale(m_hWnd, kSink);
     CPoint place;
-    place.y = (rect.Height() - m_sizeIcon.cy) / 2;
-    place.x = Has(StyleText) ? place.y : (rect.Width() - m_sizeIcon.cx) / 2;
+    place.y = (rect.Height() - size.cy) / 2;
+    place.x = Has(StyleText) ? place.y : (rect.Width() - size.cx) / 2;
     if (bPushed) {
-        place.Offset(kSink, kSink);
+        place.Offset(nSink, nSink);
         dc.SetBkColor(kPushedBackground);
         dc.SetTextColor(kPushedText);
     }
-    ::DrawIconEx(dc, place.x, place.y, m_hIcon, 0, 0, 0, nullptr, DI_NORMAL);
+    const CSize drawn = size == m_sizeIcon ? CSize() : size; // none: the icon's own
+    ::DrawIconEx(dc, place.x, place.y, m_hIcon, drawn.cx, drawn.cy, 0, nullptr, DI_NORMAL);
     if (!Has(StyleText))
         return;
     CRect text = rect;
-    text.left = 2 * place.x + m_sizeIcon.cx; // the same margin on both sides of the icon
+    text.left = 2 * place.x + size.cx; // the same margin on both sides of the icon
     if (bPushed)
-        text.OffsetRect(0, kSink);
+        text.OffsetRect(0, nSink);
     CString str;
     GetWindowText(str);
     dc.DrawText(str, text, DT_SINGLELINE | DT_VCENTER);

@@ -33,8 +33,9 @@ public:
     /// @param hIcon not owned: it must outlive the button; null draws none
     /// @return the icon before
     HICON SetIcon(HICON hIcon);
-    /// Tells the icon's size in pixels, 16 x 16 at first. It decides where the icon stands;
-    /// the icon is drawn in its own size all the same. Does not redraw.
+    /// Tells the icon's size in pixels at AFX_DESIGN_DPI, 16 x 16 at first. It decides where the
+    /// icon stands; the icon is drawn in its own size all the same, at other resolutions in this
+    /// one. Does not redraw.
     void SetIconSize(SIZE* pSize);
     /// Replaces the style, and redraws if it is another one. The button comes up if it is
     /// no longer a toggle button.

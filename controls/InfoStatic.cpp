@@ -8,8 +8,9 @@ using namespace fieldkit::detail;
 
 namespace {
 
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kIndent = 2;
-constexpr int kIndentBehindIcon = 16;
+constexpr int kIconSize = 16;
 
 } // namespace
 
@@ -37,14 +38,15 @@ void CInfoStatic::OnPaint() {
     dc.FillSolidRect(rect, m_crBk);
     int nIndent = kIndent;
     if (m_dwOption & OptionIcon) {
-        ::DrawIconEx(dc, 0, 0, TVGetCommonIcon(TVICON_INFORMATION), 0, 0, 0, nullptr, DI_NORMAL);
-        nIndent = kIndentBehindIcon;
+        const int nSize = AfxScale(m_hWnd, kIconSize);
+        ::DrawIconEx(dc, 0, 0, TVGetCommonIcon(TVICON_INFORMATION), nSize, nSize, 0, nullptr, DI_NORMAL);
+        nIndent = kIconSize;
     }
     CString str;
     GetWindowText(str);
     dc.SetBkMode(OPAQUE);
     dc.SetBkColor(m_crBk);
-    rect.left += nIndent;
+    rect.left += AfxScale(m_hWnd, nIndent);
     // The dialog's font. A static without one has the system's, as the device context has.
     const SavedDC saved(dc);
     if (CFont* const pFont = GetFont())

@@ -2,19 +2,26 @@
 
 #include "controls/detail/CommandBar.h"
 
+#include <afxext.h>
+
 #include <utility>
 
 using namespace fieldkit::detail;
 
 namespace {
 
-// The part of the device's screen between its two bars.
-constexpr int kScreenLeft = 0;
-constexpr int kScreenRight = 240;
-constexpr int kScreenTop = 26;
-constexpr int kScreenBottom = 294;
-
 constexpr SIZE kFrameThickness = {1, 1};
+
+/// The part of the screen between its two bars, which on the device is that from (0, 26) to
+/// (240, 294).
+CRect AreaBetweenBars(HWND hWnd) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof info;
+    ::GetMonitorInfo(::MonitorFromWindow(hWnd, MONITOR_DEFAULTTONEAREST), &info);
+    CRect area(info.rcWork);
+    area.DeflateRect(0, AfxScale(hWnd, AFX_DEVICE_BAR_HEIGHT));
+    return area;
+}
 
 /// Draws the drag frame on the screen by inverting it; the frame before, if there is one, is
 /// inverted back in the same call.
@@ -166,19 +173,20 @@ void CnDialog::AbandonDrag() {
 
 /// Where the frame goes for a pen at `point` (client coordinates), kept in reach.
 CRect CnDialog::DragCandidate(CPoint point) const {
+    const CRect area = AreaBetweenBars(m_hWnd);
     CRect frame;
     GetWindowRect(frame);
     frame.OffsetRect(point - *m_ptPress);
-    if (frame.top < kScreenTop)
-        frame.OffsetRect(0, kScreenTop - frame.top);
-    else if (frame.bottom > kScreenBottom)
-        frame.OffsetRect(0, kScreenBottom - frame.bottom);
+    if (frame.top < area.top)
+        frame.OffsetRect(0, area.top - frame.top);
+    else if (frame.bottom > area.bottom)
+        frame.OffsetRect(0, area.bottom - frame.bottom);
     // At the right the frame may hang out until its left edge has left the screen too; then
     // it comes back whole, in one jump.
-    if (frame.left < kScreenLeft)
-        frame.OffsetRect(-frame.left, 0);
-    else if (frame.left > kScreenRight)
-        frame.OffsetRect(kScreenRight - frame.right, 0);
+    if (frame.left < area.left)
+        frame.OffsetRect(area.left - frame.left, 0);
+    else if (frame.left > area.right)
+        frame.OffsetRect(area.right - frame.right, 0);
     return frame;
 }
 

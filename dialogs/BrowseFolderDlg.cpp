@@ -14,7 +14,7 @@ using namespace fieldkit::detail;
 
 namespace {
 
-constexpr int kImageSize = 16;
+constexpr int kImageSize = 16; ///< Pixels at AFX_DESIGN_DPI.
 constexpr int kImageCount = 8; ///< Room at first, and more each time it is full.
 constexpr COLORREF kImageBackground = RGB(255, 255, 255);
 
@@ -82,7 +82,8 @@ BOOL CBrowseFolderDlg::OnInitDialog() {
 }
 
 void CBrowseFolderDlg::LoadImages() {
-    m_images.Create(kImageSize, kImageSize, ILC_COLOR, kImageCount, kImageCount);
+    const int nSize = AfxScale(m_hWnd, kImageSize);
+    m_images.Create(nSize, nSize, ILC_COLOR, kImageCount, kImageCount);
     m_images.SetBkColor(kImageBackground);
     for (const TVIcon nIcon : kIcons)
         m_images.Add(TVGetCommonIcon(nIcon));

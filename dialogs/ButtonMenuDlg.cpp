@@ -11,7 +11,7 @@ using namespace fieldkit::detail;
 
 namespace {
 
-constexpr int kButtonHeight = 36; ///< Pixels, for a finger.
+constexpr int kButtonHeight = 36; ///< Pixels at AFX_DESIGN_DPI, for a finger.
 constexpr int kNothingChosen = -1;
 
 } // namespace
@@ -46,7 +46,7 @@ void CButtonMenuDlg::DoDataExchange(CDataExchange* pDX) {
 BOOL CButtonMenuDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     m_nMenuIndex = kNothingChosen; // a second run of the same dialog object
-    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * kButtonHeight);
+    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * AfxScale(m_hWnd, kButtonHeight));
     CreateButtons();
     SetWindowText(LoadText(m_nTitleId));
     CenterWindow();
@@ -67,7 +67,7 @@ void CButtonMenuDlg::CreateButtons() {
     m_buttons.RemoveAll();
     CRect rect;
     GetClientRect(rect);
-    rect.bottom = rect.top + kButtonHeight;
+    rect.bottom = rect.top + AfxScale(m_hWnd, kButtonHeight);
     for (INT_PTR i = 0; i < m_pEntryIds->GetSize(); ++i) {
         m_buttons.Add(nullptr); // the place first: without memory for it there must be no button
         auto* const pButton = m_buttons[i] = new CIconButton;
@@ -75,7 +75,7 @@ void CButtonMenuDlg::CreateButtons() {
                         this, static_cast<UINT>(IDC_FK_MENU_FIRST + i));
         pButton->SetIcon(TVGetCommonIcon(TVICON_MENU_ENTRY));
         pButton->SetButtonStyle(CIconButton::StyleText);
-        rect.OffsetRect(0, kButtonHeight);
+        rect.OffsetRect(0, AfxScale(m_hWnd, kButtonHeight));
     }
 }
 

@@ -213,13 +213,13 @@ void CFileSelectDlg::OnBtnFile() {
 void CFileSelectDlg::InitColumns() {
     struct Heading {
         int nText;
-        int nWidth; ///< Pixels.
+        int nWidth; ///< Pixels at AFX_DESIGN_DPI.
     };
     constexpr Heading kHeadings[] = {
         {IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
     for (int nColumn = ColumnName; nColumn <= ColumnSize; ++nColumn)
         m_lstFiles.InsertColumn(nColumn, LoadText(kHeadings[nColumn].nText), LVCFMT_LEFT,
-                                kHeadings[nColumn].nWidth, nColumn);
+                                AfxScale(m_hWnd, kHeadings[nColumn].nWidth), nColumn);
 }
 
 /// In a wide font the end of the time would be cut off. The list then gets the widest form of the
@@ -227,7 +227,7 @@ void CFileSelectDlg::InitColumns() {
 void CFileSelectDlg::ChooseListFont() {
     constexpr LPCTSTR kWidestTime = L"2000/00/00 00:00";
     constexpr int kCellMargins = 12;
-    const int nRoom = m_lstFiles.GetColumnWidth(ColumnTime) - kCellMargins;
+    const int nRoom = m_lstFiles.GetColumnWidth(ColumnTime) - AfxScale(m_hWnd, kCellMargins);
     CFont* const pDialogFont = GetFont();
     LOGFONT look = {};
     if (pDialogFont == nullptr || !pDialogFont->GetLogFont(&look))

@@ -16,7 +16,7 @@ constexpr UINT kErrorType = MB_OK | MB_ICONERROR;
 constexpr UINT kWarningType = MB_YESNO | MB_ICONEXCLAMATION;
 constexpr UINT kInformationType = MB_OK | MB_ICONINFORMATION;
 
-/// Pixels of a message box around its text: icon, buttons, margins and frame.
+/// Pixels at AFX_DESIGN_DPI of a message box around its text: icon, buttons, margins and frame.
 constexpr int kBesideText = 76;
 constexpr int kAboveAndBelowText = 100;
 

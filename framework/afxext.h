@@ -10,7 +10,8 @@
 #include "afxdisp.h"
 #include "afxdlgs.h"
 
-/// Height in pixels of the device's bars at the top and at the bottom of the screen.
+/// Height in pixels of the device's bars at the top and at the bottom of the screen, at
+/// AFX_DESIGN_DPI; a window's own come from AfxScale.
 constexpr int AFX_DEVICE_BAR_HEIGHT = 26;
 
 /// The bar at the bottom of a full-screen window: the buttons of its menu at the left,
@@ -35,7 +36,8 @@ public:
     /// Adds the buttons and pictures of a tool bar resource.
     /// @return FALSE, with nothing changed, if there is no such resource
     BOOL LoadToolBar(UINT nIDResource);
-    /// Adds pictures, each 16 pixels wide, light grey being transparent.
+    /// Adds pictures, each 16 pixels wide, light grey being transparent. At other resolutions they
+    /// are shown larger or smaller.
     /// @return the index of the first, -1 on failure
     int AddBitmap(int nNumButtons, UINT nBitmapID);
     /// @param nIndex among the buttons; one that is too large stands for the last place
@@ -44,7 +46,7 @@ public:
     BOOL AddButtons(int nNumButtons, LPTBBUTTON lpButtons);
     BOOL InsertSeparator(int nIndex = INT_MAX);
     ///@}
-    /// Moves the bar to its place after its parent's size has changed.
+    /// Moves the bar to its place after its parent's size or resolution has changed.
     void Reposition();
     /// Whether a point of the screen lies on the switch of the soft input panel.
     BOOL IsSipSwitchAt(CPoint screenPoint) const;
@@ -58,10 +60,13 @@ protected:
 private:
     void AddButton(int nPos, UINT nID, int iImage, BYTE fsState, LPCTSTR pszText);
     void AddSipButton();
+    void ShowImages();
     void TrackPopup(int nIndex);
 
-    HMENU m_hMenu = nullptr;        ///< Owned.
-    HIMAGELIST m_hImages = nullptr; ///< Owned: the picture of the panel's switch.
+    HMENU m_hMenu = nullptr;         ///< Owned.
+    HIMAGELIST m_hImages = nullptr;  ///< Owned: the picture of the panel's switch and the program's.
+    HIMAGELIST m_hResized = nullptr; ///< Owned: the same in the size of another resolution.
+    int m_nDpi = 0;                  ///< The resolution of the pictures that are shown.
 };
 
 /// A push button that shows a bitmap for each of its states. In a template it is a button with

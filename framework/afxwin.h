@@ -29,6 +29,7 @@
 #include "afxwndsys_.h"
 #include "afxwndon_.h"
 #include "afxwnd_.h"
+#include "afxdpi_.h"
 #include "afxmenu_.h"
 #include "afxcall_.h"
 // Application and module.

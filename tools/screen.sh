@@ -1,7 +1,8 @@
 # shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
-# The device's screen: a virtual X display of 240 x 320 and a private Wine prefix.
+# The device's screen: a virtual X display of 240 x 320 and a private Wine prefix; or another one.
 
 screen_size=240x320
+screen_dpi=96
 first_prefix=$build/wine
 prefix=$first_prefix
 system_font=/usr/share/wine/fonts/vgasys.fon
@@ -10,11 +11,14 @@ wine_started=
 
 # A screen of the run's own, also on a desktop: the same size and depth
 # everywhere, and no window manager that places the windows. A second one of another NAME has a
-# Wine prefix of its own.
+# Wine prefix of its own, and can have another SIZE and resolution (pixels per inch).
+# open_screen [NAME [SIZE [DPI]]]
 open_screen() {
     close_when_over
     local number=$build/display${1:-}
     prefix=$first_prefix${1:-}
+    screen_size=${2:-$screen_size}
+    screen_dpi=${3:-$screen_dpi}
     : >"$number"
     Xvfb -displayfd 3 -screen 0 "${screen_size}x24" -nolisten tcp -noreset \
         3>"$number" >"$build/xvfb${1:-}.log" 2>&1 9>&- &
@@ -39,7 +43,7 @@ open_wine() {
     wine_started=yes
     # A run that was killed may have left its server, bound to a screen that is gone.
     [[ ! -d $prefix ]] || wineserver -k 9>&- || true
-    cmp -s "$root/tools/device.reg" "$prefix/device.reg" || logged make-wine-prefix make_prefix
+    cmp -s <(screen_settings) "$prefix/device.reg" || logged make-wine-prefix make_prefix
     [[ ! -e $system_font ]] || echo 'note: fonts-wine is installed, dialogs come out larger than on the device'
     # Stays up between the programs, which then start quickly.
     in_wine wineserver -p
@@ -55,18 +59,26 @@ in_wine() {
     LC_ALL=$device_locale "$@" 9>&-
 }
 
+# What the registry holds for the screen. Wine takes the font of messages as so many pixels,
+# whatever the resolution.
+screen_settings() {
+    printf -v message_height '%02x' $((256 - 9 * screen_dpi / 96))
+    sed -e "s/\"240x320\"/\"$screen_size\"/" -e "s/^  f7,/  $message_height,/" "$root/tools/device.reg"
+    printf '\n[HKEY_CURRENT_USER\\Control Panel\\Desktop]\n"LogPixels"=dword:%08x\n' "$screen_dpi"
+}
+
 make_prefix() {
     rm -rf "$prefix"
-    if [[ $prefix != "$first_prefix" ]]; then
-        cp -a "$first_prefix" "$prefix"
-        return
+    [[ $prefix == "$first_prefix" || ! -d $first_prefix ]] || cp -a "$first_prefix" "$prefix"
+    screen_settings >"$build/tmp/device.reg"
+    if ! cmp -s "$build/tmp/device.reg" "$prefix/device.reg"; then
+        [[ -d $prefix ]] || in_wine wineboot -i
+        in_wine wine regedit /S "$build/tmp/device.reg"
+        add_marlett
+        # Writes the registry to disk and ends all that still has the old settings.
+        in_wine timeout 60 wineserver -w
+        cp "$build/tmp/device.reg" "$prefix/device.reg"
     fi
-    in_wine wineboot -i
-    in_wine wine regedit /S "$root/tools/device.reg"
-    add_marlett
-    # Writes the registry to disk and ends all that still has the old settings.
-    in_wine timeout 60 wineserver -w
-    cp "$root/tools/device.reg" "$prefix/device.reg"
 }
 
 # The glyphs of scroll arrows, check marks and caption buttons. Their package

@@ -8,11 +8,11 @@ namespace fieldkit::detail {
 /// Menu resource that an application may have for the command bar of its windows.
 constexpr UINT IDR_COMMAND_BAR = 130;
 
-/// Gives the bar the application's menu, if there is one, and buttons of 32 x 15 pixels.
+/// Gives the bar the application's menu, if there is one, and buttons of 32 x 15 pixels at
+/// AFX_DESIGN_DPI.
 inline void SetUpCommandBar(CCeCommandBar& bar) {
-    constexpr LPARAM kButtonSize = 32 | 15 << 16;
     bar.InsertMenuBar(IDR_COMMAND_BAR);
-    bar.SendMessage(TB_SETBUTTONSIZE, 0, kButtonSize);
+    bar.SendMessage(TB_SETBUTTONSIZE, 0, MAKELPARAM(AfxScale(bar, 32), AfxScale(bar, 15)));
 }
 
 } // namespace fieldkit::detail

@@ -9,6 +9,7 @@ using namespace fieldkit::detail;
 
 namespace {
 
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kWizardButtonHeight = 22;
 constexpr int kWizardButtonGap = 2;
 
@@ -90,7 +91,7 @@ void CPropertySheet::LayOut() {
     CRect area;
     GetClientRect(area);
     if (::GetDlgItem(m_hWnd, static_cast<int>(AFX_IDW_TOOLBAR)) != nullptr)
-        area.bottom -= AFX_DEVICE_BAR_HEIGHT;
+        area.bottom -= AfxScale(m_hWnd, AFX_DEVICE_BAR_HEIGHT);
     if (m_psh.dwFlags & PSH_WIZARD)
         area = LayOutWizardButtons(area);
     Place(hTab, area);
@@ -101,7 +102,9 @@ void CPropertySheet::LayOut() {
 
 /// Puts the buttons side by side at the bottom. @return what they leave
 CRect CPropertySheet::LayOutWizardButtons(CRect area) {
-    const int nTop = area.bottom - kWizardButtonHeight;
+    const int nHeight = AfxScale(m_hWnd, kWizardButtonHeight);
+    const int nGap = AfxScale(m_hWnd, kWizardButtonGap);
+    const int nTop = area.bottom - nHeight;
     // Finish takes the place of Next.
     const struct {
         UINT nID;
@@ -110,9 +113,9 @@ CRect CPropertySheet::LayOutWizardButtons(CRect area) {
     const int nWidth = area.Width() / 3;
     for (const auto& button : buttons)
         if (const HWND hButton = ::GetDlgItem(m_hWnd, static_cast<int>(button.nID)))
-            Place(hButton, CRect(CPoint(area.left + button.nColumn * nWidth, nTop),
-                                 CSize(nWidth - kWizardButtonGap, kWizardButtonHeight)));
-    area.bottom = nTop - kWizardButtonGap;
+            Place(hButton,
+                  CRect(CPoint(area.left + button.nColumn * nWidth, nTop), CSize(nWidth - nGap, nHeight)));
+    area.bottom = nTop - nGap;
     return area;
 }
 

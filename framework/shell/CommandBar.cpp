@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <utility>
 
 using namespace fieldkit::detail;
 
@@ -19,7 +20,7 @@ constexpr UINT kIdSip = 0xE8E0;
 constexpr UINT kIdGap = 0xE8E1;
 constexpr UINT kIdPopupFirst = 0xE8F0;
 constexpr int kMaxPopups = 15;
-constexpr int kIconSize = 16;
+constexpr int kIconSize = 16; // of the picture here and of those of programs, at AFX_DESIGN_DPI
 
 // A keyboard: an outlined board, three rows of keys, the space bar. A bit is a pixel, white or, in the
 // mask, transparent. Ready as bits, since each full-screen dialog has a bar of its own.
@@ -40,6 +41,18 @@ HIMAGELIST CreateSipImage() {
     const HIMAGELIST hImages = ::ImageList_Create(kIconSize, kIconSize, ILC_COLOR24 | ILC_MASK, 1, 1);
     ::ImageList_Add(hImages, picture, mask);
     return hImages;
+}
+
+/// A copy whose pictures have another size.
+HIMAGELIST Resized(HIMAGELIST hImages, int nSize) {
+    const int nCount = ::ImageList_GetImageCount(hImages);
+    const HIMAGELIST hResized = ::ImageList_Create(nSize, nSize, ILC_COLOR24 | ILC_MASK, nCount, 1);
+    for (int i = 0; i < nCount; ++i) {
+        const HICON hIcon = ::ImageList_GetIcon(hImages, i, ILD_TRANSPARENT);
+        ::ImageList_ReplaceIcon(hResized, -1, hIcon);
+        ::DestroyIcon(hIcon);
+    }
+    return hResized;
 }
 
 CString MenuText(HMENU hMenu, int nPos) {
@@ -66,12 +79,24 @@ BOOL CCeCommandBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
 
 void CCeCommandBar::OnDestroy() {
     CWnd::OnDestroy();
-    if (m_hImages != nullptr)
-        ::ImageList_Destroy(m_hImages);
+    for (const HIMAGELIST hImages : {m_hImages, m_hResized})
+        if (hImages != nullptr)
+            ::ImageList_Destroy(hImages);
     if (m_hMenu != nullptr)
         ::DestroyMenu(m_hMenu);
     m_hImages = nullptr;
+    m_hResized = nullptr;
     m_hMenu = nullptr;
+}
+
+/// Gives the buttons the pictures in the size of the present resolution.
+void CCeCommandBar::ShowImages() {
+    const int nSize = AfxScale(m_hWnd, kIconSize);
+    const HIMAGELIST hResized = nSize != kIconSize ? Resized(m_hImages, nSize) : nullptr;
+    SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(hResized != nullptr ? hResized : m_hImages));
+    if (const HIMAGELIST hOld = std::exchange(m_hResized, hResized))
+        ::ImageList_Destroy(hOld);
+    m_nDpi = AfxGetDpi(m_hWnd);
 }
 
 void CCeCommandBar::AddButton(int nPos, UINT nID, int iImage, BYTE fsState, LPCTSTR pszText) {
@@ -87,7 +112,7 @@ void CCeCommandBar::AddButton(int nPos, UINT nID, int iImage, BYTE fsState, LPCT
 /// A gap that takes the rest of the bar's width, then the switch: it ends up at the right.
 void CCeCommandBar::AddSipButton() {
     m_hImages = CreateSipImage();
-    SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(m_hImages));
+    ShowImages();
     // A separator would show a line: a disabled button without picture and text shows nothing.
     AddButton(0, kIdGap, I_IMAGENONE, 0, nullptr);
     AddButton(1, kIdSip, 0, TBSTATE_ENABLED, nullptr);
@@ -125,7 +150,9 @@ int CCeCommandBar::AddBitmap(int, UINT nBitmapID) {
     CBitmap bitmap;
     if (!bitmap.LoadBitmap(nBitmapID))
         return -1;
-    return ::ImageList_AddMasked(m_hImages, bitmap, kLightGrey);
+    const int nFirst = ::ImageList_AddMasked(m_hImages, bitmap, kLightGrey);
+    ShowImages();
+    return nFirst;
 }
 
 BOOL CCeCommandBar::InsertButton(int nIndex, LPTBBUTTON lpButton) {
@@ -181,10 +208,12 @@ BOOL CCeCommandBar::LoadToolBar(UINT nIDResource) {
 }
 
 void CCeCommandBar::Reposition() {
+    if (m_nDpi != AfxGetDpi(m_hWnd))
+        ShowImages();
     CRect client;
     GetParent()->GetClientRect(client);
-    SetWindowPos(nullptr, 0, client.bottom - AFX_DEVICE_BAR_HEIGHT, client.Width(), AFX_DEVICE_BAR_HEIGHT,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const int nHeight = AfxScale(m_hWnd, AFX_DEVICE_BAR_HEIGHT);
+    SetWindowPos(nullptr, 0, client.bottom - nHeight, client.Width(), nHeight, SWP_NOZORDER | SWP_NOACTIVATE);
     const auto nGap = static_cast<WPARAM>(SendMessage(TB_COMMANDTOINDEX, kIdGap));
     CRect gap;
     CRect sip;

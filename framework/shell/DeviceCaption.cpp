@@ -2,6 +2,7 @@
 
 #include "drawing/SelectScope.h"
 #include "window/DialogKeys.h"
+#include "window/Resolution.h"
 #include "window/WndProc.h"
 
 #include <dwmapi.h>
@@ -10,6 +11,7 @@ using namespace fieldkit::detail;
 
 namespace {
 
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kOkButtonWidth = 34;
 constexpr int kButtonMargin = 2;
 constexpr int kTitleMargin = 4;
@@ -52,19 +54,22 @@ CRect CDeviceCaption::BarRect(const CWnd* pWnd) {
     CRect window;
     pWnd->GetWindowRect(window);
     if (AfxWndAccess::Flags(pWnd) & WF_FULLSCREEN)
-        return CRect(0, 0, window.Width(), AFX_DEVICE_BAR_HEIGHT);
+        return CRect(0, 0, window.Width(), AfxScale(pWnd->m_hWnd, AFX_DEVICE_BAR_HEIGHT));
     CRect client;
     pWnd->GetClientRect(client);
     pWnd->ClientToScreen(client);
     client.OffsetRect(-window.left, -window.top);
-    return CRect(client.left, client.top - ::GetSystemMetrics(SM_CYCAPTION), client.right, client.top - 1);
+    return CRect(client.left, client.top - CResolution::Metric(pWnd->m_hWnd, SM_CYCAPTION), client.right,
+                 client.top - 1);
 }
 
 CRect CDeviceCaption::ButtonRect(const CWnd* pWnd, Button button) {
+    const HWND hWnd = pWnd->m_hWnd;
+    const int nMargin = AfxScale(hWnd, kButtonMargin);
     CRect rect = BarRect(pWnd);
-    rect.DeflateRect(kButtonMargin, kButtonMargin);
+    rect.DeflateRect(nMargin, nMargin);
     const bool bFullScreen = (AfxWndAccess::Flags(pWnd) & WF_FULLSCREEN) != 0;
-    const int nCloseWidth = bFullScreen ? rect.Height() : ::GetSystemMetrics(SM_CXSIZE);
+    const int nCloseWidth = bFullScreen ? rect.Height() : CResolution::Metric(hWnd, SM_CXSIZE);
     if (button == Close) {
         rect.left = rect.right - nCloseWidth;
         return rect;
@@ -73,8 +78,8 @@ CRect CDeviceCaption::ButtonRect(const CWnd* pWnd, Button button) {
     int nSystemButtons = (dwStyle & WS_SYSMENU) ? 1 : 0;
     if (!bFullScreen && nSystemButtons && (dwStyle & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX)))
         nSystemButtons = 3;
-    rect.right -= nSystemButtons * (nCloseWidth + kButtonMargin);
-    rect.left = rect.right - kOkButtonWidth;
+    rect.right -= nSystemButtons * (nCloseWidth + nMargin);
+    rect.left = rect.right - AfxScale(hWnd, kOkButtonWidth);
     return rect;
 }
 
@@ -124,7 +129,7 @@ BOOL CDeviceCaption::OnFullScreenMessage(CWnd* pWnd, UINT message, WPARAM wParam
                                          LRESULT* pResult) {
     switch (message) {
     case WM_NCCALCSIZE: // the first rectangle of either form of lParam is the new window's
-        reinterpret_cast<RECT*>(lParam)->top += AFX_DEVICE_BAR_HEIGHT;
+        reinterpret_cast<RECT*>(lParam)->top += AfxScale(pWnd->m_hWnd, AFX_DEVICE_BAR_HEIGHT);
         *pResult = 0;
         return TRUE;
     case WM_NCPAINT:
@@ -278,17 +283,15 @@ void CDeviceCaption::PaintBar(CWnd* pWnd, CDC& dc) {
     CRect bar = BarRect(pWnd);
     dc.FillSolidRect(bar, ::GetSysColor(bActive ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
 
-    NONCLIENTMETRICS metrics = {};
-    metrics.cbSize = sizeof metrics;
-    ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     CFont font;
+    const NONCLIENTMETRICS metrics = CResolution::NonClientMetrics(pWnd->m_hWnd);
     font.CreateFontIndirect(&metrics.lfCaptionFont);
     const CSelectScope selected(dc, font.m_hObject);
     CString strTitle;
     pWnd->GetWindowText(strTitle);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(bActive ? COLOR_CAPTIONTEXT : COLOR_INACTIVECAPTIONTEXT));
-    bar.left += kTitleMargin;
+    bar.left += AfxScale(pWnd->m_hWnd, kTitleMargin);
     bar.right = ButtonRect(pWnd, (AfxWndAccess::Flags(pWnd) & WF_OKBUTTON) ? Ok : Close).left;
     dc.DrawText(strTitle, bar, DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
@@ -306,7 +309,12 @@ void CDeviceCaption::Paint(CWnd* pWnd, Button pressed) {
         return;
     CRect rect = ButtonRect(pWnd, Ok);
     dc.DrawFrameControl(rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed == Ok ? DFCS_PUSHED : 0U));
-    const CSelectScope selected(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    LOGFONT look = {};
+    ::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof look, &look);
+    look.lfHeight = ::MulDiv(look.lfHeight, AfxGetDpi(pWnd->m_hWnd), AfxGetDpi(nullptr));
+    CFont font;
+    font.CreateFontIndirect(&look);
+    const CSelectScope selected(dc, font.m_hObject);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
     if (pressed == Ok)

@@ -8,7 +8,7 @@ using namespace fieldkit::detail;
 
 namespace {
 
-/// Pixels that stay free between the field and the panel.
+/// Pixels at AFX_DESIGN_DPI that stay free between the field and the panel.
 constexpr int kMargin = 2;
 
 CRect RectOf(HWND hWnd) {
@@ -67,7 +67,7 @@ CSipRoom::CShift CSipRoom::ShiftFor(HWND hWndField, const CRect& panel) const {
     const int nDialogNow = ShiftOf(m_hWnd);
     CRect field = RectOf(hWndField);
     field.OffsetRect(0, nDialogNow + ShiftOf(ControlOf(m_hWnd, hWndField)));
-    const int nCovered = field.bottom + kMargin - panel.top;
+    const int nCovered = field.bottom + AfxScale(m_hWnd, kMargin) - panel.top;
     if (nCovered <= 0)
         return {0, 0};
 

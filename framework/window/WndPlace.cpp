@@ -1,4 +1,5 @@
 // CWnd: place, size and painting.
+#include "Resolution.h"
 #include "WndProc.h"
 
 using namespace fieldkit::detail;
@@ -42,7 +43,7 @@ void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {
     DWORD dwExStyle = GetExStyle() & ~WS_EX_CAPTIONOKBTN;
     if (nAdjustType == adjustBorder)
         dwExStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE);
-    ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, dwExStyle);
+    CResolution::AdjustRect(m_hWnd, lpClientRect, GetStyle(), dwExStyle);
 }
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner) {

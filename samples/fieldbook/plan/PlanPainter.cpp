@@ -10,7 +10,7 @@ constexpr COLORREF kGroundColor = RGB(255, 255, 255);
 constexpr COLORREF kGivenColor = RGB(0, 0, 0);
 constexpr COLORREF kResultColor = RGB(208, 0, 0);
 
-// Pixels.
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kFontHeight = 15;
 constexpr int kLongestName = 110; // wide; longer names end in dots
 constexpr int kLongestBar = 90;
@@ -67,10 +67,11 @@ CPoint ToPoint(CVector v) {
 
 } // namespace
 
-void CPlanFonts::Create(const CFont& like) {
+void CPlanFonts::Create(const CFont& like, int nResolution) {
+    nDpi = nResolution;
     LOGFONT font = {};
     like.GetLogFont(&font);
-    font.lfHeight = -kFontHeight;
+    font.lfHeight = -::MulDiv(kFontHeight, nDpi, AFX_DESIGN_DPI);
     font.lfWidth = 0;
     font.lfWeight = FW_NORMAL;
     given.CreateFontIndirect(&font);
@@ -93,7 +94,7 @@ void CPlanPainter::Paint(const CDrawing& drawing) {
 }
 
 void CPlanPainter::PaintLines(const CDrawing& drawing, Role role) {
-    CPen pen(PS_SOLID, role == Role::Result ? 2 : 1, ColorOf(role));
+    CPen pen(PS_SOLID, Px(role == Role::Result ? 2 : 1), ColorOf(role));
     const CKeepState state(m_dc);
     m_dc.SelectObject(&pen);
     for (const CDrawnLine& line : drawing.GetLines()) {
@@ -125,48 +126,48 @@ void CPlanPainter::PaintPieces(const std::vector<CSegment>& pieces, Role role) {
 }
 
 void CPlanPainter::PaintScaleBar() {
-    constexpr int kTick = 4;
-    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), kLongestBar);
+    const int nTick = Px(4);
+    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), Px(kLongestBar));
     const CString strText = ScaleBarText(bar.dLength);
-    CPen pen(PS_SOLID, 2, kGivenColor);
+    CPen pen(PS_SOLID, Px(2), kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&pen);
     const CSize text = m_dc.GetTextExtent(strText);
-    const CPoint corner(m_view.left + kEdge, m_view.bottom - kEdge);
-    const CRect place(corner.x - 2, corner.y - kTick - text.cy - 1,
-                      corner.x + std::max<int>(bar.nPixels, text.cx) + 3, corner.y + 2);
+    const CPoint corner(m_view.left + Px(kEdge), m_view.bottom - Px(kEdge));
+    const CRect place(corner.x - Px(2), corner.y - nTick - text.cy - 1,
+                      corner.x + std::max<int>(bar.nPixels, text.cx) + Px(3), corner.y + Px(2));
     m_dc.FillSolidRect(place, kGroundColor);
     m_dc.SetTextColor(kGivenColor);
-    m_dc.TextOut(corner.x + 3, corner.y - kTick - text.cy + 1, strText);
-    const POINT line[] = {{corner.x, corner.y - kTick},
+    m_dc.TextOut(corner.x + Px(3), corner.y - nTick - text.cy + 1, strText);
+    const POINT line[] = {{corner.x, corner.y - nTick},
                           {corner.x, corner.y},
                           {corner.x + bar.nPixels, corner.y},
-                          {corner.x + bar.nPixels, corner.y - kTick}};
+                          {corner.x + bar.nPixels, corner.y - nTick}};
     m_dc.Polyline(line, 4);
     m_space.Put(place, Space::Taken);
 }
 
 void CPlanPainter::PaintNorthArrow() {
-    constexpr int kHalfWidth = 6;
-    constexpr int kLength = 14;
+    const int nHalfWidth = Px(6);
+    const int nLength = Px(14);
     CBrush brush(kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&brush);
     const CString strNorth = L"N";
     const CSize text = m_dc.GetTextExtent(strNorth);
-    const int nReach = std::max<int>(kHalfWidth, text.cx / 2) + 2;
-    const CPoint tip(m_view.right - kEdge - nReach, m_view.top + kEdge);
-    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + kLength + text.cy);
+    const int nReach = std::max<int>(nHalfWidth, text.cx / 2) + Px(2);
+    const CPoint tip(m_view.right - Px(kEdge) - nReach, m_view.top + Px(kEdge));
+    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + nLength + text.cy);
     m_dc.FillSolidRect(place, kGroundColor);
     const POINT arrow[] = {tip,
-                           {tip.x + kHalfWidth, tip.y + kLength},
-                           {tip.x, tip.y + kLength - 4},
-                           {tip.x - kHalfWidth, tip.y + kLength}};
+                           {tip.x + nHalfWidth, tip.y + nLength},
+                           {tip.x, tip.y + nLength - Px(4)},
+                           {tip.x - nHalfWidth, tip.y + nLength}};
     m_dc.Polygon(arrow, 4);
     m_dc.SetTextColor(kGivenColor);
-    m_dc.TextOut(tip.x - text.cx / 2, tip.y + kLength - 1, strNorth);
+    m_dc.TextOut(tip.x - text.cx / 2, tip.y + nLength - 1, strNorth);
     m_space.Put(place, Space::Taken);
 }
 
@@ -196,7 +197,7 @@ bool CPlanPainter::PaintName(const CDrawnPoint& point) {
     const bool bResult = point.role == Role::Result;
     m_dc.SelectObject(bResult ? &m_fonts.result : &m_fonts.given);
     CSize name = m_dc.GetTextExtent(point.strName);
-    name.cx = std::min<int>(name.cx, kLongestName);
+    name.cx = std::min<int>(name.cx, Px(kLongestName));
     CRect mark;
     CRect place;
     if (!FindMark(point, mark) || !m_space.PlaceName(mark, name, bResult ? Space::Mark : Space::Line, place))
@@ -222,8 +223,11 @@ void CPlanPainter::PaintMarks(const std::vector<const CDrawnPoint*>& points, Rol
             continue;
         // A ring about a dot, larger than the mark of a given point and with another shape.
         m_dc.SelectObject(&ground);
-        m_dc.Ellipse(CRect(mark.left + 2, mark.top + 2, mark.right - 2, mark.bottom - 2));
-        m_dc.FillSolidRect(CRect(mark.CenterPoint() - CSize(1, 1), CSize(3, 3)), ColorOf(role));
+        mark.DeflateRect(Px(2), Px(2));
+        m_dc.Ellipse(mark);
+        const int nDot = Px(1);
+        m_dc.FillSolidRect(CRect(mark.CenterPoint() - CSize(nDot, nDot), CSize(2 * nDot + 1, 2 * nDot + 1)),
+                           ColorOf(role));
     }
 }
 
@@ -232,7 +236,7 @@ bool CPlanPainter::FindMark(const CDrawnPoint& point, CRect& mark) const {
     CSegment spot{pixel, pixel};
     if (!ClipSegment(spot, m_view, false))
         return false;
-    const int nReach = MarkReach(point.role);
+    const int nReach = Px(MarkReach(point.role));
     mark = CRect(ToPoint(pixel) - CSize(nReach, nReach), CSize(2 * nReach + 1, 2 * nReach + 1));
     return true;
 }

@@ -13,9 +13,10 @@
 struct CPlanFonts {
     CFont given;
     CFont result;
+    int nDpi = AFX_DESIGN_DPI; ///< The resolution for which they are made.
 
     /// @param like their face
-    void Create(const CFont& like);
+    void Create(const CFont& like, int nResolution = AFX_DESIGN_DPI);
 };
 
 /// Paints one picture: lines and arcs, scale bar and north arrow, points with their names. A name
@@ -30,6 +31,8 @@ public:
     void Paint(const CDrawing& drawing);
 
 private:
+    /// A length that is stated for AFX_DESIGN_DPI.
+    int Px(int nPixels) const { return ::MulDiv(nPixels, m_fonts.nDpi, AFX_DESIGN_DPI); }
     void PaintLines(const CDrawing& drawing, Role role);
     void PaintPieces(const std::vector<CSegment>& pieces, Role role);
     void PaintScaleBar();

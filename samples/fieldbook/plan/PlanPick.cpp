@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-std::optional<size_t> NearestPoint(const CDrawing& drawing, const CPlanScale& scale, CPoint tap) {
-    double dNearest = 24; // pixels
+std::optional<size_t> NearestPoint(const CDrawing& drawing, const CPlanScale& scale, CPoint tap, int nReach) {
+    double dNearest = nReach;
     std::optional<size_t> found;
     for (size_t i = 0; i < drawing.GetPoints().size(); ++i) {
         const CVector pixel = scale.ToPixel(drawing.GetPoints()[i].point);

@@ -7,5 +7,5 @@
 
 #include <optional>
 
-/// The index of the nearest point within the reach of a finger.
-std::optional<size_t> NearestPoint(const CDrawing& drawing, const CPlanScale& scale, CPoint tap);
+/// The index of the nearest point within a number of pixels.
+std::optional<size_t> NearestPoint(const CDrawing& drawing, const CPlanScale& scale, CPoint tap, int nReach);

@@ -5,7 +5,8 @@
 
 namespace {
 
-// Pixels: the room for names at the sides, for the north arrow above and the scale bar below.
+// Pixels at AFX_DESIGN_DPI: the room for names at the sides, for the north arrow above and the scale bar
+// below.
 constexpr int kMarginX = 24;
 constexpr int kMarginY = 32;
 
@@ -23,18 +24,21 @@ CCoordinate MiddleOf(const CCoordinate& lo, const CCoordinate& hi) {
     return CLocalPlane(lo).ToCoordinate(diagonal.R_Scalar(0.5));
 }
 
-double FactorFor(CVector box, CSize view) {
+double FactorFor(CVector box, CSize view, int nDpi) {
     if (std::max(box.GetX(), box.GetY()) < kSmallestBox)
         return kSingleFactor;
-    const double dX = std::max<int>(view.cx - 2 * kMarginX, 1) / std::max(box.GetX(), kSmallestBox);
-    const double dY = std::max<int>(view.cy - 2 * kMarginY, 1) / std::max(box.GetY(), kSmallestBox);
+    const auto roomIn = [nDpi](int nPixels, int nMargin) {
+        return std::max(nPixels - 2 * nMargin * nDpi / AFX_DESIGN_DPI, 1);
+    };
+    const double dX = roomIn(view.cx, kMarginX) / std::max(box.GetX(), kSmallestBox);
+    const double dY = roomIn(view.cy, kMarginY) / std::max(box.GetY(), kSmallestBox);
     return std::min({dX, dY, kLargestFactor});
 }
 
 } // namespace
 
-CPlanScale::CPlanScale(const CCoordinate& lo, const CCoordinate& hi, CSize view)
-    : m_plane(MiddleOf(lo, hi)), m_view(view), m_dFactor(FactorFor(CLocalPlane(lo).ToVector(hi), view)),
+CPlanScale::CPlanScale(const CCoordinate& lo, const CCoordinate& hi, CSize view, int nDpi)
+    : m_plane(MiddleOf(lo, hi)), m_view(view), m_dFactor(FactorFor(CLocalPlane(lo).ToVector(hi), view, nDpi)),
       m_dSmallest(m_dFactor / kShrink) {}
 
 CVector CPlanScale::ToPixel(const CCoordinate& point) const {

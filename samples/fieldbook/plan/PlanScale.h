@@ -4,7 +4,7 @@
 
 #include "compute/LocalPlane.h"
 
-#include <atltypes.h>
+#include <afxwin.h>
 
 /// North is up, and the scale is the same both ways. Pixels count to the right and down from the
 /// view's left upper corner, with fractions.
@@ -15,7 +15,8 @@ public:
     /// shown in the middle.
     /// @param lo,hi south-west and north-east corner
     /// @param view  pixels
-    CPlanScale(const CCoordinate& lo, const CCoordinate& hi, CSize view);
+    /// @param nDpi  of the screen
+    CPlanScale(const CCoordinate& lo, const CCoordinate& hi, CSize view, int nDpi = AFX_DESIGN_DPI);
 
     CVector ToPixel(const CCoordinate& point) const;
     /// Pixels for one metre.

@@ -9,11 +9,13 @@
 
 namespace {
 
-constexpr int kFieldHeight = 22; // pixels within the frame: 28 with it
+// Pixels at AFX_DESIGN_DPI.
+constexpr int kFieldHeight = 22; // within the frame: 28 with it
+constexpr int kSpinSize = 42;
+
 constexpr int kLongestName = 16;
 constexpr int kLongestNumber = 20;
 constexpr COLORREF kResultColor = RGB(255, 255, 224);
-constexpr int kSpinSize = 42; // pixels
 
 /// @return false if the field has the focus already: then the tap shall move the caret
 bool EnterSelected(CEdit& edit) {
@@ -140,8 +142,8 @@ void CDirectionEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 void CChoiceCombo::PreSubclassWindow() {
     CnComboBox::PreSubclassWindow();
     LimitText(kLongestName);
-    SetItemHeight(-1, kFieldHeight);
-    SetItemHeight(0, kFieldHeight);
+    SetItemHeight(-1, AfxScale(m_hWnd, kFieldHeight));
+    SetItemHeight(0, AfxScale(m_hWnd, kFieldHeight));
 }
 
 void CChoiceCombo::OnDropDown() {
@@ -201,7 +203,8 @@ LRESULT CResultLine::OnSetText(WPARAM, LPARAM) {
 void CDecimalsSpin::PreSubclassWindow() {
     CnSpinButtonCtrl::PreSubclassWindow();
     // The system makes it as narrow as a scroll bar, whatever the template says.
-    SetWindowPos(nullptr, 0, 0, kSpinSize, kSpinSize, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const int nSize = AfxScale(m_hWnd, kSpinSize);
+    SetWindowPos(nullptr, 0, 0, nSize, nSize, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     SetRange(kMinDecimals, kMaxDecimals);
 }
 

@@ -6,11 +6,12 @@
 
 namespace {
 
-constexpr int kItemWidth = 130; // pixels
+constexpr int kItemWidth = 130; // pixels at AFX_DESIGN_DPI
 
 void InsertColumns(CListCtrl& list) {
-    list.InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, kItemWidth);
-    list.InsertColumn(1, Text(IDS_COLUMN_VALUE), LVCFMT_RIGHT, kItemWidth);
+    const int nWidth = AfxScale(list, kItemWidth);
+    list.InsertColumn(0, Text(IDS_COLUMN_ITEM), LVCFMT_LEFT, nWidth);
+    list.InsertColumn(1, Text(IDS_COLUMN_VALUE), LVCFMT_RIGHT, nWidth);
 }
 
 /// @param nData of each row
@@ -31,7 +32,7 @@ bool AppendLines(CListCtrl& list, const std::vector<CString>& lines, DWORD_PTR n
 void FitColumns(CListCtrl& list, bool bValues) {
     CRect rect;
     list.GetClientRect(&rect);
-    const int nItemWidth = bValues ? kItemWidth : rect.Width();
+    const int nItemWidth = bValues ? AfxScale(list, kItemWidth) : rect.Width();
     list.SetColumnWidth(0, nItemWidth);
     list.SetColumnWidth(1, rect.Width() - nItemWidth);
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Pixels.
+// Pixels at AFX_DESIGN_DPI.
 constexpr int kNameWidth = 46;
 constexpr int kCoordinateWidth = 78;
 constexpr int kHeightWidth = 60;
@@ -35,13 +35,16 @@ END_MESSAGE_MAP()
 void CPointListCtrl::Fill() {
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
     // A row is as high as its image, though there is none.
-    m_rowImages.Create(1, kRowHeight - 1, ILC_COLOR, 0, 1);
+    m_rowImages.Create(1, AfxScale(m_hWnd, kRowHeight) - 1, ILC_COLOR, 0, 1);
     SetImageList(&m_rowImages, LVSIL_SMALL);
-    InsertColumn(static_cast<int>(PointColumn::Name), Text(IDS_COLUMN_NAME), LVCFMT_LEFT, kNameWidth);
-    InsertColumn(static_cast<int>(PointColumn::N), L"N", LVCFMT_RIGHT, kCoordinateWidth);
-    InsertColumn(static_cast<int>(PointColumn::E), L"E", LVCFMT_RIGHT, kCoordinateWidth);
-    InsertColumn(static_cast<int>(PointColumn::Z), L"Z", LVCFMT_RIGHT, kHeightWidth);
-    InsertColumn(static_cast<int>(PointColumn::Code), Text(IDS_COLUMN_CODE), LVCFMT_LEFT, kHeightWidth);
+    const auto insert = [this](PointColumn column, LPCTSTR pszTitle, int nFormat, int nWidth) {
+        InsertColumn(static_cast<int>(column), pszTitle, nFormat, AfxScale(m_hWnd, nWidth));
+    };
+    insert(PointColumn::Name, Text(IDS_COLUMN_NAME), LVCFMT_LEFT, kNameWidth);
+    insert(PointColumn::N, L"N", LVCFMT_RIGHT, kCoordinateWidth);
+    insert(PointColumn::E, L"E", LVCFMT_RIGHT, kCoordinateWidth);
+    insert(PointColumn::Z, L"Z", LVCFMT_RIGHT, kHeightWidth);
+    insert(PointColumn::Code, Text(IDS_COLUMN_CODE), LVCFMT_LEFT, kHeightWidth);
     Refresh();
 }
 
@@ -127,7 +130,7 @@ void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
 
 void CJournalTree::PreSubclassWindow() {
     CnTreeCtrl::PreSubclassWindow();
-    SetItemHeight(kRowHeight);
+    SetItemHeight(static_cast<SHORT>(AfxScale(m_hWnd, kRowHeight)));
 }
 
 BOOL CJournalTree::OnClick(NMHDR*, LRESULT* pResult) {
@@ -144,7 +147,7 @@ BOOL CJournalTree::OnClick(NMHDR*, LRESULT* pResult) {
 
 void CChoiceList::PreSubclassWindow() {
     CnListBox::PreSubclassWindow();
-    SetItemHeight(0, kRowHeight);
+    SetItemHeight(0, static_cast<UINT>(AfxScale(m_hWnd, kRowHeight)));
 }
 
 BOOL CChoiceList::OnSelChange() {

@@ -8,12 +8,12 @@
 namespace {
 
 constexpr double kZoomStep = 2;
-constexpr int kIconSize = 16; // pixels
+constexpr int kIconSize = 16; // pixels at AFX_DESIGN_DPI
 
 /// An icon of the application. The system keeps it; it is not to be destroyed.
 HICON LoadSmallIcon(UINT nId) {
     return static_cast<HICON>(::LoadImage(AfxGetResourceHandle(), MAKEINTRESOURCE(nId), IMAGE_ICON, kIconSize,
-                                          kIconSize, LR_SHARED));
+                                          kIconSize, LR_SHARED)); // the button enlarges it
 }
 
 } // namespace

@@ -22,7 +22,7 @@ BOOL CPlanView::Attach(UINT nID, CWnd* pParent, const CDrawing& drawing) {
         return FALSE;
     m_pDrawing = &drawing;
     if (CFont* pFont = pParent->GetFont())
-        m_fonts.Create(*pFont);
+        m_fonts.Create(*pFont, AfxGetDpi(m_hWnd));
     ShowAll();
     return TRUE;
 }
@@ -31,7 +31,7 @@ void CPlanView::ShowAll() {
     CCoordinate lo;
     CCoordinate hi;
     if (m_pDrawing->GetExtent(lo, hi))
-        SetScale(CPlanScale(lo, hi, GetSize()));
+        SetScale(CPlanScale(lo, hi, GetSize(), AfxGetDpi(m_hWnd)));
 }
 
 void CPlanView::Zoom(double dTimes) {
@@ -98,10 +98,11 @@ void CPlanView::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CPlanView::OnMouseMove(UINT, CPoint point) {
-    constexpr int kTremble = 4; // pixels that a pen on its spot may move
+    constexpr int kTremble = 4; // pixels at AFX_DESIGN_DPI that a pen on its spot may move
+    const int nTremble = AfxScale(m_hWnd, kTremble);
     const CSize way = point - m_ptPen;
     if (GetCapture() != this || way == CSize() ||
-        (!m_bDragged && std::abs(way.cx) <= kTremble && std::abs(way.cy) <= kTremble))
+        (!m_bDragged && std::abs(way.cx) <= nTremble && std::abs(way.cy) <= nTremble))
         return;
     m_bDragged = true;
     SetScale(m_scale.Panned(point - m_ptPen));
@@ -117,7 +118,8 @@ void CPlanView::OnLButtonUp(UINT, CPoint point) {
 }
 
 void CPlanView::Tap(CPoint point) {
-    const std::optional<size_t> found = NearestPoint(*m_pDrawing, m_scale, point);
+    constexpr int kReach = 24; // of a finger, in pixels at AFX_DESIGN_DPI
+    const std::optional<size_t> found = NearestPoint(*m_pDrawing, m_scale, point, AfxScale(m_hWnd, kReach));
     if (found)
         GetParent()->SendMessage(WM_POINT_TAPPED, *found);
 }
