@@ -3,6 +3,7 @@
 #include "geometry/detail/Within.h"
 
 #include <algorithm>
+#include <cstdint>
 
 using namespace fieldkit::geometry;
 
@@ -18,10 +19,9 @@ bool IsSamePoint(double xa, double ya, double xb, double yb, double t) {
     return IsNull(xa - xb, t) && IsNull(ya - yb, t);
 }
 
-/// The least of four distances. One that is not a number does not count.
-double Least(double t, double a, double b, double c, double d) {
-    const double ab = std::min(std::min(t, std::fabs(a)), std::fabs(b));
-    return std::min(std::min(ab, std::fabs(c)), std::fabs(d));
+/// The least of four distances, or a; what is not a number does not displace a.
+double Least(double a, double b, double c, double d) {
+    return std::min(std::min(std::min(std::fabs(a), std::fabs(b)), std::fabs(c)), std::fabs(d));
 }
 
 int Store(double x, double y, double* px, double* py) {
@@ -30,10 +30,17 @@ int Store(double x, double y, double* px, double* py) {
     return 1;
 }
 
+/// Where to store: at p, or at pDiscarded, if all bits of nDiscarded are set. Computed, for of a condition
+/// the compiler makes a branch again.
+double* Unless(std::intptr_t nDiscarded, double* p, double* pDiscarded) {
+    const auto address = reinterpret_cast<std::intptr_t>(p);
+    const auto other = reinterpret_cast<std::intptr_t>(pDiscarded);
+    return reinterpret_cast<double*>(address + ((other - address) & nDiscarded));
+}
+
 /// Whether v lies in the common extent of a0-a1 and b0-b1, or no further than kCoarse from an end of it.
 bool IsInCommonExtent(double v, double a0, double a1, double b0, double b1) {
-    const double lo = std::max(std::min(a0, a1), std::min(b0, b1));
-    const double hi = std::min(std::max(a0, a1), std::max(b0, b1));
+    const auto [lo, hi] = Common(a0, a1, b0, b1);
     return (lo <= v && v <= hi) || !(std::fabs(lo - v) >= kCoarse && std::fabs(hi - v) >= kCoarse);
 }
 
@@ -53,14 +60,12 @@ bool IsInCommonExtent(double v, double a0, double a1, double b0, double b1) {
     return false;
 }
 
-} // namespace
-
-int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
-                               double y4, double* px, double* py, int bSegment) {
-    const double t = m_dTolerance;
-
+/// Twice, since lines without ends then need to keep less at hand.
+template <bool Segment>
+int Meet(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4, double t,
+         double* px, double* py) {
     // Ends are seldom shared: one test, of the abscissas alone, spares four of points.
-    if (Least(t, x1 - x3, x1 - x4, x2 - x3, x2 - x4) < t &&
+    if (!(Least(x1 - x3, x1 - x4, x2 - x3, x2 - x4) >= t) &&
         MeetAtEnds(x1, y1, x2, y2, x3, y3, x4, y4, t, px, py))
         return 1;
 
@@ -74,37 +79,49 @@ int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, doubl
             return 0;
         const double oy = (dyB / dxB) * (x1 - x3) + y3;
         Store(x1, oy, px, py);
-        return !bSegment || IsInBox(x1, oy, x3, y3, x4, y4);
+        return !Segment || IsInBox(x1, oy, x3, y3, x4, y4);
     }
     if (IsNull(dxB, t)) {
         const double oy = (dyA / dxA) * (x3 - x1) + y1;
         Store(x3, oy, px, py);
-        return !bSegment || (IsWithin(x3, x1, x2) & IsWithin(oy, y3, y4));
+        return !Segment || (IsWithin(x3, x1, x2) & IsWithin(oy, y3, y4));
     }
     if (IsNull(dyA, t)) {
         if (IsNull(dyB, t))
             return 0;
         const double ox = (dxB / dyB) * (y1 - y3) + x3;
         Store(ox, y1, px, py);
-        return !bSegment || IsInBox(ox, y1, x3, y3, x4, y4);
+        return !Segment || IsInBox(ox, y1, x3, y3, x4, y4);
     }
     if (IsNull(dyB, t)) {
         const double ox = (dxA / dyA) * (y3 - y1) + x1;
         Store(ox, y3, px, py);
-        return !bSegment || IsWithin(ox, x3, x4); // y3 is an end of the second segment
+        return !Segment || IsWithin(ox, x3, x4); // y3 is an end of the second segment
     }
 
     const double mA = dyA / dxA;
     const double mB = dyB / dxB;
     const double turn = mB - mA;
-    // A branch, though parallels among others are mispredicted: a choice of where to store would make
-    // each store, and the loads of the next case behind it, wait for the quotients.
-    if (IsNull(turn, t))
-        return 0;
     const double ox = (mB * x3 - mA * x1 + y1 - y3) / turn;
     const double oy = mA * (ox - x1) + y1;
-    Store(ox, oy, px, py);
-    return !bSegment || (IsStrictlyInBox(ox, oy, x1, y1, x2, y2) & IsStrictlyInBox(ox, oy, x3, y3, x4, y4));
+    // Parallels are computed like the rest and discarded: a misprediction, found out only after the
+    // divisions, would cost more.
+    const std::intptr_t nParallel = -std::intptr_t{IsNull(turn, t)}; // all bits or none
+    double discarded;
+    Store(ox, oy, Unless(nParallel, px, &discarded), Unless(nParallel, py, &discarded));
+    const int bMeet = static_cast<int>(nParallel) + 1;
+    if constexpr (!Segment)
+        return bMeet;
+    return bMeet & IsStrictlyInBoth(ox, x1, x2, x3, x4) & IsStrictlyInBoth(oy, y1, y2, y3, y4);
+}
+
+} // namespace
+
+int CVector::IntersectLineLine(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
+                               double y4, double* px, double* py, int bSegment) {
+    const double t = m_dTolerance;
+    return bSegment ? Meet<true>(x1, y1, x2, y2, x3, y3, x4, y4, t, px, py)
+                    : Meet<false>(x1, y1, x2, y2, x3, y3, x4, y4, t, px, py);
 }
 
 int CVector::Intersection(CVector a, CVector b, CVector& out, int bInfinite) {

@@ -207,11 +207,13 @@ void MeasureAll(const char* name, const std::vector<Contender>& contenders, doub
 int main() {
     std::vector<Contender> segments = {Of<floors::Segments>("floor"), Of<plain::LineLine<1>>("plain"),
                                        Of<own::LineLine<1>>("Fieldkit")};
-    const std::vector<Contender> lines = {Of<floors::Lines>("floor"), Of<plain::LineLine<0>>("plain"),
-                                          Of<own::LineLine<0>>("Fieldkit")};
+    std::vector<Contender> lines = {Of<floors::Lines>("floor"), Of<plain::LineLine<0>>("plain"),
+                                    Of<own::LineLine<0>>("Fieldkit"), Of<floors::DecidingLines>("deciding")};
 #ifdef FIELDKIT_PEERS
     segments.push_back(Of<peers::eigen::Segments>("Eigen"));
     segments.push_back(Of<peers::boost_geometry::Segments>("Boost"));
+    lines.push_back(Of<peers::eigen::Lines>("Eigen"));
+    lines.push_back(Of<peers::boost_geometry::Lines>("Boost"));
 #endif
     MeasureAll("segment x segment", segments, 2.0);
     MeasureAll("infinite lines", lines, 1.5);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 using namespace fieldkit::geometry;
 
@@ -11,13 +12,15 @@ namespace {
 
 constexpr double kStep[] = {0, kTwoPi}; // none or one
 
-/// Two slopes and the crossing: three divisions.
-void Cross(double x1, double y1, double dxA, double dyA, double x3, double y3, double dxB, double dyB,
-           double* out) {
+/// Two slopes and the crossing: three divisions. @return by how much the slopes differ
+double Cross(double x1, double y1, double dxA, double dyA, double x3, double y3, double dxB, double dyB,
+             double* out) {
     const double mA = dyA / dxA;
     const double mB = dyB / dxB;
-    out[0] = (mB * x3 - mA * x1 + y1 - y3) / (mB - mA);
+    const double turn = mB - mA;
+    out[0] = (mB * x3 - mA * x1 + y1 - y3) / turn;
     out[1] = mA * (out[0] - x1) + y1;
+    return turn;
 }
 
 int IsBetween(double v, double a, double b) {
@@ -63,6 +66,44 @@ int Segments(const double* in, double* out) {
 int Lines(const double* in, double* out) {
     Cross(in[0], in[1], in[2] - in[0], in[3] - in[1], in[4], in[5], in[6] - in[4], in[7] - in[5], out);
     return 1;
+}
+
+int DecidingLines(const double* in, double* out) {
+    constexpr double kTolerance = 1e-8;
+    const double dxA = in[2] - in[0];
+    const double dyA = in[3] - in[1];
+    const double dxB = in[6] - in[4];
+    const double dyB = in[7] - in[5];
+    if (std::fabs(dxA) < kTolerance) {
+        out[0] = in[0];
+        out[1] = dyB / dxB * (in[0] - in[4]) + in[5];
+        return 1;
+    }
+    if (std::fabs(dxB) < kTolerance) {
+        out[0] = in[4];
+        out[1] = dyA / dxA * (in[4] - in[0]) + in[1];
+        return 1;
+    }
+    if (std::fabs(dyA) < kTolerance) {
+        out[0] = dxB / dyB * (in[1] - in[5]) + in[4];
+        out[1] = in[1];
+        return 1;
+    }
+    if (std::fabs(dyB) < kTolerance) {
+        out[0] = dxA / dyA * (in[5] - in[1]) + in[0];
+        out[1] = in[5];
+        return 1;
+    }
+    double found[2];
+    const double turn = Cross(in[0], in[1], dxA, dyA, in[4], in[5], dxB, dyB, found);
+    const std::intptr_t nParallel = -std::intptr_t{std::fabs(turn) < kTolerance};
+    double discarded[2];
+    const auto address = reinterpret_cast<std::intptr_t>(out);
+    const auto other = reinterpret_cast<std::intptr_t>(discarded);
+    auto* const pOut = reinterpret_cast<double*>(address + ((other - address) & nParallel));
+    pOut[0] = found[0];
+    pOut[1] = found[1];
+    return static_cast<int>(nParallel) + 1;
 }
 
 /// Both points of an oblique line: three divisions and a root.

@@ -9,6 +9,9 @@ namespace floors {
 // Each takes the inputs of its workload, see Cases.h, and writes its result to out.
 int Segments(const double* in, double* out);
 int Lines(const double* in, double* out);
+/// No floor, but the least that decides: Lines with what its formulas depend on, which lines are parallel
+/// to an axis and which to each other. It leaves shared ends out.
+int DecidingLines(const double* in, double* out);
 int LineCircle(const double* in, double* out);
 int SegmentArc(const double* in, double* out);
 int CircleCircle(const double* in, double* out);
