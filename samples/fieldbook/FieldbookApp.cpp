@@ -3,6 +3,7 @@
 
 #include "points/FilePath.h"
 #include "screens/MainMenu.h"
+#include "screens/SecondTap.h"
 #include "screens/SettingsSheet.h"
 
 namespace {
@@ -31,6 +32,7 @@ CFieldbookApp theApp;
 
 BOOL CFieldbookApp::InitInstance() {
     SetRegistryKey(L"Fieldkit"); // the settings are kept there
+    const CSecondTapFilter filter;
     const CString strPath = PointsPath();
     CJob job(OwnFile(kHistoryFile));
     job.history.Load();

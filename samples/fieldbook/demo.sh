@@ -54,29 +54,43 @@ sip_button=(217 307) # with the file dialogs, whose bar has wide buttons
 
 # The keys of the soft input panel, which lies on the screen from y = 169 to 294. Shift stands
 # before a capital.
+last_x=-99 last_y=-99
 letter_rows=(1234567890 qwertyuiop asdfghjkl-)
 digit_rows=(789 456 123-)
 
+# The program takes a quick second tap at the same place for a hand that trembles; here each is meant.
+tap() {
+    local near=14
+    if ((($1 - last_x) ** 2 <= near ** 2 && ($2 - last_y) ** 2 <= near ** 2)); then sleep 0.5; fi
+    key_tap "$@"
+}
+
+# The keys of the panel may be tapped as quickly as one likes.
+key_tap() {
+    last_x=$1 last_y=$2
+    act pen_tap "$1" "$2"
+}
+
 press_letter() {
     local row at key=${1,,} last=zxcvbnm
-    [[ $1 == "$key" ]] || tap 18 256
+    [[ $1 == "$key" ]] || key_tap 18 256
     for row in 0 1 2; do
         at=${letter_rows[row]%%"$key"*}
-        [[ $at == "${letter_rows[row]}" ]] || tap $((${#at} * 24 + 12)) $((181 + row * 25))
+        [[ $at == "${letter_rows[row]}" ]] || key_tap $((${#at} * 24 + 12)) $((181 + row * 25))
     done
     at=${last%%"$key"*}
-    [[ $at == "$last" ]] || tap $((${#at} * 24 + 48)) 256
+    [[ $at == "$last" ]] || key_tap $((${#at} * 24 + 48)) 256
 }
 
 press_digit() {
     local row at
     case $1 in
-    0) tap 30 278 ;;
-    .) tap 90 278 ;;
+    0) key_tap 30 278 ;;
+    .) key_tap 90 278 ;;
     *)
         for row in 0 1 2; do
             at=${digit_rows[row]%%"$1"*}
-            [[ $at == "${digit_rows[row]}" ]] || tap $((${#at} * 60 + 30)) $((184 + row * 31))
+            [[ $at == "${digit_rows[row]}" ]] || key_tap $((${#at} * 60 + 30)) $((184 + row * 31))
         done
         ;;
     esac
@@ -93,10 +107,16 @@ digits() {
     for ((i = 0; i < ${#1}; ++i)); do press_digit "${1:i:1}"; done
 }
 
-letters_enter() { tap 213 281; }
-letters_backspace() { tap 222 256; }
-digits_enter() { tap 180 278; }
-digits_backspace() { tap 210 184; }
+# Into the next question only after a moment, for the same reason.
+enter() {
+    sleep 0.4
+    key_tap "$@"
+}
+
+letters_enter() { enter 213 281; }
+letters_backspace() { key_tap 222 256; }
+digits_enter() { enter 180 278; }
+digits_backspace() { key_tap 210 184; }
 digits_next() { tap 210 216; }
 
 # answer TEXT...: each into the question on the screen. Numbers are asked for with digits.
@@ -113,10 +133,12 @@ answer() {
     done
 }
 
-# The buttons of message boxes, whose place depends on their text.
-message_ok() { tap 121 "$1"; }
-message_yes() { tap 73 "$1"; }
-message_no() { tap 171 "$1"; }
+# The buttons of the program's messages, and of the system's boxes, whose place depends on their text.
+message_ok() { tap 120 219; }
+message_yes() { tap 62 219; }
+message_no() { tap 177 219; }
+box_yes() { tap 73 "$1"; }
+box_no() { tap 171 "$1"; }
 
 # Whatever an earlier run has left, and for whoever comes next.
 reset() {
@@ -158,7 +180,7 @@ letters K99
 shot 04-lines-unknown-name
 letters_enter
 shot 05-lines-unknown-name-told
-message_ok 194
+message_ok
 answer K4
 shot 06-lines-result
 tap "${left_button[@]}"
@@ -182,7 +204,7 @@ for ((i = 0; i < 2; ++i)); do letters_backspace; done
 letters K1
 letters_enter
 shot 13-keep-name-taken
-message_ok 194
+message_ok
 for ((i = 0; i < 2; ++i)); do letters_backspace; done
 letters P1
 letters_enter
@@ -356,13 +378,13 @@ tap 100 124
 digits 2
 digits_enter
 shot 42-point-entry-duplicate
-message_ok 194
+message_ok
 tap "${close_button[@]}"
 shot 43a-typed-values-question
 key Return
 shot 43b-stayed
 tap "${close_button[@]}"
-message_yes 194
+message_yes
 shot 43c-main-unsaved
 
 tap "${point_list[@]}"
@@ -372,7 +394,7 @@ tap 90 38
 shot 45-point-list-sorted
 tap "${list_edit[@]}"
 shot 46-point-list-none-selected
-message_ok 194
+message_ok
 tap 20 85
 shot 47-point-list-selected
 tap "${list_edit[@]}"
@@ -385,15 +407,15 @@ shot 50-point-list-changed
 tap 20 113
 tap "${list_remove[@]}"
 shot 51-point-list-remove
-message_no 190
+message_no
 tap "${list_remove[@]}"
-message_yes 190
+message_yes
 shot 52a-point-list-removed
 tap "${list_undo[@]}"
 shot 52b-point-list-undone
 tap 20 113
 tap "${list_remove[@]}"
-message_yes 190
+message_yes
 tap "${ok_button[@]}"
 
 # --- Journal and settings -----------------------------------------------------------------------
@@ -435,7 +457,7 @@ tap 112 235
 shot 64-export-file
 tap "${ok_button[@]}"
 shot 65-export-done
-message_ok 190
+message_ok
 
 # --- Files --------------------------------------------------------------------------------------
 
@@ -447,7 +469,7 @@ tap 100 115
 shot 68-save-as-existing
 tap "${ok_button[@]}"
 shot 69-overwrite-question
-message_no 190
+box_no 190
 shot 70-overwrite-refused
 tap 222 62
 shot 71-folders
@@ -468,20 +490,20 @@ tap "${save_as[@]}"
 tap 60 101
 tap "${ok_button[@]}"
 shot 76-overwrite-question-again
-message_yes 190
+box_yes 190
 shot 77-overwritten
 
 tap "${point_list[@]}"
 tap 20 113
 tap "${list_remove[@]}"
-message_yes 190
+message_yes
 tap "${ok_button[@]}"
 tap "${file_menu[@]}"
 tap "${open[@]}"
 shot 78-unsaved-question
-message_no 194
+message_no
 shot 79-unsaved-given-up-question
-message_no 194
+message_no
 shot 80-stayed
 tap "${file_menu[@]}"
 tap "${save[@]}"
@@ -515,11 +537,11 @@ tap "${point_list[@]}"
 shot 87-points-without-coordinates
 tap 20 113
 tap "${list_remove[@]}"
-message_yes 190
+message_yes
 tap "${ok_button[@]}"
 tap "${menu_close[@]}"
 shot 88-leaving-unsaved
-message_yes 194
+message_yes
 wait_exit
 
 start_fieldbook boundary.csv
@@ -545,12 +567,12 @@ tap 62 241
 tap "${point_list[@]}"
 tap 20 113
 tap "${list_remove[@]}"
-message_yes 190
+message_yes
 tap "${ok_button[@]}"
 tap "${file_menu[@]}"
 tap "${save[@]}"
 shot 94-backup-kept
-message_ok 190
+message_ok
 shot 95-saved-without-bad-lines
 tap "${menu_close[@]}"
 wait_exit
@@ -572,7 +594,7 @@ answer 3
 stop_app
 start_fieldbook utf8.csv
 shot 98-changes-are-back
-message_ok 194
+message_ok
 tap "${point_list[@]}"
 shot 99-point-of-before
 tap "${ok_button[@]}"

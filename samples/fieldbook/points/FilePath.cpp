@@ -39,6 +39,15 @@ bool IsSamePath(const CString& strPath1, const CString& strPath2) {
     return FullPathOf(strPath1).CompareNoCase(FullPathOf(strPath2)) == 0;
 }
 
+CFileStamp StampOf(const CString& strPath) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    if (!::GetFileAttributesEx(strPath, GetFileExInfoStandard, &data))
+        return {};
+    const auto join = [](DWORD dwHigh, DWORD dwLow) { return ULONGLONG{dwHigh} << 32 | dwLow; };
+    return {join(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
+            join(data.nFileSizeHigh, data.nFileSizeLow), true};
+}
+
 CString FolderOf(const CString& strPath) {
     CString strFolder;
     TVResolveFilePath(FullPathOf(strPath), &strFolder, nullptr, nullptr);

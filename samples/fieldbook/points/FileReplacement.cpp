@@ -2,6 +2,8 @@
 
 namespace {
 
+constexpr size_t kBlock = 1 << 18; // bytes between two looks at whether to go on
+
 bool IsReadOnly(const CString& strPath) {
     const DWORD dwAttributes = ::GetFileAttributes(strPath);
     return dwAttributes != INVALID_FILE_ATTRIBUTES && (dwAttributes & FILE_ATTRIBUTE_READONLY) != 0;
@@ -54,11 +56,17 @@ void RewriteFile(const CString& strPath, const std::function<void(CFile&)>& writ
     replacement.PutInPlace();
 }
 
-void RewriteFile(const CString& strPath, const std::string& bytes) {
-    RewriteFile(strPath, [&](CFile& file) { file.Write(bytes.data(), static_cast<UINT>(bytes.size())); });
+void RewriteFile(const CString& strPath, const std::string& bytes, const Progress& progress) {
+    RewriteFile(strPath, [&](CFile& file) {
+        for (size_t nDone = 0; nDone < bytes.size(); nDone += kBlock) {
+            if (progress)
+                progress(nDone, bytes.size());
+            file.Write(bytes.data() + nDone, static_cast<UINT>(std::min(kBlock, bytes.size() - nDone)));
+        }
+    });
 }
 
-std::string ReadWholeFile(const CString& strPath) {
+std::string ReadWholeFile(const CString& strPath, const Progress& progress) {
     constexpr ULONGLONG kLargest = 256 << 20;
     CFile file;
     CFileException error;
@@ -70,7 +78,10 @@ std::string ReadWholeFile(const CString& strPath) {
     size_t nDone = 0;
     // A read may give less than it was asked for.
     while (nDone < bytes.size()) {
-        const UINT nRead = file.Read(bytes.data() + nDone, static_cast<UINT>(bytes.size() - nDone));
+        if (progress)
+            progress(nDone, bytes.size());
+        const UINT nRead =
+            file.Read(bytes.data() + nDone, static_cast<UINT>(std::min(kBlock, bytes.size() - nDone)));
         if (nRead == 0)
             break;
         nDone += nRead;

@@ -181,39 +181,41 @@ CFileText Unreadable(std::vector<int> numbers) {
     return result;
 }
 
-CFileText Split(std::wstring text, Encoding encoding) {
+CFileText Split(std::wstring text, Encoding encoding, const Progress& progress) {
     constexpr wchar_t kCtrlZ = 0x1A;
     if (!text.empty() && text.back() == kCtrlZ)
         text.pop_back();
     CFileText result;
     result.form = {encoding, LineEndOf(text)};
+    CSteps steps(progress, text.size());
     ForEachLine(text, [&](size_t nStart, size_t nLength, bool bEnded) {
         result.lines.emplace_back(text.data() + nStart, static_cast<int>(nLength));
         result.bEnded = bEnded;
+        steps.At(nStart);
     });
     return result;
 }
 
 } // namespace
 
-CFileText DecodeText(const std::string& bytes) {
+CFileText DecodeText(const std::string& bytes, const Progress& progress) {
     std::wstring text;
+    const auto split = [&](Encoding encoding) { return Split(std::move(text), encoding, progress); };
     if (bytes.compare(0, kUtf16MarkLength, "\xFF\xFE") == 0)
-        return DecodeUtf16(bytes, true, text) ? Split(std::move(text), Encoding::Utf16Le) : Unreadable({1});
+        return DecodeUtf16(bytes, true, text) ? split(Encoding::Utf16Le) : Unreadable({1});
     if (bytes.compare(0, kUtf16MarkLength, "\xFE\xFF") == 0)
-        return DecodeUtf16(bytes, false, text) ? Split(std::move(text), Encoding::Utf16Be) : Unreadable({1});
+        return DecodeUtf16(bytes, false, text) ? split(Encoding::Utf16Be) : Unreadable({1});
     if (bytes.compare(0, kUtf8MarkLength, kUtf8Mark) == 0) {
         const std::string rest = bytes.substr(kUtf8MarkLength);
-        return Decode(rest, Encoding::Utf8, text) ? Split(std::move(text), Encoding::Utf8Bom)
+        return Decode(rest, Encoding::Utf8, text) ? split(Encoding::Utf8Bom)
                                                   : Unreadable(LinesThatAreNoText(rest, Encoding::Utf8));
     }
     const bool bOem = Decode(bytes, Encoding::Oem, text);
     if (bOem && (IsAscii(bytes) || IsLikeKatakana(bytes)))
-        return Split(std::move(text), Encoding::Oem);
+        return split(Encoding::Oem);
     if (Decode(bytes, Encoding::Utf8, text))
-        return Split(std::move(text), Encoding::Utf8);
-    return bOem ? Split(std::move(text), Encoding::Oem)
-                : Unreadable(LinesThatAreNoText(bytes, Encoding::Oem));
+        return split(Encoding::Utf8);
+    return bOem ? split(Encoding::Oem) : Unreadable(LinesThatAreNoText(bytes, Encoding::Oem));
 }
 
 CTextEncoder::CTextEncoder(const CTextForm& form) : m_form(form) {

@@ -2,6 +2,8 @@
 /// Text files as people send them: in which encoding, with which line ends.
 #pragma once
 
+#include "points/Progress.h"
+
 #include <afx.h>
 
 #include <string>
@@ -35,7 +37,7 @@ struct CFileText {
 ///
 /// Without a mark, bytes are UTF-8 if they can be, and the code page's otherwise. Short runs of
 /// half-width katakana are both: they are taken for the code page's.
-CFileText DecodeText(const std::string& bytes);
+CFileText DecodeText(const std::string& bytes, const Progress& progress = {});
 
 /// Lines as the bytes of a file.
 class CTextEncoder {

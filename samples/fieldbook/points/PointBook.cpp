@@ -15,27 +15,32 @@ bool CPointBook::Add(const CNamedPoint& point) {
 }
 
 bool CPointBook::AddRead(const CNamedPoint& point) {
-    if (!m_index.emplace(point.strName, m_points.size()).second)
-        return false;
-    m_points.push_back(point);
-    return true;
+    return Insert(m_points.size(), point);
 }
 
 bool CPointBook::Replace(const CString& strName, const CNamedPoint& point) {
-    const auto it = m_index.find(strName);
-    return it != m_index.end() &&
-           Apply({CPointChange::Kind::Replace, it->second, m_points[it->second], point});
+    const size_t nPlace = PlaceOf(strName);
+    return nPlace < m_points.size() && Apply({CPointChange::Kind::Replace, nPlace, m_points[nPlace], point});
 }
 
 bool CPointBook::Remove(const CString& strName) {
-    const auto it = m_index.find(strName);
-    return it != m_index.end() && Apply({CPointChange::Kind::Remove, it->second, m_points[it->second], {}});
+    const size_t nPlace = PlaceOf(strName);
+    return nPlace < m_points.size() && Apply({CPointChange::Kind::Remove, nPlace, m_points[nPlace], {}});
 }
 
 bool CPointBook::Apply(const CPointChange& change) {
-    if (!Make(change))
-        return false;
     m_undo.push_back(change);
+    bool bMade = false;
+    try {
+        bMade = Make(change);
+    } catch (...) { // there is no memory for it
+        m_undo.pop_back();
+        throw;
+    }
+    if (!bMade) {
+        m_undo.pop_back();
+        return false;
+    }
     if (m_observer)
         m_observer(change);
     return true;
@@ -56,23 +61,26 @@ bool CPointBook::Undo(CPointChange& undone) {
 bool CPointBook::Make(const CPointChange& change) {
     switch (change.kind) {
     case CPointChange::Kind::Add:
-        if (change.nPlace > m_points.size() || !m_index.emplace(change.after.strName, change.nPlace).second)
+        if (change.nPlace > m_points.size() || !Insert(change.nPlace, change.after))
             return false;
-        Insert(change.nPlace, change.after);
         break;
     case CPointChange::Kind::Replace: {
         const CString& strOld = change.before.strName;
         const CString& strNew = change.after.strName;
         if (!IsAt(change.nPlace, strOld))
             return false;
-        if (strNew != strOld) {
-            if (!m_index.emplace(strNew, change.nPlace).second)
-                return false;
-            m_index.erase(strOld);
-            if (m_used.erase(strOld) != 0)
-                m_used.insert(strNew);
+        if (strNew != strOld && m_index.count(strNew) != 0)
+            return false;
+        CNamedPoint after = change.after; // from here on nothing takes memory
+        if (auto index = m_index.extract(strOld)) {
+            index.key() = strNew;
+            m_index.insert(std::move(index));
         }
-        m_points[change.nPlace] = change.after;
+        if (auto used = m_used.extract(strOld)) {
+            used.value() = strNew;
+            m_used.insert(std::move(used));
+        }
+        m_points[change.nPlace] = std::move(after);
         break;
     }
     case CPointChange::Kind::Remove:
@@ -85,18 +93,23 @@ bool CPointBook::Make(const CPointChange& change) {
     return true;
 }
 
-/// The name is in the index already.
-void CPointBook::Insert(size_t nPlace, const CNamedPoint& point) {
-    for (size_t i = nPlace; i < m_points.size(); ++i)
-        ++m_index[m_points[i].strName];
-    m_points.insert(m_points.begin() + static_cast<std::ptrdiff_t>(nPlace), point);
+/// @return false if the name is taken
+bool CPointBook::Insert(size_t nPlace, const CNamedPoint& point) {
+    const auto [it, bNew] = m_index.emplace(point.strName, nPlace);
+    if (!bNew)
+        return false;
+    try {
+        m_points.insert(m_points.begin() + static_cast<std::ptrdiff_t>(nPlace), point);
+    } catch (...) {
+        m_index.erase(it);
+        throw;
+    }
+    return true;
 }
 
 void CPointBook::Erase(size_t nPlace) {
     m_index.erase(m_points[nPlace].strName);
     m_used.erase(m_points[nPlace].strName);
-    for (size_t i = nPlace + 1; i < m_points.size(); ++i)
-        --m_index[m_points[i].strName];
     m_points.erase(m_points.begin() + static_cast<std::ptrdiff_t>(nPlace));
 }
 
@@ -105,8 +118,20 @@ bool CPointBook::IsAt(size_t nPlace, const CString& strName) const {
 }
 
 const CNamedPoint* CPointBook::FindPoint(const CString& strName) const {
+    const size_t nPlace = PlaceOf(strName);
+    return nPlace < m_points.size() ? &m_points[nPlace] : nullptr;
+}
+
+size_t CPointBook::PlaceOf(const CString& strName) const {
     const auto it = m_index.find(strName);
-    return it != m_index.end() ? &m_points[it->second] : nullptr;
+    if (it == m_index.end())
+        return m_points.size();
+    for (size_t nWay = 0;; ++nWay) {
+        if (IsAt(it->second + nWay, strName))
+            return it->second + nWay;
+        if (nWay <= it->second && IsAt(it->second - nWay, strName))
+            return it->second - nWay;
+    }
 }
 
 const CCoordinate* CPointBook::Find(const CString& strName) const {

@@ -49,6 +49,8 @@ public:
     /// @return the change that was taken back is written; false if there is none
     bool Undo(CPointChange& undone);
     bool CanUndo() const { return !m_undo.empty(); }
+    /// The change that Undo takes back; there must be one.
+    const CPointChange& GetLastChange() const { return m_undo.back(); }
 
     /// Is told each change after it was made, those of Undo too.
     using Observer = std::function<void(const CPointChange&)>;
@@ -77,12 +79,16 @@ public:
 
 private:
     bool Make(const CPointChange& change);
-    void Insert(size_t nPlace, const CNamedPoint& point);
+    bool Insert(size_t nPlace, const CNamedPoint& point);
     void Erase(size_t nPlace);
     bool IsAt(size_t nPlace, const CString& strName) const;
+    /// @return the place of a point; that behind the last one if no point has this name
+    size_t PlaceOf(const CString& strName) const;
 
     std::vector<CNamedPoint> m_points;
-    std::map<CString, size_t> m_index; ///< Name to place in m_points.
+    /// Name to where the point once stood: it is as far from there as points in front of it have
+    /// come and gone. So none of 100,000 is looked up when one comes or goes.
+    std::map<CString, size_t> m_index;
     std::set<CString> m_used;
     std::vector<CPointChange> m_undo; ///< What can be taken back, the last change last.
     Observer m_observer;

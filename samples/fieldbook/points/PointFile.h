@@ -20,15 +20,13 @@ struct CReadReport {
 /// What only a person can decide or wants to see while a file is read.
 struct CReadHelp {
     /// Tells which column is which when the file does not.
-    /// @param strLine the heading, if there is one, else the first line
-    /// @param nFields of the line
+    /// @param lines   the first lines by their fields, one or more; the heading, if there is one, in front
     /// @param columns proposed; receives the choice
     /// @return false if reading is to be given up
-    std::function<bool(const CString& strLine, bool bHeading, size_t nFields, std::vector<Column>& columns)>
+    std::function<bool(const std::vector<std::vector<CString>>& lines, bool bHeading,
+                       std::vector<Column>& columns)>
         chooseColumns;
-    /// Is told how far the work is, from time to time.
-    /// @return false if it is to be given up
-    std::function<bool(size_t nDone, size_t nAll)> goOn;
+    Progress progress;
 };
 
 /// Adds the points of a file to a book. Separator, heading and columns are recognised by the first

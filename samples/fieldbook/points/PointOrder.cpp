@@ -1,6 +1,7 @@
 #include "points/PointOrder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <string_view>
 
@@ -25,7 +26,7 @@ bool IsMissing(const CNamedPoint& point, PointColumn column) {
                           : ValueOf(point, column) == fieldkit::survey::kNull;
 }
 
-bool IsBefore(const CNamedPoint& a, const CNamedPoint& b, PointColumn column) {
+bool Precedes(const CNamedPoint& a, const CNamedPoint& b, PointColumn column) {
     return IsText(column) ? IsNameBefore(TextOf(a, column), TextOf(b, column))
                           : ValueOf(a, column) < ValueOf(b, column);
 }
@@ -71,13 +72,32 @@ bool IsNameBefore(const CString& strName1, const CString& strName2) {
     return *p1 == 0 && *p2 != 0;
 }
 
-std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, PointColumn column, bool bTurned) {
-    std::vector<size_t> order(points.size());
-    std::iota(order.begin(), order.end(), size_t{0});
-    const auto missing = std::stable_partition(order.begin(), order.end(),
-                                               [&](size_t i) { return !IsMissing(points[i], column); });
-    std::stable_sort(order.begin(), missing, [&](size_t a, size_t b) {
-        return bTurned ? IsBefore(points[b], points[a], column) : IsBefore(points[a], points[b], column);
+bool CPointOrder::IsBefore(const std::vector<CNamedPoint>& points, size_t nFirst, size_t nSecond) const {
+    if (!column)
+        return nFirst < nSecond;
+    const CNamedPoint& first = points[nFirst];
+    const CNamedPoint& second = points[nSecond];
+    const bool bMissing = IsMissing(first, *column);
+    if (bMissing != IsMissing(second, *column))
+        return !bMissing;
+    if (!bMissing && Precedes(first, second, *column))
+        return !bTurned;
+    if (!bMissing && Precedes(second, first, *column))
+        return bTurned;
+    return nFirst < nSecond;
+}
+
+std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, const CPointOrder& order,
+                                const Progress& progress) {
+    std::vector<size_t> places(points.size());
+    std::iota(places.begin(), places.end(), size_t{0});
+    if (!order.column)
+        return places;
+    const double dCompared = std::log2(static_cast<double>(points.size()) + 1); // times that each is, about
+    CSteps steps(progress, points.size() * static_cast<size_t>(dCompared));
+    std::sort(places.begin(), places.end(), [&](size_t a, size_t b) {
+        steps.Next();
+        return order.IsBefore(points, a, b);
     });
-    return order;
+    return places;
 }

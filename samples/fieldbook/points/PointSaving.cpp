@@ -47,22 +47,28 @@ CLineFormat PlainFormat(const std::vector<CNamedPoint>& points) {
 }
 
 /// Reads what was written; a person asked for the columns would choose the same.
-CReadReport ReadAgain(const std::string& bytes, const CLineFormat& format, CPointBook& book) {
-    const auto sameColumns = [&](const CString&, bool, size_t, std::vector<Column>& columns) {
+CReadReport ReadAgain(const std::string& bytes, const CLineFormat& format, CPointBook& book,
+                      const Progress& progress) {
+    const auto sameColumns = [&](const auto&, bool, std::vector<Column>& columns) {
         columns = format.columns;
         return true;
     };
-    return ReadPoints(DecodeText(bytes), book, {sameColumns, {}});
+    const CFileText text = DecodeText(bytes, PartOf(progress, 0, 2));
+    return ReadPoints(text, book, {sameColumns, PartOf(progress, 1, 2)});
 }
 
-bool IsReadAs(const std::vector<CNamedPoint>& points, const CLineFormat& format, const std::string& bytes) {
+bool IsReadAs(const std::vector<CNamedPoint>& points, const CLineFormat& format, const std::string& bytes,
+              const Progress& progress) {
     CPointBook book;
-    const CLineFormat again = ReadAgain(bytes, format, book).format;
+    const CLineFormat again = ReadAgain(bytes, format, book, PartOf(progress, 0, 2)).format;
     if (again.bHeading != format.bHeading || again.bSima != format.bSima || again.head != format.head ||
         again.tail != format.tail)
         return false;
     const CLineFormat all = PlainFormat(points);
+    const Progress comparison = PartOf(progress, 1, 2);
+    CSteps steps(comparison, points.size());
     const auto isSame = [&](const CNamedPoint& first, const CNamedPoint& second) {
+        steps.Next();
         return FormatPointLine(first, all) == FormatPointLine(second, all);
     };
     const std::vector<CNamedPoint>& read = book.GetPoints();
@@ -71,11 +77,13 @@ bool IsReadAs(const std::vector<CNamedPoint>& points, const CLineFormat& format,
 
 /// @return false if a point has no place in this form; strBad is written then
 bool Encode(const std::vector<CNamedPoint>& points, const CLineFormat& format, std::string& bytes,
-            CString& strBad) {
+            CString& strBad, const Progress& progress) {
     CTextEncoder encoder(format.text);
     for (const CString& strLine : format.head)
         encoder.Add(strLine);
+    CSteps steps(progress, points.size());
     for (const CNamedPoint& point : points) {
+        steps.Next();
         if (CheckPoint(point, format.text.encoding) != LineFault::None ||
             !encoder.Add(FormatPointLine(point, format))) {
             strBad = point.strName;
@@ -113,41 +121,44 @@ CLineFormat ExportFormat(const std::vector<Column>& columns, const CLineFormat& 
 }
 
 bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& format, std::string& bytes,
-                  CString& strBad) {
-    return format.bSima ? Encode(WithRecordNumbers(points), format, bytes, strBad)
-                        : Encode(points, format, bytes, strBad);
+                  CString& strBad, const Progress& progress) {
+    return format.bSima ? Encode(WithRecordNumbers(points), format, bytes, strBad, progress)
+                        : Encode(points, format, bytes, strBad, progress);
 }
 
 bool FormatFile(const std::vector<CNamedPoint>& points, CLineFormat& format, std::string& bytes,
-                CString& strBad) {
+                CString& strBad, const Progress& progress) {
     const CLineFormat complete = Completed(points, format);
     for (const CLineFormat& form : {complete, Marked(complete), PlainFormat(points)}) {
         std::string file;
         const std::vector<CNamedPoint> numbered = form.bSima ? WithRecordNumbers(points) : points;
-        if (!Encode(numbered, form, file, strBad))
+        if (!Encode(numbered, form, file, strBad, PartOf(progress, 0, 2)))
             return false;
-        if (!IsReadAs(numbered, form, file))
+        if (!IsReadAs(numbered, form, file, PartOf(progress, 1, 2)))
             continue;
         bytes = std::move(file);
         format = form;
         return true;
     }
-    const auto isLost = [](const CNamedPoint& point) {
+    CSteps steps(progress, points.size());
+    const auto isLost = [&](const CNamedPoint& point) {
+        steps.Next();
         std::string line;
         CString strName;
         const std::vector<CNamedPoint> alone = {point};
         const CLineFormat form = PlainFormat(alone);
-        return !Encode(alone, form, line, strName) || !IsReadAs(alone, form, line);
+        return !Encode(alone, form, line, strName, {}) || !IsReadAs(alone, form, line, {});
     };
     const auto lost = std::find_if(points.begin(), points.end(), isLost);
     strBad = lost != points.end() ? lost->strName : CString();
     return false;
 }
 
-bool IsAsSaved(const std::string& bytes, const CLineFormat& format) {
+bool IsAsSaved(const std::string& bytes, const CLineFormat& format, const Progress& progress) {
     CPointBook book;
-    const CReadReport report = ReadAgain(bytes, format, book);
+    const CReadReport report = ReadAgain(bytes, format, book, PartOf(progress, 0, 2));
     std::string again;
     CString strBad;
-    return FormatPoints(book.GetPoints(), report.format, again, strBad) && again == bytes;
+    return FormatPoints(book.GetPoints(), report.format, again, strBad, PartOf(progress, 1, 2)) &&
+           again == bytes;
 }

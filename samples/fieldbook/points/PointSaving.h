@@ -16,7 +16,7 @@ CLineFormat ExportFormat(const std::vector<Column>& columns, const CLineFormat& 
 /// @param strBad receives the name of the first point that the file cannot hold
 /// @return false if there is one
 bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& format, std::string& bytes,
-                  CString& strBad);
+                  CString& strBad, const Progress& progress = {});
 
 /// Points as the bytes of a file that is read as the same points: that is tried before anything is
 /// written.
@@ -28,8 +28,8 @@ bool FormatPoints(const std::vector<CNamedPoint>& points, const CLineFormat& for
 /// @param strBad receives the name of the first point that no file can hold
 /// @return false if there is one
 bool FormatFile(const std::vector<CNamedPoint>& points, CLineFormat& format, std::string& bytes,
-                CString& strBad);
+                CString& strBad, const Progress& progress = {});
 
 /// Whether a file with these bytes has all that saving its points again would write: then
 /// nothing of it gets lost.
-bool IsAsSaved(const std::string& bytes, const CLineFormat& format);
+bool IsAsSaved(const std::string& bytes, const CLineFormat& format, const Progress& progress = {});

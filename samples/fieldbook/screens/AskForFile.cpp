@@ -1,10 +1,11 @@
 #include "screens/AskForFile.h"
 
+#include "screens/Messages.h"
 #include "screens/Resource.h"
+#include "screens/Text.h"
 #include "screens/SettingsSheet.h"
 #include "Tesuvo.h"
 #include "dialogs/FileSelectDlg.h"
-#include "dialogs/ResMsgBox.h"
 
 namespace {
 
@@ -31,6 +32,6 @@ CString AskForFile(CWnd& parent, CSettings& settings, int nMode, const CString& 
     KeepSettings(settings);
     CString strPath = dialog.GetFilePath();
     if (strPath.IsEmpty())
-        CResMsgBox().ErrorMsgBox(IDS_NO_NAME);
+        TellError(Text(IDS_NO_NAME));
     return strPath;
 }

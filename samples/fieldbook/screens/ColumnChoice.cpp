@@ -1,13 +1,15 @@
 #include "screens/ColumnChoice.h"
 
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"
 #include "screens/Text.h"
-#include "dialogs/ResMsgBox.h"
+#include "controls/nListCtrl.h"
 #include "dialogs/SelMemberDlg.h"
 #include "resources/ResourceIds.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -21,10 +23,11 @@ unsigned long DataOf(Column column) {
     return column == Column::Blank ? CSelMemberItem::BLANK : kFirstData + static_cast<unsigned long>(column);
 }
 
-Column ColumnOf(const CSelMemberItem& item) {
-    return item.m_dwData == CSelMemberItem::BLANK ? Column::Blank
-                                                  : static_cast<Column>(item.m_dwData - kFirstData);
+Column ColumnOf(unsigned long dwData) {
+    return dwData == CSelMemberItem::BLANK ? Column::Blank : static_cast<Column>(dwData - kFirstData);
 }
+
+static_assert(IDS_COLUMN_LAST - IDS_COLUMN_FIRST + 2 == kColumnCount, "a text for each column but Blank");
 
 CString TitleOf(Column column) {
     return Text(column == Column::Blank ? IDS_FK_BLANK : IDS_COLUMN_FIRST + static_cast<UINT>(column));
@@ -33,6 +36,8 @@ CString TitleOf(Column column) {
 void Add(CPtrList& list, Column column) {
     CSelMemberDlg::AddSelMemberItemToList(list, TitleOf(column), DataOf(column));
 }
+
+using Lines = std::vector<std::vector<CString>>;
 
 /// The dialog with its items, which it does not free itself.
 class CColumnsDlg : public CSelMemberDlg {
@@ -56,33 +61,122 @@ public:
     std::vector<Column> GetColumns() const {
         std::vector<Column> columns;
         for (POSITION pos = m_listCurrent.GetHeadPosition(); pos != nullptr;)
-            columns.push_back(ColumnOf(*static_cast<const CSelMemberItem*>(m_listCurrent.GetNext(pos))));
+            columns.push_back(
+                ColumnOf(static_cast<const CSelMemberItem*>(m_listCurrent.GetNext(pos))->m_dwData));
         return columns;
     }
 };
 
+/// Below the choice stand the first lines of a file, each field under the column that it is taken for.
+class CFileColumnsDlg : public CColumnsDlg {
+public:
+    /// @param nHintId why the user is asked
+    CFileColumnsDlg(UINT nHintId, const Lines& lines, CWnd& parent)
+        : CColumnsDlg(IDS_FILE_COLUMNS, parent), m_nHintId(nHintId), m_lines(lines) {}
+
+protected:
+    BOOL OnInitDialog() override {
+        CColumnsDlg::OnInitDialog();
+        MakeRoom();
+        Fill();
+        CenterWindow();
+        return TRUE;
+    }
+
+    /// A tap on one of the base class's buttons changes the columns.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        const BOOL bDone = CColumnsDlg::OnCommand(wParam, lParam);
+        if (m_list.m_hWnd != nullptr)
+            ShowTitles();
+        return bDone;
+    }
+
+private:
+    /// The buttons at the bottom go down.
+    void MakeRoom() {
+        constexpr int kHintHeight = 17, kListHeight = 100; // pixels
+        CRect window, area;
+        GetWindowRect(window);
+        GetClientRect(area);
+        const int nMore =
+            std::min(kHintHeight + kListHeight, ::GetSystemMetrics(SM_CYSCREEN) - window.Height());
+        SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + nMore, SWP_NOMOVE | SWP_NOZORDER);
+        CRect button;
+        for (const int nId : {IDOK, IDCANCEL}) {
+            GetDlgItem(nId)->GetWindowRect(button);
+            ScreenToClient(button);
+            GetDlgItem(nId)->SetWindowPos(nullptr, button.left, button.top + nMore, 0, 0,
+                                          SWP_NOSIZE | SWP_NOZORDER);
+        }
+        area.bottom = button.top;
+        area.top = area.bottom + kHintHeight;
+        m_hint.Create(Text(m_nHintId), WS_CHILD | WS_VISIBLE | SS_NOPREFIX,
+                      CRect(kMargin, button.top, area.right, area.top), this);
+        area.bottom = button.top + nMore - kMargin;
+        m_list.Create(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER, area,
+                      this, IDC_FIRST_LINES);
+        m_hint.SetFont(GetFont());
+        m_list.SetFont(GetFont());
+    }
+
+    void Fill() {
+        constexpr int kWidth = 76; // pixels
+        for (size_t nLine = 0; nLine < m_lines.size(); ++nLine) {
+            m_list.InsertItem(static_cast<int>(nLine), L"");
+            for (size_t nField = 0; nField < m_lines[nLine].size(); ++nField) {
+                if (nField == m_nFields)
+                    m_list.InsertColumn(static_cast<int>(m_nFields++), L"", LVCFMT_LEFT, kWidth);
+                m_list.SetItemText(static_cast<int>(nLine), static_cast<int>(nField), m_lines[nLine][nField]);
+            }
+        }
+        ShowTitles();
+    }
+
+    void ShowTitles() {
+        const CWnd& chosen = *GetDlgItem(IDC_FK_MEMBER_CURRENT);
+        const auto nChosen = static_cast<size_t>(chosen.SendMessage(LB_GETCOUNT));
+        for (size_t i = 0; i < m_nFields; ++i) {
+            const LRESULT nData = i < nChosen ? chosen.SendMessage(LB_GETITEMDATA, i) : 0;
+            CString strTitle =
+                i < nChosen ? TitleOf(ColumnOf(static_cast<unsigned long>(nData))) : CString(L"?");
+            LVCOLUMN column = {};
+            column.mask = LVCF_TEXT;
+            column.pszText = strTitle.GetBuffer();
+            m_list.SetColumn(static_cast<int>(i), &column);
+        }
+    }
+
+    static constexpr int kMargin = 4; // pixels
+
+    UINT m_nHintId;
+    const Lines& m_lines;
+    size_t m_nFields = 0; ///< Of the longest line.
+    CStatic m_hint;
+    CnListCtrl m_list;
+};
+
 /// Asks until the columns are good or the user cancels.
-template <class IsGood>
-bool Choose(CWnd& parent, UINT nTitleId, UINT nProblemId, Column further, IsGood isGood,
+/// @param makeDialog gives a pointer to a dialog
+template <class MakeDialog, class IsGood>
+bool Choose(MakeDialog makeDialog, UINT nProblemId, Column further, IsGood isGood,
             std::vector<Column>& columns) {
     for (;;) {
-        CColumnsDlg dialog(nTitleId, parent);
-        dialog.SetColumns(columns, further);
-        if (dialog.DoModal() != IDOK)
+        const auto pDialog = makeDialog();
+        pDialog->SetColumns(columns, further);
+        if (pDialog->DoModal() != IDOK)
             return false;
-        const std::vector<Column> chosen = dialog.GetColumns();
+        const std::vector<Column> chosen = pDialog->GetColumns();
         if (isGood(chosen)) {
             columns = chosen;
             return true;
         }
-        CResMsgBox().ErrorMsgBox(nProblemId);
+        TellError(Text(nProblemId));
     }
 }
 
-bool ChooseOrder(CWnd& parent, const CString& strLine, UINT nQuestionId, std::vector<Column>& columns) {
-    constexpr int kLongest = 80;
-    CResMsgBox().InformationMsgBox(Text(nQuestionId, strLine.Left(kLongest).GetString()));
-    return Choose(parent, IDS_FILE_COLUMNS, IDS_COLUMNS_MISSING, Column::Other, AreComplete, columns);
+bool ChooseOrder(CWnd& parent, const Lines& lines, UINT nHintId, std::vector<Column>& columns) {
+    const auto makeDialog = [&] { return std::make_unique<CFileColumnsDlg>(nHintId, lines, parent); };
+    return Choose(makeDialog, IDS_COLUMNS_MISSING, Column::Other, AreComplete, columns);
 }
 
 /// Of a heading only what is known for certain is proposed.
@@ -96,20 +190,21 @@ void DropDoubles(std::vector<Column>& columns) {
 } // namespace
 
 bool ChooseColumns(CWnd& parent, std::vector<Column>& columns) {
+    const auto makeDialog = [&] { return std::make_unique<CColumnsDlg>(IDS_EXPORT_COLUMNS, parent); };
     const auto isAny = [](const std::vector<Column>& chosen) { return !chosen.empty(); };
-    return Choose(parent, IDS_EXPORT_COLUMNS, IDS_NO_COLUMNS, Column::Blank, isAny, columns);
+    return Choose(makeDialog, IDS_NO_COLUMNS, Column::Blank, isAny, columns);
 }
 
-CReadHelp HelpFor(CSettings& settings, CWnd& parent) {
+CReadHelp HelpFor(CSettings& settings, CWnd& parent, CProgressWindow& window) {
     CReadHelp help;
-    help.chooseColumns = [&](const CString& strLine, bool bHeading, size_t nFields,
-                             std::vector<Column>& columns) {
+    help.chooseColumns = [&](const Lines& lines, bool bHeading, std::vector<Column>& columns) {
+        window.Close();
         if (bHeading) {
             DropDoubles(columns);
-            return ChooseOrder(parent, strLine, IDS_ASK_HEADING, columns);
+            return ChooseOrder(parent, lines, IDS_ASK_HEADING, columns);
         }
-        if (settings.order.size() < nFields) {
-            if (!ChooseOrder(parent, strLine, IDS_ASK_ORDER, columns))
+        if (settings.order.size() < lines.front().size()) {
+            if (!ChooseOrder(parent, lines, IDS_ASK_ORDER, columns))
                 return false;
             settings.order = columns;
             KeepSettings(settings);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "points/PointFile.h"
+#include "screens/ProgressWindow.h"
 #include "screens/Settings.h"
 
 #include <afxwin.h>
@@ -15,4 +16,5 @@ bool ChooseColumns(CWnd& parent, std::vector<Column>& columns);
 /// Help with reading a points file: the order of its columns is asked for when no heading tells it.
 /// That of files without any heading is asked once and kept in the settings.
 /// @param settings, parent must outlive the help
-CReadHelp HelpFor(CSettings& settings, CWnd& parent);
+/// @param window goes off the screen while something is asked; must outlive the help
+CReadHelp HelpFor(CSettings& settings, CWnd& parent, CProgressWindow& window);

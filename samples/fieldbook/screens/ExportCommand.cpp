@@ -6,11 +6,11 @@
 #include "points/FileReplacement.h"
 #include "points/PointSaving.h"
 #include "screens/Messages.h"
+#include "screens/ProgressWindow.h"
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"
 #include "screens/Text.h"
 #include "dialogs/FileSelectDlg.h"
-#include "dialogs/ResMsgBox.h"
 
 namespace {
 
@@ -19,15 +19,21 @@ void Write(const CJob& job, const CString& strPath) {
     const CLineFormat format = ExportFormat(job.settings.columns, job.format);
     std::string bytes;
     CString strBad;
-    if (!FormatPoints(job.book.GetPoints(), format, bytes, strBad)) {
-        CResMsgBox().ErrorMsgBox(Text(IDS_POINT_NOT_WRITABLE, strBad.GetString()));
-        return;
-    }
     try {
-        RewriteFile(strPath, bytes);
-        CResMsgBox().InformationMsgBox(Text(IDS_EXPORTED, job.book.GetCount(), strName.GetString()));
+        CProgressWindow window(IDS_EXPORTING);
+        const bool bHolds =
+            FormatPoints(job.book.GetPoints(), format, bytes, strBad, PartOf(window.Get(), 0, 2));
+        if (bHolds)
+            RewriteFile(strPath, bytes, PartOf(window.Get(), 1, 2));
+        window.Close();
+        if (bHolds)
+            TellInformation(Text(IDS_EXPORTED, job.book.GetCount(), strName.GetString()));
+        else
+            TellError(Text(IDS_POINT_NOT_WRITABLE, strBad.GetString()));
     } catch (CFileException* e) {
         TellFileProblem(e, IDS_NOT_WRITTEN, strPath);
+    } catch (CUserException* e) { // stopped: no file
+        e->Delete();
     }
 }
 
@@ -42,7 +48,7 @@ void RunExport(CJob& job, CWnd& parent) {
         return;
     // With columns left out the points themselves would be lost.
     if (IsSamePath(strPath, job.strPath))
-        CResMsgBox().ErrorMsgBox(Text(IDS_EXPORT_OWN_FILE, FileNameOf(strPath).GetString()));
+        TellError(Text(IDS_EXPORT_OWN_FILE, FileNameOf(strPath).GetString()));
     else
         Write(job, strPath);
 }

@@ -10,7 +10,6 @@
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/ButtonMenuDlg.h"
 #include "dialogs/FileSelectDlg.h"
-#include "dialogs/ResMsgBox.h"
 
 void CFileCommands::RunMenu() {
     enum { EntryOpen, EntryPrevious, EntryNew, EntrySave, EntrySaveAs, EntryFolder, EntryCount };
@@ -42,13 +41,13 @@ void CFileCommands::RunMenu() {
 bool CFileCommands::MayGiveUpPoints() {
     if (!m_job.book.IsModified())
         return true;
-    if (CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
+    if (Ask(Text(IDS_ASK_SAVE)))
         return Save();
     return AskToLose(Text(IDS_ASK_GIVE_UP));
 }
 
 void CFileCommands::OfferToSave() {
-    if (m_job.book.IsModified() && CResMsgBox().WarningMsgBox(IDS_ASK_SAVE) == IDYES)
+    if (m_job.book.IsModified() && Ask(Text(IDS_ASK_SAVE)))
         Save();
 }
 
@@ -62,7 +61,7 @@ void CFileCommands::Open() {
 
 void CFileCommands::OpenPrevious() {
     if (m_job.settings.strPrevious.IsEmpty())
-        CResMsgBox().InformationMsgBox(IDS_NO_PREVIOUS);
+        TellInformation(Text(IDS_NO_PREVIOUS));
     else if (MayGiveUpPoints())
         OpenPointsFile(m_job, m_job.settings.strPrevious, m_parent);
 }

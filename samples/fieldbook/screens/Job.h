@@ -3,6 +3,7 @@
 #pragma once
 
 #include "points/ChangeFile.h"
+#include "points/FilePath.h"
 #include "points/History.h"
 #include "points/PointFile.h"
 #include "screens/Journal.h"
@@ -21,6 +22,8 @@ struct CJob {
     CChangeFile changes;        ///< What the points file has not got yet.
     bool bRecorded = true;      ///< Whether the last change could be recorded.
     std::uint64_t nContent = 0; ///< Hash of the points file as it was read or written last.
+    std::uint64_t nSeen = 0;    ///< Hash of the points file when it was looked at last.
+    CFileStamp stamp;           ///< Of the points file at that time.
     bool bWritten = false;      ///< Whether the points file has been written since it was opened.
     CJournal journal;
     CHistory history;

@@ -4,6 +4,8 @@
 
 #include "screens/Job.h"
 
+// Work that takes long is shown and can be stopped; then nothing has changed.
+
 /// Begins a job without a file: with points of an earlier one that were in no file when it ended.
 void BeginWithoutFile(CJob& job);
 
@@ -13,6 +15,14 @@ void BeginWithoutFile(CJob& job);
 /// @return false, with the job as it was, if the file cannot be read, is no text, is worked on by
 ///         another program of this kind, or if the user gives up
 bool OpenPointsFile(CJob& job, const CString& strPath, CWnd& parent);
+
+/// Whether something else has changed the job's points file. Each change is told once, and one that is
+/// being written not yet.
+bool HasNewsOutside(CJob& job);
+
+/// Asks whether the points file shall be read again, and does it. Changes that are not saved are added to
+/// what it has now, if the user wants that.
+void OfferToReload(CJob& job, CWnd& parent);
 
 /// Makes a points file without points, and begins a job with it; unsaved changes are given up then.
 /// @return false, with the job as it was, if the file cannot be written

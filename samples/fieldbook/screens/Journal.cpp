@@ -1,8 +1,9 @@
 #include "screens/Journal.h"
 
 #include "points/CodePage.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
-#include "dialogs/ResMsgBox.h"
+#include "screens/Text.h"
 #include "util/AsciiFile.h"
 
 void CJournal::SetPointsPath(const CString& strPointsPath) {
@@ -31,6 +32,6 @@ void CJournal::Append(const CString& strTitle, const std::vector<CString>& lines
     } catch (CFileException* e) {
         e->Delete();
         m_bWritable = false;
-        CResMsgBox().ErrorMsgBox(IDS_NO_JOURNAL);
+        TellError(Text(IDS_NO_JOURNAL));
     }
 }

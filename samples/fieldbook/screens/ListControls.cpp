@@ -1,11 +1,11 @@
 #include "screens/ListControls.h"
 
 #include "compute/ValueText.h"
+#include "screens/ProgressWindow.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -45,63 +45,93 @@ void CPointListCtrl::Fill() {
     insert(PointColumn::E, L"E", LVCFMT_RIGHT, kCoordinateWidth);
     insert(PointColumn::Z, L"Z", LVCFMT_RIGHT, kHeightWidth);
     insert(PointColumn::Code, Text(IDS_COLUMN_CODE), LVCFMT_LEFT, kHeightWidth);
-    Refresh();
+    SortBy({});
 }
 
-void CPointListCtrl::Refresh() {
-    const std::vector<CNamedPoint>& points = m_book.GetPoints();
-    if (m_column) {
-        m_order = OrderPoints(points, *m_column, m_bTurned);
-    } else {
-        m_order.resize(points.size());
-        std::iota(m_order.begin(), m_order.end(), size_t{0});
+/// @return false, with the rows as they were, if the user has stopped it
+bool CPointListCtrl::SortBy(const CPointOrder& by) {
+    std::vector<size_t> order;
+    try {
+        CProgressWindow window(IDS_SORTING);
+        order = OrderPoints(m_book.GetPoints(), by, window.Get());
+    } catch (CUserException* e) {
+        e->Delete();
+        return false;
     }
-    const auto isLeftOut = [&](size_t i) {
-        return CString(points[i].strName).MakeUpper().Find(m_strPart) < 0;
-    };
+    const auto isLeftOut = [this](size_t nPlace) { return !IsShown(nPlace); };
     if (!m_strPart.IsEmpty())
-        m_order.erase(std::remove_if(m_order.begin(), m_order.end(), isLeftOut), m_order.end());
+        order.erase(std::remove_if(order.begin(), order.end(), isLeftOut), order.end());
+    m_order = std::move(order);
+    m_by = by;
+    ShowRows();
+    return true;
+}
+
+bool CPointListCtrl::IsShown(size_t nPlace) const {
+    return CString(m_book.GetPoints()[nPlace].strName).MakeUpper().Find(m_strPart) >= 0;
+}
+
+void CPointListCtrl::ShowRows() {
     SetItemCountEx(static_cast<int>(m_order.size()), LVSICF_NOSCROLL);
     Invalidate();
+}
+
+void CPointListCtrl::Follow(const CPointChange& change) {
+    const size_t nPlace = change.nPlace;
+    if (change.kind != CPointChange::Kind::Add)
+        m_order.erase(std::remove(m_order.begin(), m_order.end(), nPlace), m_order.end());
+    for (size_t& nOther : m_order) {
+        if (change.kind == CPointChange::Kind::Remove && nOther > nPlace)
+            --nOther;
+        else if (change.kind == CPointChange::Kind::Add && nOther >= nPlace)
+            ++nOther;
+    }
+    if (change.kind != CPointChange::Kind::Remove && IsShown(nPlace)) {
+        const auto isBefore = [this](size_t a, size_t b) { return m_by.IsBefore(m_book.GetPoints(), a, b); };
+        m_order.insert(std::lower_bound(m_order.begin(), m_order.end(), nPlace, isBefore), nPlace);
+    }
+    ShowRows();
 }
 
 void CPointListCtrl::ShowOnly(const CString& strPart) {
     m_strPart = CString(strPart).MakeUpper();
     SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-    Refresh();
+    if (!SortBy(m_by))
+        SortBy({});
 }
 
 void CPointListCtrl::Select(const CString& strName) {
     for (size_t i = 0; i < m_order.size(); ++i)
-        if (PointAt(static_cast<int>(i)).strName == strName) {
+        if (PointAt(static_cast<int>(i))->strName == strName) {
             SetItemState(static_cast<int>(i), LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
             EnsureVisible(static_cast<int>(i), FALSE);
             return;
         }
 }
 
-const CNamedPoint& CPointListCtrl::PointAt(int nRow) const {
-    return m_book.GetPoints()[m_order[static_cast<size_t>(nRow)]];
+const CNamedPoint* CPointListCtrl::PointAt(int nRow) const {
+    if (nRow < 0 || static_cast<size_t>(nRow) >= m_order.size())
+        return nullptr;
+    const size_t nPlace = m_order[static_cast<size_t>(nRow)];
+    return nPlace < m_book.GetPoints().size() ? &m_book.GetPoints()[nPlace] : nullptr;
 }
 
 const CNamedPoint* CPointListCtrl::GetSelectedPoint() const {
-    const int nRow = GetNextItem(-1, LVNI_SELECTED);
-    return nRow < 0 || static_cast<size_t>(nRow) >= m_order.size() ? nullptr : &PointAt(nRow);
+    return PointAt(GetNextItem(-1, LVNI_SELECTED));
 }
 
-CString CPointListCtrl::TextAt(int nRow, PointColumn column) const {
-    const CNamedPoint& row = PointAt(nRow);
+CString CPointListCtrl::TextOf(const CNamedPoint& point, PointColumn column) const {
     switch (column) {
     case PointColumn::Name:
-        return row.strName;
+        return point.strName;
     case PointColumn::N:
-        return LengthText(row.point.GetN(), m_nDecimals);
+        return LengthText(point.point.GetN(), m_nDecimals);
     case PointColumn::E:
-        return LengthText(row.point.GetE(), m_nDecimals);
+        return LengthText(point.point.GetE(), m_nDecimals);
     case PointColumn::Z:
-        return LengthText(row.point.GetZ(), m_nDecimals);
+        return LengthText(point.point.GetZ(), m_nDecimals);
     default:
-        return row.strCode;
+        return point.strCode;
     }
 }
 
@@ -109,22 +139,19 @@ CString CPointListCtrl::TextAt(int nRow, PointColumn column) const {
 void CPointListCtrl::OnGetDispInfo(NMHDR* pNMHDR, LRESULT* pResult) {
     LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(pNMHDR)->item;
     *pResult = 0;
-    if ((item.mask & LVIF_TEXT) == 0 || item.iItem < 0 || static_cast<size_t>(item.iItem) >= m_order.size())
-        return;
-    const CString strText = TextAt(item.iItem, static_cast<PointColumn>(item.iSubItem));
-    ::lstrcpyn(item.pszText, strText, item.cchTextMax);
+    const CNamedPoint* const pPoint = PointAt(item.iItem);
+    if ((item.mask & LVIF_TEXT) != 0 && pPoint != nullptr)
+        ::lstrcpyn(item.pszText, TextOf(*pPoint, static_cast<PointColumn>(item.iSubItem)), item.cchTextMax);
 }
 
 DWORD CPointListCtrl::GetItemAttribute(int nItem) {
-    const bool bUsed = static_cast<size_t>(nItem) < m_order.size() && m_book.IsUsed(PointAt(nItem).strName);
-    return bUsed ? static_cast<DWORD>(AttributeHighlight) : 0;
+    const CNamedPoint* const pPoint = PointAt(nItem);
+    return pPoint != nullptr && m_book.IsUsed(pPoint->strName) ? static_cast<DWORD>(AttributeHighlight) : 0;
 }
 
 void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
     const auto column = static_cast<PointColumn>(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem);
-    m_bTurned = m_column == column && !m_bTurned;
-    m_column = column;
-    Refresh();
+    SortBy({column, m_by.column == column && !m_by.bTurned});
     *pResult = 0;
 }
 

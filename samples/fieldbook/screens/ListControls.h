@@ -8,10 +8,8 @@
 #include "controls/nListBox.h"
 #include "controls/nTreeCtrl.h"
 
-#include <optional>
-
 /// The points with their coordinates, those used in computations in cyan. A tap on a heading
-/// sorts by that column, a second one turns the order round.
+/// sorts by that column, a second one turns the order round; long sorting can be stopped.
 ///
 /// It has the style LVS_OWNERDATA: no row is kept in the control, so that 100,000 are no more work
 /// than ten.
@@ -21,8 +19,8 @@ public:
     CPointListCtrl(const CPointBook& book, int nDecimals) : m_book(book), m_nDecimals(nDecimals) {}
     /// Makes the columns and shows the points in the book's order.
     void Fill();
-    /// Shows the points as they are now, in the order that the user has chosen.
-    void Refresh();
+    /// Shows one change to the book, without sorting all other points.
+    void Follow(const CPointChange& change);
     /// Shows those points only that have a part in their names, in capitals or not.
     void ShowOnly(const CString& strPart);
     /// Selects the row of a point and scrolls to it.
@@ -38,16 +36,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    const CNamedPoint& PointAt(int nRow) const;
-    CString TextAt(int nRow, PointColumn column) const;
+    bool SortBy(const CPointOrder& by);
+    bool IsShown(size_t nPlace) const;
+    void ShowRows();
+    /// @return null if there is none: the book may have changed before the rows follow
+    const CNamedPoint* PointAt(int nRow) const;
+    CString TextOf(const CNamedPoint& point, PointColumn column) const;
 
     CImageList m_rowImages;
     const CPointBook& m_book;
     int m_nDecimals;
-    std::vector<size_t> m_order;         ///< The rows, each an index of a point.
-    std::optional<PointColumn> m_column; ///< By which the rows are sorted; at first by none.
-    bool m_bTurned = false;
-    CString m_strPart; ///< Of the names that are shown, in capitals.
+    std::vector<size_t> m_order; ///< The rows, each the place of a point in the book.
+    CPointOrder m_by;            ///< In which the rows stand.
+    CString m_strPart;           ///< Of the names that are shown, in capitals.
 };
 
 /// The results of the day. A tap on a title opens and closes it, not only one on its small box.

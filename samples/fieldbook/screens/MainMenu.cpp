@@ -9,6 +9,7 @@
 #include "screens/PlanDlg.h"
 #include "screens/PointEntryDlg.h"
 #include "screens/PointListDlg.h"
+#include "screens/ProgressWindow.h"
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"
 #include "screens/Text.h"
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr UINT WM_OPEN_FIRST = WM_APP;
+constexpr UINT WM_IN_FRONT = WM_APP + 1;
 
 constexpr UINT kEntryCount = 8;
 
@@ -24,6 +26,8 @@ constexpr UINT kEntryCount = 8;
 // clang-format off
 BEGIN_MESSAGE_MAP(CMainMenu, CButtonMenuDlg)
     ON_MESSAGE(WM_OPEN_FIRST, &CMainMenu::OnOpenFirst)
+    ON_MESSAGE(WM_IN_FRONT, &CMainMenu::OnInFront)
+    ON_WM_ACTIVATEAPP()
     ON_WM_QUERYENDSESSION()
     ON_WM_ENDSESSION()
 END_MESSAGE_MAP()
@@ -53,6 +57,25 @@ LRESULT CMainMenu::OnOpenFirst(WPARAM, LPARAM) {
     return 0;
 }
 
+/// Nothing may be asked while windows change places.
+void CMainMenu::OnActivateApp(BOOL bActive, DWORD dwThreadID) {
+    CButtonMenuDlg::OnActivateApp(bActive, dwThreadID);
+    if (bActive)
+        PostMessage(WM_IN_FRONT);
+}
+
+LRESULT CMainMenu::OnInFront(WPARAM, LPARAM) {
+    LookAtFile();
+    return 0;
+}
+
+/// Not while a screen is open: then it is done when that is closed.
+void CMainMenu::LookAtFile() {
+    if (IsWindowEnabled() && HasNewsOutside(m_job))
+        OfferToReload(m_job, *this);
+    ShowTitle();
+}
+
 void CMainMenu::ShowTitle() {
     const CString strName = m_job.strPath.IsEmpty() ? Text(IDS_UNTITLED) : FileNameOf(m_job.strPath);
     const wchar_t* const pszUnsaved = m_job.book.IsModified() ? L"*" : L"";
@@ -69,20 +92,24 @@ void CMainMenu::OnOK() {
     if (GetMenuIndex() < 0)
         return;
     (this->*kCommands[GetMenuIndex()])();
-    ShowTitle();
+    LookAtFile();
 }
 
 void CMainMenu::OnCancel() {
+    if (CProgressWindow::StopCurrent())
+        return;
     if (!m_files.MayGiveUpPoints()) {
-        ShowTitle();
+        LookAtFile();
         return;
     }
     GiveUpChanges(m_job);
     CButtonMenuDlg::OnCancel();
 }
 
-/// The changes are on the disk: No leaves them to the next start.
+/// The changes are on the disk: No leaves them to the next start, and so does work that is under way.
 BOOL CMainMenu::OnQueryEndSession() {
+    if (CProgressWindow::StopCurrent())
+        return m_job.bRecorded;
     m_files.OfferToSave();
     return TRUE;
 }

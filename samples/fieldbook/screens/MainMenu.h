@@ -23,6 +23,9 @@ protected:
     void OnCancel() override;
     /// Comes when the menu is on the screen.
     afx_msg LRESULT OnOpenFirst(WPARAM wParam, LPARAM lParam);
+    /// The program is in front again: another one may have written the points file.
+    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
+    afx_msg LRESULT OnInFront(WPARAM wParam, LPARAM lParam);
     /// The system's session is about to end.
     afx_msg BOOL OnQueryEndSession();
     afx_msg void OnEndSession(BOOL bEnding);
@@ -38,6 +41,7 @@ private:
     void OnFile();
     void OnExport();
     void OnSettings();
+    void LookAtFile();
     void ShowTitle();
 
     CJob& m_job;

@@ -4,7 +4,6 @@
 #include "screens/Resource.h"
 #include "Tesuvo.h"
 #include "screens/Text.h"
-#include "dialogs/ResMsgBox.h"
 #include "screens/Messages.h"
 
 #include <iterator>
@@ -122,11 +121,8 @@ BOOL CPointEntryDlg::OnQueryEndSession() {
     return MayGiveUpTyped();
 }
 
-/// The second tap of two quick ones is a hand that trembles, not a second point: for the same reason no
-/// panel may come up under the pen.
+/// No panel may come up under the pen.
 void CPointEntryDlg::OnAdd() {
-    if (Typed() == m_strShown && ::GetTickCount64() - m_nLastAdded <= ::GetDoubleClickTime())
-        return;
     if (Add() && m_hWnd != nullptr) // not closed behind a question
         GetDlgItem(IDC_ADD)->SetFocus();
 }
@@ -160,17 +156,16 @@ bool CPointEntryDlg::Add() {
         fault = CheckPoint(point, m_job.format.text.encoding);
     }
     if (fault != LineFault::None) {
-        CResMsgBox().ErrorMsgBox(FaultTextId(fault));
+        TellError(Text(FaultTextId(fault)));
         return false;
     }
     const bool bNoCoordinate = !point.point.IsExistNE() && !point.point.IsExistZ();
     if (bNoCoordinate && !AskToLose(Text(IDS_ASK_NO_COORDINATE, point.strName.GetString())))
         return false;
     if (!Take(point)) {
-        CResMsgBox().ErrorMsgBox(Text(IDS_NAME_TAKEN, point.strName.GetString()));
+        TellError(Text(IDS_NAME_TAKEN, point.strName.GetString()));
         return false;
     }
-    m_nLastAdded = ::GetTickCount64();
     m_job.history.Add(point.strName);
     return true;
 }

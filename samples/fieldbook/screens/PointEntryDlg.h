@@ -57,6 +57,5 @@ private:
     CNumberEdit m_z;
     CNoHeightButton m_noHeight;
     CResultLine m_message;
-    CString m_strShown;         ///< What was in the fields when they were shown.
-    ULONGLONG m_nLastAdded = 0; ///< When a point was taken over, in milliseconds.
+    CString m_strShown; ///< What was in the fields when they were shown.
 };

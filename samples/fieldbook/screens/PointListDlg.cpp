@@ -4,7 +4,6 @@
 #include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
-#include "dialogs/ResMsgBox.h"
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CPointListDlg, CnDialog)
@@ -36,7 +35,7 @@ BOOL CPointListDlg::OnInitDialog() {
 CString CPointListDlg::SelectedName() const {
     const CNamedPoint* const pPoint = m_list.GetSelectedPoint();
     if (pPoint == nullptr)
-        CResMsgBox().InformationMsgBox(IDS_SELECT_POINT);
+        TellInformation(Text(IDS_SELECT_POINT));
     return pPoint != nullptr ? pPoint->strName : CString();
 }
 
@@ -47,15 +46,15 @@ void CPointListDlg::OnEdit() {
     CPointEditDlg dialog(m_job, strName, this);
     if (dialog.DoModal() != IDOK)
         return;
-    ShowChange(Text(IDS_CHANGED));
+    ShowChange(m_job.book.GetLastChange(), Text(IDS_CHANGED));
 }
 
 void CPointListDlg::OnRemove() {
     const CString strName = SelectedName();
-    if (strName.IsEmpty() || !AskToLose(Text(IDS_ASK_REMOVE, strName.GetString())))
+    if (strName.IsEmpty() || !AskToLose(Text(IDS_ASK_REMOVE, strName.GetString())) ||
+        !m_job.book.Remove(strName))
         return;
-    m_job.book.Remove(strName);
-    ShowChange(Text(IDS_REMOVED, strName.GetString()));
+    ShowChange(m_job.book.GetLastChange(), Text(IDS_REMOVED, strName.GetString()));
 }
 
 /// A change that is taken back is told: the row may lie outside of what is seen.
@@ -65,14 +64,14 @@ void CPointListDlg::OnUndo() {
         return;
     const bool bRemoved = undone.kind == CPointChange::Kind::Remove;
     const CString strName = bRemoved ? undone.before.strName : undone.after.strName;
-    ShowChange(Text(IDS_UNDONE, strName.GetString()));
+    ShowChange(undone.Reversed(), Text(IDS_UNDONE, strName.GetString()));
     m_list.Select(strName);
 }
 
-void CPointListDlg::ShowChange(const CString& strText) {
+void CPointListDlg::ShowChange(const CPointChange& change, const CString& strText) {
     if (m_hWnd == nullptr)
         return; // closed behind a question
-    m_list.Refresh();
+    m_list.Follow(change);
     m_legend.SetWindowText(strText);
     GetDlgItem(IDC_UNDO)->EnableWindow(m_job.book.CanUndo());
 }

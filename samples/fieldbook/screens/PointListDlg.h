@@ -27,7 +27,7 @@ private:
     /// @return the name in the row that is selected; empty if none is, which the user is told
     CString SelectedName() const;
     /// Shows the points as they are now, and what has become of them.
-    void ShowChange(const CString& strText);
+    void ShowChange(const CPointChange& change, const CString& strText);
 
     CJob& m_job;
     CPointListCtrl m_list;

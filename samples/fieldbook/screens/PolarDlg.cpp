@@ -2,10 +2,10 @@
 
 #include "screens/PickDlg.h"
 #include "screens/ReportDlg.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "Tesuvo.h"
 #include "screens/Text.h"
-#include "dialogs/ResMsgBox.h"
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CPolarDlg, CnDialog)
@@ -60,12 +60,12 @@ void CPolarDlg::OnCompute() {
     const CCoordinate* const pFrom = m_job.book.Find(strName);
     if (pFrom == nullptr || !HasPosition(*pFrom)) {
         const UINT nTextId = pFrom == nullptr ? IDS_UNKNOWN_POINT : IDS_POINT_WITHOUT_NE;
-        CResMsgBox().ErrorMsgBox(Text(nTextId, strName.GetString()));
+        TellError(Text(nTextId, strName.GetString()));
         return;
     }
     for (CDirectionEdit* const pField : {&m_direction, &m_turn})
         if (pField->GetFault() != AngleFault::None) {
-            CResMsgBox().ErrorMsgBox(AngleProblem(pField->GetFault()));
+            TellError(AngleProblem(pField->GetFault()));
             pField->SetFocus();
             return;
         }
@@ -73,7 +73,7 @@ void CPolarDlg::OnCompute() {
     m_distance.GetWindowText(strDistance);
     double dDistance = 0;
     if (!TVString2Double(&strDistance, &dDistance) || dDistance < 0) {
-        CResMsgBox().ErrorMsgBox(IDS_BAD_DISTANCE);
+        TellError(Text(IDS_BAD_DISTANCE));
         return;
     }
     m_job.book.MarkUsed(strName);

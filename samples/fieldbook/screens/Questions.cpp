@@ -3,11 +3,11 @@
 #include "compute/Compute.h"
 #include "screens/NameDlg.h"
 #include "compute/PackedAngle.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "Tesuvo.h"
 #include "screens/Text.h"
 #include "dialogs/InputDlg.h"
-#include "dialogs/ResMsgBox.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -53,7 +53,7 @@ bool CQuestions::Ask(UINT nQuestionId, const Put& put, const Check& check) {
         const CString strProblem = check(strAnswer);
         if (strProblem.IsEmpty())
             break;
-        CResMsgBox().ErrorMsgBox(strProblem);
+        TellError(strProblem);
     }
     m_lastAnswers[nQuestionId] = strAnswer;
     return true;
@@ -117,7 +117,7 @@ bool CQuestions::AskCorners(UINT nQuestionId, std::vector<CCoordinate>& corners)
         const CString strProblem =
             bClosed ? Text(IDS_FEW_CORNERS) : TakePoint(nQuestionId, nNumber, strName, corner);
         if (!strProblem.IsEmpty()) {
-            CResMsgBox().ErrorMsgBox(strProblem);
+            TellError(strProblem);
             continue;
         }
         corners.push_back(corner);

@@ -3,9 +3,9 @@
 #include "screens/BadLines.h"
 #include "screens/NameDlg.h"
 #include "screens/PlanDlg.h"
+#include "screens/Messages.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
-#include "dialogs/ResMsgBox.h"
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CReportDlg, CnDialog)
@@ -59,11 +59,11 @@ bool CReportDlg::Keep(const CString& strName) {
     const CNamedPoint point{strName, m_report.points[m_list.GetChosen()].point};
     const LineFault fault = CheckPoint(point, m_job.format.text.encoding);
     if (fault != LineFault::None) {
-        CResMsgBox().ErrorMsgBox(FaultTextId(fault));
+        TellError(Text(FaultTextId(fault)));
         return false;
     }
     if (!m_job.book.Add(point)) {
-        CResMsgBox().ErrorMsgBox(Text(IDS_NAME_TAKEN, strName.GetString()));
+        TellError(Text(IDS_NAME_TAKEN, strName.GetString()));
         return false;
     }
     m_job.history.Add(strName);

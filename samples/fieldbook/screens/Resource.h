@@ -14,6 +14,8 @@
 #define IDD_NAME 2010
 #define IDD_REPORT 2011
 #define IDD_PICK 2012
+#define IDD_MESSAGE 2013
+#define IDD_PROGRESS 2014
 
 // Computations: the buttons, in the order of the computations
 #define IDC_COMPUTATION_FIRST 2101
@@ -78,6 +80,12 @@
 #define IDC_WHOLE_SECONDS 2163
 #define IDC_TENTHS 2164
 #define IDC_TOLERANCES 2165
+
+// Long work
+#define IDC_PROGRESS 2170
+
+// Choice of columns
+#define IDC_FIRST_LINES 2171
 
 // Titles of the computations
 #define IDS_LINES 2200
@@ -226,6 +234,7 @@
 #define IDS_EXPORTED 2382
 #define IDS_EXPORT_OWN_FILE 2383
 #define IDS_COLUMN_FIRST 2390
+#define IDS_COLUMN_LAST 2395
 
 // File and points
 #define IDS_NOT_READ 2300
@@ -273,3 +282,12 @@
 #define IDS_TOLERANCE 2362
 #define IDS_TOLERANCE_CHOICE 2363
 #define IDS_NOT_SAVED 2364
+
+// Long work
+#define IDS_READING 2560
+#define IDS_SAVING 2561
+#define IDS_EXPORTING 2562
+#define IDS_SORTING 2563
+
+// A file that something else has changed
+#define IDS_ASK_RELOAD 2564

@@ -1,7 +1,8 @@
 #include "screens/SettingsSheet.h"
 
+#include "screens/Messages.h"
 #include "screens/Resource.h"
-#include "dialogs/ResMsgBox.h"
+#include "screens/Text.h"
 #include "geometry/Vector.h"
 
 // clang-format off
@@ -36,7 +37,7 @@ void CSettingsSheet::OnDestroy() {
 
 void KeepSettings(const CSettings& settings) {
     if (!SaveSettings(*AfxGetApp(), settings))
-        CResMsgBox().ErrorMsgBox(IDS_NOT_SAVED);
+        TellError(Text(IDS_NOT_SAVED));
 }
 
 void ApplySettings(const CSettings& settings) {

@@ -63,7 +63,7 @@ TEST(PointOrder, EachColumnSortsBothWaysAndWhatIsMissingComesLast) {
         {PointColumn::N, true, {1, 2, 0, 3}},     {PointColumn::E, false, {1, 2, 0, 3}},
         {PointColumn::Z, false, {2, 3, 1, 0}},    {PointColumn::Code, true, {1, 2, 0, 3}}};
     for (const auto& [column, bTurned, order] : cases)
-        EXPECT_EQ(OrderPoints(points, column, bTurned), order) << static_cast<int>(column);
+        EXPECT_EQ(OrderPoints(points, {column, bTurned}), order) << static_cast<int>(column);
 }
 
 TEST(PointOrder, NumbersInNamesCount) {

@@ -8,6 +8,8 @@
 #include "screens/NameDlg.h"
 #include "screens/PointEntryDlg.h"
 #include "screens/PointListDlg.h"
+#include "screens/ProgressWindow.h"
+#include "screens/SecondTap.h"
 #include "screens/Resource.h"
 
 #include <sstream>
@@ -77,12 +79,76 @@ TEST_F(JobFile, FileThatWasChangedOutsideIsAskedAbout) {
     m_file.Write(FILE_OF_OURS);
     ASSERT_TRUE(Open());
     m_pJob->book.Remove(L"B");
+    EXPECT_FALSE(HasNewsOutside(*m_pJob));
     m_file.Write(FILE_OF_OTHERS);
+    EXPECT_TRUE(HasNewsOutside(*m_pJob));
+    EXPECT_FALSE(HasNewsOutside(*m_pJob)) << "each change once";
     EXPECT_FALSE(Save({Keys({VK_RETURN})})) << "Enter loses nothing";
     EXPECT_EQ(m_file.Read(), FILE_OF_OTHERS);
     EXPECT_TRUE(m_pJob->book.IsModified() && Save({Answer(IDYES)}));
     EXPECT_EQ(m_file.Read(), "name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\n");
-    EXPECT_TRUE(HasBackup());
+    EXPECT_TRUE(HasBackup() && !HasNewsOutside(*m_pJob));
+
+    // Read again, with the change that was not saved.
+    m_pJob->book.Add({L"C", CCoordinate(2, 1, 0, 1)});
+    m_file.Write(FILE_OF_OURS);
+    fx::Play([&] { return OfferToReload(*m_pJob, m_parent), 1; },
+             {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
+    EXPECT_TRUE(m_pJob->book.GetCount() == 3 && m_pJob->book.Find(L"B") != nullptr &&
+                m_pJob->book.IsModified());
+    ::DeleteFile(m_file.GetPath() + L".changes.old");
+}
+
+TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {
+    constexpr int MANY = 400000; // seconds of work
+    m_file.Write(FILE_OF_OTHERS);
+    ASSERT_TRUE(Open());
+    CString strName;
+    for (int i = 1; i <= MANY; ++i) {
+        strName.Format(L"K%d", i);
+        m_pJob->book.AddRead({strName, CCoordinate(i % 1000, i, 0, 1)});
+    }
+    m_pJob->book.Remove(L"A");
+    const fx::Step close = [] { ::PostMessage(::GetActiveWindow(), WM_CLOSE, 0, 0); };
+    const fx::Step endOfSession = [] { EXPECT_TRUE(CProgressWindow::StopCurrent()); };
+    for (const fx::Step& stop : {TapIn(IDCANCEL), close, endOfSession}) {
+        EXPECT_FALSE(Save({stop}));
+        EXPECT_TRUE(m_file.Read() == FILE_OF_OTHERS && m_pJob->book.IsModified() && !HasBackup());
+        EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
+    }
+    CPointListDlg dialog(*m_pJob, nullptr);
+    const auto tapHeading = [] {
+        CListCtrl& list =
+            *static_cast<CListCtrl*>(CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), IDC_POINTS)));
+        CRect heading;
+        list.GetHeaderCtrl()->GetWindowRect(heading);
+        pen::Tap(CPoint(heading.left + 60, heading.CenterPoint().y));
+    };
+    const auto isFirst = [&](const wchar_t* pszText) {
+        return [&dialog, pszText] {
+            CListCtrl& list = *static_cast<CListCtrl*>(dialog.GetDlgItem(IDC_POINTS));
+            EXPECT_TRUE(list.GetItemText(0, 0) == pszText);
+        };
+    };
+    fx::Play(dialog, {tapHeading, TapIn(IDCANCEL), isFirst(L"K1"), Close(dialog)});
+}
+
+TEST_F(JobFile, QuickSecondTapDoesNothingTwice) {
+    const CSecondTapFilter filter;
+    for (const wchar_t* pszName : {L"A", L"B", L"C"})
+        m_pJob->book.Add({pszName, CCoordinate(2, 1, 0, 1)});
+    CPointListDlg list(*m_pJob, nullptr);
+    const auto twice = [](int nId) {
+        return [nId] {
+            for (int i = 0; i < 2; ++i)
+                pen::Tap(*CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), nId)));
+        };
+    };
+    fx::Play(list, {twice(IDC_UNDO), Close(list)});
+    EXPECT_EQ(m_pJob->book.GetCount(), 2);
+    CPointEntryDlg entry(*m_pJob, nullptr);
+    fx::Play(entry, {Keys({'1', VK_RETURN, '2'}), NoPanel(), twice(IDC_ADD), Close(entry)});
+    EXPECT_EQ(m_pJob->book.GetCount(), 3);
 }
 
 TEST_F(JobFile, WhatWasNotSavedComesBackWithOneLineThatSaysSo) {
@@ -145,8 +211,8 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
 
-/// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "++" with two quick taps, "x"
-/// closes, "end" ends the session, "yes" and "no" answer.
+/// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "x" closes, "end" ends the
+/// session, "yes" and "no" answer.
 fx::Step Action(CPointEntryDlg& dialog, const std::string& action) {
     if (action == "N" || action == "E")
         return Tap(dialog, action == "N" ? IDC_N : IDC_E);
@@ -172,7 +238,6 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
         {"the next point begins by itself", "1!2!! 3!4!! x",
          "T1,1.000000,2.000000,\r\nT2,3.000000,4.000000,\r\n"},
         {"typing replaces what is there", "N 1! 2! N 7 + x", "T1,7.000000,2.000000,\r\n"},
-        {"two quick taps", "N 1 E 2 ++ x", "T1,1.000000,2.000000,\r\n"},
         {"no coordinate, and Enter in the question", "+ ! + yes x", "T1,,,\r\n"},
         {"closing with typed values", "N 1 x ! E 2 + N 9 x yes", "T1,1.000000,2.000000,\r\n"},
         {"the system's session ends with typed values", "N 1 end no x yes", ""}};

@@ -110,8 +110,9 @@ TEST(PointFile, HeadingDecidesWhatIsInAColumnAndIsKept) {
         SCOPED_TRACE(c.pszFile);
         CString strAsked;
         CReadHelp help;
-        help.chooseColumns = [&](const CString& strLine, bool, size_t, std::vector<Column>& columns) {
-            strAsked = strLine;
+        help.chooseColumns = [&](const auto& lines, bool, std::vector<Column>& columns) {
+            for (const CString& strField : lines.front())
+                strAsked += (strAsked.IsEmpty() ? L"" : L",") + strField;
             columns = ColumnsOf(c.pszColumns);
             return true;
         };
