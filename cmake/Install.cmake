@@ -1,59 +1,49 @@
 # An installed tree that a customer's own project finds with find_package(Fieldkit) or
-# pkg-config. The DLLs and the static libraries go into one tree, each with its own files.
+# pkg-config. The DLLs and the static libraries for Windows go into one tree, each with its own
+# files; what is portable has a tree of its own.
 include(CMakePackageConfigHelpers)
 
-if(FIELDKIT_SHARED)
-  set(_kind shared)
-else()
-  set(_kind static)
-endif()
 set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Fieldkit)
+# pkg-config files say where the tree is from where they are, however deep that is.
+set(_pkgconfig ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+string(REGEX REPLACE "[^/]+" ".." FIELDKIT_PKGCONFIG_ROOT "${_pkgconfig}")
 
-set(_installed framework companion fieldkit)
+# fieldkit_install(KIND TARGET...): one component of the package.
+function(fieldkit_install kind)
+  install(TARGETS ${ARGN} EXPORT Fieldkit-${kind}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(EXPORT Fieldkit-${kind} NAMESPACE Fieldkit:: DESTINATION ${_package})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/fieldkit-${kind}.pc.in ${PROJECT_BINARY_DIR}/fieldkit-${kind}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/fieldkit-${kind}.pc DESTINATION ${_pkgconfig})
+endfunction()
+
+# fieldkit_install_headers(FOLDER HEADER...)
+function(fieldkit_install_headers folder)
+  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/${folder}/)
+  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/${folder})
+endfunction()
+
 if(WIN32)
-  list(APPEND _installed winmain)
+  include(cmake/InstallWindows.cmake)
+else()
+  fieldkit_install(geometry geometry)
+  fieldkit_install(survey framework companion fieldkit)
+  # Those that need no window system; the outside project of the tests includes each of them.
+  fieldkit_install_headers(api Export.h)
+  fieldkit_install_headers(geometry Constants.h Vector.h VectorInline.h)
+  fieldkit_install_headers(survey 2DCircle.h 2DLine.h Coordinate.h)
+  fieldkit_install_headers(util AsciiFile.h BufferedAsciiFile.h StringStack.h)
+  fieldkit_install_headers(companion Tesuvo.h)
+  fieldkit_install_headers(framework afx.h afxarc_.h afxarray_.h afxcoll.h afxdump_.h afxelem_.h afxerr_.h
+    afxfile_.h afxlist_.h afxmap_.h afxobj_.h afxstat_.h afxstdio_.h afxstr.h afxstrbuf_.h afxstrfwd_.h
+    afxstrop_.h afxtempl.h afxtime_.h afxtry_.h afxtyped_.h afxtypes.h afxver_.h atltypes.h)
 endif()
-install(TARGETS ${_installed} EXPORT Fieldkit-${_kind}
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(EXPORT Fieldkit-${_kind} NAMESPACE Fieldkit:: DESTINATION ${_package})
-
-# Only what lies directly in these folders is public; subfolders are internal.
-foreach(_folder api framework geometry survey util controls dialogs resources)
-  file(GLOB _headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.h)
-  install(FILES ${_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/${_folder})
-endforeach()
-# The standard texts, which scripts include by these names.
-install(FILES ${PROJECT_SOURCE_DIR}/framework/afxres.rc
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/framework/l.jpn
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
-install(FILES ${PROJECT_SOURCE_DIR}/companion/Tesuvo.h
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/companion)
-
-# The system's headers by the names that programs of other disks write, where case makes a difference.
-foreach(_name CommCtrl CommDlg Commctrl Commdlg DbgHelp Dbghelp Dbt GdiPlus Gdiplus HtmlHelp Htmlhelp IPHlpApi
-        Iphlpapi MMReg MMSystem Mmsystem ObjBase Objbase Ole2 OleAuto PSAPI PowrProf Powrprof Psapi RichEdit Richedit
-        SetupAPI Setupapi ShLwApi ShellAPI ShellApi Shellapi ShlGuid ShlObj Shlobj Shlwapi StrSafe Strsafe TChar Tchar
-        TlHelp32 Tlhelp32 UxTheme Uxtheme Vssym32 WS2tcpip WinBase WinCrypt WinInet WinIoCtl WinNT WinReg WinSDKVer
-        WinSock WinSock2 WinSvc WinUser Wincrypt Windows Wininet Winioctl Winsock2 Winsvc Ws2tcpip WtsApi32 Wtsapi32)
-  string(TOLOWER ${_name} _lower)
-  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/names/${_name}.h CONTENT
-    "#pragma once\n#pragma GCC system_header\n#include_next <${_lower}.h>\n" @ONLY)
-endforeach()
-install(DIRECTORY ${PROJECT_BINARY_DIR}/names/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.in
   ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake INSTALL_DESTINATION ${_package})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
-  ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
-  ${PROJECT_SOURCE_DIR}/cmake/FieldkitResources.cmake
-  ${PROJECT_SOURCE_DIR}/cmake/FieldkitSources.cmake DESTINATION ${_package})
-
-if(WIN32)
-  configure_file(${PROJECT_SOURCE_DIR}/cmake/fieldkit-${_kind}.pc.in ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/fieldkit-${_kind}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-endif()
+  ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake DESTINATION ${_package})

@@ -1,6 +1,6 @@
-# The library itself: Fieldkit.dll or a static library on Windows; natively a static
-# library of the folders that need no window system.
-set(_portable geometry survey util)
+# The library itself: Fieldkit.dll or a static library on Windows; natively two static libraries of
+# what needs no window system, the kernel alone and the survey values with what they use.
+set(_portable survey util)
 set(_windows controls dialogs)
 
 set(_sources "")
@@ -14,7 +14,20 @@ endforeach()
 file(GLOB _kernel CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/geometry/*.cpp)
 set_source_files_properties(${_kernel} PROPERTIES COMPILE_OPTIONS -fno-math-errno
   SKIP_PRECOMPILE_HEADERS ON)
+
+# fieldkit_part(TARGET): what the library's targets have in common.
+function(fieldkit_part target)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/fieldkit>)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:fieldkit_warnings>)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  # Inline members compute as those of the library do, see cmake/Options.cmake.
+  target_compile_options(${target} INTERFACE
+    $<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off>>)
+endfunction()
+
 if(WIN32)
+  list(APPEND _sources ${_kernel})
   foreach(_folder IN LISTS _windows)
     file(GLOB _found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${_folder}/*.cpp)
     list(APPEND _sources ${_found})
@@ -30,13 +43,17 @@ if(WIN32)
 else()
   list(FILTER _sources EXCLUDE REGEX "/(AngleEdit|StringStackCombo)\\.cpp$") # they use controls
   add_library(fieldkit STATIC ${_sources})
+  add_library(geometry STATIC ${_kernel})
+  fieldkit_part(geometry)
+  target_link_libraries(fieldkit PUBLIC geometry)
+  set_target_properties(geometry PROPERTIES OUTPUT_NAME fieldkit-geometry)
+  set_target_properties(fieldkit PROPERTIES OUTPUT_NAME fieldkit-survey EXPORT_NAME survey)
+  set_target_properties(companion PROPERTIES OUTPUT_NAME fieldkit-companion)
+  set_target_properties(framework PROPERTIES OUTPUT_NAME fieldkit-framework)
 endif()
 add_library(Fieldkit::fieldkit ALIAS fieldkit)
-target_include_directories(fieldkit PUBLIC
-  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/fieldkit>)
-target_link_libraries(fieldkit PUBLIC framework companion PRIVATE $<BUILD_INTERFACE:fieldkit_warnings>)
-target_compile_features(fieldkit PUBLIC cxx_std_17)
-# Inline members compute as those of the library do, see cmake/Options.cmake.
+fieldkit_part(fieldkit)
+target_link_libraries(fieldkit PUBLIC framework companion)
 # A string that goes through "..." would arrive as rubbish, which g++ lets pass without a word.
 target_compile_options(fieldkit INTERFACE
-  $<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off;-Wconditionally-supported>>)
+  $<INSTALL_INTERFACE:$<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wconditionally-supported>>)

@@ -1,13 +1,13 @@
 # shellcheck shell=bash disable=SC2034,SC2154  # sourced by ./run, which sets the paths and reads the counters
-# The package that customers get: DLLs and static libraries in one tree, the sample
-# application, and a zip of it all.
+# The packages that customers get: for Windows DLLs and static libraries in one tree, the sample
+# application, and a zip of it all; for Linux what needs no window system.
 
 package_folder=$build/package
 
 # Needs the preset win64 and the sample to be built.
 run_package() {
     make_package
-    printf '%s\n' "${package_folder#"$root"/}/$(package_name).zip"
+    printf '%s\n' "${package_folder#"$root"/}"/{"$(package_name).zip","$(native_name).tar.gz"}
     print_sizes "$package_folder/$(package_name)"
 }
 
@@ -16,9 +16,12 @@ make_package() {
     tree=$package_folder/$(package_name)
     logged configure-win64-static configure_preset win64-static
     logged build-win64-static ninja -C "$build/win64-static" -j"$(nproc)" fieldkit winmain
+    logged configure-linux configure_preset linux
+    logged build-linux ninja -C "$build/linux" -j"$(nproc)" fieldkit
     rm -rf "$package_folder"
     mkdir -p "$package_folder"
     logged package assemble "$tree"
+    logged package-linux assemble_native "$package_folder/$(native_name)"
 }
 
 package_version() {
@@ -27,6 +30,10 @@ package_version() {
 
 package_name() {
     printf 'Fieldkit-%s-win64' "$(package_version)"
+}
+
+native_name() {
+    printf 'Fieldkit-%s-linux-%s' "$(package_version)" "$(uname -m)"
 }
 
 assemble() {
@@ -40,6 +47,13 @@ assemble() {
     cp "$root/docs/package.md" "$tree/README.md"
     cd "$package_folder" || return
     cmake -E tar cf "$(basename "$tree").zip" --format=zip "$(basename "$tree")"
+}
+
+assemble_native() {
+    cmake --install "$build/linux" --prefix "$1"
+    cp "$root/LICENSE" "$1/"
+    cp "$root/docs/native.md" "$1/README.md"
+    tar -C "$package_folder" -czf "$1.tar.gz" --owner=0 --group=0 "$(basename "$1")"
 }
 
 # The DLLs, and whatever they load that is not a part of Windows.
@@ -70,16 +84,25 @@ build_package_test() {
     logged unpack-package unpack "$work"
     logged build-consumer build_consumer "$tree" "$work/cmake"
     logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
+    tree=$work/$(native_name)
+    logged unpack-linux tar -C "$work" -xzf "$package_folder/$(native_name).tar.gz"
+    logged build-native build_native_consumer "$tree" "$work"
 }
 
 # Runs what build_package_test has built. Needs the screen.
 test_package() {
     local work=$build/package-test
-    local start=$EPOCHREALTIME bad=0 good=0 expected=$root/tests/package/expected.txt
+    local start=$EPOCHREALTIME bad=0 good=0 part tests=$root/tests/package expected
+    expected=$tests/consumer.txt
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"
     check_hardened "${files[@]/#/$work/cmake/}"
     check_small "$work"/cmake/{Fieldkit,FieldkitFx,Tesuvo}.dll
+    for part in geometry survey; do
+        check "$tests/$part.txt" "$work/native/$part"
+        check "$tests/$part.txt" "$work/native-pkgconf/$part"
+        check "$tests/$part.txt" "$work/cmake/$part.exe"
+    done
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$expected" "$work/pkgconf/shared.exe"
@@ -104,6 +127,20 @@ build_consumer() {
         -DCMAKE_PREFIX_PATH="$1" -DEXPECTED_VERSION="$(package_version)"
     ninja -C "$2"
     cp "$1"/bin/*.dll "$1"/bin/fieldbook.exe "$2/"
+}
+
+# build_native_consumer TREE WORK: the same project without Windows, which has less.
+build_native_consumer() {
+    local part flags
+    cmake -S "$root/tests/package" -B "$2/native" -G Ninja -DCMAKE_PREFIX_PATH="$1" \
+        -DEXPECTED_VERSION="$(package_version)"
+    ninja -C "$2/native"
+    mkdir -p "$2/native-pkgconf"
+    for part in Geometry Survey; do
+        flags=$(PKG_CONFIG_LIBDIR=$1/lib/pkgconfig pkg-config --cflags --libs "fieldkit-${part,,}")
+        # shellcheck disable=SC2086  # a list of options
+        g++ "$root/tests/package/$part.cpp" $flags -o "$2/native-pkgconf/${part,,}"
+    done
 }
 
 build_with_pkgconf() {
@@ -162,9 +199,10 @@ check_small() {
 # check EXPECTED PROGRAM ARGUMENTS...: runs it in its own folder; counts in "good" and "bad".
 check() {
     local expected=$1 program=$2 status=0
-    local log=${program%.exe}.log
+    local log=${program%.exe}.log start=()
     shift 2
-    (cd "$(dirname "$program")" && in_wine timeout -k 5 60 wine "$program" "$@") >"$log.raw" 2>&1 </dev/null || status=$?
+    [[ $program != *.exe ]] || start=(in_wine timeout -k 5 60 wine)
+    (cd "$(dirname "$program")" && "${start[@]}" "$program" "$@") >"$log.raw" 2>&1 </dev/null || status=$?
     ((status == 0)) || printf 'exit %d\n' "$status" >>"$log.raw"
     tr -d '\r' <"$log.raw" >"$log"
     if cmp -s "$expected" "$log"; then
