@@ -41,6 +41,10 @@ else()
     afxstrop_.h afxtempl.h afxtime_.h afxtry_.h afxtyped_.h afxtypes.h afxver_.h atltypes.h)
 endif()
 
+# How debuggers show the objects.
+install(FILES ${PROJECT_SOURCE_DIR}/share/fieldkit.py ${PROJECT_SOURCE_DIR}/share/fieldkit.natvis
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/fieldkit)
+
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.in
   ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake INSTALL_DESTINATION ${_package})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake

@@ -31,3 +31,10 @@ install(DIRECTORY ${PROJECT_BINARY_DIR}/names/ DESTINATION ${CMAKE_INSTALL_INCLU
 
 install(FILES ${PROJECT_SOURCE_DIR}/cmake/FieldkitResources.cmake
   ${PROJECT_SOURCE_DIR}/cmake/FieldkitSources.cmake DESTINATION ${_package})
+
+if(FIELDKIT_SHARED)
+  # gdb loads it with the DLL, from folders that its auto-load safe-path names.
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/auto-load.py CONTENT
+    "import os\nimport gdb\n\n_folder = os.path.dirname(gdb.current_objfile().filename)\ngdb.execute(\"source \" + os.path.join(_folder, \"..\", \"share\", \"fieldkit\", \"fieldkit.py\"))\n" @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/auto-load.py DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME FieldkitFx.dll-gdb.py)
+endif()

@@ -103,6 +103,7 @@ test_package() {
         check "$tests/$part.txt" "$work/native-pkgconf/$part"
         check "$tests/$part.txt" "$work/cmake/$part.exe"
     done
+    check "$tests/views.txt" "$work/native/views.gdb"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$expected" "$work/pkgconf/shared.exe"
@@ -132,7 +133,7 @@ build_consumer() {
 # build_native_consumer TREE WORK: the same project without Windows, which has less.
 build_native_consumer() {
     local part flags
-    cmake -S "$root/tests/package" -B "$2/native" -G Ninja -DCMAKE_PREFIX_PATH="$1" \
+    cmake -S "$root/tests/package" -B "$2/native" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_PREFIX_PATH="$1" \
         -DEXPECTED_VERSION="$(package_version)"
     ninja -C "$2/native"
     mkdir -p "$2/native-pkgconf"
@@ -201,7 +202,10 @@ check() {
     local expected=$1 program=$2 status=0
     local log=${program%.exe}.log start=()
     shift 2
-    [[ $program != *.exe ]] || start=(in_wine timeout -k 5 60 wine)
+    case $program in
+    *.exe) start=(in_wine timeout -k 5 60 wine) ;;
+    *.gdb) start=(timeout -k 5 60 gdb -nx -batch -x) ;;
+    esac
     (cd "$(dirname "$program")" && "${start[@]}" "$program" "$@") >"$log.raw" 2>&1 </dev/null || status=$?
     ((status == 0)) || printf 'exit %d\n' "$status" >>"$log.raw"
     tr -d '\r' <"$log.raw" >"$log"
