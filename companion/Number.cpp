@@ -1,6 +1,9 @@
 #include "Tesuvo.h"
 
 #include <charconv>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -104,17 +107,28 @@ private:
     std::string m_plain;
 };
 
+#ifdef __cpp_lib_to_chars
+/// The double nearest to a number in plain form; false if there is none but infinity or zero.
+bool Nearest(const std::string& plain, double& value) {
+    return std::from_chars(plain.data(), plain.data() + plain.size(), value).ec == std::errc{};
+}
+#else // libc++ before 20
+bool Nearest(const std::string& plain, double& value) {
+    static const locale_t locale = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    const double nearest = ::strtod_l(plain.c_str(), nullptr, locale);
+    const bool bZero = plain.find_first_of("123456789") >= plain.find_first_of("eE");
+    if (plain.empty() || !std::isfinite(nearest) || (nearest == 0 && !bZero))
+        return false;
+    value = nearest;
+    return true;
+}
+#endif
+
 } // namespace
 
 BOOL TVString2Double(const CString* pText, double* pValue) {
     if (pText == nullptr || pValue == nullptr)
         return FALSE;
     const std::wstring_view text(pText->GetString(), static_cast<std::size_t>(pText->GetLength()));
-    const std::string plain = Scanner(Folded(text)).Number();
-    double value = 0;
-    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (result.ec != std::errc{})
-        return FALSE;
-    *pValue = value;
-    return TRUE;
+    return Nearest(Scanner(Folded(text)).Number(), *pValue) ? TRUE : FALSE;
 }

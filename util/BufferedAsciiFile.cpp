@@ -17,7 +17,7 @@ CBufferedAsciiFile::~CBufferedAsciiFile() {
 
 void CBufferedAsciiFile::Allocate() {
     if (m_pBlock == nullptr)
-        m_pBlock = std::make_unique_for_overwrite<BYTE[]>(kBlockSize);
+        m_pBlock = std::unique_ptr<BYTE[]>(new BYTE[kBlockSize]);
 }
 
 /// Reads the next block.

@@ -145,7 +145,7 @@ BOOL CStringT<Char>::LoadString(UINT nID) {
     return LoadString(AfxFindStringResourceHandle(nID), nID);
 }
 
-template BOOL CStringW::LoadString(HINSTANCE, UINT);
-template BOOL CStringA::LoadString(HINSTANCE, UINT);
-template BOOL CStringW::LoadString(UINT);
-template BOOL CStringA::LoadString(UINT);
+template BOOL CStringT<wchar_t>::LoadString(HINSTANCE, UINT);
+template BOOL CStringT<char>::LoadString(HINSTANCE, UINT);
+template BOOL CStringT<wchar_t>::LoadString(UINT);
+template BOOL CStringT<char>::LoadString(UINT);
