@@ -1,12 +1,12 @@
 # What is installed of the builds for Windows.
 if(FIELDKIT_SHARED)
-  fieldkit_install(shared framework companion fieldkit winmain)
+  fieldkit_install(shared framework companion fieldkit winmain testkit)
 else()
-  fieldkit_install(static framework companion fieldkit winmain)
+  fieldkit_install(static framework companion fieldkit winmain testkit)
 endif()
 
 # Only what lies directly in these folders is public; subfolders are internal.
-foreach(_folder api framework geometry survey util controls dialogs resources)
+foreach(_folder api framework geometry survey util controls dialogs resources testkit)
   file(GLOB _headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/${_folder} ${PROJECT_SOURCE_DIR}/${_folder}/*.h)
   fieldkit_install_headers(${_folder} ${_headers})
 endforeach()

@@ -15,7 +15,7 @@ make_package() {
     local tree
     tree=$package_folder/$(package_name)
     logged configure-win64-static configure_preset win64-static
-    logged build-win64-static ninja -C "$build/win64-static" -j"$(nproc)" fieldkit winmain
+    logged build-win64-static ninja -C "$build/win64-static" -j"$(nproc)" fieldkit winmain testkit
     logged configure-linux configure_preset linux
     logged build-linux ninja -C "$build/linux" -j"$(nproc)" fieldkit
     rm -rf "$package_folder"

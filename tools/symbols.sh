@@ -23,7 +23,7 @@ check_symbols() {
 
 # Of what the install rules of cmake/Install.cmake take.
 public_headers() {
-    find "$root"/{api,framework,geometry,survey,util,controls,dialogs,resources} -maxdepth 1 -name '*.h'
+    find "$root"/{api,framework,geometry,survey,util,controls,dialogs,resources,testkit} -maxdepth 1 -name '*.h'
     printf '%s\n' "$root/companion/Tesuvo.h"
 }
 

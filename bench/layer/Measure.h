@@ -1,7 +1,7 @@
 // Times, memory and the comparison of two works.
 #pragma once
 
-#include "support/HeapBytes.h"
+#include "testkit/Leftovers.h"
 
 #include <functional>
 
@@ -10,7 +10,7 @@ namespace bench {
 /// Milliseconds since some fixed moment.
 double Now();
 
-using fx::HeapBytes;
+using testkit::HeapBytes;
 
 struct Cost {
     double ms = 0;

@@ -3,11 +3,13 @@
 #include "BareDialogs.h"
 #include "dialogs/BrowseFolderDlg.h"
 #include "dialogs/FileSelectDlg.h"
-#include "support/DialogTemplate.h"
+#include "testkit/DialogTemplate.h"
 
 #include <cstring>
 #include <stdexcept>
 #include <string>
+
+using namespace testkit;
 
 namespace bench {
 
@@ -51,8 +53,8 @@ Cost OpenFiles(const CString& strFolder) {
     return dlg.Open();
 }
 
-fx::DialogTemplate SmallDialog() {
-    fx::DialogTemplate small(100, 150);
+DialogTemplate SmallDialog() {
+    DialogTemplate small(100, 150);
     for (int nID = 100; nID < 110; ++nID)
         nID % 2 == 0 ? small.Edit(nID) : small.Button(nID, L"button");
     return small;
@@ -71,8 +73,8 @@ Cost Open(What what, const CString& strFolder) {
     case What::BareDialog:
         return OpenBareDialog(SmallDialog().Get());
     case What::Dialog: {
-        const fx::DialogTemplate small = SmallDialog();
-        return Opened<fx::TemplateDialog>(small).Open();
+        const DialogTemplate small = SmallDialog();
+        return Opened<TemplateDialog>(small).Open();
     }
     }
     return {};

@@ -7,13 +7,15 @@
 #include "Report.h"
 #include "Rows.h"
 
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
 #include "util/AsciiFile.h"
 
 #include <afxext.h>
 
 #include <cstdio>
 #include <string>
+
+using namespace testkit;
 
 namespace {
 
@@ -44,7 +46,7 @@ void MeasureOpenings(bench::Report& report, const std::string& name, What bare, 
 }
 
 void MeasureSmallDialog(bench::Report& report) {
-    const TestDrive drive; // for the results
+    const Drive drive; // for the results
     constexpr auto pszName = "dialog of 10 controls";
     if (report.Wants(pszName))
         report.AddTime(pszName,
@@ -55,9 +57,9 @@ void MeasureSmallDialog(bench::Report& report) {
 }
 
 void MeasureFiles(bench::Report& report, int nFiles) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\files");
-    drive.MakeMany(TestDrive::Files, L"\\files", "site %05.0f.csv", nFiles);
+    drive.MakeMany(Drive::Files, L"\\files", "site %05.0f.csv", nFiles);
     MeasureOpenings(report, "list of " + std::to_string(nFiles) + " files", What::BareFiles, What::Files,
                     L"\\files", nFiles);
 }
@@ -66,12 +68,12 @@ void MeasureFiles(bench::Report& report, int nFiles) {
 void MeasureTree(bench::Report& report) {
     constexpr int kOuter = 10;
     constexpr int kInner = 499;
-    TestDrive drive;
-    drive.MakeMany(TestDrive::Folders, L"", "district %.0f", kOuter);
+    Drive drive;
+    drive.MakeMany(Drive::Folders, L"", "district %.0f", kOuter);
     CString strOuter;
     for (int i = 0; i < kOuter; ++i) {
         strOuter.Format(L"\\district %d", i);
-        drive.MakeMany(TestDrive::Folders, strOuter, "site %03.0f", kInner);
+        drive.MakeMany(Drive::Folders, strOuter, "site %03.0f", kInner);
     }
     constexpr int kFolders = kOuter * (kInner + 1);
     MeasureOpenings(report, "tree of " + std::to_string(kFolders) + " folders", What::BareTree, What::Tree,
@@ -84,7 +86,7 @@ void MeasureLines(bench::Report& report, const std::string& line) {
         std::to_string(kLines) + " lines of " + std::to_string(line.size()) + " bytes, one by one";
     if (!report.Wants(name))
         return;
-    const TestDrive drive;
+    const Drive drive;
     const CString strPath = L"\\lines.txt";
     {
         CFile file(strPath, CFile::modeCreate | CFile::modeWrite);
@@ -121,7 +123,7 @@ int Run(const char* pszJson, const char* pszOnly) {
     MeasureRows(report, bench::CollectionRows());
     MeasureRows(report, bench::ListRows());
     {
-        const TestDrive drive;
+        const Drive drive;
         MeasureRows(report, bench::FileRows());
     }
     MeasureSmallDialog(report);

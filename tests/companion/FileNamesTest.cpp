@@ -1,12 +1,15 @@
+#include "support/TestApp.h"
 #include "support/Rows.h"
 
 #include <gtest/gtest.h>
 
 #include "Tesuvo.h"
 
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
 
 #include <string>
+
+using namespace testkit;
 
 namespace {
 
@@ -85,7 +88,7 @@ TEST(PathSplit, NeedsNeitherAllResultsNorAPathOfItsOwn) {
 }
 
 TEST(FileExists, TellsFilesFromEverythingElse) {
-    const TestDrive drive;
+    const Drive drive;
     drive.MakeFile(L"\\測点.csv");
     drive.MakeFolder(L"\\sub.csv");
     CString deep; // beyond the old limit of paths

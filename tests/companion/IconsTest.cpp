@@ -1,8 +1,12 @@
-#include "support/Pixels.h"
+#include "support/TestApp.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
 
 #include "Tesuvo.h"
 
 #include <set>
+
+using namespace testkit;
 
 namespace {
 
@@ -11,12 +15,12 @@ constexpr int kIcons[] = {2, 4, 5, 26, 31, 32, 39, 42};
 TEST(SharedIcons, AreSmallSharedPicturesThatDifferAndLetTheGroundThrough) {
     constexpr int kSize = 16;
     const CRect inside(0, 0, kSize, kSize);
-    fx::Frame frame;
+    Frame frame;
     CClientDC dc(&frame);
     const auto drawn = [&](HICON icon, COLORREF ground) {
         dc.FillSolidRect(0, 0, 2 * kSize, 2 * kSize, ground);
         EXPECT_TRUE(::DrawIconEx(dc, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL));
-        return fx::Image(dc, CSize(2 * kSize, 2 * kSize));
+        return Picture(dc, CSize(2 * kSize, 2 * kSize));
     };
     constexpr COLORREF kGreen = RGB(0, 255, 0);
     std::set<std::vector<COLORREF>> seen;
@@ -24,7 +28,7 @@ TEST(SharedIcons, AreSmallSharedPicturesThatDifferAndLetTheGroundThrough) {
         const HICON icon = TVGetCommonIcon(index);
         ASSERT_NE(icon, nullptr) << index;
         EXPECT_EQ(TVGetCommonIcon(index), icon) << index;
-        const fx::Image onWhite = drawn(icon, fx::WHITE), onGreen = drawn(icon, kGreen);
+        const Picture onWhite = drawn(icon, fx::WHITE), onGreen = drawn(icon, kGreen);
         std::vector<COLORREF> pixels;
         int through = 0;
         for (int y = 0; y < kSize; ++y)

@@ -1,13 +1,16 @@
 // The soft input panel as a window: when it comes and goes, and what it leaves alone.
-#include "support/PanelPen.h"
-#include "support/TitleBar.h"
+#include "support/PanelKeys.h"
+#include "testkit/TitleBar.h"
+#include "testkit/Pen.h"
 
 #include <thread>
+
+using namespace testkit;
 
 namespace {
 
 /// A window that keeps what it is told about the panel: shown or not.
-struct ToldFrame : fx::Frame {
+struct ToldFrame : Frame {
     std::vector<bool> m_told;
 
 protected:
@@ -16,7 +19,7 @@ protected:
         info.cbSize = sizeof info;
         if (message == WM_SETTINGCHANGE && wParam == SPI_SETSIPINFO && SipGetInfo(&info))
             m_told.push_back(info.fdwFlags & SIPF_ON);
-        return fx::Frame::WindowProc(message, wParam, lParam);
+        return Frame::WindowProc(message, wParam, lParam);
     }
 };
 
@@ -28,18 +31,18 @@ struct InputPanel : testing::Test {
         m_button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 60, 100, 80), &m_frame, 12);
         m_digits.m_nMode = 1;
         m_button.SetFocus();
-        fx::Pump();
+        Pump();
         m_frame.m_told.clear();
     }
     ~InputPanel() override { panel::Close(); }
 
     ToldFrame m_frame;
-    panel::Field m_letters, m_digits;
+    fx::PanelField m_letters, m_digits;
     CButton m_button;
 };
 
 TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
-    const CRect area = fx::WorkArea();
+    const CRect area = WorkArea();
     const int nBottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
     TVShowSIP(1);
     const HWND hPanel = panel::OfThread();
@@ -55,7 +58,7 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
     }
     panel::Close();
     TVCloseSIP();
-    panel::PumpFor(50);
+    fx::PumpFor(50);
     EXPECT_FALSE(panel::IsVisible());
     ::DestroyWindow(hPanel);
     TVCloseSIP();
@@ -66,7 +69,7 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
 }
 
 TEST_F(InputPanel, FrameworkKnowsItsPlace) {
-    const CRect area = fx::WorkArea();
+    const CRect area = WorkArea();
     SIPINFO info = {};
     EXPECT_FALSE(SipGetInfo(&info)) << "without a size";
     EXPECT_FALSE(SipGetInfo(nullptr));
@@ -90,8 +93,8 @@ TEST_F(InputPanel, FrameworkKnowsItsPlace) {
 TEST_F(InputPanel, NeverTakesTheFocus) {
     m_letters.SetFocus();
     const HWND hActive = ::GetActiveWindow();
-    pen::Tap(panel::At(1, 5, 12));
-    panel::PumpFor(50);
+    pen::Tap(fx::PanelAt(1, 5, 12));
+    fx::PumpFor(50);
     EXPECT_EQ(::GetFocus(), m_letters.m_hWnd);
     EXPECT_EQ(::GetActiveWindow(), hActive);
     panel::Close();
@@ -101,16 +104,16 @@ TEST_F(InputPanel, NeverTakesTheFocus) {
 
 TEST_F(InputPanel, StaysOnTheWayFromFieldToField) {
     m_letters.SetFocus();
-    fx::Pump();
+    Pump();
     for (int i = 0; i < 3; ++i) {
         m_digits.SetFocus();
-        panel::PumpFor(20);
+        fx::PumpFor(20);
         EXPECT_EQ(L"123", panel::Title());
         m_letters.SetFocus();
-        panel::PumpFor(20);
+        fx::PumpFor(20);
         EXPECT_EQ(L"ABC", panel::Title());
     }
-    panel::PumpFor(150);
+    fx::PumpFor(150);
     EXPECT_EQ(std::vector{true}, m_frame.m_told) << "it has come, and not gone";
     m_button.SetFocus();
     panel::ExpectHidden();
@@ -118,27 +121,27 @@ TEST_F(InputPanel, StaysOnTheWayFromFieldToField) {
 
 TEST_F(InputPanel, StaysUntilThePenIsLifted) {
     m_letters.SetFocus();
-    fx::Pump();
-    pen::Down(pen::Middle(m_button)); // takes the focus and the pen
-    ASSERT_TRUE(panel::PumpUntil([this] { return ::GetFocus() == m_button.m_hWnd; }));
-    panel::PumpFor(100);
+    Pump();
+    pen::Down(MiddleOf(m_button)); // takes the focus and the pen
+    ASSERT_TRUE(PumpUntil([this] { return ::GetFocus() == m_button.m_hWnd; }));
+    fx::PumpFor(100);
     EXPECT_TRUE(panel::IsVisible());
-    pen::Up(pen::Middle(m_button));
+    pen::Up(MiddleOf(m_button));
     panel::ExpectHidden();
 }
 
 TEST_F(InputPanel, TellsTheActiveWindowWhenItComesAndGoes) {
     m_letters.SetFocus();
-    EXPECT_TRUE(panel::PumpUntil([this] { return !m_frame.m_told.empty(); }));
+    EXPECT_TRUE(PumpUntil([this] { return !m_frame.m_told.empty(); }));
     ToldFrame other;
     other.SetFocus();
     panel::ExpectHidden();
     EXPECT_EQ(other.m_told, std::vector{false});
     EXPECT_EQ(m_frame.m_told, (std::vector{true, false}));
     TVShowSIP(0);
-    EXPECT_TRUE(panel::PumpUntil([&] { return other.m_told == std::vector{false, true}; }));
+    EXPECT_TRUE(PumpUntil([&] { return other.m_told == std::vector{false, true}; }));
     m_frame.SetFocus();
-    EXPECT_TRUE(panel::PumpUntil([this] { return m_frame.m_told == std::vector{true, false, true}; }));
+    EXPECT_TRUE(PumpUntil([this] { return m_frame.m_told == std::vector{true, false, true}; }));
     panel::Close();
     EXPECT_EQ(m_frame.m_told, (std::vector{true, false, true, false})) << "active again, below the panel";
 }
@@ -150,11 +153,11 @@ TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
     next.Create(WS_CHILD | WS_VISIBLE, CRect(0, 120, 100, 140), &m_frame, 14);
     field.SetFocus();
     TVShowSIP(0);
-    panel::PumpFor(150);
+    fx::PumpFor(150);
     EXPECT_TRUE(panel::IsVisible());
     next.SetFocus();
     field.DestroyWindow();
-    panel::PumpFor(250);
+    fx::PumpFor(250);
     EXPECT_TRUE(panel::IsVisible()) << "there is still something to type into";
     next.DestroyWindow();
     panel::ExpectHidden();

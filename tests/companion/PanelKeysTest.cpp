@@ -1,6 +1,8 @@
 // Typing on the soft input panel with the pen.
-#include "support/PanelPen.h"
+#include "support/PanelKeys.h"
 #include "support/Form.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -9,7 +11,7 @@ struct PanelKeys : testing::Test {
         m_field.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 150, 20), &m_frame, 10);
         m_field.SetFocus();
         TVShowSIP(0);
-        fx::Pump();
+        Pump();
     }
     ~PanelKeys() override { panel::Close(); }
 
@@ -17,20 +19,20 @@ struct PanelKeys : testing::Test {
     void ExpectAfterTaps(const std::vector<CPoint>& taps, const CString& strText) {
         for (const CPoint& point : taps) {
             pen::Tap(point);
-            fx::Pump();
+            Pump();
         }
-        panel::PumpUntil([&] { return Text() == strText; }, 1000);
+        PumpUntil([&] { return Text() == strText; }, 1000);
         EXPECT_EQ(Text(), strText);
     }
 
-    CString Text() const { return fx::TextOf(m_field); }
+    CString Text() const { return TextOf(m_field); }
 
     void SetText(LPCTSTR pszText) {
         m_field.SetWindowText(pszText);
         m_field.SetSel(m_field.GetWindowTextLength(), m_field.GetWindowTextLength());
     }
 
-    fx::Frame m_frame;
+    Frame m_frame;
     CEdit m_field;
 };
 
@@ -76,9 +78,9 @@ TEST_F(PanelKeys, TypeWhatTheyShow) {
         if (page != nShown) {
             TVShowSIP(MODE_OF_PAGE[page]);
             if (page == Capitals)
-                ExpectAfterTaps({panel::ShiftKey(), panel::ShiftKey()}, Text());
+                ExpectAfterTaps({fx::ShiftKey(), fx::ShiftKey()}, Text());
             if (page == Katakana)
-                ExpectAfterTaps({panel::ScriptKey()}, Text());
+                ExpectAfterTaps({fx::ScriptKey()}, Text());
             nShown = page;
         }
         SetText(L"");
@@ -88,35 +90,35 @@ TEST_F(PanelKeys, TypeWhatTheyShow) {
             if (pszKeys[i] == NO_CHARACTER)
                 continue;
             const int nMiddle = nLeft + i * nWidth + nWidth / 2;
-            taps.push_back(panel::At(nRow, ROWS_OF_PAGE[page], nMiddle));
+            taps.push_back(fx::PanelAt(nRow, ROWS_OF_PAGE[page], nMiddle));
             strExpected += pszKeys[i];
         }
         ExpectAfterTaps(taps, strExpected);
     }
-    ExpectAfterTaps({panel::ScriptKey()}, Text()); // the thread's panel remembers the script
+    ExpectAfterTaps({fx::ScriptKey()}, Text()); // the thread's panel remembers the script
 }
 
 TEST_F(PanelKeys, ShiftHoldsForOneCharacterAndTwiceForAll) {
-    const CPoint a = panel::At(2, 5, 12);
-    ExpectAfterTaps({panel::ShiftKey(), a, a}, L"Aa");
-    ExpectAfterTaps({panel::ShiftKey(), panel::ShiftKey(), a, a}, L"AaAA");
-    ExpectAfterTaps({panel::ShiftKey(), a}, L"AaAAa");
-    ExpectAfterTaps({panel::ShiftKey()}, L"AaAAa");
+    const CPoint a = fx::PanelAt(2, 5, 12);
+    ExpectAfterTaps({fx::ShiftKey(), a, a}, L"Aa");
+    ExpectAfterTaps({fx::ShiftKey(), fx::ShiftKey(), a, a}, L"AaAA");
+    ExpectAfterTaps({fx::ShiftKey(), a}, L"AaAAa");
+    ExpectAfterTaps({fx::ShiftKey()}, L"AaAAa");
     TVShowSIP(1);
     TVShowSIP(0);
     ExpectAfterTaps({a}, L"AaAAaa");
 }
 
 TEST_F(PanelKeys, LettersAndKanaReachEachOther) {
-    const CPoint mode = panel::At(4, 5, 15);
+    const CPoint mode = fx::PanelAt(4, 5, 15);
     ExpectAfterTaps({mode}, L"");
-    ExpectAfterTaps({panel::At(0, 6, 12)}, L"あ");
-    ExpectAfterTaps({panel::At(5, 6, 15)}, L"あ");
-    ExpectAfterTaps({panel::At(0, 5, 12)}, L"あ1");
+    ExpectAfterTaps({fx::PanelAt(0, 6, 12)}, L"あ");
+    ExpectAfterTaps({fx::PanelAt(5, 6, 15)}, L"あ");
+    ExpectAfterTaps({fx::PanelAt(0, 5, 12)}, L"あ1");
 }
 
 TEST_F(PanelKeys, PenMaySlideToTheKeyThatWasMeant) {
-    const CPoint q = panel::At(1, 5, 12), w = panel::At(1, 5, 36);
+    const CPoint q = fx::PanelAt(1, 5, 12), w = fx::PanelAt(1, 5, 36);
     pen::Drag(q, w);
     ExpectAfterTaps({}, L"w");
     pen::Drag(q, CPoint(q.x, panel::Place().top - 20)); // off the panel: nothing
@@ -126,37 +128,37 @@ TEST_F(PanelKeys, PenMaySlideToTheKeyThatWasMeant) {
 TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
     const CString strText(L'x', 40);
     SetText(strText);
-    pen::Move(panel::BackspaceKey());
-    panel::PumpFor(50); // the pointer may have been elsewhere
-    pen::Down(panel::BackspaceKey());
-    ASSERT_TRUE(panel::PumpUntil([this] { return Text().GetLength() < 40; }));
+    pen::Move(fx::BackspaceKey());
+    fx::PumpFor(50); // the pointer may have been elsewhere
+    pen::Down(fx::BackspaceKey());
+    ASSERT_TRUE(PumpUntil([this] { return Text().GetLength() < 40; }));
     EXPECT_EQ(Text().GetLength(), 39) << "at once, and only one";
-    panel::PumpFor(200);
+    fx::PumpFor(200);
     EXPECT_EQ(Text().GetLength(), 39) << "a hesitant finger deletes no more";
-    EXPECT_TRUE(panel::PumpUntil([this] { return Text().GetLength() < 35; }));
-    pen::Up(panel::BackspaceKey());
-    panel::PumpFor(50);
+    EXPECT_TRUE(PumpUntil([this] { return Text().GetLength() < 35; }));
+    pen::Up(fx::BackspaceKey());
+    fx::PumpFor(50);
     const int nLeft = Text().GetLength();
     EXPECT_GT(nLeft, 20);
-    panel::PumpFor(200);
+    fx::PumpFor(200);
     EXPECT_EQ(Text().GetLength(), nLeft);
 
-    pen::Down(panel::BackspaceKey());
-    pen::Move(panel::ShiftKey());
-    ASSERT_TRUE(panel::PumpUntil([] {
-        return ::GetMessagePos() == static_cast<DWORD>(MAKELONG(panel::ShiftKey().x, panel::ShiftKey().y));
+    pen::Down(fx::BackspaceKey());
+    pen::Move(fx::ShiftKey());
+    ASSERT_TRUE(PumpUntil([] {
+        return ::GetMessagePos() == static_cast<DWORD>(MAKELONG(fx::ShiftKey().x, fx::ShiftKey().y));
     }));
     const int nNow = Text().GetLength();
     EXPECT_LT(nNow, nLeft);
-    panel::PumpFor(700);
-    pen::Up(panel::ShiftKey());
-    ExpectAfterTaps({panel::At(2, 5, 12)}, CString(L'x', nNow) + L"a");
+    fx::PumpFor(700);
+    pen::Up(fx::ShiftKey());
+    ExpectAfterTaps({fx::PanelAt(2, 5, 12)}, CString(L'x', nNow) + L"a");
 }
 
 TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
     TVShowSIP(2);
-    const CPoint voiced = panel::At(1, 6, 180), semiVoiced = panel::At(3, 6, 180);
-    const CPoint small = panel::At(4, 6, 228);
+    const CPoint voiced = fx::PanelAt(1, 6, 180), semiVoiced = fx::PanelAt(3, 6, 180);
+    const CPoint small = fx::PanelAt(4, 6, 228);
     const Rows<LPCTSTR, CPoint, LPCTSTR> rows = {
         {L"あか", voiced, L"あが"}, {L"が", voiced, L"か"},     {L"ば", semiVoiced, L"ぱ"},
         {L"ほ", semiVoiced, L"ぽ"}, {L"か", semiVoiced, L"か"}, {L"つ", small, L"っ"},
@@ -178,20 +180,20 @@ TEST_F(PanelKeys, MarksChangeTheKanaBeforeTheCaret) {
 }
 
 TEST(PanelInADialog, MovesOnAndConfirmsThoughTheOwnerIsDisabled) {
-    fx::Frame owner;
+    Frame owner;
     fx::Form dialog(&owner);
     const auto show = [&] {
         EXPECT_FALSE(owner.IsWindowEnabled());
         TVShowSIP(0);
     };
     const auto look = [&] {
-        EXPECT_EQ(L"q", fx::TextOf(*dialog.GetDlgItem(fx::Form::EDIT)));
-        EXPECT_EQ(L"w", fx::TextOf(*dialog.GetDlgItem(fx::Form::FIELD)));
-        pen::Tap(panel::EnterKey());
+        EXPECT_EQ(L"q", TextOf(*dialog.GetDlgItem(fx::Form::EDIT)));
+        EXPECT_EQ(L"w", TextOf(*dialog.GetDlgItem(fx::Form::FIELD)));
+        pen::Tap(fx::EnterKey());
     };
-    EXPECT_EQ(IDOK, fx::Play(dialog,
-                             {show, [] { pen::Tap(panel::At(1, 5, 12)); }, [] { pen::Tap(panel::NextKey()); },
-                              [] { pen::Tap(panel::At(1, 5, 36)); }, look}));
+    EXPECT_EQ(IDOK,
+              Play(dialog, {show, [] { pen::Tap(fx::PanelAt(1, 5, 12)); }, [] { pen::Tap(fx::NextKey()); },
+                            [] { pen::Tap(fx::PanelAt(1, 5, 36)); }, look}));
     panel::Close();
 }
 

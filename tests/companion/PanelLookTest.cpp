@@ -1,6 +1,9 @@
 // What the soft input panel shows.
-#include "support/PanelPen.h"
-#include "support/Pixels.h"
+#include "support/PanelKeys.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -17,12 +20,12 @@ struct PanelLook : testing::Test {
     }
     ~PanelLook() override { panel::Close(); }
 
-    static fx::Image Look() {
-        fx::Pump();
-        return fx::Image::Of(*CWnd::FromHandle(panel::OfThread()));
+    static Picture Look() {
+        Pump();
+        return Picture::Of(*CWnd::FromHandle(panel::OfThread()));
     }
     /// Expects a key of one colour with a label in the middle of another one. @return the label's place
-    static CRect ExpectKey(const fx::Image& image, CRect key, COLORREF cap, COLORREF label = fx::BLACK) {
+    static CRect ExpectKey(const Picture& image, CRect key, COLORREF cap, COLORREF label = fx::BLACK) {
         EXPECT_EQ(GROUND, image.At(key.left, key.top + 5)) << "between the keys";
         EXPECT_EQ(GROUND, image.At(key.left + 5, key.top));
         key.DeflateRect(1, 1, 0, 0);
@@ -34,7 +37,7 @@ struct PanelLook : testing::Test {
         return ink;
     }
 
-    fx::Frame m_frame;
+    Frame m_frame;
     CEdit m_field;
 };
 
@@ -62,23 +65,23 @@ TEST_F(PanelLook, KeysHaveTheColourOfTheirKindAndALabelThatFits) {
     EXPECT_NEAR(186, mark.CenterPoint().x, 3) << "a sound mark, moved from its corner";
     EXPECT_NEAR(31, mark.CenterPoint().y, 4);
     EXPECT_GE(mark.Height(), 4);
-    pen::Tap(panel::ScriptKey());
+    pen::Tap(fx::ScriptKey());
     const auto katakana = Look();
     EXPECT_FALSE(katakana.Difference(kana).IsRectEmpty());
-    pen::Tap(panel::ScriptKey());
+    pen::Tap(fx::ScriptKey());
     EXPECT_TRUE(Look().Difference(kana).IsRectEmpty());
 }
 
 TEST_F(PanelLook, PressedAndShiftedKeysStandOut) {
-    pen::Down(panel::At(1, 5, 12));
+    pen::Down(fx::PanelAt(1, 5, 12));
     ExpectKey(Look(), Q, PRESSED, fx::WHITE);
-    pen::Up(panel::At(1, 5, 12));
+    pen::Up(fx::PanelAt(1, 5, 12));
     ExpectKey(Look(), Q, fx::WHITE);
-    pen::Tap(panel::ShiftKey());
+    pen::Tap(fx::ShiftKey());
     ExpectKey(Look(), SHIFT, SHIFTED);
-    pen::Tap(panel::ShiftKey());
+    pen::Tap(fx::ShiftKey());
     ExpectKey(Look(), SHIFT, PRESSED, fx::WHITE);
-    pen::Tap(panel::ShiftKey());
+    pen::Tap(fx::ShiftKey());
     ExpectKey(Look(), SHIFT, FUNCTION);
 }
 

@@ -1,9 +1,12 @@
 // Dialogs keep the field into which the user types clear of the soft input panel.
-#include "support/PanelPen.h"
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/PanelKeys.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
 
 #include "controls/nDialog.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -34,8 +37,8 @@ struct FieldDialog : CnDialog {
         return FALSE;
     }
 
-    CRect WindowRect() const { return fx::RectOf(m_hWnd); }
-    CRect FieldRect(int nField) const { return fx::RectOf(m_fields[nField]); }
+    CRect WindowRect() const { return RectOf(m_hWnd); }
+    CRect FieldRect(int nField) const { return RectOf(m_fields[nField]); }
     /// Whether the panel is there and the field stands clear of it, inside the dialog.
     bool IsClear(int nField) const {
         const CRect field = FieldRect(nField);
@@ -46,36 +49,36 @@ struct FieldDialog : CnDialog {
     }
 
     // Steps of a script.
-    fx::Step Enter(int nField) {
+    Step Enter(int nField) {
         return [this, nField] { m_fields[nField].SetFocus(); };
     }
-    fx::Step Leave() {
+    Step Leave() {
         return [this] { m_other.SetFocus(); };
     }
-    fx::Step UntilClear(int nField) {
+    Step UntilClear(int nField) {
         return [this, nField] { return IsClear(nField); };
     }
-    fx::Step UntilAt(CRect place) {
+    Step UntilAt(CRect place) {
         return [this, place] { return WindowRect() == place; };
     }
     /// Runs the steps, ends the dialog and closes the panel.
-    void Run(std::initializer_list<fx::Step> steps) {
-        fx::PlayAndEnd(*this, steps);
+    void Run(std::initializer_list<Step> steps) {
+        PlayAndEnd(*this, steps);
         panel::Close();
     }
 
-    panel::Field m_fields[3];
+    fx::PanelField m_fields[3];
     CButton m_other;
 
 private:
-    static inline const fx::DialogTemplate s_template{100, 80, WS_POPUP | WS_CAPTION};
+    static inline const DialogTemplate s_template{100, 80, WS_POPUP | WS_CAPTION};
 
     CRect m_window;
     std::vector<int> m_tops;
 };
 
-const fx::Step UNTIL_SHOWN = [] { return panel::IsVisible(); };
-const fx::Step UNTIL_HIDDEN = [] { return !panel::IsVisible(); };
+const Step UNTIL_SHOWN = [] { return panel::IsVisible(); };
+const Step UNTIL_HIDDEN = [] { return !panel::IsVisible(); };
 const CRect NO_PLACE;
 
 TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
@@ -83,17 +86,17 @@ TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
     CRect home, bar;
     const auto enterFirst = [&] {
         home = dialog.FieldRect(0);
-        bar = fx::RectOf(*dialog.m_pWndEmptyCB);
+        bar = RectOf(*dialog.m_pWndEmptyCB);
         dialog.m_fields[0].SetFocus();
     };
     const auto lookAtFirst = [&] {
-        panel::PumpFor(100);
+        fx::PumpFor(100);
         EXPECT_EQ(home, dialog.FieldRect(0)) << "not covered";
         dialog.m_fields[2].SetFocus(); // here: another step could come while this one pumps
     };
     const auto expectJustEnough = [&](int nField) {
         EXPECT_GE(dialog.FieldRect(nField).bottom, panel::Place().top - 4) << "no more than needed";
-        EXPECT_EQ(bar, fx::RectOf(*dialog.m_pWndEmptyCB));
+        EXPECT_EQ(bar, RectOf(*dialog.m_pWndEmptyCB));
     };
     dialog.Run({enterFirst, UNTIL_SHOWN, lookAtFirst, dialog.UntilClear(2), [&] { expectJustEnough(2); },
                 dialog.Enter(1),
@@ -107,14 +110,14 @@ TEST(FullScreenDialogAndPanel, FieldStaysUnderThePenUntilItIsLifted) {
     CRect home;
     CPoint strip;
     const auto press = [&] {
-        panel::PumpFor(100);
+        fx::PumpFor(100);
         home = dialog.FieldRect(1);
         strip = CPoint(home.CenterPoint().x, home.top + 4);
         ASSERT_LT(strip.y, panel::Place().top);
         pen::Down(strip);
     };
     const auto lift = [&] {
-        panel::PumpFor(100);
+        fx::PumpFor(100);
         EXPECT_EQ(home, dialog.FieldRect(1));
         pen::Up(strip);
     };
@@ -145,7 +148,7 @@ TEST(PopupDialogAndPanel, StaysWhereTheUserPutsItMeanwhile) {
     FieldDialog dialog(CRect(20, 150, 220, 250), {20});
     const CRect place(30, 40, 230, 140);
     const auto look = [&] {
-        panel::PumpFor(100);
+        fx::PumpFor(100);
         EXPECT_EQ(place, dialog.WindowRect());
     };
     dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { dialog.MoveWindow(place); }, dialog.Leave(),
@@ -166,11 +169,11 @@ TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
     const CRect home(20, 110, 220, 220);
     Dialog dialog(home, {50});
     const auto lift = [&] {
-        panel::PumpFor(150);
+        fx::PumpFor(150);
         EXPECT_NE(home, dialog.WindowRect());
-        pen::Up(pen::Middle(dialog.m_other));
+        pen::Up(MiddleOf(dialog.m_other));
     };
-    dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { pen::Down(pen::Middle(dialog.m_other)); },
+    dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { pen::Down(MiddleOf(dialog.m_other)); },
                 [&] { return ::GetFocus() == dialog.m_other.m_hWnd; }, lift, dialog.UntilAt(home)});
     EXPECT_EQ(1, dialog.m_nClicks);
 }
@@ -191,7 +194,7 @@ TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
     const CRect home(20, 150, 220, 250);
     Dialog dialog(home, {20});
     const auto look = [&] {
-        panel::PumpFor(100);
+        fx::PumpFor(100);
         EXPECT_EQ(home, dialog.WindowRect());
     };
     dialog.Run({dialog.Enter(0), [&] { return dialog.m_bTold; }, look});
@@ -210,7 +213,7 @@ TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoe
 TEST(PanelSwitch, ShowsAndHidesWhatIsReallyThereEvenBelowADialog) {
     FieldDialog main(NO_PLACE, {20}), popup(CRect(20, 40, 220, 140), {20}, &main);
     const auto tapSwitch = [&main] {
-        const CRect bar = fx::RectOf(*main.m_pWndEmptyCB);
+        const CRect bar = RectOf(*main.m_pWndEmptyCB);
         pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));
     };
     const auto tapBelow = [&] {

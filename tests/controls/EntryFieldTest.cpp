@@ -1,9 +1,11 @@
 // The entry fields and the soft input panel.
-#include "support/PanelPen.h"
+#include "testkit/Panel.h"
 #include "support/Stage.h"
 
 #include "controls/nComboBox.h"
 #include "controls/nEdit.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -43,7 +45,7 @@ TEST(EntryField, OptionDecidesThePanelsMode) {
             stage.TapOther();
             panel::ExpectHidden();
             stage.Tap(*pField);
-            EXPECT_EQ(panel::IsVisible() ? panel::Title() : CString(), pszTitle) << dwOption;
+            EXPECT_EQ(panel::IsVisible() ? panel::Title() : L"", pszTitle) << dwOption;
         }
     }
 }
@@ -55,7 +57,7 @@ TEST(EntryField, ThePanelLeavesTheFocus) {
     panel::ExpectShown();
     EXPECT_EQ(::GetFocus(), stage.m_edit.m_hWnd);
     stage.Type({'1', '2'});
-    EXPECT_EQ(fx::TextOf(stage.m_edit), L"12");
+    EXPECT_EQ(TextOf(stage.m_edit), L"12");
     stage.TapOther();
     panel::ExpectHidden();
 }
@@ -85,7 +87,7 @@ TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(4, 4)));
     stage.Tap(point);
     EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(3, 6)));
-    const CRect rect = fx::RectOf(stage.m_combo);
+    const CRect rect = RectOf(stage.m_combo);
     stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
     EXPECT_TRUE(stage.m_combo.GetDroppedState());
 }

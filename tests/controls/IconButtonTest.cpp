@@ -1,8 +1,11 @@
 // The icon button, on the screen and under the stylus.
-#include "support/Pixels.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
 #include "support/Stage.h"
 
 #include "controls/IconButton.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -17,7 +20,7 @@ struct ButtonStage : fx::Stage {
     }
     ~ButtonStage() override { DestroyWindow(); } // before the button
 
-    fx::Image Look() { return fx::Image::Of(m_button); }
+    Picture Look() { return Picture::Of(m_button); }
     CRect IconPlace() {
         const auto image = Look();
         return image.Around(image.Rect(), fx::MAGENTA);
@@ -69,13 +72,13 @@ TEST(IconButton, FocusRectangleOnlyWithItsStyle) {
         ButtonStage stage({60, 24}, nStyle);
         const auto without = stage.Look();
         stage.m_button.SetFocus();
-        fx::Pump();
+        Pump();
         const CRect frame = stage.Look().Difference(without);
         EXPECT_EQ(frame, nStyle != 0 ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0));
         stage.SetFocus();
-        fx::Pump();
+        Pump();
         CClientDC dc(&stage.m_button); // as it stands: the same drawing has taken it away
-        EXPECT_TRUE(fx::Image(dc, {60, 24}).Difference(without).IsRectEmpty());
+        EXPECT_TRUE(Picture(dc, {60, 24}).Difference(without).IsRectEmpty());
     }
 }
 
@@ -110,7 +113,7 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
         item.hDC = dc;
         item.rcItem = CRect(CPoint(), SIZE_);
         stage.m_button.DrawItem(&item);
-        const fx::Image image(dc, SIZE_);
+        const Picture image(dc, SIZE_);
         const std::string what = std::to_string(nAction) + ' ' + std::to_string(nState);
         EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace) << what;
         if (!bFace) {
@@ -128,7 +131,7 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
 TEST(IconButton, EachTapHoweverQuickIsAClickAndFlipsAToggleButtonOnly) {
     for (const bool bToggle : {false, true}) {
         ButtonStage stage({60, 24}, bToggle ? CIconButton::StyleToggle : 0U);
-        const CPoint point = pen::Middle(stage.m_button);
+        const CPoint point = MiddleOf(stage.m_button);
         for (int i = 0; i < 2; ++i)
             pen::Tap(point);
         stage.Tap(point);
@@ -141,7 +144,7 @@ TEST(IconButton, EachTapHoweverQuickIsAClickAndFlipsAToggleButtonOnly) {
 
 TEST(IconButton, ReleaseOutsideDoesNothing) {
     ButtonStage stage({60, 24}, CIconButton::StyleToggle);
-    const CRect rect = fx::RectOf(stage.m_button);
+    const CRect rect = RectOf(stage.m_button);
     // The right and bottom edges are outside already.
     for (const CPoint end : {CPoint(rect.right, rect.top + 5), CPoint(rect.left + 5, rect.bottom),
                              rect.BottomRight() + CSize(30, 30), rect.TopLeft() - CSize(3, 3)}) {
@@ -202,8 +205,8 @@ TEST(IconButton, FailedAttachChangesNothing) {
 }
 
 TEST(IconButton, BeforeItsWindowItTouchesNoOther) {
-    fx::Frame bystander;
-    fx::Pump();
+    Frame bystander;
+    Pump();
     bystander.RedrawWindow();
     CIconButton button;
     fx::SquareIcon icon;

@@ -1,9 +1,13 @@
 // The information text, pixel by pixel.
-#include "support/Pixels.h"
+#include "support/TestApp.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
 
 #include "controls/InfoStatic.h"
 
 #include "Tesuvo.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -15,12 +19,12 @@ struct InfoStatic : testing::Test {
         constexpr DWORD STYLE = WS_CHILD | WS_VISIBLE | SS_NOTIFY;
         ASSERT_TRUE(m_text.Create(L"", STYLE, CRect(CPoint(10, 10), SIZE_), &m_frame, 1));
     }
-    fx::Image Look() { return fx::Image::Of(m_text); }
-    static CRect Ink(const fx::Image& image, COLORREF background, CRect within) {
+    Picture Look() { return Picture::Of(m_text); }
+    static CRect Ink(const Picture& image, COLORREF background, CRect within) {
         return image.Around(within, [&](CPoint p) { return image.At(p.x, p.y) != background; });
     }
 
-    fx::Frame m_frame;
+    Frame m_frame;
     CInfoStatic m_text;
 };
 
@@ -40,7 +44,7 @@ TEST_F(InfoStatic, IconStandsInTheCornerInItsOwnSize) {
     CClientDC screen(&m_frame);
     screen.FillSolidRect(0, 0, 16, 16, YELLOW);
     ::DrawIconEx(screen, 0, 0, TVGetCommonIcon(39), 16, 16, 0, nullptr, DI_NORMAL);
-    const fx::Image icon(screen, {16, 16});
+    const Picture icon(screen, {16, 16});
     EXPECT_FALSE(icon.IsAll(icon.Rect(), YELLOW));
     const CRect differs =
         image.Around(icon.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != icon.At(p.x, p.y); });
@@ -71,13 +75,13 @@ TEST_F(InfoStatic, KeepsItsLookWhenItGetsAnotherTextOrIsDisabled) {
     const auto now = [&] {
         m_text.UpdateWindow();
         CClientDC dc(&m_text);
-        return fx::Image(dc, SIZE_);
+        return Picture(dc, SIZE_);
     };
     m_text.SetWindowText(L"");
     EXPECT_TRUE(now().IsAll(CRect(16, 0, SIZE_.cx, SIZE_.cy), YELLOW)) << "at once";
     m_text.SetWindowText(L"H情報H");
     EXPECT_TRUE(now().Difference(wanted).IsRectEmpty()) << "text";
-    EXPECT_EQ(L"H情報H", fx::TextOf(m_text));
+    EXPECT_EQ(L"H情報H", TextOf(m_text));
     m_text.EnableWindow(FALSE);
     EXPECT_TRUE(now().Difference(wanted).IsRectEmpty()) << "disabled";
     m_text.EnableWindow(TRUE);

@@ -6,6 +6,8 @@
 #include "controls/nSpinButtonCtrl.h"
 #include "controls/nTreeCtrl.h"
 
+using namespace testkit;
+
 namespace {
 
 constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;

@@ -1,8 +1,11 @@
 // Full-screen dialogs whose first field brings up the soft input panel while they open.
-#include "support/Pixels.h"
-#include "support/PanelPen.h"
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
+#include "testkit/Panel.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
 
 #include "controls/nComboBox.h"
 #include "controls/nDialog.h"
@@ -10,20 +13,22 @@
 #include "controls/nPropertyPage.h"
 #include "controls/nPropertySheet.h"
 
+using namespace testkit;
+
 namespace {
 
 constexpr int IDC_EDIT = 100, IDC_COMBO = 101;
 
 /// Gives a dialog its only field.
-using AddField = void (*)(fx::DialogTemplate&);
+using AddField = void (*)(DialogTemplate&);
 
-void AddEdit(fx::DialogTemplate& dialogTemplate) {
+void AddEdit(DialogTemplate& dialogTemplate) {
     dialogTemplate.Edit(IDC_EDIT);
 }
-void AddCombo(fx::DialogTemplate& dialogTemplate) {
+void AddCombo(DialogTemplate& dialogTemplate) {
     dialogTemplate.Add(WC_COMBOBOX, L"", IDC_COMBO, CBS_DROPDOWN | WS_TABSTOP, 2, 2, 60, 120);
 }
-void AddChoice(fx::DialogTemplate& dialogTemplate) {
+void AddChoice(DialogTemplate& dialogTemplate) {
     dialogTemplate.Add(WC_COMBOBOX, L"", IDC_COMBO, CBS_DROPDOWNLIST | WS_TABSTOP, 2, 2, 60, 50);
 }
 
@@ -50,7 +55,7 @@ struct FirstFieldDialog : CnDialog {
 
 private:
     Order m_order;
-    fx::DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
+    DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
     CnEdit m_edit;
 };
 
@@ -61,13 +66,13 @@ bool PanelIsSeen() {
         return false;
     const CRect place = panel::Place();
     CWindowDC screen(nullptr);
-    const fx::Image image(screen, CSize(place.right, place.bottom));
+    const Picture image(screen, CSize(place.right, place.bottom));
     return image.Has(CRect(0, 0, place.right, place.top), fx::MAGENTA) && !image.Has(place, fx::MAGENTA);
 }
 
 /// Runs the steps and ends the dialog; the panel goes with the dialog's field.
-void PlayWithPanel(CDialog& dialog, std::initializer_list<fx::Step> steps) {
-    fx::PlayAndEnd(dialog, steps);
+void PlayWithPanel(CDialog& dialog, std::initializer_list<Step> steps) {
+    PlayAndEnd(dialog, steps);
     panel::ExpectHidden();
 }
 
@@ -90,7 +95,7 @@ TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
     } page;
     CnPropertySheet sheet(L"設定", nullptr, 0);
     sheet.AddPage(&page);
-    fx::PlayAndEnd(sheet, {panel::IsVisible});
+    PlayAndEnd(sheet, {panel::IsVisible});
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
@@ -110,7 +115,7 @@ TEST(PanelOverDialog, StaysBelowTheListThatDropsOverIt) {
             dlg.m_combo.AddString(L"測点");
         dlg.m_combo.ShowDropDown();
         dlg.m_combo.GetComboBoxInfo(&info);
-        list = fx::RectOf(info.hwndList);
+        list = RectOf(info.hwndList);
         nDropped = ::GetTickCount64();
     };
     const auto look = [&] {

@@ -1,14 +1,15 @@
 // The property sheet on the device's screen.
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
 
 #include "controls/nPropertyPage.h"
 #include "controls/nPropertySheet.h"
 
-namespace {
+using namespace testkit;
 
-using fx::Screen;
-using fx::WhileOpen;
+namespace {
 
 constexpr int IDD_FIRST = 201, IDD_SECOND = 202, IDC_TEXT = 100;
 
@@ -31,7 +32,7 @@ struct Sheet : CnPropertySheet {
         AddPage(&m_second);
     }
 
-    CRect Rect() const { return fx::RectOf(m_hWnd); }
+    CRect Rect() const { return RectOf(m_hWnd); }
     bool HasOkButton() const { return (m_nFlags & WF_OKBUTTON) != 0; }
     HWND Bar() const { return ::GetDlgItem(m_hWnd, 0xE800); }
 
@@ -46,7 +47,7 @@ protected:
 template <class Input>
 void ExpectStaysOpen(const char* pszWhat, Sheet& sheet, Input input) {
     const auto end = [&] { sheet.EndDialog(77); };
-    EXPECT_EQ(77, fx::Play(sheet, {[] {}, input, [] {}, end})) << pszWhat;
+    EXPECT_EQ(77, Play(sheet, {[] {}, input, [] {}, end})) << pszWhat;
 }
 
 TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
@@ -68,11 +69,11 @@ TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
 TEST(nPropertySheet, CommandBarStandsBelowThePages) {
     Sheet sheet(CnPropertySheet::OptionCommandBar);
     WhileOpen(sheet, [&] {
-        const CRect bar = fx::RectOf(sheet.Bar());
+        const CRect bar = RectOf(sheet.Bar());
         EXPECT_EQ(bar, CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
         EXPECT_EQ(::SendMessage(sheet.Bar(), TB_GETBUTTONSIZE, 0, 0) & 0xFFFF, 32);
         EXPECT_TRUE(::IsWindowVisible(sheet.Bar()));
-        const CRect page = fx::RectOf(*sheet.GetActivePage());
+        const CRect page = RectOf(*sheet.GetActivePage());
         EXPECT_GE(page.left, 0);
         EXPECT_LE(page.right, Screen().right);
         EXPECT_GT(page.Width(), 200);
@@ -82,7 +83,7 @@ TEST(nPropertySheet, CommandBarStandsBelowThePages) {
 
 TEST(nPropertySheet, NeitherKeysNorCancelNorCloseEndIt) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
-    const auto key = [&](WORD nKey) { return [=] { pen::TypeKeys({nKey}); }; };
+    const auto key = [&](WORD nKey) { return [=] { TypeKeys({nKey}); }; };
     ExpectStaysOpen("Enter", sheet, key(VK_RETURN));
     ExpectStaysOpen("Escape", sheet, key(VK_ESCAPE));
     ExpectStaysOpen("Cancel", sheet, [&] { sheet.SendMessage(WM_COMMAND, IDCANCEL); });
@@ -91,11 +92,11 @@ TEST(nPropertySheet, NeitherKeysNorCancelNorCloseEndIt) {
 
 TEST(nPropertySheet, OtherKeysReachThePage) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
-    EXPECT_EQ(IDOK, fx::Play(sheet, {[&] { pen::Tap(*sheet.m_first.GetDlgItem(IDC_TEXT)); },
-                                     [&] {
-                                         pen::TypeKeys({VK_END, '7', VK_RETURN, '8'});
-                                     },
-                                     [&] { fx::TapOk(sheet); }}));
+    EXPECT_EQ(IDOK, Play(sheet, {[&] { pen::Tap(*sheet.m_first.GetDlgItem(IDC_TEXT)); },
+                                 [&] {
+                                     TypeKeys({VK_END, '7', VK_RETURN, '8'});
+                                 },
+                                 [&] { TapOk(sheet); }}));
     EXPECT_EQ(L"P178", sheet.m_first.m_strText);
 }
 

@@ -1,7 +1,11 @@
 // The highlighted rows of a list view.
-#include "support/Pixels.h"
+#include "support/TestApp.h"
+#include "support/Colors.h"
+#include "testkit/Picture.h"
 
 #include "controls/SelectListCtrl.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -34,13 +38,13 @@ struct SelectList : testing::Test {
         return rect;
     }
 
-    fx::Frame m_frame;
+    Frame m_frame;
 };
 
 TEST_F(SelectList, MarkedRowIsBlackOnCyanWithAllItsColumns) {
     MarkingList list;
     Fill(list);
-    const auto image = fx::Image::Of(list);
+    const auto image = Picture::Of(list);
     for (int nItem = 0; nItem < ROWS; ++nItem) {
         for (const int nColumn : {0, 1}) {
             const CRect cell = Cell(list, nItem, nColumn);

@@ -1,14 +1,15 @@
 #include "controls/nDialog.h"
 
-#include "support/Pixels.h"
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Picture.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
+
+using namespace testkit;
 
 namespace {
-
-using fx::Screen;
-using fx::WhileOpen;
 
 constexpr int IDC_TEXT = 100, IDC_EDIT = 101;
 constexpr COLORREF YELLOW = RGB(255, 255, 160);
@@ -17,7 +18,7 @@ constexpr COLORREF YELLOW = RGB(255, 255, 160);
 struct Dialog : CnDialog {
     explicit Dialog(DWORD dwOption, CWnd* pOwner = nullptr) : CnDialog(0, pOwner) {
         constexpr DWORD STYLE = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-        m_template = fx::DialogTemplate(60, 40, STYLE, L"題名");
+        m_template = DialogTemplate(60, 40, STYLE, L"題名");
         m_template.Add(WC_STATIC, L"M", IDC_TEXT, SS_LEFT, 2, 2, 20, 10);
         m_template.Add(WC_EDIT, L"", IDC_EDIT, WS_TABSTOP, 2, 14, 40, 10);
         m_template.Add(WC_BUTTON, L"OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 2, 26, 30, 12);
@@ -25,12 +26,12 @@ struct Dialog : CnDialog {
         SetOption(dwOption);
     }
 
-    CRect Rect() const { return fx::RectOf(m_hWnd); }
+    CRect Rect() const { return RectOf(m_hWnd); }
     bool HasOkButton() const { return (GetExStyle() & WS_EX_CAPTIONOKBTN) != 0; }
     HWND Bar() const { return m_pWndEmptyCB != nullptr ? m_pWndEmptyCB->m_hWnd : nullptr; }
 
 private:
-    fx::DialogTemplate m_template;
+    DialogTemplate m_template;
 };
 
 // --- What the option word decides --------------------------------------------------------
@@ -66,7 +67,7 @@ TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
             CRect client;
             dlg.GetClientRect(client);
             EXPECT_EQ(CRect(0, 0, Screen().right, Screen().bottom - 26), client);
-            EXPECT_EQ(CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom), fx::RectOf(dlg.Bar()));
+            EXPECT_EQ(CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom), RectOf(dlg.Bar()));
             const bool bLarge = LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
             EXPECT_EQ(dwOption != 0, bLarge);
             EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
@@ -93,11 +94,11 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
                                              {dwSwallow, VK_ESCAPE, 77}};
     for (const auto& [option, key, result] : rows) {
         Dialog dlg(CnDialog::OptionPopup | option);
-        const auto type = [&] { pen::TypeKeys({key}); };
+        const auto type = [&] { TypeKeys({key}); };
         int nWaited = 0;
         const auto wait = [&] { return ++nWaited == 10; };
         const auto end = [&] { dlg.EndDialog(77); };
-        EXPECT_EQ(result, result == 77 ? fx::Play(dlg, {type, wait, end}) : fx::Play(dlg, {type}))
+        EXPECT_EQ(result, result == 77 ? Play(dlg, {type, wait, end}) : Play(dlg, {type}))
             << option << ' ' << key;
     }
 }
@@ -114,7 +115,7 @@ TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
     };
     Asking dlg(CnDialog::OptionPopup);
     const auto close = [&] { dlg.PostMessage(WM_CLOSE); };
-    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {close, [&] { return dlg.m_nAsked == 1; }, close}));
+    EXPECT_EQ(IDCANCEL, Play(dlg, {close, [&] { return dlg.m_nAsked == 1; }, close}));
     EXPECT_EQ(2, dlg.m_nAsked);
 }
 
@@ -151,7 +152,7 @@ void DragBy(Dialog& dlg, CSize offset) {
 }
 
 TEST(nDialog, DragKeepsTheFrameInReach) {
-    fx::Frame owner(CSize(200, 200)); // its coordinates have no part in it
+    Frame owner(CSize(200, 200)); // its coordinates have no part in it
     const CSize size(140, 100);
     constexpr DWORD DRAG = CnDialog::OptionDrag;
     const Rows<const char*, DWORD, CPoint, CPoint, CPoint> rows = {
@@ -190,7 +191,7 @@ protected:
 /// on its way, no window does.
 bool EdgeIsBlank() {
     CWindowDC screen(nullptr);
-    const fx::Image image(screen, CSize(18, Screen().bottom));
+    const Picture image(screen, CSize(18, Screen().bottom));
     return image.IsAll(image.Rect(), ::GetSysColor(COLOR_WINDOW));
 }
 
@@ -208,7 +209,7 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
                 {"cancelled", [](Dialog& dlg) { dlg.SendMessage(WM_CANCELMODE); }, {0, 0}},
                 {"another dialog", openAnother, {0, 0}}};
     const CPoint press = PlacedDialog::PLACE.CenterPoint();
-    fx::Frame background; // the desktop draws itself in its own time
+    Frame background; // the desktop draws itself in its own time
     background.MoveWindow(Screen());
     bool bSeen = false; // in one row is enough: the screen may be drawn over at any time
     for (const auto& row : rows) {
@@ -230,7 +231,7 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
             EXPECT_TRUE(EdgeIsBlank()) << row.what;
             dlg.EndDialog(IDOK);
         };
-        fx::Play(dlg, {EdgeIsBlank, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); }, lift, look});
+        Play(dlg, {EdgeIsBlank, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); }, lift, look});
     }
     EXPECT_TRUE(bSeen);
 }
@@ -247,7 +248,7 @@ TEST(nDialog, MoveWithoutContactIsNotForTheFrame) {
         dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(40, 50));
         EXPECT_EQ(home, dlg.Rect());
     };
-    fx::PlayAndEnd(dlg, {press, lift});
+    PlayAndEnd(dlg, {press, lift});
 }
 
 TEST(nDialog, LiftWithoutAPressGoesToTheStoredFrameIfThereIsOne) {

@@ -2,14 +2,17 @@
 
 #include "FillWatch.h"
 #include "LockedFolder.h"
-#include "support/ModalScript.h"
-#include "support/TestDrive.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/Drive.h"
+#include "testkit/TitleBar.h"
+
+using namespace testkit;
 
 namespace {
 
 constexpr int TREE = 1100;
-using fx::WhileOpen;
 using Paths = std::vector<CString>;
 
 struct Dialog : CBrowseFolderDlg {
@@ -45,7 +48,7 @@ struct Dialog : CBrowseFolderDlg {
 };
 
 /// The folders in the system's order, each before what is in it; links and locked ones are not entered.
-Paths Walk(const TestDrive& drive, const CString& strFolder = L"") {
+Paths Walk(const Drive& drive, const CString& strFolder = L"") {
     Paths paths;
     WIN32_FIND_DATA entry;
     const HANDLE hFind = ::FindFirstFile(drive.Long(strFolder + L"\\*"), &entry);
@@ -63,7 +66,7 @@ Paths Walk(const TestDrive& drive, const CString& strFolder = L"") {
 }
 
 TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
-    TestDrive drive;
+    Drive drive;
     for (const wchar_t* pszPath :
          {L"\\c", L"\\a", L"\\a\\A & B", L"\\a\\points.csv", L"\\境界　点", L"\\境界　点\\ｶﾞ", L"\\𠮷野",
           L"\\𠮷野\\か\x3099",                    // a letter of two units, a combining mark
@@ -111,10 +114,10 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
 }
 
 TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
-    TestDrive drive;
+    Drive drive;
     for (const wchar_t* pszPath : {L"\\a", L"\\data", L"\\data\\Site 1"})
         drive.MakeFolder(pszPath);
-    drive.MakeMany(TestDrive::Folders, L"\\data\\Site 1", "%02.0f", 40); // more than the window shows
+    drive.MakeMany(Drive::Folders, L"\\data\\Site 1", "%02.0f", 40); // more than the window shows
     const Rows<const wchar_t*, bool> rows = {{L"\\data", true},
                                              {L"\\data\\Site 1\\39", true},
                                              {L"\\data\\Site 1\\", false},
@@ -128,28 +131,28 @@ TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
             const CTreeCtrl& tree = dlg.Tree();
             EXPECT_EQ(&tree, CWnd::GetFocus());
             const HTREEITEM hSelected = tree.GetSelectedItem();
-            ASSERT_EQ(found, hSelected != nullptr) << fx::Utf8(folder);
+            ASSERT_EQ(found, hSelected != nullptr) << Utf8(folder);
             if (!found)
                 return;
             EXPECT_EQ(folder, dlg.PathOf(hSelected));
             CRect item, client;
             tree.GetClientRect(client);
             ASSERT_TRUE(tree.GetItemRect(hSelected, item, FALSE)) << "its parents are closed";
-            EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << fx::Utf8(folder);
+            EXPECT_TRUE(item.top >= 0 && item.bottom <= client.bottom) << Utf8(folder);
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {look, [&] { fx::TapOk(dlg); }}));
+        EXPECT_EQ(IDOK, Play(dlg, {look, [&] { TapOk(dlg); }}));
         EXPECT_EQ(CString(folder), dlg.GetSelectedFolder()) << "taken over as it was";
     }
 }
 
 TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFolder(L"\\data\\site");
-    const Rows<const char*, bool, void (*)(const CWnd&), INT_PTR, const wchar_t*> rows = {
-        {"folder, OK", false, fx::TapOk, IDOK, L"\\data"},
-        {"root, OK", true, fx::TapOk, IDOK, L"\\"},
-        {"folder, close", false, fx::TapClose, IDCANCEL, L"\\data\\site"},
+    const Rows<const char*, bool, void (*)(HWND, const Place&), INT_PTR, const wchar_t*> rows = {
+        {"folder, OK", false, TapOk, IDOK, L"\\data"},
+        {"root, OK", true, TapOk, IDOK, L"\\"},
+        {"folder, close", false, TapClose, IDCANCEL, L"\\data\\site"},
     };
     for (const auto& [what, tapRoot, end, result, folder] : rows) {
         Dialog dlg(L"\\data\\site");
@@ -157,15 +160,15 @@ TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
             const HTREEITEM hRoot = dlg.Tree().GetRootItem();
             dlg.TapItem(tapRoot ? hRoot : dlg.Tree().GetChildItem(hRoot));
         };
-        EXPECT_EQ(result, fx::Play(dlg, {tap, [&] { end(dlg); }})) << what;
+        EXPECT_EQ(result, Play(dlg, {tap, [&] { end(dlg, {}); }})) << what;
         EXPECT_EQ(folder, dlg.GetSelectedFolder()) << what;
     }
 }
 
 TEST(BrowseFolderDlg, FoldersComeInOneGo) {
     constexpr int FOLDERS = 200;
-    TestDrive drive;
-    drive.MakeMany(TestDrive::Folders, L"", "%03.0f", FOLDERS);
+    Drive drive;
+    drive.MakeMany(Drive::Folders, L"", "%03.0f", FOLDERS);
     FillWatch watch(WC_TREEVIEW);
     WhileOpen(CBrowseFolderDlg(L"\\150"), [&] {
         EXPECT_EQ(FOLDERS + 1, watch.nInserted);
@@ -175,7 +178,7 @@ TEST(BrowseFolderDlg, FoldersComeInOneGo) {
 }
 
 TEST(BrowseFolderDlg, DerivedDialogsBuildSegmentsAndFreeThemEarly) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\a");
     drive.MakeFolder(L"\\a\\b");
     Dialog dlg(L"\\a");
@@ -196,14 +199,14 @@ TEST(BrowseFolderDlg, DerivedDialogsBuildSegmentsAndFreeThemEarly) {
         dlg.ResetMemory();
         EXPECT_EQ(0U, tree.GetItemData(tree.GetRootItem()));
         EXPECT_EQ(nullptr, tree.GetImageList(TVSIL_NORMAL)) << "images that exist no more";
-        fx::TapOk(dlg);
+        TapOk(dlg);
     };
-    EXPECT_EQ(IDOK, fx::Play(dlg, {use}));
+    EXPECT_EQ(IDOK, Play(dlg, {use}));
     EXPECT_EQ(L"\\a", dlg.GetSelectedFolder()) << "OK without the paths";
 }
 
 TEST(BrowseFolderDlg, CardMayBeTakenOutWhileItsFoldersAreShown) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\card");
     drive.MakeFolder(L"\\card\\site");
     Dialog dlg(L"\\card\\site");
@@ -211,7 +214,7 @@ TEST(BrowseFolderDlg, CardMayBeTakenOutWhileItsFoldersAreShown) {
         drive.Remove();
         dlg.TapItem(dlg.Tree().GetChildItem(dlg.Tree().GetRootItem()));
     };
-    EXPECT_EQ(IDOK, fx::Play(dlg, {pull, [&] { fx::TapOk(dlg); }}));
+    EXPECT_EQ(IDOK, Play(dlg, {pull, [&] { TapOk(dlg); }}));
     EXPECT_EQ(L"\\card", dlg.GetSelectedFolder());
     WhileOpen(dlg, [&] {
         EXPECT_EQ(1U, dlg.Tree().GetCount()) << "the root alone";

@@ -1,7 +1,11 @@
 #include "dialogs/ButtonMenuDlg.h"
 
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -16,15 +20,15 @@ struct Menu {
     }
     CWnd* Button(int nIndex) { return m_dlg.GetDlgItem(FIRST_BUTTON + nIndex); }
     /// Taps a button; one of a tall menu is scrolled onto the screen, as the dialog itself does not.
-    fx::Step Tap(int nIndex) {
+    Step Tap(int nIndex) {
         return [this, nIndex] {
             if (m_ids.GetSize() > 8)
                 m_dlg.SetWindowPos(nullptr, 0, -nIndex * BUTTON_HEIGHT, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
             pen::Tap(*Button(nIndex));
         };
     }
-    fx::Step Close() {
-        return [this] { pen::Tap(fx::FindTitleButton(m_dlg, HTCLOSE)); };
+    Step Close() {
+        return [this] { pen::Tap(FindTitleButton(m_dlg, HTCLOSE)); };
     }
 
     CUIntArray m_ids;
@@ -36,7 +40,7 @@ TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
     for (const int nEntries : {0, 3, 25}) {
         Menu menu(nEntries);
         const auto look = [&] {
-            EXPECT_EQ(L"インフォメーション", fx::TextOf(menu.m_dlg));
+            EXPECT_EQ(L"インフォメーション", TextOf(menu.m_dlg));
             CRect client;
             menu.m_dlg.GetClientRect(client);
             CRect units(0, 0, 133, 0);
@@ -44,32 +48,32 @@ TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
             EXPECT_EQ(CRect(0, 0, units.right, nEntries * BUTTON_HEIGHT), client);
             for (int i = 0; i < nEntries; ++i) {
                 ASSERT_NE(nullptr, menu.Button(i)) << i;
-                CRect rect = fx::RectOf(*menu.Button(i));
+                CRect rect = RectOf(*menu.Button(i));
                 menu.m_dlg.ScreenToClient(rect);
                 EXPECT_EQ(CRect(CPoint(0, i * BUTTON_HEIGHT), CSize(client.Width(), BUTTON_HEIGHT)), rect);
-                EXPECT_EQ(texts[i % 3], fx::TextOf(*menu.Button(i)));
+                EXPECT_EQ(texts[i % 3], TextOf(*menu.Button(i)));
                 EXPECT_TRUE(menu.Button(i)->IsWindowVisible());
             }
             EXPECT_EQ(nullptr, menu.Button(nEntries));
         };
-        EXPECT_EQ(IDCANCEL, fx::Play(menu.m_dlg, {look, menu.Close()})) << nEntries;
+        EXPECT_EQ(IDCANCEL, Play(menu.m_dlg, {look, menu.Close()})) << nEntries;
         EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
     }
 }
 
 TEST(ButtonMenuDlg, TappingAnEntryEndsItWithTheIndexAndANewRunForgetsIt) {
-    fx::Frame owner(CSize(240, 320));
+    Frame owner(CSize(240, 320));
     Menu menu(3, &owner);
     for (const int nEntry : {2, 0}) {
-        EXPECT_EQ(IDOK, fx::Play(menu.m_dlg, {menu.Tap(nEntry)}));
+        EXPECT_EQ(IDOK, Play(menu.m_dlg, {menu.Tap(nEntry)}));
         EXPECT_EQ(nEntry, menu.m_dlg.GetMenuIndex());
     }
     menu.m_ids.RemoveAt(0); // the next run shows what the array holds then
     const auto look = [&] {
-        EXPECT_EQ(L"ファイル名を付けて保存", fx::TextOf(*menu.Button(0)));
+        EXPECT_EQ(L"ファイル名を付けて保存", TextOf(*menu.Button(0)));
         EXPECT_EQ(nullptr, menu.Button(2));
     };
-    EXPECT_EQ(IDCANCEL, fx::Play(menu.m_dlg, {look, menu.Close()}));
+    EXPECT_EQ(IDCANCEL, Play(menu.m_dlg, {look, menu.Close()}));
     EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
 }
 
@@ -79,7 +83,7 @@ TEST(ButtonMenuDlg, TheLastEntryThatCanBeChosenIsTheTwentyFirst) {
         EXPECT_NE(nullptr, menu.Button(24));
         EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
     };
-    EXPECT_EQ(IDOK, fx::Play(menu.m_dlg, {menu.Tap(21), stillOpen, menu.Tap(20)}));
+    EXPECT_EQ(IDOK, Play(menu.m_dlg, {menu.Tap(21), stillOpen, menu.Tap(20)}));
     EXPECT_EQ(20, menu.m_dlg.GetMenuIndex());
 }
 
@@ -92,7 +96,7 @@ TEST(ButtonMenuDlg, EnterChoosesTheButtonWithTheFocusAndNothingElse) {
         Menu menu(nEntries);
         const auto enter = [&] {
             ::SetFocus(nFocus == NONE ? nullptr : menu.Button(nFocus)->m_hWnd);
-            pen::TypeKeys({VK_RETURN});
+            TypeKeys({VK_RETURN});
         };
         // Any way to say OK, and then cancel, which comes too late if an entry was chosen.
         const auto ok = [&] {
@@ -101,7 +105,7 @@ TEST(ButtonMenuDlg, EnterChoosesTheButtonWithTheFocusAndNothingElse) {
         };
         const bool bChosen = nChosen != NONE;
         EXPECT_EQ(bChosen ? IDOK : IDCANCEL,
-                  bChosen ? fx::Play(menu.m_dlg, {enter}) : fx::Play(menu.m_dlg, {enter, ok}))
+                  bChosen ? Play(menu.m_dlg, {enter}) : Play(menu.m_dlg, {enter, ok}))
             << nEntries << ' ' << nFocus;
         EXPECT_EQ(nChosen, menu.m_dlg.GetMenuIndex());
     }

@@ -6,26 +6,27 @@
 
 #include "Tesuvo.h"
 
+using namespace testkit;
+
 namespace {
 
 using namespace file_select;
-using fx::WhileOpen;
 
 TEST(FileSelectDlg, TitleTellsTheMode) {
-    TestDrive drive;
+    Drive drive;
     const std::pair<int, const wchar_t*> rows[] = {{0, L"ファイルを開く"},
                                                    {1, L"ファイル名を付けて保存"},
                                                    {2, L"新規作成"},
                                                    {3, L"ファイルの選択"},
                                                    {-1, L"ファイルの選択"}};
     for (const auto& [mode, title] : rows)
-        WhileOpen(Dialog(mode), [&title = title] { EXPECT_EQ(title, fx::TextOf(*CWnd::GetActiveWindow())); });
+        WhileOpen(Dialog(mode), [&title = title] { EXPECT_EQ(title, TextOf(*CWnd::GetActiveWindow())); });
     WhileOpen(CFileSelectDlg(nullptr),
-              [] { EXPECT_EQ(L"ファイルを開く", fx::TextOf(*CWnd::GetActiveWindow())); });
+              [] { EXPECT_EQ(L"ファイルを開く", TextOf(*CWnd::GetActiveWindow())); });
 }
 
 TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFolder(L"\\data\\d.csv");
     for (const wchar_t* pszName : {L"a.csv", L"UPPER.CSV", L"b.txt", L"c", L"e.c", L"f.csvx", L"g.v.csv",
@@ -50,7 +51,7 @@ TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
         WhileOpen(dlg, [&] {
             Texts names = dlg.Names();
             std::sort(names.begin(), names.end());
-            EXPECT_EQ(wanted, names) << fx::Utf8(subName);
+            EXPECT_EQ(wanted, names) << Utf8(subName);
             EXPECT_EQ(subName, Text(dlg, EXTENSION));
             EXPECT_EQ(L"\\data", Text(dlg, FOLDER));
         });
@@ -58,7 +59,7 @@ TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
 }
 
 TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwnAndSoIsTheOrder) {
-    TestDrive drive;
+    Drive drive;
     struct Row {
         const wchar_t* name;
         SYSTEMTIME local; ///< Year, month, day of the week, day, hour, minute.
@@ -110,7 +111,7 @@ TEST(FileSelectDlg, TimesAndSizesAreTheSystemsOwnAndSoIsTheOrder) {
 }
 
 TEST(FileSelectDlg, FolderPathsReachTheirFilesAndOthersAreEmpty) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFile(L"\\top.csv");
     drive.MakeFolder(L"\\locked");
     drive.MakeFile(L"\\locked\\top.csv");
@@ -134,18 +135,18 @@ TEST(FileSelectDlg, FolderPathsReachTheirFilesAndOthersAreEmpty) {
     for (const auto& [strFolder, path] : rows) {
         Dialog dlg(CFileSelectDlg::ModeOpen, strFolder);
         const auto tap = [&] {
-            EXPECT_EQ(path.IsEmpty() ? Texts() : Texts{L"top.csv"}, dlg.Names()) << fx::Utf8(strFolder);
+            EXPECT_EQ(path.IsEmpty() ? Texts() : Texts{L"top.csv"}, dlg.Names()) << Utf8(strFolder);
             EXPECT_EQ(strFolder, Text(dlg, FOLDER));
             if (!path.IsEmpty())
                 dlg.TapFile(L"top.csv");
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {tap, [&] { fx::TapOk(dlg); }}));
+        EXPECT_EQ(IDOK, Play(dlg, {tap, [&] { TapOk(dlg); }}));
         EXPECT_EQ(path, dlg.GetFilePath());
     }
 }
 
 TEST(FileSelectDlg, OpenDialogFollowsTheSetters) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\data");
     for (const wchar_t* pszPath : {L"\\data\\site.csv", L"\\b.csv", L"\\b.txt"})
         drive.MakeFile(pszPath);
@@ -169,12 +170,12 @@ TEST(FileSelectDlg, OpenDialogFollowsTheSetters) {
 }
 
 TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\data");
     drive.MakeFile(L"\\data\\in.csv");
     drive.MakeFile(L"\\top.csv");
-    const Rows<void (*)(const CWnd&), const wchar_t*, Texts> rows = {{fx::TapOk, L"\\data", {L"in.csv"}},
-                                                                     {fx::TapClose, L"\\", {L"top.csv"}}};
+    const Rows<void (*)(HWND, const Place&), const wchar_t*, Texts> rows = {{TapOk, L"\\data", {L"in.csv"}},
+                                                                            {TapClose, L"\\", {L"top.csv"}}};
     for (const auto& [end, folder, names] : rows) {
         Dialog dlg;
         const auto browse = [&] {
@@ -195,17 +196,17 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
             EXPECT_EQ(L"typed", Text(dlg, NAME));
             auto* const pButton = static_cast<CIconButton*>(dlg.GetDlgItem(FOLDER_BUTTON));
             EXPECT_EQ(TVGetCommonIcon(2), pButton->SetIcon(nullptr)) << "a folder";
-            fx::TapOk(dlg);
+            TapOk(dlg);
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {browse, pick, [&] { end(*CWnd::GetActiveWindow()); }, look}));
+        EXPECT_EQ(IDOK, Play(dlg, {browse, pick, [&] { end(::GetActiveWindow(), {}); }, look}));
         EXPECT_EQ(folder, dlg.GetFileFolder());
     }
 }
 
 TEST(FileSelectDlg, FilesComeInOneGo) {
     constexpr int FILES = 200;
-    TestDrive drive;
-    drive.MakeMany(TestDrive::Files, L"", "%03.0f.csv", FILES);
+    Drive drive;
+    drive.MakeMany(Drive::Files, L"", "%03.0f.csv", FILES);
     Dialog dlg;
     FillWatch watch(WC_LISTVIEW);
     const auto expectOneGo = [&] {
@@ -215,11 +216,11 @@ TEST(FileSelectDlg, FilesComeInOneGo) {
         watch.nInserted = watch.nDrawings = 0;
         dlg.SetFileFolder(L"\\");
     };
-    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {expectOneGo, expectOneGo, [&] { dlg.EndDialog(IDCANCEL); }}));
+    EXPECT_EQ(IDCANCEL, Play(dlg, {expectOneGo, expectOneGo, [&] { dlg.EndDialog(IDCANCEL); }}));
 }
 
 TEST(FileSelectDlg, CardMayBeTakenOutWhileItsFilesAreShown) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFile(L"\\a.csv");
     Dialog dlg(CFileSelectDlg::ModeNew);
     const auto pull = [&] {
@@ -230,9 +231,9 @@ TEST(FileSelectDlg, CardMayBeTakenOutWhileItsFilesAreShown) {
         EXPECT_EQ(L"a.csv", Text(dlg, NAME));
         dlg.SetFileFolder(L"\\");
         EXPECT_EQ(Texts(), dlg.Names());
-        fx::TapOk(dlg);
+        TapOk(dlg);
     };
-    EXPECT_EQ(IDOK, fx::Play(dlg, {pull, look}));
+    EXPECT_EQ(IDOK, Play(dlg, {pull, look}));
     EXPECT_EQ(L"\\a.csv", dlg.GetFilePath());
 }
 

@@ -3,15 +3,16 @@
 
 #include "dialogs/detail/FileName.h"
 
+using namespace testkit;
+
 using namespace fieldkit::detail;
 
 namespace {
 
 using namespace file_select;
-using fx::WhileOpen;
 
 TEST(FileSelectNames, TypedNameGetsTheExtensionUnlessItHasOne) {
-    TestDrive drive;
+    Drive drive;
     const std::pair<CString, CString> rows[] = {
         {L"report", L"report.csv"},
         {L"report...", L"report.csv"},
@@ -30,12 +31,12 @@ TEST(FileSelectNames, TypedNameGetsTheExtensionUnlessItHasOne) {
             EXPECT_EQ(completed, Text(dlg, NAME));
         }
     });
-    EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(L"report.")}));
+    EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(L"report.")}));
     EXPECT_EQ(L"\\report.csv", dlg.GetFilePath());
 }
 
 TEST(FileSelectNames, ProposalIsTheFirstNumberThatIsFree) {
-    TestDrive drive;
+    Drive drive;
     for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\data2.csv", L"\\P009.csv", L"\\x.txt"})
         drive.MakeFile(pszName);
     drive.MakeFolder(L"\\folder.csv"); // is not a file
@@ -57,14 +58,14 @@ TEST(FileSelectNames, ProposalIsTheFirstNumberThatIsFree) {
     const auto close = [&] {
         EXPECT_EQ(L"data3.csv", Text(dlg, NAME));
         dlg.SetDlgItemText(NAME, L"other");
-        fx::TapClose(dlg);
+        TapClose(dlg);
     };
-    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {close}));
+    EXPECT_EQ(IDCANCEL, Play(dlg, {close}));
     EXPECT_EQ(L"\\data3.csv", dlg.GetFilePath()) << "what is typed counts after OK only";
 }
 
 TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
-    TestDrive drive;
+    Drive drive;
     for (const wchar_t* pszName : {L"\\data.csv", L"\\data1.csv", L"\\abc.c", L"\\a.c"})
         drive.MakeFile(pszName);
     const Rows<int, const wchar_t*, const wchar_t*> rows = {
@@ -78,20 +79,20 @@ TEST(FileSelectNames, TapTakesTheNameAndModeNewTheNextFreeOne) {
         Dialog dlg(mode);
         const auto tapBeside = [&] {
             EXPECT_EQ(name, Text(dlg, NAME));
-            const CRect rect = fx::RectOf(dlg.List());
+            const CRect rect = RectOf(dlg.List());
             pen::Tap(CPoint(rect.left + 20, rect.bottom - 30)); // below the last file
         };
         const auto look = [&] {
             EXPECT_EQ(name, Text(dlg, NAME)) << "a tap beside the files changes nothing";
             dlg.EndDialog(IDCANCEL);
         };
-        fx::Play(dlg, {[&] { dlg.TapFile(tapped); }, tapBeside, look});
+        Play(dlg, {[&] { dlg.TapFile(tapped); }, tapBeside, look});
     }
 }
 
 /// What the file system takes for the same file must not get past the question.
 TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
-    TestDrive drive;
+    Drive drive;
     CString strDeep = L"\\deep";
     drive.MakeFolder(strDeep);
     for (int i = 0; i < 6; ++i)
@@ -118,10 +119,10 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
         };
         const auto again = [&] {
             EXPECT_EQ(&dlg, CWnd::GetActiveWindow()) << "No leaves the dialog open";
-            fx::TapOk(dlg);
+            TapOk(dlg);
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed), look, Answer(IDNO), again, Answer(IDYES)}))
-            << fx::Utf8(typed);
+        EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed), look, Answer(IDNO), again, Answer(IDYES)}))
+            << Utf8(typed);
     }
     ::SetFileAttributes(L"\\data\\old.csv", FILE_ATTRIBUTE_NORMAL);
     Dialog dlg(CFileSelectDlg::ModeSave, L"\\data");
@@ -134,7 +135,7 @@ TEST(FileSelectNames, ExistingFileIsGivenAwayWithYesOnlyHoweverItIsWritten) {
         EXPECT_EQ(&dlg, CWnd::GetActiveWindow()) << "no other question";
         ::PostMessage(CWnd::GetActiveWindow()->m_hWnd, WM_COMMAND, IDCANCEL, 0);
     };
-    EXPECT_EQ(IDCANCEL, fx::Play(dlg, {twice, Answer(IDNO), close}));
+    EXPECT_EQ(IDCANCEL, Play(dlg, {twice, Answer(IDNO), close}));
 }
 
 TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
@@ -152,9 +153,9 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
     };
     for (const auto& [fault, names] : faults)
         for (const wchar_t* const pszName : names)
-            EXPECT_EQ(fault, FaultOf(pszName)) << fx::Utf8(pszName);
+            EXPECT_EQ(fault, FaultOf(pszName)) << Utf8(pszName);
 
-    TestDrive drive;
+    Drive drive;
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
         {L"..\\secret.csv", L"次の文字"}, {L"a.csv ", L"終わり"}, {L"nul", L"装置"}};
     for (const auto& [typed, reason] : rows) {
@@ -163,28 +164,28 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
         const auto typeAgain = [&] {
             EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()) << "to be typed again";
         };
-        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
+        EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
         EXPECT_EQ(L"\\good.csv", dlg.GetFilePath());
     }
 }
 
 TEST(FileSelectNames, DialogMayBeDestroyedWhileItsMessageIsOpen) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFile(L"\\old.csv");
     for (const wchar_t* typed : {L"a?b", L"old"}) {
         Dialog dlg(CFileSelectDlg::ModeSave);
-        EXPECT_EQ(-1, fx::Play(dlg, {dlg.Enter(typed), [&] { dlg.DestroyWindow(); }})) << fx::Utf8(typed);
+        EXPECT_EQ(-1, Play(dlg, {dlg.Enter(typed), [&] { dlg.DestroyWindow(); }})) << Utf8(typed);
     }
 }
 
 TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFile(L"\\old.csv");
     const Rows<int, const wchar_t*, const wchar_t*> rows = {
         {0, L"old.csv", L"\\old.csv"}, {0, L"new", L"\\new"}, {1, L"", L""}, {3, L"old.csv", L"\\old.csv"}};
     for (const auto& [mode, typed, path] : rows) {
         Dialog dlg(mode);
-        EXPECT_EQ(IDOK, fx::Play(dlg, {dlg.Enter(typed)}));
+        EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed)}));
         EXPECT_EQ(path, dlg.GetFilePath());
     }
 }

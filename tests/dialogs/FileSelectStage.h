@@ -3,9 +3,11 @@
 
 #include "dialogs/FileSelectDlg.h"
 
-#include "support/ModalScript.h"
-#include "support/TestDrive.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/Drive.h"
+#include "testkit/TitleBar.h"
 
 namespace file_select {
 
@@ -38,24 +40,24 @@ struct Dialog : CFileSelectDlg {
     void TapFile(LPCTSTR pszName) {
         const Texts names = Names();
         const auto it = std::find(names.begin(), names.end(), pszName);
-        ASSERT_NE(it, names.end()) << fx::Utf8(pszName);
+        ASSERT_NE(it, names.end()) << testkit::Utf8(pszName);
         CRect rect;
         List().GetItemRect(static_cast<int>(it - names.begin()), rect, LVIR_LABEL);
         List().ClientToScreen(rect);
-        pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
+        testkit::pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
     }
     /// A step that puts a name into the field and taps OK.
-    fx::Step Enter(LPCTSTR pszName) {
+    testkit::Step Enter(LPCTSTR pszName) {
         return [this, pszName] {
             SetDlgItemText(NAME, pszName);
-            fx::TapOk(*this);
+            testkit::TapOk(*this);
         };
     }
 };
 
 /// A step that taps a button of the message in front.
-inline fx::Step Answer(int nButton) {
-    return [nButton] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nButton)); };
+inline testkit::Step Answer(int nButton) {
+    return [nButton] { testkit::pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nButton)); };
 }
 
 inline CString MessageText() {

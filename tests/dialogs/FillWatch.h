@@ -1,7 +1,7 @@
 // Watches how a list or a tree is filled.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <set>
 

@@ -2,11 +2,13 @@
 #include "dialogs/InputDlg.h"
 #include "dialogs/ResultDlg.h"
 
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+
+using namespace testkit;
 
 namespace {
-
-using fx::WhileOpen;
 
 constexpr int INPUT_MESSAGE = 1065, VALUE = 1066, LINES = 1077, RESULT_MESSAGE = 1078;
 constexpr int IDS_ERROR_CAPTION = 1500; // any text of the library serves as message or caption
@@ -32,13 +34,13 @@ TEST(InputDlg, TextsComeAsStringsOrFromResources) {
                 {noId, L"文", L"題"}};
     for (const auto& row : rows)
         WhileOpen(row.dlg, [&] {
-            EXPECT_EQ(row.caption, fx::TextOf(row.dlg));
+            EXPECT_EQ(row.caption, TextOf(row.dlg));
             EXPECT_EQ(row.message, Text(row.dlg, INPUT_MESSAGE));
         });
 }
 
 TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {
-    fx::Frame owner(CSize(100, 200));
+    Frame owner(CSize(100, 200));
     const Rows<int, CString, CString> rows = {{IDOK, L"abc", L"abc79"},
                                               {IDCANCEL, L"abc", L"abc"},
                                               {IDOK, CString(L'x', 200), CString(L'x', 200) + L"79"}};
@@ -48,12 +50,12 @@ TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {
         const auto look = [&] {
             EXPECT_EQ(before, Text(dlg, VALUE));
             EXPECT_EQ(dlg.GetDlgItem(VALUE), CWnd::GetFocus());
-            EXPECT_NEAR(fx::RectOf(owner).CenterPoint().y, fx::RectOf(dlg).CenterPoint().y, 1);
-            EXPECT_GE(fx::RectOf(dlg).left, 0) << "not beyond the screen";
+            EXPECT_NEAR(RectOf(owner).CenterPoint().y, RectOf(dlg).CenterPoint().y, 1);
+            EXPECT_GE(RectOf(dlg).left, 0) << "not beyond the screen";
         };
-        const auto type = [] { pen::TypeKeys({'7', '9'}); }; // behind the text, nothing is selected
+        const auto type = [] { TypeKeys({'7', '9'}); }; // behind the text, nothing is selected
         const auto tap = [&] { pen::Tap(*dlg.GetDlgItem(button)); };
-        EXPECT_EQ(button, fx::Play(dlg, {look, type, tap}));
+        EXPECT_EQ(button, Play(dlg, {look, type, tap}));
         EXPECT_EQ(after, dlg.GetString());
     }
 }
@@ -76,7 +78,7 @@ TEST(ResultDlg, ShowsItsTextsAndItsLinesInTheOrderGiven) {
                     pList->GetText(static_cast<int>(i), shown[i]);
                 EXPECT_EQ(lines, shown);
                 EXPECT_EQ(message, Text(dlg, RESULT_MESSAGE));
-                EXPECT_EQ(caption, fx::TextOf(dlg));
+                EXPECT_EQ(caption, TextOf(dlg));
             });
     }
 }

@@ -1,7 +1,7 @@
 // A folder into which nobody may look.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 /// Keeps everybody from listing a folder while it exists. A lock is in force for all users,
 /// where missing permissions would not stop an administrator.

@@ -1,9 +1,13 @@
 #include "dialogs/ResMsgBox.h"
 
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
 
 #include <thread>
+
+using namespace testkit;
 
 namespace {
 
@@ -31,17 +35,17 @@ Shown Look() {
     constexpr int TEXT_ID = 0xFFFF; // the system's, for the one static that is not an icon
     CWnd* const pBox = CWnd::GetActiveWindow();
     Shown shown;
-    shown.strCaption = fx::TextOf(*pBox);
+    shown.strCaption = TextOf(*pBox);
     shown.hOwner = ::GetWindow(pBox->m_hWnd, GW_OWNER);
     shown.nFocus = ::GetDlgCtrlID(::GetFocus());
     for (int nID = IDOK; nID <= IDNO; ++nID)
         if (::IsWindowVisible(::GetDlgItem(pBox->m_hWnd, nID)))
             shown.buttons.push_back(nID);
-    shown.bSeen = Holds(fx::Screen(), fx::RectOf(*pBox));
+    shown.bSeen = Holds(Screen(), RectOf(*pBox));
     for (CWnd* p = pBox->GetWindow(GW_CHILD); p != nullptr; p = p->GetWindow(GW_HWNDNEXT)) {
-        shown.bSeen = shown.bSeen && (!p->IsWindowVisible() || Holds(fx::RectOf(*pBox), fx::RectOf(*p)));
+        shown.bSeen = shown.bSeen && (!p->IsWindowVisible() || Holds(RectOf(*pBox), RectOf(*p)));
         if (static_cast<WORD>(p->GetDlgCtrlID()) == TEXT_ID && (p->GetStyle() & SS_TYPEMASK) != SS_ICON)
-            shown.strText = fx::TextOf(*p);
+            shown.strText = TextOf(*p);
     }
     return shown;
 }
@@ -54,7 +58,7 @@ Shown WhileOpen(Open open, int nButton) {
         shown = Look();
         pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nButton));
     };
-    EXPECT_EQ(nButton, fx::Play(open, {look}));
+    EXPECT_EQ(nButton, Play(open, {look}));
     return shown;
 }
 
@@ -83,23 +87,22 @@ TEST(ResMsgBox, EachKindHasItsTextCaptionAndButtons) {
         const Shown shown = WhileOpen(open, tap);
         EXPECT_EQ(strText, shown.strText);
         EXPECT_EQ(strCaption, shown.strCaption);
-        EXPECT_EQ(buttons, shown.buttons) << fx::Utf8(strCaption);
+        EXPECT_EQ(buttons, shown.buttons) << Utf8(strCaption);
     }
     EXPECT_EQ(IDNO, WhileOpen([&] { return box.MsgBox(ANY, ANY, MB_YESNO | MB_DEFBUTTON2); }, IDYES).nFocus)
         << "the other parts of the style are kept";
 }
 
 TEST(ResMsgBox, AQuestionThatIsClosedWithoutAnAnswerIsANo) {
-    for (const auto close : {+[] { pen::TypeKeys({VK_ESCAPE}); },
+    for (const auto close : {+[] { TypeKeys({VK_ESCAPE}); },
                              +[] { CWnd::GetActiveWindow()->PostMessage(WM_COMMAND, IDCANCEL); }})
         for (const auto& [type, answer] : {std::pair(MB_YESNO, IDNO), std::pair(MB_YESNOCANCEL, IDCANCEL)})
-            EXPECT_EQ(answer,
-                      fx::Play([&type = type] { return CResMsgBox().MsgBox(ANY, ANY, type); }, {close}));
+            EXPECT_EQ(answer, Play([&type = type] { return CResMsgBox().MsgBox(ANY, ANY, type); }, {close}));
 }
 
 TEST(ResMsgBox, TheActiveWindowOfTheThreadOwnsTheBox) {
     CResMsgBox box;
-    fx::Frame frame;
+    Frame frame;
     frame.SetActiveWindow();
     EXPECT_EQ(frame.m_hWnd, WhileOpen([&] { return box.WarningMsgBox(ANY); }, IDYES).hOwner);
     std::thread([&] {

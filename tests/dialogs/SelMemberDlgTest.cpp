@@ -1,9 +1,13 @@
 #include "dialogs/SelMemberDlg.h"
 
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
 
 #include <map>
+
+using namespace testkit;
 
 namespace {
 
@@ -65,7 +69,7 @@ struct Members {
 
     /// Runs the dialog with a step for each action, then a last one.
     INT_PTR Run(const CString& strActions, const std::function<void()>& last) {
-        fx::ModalScript script;
+        Script script;
         int nPlace = 0;
         for (CString str; !(str = strActions.Tokenize(L" ", nPlace)).IsEmpty();)
             script.Then([this, str] { Tap(str); });
@@ -116,11 +120,11 @@ TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
                       rightSelection] : rows) {
         Members members(strLeft, strRight);
         members.Run(strActions, [&] {
-            EXPECT_EQ(strLeftAfter, members.InBox(LEFT)) << fx::Utf8(strActions);
-            EXPECT_EQ(strRightAfter, members.InBox(RIGHT)) << fx::Utf8(strActions);
-            EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel()) << fx::Utf8(strActions);
+            EXPECT_EQ(strLeftAfter, members.InBox(LEFT)) << Utf8(strActions);
+            EXPECT_EQ(strRightAfter, members.InBox(RIGHT)) << Utf8(strActions);
+            EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel()) << Utf8(strActions);
             const int nSelected = members.Box(RIGHT).GetCurSel();
-            EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected) << fx::Utf8(strActions);
+            EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected) << Utf8(strActions);
             members.m_dlg.EndDialog(IDCANCEL);
         });
     }
@@ -145,15 +149,15 @@ TEST(SelMemberDlg, OkGivesTheListsBackAsTheyAreShownAndCancelTheVeryItemsGiven) 
 TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplateUnderAnyTitle) {
     for (const CString& strTitle : {CString(L"出力する項目"), CString()}) {
         CSelMemberDlg dlg(strTitle, nullptr);
-        fx::WhileOpen(dlg, [&] {
+        WhileOpen(dlg, [&] {
             CRect units(0, 0, 134, 99);
             dlg.MapDialogRect(units);
             CRect client;
             dlg.GetClientRect(client);
             EXPECT_EQ(units, client);
-            EXPECT_GE(fx::RectOf(dlg).left, 0);
-            EXPECT_LE(fx::RectOf(dlg).right, fx::Screen().right);
-            EXPECT_EQ(strTitle, fx::TextOf(dlg));
+            EXPECT_GE(RectOf(dlg).left, 0);
+            EXPECT_LE(RectOf(dlg).right, Screen().right);
+            EXPECT_EQ(strTitle, TextOf(dlg));
         });
     }
 }

@@ -1,8 +1,10 @@
 // The library's dialog templates, item by item, as tests/data/dialogs/templates.txt has them.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 #include "support/TestData.h"
 
 #include <sstream>
+
+using namespace testkit;
 
 namespace {
 
@@ -21,7 +23,7 @@ struct Reader {
             return ++m_p, '#' + std::to_string(Word());
         const CString str(reinterpret_cast<const wchar_t*>(m_p));
         m_p += str.GetLength() + 1;
-        return '"' + fx::Utf8(str) + '"';
+        return '"' + Utf8(str) + '"';
     }
     /// Left, top, width, height.
     std::string Rect() {

@@ -1,14 +1,14 @@
 // The user of a dialog that may fail to open.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <afxdlgs.h>
 
 #include <cwchar>
 #include <functional>
 
-namespace fault {
+namespace fx {
 
 /// While it exists, each dialog of the thread is used and then cancelled, as soon as it is there.
 /// Windows that are in the way, such as messages, are closed as well.
@@ -79,4 +79,4 @@ private:
     bool m_bBegun = false, m_bUsed = false;
 };
 
-} // namespace fault
+} // namespace fx

@@ -1,14 +1,17 @@
 #include "FaultLoop.h"
 
 #include "FaultTable.h"
-#include "support/Leftovers.h"
+#include "testkit/Leftovers.h"
 
 #include <csignal>
 #include <cstdio>
 #include <optional>
 #include <thread>
 
-namespace fault {
+using namespace testkit;
+using namespace testkit::fault;
+
+namespace fx {
 
 namespace {
 
@@ -20,7 +23,7 @@ std::string Story(const Injection& injection) {
     std::string story = std::to_string(g_nRunning) + ' ';
     story += injection.m_pszFailed != nullptr ? injection.m_pszFailed : "(nothing)";
     for (const void* const pCaller : injection.m_callers) {
-        const std::string place = Place(pCaller);
+        const std::string place = WhereIs(pCaller);
         if (place.starts_with("Fieldkit") || place.starts_with("Tesuvo"))
             story += "\n    " + place;
     }
@@ -42,7 +45,7 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* pInfo) {
     case EXCEPTION_INT_DIVIDE_BY_ZERO:
     case EXCEPTION_STACK_OVERFLOW:
     case STATUS_HEAP_CORRUPTION:
-        std::printf("at %s\n", Place(pInfo->ExceptionRecord->ExceptionAddress).c_str());
+        std::printf("at %s\n", WhereIs(pInfo->ExceptionRecord->ExceptionAddress).c_str());
         EndProcess("crash");
     default:
         return EXCEPTION_CONTINUE_SEARCH;
@@ -68,12 +71,10 @@ void WatchOver() {
 
 struct Loop {
     explicit Loop(const Scenario& scenario) : m_scenario(scenario) {
-        fx::g_app.m_pRecord = &m_messages;
         m_owner.SetForegroundWindow();
         for (int i = 0; i < 3; ++i) // fill caches
             m_nCalls = Run(0);
     }
-    ~Loop() { fx::g_app.m_pRecord = nullptr; }
 
     int Calls() const { return m_nCalls; }
 
@@ -83,20 +84,19 @@ struct Loop {
     /// @return false if the scenario has no call nFailing
     bool Try(int nFailing) {
         g_nRunning = nFailing;
-        const fx::Leftovers before = fx::Leftovers::Now();
+        const Leftovers before = Leftovers::Now();
         Run(nFailing);
         if (!m_failed)
             return false;
-        if (IsMore(before, fx::Leftovers::Now()))
+        if (IsMore(before, Leftovers::Now()))
             Confirm(nFailing);
         Run(0);
         return true;
     }
 
 private:
-    static bool IsMore(const fx::Leftovers& before, const fx::Leftovers& after) {
-        return after.nWindows > before.nWindows || after.nGdiObjects > before.nGdiObjects ||
-               after.nHandles > before.nHandles || after.nHeapBytes > before.nHeapBytes;
+    static bool IsMore(const Leftovers& before, const Leftovers& after) {
+        return !after.MoreThan(before).empty();
     }
 
     static int Failures() {
@@ -106,12 +106,12 @@ private:
     /// What has been found more may be in a cache; what is lost grows with each run.
     void Confirm(int nFailing) {
         constexpr int REPEATS = 4;
-        const fx::Leftovers before = fx::Leftovers::Now();
-        fx::Leftovers last = before;
+        const Leftovers before = Leftovers::Now();
+        Leftovers last = before;
         const int nFailures = Failures();
         for (int i = 0; i < REPEATS; ++i) {
             Run(nFailing);
-            const fx::Leftovers now = fx::Leftovers::Now();
+            const Leftovers now = Leftovers::Now();
             if (!IsMore(last, now) || Failures() > nFailures) // a message takes memory too
                 return;
             last = now;
@@ -122,10 +122,7 @@ private:
         if (!IsMore(before, last))
             return;
         ADD_FAILURE() << m_scenario.pszName << ' ' << m_strStory << "\nleaves after " << REPEATS
-                      << " runs: " << last.nWindows - before.nWindows << " windows, "
-                      << last.nGdiObjects - before.nGdiObjects << " drawing objects, "
-                      << last.nHandles - before.nHandles << " handles, "
-                      << static_cast<long long>(last.nHeapBytes - before.nHeapBytes) << " bytes";
+                      << " runs: " << last.MoreThan(before);
     }
 
     /// @return the number of calls that can fail
@@ -145,10 +142,10 @@ private:
             m_strEnd = "threw std::bad_alloc";
         }
         injection.Stop();
-        fx::Pump();
+        Pump();
         CWnd::DeleteTempMap();
-        m_messages.clear();
-        m_messages.shrink_to_fit();
+        m_recorder.m_prompts.clear();
+        m_recorder.m_prompts.shrink_to_fit();
         m_failed = injection.m_pszFailed != nullptr;
         m_strStory = Story(injection);
         EXPECT_TRUE(bDone || m_failed)
@@ -160,8 +157,8 @@ private:
     }
 
     const Scenario& m_scenario;
-    fx::Frame m_owner{CSize(220, 200)};
-    std::vector<CString> m_messages;
+    Frame m_owner{CSize(220, 200)};
+    MessageRecorder m_recorder;
     int m_nCalls = 0;
     bool m_failed = false;
     std::string m_strStory;
@@ -183,4 +180,4 @@ void RunLoop(const Scenario& scenario, LoopRange range) {
     std::printf("%s: %d calls, every %dth failed\n", scenario.pszName, loop.Calls(), nStride);
 }
 
-} // namespace fault
+} // namespace fx

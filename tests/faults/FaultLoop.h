@@ -3,7 +3,7 @@
 
 #include "Scenarios.h"
 
-namespace fault {
+namespace fx {
 
 /// Where a process of the loop begins, and how it tells the parent that it had to end.
 struct LoopRange {
@@ -20,4 +20,4 @@ constexpr int RUNS_IN_SUITE = 40;
 /// work afterwards. Failures are GoogleTest's; a crash or hang ends the process.
 void RunLoop(const Scenario& scenario, LoopRange range);
 
-} // namespace fault
+} // namespace fx

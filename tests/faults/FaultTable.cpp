@@ -1,5 +1,6 @@
 #include "FaultTable.h"
 
+#include "support/TestApp.h"
 #include "support/TestData.h"
 
 #include <commctrl.h>
@@ -14,7 +15,11 @@
 #include <sstream>
 #include <string>
 
-namespace fault {
+using namespace testkit;
+
+using namespace testkit::fault;
+
+namespace fx {
 
 namespace {
 
@@ -114,4 +119,4 @@ const std::set<std::string>& Infallible() {
     return names;
 }
 
-} // namespace fault
+} // namespace fx

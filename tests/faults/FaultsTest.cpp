@@ -2,7 +2,7 @@
 #include "FaultLoop.h"
 #include "FaultTable.h"
 #include "support/OwnProcess.h"
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -10,9 +10,11 @@
 #include <map>
 #include <memory>
 
+using namespace testkit;
+
 namespace {
 
-using fault::Scenario;
+using fx::Scenario;
 
 constexpr wchar_t RANGE[] = L"FIELDKIT_FAULT_RANGE"; ///< For the process that runs the loop.
 constexpr wchar_t ALL[] = L"FIELDKIT_FAULTS_ALL";    ///< Set by those who have the time.
@@ -31,20 +33,20 @@ std::string NameOf(const testing::TestParamInfo<Scenario>& info) {
 class DISABLED_FaultLoop : public testing::TestWithParam<Scenario> {};
 
 TEST_P(DISABLED_FaultLoop, Run) {
-    fault::LoopRange range = {};
+    fx::LoopRange range = {};
     ASSERT_EQ(std::swscanf(Variable(RANGE), L"%d %d", &range.nFirst, &range.nStride), 2);
     fx::g_app.SetRegistryKey(L"Fieldkit tests");
-    fault::RunLoop(GetParam(), range);
+    fx::RunLoop(GetParam(), range);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DISABLED_FaultLoop, testing::ValuesIn(fault::Scenarios()), NameOf);
+INSTANTIATE_TEST_SUITE_P(All, DISABLED_FaultLoop, testing::ValuesIn(fx::Scenarios()), NameOf);
 
 struct Faults : testing::TestWithParam<Scenario> {
     static void SetUpTestSuite() {
-        s_pDrive = std::make_unique<TestDrive>();
+        s_pDrive = std::make_unique<Drive>();
         s_pDrive->MakeFolder(L"\\faults");
-        s_pDrive->MakeMany(TestDrive::Files, L"\\faults", "P%02g.csv", 20);
-        s_pDrive->MakeMany(TestDrive::Folders, L"\\faults", "D%02g", 5);
+        s_pDrive->MakeMany(Drive::Files, L"\\faults", "P%02g.csv", 20);
+        s_pDrive->MakeMany(Drive::Folders, L"\\faults", "D%02g", 5);
     }
     static void TearDownTestSuite() { s_pDrive.reset(); }
 
@@ -59,7 +61,7 @@ struct Faults : testing::TestWithParam<Scenario> {
     }
 
 private:
-    static inline std::unique_ptr<TestDrive> s_pDrive;
+    static inline std::unique_ptr<Drive> s_pDrive;
 };
 
 TEST_P(Faults, LeaveNothingBehind) {
@@ -70,13 +72,13 @@ TEST_P(Faults, LeaveNothingBehind) {
     for (;;) {
         const DWORD dwExit = RunProcess(GetParam().pszName, nFirst, bAll ? 1 : 0);
         EXPECT_EQ(dwExit, 0U) << "see above";
-        if (dwExit <= fault::ENDED || dwExit >= 2 * fault::ENDED)
+        if (dwExit <= fx::ENDED || dwExit >= 2 * fx::ENDED)
             break; // done, or not even begun
-        nFirst = static_cast<int>(dwExit - fault::ENDED) + 1;
+        nFirst = static_cast<int>(dwExit - fx::ENDED) + 1;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Faults, testing::ValuesIn(fault::Scenarios()), NameOf);
+INSTANTIATE_TEST_SUITE_P(All, Faults, testing::ValuesIn(fx::Scenarios()), NameOf);
 
 TEST(FaultTable, KnowsEveryFunctionThatTheLibraryCalls) {
     std::map<std::string, std::string> used;
@@ -84,10 +86,10 @@ TEST(FaultTable, KnowsEveryFunctionThatTheLibraryCalls) {
         for (const fault::Import& import : fault::ImportsOf(::GetModuleHandle(pszModule)))
             if (!import.dll.starts_with("Fieldkit") && !import.dll.starts_with("Tesuvo"))
                 used[import.name] = import.dll;
-    for (const fault::Point& point : fault::Table())
+    for (const fault::Point& point : fx::Table())
         EXPECT_EQ(used.erase(point.pszName), 1U) << point.pszName << " is not called any more";
     for (const auto& [name, dll] : used) // of the C runtime only what allocates can fail, which is no news
-        EXPECT_TRUE(dll == "msvcrt.dll" || fault::Infallible().contains(name))
+        EXPECT_TRUE(dll == "msvcrt.dll" || fx::Infallible().contains(name))
             << name << ": add it to a list in FaultTable.cpp";
 }
 

@@ -17,7 +17,9 @@
 
 #include <afxcmn.h>
 
-namespace fault {
+using namespace testkit;
+
+namespace fx {
 
 namespace {
 
@@ -156,7 +158,7 @@ bool UsePanel(CWnd& owner) {
     bool bGood = true;
     for (int nMode = 0; nMode <= 2; ++nMode) {
         TVShowSIP(nMode);
-        fx::Pump();
+        Pump();
         CRect rect;
         const HWND hPanel = ::FindWindow(L"TesuvoInputPanel", nullptr);
         bGood = bGood && ::IsWindowVisible(hPanel);
@@ -167,7 +169,7 @@ bool UsePanel(CWnd& owner) {
         ::SendMessage(hPanel, WM_LBUTTONUP, 0, lMiddle);
         TVCloseSIP();
         ::SendMessage(hPanel, WM_TIMER, 1, 0); // it goes when a timer says so
-        fx::Pump();
+        Pump();
     }
     owner.SetFocus();
     return bGood;
@@ -321,4 +323,4 @@ const std::vector<Scenario>& Scenarios() {
     return all;
 }
 
-} // namespace fault
+} // namespace fx

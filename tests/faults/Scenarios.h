@@ -1,11 +1,11 @@
 // What is done while something fails.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <functional>
 
-namespace fault {
+namespace fx {
 
 struct Scenario {
     const char* pszName;
@@ -22,4 +22,4 @@ inline void PrintTo(const Scenario& scenario, std::ostream* os) {
 
 const std::vector<Scenario>& Scenarios();
 
-} // namespace fault
+} // namespace fx

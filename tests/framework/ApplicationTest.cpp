@@ -1,13 +1,17 @@
 // The application: its loop, its message boxes, its settings.
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+
+using namespace testkit;
 
 namespace {
 
 TEST(Application, RunsUntilItsMainWindowIsDestroyed) {
-    fx::Frame frame;
+    Frame frame;
     fx::g_app.m_pMainWnd = &frame;
     EXPECT_EQ(AfxGetMainWnd(), &frame);
-    fx::ModalScript script;
+    Script script;
     script.Then([&] { frame.PostMessage(WM_CLOSE); });
     EXPECT_EQ(script.Run([] { return fx::g_app.Run(); }), 0);
     EXPECT_TRUE(frame.m_hWnd == nullptr && AfxGetMainWnd() == nullptr);
@@ -15,7 +19,7 @@ TEST(Application, RunsUntilItsMainWindowIsDestroyed) {
 }
 
 TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
-    fx::Frame frame;
+    Frame frame;
     fx::g_app.m_pMainWnd = &frame;
     const Rows<UINT, WORD, int> cases = {
         {MB_OK, VK_RETURN, IDOK},
@@ -23,11 +27,11 @@ TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
         {MB_OKCANCEL, VK_ESCAPE, IDCANCEL},
     };
     for (const auto& [nType, nKey, nAnswer] : cases) {
-        fx::ModalScript script;
+        Script script;
         script.Then([&] {
             EXPECT_FALSE(frame.IsWindowEnabled());
             EXPECT_NE(::FindWindow(nullptr, L"test"), nullptr) << "the application's name is its caption";
-            pen::TypeKeys({nKey});
+            TypeKeys({nKey});
         });
         EXPECT_EQ(script.Run([&] { return AfxMessageBox(L"本文", nType); }), nAnswer);
         EXPECT_TRUE(frame.IsWindowEnabled());

@@ -1,7 +1,7 @@
 // A bitmap in memory to draw on and look at.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <string>
 

@@ -1,7 +1,9 @@
 // Entry fields, lists, scroll bars: members that do more than send their message.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <string>
+
+using namespace testkit;
 
 namespace {
 
@@ -10,7 +12,7 @@ struct Controls : testing::Test {
     void Create(Control& control, DWORD dwStyle) {
         ASSERT_TRUE(control.Create(WS_CHILD | WS_VISIBLE | dwStyle, CRect(0, 0, 150, 80), &m_frame, 1));
     }
-    fx::Frame m_frame;
+    Frame m_frame;
 };
 
 TEST_F(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {

@@ -4,6 +4,8 @@
 #include <clocale>
 #include <limits>
 
+using namespace testkit;
+
 namespace {
 
 template <class Number>
@@ -22,8 +24,8 @@ struct NumberField {
         for (const auto& c : cases) {
             m_value = Number(99);
             m_form.m_first.SetWindowText(c.pszText);
-            EXPECT_TRUE(m_form.UpdateData()) << fx::Utf8(c.pszText);
-            EXPECT_EQ(m_value, c.value) << fx::Utf8(c.pszText);
+            EXPECT_TRUE(m_form.UpdateData()) << Utf8(c.pszText);
+            EXPECT_EQ(m_value, c.value) << Utf8(c.pszText);
         }
         EXPECT_TRUE(m_recorder.m_prompts.empty());
     }
@@ -33,21 +35,21 @@ struct NumberField {
             m_value = Number(99);
             m_recorder.m_prompts.clear();
             m_form.m_first.SetWindowText(psz);
-            EXPECT_FALSE(m_form.UpdateData()) << fx::Utf8(psz);
-            EXPECT_EQ(m_value, Number(99)) << fx::Utf8(psz);
-            EXPECT_EQ(m_recorder.m_prompts, std::vector<CString>{pszPrompt}) << fx::Utf8(psz);
+            EXPECT_FALSE(m_form.UpdateData()) << Utf8(psz);
+            EXPECT_EQ(m_value, Number(99)) << Utf8(psz);
+            EXPECT_EQ(m_recorder.m_prompts, std::vector<CString>{pszPrompt}) << Utf8(psz);
         }
     }
 
     CString Shown(Number value) {
         m_value = value;
         EXPECT_TRUE(m_form.UpdateData(FALSE));
-        return fx::TextOf(m_form.m_first);
+        return TextOf(m_form.m_first);
     }
 
 private:
     fx::ExchangeForm m_form;
-    fx::MessageRecorder m_recorder;
+    MessageRecorder m_recorder;
     Number m_value{};
 };
 

@@ -3,6 +3,8 @@
 
 #include <limits>
 
+using namespace testkit;
+
 namespace {
 
 using namespace fx; // the form's identifiers

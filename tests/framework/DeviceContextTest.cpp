@@ -4,13 +4,15 @@
 #include <algorithm>
 #include <functional>
 
+using namespace testkit;
+
 namespace {
 
 constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
 
 TEST(DeviceContext, PaintContextValidatesTheWindow) {
-    struct Painted : fx::Frame {
+    struct Painted : Frame {
         int m_nPaints = 0;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message != WM_PAINT)

@@ -2,7 +2,10 @@
 // the command bar. The screen is the device's or larger.
 #include "support/Form.h"
 #include "support/OwnProcess.h"
-#include "support/TitleBar.h"
+#include "testkit/TitleBar.h"
+#include "testkit/Pen.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -14,21 +17,21 @@ struct FullDialog : CDialog {
 TEST(FullScreenDialog, CoversTheWorkAreaBetweenItsBars) {
     FullDialog dialog;
     const auto look = [&] {
-        const CRect area = fx::WorkArea();
-        EXPECT_EQ(area, fx::RectOf(dialog));
+        const CRect area = WorkArea();
+        EXPECT_EQ(area, RectOf(dialog));
         CRect client;
         dialog.GetClientRect(client);
         dialog.ClientToScreen(client);
         EXPECT_EQ(area.top + AFX_DEVICE_BAR_HEIGHT, client.top);
         const int nBarTop = area.bottom - AFX_DEVICE_BAR_HEIGHT;
         ASSERT_NE(nullptr, dialog.m_pWndEmptyCB);
-        EXPECT_EQ(CRect(area.left, nBarTop, area.right, area.bottom), fx::RectOf(*dialog.m_pWndEmptyCB));
+        EXPECT_EQ(CRect(area.left, nBarTop, area.right, area.bottom), RectOf(*dialog.m_pWndEmptyCB));
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_HIDE));
-        EXPECT_EQ(-1, fx::FindOkButton(dialog).x);
+        EXPECT_EQ(-1, FindOkButton(dialog).x);
         EXPECT_TRUE(SHDoneButton(dialog, SHDB_SHOW));
-        fx::TapOk(dialog);
+        TapOk(dialog);
     };
-    EXPECT_EQ(IDOK, fx::Play(dialog, {look}));
+    EXPECT_EQ(IDOK, Play(dialog, {look}));
     EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
 }
 
@@ -40,10 +43,10 @@ TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
     const AFX_SIP_HANDLER* const pOld = AfxSetSipHandler(&handler);
     FullDialog dialog;
     const auto tap = [&] {
-        const CRect bar = fx::RectOf(*dialog.m_pWndEmptyCB);
+        const CRect bar = RectOf(*dialog.m_pWndEmptyCB);
         pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));
     };
-    fx::Play(dialog, {tap, tap, [&] { dialog.EndDialog(1); }});
+    Play(dialog, {tap, tap, [&] { dialog.EndDialog(1); }});
     AfxSetSipHandler(pOld);
     EXPECT_EQ((std::vector<BOOL>{TRUE, FALSE}), calls);
 }
@@ -51,28 +54,28 @@ TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
 TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {
     fx::Form dialog;
     const auto leave = [&] {
-        EXPECT_LT(fx::RectOf(dialog).Height(), fx::WorkArea().Height());
+        EXPECT_LT(RectOf(dialog).Height(), WorkArea().Height());
         EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
-        EXPECT_EQ(-1, fx::FindOkButton(dialog).x);
+        EXPECT_EQ(-1, FindOkButton(dialog).x);
         EXPECT_TRUE(dialog.ModifyStyleEx(0, WS_EX_CAPTIONOKBTN));
         EXPECT_NE(0U, dialog.GetExStyle() & WS_EX_CAPTIONOKBTN);
         EXPECT_EQ(0U, static_cast<DWORD>(::GetWindowLong(dialog, GWL_EXSTYLE)) & WS_EX_CAPTIONOKBTN)
             << "the desktop must not see it";
-        const CPoint button = fx::FindOkButton(dialog);
+        const CPoint button = FindOkButton(dialog);
         pen::Drag(button, button + CPoint(0, 60));
     };
     const auto tap = [&] {
         ASSERT_NE(nullptr, dialog.m_hWnd) << "a pen that has left the button does nothing";
-        fx::TapOk(dialog);
+        TapOk(dialog);
     };
-    EXPECT_EQ(IDOK, fx::Play(dialog, {leave, tap}));
+    EXPECT_EQ(IDOK, Play(dialog, {leave, tap}));
 }
 
 TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     class Patient : public CWnd {
         ULONG GetGestureStatus(CPoint ptTouch) override { return ptTouch == CPoint(3, 4) ? 0 : 1; }
     };
-    fx::Frame frame;
+    Frame frame;
     EXPECT_EQ(static_cast<LRESULT>(AFX_TABLET_DISABLE_PRESSANDHOLD),
               frame.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0));
     Patient child;

@@ -1,6 +1,8 @@
 // Keys in dialogs whose focus is where the system's search for dialog keys never comes by.
 #include "support/Form.h"
-#include "support/Watchdog.h"
+#include "testkit/Watchdog.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -39,7 +41,7 @@ void PostKeys(HWND hWnd) {
 }
 
 TEST(DialogKeys, NeverGoRoundForEver) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     const auto hide = [](HWND hWnd) { ::ShowWindow(hWnd, SW_HIDE); };
     const auto disable = [](HWND hWnd) { ::EnableWindow(hWnd, FALSE); };
     const auto inner = [](Form& f) { return f.m_inner.m_hWnd; };
@@ -80,7 +82,7 @@ TEST(DialogKeys, NeverGoRoundForEver) {
                 EXPECT_TRUE(::IsWindowEnabled(h) && ::IsWindowVisible(h)) << "keys have another place";
             form.EndDialog(1);
         };
-        EXPECT_EQ(1, fx::Play(form, {spoil, look}));
+        EXPECT_EQ(1, Play(form, {spoil, look}));
     }
 }
 

@@ -1,6 +1,8 @@
 // The frame that follows what the user drags: it shows, moves, and leaves no trace.
 #include "Canvas.h"
 
+using namespace testkit;
+
 namespace {
 
 const CSize THIN(1, 1);

@@ -1,7 +1,7 @@
 // A window with one control of each kind that data is exchanged with.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <functional>
 

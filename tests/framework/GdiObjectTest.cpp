@@ -1,6 +1,8 @@
 // Pens, brushes, fonts, bitmaps, regions: what they create and who deletes it.
 #include "Canvas.h"
 
+using namespace testkit;
+
 namespace {
 
 bool Exists(HGDIOBJ hObject) {

@@ -1,11 +1,13 @@
 // Menus, how commands look, and commands by range.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
+
+using namespace testkit;
 
 namespace {
 
 constexpr UINT ID_ON = 0x8001, ID_OFF = 0x8002;
 
-struct MenuWnd : fx::Frame {
+struct MenuWnd : Frame {
     UINT m_nLast = 0;
 
 protected:

@@ -1,7 +1,9 @@
 // Message maps: each line for a window message calls the handler of its name with what the message carries.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <string>
+
+using namespace testkit;
 
 namespace {
 

@@ -1,7 +1,9 @@
 // Message maps: which handler a message finds, and what it is given.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <string>
+
+using namespace testkit;
 
 namespace {
 
@@ -9,7 +11,7 @@ const UINT g_nRegistered = ::RegisterWindowMessage(L"FieldkitTestMessage");
 constexpr UINT WM_BASE_ONLY = WM_APP + 1, WM_BOTH = WM_APP + 2, WM_REWRITE = WM_APP + 3;
 constexpr UINT WM_NESTED = WM_APP + 4;
 
-struct BaseWnd : fx::Frame {
+struct BaseWnd : Frame {
     std::string m_log;
 
     void Log(const std::string& text) { m_log += m_log.empty() ? text : ", " + text; }
@@ -100,7 +102,7 @@ TEST(MessageMap, DerivedMapComesFirstAndTheBaseMapTakesTheRest) {
 TEST(MessageMap, DefaultReplaysTheCurrentMessageAsAHandlerHasRewrittenIt) {
     DerivedWnd wnd;
     wnd.SendMessage(WM_REWRITE, 0, reinterpret_cast<LPARAM>(L"rewritten"));
-    EXPECT_EQ(fx::TextOf(wnd), L"rewritten");
+    EXPECT_EQ(TextOf(wnd), L"rewritten");
 }
 
 TEST(MessageMap, OuterMessageIsCurrentAgainAfterANestedOne) {
@@ -150,7 +152,7 @@ TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
 // --- Handlers of more forms than one -----------------------------------------------------------
 
 /// As older programs declare them.
-struct OlderForms : fx::Frame {
+struct OlderForms : Frame {
     std::string m_log;
 
 protected:
@@ -206,14 +208,14 @@ TEST(MessageMap, HandlersMayHaveTheFormsOfOlderPrograms) {
         EXPECT_EQ(wnd.SendMessage(message, wParam, lParam), lResult);
         EXPECT_EQ(wnd.m_log, pszLog);
     }
-    const fx::MessageRecorder told;
+    const MessageRecorder told;
     wnd.m_log.clear();
     wnd.SendMessage(WM_BOTH, 2, 1LL << 32);
     EXPECT_EQ(wnd.m_log, "") << "a pointer that does not fit must not come in part";
     EXPECT_EQ(told.m_prompts.size(), 1U);
 }
 
-struct Colored : fx::Frame {
+struct Colored : Frame {
     UINT m_nType = 99;
     CWnd* m_pControl = nullptr;
 
@@ -247,7 +249,7 @@ TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
 }
 
 /// A window with the map that lies at one place in memory, as after a change of DLLs.
-struct OfUnloadedModule : fx::Frame {
+struct OfUnloadedModule : Frame {
     LRESULT OnFirst(WPARAM, LPARAM) { return 1; }
     LRESULT OnSecond(WPARAM, LPARAM) { return 2; }
     const AFX_MSGMAP* GetMessageMap() const override { return &m_map; }

@@ -1,16 +1,18 @@
 // Modal dialogs whose windows go without having been ended.
 #include "support/Form.h"
-#include "support/Watchdog.h"
+#include "testkit/Watchdog.h"
 
 #include <memory>
 #include <thread>
+
+using namespace testkit;
 
 namespace {
 
 using fx::Form;
 
 TEST(ModalDestroyed, DialogIsOverAndItsOwnerEnabled) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     const auto destroyWhenTold = [](Form& f) { f.m_onDo = [&f] { f.DestroyWindow(); }; };
     // Before DoModal, and inside it.
     const Rows<const char*, std::function<void(Form&)>, std::function<void(Form&)>, INT_PTR> cases = {
@@ -31,37 +33,37 @@ TEST(ModalDestroyed, DialogIsOverAndItsOwnerEnabled) {
          },
          [](Form& f) { f.SendDo(); }, -1},
     };
-    fx::Frame owner;
+    Frame owner;
     for (const auto& [pszWay, prepare, act, nResult] : cases) {
         SCOPED_TRACE(pszWay);
         Form form(&owner);
         if (prepare)
             prepare(form);
         const auto go = [&] { act(form); };
-        EXPECT_EQ(nResult, act ? fx::Play(form, {go}) : form.DoModal());
+        EXPECT_EQ(nResult, act ? Play(form, {go}) : form.DoModal());
         EXPECT_TRUE(form.m_hWnd == nullptr && owner.IsWindowEnabled());
         EXPECT_EQ(owner.m_hWnd, ::GetActiveWindow());
         form.m_onInit = nullptr;
-        fx::WhileOpen(form, [] {}); // and then it works as if nothing had happened
+        WhileOpen(form, [] {}); // and then it works as if nothing had happened
     }
 }
 
 TEST(ModalDestroyed, OwnerTakesAllDialogsAboveItAlong) {
-    const fx::Watchdog watchdog(20);
-    auto pOwner = std::make_unique<fx::Frame>();
+    const Watchdog watchdog(20);
+    auto pOwner = std::make_unique<Frame>();
     Form outer(pOwner.get()), inner(&outer);
     INT_PTR nInner = 0;
     outer.m_onDo = [&] { nInner = inner.DoModal(); };
     inner.m_onInit = [&] { inner.PostDo(); };
     inner.m_onDo = [&] { pOwner.reset(); };
-    EXPECT_EQ(-1, fx::Play(outer, {[&] { outer.SendDo(); }}));
+    EXPECT_EQ(-1, Play(outer, {[&] { outer.SendDo(); }}));
     EXPECT_EQ(-1, nInner);
     EXPECT_TRUE(outer.m_hWnd == nullptr && inner.m_hWnd == nullptr);
 }
 
 TEST(ModalDestroyed, OuterDialogThatGoesLeavesTheInnerOneToItsUser) {
-    const fx::Watchdog watchdog(20);
-    fx::Frame frame;
+    const Watchdog watchdog(20);
+    Frame frame;
     Form outer;
     Form inner(&frame); // not owned by the outer one
     INT_PTR nInner = 0;
@@ -72,35 +74,35 @@ TEST(ModalDestroyed, OuterDialogThatGoesLeavesTheInnerOneToItsUser) {
         EXPECT_NE(nullptr, inner.m_hWnd);
         inner.EndDialog(3);
     };
-    EXPECT_EQ(-1, fx::Play(outer, {[&] { outer.SendDo(); }}));
+    EXPECT_EQ(-1, Play(outer, {[&] { outer.SendDo(); }}));
     EXPECT_EQ(3, nInner);
 }
 
 TEST(ModalDestroyed, QuitOnTheWayStillReachesTheProgram) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     Form form;
     const auto quit = [&] {
         AfxPostQuitMessage(9);
         form.DestroyWindow();
     };
-    EXPECT_EQ(-1, fx::Play(form, {quit}));
+    EXPECT_EQ(-1, Play(form, {quit}));
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(9U, msg.wParam);
 }
 
 TEST(ModalDestroyed, ObjectThatItsOwnerDeletesDoesNotHang) {
-    const fx::Watchdog watchdog(20);
-    fx::Frame owner;
+    const Watchdog watchdog(20);
+    Frame owner;
     auto pForm = std::make_unique<Form>(&owner);
-    EXPECT_EQ(-1, fx::Play([&] { return pForm->DoModal(); }, {[&] { pForm.reset(); }}));
+    EXPECT_EQ(-1, Play([&] { return pForm->DoModal(); }, {[&] { pForm.reset(); }}));
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
 /// A message that another thread sends is handled inside the wait for the next one, which does not
 /// come to an end by it.
 TEST(ModalDestroyed, MessageOfAnotherThreadEndsTheLoopAtOnce) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     std::thread sender;
     Form form;
     form.m_onDo = [&] {

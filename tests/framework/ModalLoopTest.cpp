@@ -1,7 +1,10 @@
 // Modal dialogs: their loop, their owner, their end.
 #include "support/Form.h"
+#include "testkit/Pen.h"
 
 #include <optional>
+
+using namespace testkit;
 
 namespace {
 
@@ -11,13 +14,13 @@ TEST(ModalDialog, EndsWithWhatEndedIt) {
     const Rows<const char*, std::function<void(Form&)>, INT_PTR> cases = {
         {"EndDialog", [](Form& form) { form.EndDialog(77); }, 77},
         {"tap on OK", [](Form& form) { pen::Tap(*form.GetDlgItem(IDOK)); }, IDOK},
-        {"Enter", [](Form&) { pen::TypeKeys({VK_RETURN}); }, IDOK},
-        {"Escape", [](Form&) { pen::TypeKeys({VK_ESCAPE}); }, IDCANCEL},
+        {"Enter", [](Form&) { TypeKeys({VK_RETURN}); }, IDOK},
+        {"Escape", [](Form&) { TypeKeys({VK_ESCAPE}); }, IDCANCEL},
         {"close", [](Form& form) { form.PostMessage(WM_CLOSE); }, IDCANCEL},
     };
     Form form; // the same one again and again
     for (const auto& [pszWay, end, nResult] : cases) {
-        EXPECT_EQ(nResult, fx::Play(form, {[&] { end(form); }})) << pszWay;
+        EXPECT_EQ(nResult, Play(form, {[&] { end(form); }})) << pszWay;
         EXPECT_EQ(nullptr, form.m_hWnd) << pszWay;
     }
 }
@@ -27,20 +30,20 @@ TEST(ModalDialog, IsToldWhenItIsIdleAndNeverSeenIfItsInitialisationEndsIt) {
     bool bSeen = false;
     Form form;
     form.m_onMessage = [&](UINT message, WPARAM) { nIdle += message == WM_KICKIDLE ? 1 : 0; };
-    EXPECT_EQ(
-        1, fx::Play(form, {[&] { return nIdle > 0 && form.IsWindowVisible(); }, [&] { form.EndDialog(1); }}));
+    EXPECT_EQ(1,
+              Play(form, {[&] { return nIdle > 0 && form.IsWindowVisible(); }, [&] { form.EndDialog(1); }}));
     nIdle = 0;
     form.m_onInit = [&] {
         form.EndDialog(5);
         bSeen = form.IsWindowVisible() != FALSE;
     };
-    EXPECT_EQ(5, fx::Play(form, {}));
+    EXPECT_EQ(5, Play(form, {}));
     EXPECT_FALSE(bSeen);
     EXPECT_EQ(0, nIdle);
 }
 
 TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
-    fx::Frame owner;
+    Frame owner;
     CEdit field;
     ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 50, 50), &owner, 2));
     for (CWnd* const pParent : {static_cast<CWnd*>(&owner), static_cast<CWnd*>(&field)}) {
@@ -51,7 +54,7 @@ TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
                 bEnabledAtEnd = owner.IsWindowEnabled() != FALSE;
         };
         field.SetFocus();
-        fx::WhileOpen(form, [&] {
+        WhileOpen(form, [&] {
             EXPECT_FALSE(owner.IsWindowEnabled());
             EXPECT_EQ(owner.m_hWnd, ::GetWindow(form, GW_OWNER));
             EXPECT_EQ(form.Item(Form::EDIT), ::GetFocus());
@@ -61,12 +64,12 @@ TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
         EXPECT_EQ(field.m_hWnd, ::GetFocus()) << "as before";
     }
     owner.EnableWindow(FALSE);
-    fx::WhileOpen(Form(&owner), [] {});
+    WhileOpen(Form(&owner), [] {});
     EXPECT_FALSE(owner.IsWindowEnabled()) << "as before";
 }
 
 TEST(ModalDialog, WithoutItsTemplateFailsAndLeavesTheOwnerEnabled) {
-    fx::Frame owner;
+    Frame owner;
     CDialog dialog(54321U, &owner);
     EXPECT_EQ(-1, dialog.DoModal());
     EXPECT_TRUE(owner.IsWindowEnabled());
@@ -80,14 +83,14 @@ struct Nested : testing::Test {
             EXPECT_TRUE(::IsWindow(m_outer)) << "its handler still runs";
         };
     }
-    fx::Step Open() {
+    Step Open() {
         return [this] { pen::Tap(*m_outer.GetDlgItem(Form::DO)); };
     }
-    fx::Step IsOpen() {
+    Step IsOpen() {
         return [this] { return m_inner.m_hWnd != nullptr && m_inner.IsWindowVisible(); };
     }
 
-    fx::Frame m_owner;
+    Frame m_owner;
     Form m_outer{&m_owner}, m_inner{&m_outer};
     INT_PTR m_nInner = 0;
 };
@@ -103,19 +106,19 @@ TEST_F(Nested, InnerDialogDisablesTheOuterOneOnly) {
         EXPECT_EQ(m_outer.m_hWnd, ::GetActiveWindow());
         m_outer.EndDialog(4);
     };
-    EXPECT_EQ(4, fx::Play(m_outer, {Open(), IsOpen(), end, endOuter}));
+    EXPECT_EQ(4, Play(m_outer, {Open(), IsOpen(), end, endOuter}));
     EXPECT_TRUE(m_owner.IsWindowEnabled());
 }
 
 TEST_F(Nested, EndOfTheOuterDialogWaitsForTheInnerOne) {
-    EXPECT_EQ(4, fx::Play(m_outer,
-                          {Open(), IsOpen(), [&] { m_outer.EndDialog(4); }, [&] { m_inner.EndDialog(3); }}));
+    EXPECT_EQ(
+        4, Play(m_outer, {Open(), IsOpen(), [&] { m_outer.EndDialog(4); }, [&] { m_inner.EndDialog(3); }}));
     EXPECT_EQ(3, m_nInner);
 }
 
 TEST_F(Nested, QuitEndsAllLoopsAndReachesTheOutermost) {
     m_outer.m_onDo = [this] { m_inner.DoModal(); };
-    fx::Play(m_outer, {Open(), IsOpen(), [] { AfxPostQuitMessage(7); }});
+    Play(m_outer, {Open(), IsOpen(), [] { AfxPostQuitMessage(7); }});
     EXPECT_TRUE(m_outer.m_hWnd == nullptr && m_inner.m_hWnd == nullptr);
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
@@ -133,9 +136,9 @@ TEST(ModalDialog, KeysPassTheirControlFirstAndThenTheDialogWhichMovesTheFocus) {
     Form form;
     form.m_onInit = [&] { EXPECT_TRUE(edit.SubclassDlgItem(Form::EDIT, &form)); };
     form.m_preTranslate = [](const MSG& msg) { return msg.message == WM_KEYDOWN && msg.wParam == 'A'; };
-    const auto type = [] { pen::TypeKeys({'X', 'A', 'Y', VK_RETURN, VK_TAB}); };
+    const auto type = [] { TypeKeys({'X', 'A', 'Y', VK_RETURN, VK_TAB}); };
     const auto look = [&] {
-        EXPECT_EQ(L"xy", fx::TextOf(edit));
+        EXPECT_EQ(L"xy", TextOf(edit));
         EXPECT_EQ(form.Item(Form::FIELD), ::GetFocus());
         form.PrevDlgCtrl();
         EXPECT_EQ(edit.m_hWnd, ::GetFocus());
@@ -149,21 +152,21 @@ TEST(ModalDialog, KeysPassTheirControlFirstAndThenTheDialogWhichMovesTheFocus) {
         EXPECT_EQ(Form::DO, LOWORD(form.GetDefID()));
         form.EndDialog(1);
     };
-    EXPECT_EQ(1, fx::Play(form, {type, look}));
+    EXPECT_EQ(1, Play(form, {type, look}));
 }
 
 TEST(ModalDialog, TemporaryObjectsOfTheCallerSurviveIt) {
-    fx::Frame owner;
+    Frame owner;
     const HWND hForeign =
         ::CreateWindow(WC_STATIC, L"", WS_CHILD, 0, 0, 5, 5, owner, nullptr, nullptr, nullptr);
     CWnd* const pHeld = CWnd::FromHandle(hForeign);
-    fx::WhileOpen(Form(&owner), [&] { CWnd::FromHandle(hForeign); });
+    WhileOpen(Form(&owner), [&] { CWnd::FromHandle(hForeign); });
     EXPECT_EQ(pHeld, CWnd::FromHandle(hForeign));
     EXPECT_EQ(hForeign, pHeld->m_hWnd);
 }
 
 TEST(ModelessDialog, IsCreatedAndGoesWithItsObject) {
-    const fx::DialogTemplate dialogTemplate;
+    const DialogTemplate dialogTemplate;
     HWND hWnd = nullptr;
     {
         CDialog dialog;

@@ -1,6 +1,9 @@
 // Place, size, styles and relations of windows.
-#include "support/FrameworkEnvironment.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/TitleBar.h"
+#include "testkit/Pen.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -12,7 +15,7 @@ struct Popup : CWnd {
 };
 
 TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
-    const CRect work = fx::WorkArea();
+    const CRect work = WorkArea();
     const auto centre = work.CenterPoint();
     const struct {
         const char* pszName;
@@ -37,9 +40,9 @@ TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
         Popup owner(c.owner, nullptr, WS_POPUP | c.dwOwnerStyle);
         Popup popup(CRect(CPoint(1, 1), c.size), c.owner.IsRectNull() ? nullptr : &owner);
         popup.CenterWindow();
-        EXPECT_EQ(fx::RectOf(popup).TopLeft(), c.expected)
-            << c.pszName << ' ' << fx::RectOf(popup).left << ' ' << fx::RectOf(popup).top;
-        EXPECT_EQ(fx::RectOf(popup).Size(), c.size) << c.pszName;
+        EXPECT_EQ(RectOf(popup).TopLeft(), c.expected)
+            << c.pszName << ' ' << RectOf(popup).left << ' ' << RectOf(popup).top;
+        EXPECT_EQ(RectOf(popup).Size(), c.size) << c.pszName;
     }
 }
 
@@ -47,11 +50,11 @@ TEST(Placement, CentresOnAnotherWindowIfTold) {
     Popup owner(CRect(0, 30, 100, 130), nullptr), other(CRect(100, 150, 200, 250), nullptr);
     Popup popup(CRect(0, 0, 40, 20), &owner);
     popup.CenterWindow(&other);
-    EXPECT_EQ(fx::RectOf(popup), CRect(130, 190, 170, 210));
+    EXPECT_EQ(RectOf(popup), CRect(130, 190, 170, 210));
 }
 
 TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
-    fx::Frame frame;
+    Frame frame;
     EXPECT_TRUE(frame.ModifyStyle(0, WS_MAXIMIZEBOX) && !frame.ModifyStyle(0, WS_MAXIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyle(WS_MAXIMIZEBOX, WS_MINIMIZEBOX, SWP_NOREDRAW));
     EXPECT_EQ(frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX), static_cast<DWORD>(WS_MINIMIZEBOX));

@@ -3,10 +3,12 @@
 #include "afxdialogex.h"
 #include "afxext.h"
 #include "afxmt.h"
-#include "support/DialogTemplate.h"
+#include "testkit/DialogTemplate.h"
 #include "support/OwnProcess.h"
 
 #include <thread>
+
+using namespace testkit;
 
 namespace {
 
@@ -27,7 +29,7 @@ HBITMAP MakePicture(COLORREF color, int cx = 3, int cy = 2) {
 }
 
 TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
-    const fx::DialogTemplate dialogTemplate(30, 20);
+    const DialogTemplate dialogTemplate(30, 20);
     const HBITMAP hPicture = MakePicture(RED);
     CDialogEx dialog;
     dialog.m_bFullScreen = FALSE;
@@ -96,11 +98,11 @@ TEST(BitmapButton, ShowsThePictureOfItsState) {
                 pBitmap->DeleteObject();
         }
     };
-    fx::Frame frame;
+    Frame frame;
     Button button;
     ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(3, 3, 50, 50), &frame, 1));
     button.SizeToContent();
-    EXPECT_EQ(CSize(9, 7), fx::RectOf(button).Size());
+    EXPECT_EQ(CSize(9, 7), RectOf(button).Size());
     const auto shown = [&](UINT nState) {
         fx::Canvas canvas;
         DRAWITEMSTRUCT item = {};
@@ -150,7 +152,7 @@ TEST(FormatString, ArgumentsMayHoldAPercentSign) {
 }
 
 TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
-    fx::Frame frame(CSize(230, 200));
+    Frame frame(CSize(230, 200));
     CCeCommandBar bar;
     ASSERT_TRUE(bar.Create(&frame));
     const auto ids = [&] {
@@ -178,7 +180,7 @@ TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
     CRect last;
     bar.GetItemRect(3, last);
     EXPECT_NEAR(230, last.right, 3) << "the switch is at the right";
-    EXPECT_EQ(CRect(0, 200 - AFX_DEVICE_BAR_HEIGHT, 230, 200) + fx::RectOf(frame).TopLeft(), fx::RectOf(bar));
+    EXPECT_EQ(CRect(0, 200 - AFX_DEVICE_BAR_HEIGHT, 230, 200) + RectOf(frame).TopLeft(), RectOf(bar));
 }
 
 TEST(Locks, AreHeldByOneAtATime) {
@@ -211,7 +213,7 @@ TEST(Locks, AreHeldByOneAtATime) {
 }
 
 TEST(Relatives, AreFoundFromAnyWindow) {
-    fx::Frame frame;
+    Frame frame;
     CWnd outer;
     CButton inner, second;
     ASSERT_TRUE(outer.Create(WC_STATIC, L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 90), &frame, 1));

@@ -1,7 +1,9 @@
 // Notifications that come back to the control that sent them.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <string>
+
+using namespace testkit;
 
 namespace {
 
@@ -32,7 +34,7 @@ ON_NOTIFY_REFLECT_EX(-61, &ReflectingEdit::OnCodeEx)
 ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
-class Parent : public fx::Frame {
+class Parent : public Frame {
 protected:
     afx_msg void OnUpdate() { Log("parent update"); }
     afx_msg void OnChange() { Log("parent change"); }

@@ -1,6 +1,8 @@
 // In which module a resource is found.
 #include "afxres.h"
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
+
+using namespace testkit;
 
 namespace {
 

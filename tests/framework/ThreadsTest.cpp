@@ -1,11 +1,14 @@
 // What a thread leaves behind when it has used the framework.
-#include "support/DialogTemplate.h"
-#include "support/Leftovers.h"
+#include "support/TestApp.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Leftovers.h"
 
 #include "afxcmn.h"
 #include "afxmt.h"
 
 #include <thread>
+
+using namespace testkit;
 
 namespace {
 
@@ -13,7 +16,7 @@ void UseEverything() {
     CString str;
     str.Format(L"%d", static_cast<int>(::GetCurrentThreadId()));
     {
-        fx::Frame frame;
+        Frame frame;
         CEdit edit;
         edit.Create(WS_CHILD, CRect(0, 0, 9, 9), &frame, 1);
         CWnd::FromHandle(::GetDesktopWindow());
@@ -24,7 +27,7 @@ void UseEverything() {
         CImageList::FromHandle(images.m_hImageList);
         frame.PostMessage(WM_SETTINGCHANGE, SPI_SETSIPINFO);
         frame.PostMessage(WM_NULL);
-        fx::Pump();
+        Pump();
     }
     CWaitCursor wait;
     AfxRegisterWndClass(CS_DBLCLKS);
@@ -33,13 +36,13 @@ void UseEverything() {
 size_t BytesAfter(int nThreads) {
     for (int i = 0; i < nThreads; ++i)
         std::thread(UseEverything).join();
-    return fx::Leftovers::Now().nHeapBytes;
+    return Leftovers::Now().nHeapBytes;
 }
 
 TEST(Threads, LeaveNothingWhenTheyEnd) {
     constexpr int THREADS = 100;
     BytesAfter(10); // caches of the system
-    const size_t nBefore = fx::Leftovers::Now().nHeapBytes, nAfter = BytesAfter(THREADS);
+    const size_t nBefore = Leftovers::Now().nHeapBytes, nAfter = BytesAfter(THREADS);
     EXPECT_LT(nAfter, nBefore + THREADS * 16) << "less than the smallest block a thread";
 }
 

@@ -1,7 +1,10 @@
 // The OK button in the title bar and the field that has the focus.
 #include "support/Form.h"
-#include "support/TitleBar.h"
-#include "support/Watchdog.h"
+#include "testkit/TitleBar.h"
+#include "testkit/Pen.h"
+#include "testkit/Watchdog.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -22,7 +25,7 @@ protected:
 };
 
 TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
-    const fx::Watchdog watchdog(30);
+    const Watchdog watchdog(30);
     const auto isAsking = [](Form& f) { return ::GetActiveWindow() != f.m_hWnd; };
     // nFocus: Afterwards; 0 if the dialog is over.
     const Rows<const char*, std::function<void(Form&)>, const char*, int> cases = {
@@ -40,10 +43,10 @@ TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
             form.m_log += "ok ";
             act(form);
         };
-        fx::ModalScript script;
+        Script script;
         script.Then([&] { ::SetFocus(form.Item(Form::FIELD)); }).Then([&] {
             form.m_log.clear();
-            fx::TapOk(form);
+            TapOk(form);
         });
         if (std::string(pszOk) == "asks")
             script.Until([&] { return isAsking(form); })

@@ -1,8 +1,10 @@
 // Exceptions that nobody catches, and memory that runs out.
 #include "support/Form.h"
-#include "support/Watchdog.h"
+#include "testkit/Watchdog.h"
 
 #include <stdexcept>
+
+using namespace testkit;
 
 namespace {
 
@@ -54,48 +56,48 @@ private:
 };
 
 TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
-    const fx::Watchdog watchdog(30);
+    const Watchdog watchdog(30);
     const struct {
         Form::Place place;
         bool bOpens; ///< The dialog comes up all the same.
         bool bTold;
     } places[] = {{Form::Command, true, true},   {Form::Init, false, true}, {Form::InitMessage, false, true},
                   {Form::Translate, true, true}, {Form::End, true, true},   {Form::Attaching, false, false}};
-    fx::Frame owner;
+    Frame owner;
     for (const auto& e : EXCEPTIONS) {
         for (const auto& p : places) {
             SCOPED_TRACE(std::string(e.pszName) + " " + std::to_string(p.place));
             Form form(p.place, e.raise, &owner);
-            fx::MessageRecorder recorder;
+            MessageRecorder recorder;
             const auto raise = [&] {
                 form.PostDo();
                 form.PostMessage(WM_USER);
             };
             const auto end = [&] { form.EndDialog(6); };
-            EXPECT_EQ(p.bOpens ? 6 : -1, p.bOpens ? fx::Play(form, {raise, end}) : fx::Play(form, {}));
+            EXPECT_EQ(p.bOpens ? 6 : -1, p.bOpens ? Play(form, {raise, end}) : Play(form, {}));
             const bool bTold = p.bTold && e.pszPrompt != nullptr;
             EXPECT_EQ(bTold ? std::vector<CString>{e.pszPrompt} : std::vector<CString>(), recorder.m_prompts);
             EXPECT_TRUE(form.m_hWnd == nullptr && owner.IsWindowEnabled());
             form.m_place = Form::Nowhere;
-            fx::WhileOpen(form, [] {});
+            WhileOpen(form, [] {});
         }
     }
 }
 
 TEST(Uncaught, ModelessDialogThatCannotBeInitialisedIsNotThere) {
-    const fx::DialogTemplate dialogTemplate;
+    const DialogTemplate dialogTemplate;
     class Failing : public CDialog {
         BOOL OnInitDialog() override { throw std::bad_alloc(); }
     };
     Failing dialog;
     dialog.m_bFullScreen = FALSE;
-    fx::MessageRecorder recorder;
+    MessageRecorder recorder;
     EXPECT_TRUE(!dialog.CreateIndirect(dialogTemplate.Get()) && dialog.m_hWnd == nullptr);
 }
 
 /// The handler fails each time it is called, also while the box about the first time is open.
 TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     int nFailures = 0;
     fx::Form form;
     form.m_onMessage = [&](UINT message, WPARAM) {
@@ -115,15 +117,15 @@ TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
         form.KillTimer(1);
         ::PostMessage(::FindWindow(L"#32770", L"test"), WM_COMMAND, IDOK, 0);
     };
-    EXPECT_EQ(1, fx::Play(form, {[&] { form.SetTimer(1, 10); }, [&] { return nFailures > 10; }, look,
-                                 [&] { return boxes() == 0; }, [&] { form.EndDialog(1); }}));
+    EXPECT_EQ(1, Play(form, {[&] { form.SetTimer(1, 10); }, [&] { return nFailures > 10; }, look,
+                             [&] { return boxes() == 0; }, [&] { form.EndDialog(1); }}));
 }
 
 /// The application's own way to tell needs memory that is not there.
 TEST(Uncaught, ThreadThatThrowsAgainDoesNotLetItOut) {
     fx::g_app.m_bThrowAgain = true;
     Form form(Form::Command, RaiseMemory);
-    EXPECT_EQ(2, fx::Play(form, {[&] { form.SendDo(); }, [&] { form.EndDialog(2); }}));
+    EXPECT_EQ(2, Play(form, {[&] { form.SendDo(); }, [&] { form.EndDialog(2); }}));
     fx::g_app.m_bThrowAgain = false;
 }
 
@@ -135,14 +137,14 @@ TEST(Uncaught, FailedExchangeLetsCommandsThroughAgain) {
         }
     };
     Exchanging form;
-    fx::MessageRecorder recorder;
+    MessageRecorder recorder;
     const auto look = [&] {
         form.SendMessage(WM_COMMAND, IDOK);
         EXPECT_EQ(1U, recorder.m_prompts.size());
         form.m_onDo = [&] { form.EndDialog(1); };
         form.SendDo();
     };
-    EXPECT_EQ(1, fx::Play(form, {look}));
+    EXPECT_EQ(1, Play(form, {look}));
 }
 
 TEST(Uncaught, FailingNewIsAMemoryException) {

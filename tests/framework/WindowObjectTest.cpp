@@ -1,8 +1,10 @@
 // Which object belongs to which window, and who outlives whom.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <algorithm>
 #include <memory>
+
+using namespace testkit;
 
 namespace {
 
@@ -128,7 +130,7 @@ TEST(WindowObject, SubclassingEndsWithTheOldProcedureBack) {
 }
 
 TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
-    fx::Frame frame;
+    Frame frame;
     const HWND hItem = CreateForeign(frame);
     ::SetWindowLongPtr(hItem, GWLP_ID, 5);
     CWnd item, second;
@@ -143,7 +145,7 @@ TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
     HWND hCreated = nullptr;
     const HWND hAttached = CreateForeign();
     {
-        fx::Frame frame;
+        Frame frame;
         hCreated = frame;
         CWnd attached;
         attached.Attach(hAttached);
@@ -154,7 +156,7 @@ TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
 }
 
 TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
-    fx::Frame frame;
+    Frame frame;
     const HWND hWnd = frame;
     ::DestroyWindow(hWnd);
     EXPECT_TRUE(frame.m_hWnd == nullptr && CWnd::FromHandlePermanent(hWnd) == nullptr);
@@ -163,19 +165,19 @@ TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
 
 TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildrenAndAChildTakesItsWindow) {
     CWnd child, grandchild;
-    auto pFrame = std::make_unique<fx::Frame>();
+    auto pFrame = std::make_unique<Frame>();
     ASSERT_TRUE(CreateChild(child, pFrame.get()));
     ASSERT_TRUE(CreateChild(grandchild, &child));
     pFrame.reset();
     EXPECT_TRUE(child.m_hWnd == nullptr && grandchild.m_hWnd == nullptr);
-    fx::Frame frame;
+    Frame frame;
     ASSERT_TRUE(CreateChild(*std::make_unique<CWnd>(), &frame));
     EXPECT_EQ(nullptr, ::GetWindow(frame, GW_CHILD));
 }
 
 TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
     int nDeleted = 0;
-    fx::Frame frame;
+    Frame frame;
     auto* pWnd = new SelfDeleting(nDeleted);
     ASSERT_TRUE(CreateChild(*pWnd, &frame));
     EXPECT_TRUE(pWnd->DestroyWindow());

@@ -1,13 +1,15 @@
 // List boxes with check boxes, and data exchange with the common controls.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
+
+using namespace testkit;
 
 namespace {
 
 enum : int { IDC_LIST = 10, IDC_SLIDER, IDC_SCROLL, IDC_DATE, IDC_CALENDAR, IDC_ADDRESS, IDC_NUMBER };
 
-struct CheckFrame : fx::Frame {
+struct CheckFrame : Frame {
     int m_nChanged = 0;
 
 protected:
@@ -53,7 +55,7 @@ TEST(CheckList, StatesFollowTheirItemsAndATapChangesThem) {
     EXPECT_EQ(list.GetCheck(0), 0);
 }
 
-struct ExchangeFrame : fx::Frame {
+struct ExchangeFrame : Frame {
     int m_nSlider = 7, m_nScroll = 8;
     CTime m_date{2024, 5, 6, 7, 8, 9}, m_day{2023, 4, 3, 0, 0, 0};
     DWORD m_dwAddress = 0x7F000001;

@@ -1,7 +1,11 @@
 // The system's dialogs: events reach the object, answers are taken apart.
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
 
 #include "afxdlgs.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -13,7 +17,7 @@ TEST(CommonDialogs, ColourIsTakenWithOK) {
             return CColorDialog::OnInitDialog();
         }
     };
-    fx::Frame frame;
+    Frame frame;
     Probe dialog(RGB(255, 0, 0), 0, &frame);
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.GetColor(), RGB(255, 0, 0));
@@ -29,7 +33,7 @@ TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
             ::PostMessage(::GetParent(m_hWnd), WM_COMMAND, IDCANCEL, 0);
         }
     };
-    fx::Frame frame;
+    Frame frame;
     Probe dialog(TRUE, L"txt", nullptr, OFN_HIDEREADONLY, L"Text|*.txt|All|*.*||", &frame);
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_TRUE(dialog.m_bReady);
@@ -48,7 +52,7 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
     struct Probe : CFindReplaceDialog {
         ~Probe() override { ++s_nDeleted; }
     };
-    fx::Frame frame;
+    Frame frame;
     auto* const pFind = new Probe;
     ASSERT_TRUE(pFind->Create(TRUE, L"P1", nullptr, FR_DOWN, &frame));
     EXPECT_EQ(L"P1", pFind->GetFindString());

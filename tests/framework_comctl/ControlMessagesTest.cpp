@@ -1,7 +1,11 @@
 // What the members of the common controls send: something is set and read back.
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
 
 #include "afxcmn.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -17,7 +21,7 @@ struct ControlMessages : testing::Test {
         read(first, second);
         return {first, second};
     }
-    fx::Frame m_frame;
+    Frame m_frame;
 };
 
 TEST_F(ControlMessages, ProgressBarAndSlider) {
@@ -54,7 +58,7 @@ TEST_F(ControlMessages, SpinButton) {
     EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange(a, b); }));
     for (const auto& [nPos, nSet] : {std::pair(7, 7), {-3, -3}, {99, 20}, {-99, -5}}) {
         spin.SetPos(nPos);
-        EXPECT_EQ(CPoint(nSet, nSet), CPoint(::_wtoi(fx::TextOf(edit)), spin.GetPos32()));
+        EXPECT_EQ(CPoint(nSet, nSet), CPoint(::_wtoi(TextOf(edit)), spin.GetPos32()));
     }
     edit.SetWindowText(L"abc");
     BOOL bError = FALSE;
@@ -174,7 +178,7 @@ TEST_F(ControlMessages, LinksHaveTextsAndStates) {
     EXPECT_TRUE(strUrl.IsEmpty());
 }
 
-struct MenuOwner : fx::Frame {
+struct MenuOwner : Frame {
     WORD m_nItem = 0;
 
 protected:
@@ -183,7 +187,7 @@ protected:
             m_nItem = static_cast<WORD>(::GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0));
             ::EndMenu();
         }
-        return fx::Frame::WindowProc(message, wParam, lParam);
+        return Frame::WindowProc(message, wParam, lParam);
     }
 };
 

@@ -1,7 +1,9 @@
 // List views, tree views, image lists: texts, data, places, owners.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -26,7 +28,7 @@ struct Lists : testing::Test {
         return items;
     }
 
-    fx::Frame m_frame;
+    Frame m_frame;
     CListCtrl m_list;
     CTreeCtrl m_tree;
     HTREEITEM m_root = nullptr, m_item = nullptr, m_leaf = nullptr;

@@ -1,11 +1,13 @@
 // Property sheets on the device's screen.
 #include "SheetProbe.h"
 
+using namespace testkit;
+
 namespace {
 
 /// What title bar and command bar leave of the screen.
 CRect InnerArea() {
-    CRect rect = fx::WorkArea();
+    CRect rect = WorkArea();
     rect.DeflateRect(0, AFX_DEVICE_BAR_HEIGHT);
     return rect;
 }
@@ -25,17 +27,17 @@ int CountCommandBars(const CWnd& wnd) {
 
 /// The tabs fill the inner area, and the pages what is left of the tabs.
 void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage*>& pages) {
-    EXPECT_EQ(fx::RectOf(sheet.m_hWnd), fx::WorkArea());
-    const CRect tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
+    EXPECT_EQ(RectOf(sheet.m_hWnd), WorkArea());
+    const CRect tabs = RectOf(sheet.GetTabControl()->m_hWnd);
     EXPECT_EQ(tabs, InnerArea());
-    const CRect bar = fx::RectOf(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
-    EXPECT_EQ(bar.bottom, fx::WorkArea().bottom);
+    const CRect bar = RectOf(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
+    EXPECT_EQ(bar.bottom, WorkArea().bottom);
     CRect free(CPoint(0, 0), tabs.Size());
     sheet.GetTabControl()->AdjustRect(FALSE, free);
     free.OffsetRect(tabs.TopLeft());
     EXPECT_LT(free.Height(), tabs.Height() - 10) << "no room for the tabs' names";
     for (const CPropertyPage* pPage : pages)
-        EXPECT_EQ(fx::RectOf(pPage->m_hWnd), free);
+        EXPECT_EQ(RectOf(pPage->m_hWnd), free);
 }
 
 TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
@@ -64,7 +66,7 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
         ExpectLaidOut(sheet, {&added});
         sheet.EndDialog(1);
     };
-    fx::Play(sheet, {first, others, last});
+    Play(sheet, {first, others, last});
     EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
 }
 
@@ -106,10 +108,10 @@ TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
         sheet.m_bOkButton = bOkButton;
         sheet.m_bOwnBar = bOwnBar;
         sheet.m_nShow = nShow;
-        fx::WhileOpen(sheet, [&] {
+        WhileOpen(sheet, [&] {
             EXPECT_TRUE(sheet.m_bResult);
             EXPECT_EQ(nShow != SW_HIDE, sheet.IsWindowVisible() != FALSE);
-            EXPECT_EQ(bOkButton, fx::FindOkButton(sheet).x != -1);
+            EXPECT_EQ(bOkButton, FindOkButton(sheet).x != -1);
             EXPECT_EQ(1, CountCommandBars(sheet));
             EXPECT_EQ(bOwnBar, sheet.m_pWndEmptyCB == nullptr);
             ExpectLaidOut(sheet, {&sheet.m_a});
@@ -123,20 +125,20 @@ TEST(FullScreenSheet, HandlerForCancelReplacesItForTheTitleBarAndTheKeyToo) {
         EXPECT_EQ("a.init a.set sheet.cancel sheet.cancel sheet.cancel ", sheet.TakeLog());
         sheet.PressButton(PSBTN_OK);
     };
-    EXPECT_EQ(IDOK, fx::Play(sheet, {[&] { fx::TapClose(sheet); }, [] { pen::TypeKeys({VK_ESCAPE}); },
-                                     [&] { sheet.PressButton(PSBTN_CANCEL); }, look}));
+    EXPECT_EQ(IDOK, Play(sheet, {[&] { TapClose(sheet); }, [] { TypeKeys({VK_ESCAPE}); },
+                                 [&] { sheet.PressButton(PSBTN_CANCEL); }, look}));
 }
 
 TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
     fx::Sheet sheet;
     sheet.SetWizardMode();
-    fx::WhileOpen(sheet, [&] {
-        EXPECT_EQ(-1, fx::FindOkButton(sheet).x);
-        const CRect page = fx::RectOf(sheet.m_a.m_hWnd);
+    WhileOpen(sheet, [&] {
+        EXPECT_EQ(-1, FindOkButton(sheet).x);
+        const CRect page = RectOf(sheet.m_a.m_hWnd);
         EXPECT_TRUE(Contains(InnerArea(), page));
         CRect last;
         for (const int nID : {ID_WIZBACK, ID_WIZNEXT, IDCANCEL}) {
-            const CRect button = fx::RectOf(sheet.Button(nID));
+            const CRect button = RectOf(sheet.Button(nID));
             EXPECT_TRUE(sheet.ShowsButton(nID)) << nID;
             EXPECT_TRUE(Contains(InnerArea(), button)) << nID;
             CRect overlap;
@@ -144,7 +146,7 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
             EXPECT_FALSE(overlap.IntersectRect(button, last)) << nID;
             last = button;
         }
-        EXPECT_EQ(fx::RectOf(sheet.Button(ID_WIZFINISH)), fx::RectOf(sheet.Button(ID_WIZNEXT)));
+        EXPECT_EQ(RectOf(sheet.Button(ID_WIZFINISH)), RectOf(sheet.Button(ID_WIZNEXT)));
     });
 }
 
@@ -153,11 +155,11 @@ TEST(PopupSheet, KeepsTheSystemsLayoutWithItsButtons) {
     sheet.m_bFullScreen = FALSE;
     const auto look = [&] {
         EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
-        EXPECT_EQ(-1, fx::FindOkButton(sheet).x);
+        EXPECT_EQ(-1, FindOkButton(sheet).x);
         EXPECT_TRUE(sheet.ShowsButton(IDOK));
         ::SendMessage(sheet.Button(IDOK), BM_CLICK, 0, 0);
     };
-    EXPECT_EQ(IDOK, fx::Play(sheet, {look}));
+    EXPECT_EQ(IDOK, Play(sheet, {look}));
 }
 
 TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
@@ -165,13 +167,13 @@ TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
     sheet.m_bFullScreen = FALSE;
     ASSERT_TRUE(sheet.Create());
     EXPECT_TRUE(!sheet.ShowsButton(IDOK) && !sheet.ShowsButton(IDCANCEL));
-    const CRect window = fx::RectOf(sheet.m_hWnd), tabs = fx::RectOf(sheet.GetTabControl()->m_hWnd);
+    const CRect window = RectOf(sheet.m_hWnd), tabs = RectOf(sheet.GetTabControl()->m_hWnd);
     EXPECT_LT(window.bottom - tabs.bottom, 30);
     EXPECT_GT(window.bottom, tabs.bottom);
 }
 
 TEST(PopupSheet, CanBeAChildOfAWindow) {
-    fx::Frame frame(CSize(230, 250));
+    Frame frame(CSize(230, 250));
     fx::Sheet sheet;
     ASSERT_TRUE(sheet.Create(&frame, WS_CHILD | WS_VISIBLE));
     EXPECT_EQ(::GetParent(sheet), frame.m_hWnd);

@@ -1,11 +1,12 @@
 // How property sheets run and end, and what their pages hear of it.
 #include "SheetProbe.h"
 
-#include "support/Leftovers.h"
+#include "testkit/Leftovers.h"
+
+using namespace testkit;
 
 namespace {
 
-using fx::Play;
 using fx::Sheet;
 
 void SetNumber(fx::Page& page, LPCTSTR psz) {
@@ -14,10 +15,10 @@ void SetNumber(fx::Page& page, LPCTSTR psz) {
 
 TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
     const Rows<const char*, std::function<void(Sheet&)>, INT_PTR, const char*> cases = {
-        {"OK in the title bar", [](Sheet& s) { fx::TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
-        {"Close in the title bar", [](Sheet& s) { fx::TapClose(s); }, IDCANCEL, "a.cancel "},
-        {"Enter", [](Sheet&) { pen::TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
-        {"Escape", [](Sheet&) { pen::TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
+        {"OK in the title bar", [](Sheet& s) { TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
+        {"Close in the title bar", [](Sheet& s) { TapClose(s); }, IDCANCEL, "a.cancel "},
+        {"Enter", [](Sheet&) { TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
+        {"Escape", [](Sheet&) { TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
         {"PressButton", [](Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, "a.kill a.apply a.ok "},
         {"button", [](Sheet& s) { ::SendMessage(s.Button(IDOK), BM_CLICK, 0, 0); }, IDOK,
          "a.kill a.apply a.ok "},
@@ -64,7 +65,7 @@ TEST(ModalSheet, PagesHearInOrderWhenTheUserChangesBetweenThem) {
 TEST(ModalSheet, PagesRefuseValuesTheirEndAndToBeCancelled) {
     Sheet sheet;
     sheet.m_a.m_bApply = sheet.m_a.m_bCancel = FALSE;
-    fx::MessageRecorder recorder;
+    MessageRecorder recorder;
     const auto refusedValue = [&] {
         SetNumber(sheet.m_a, L"101");
         sheet.SetActivePage(1);
@@ -79,12 +80,12 @@ TEST(ModalSheet, PagesRefuseValuesTheirEndAndToBeCancelled) {
     };
     const auto refusedCancel = [&] {
         EXPECT_EQ("a.kill a.apply ", sheet.TakeLog());
-        pen::TypeKeys({VK_ESCAPE});
+        TypeKeys({VK_ESCAPE});
     };
     const auto cancel = [&] {
         EXPECT_EQ("", sheet.TakeLog());
         sheet.m_a.m_bCancel = TRUE;
-        pen::TypeKeys({VK_ESCAPE});
+        TypeKeys({VK_ESCAPE});
     };
     EXPECT_EQ(IDCANCEL, Play(sheet, {refusedValue, refusedEnd, refusedCancel, cancel}));
 }
@@ -116,7 +117,7 @@ TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
     Sheet sheet;
     fx::Page named(sheet.m_log, "c", fx::ID_PAGE_VIEW, 40011);
     sheet.AddPage(&named);
-    fx::WhileOpen(sheet, [&] {
+    WhileOpen(sheet, [&] {
         const LPCTSTR names[] = {L"一般", L"表示", L"測点"};
         for (int i = 0; i < 3; ++i) {
             TCHAR szName[20] = {};
@@ -127,14 +128,14 @@ TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
             sheet.GetTabControl()->GetItem(i, &item);
             EXPECT_STREQ(names[i], szName);
         }
-        EXPECT_EQ(L"設定", fx::TextOf(sheet));
+        EXPECT_EQ(L"設定", TextOf(sheet));
         sheet.SetTitle(L"別の名");
-        EXPECT_EQ(L"別の名", fx::TextOf(sheet));
+        EXPECT_EQ(L"別の名", TextOf(sheet));
     });
     CPropertySheet fromId(40010);
     fromId.AddPage(&named);
     ASSERT_TRUE(fromId.Create());
-    EXPECT_EQ(L"設定", fx::TextOf(fromId));
+    EXPECT_EQ(L"設定", TextOf(fromId));
 }
 
 TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
@@ -142,7 +143,7 @@ TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
     EXPECT_FALSE(sheet.SetActivePage(2));
-    fx::WhileOpen(sheet, [&] {
+    WhileOpen(sheet, [&] {
         EXPECT_EQ("b.init b.set ", sheet.TakeLog());
         EXPECT_EQ(::GetDlgItem(sheet.m_b, fx::IDC_NUMBER), ::GetFocus());
     });
@@ -154,7 +155,7 @@ TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
     EXPECT_EQ(0, sheet.GetPageIndex(&sheet.m_b));
     EXPECT_EQ(-1, sheet.GetPageIndex(&sheet.m_a));
     EXPECT_EQ(nullptr, sheet.GetPage(1));
-    fx::WhileOpen(sheet, [&] {
+    WhileOpen(sheet, [&] {
         EXPECT_EQ("b.init b.set ", sheet.TakeLog());
         sheet.AddPage(&c);
         sheet.AddPage(&missing);
@@ -182,7 +183,7 @@ TEST(ModalSheet, PageThatCannotBeMadeLeavesOtherWindowsAlone) {
     Sheet sheet;
     fx::Page broken(sheet.m_log, "broken", fx::ID_PAGE_UNKNOWN);
     sheet.AddPage(&broken);
-    fx::WhileOpen(sheet, [&] {
+    WhileOpen(sheet, [&] {
         sheet.SetActivePage(&broken);
         EXPECT_EQ(nullptr, broken.m_hWnd);
         const HWND hWnd =
@@ -194,8 +195,8 @@ TEST(ModalSheet, PageThatCannotBeMadeLeavesOtherWindowsAlone) {
 
 TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
     for (const int nPage : {-1, 0, 1}) { // the sheet itself, the first page, one shown later
-        fx::MessageRecorder recorder;
-        const int nWindows = fx::Leftovers::Now().nWindows;
+        MessageRecorder recorder;
+        const int nWindows = Leftovers::Now().nWindows;
         Sheet sheet;
         std::function<void()>& onInit = nPage == -1  ? sheet.m_onInit
                                         : nPage == 0 ? sheet.m_a.m_onInit
@@ -205,20 +206,20 @@ TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
         EXPECT_EQ(-1, nPage == 1 ? Play(sheet, {show}) : Play(sheet, {})) << nPage;
         EXPECT_EQ(1U, recorder.m_prompts.size()) << nPage;
         EXPECT_EQ(nullptr, sheet.m_a.m_hWnd) << nPage;
-        EXPECT_EQ(nWindows, fx::Leftovers::Now().nWindows) << nPage;
+        EXPECT_EQ(nWindows, Leftovers::Now().nWindows) << nPage;
         onInit = [] {};
-        EXPECT_EQ(IDOK, Play(sheet, {[&] { fx::TapOk(sheet); }})) << nPage;
+        EXPECT_EQ(IDOK, Play(sheet, {[&] { TapOk(sheet); }})) << nPage;
     }
 }
 
 TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
-    fx::Frame frame;
+    Frame frame;
     CEdit edit;
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &frame, 1));
     frame.SetActiveWindow();
     edit.SetFocus();
     Sheet sheet(&frame);
-    fx::WhileOpen(sheet, [&] {
+    WhileOpen(sheet, [&] {
         EXPECT_FALSE(frame.IsWindowEnabled());
         EXPECT_EQ(frame.m_hWnd, ::GetParent(sheet));
     });
@@ -228,7 +229,7 @@ TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
 
 TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
     constexpr UINT ID_MENU = 0x8001, ID_BUTTON = 0x1001;
-    struct Owner : fx::Frame {
+    struct Owner : Frame {
         BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
             m_commands.push_back(nID);
             return nID == ID_MENU || Frame::OnCmdMsg(nID, nCode, pExtra, pInfo);
@@ -251,7 +252,7 @@ TEST(ModelessSheet, DestroysItselfWhenItEnds) {
         ASSERT_TRUE(sheet.Create());
         EXPECT_FALSE(sheet.Create()) << "it exists already";
         EXPECT_TRUE(sheet.IsWindowVisible());
-        fx::Pump();
+        Pump();
         sheet.SendMessage(WM_COMMAND, MAKEWPARAM(nID, BN_CLICKED));
         EXPECT_TRUE(sheet.m_hWnd == nullptr && sheet.m_a.m_hWnd == nullptr);
     }
@@ -280,7 +281,7 @@ TEST(ModalSheet, WizardGoesThroughItsPagesAndFinishes) {
 }
 
 TEST(ModalSheet, OpenedTwoHundredTimesLeavesNothing) {
-    fx::ExpectNothingLeft([] {
+    ExpectNothingLeft([] {
         Sheet sheet;
         Play(sheet, {[&] { sheet.SetActivePage(1), sheet.PressButton(PSBTN_OK); }});
     });

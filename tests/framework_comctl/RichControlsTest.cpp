@@ -1,7 +1,9 @@
 // Edit fields with formats, lists whose items are dragged and combo boxes with pictures.
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -16,7 +18,7 @@ DWORD CALLBACK WriteToString(DWORD_PTR dwCookie, LPBYTE pbBuff, LONG cb, LONG* p
 
 TEST(RichEdit, TextHasFormatsAndIsFound) {
     ASSERT_TRUE(AfxInitRichEdit2());
-    fx::Frame frame;
+    Frame frame;
     CRichEditCtrl rich;
     ASSERT_TRUE(rich.Create(WS_CHILD | WS_VISIBLE | ES_MULTILINE, CRect(0, 0, 200, 100), &frame, IDC_IT));
     rich.ReplaceSel(L"one two\r\nthree");
@@ -49,7 +51,7 @@ TEST(RichEdit, TextHasFormatsAndIsFound) {
 }
 
 TEST(DragList, ADroppedItemMovesWithItsData) {
-    fx::Frame frame;
+    Frame frame;
     CDragListBox list;
     ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_HASSTRINGS, CRect(0, 0, 120, 120), &frame, IDC_IT));
     for (const LPCTSTR psz : {L"a", L"b", L"c"})
@@ -73,7 +75,7 @@ TEST(DragList, ADroppedItemMovesWithItsData) {
 }
 
 TEST(ComboEx, ItemsHavePictures) {
-    fx::Frame frame;
+    Frame frame;
     CComboBoxEx combo;
     ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(0, 0, 120, 120), &frame, IDC_IT));
     CImageList images;

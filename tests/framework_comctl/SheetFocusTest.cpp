@@ -1,7 +1,9 @@
 // Where the focus is when pages change, and sheets that are destroyed instead of ended.
 #include "SheetProbe.h"
 
-#include "support/Watchdog.h"
+#include "testkit/Watchdog.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -18,7 +20,7 @@ void TypeCtrlTab(Sheet&) {
 }
 
 TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     const auto setFocusByProgram = [](Sheet& s) {
         s.SetActivePage(1);
         ::SetFocus(::GetDlgItem(s.m_a, fx::IDC_NUMBER));
@@ -50,13 +52,13 @@ TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
                 ::PostMessage(hFocus, WM_SYSCHAR, 'z', 0x20000001);
                 ::PostMessage(hFocus, WM_KEYDOWN, '5', 1);
             };
-            EXPECT_EQ(1, fx::Play(sheet, {change, look, [&] { sheet.EndDialog(1); }}));
+            EXPECT_EQ(1, Play(sheet, {change, look, [&] { sheet.EndDialog(1); }}));
         }
     }
 }
 
 TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
-    const fx::Watchdog watchdog(20);
+    const Watchdog watchdog(20);
     struct Destroying : Sheet {
         using Sheet::Sheet;
         BOOL OnInitDialog() override {
@@ -67,7 +69,7 @@ TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
         }
         bool m_bDestroy = false;
     };
-    fx::Frame owner;
+    Frame owner;
     const Rows<const char*, std::function<void(Sheet&)>> cases = {
         {"by the object", [](Sheet& s) { s.DestroyWindow(); }},
         {"by the system", [](Sheet& s) { ::DestroyWindow(s); }},
@@ -78,10 +80,10 @@ TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
         SCOPED_TRACE(pszWay);
         Destroying sheet(&owner);
         sheet.m_bDestroy = go == nullptr;
-        EXPECT_EQ(-1, go ? fx::Play(sheet, {[&] { go(sheet); }}) : fx::Play(sheet, {}));
+        EXPECT_EQ(-1, go ? Play(sheet, {[&] { go(sheet); }}) : Play(sheet, {}));
         EXPECT_TRUE(sheet.m_hWnd == nullptr && sheet.m_a.m_hWnd == nullptr && owner.IsWindowEnabled());
         sheet.m_bDestroy = false;
-        fx::WhileOpen(sheet, [] {});
+        WhileOpen(sheet, [] {});
     }
 }
 

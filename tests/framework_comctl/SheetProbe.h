@@ -1,8 +1,10 @@
 // Property sheets and pages that write down what happens to them.
 #pragma once
 
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
+#include "testkit/TitleBar.h"
 
 #include "afxdlgs.h"
 
@@ -87,7 +89,7 @@ struct Sheet : CPropertySheet {
         CRect tab;
         GetTabControl()->GetItemRect(nTab, tab);
         GetTabControl()->ClientToScreen(tab);
-        pen::Tap(tab.CenterPoint());
+        testkit::pen::Tap(tab.CenterPoint());
     }
     std::string TakeLog() { return std::exchange(m_log, {}); }
 

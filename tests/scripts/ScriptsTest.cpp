@@ -1,8 +1,10 @@
 // What scripts of dialog editors become: the files of editor/ have each form that they write.
 #include "editor/resource.h"
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 
 #include <gtest/gtest.h>
+
+using namespace testkit;
 
 namespace {
 

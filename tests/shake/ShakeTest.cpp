@@ -2,10 +2,11 @@
 // seed and event; what is left open afterwards fails the test.
 //
 // SHAKE_EVENTS, SHAKE_SEED: see tools/shake.sh.
-#include "Shake.h"
+#include "support/TestApp.h"
 
 #include "support/AllControls.h"
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
+#include "testkit/Shake.h"
 
 #include "afxdlgs.h"
 #include "controls/nPropertyPage.h"
@@ -17,6 +18,8 @@
 #include "dialogs/ResMsgBox.h"
 #include "dialogs/ResultDlg.h"
 #include "dialogs/SelMemberDlg.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -30,7 +33,7 @@ struct Disk {
     }
 
 private:
-    TestDrive m_drive;
+    Drive m_drive;
 };
 
 template <class SheetClass, class PageClass, int COUNT>
@@ -116,7 +119,9 @@ class Shake : public testing::TestWithParam<Window> {};
 
 TEST_P(Shake, Of) {
     const Disk disk;
-    shake::Shake(GetParam().open, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
+    testkit::ShakeOptions options;
+    options.pszName = GetParam().pszName;
+    testkit::Shake(GetParam().open, options);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Shake, testing::ValuesIn(WINDOWS),

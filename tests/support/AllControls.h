@@ -1,7 +1,7 @@
 // A dialog with one of each control of the library.
 #pragma once
 
-#include "DialogTemplate.h"
+#include "testkit/DialogTemplate.h"
 
 #include "controls/IconButton.h"
 #include "controls/InfoStatic.h"

@@ -1,8 +1,9 @@
 // A dialog that does what a test tells it.
 #pragma once
 
-#include "DialogTemplate.h"
-#include "ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Script.h"
 
 namespace fx {
 

@@ -1,8 +1,8 @@
 // A window with controls to tap on.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
-#include "support/PenInput.h"
+#include "support/TestApp.h"
+#include "testkit/Pen.h"
 
 #include <algorithm>
 
@@ -16,16 +16,16 @@ struct Stage : Frame {
     }
 
     void Tap(CPoint screenPoint) {
-        pen::Tap(screenPoint);
+        testkit::pen::Tap(screenPoint);
         Settle();
     }
-    void Tap(const CWnd& wnd) { Tap(pen::Middle(wnd)); }
+    void Tap(const CWnd& wnd) { Tap(MiddleOf(wnd)); }
     void Drag(CPoint from, CPoint to) {
-        pen::Drag(from, to);
+        testkit::pen::Drag(from, to);
         Settle();
     }
     void Type(std::initializer_list<WORD> keys) {
-        pen::TypeKeys(keys);
+        testkit::TypeKeys(keys);
         Settle();
     }
 

@@ -1,8 +1,9 @@
 // The angle field: what it shows, what it takes, and when.
-#include "support/PanelPen.h"
+#include "testkit/Panel.h"
 #include "support/Stage.h"
-#include "support/DialogTemplate.h"
-#include "support/ModalScript.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Script.h"
+#include "testkit/Pen.h"
 
 #include "controls/nDialog.h"
 #include "survey/AngleEdit.h"
@@ -10,6 +11,8 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+
+using namespace testkit;
 
 namespace {
 
@@ -38,7 +41,7 @@ struct AngleStage : fx::Stage {
 
     void Enter() { Tap(m_angle); }
     void Leave() { Tap(*GetDlgItem(IDC_OTHER)); }
-    CString Text() const { return fx::TextOf(m_angle); }
+    CString Text() const { return TextOf(m_angle); }
 
     OpenAngleEdit m_angle;
 
@@ -190,7 +193,7 @@ TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
         stage.m_angle.Clear();
         stage.m_angle.Paste();
         stage.Leave();
-        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dAngle) << fx::Utf8(pszPasted);
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dAngle) << Utf8(pszPasted);
     }
 }
 
@@ -240,16 +243,16 @@ struct AngleDialog : CnDialog {
     CAngleEdit m_first, m_second;
 
 private:
-    fx::DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
+    DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
 };
 
 TEST(AngleEdit, FirstFieldOfAScreenKeepsAnAngleThatNobodyTouches) {
     AngleDialog dlg;
     const auto look = [&] {
-        EXPECT_EQ(L"90.0000", fx::TextOf(dlg.m_first));
+        EXPECT_EQ(L"90.0000", TextOf(dlg.m_first));
         dlg.SendMessage(WM_COMMAND, IDOK);
     };
-    EXPECT_EQ(IDOK, fx::Play(dlg, {look}));
+    EXPECT_EQ(IDOK, Play(dlg, {look}));
     EXPECT_DOUBLE_EQ(PI / 2, dlg.m_first.GetAngle());
 }
 
@@ -261,15 +264,15 @@ TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
         pen::Tap(dlg.m_second);
     };
     const auto look = [&] {
-        EXPECT_EQ(L"4.15006", fx::TextOf(dlg.m_second)) << "a tap beside the text leaves the caret there";
+        EXPECT_EQ(L"4.15006", TextOf(dlg.m_second)) << "a tap beside the text leaves the caret there";
     };
-    fx::PlayAndEnd(dlg, {[] {
-                             pen::TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB});
-                         },
-                         [] {
-                             pen::TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB});
-                         },
-                         tap, [] { pen::TypeKeys({'6'}); }, look});
+    PlayAndEnd(dlg, {[] {
+                         TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB});
+                     },
+                     [] {
+                         TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB});
+                     },
+                     tap, [] { TypeKeys({'6'}); }, look});
 }
 
 /// The panel's own handling of focus changes stays beside the conversion.
@@ -282,7 +285,7 @@ TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
     field.SetAngle(PI / 2);
     stage.Tap(field);
     panel::ExpectShown();
-    EXPECT_EQ(fx::TextOf(field), L"90.0000");
+    EXPECT_EQ(TextOf(field), L"90.0000");
     stage.Leave();
     panel::ExpectHidden();
     field.UnsubclassWindow();

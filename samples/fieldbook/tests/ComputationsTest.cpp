@@ -2,19 +2,21 @@
 #include "PenSteps.h"
 #include "screens/Computations.h"
 
+using namespace testkit;
+
 namespace {
 
 /// A name or a number, and Enter.
-fx::Step Type(const char* pszText) {
+Step Type(const char* pszText) {
     return [pszText] {
         for (const char* pch = pszText; *pch != '\0'; ++pch)
-            pen::TypeKeys({static_cast<WORD>(*pch)});
-        pen::TypeKeys({VK_RETURN});
+            TypeKeys({static_cast<WORD>(*pch)});
+        TypeKeys({VK_RETURN});
     };
 }
 
 /// An entry of the menu on the screen, from 0.
-fx::Step Entry(int nEntry) {
+Step Entry(int nEntry) {
     return [nEntry] {
         HWND hButton = nullptr;
         for (int i = 0; i <= nEntry; ++i)
@@ -36,7 +38,7 @@ TEST(Computations, AskForWhatTheyNeedAndWriteItDown) {
     const struct {
         const char* pszCase;
         std::optional<CReport> (CComputations::*compute)();
-        std::initializer_list<fx::Step> steps;
+        std::initializer_list<Step> steps;
         std::vector<CString> lines; ///< The first of the report; none if it was given up.
     } cases[] = {
         {"area, closed by an empty name",
@@ -66,7 +68,7 @@ TEST(Computations, AskForWhatTheyNeedAndWriteItDown) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszCase);
         std::optional<CReport> report;
-        fx::Play(
+        Play(
             [&] {
                 report = (computations.*c.compute)();
                 return 1;

@@ -12,7 +12,11 @@
 #include "screens/SecondTap.h"
 #include "screens/Resource.h"
 
+#include "support/Rows.h"
+
 #include <sstream>
+
+using namespace testkit;
 
 namespace {
 
@@ -32,12 +36,11 @@ struct JobFile : testing::Test {
         m_pJob = std::make_unique<CJob>(L"no-history.dat");
     }
     /// @param steps what the user does while it opens
-    bool Open(std::initializer_list<fx::Step> steps = {}) {
-        return fx::Play([&] { return OpenPointsFile(*m_pJob, m_file.GetPath(), m_parent) ? 1 : 0; }, steps) ==
-               1;
+    bool Open(std::initializer_list<Step> steps = {}) {
+        return Play([&] { return OpenPointsFile(*m_pJob, m_file.GetPath(), m_parent) ? 1 : 0; }, steps) == 1;
     }
-    bool Save(std::initializer_list<fx::Step> steps = {}) {
-        return fx::Play([&] { return SavePointsFile(*m_pJob, L".\\fieldbook-JOB.csv") ? 1 : 0; }, steps) == 1;
+    bool Save(std::initializer_list<Step> steps = {}) {
+        return Play([&] { return SavePointsFile(*m_pJob, L".\\fieldbook-JOB.csv") ? 1 : 0; }, steps) == 1;
     }
     bool HasBackup() const { return CTestFile::Exists(m_file.GetPath() + L".bak"); }
 
@@ -51,7 +54,7 @@ TEST_F(JobFile, FirstSaveKeepsWhatSomethingElseHasWritten) {
     const struct {
         const char *pszFile, *pszSaved;
         bool bBackup;
-        std::initializer_list<fx::Step> opening, saving;
+        std::initializer_list<Step> opening, saving;
     } cases[] = {
         {FILE_OF_OURS, FILE_OF_OURS, false, {}, {}},
         {FILE_OF_OTHERS, "\xE7\x82\xB9;N;E\nA;1.000000;2.000000\n", true, {}, {}},
@@ -92,8 +95,7 @@ TEST_F(JobFile, FileThatWasChangedOutsideIsAskedAbout) {
     // Read again, with the change that was not saved.
     m_pJob->book.Add({L"C", CCoordinate(2, 1, 0, 1)});
     m_file.Write(FILE_OF_OURS);
-    fx::Play([&] { return OfferToReload(*m_pJob, m_parent), 1; },
-             {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
+    Play([&] { return OfferToReload(*m_pJob, m_parent), 1; }, {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
     EXPECT_TRUE(m_pJob->book.GetCount() == 3 && m_pJob->book.Find(L"B") != nullptr &&
                 m_pJob->book.IsModified());
     ::DeleteFile(m_file.GetPath() + L".changes.old");
@@ -109,9 +111,9 @@ TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {
         m_pJob->book.AddRead({strName, CCoordinate(i % 1000, i, 0, 1)});
     }
     m_pJob->book.Remove(L"A");
-    const fx::Step close = [] { ::PostMessage(::GetActiveWindow(), WM_CLOSE, 0, 0); };
-    const fx::Step endOfSession = [] { EXPECT_TRUE(CProgressWindow::StopCurrent()); };
-    for (const fx::Step& stop : {TapIn(IDCANCEL), close, endOfSession}) {
+    const Step close = [] { ::PostMessage(::GetActiveWindow(), WM_CLOSE, 0, 0); };
+    const Step endOfSession = [] { EXPECT_TRUE(CProgressWindow::StopCurrent()); };
+    for (const Step& stop : {TapIn(IDCANCEL), close, endOfSession}) {
         EXPECT_FALSE(Save({stop}));
         EXPECT_TRUE(m_file.Read() == FILE_OF_OTHERS && m_pJob->book.IsModified() && !HasBackup());
         EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
@@ -130,7 +132,7 @@ TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {
             EXPECT_TRUE(list.GetItemText(0, 0) == pszText);
         };
     };
-    fx::Play(dialog, {tapHeading, TapIn(IDCANCEL), isFirst(L"K1"), Close(dialog)});
+    Play(dialog, {tapHeading, TapIn(IDCANCEL), isFirst(L"K1"), Close(dialog)});
 }
 
 TEST_F(JobFile, QuickSecondTapDoesNothingTwice) {
@@ -144,10 +146,10 @@ TEST_F(JobFile, QuickSecondTapDoesNothingTwice) {
                 pen::Tap(*CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), nId)));
         };
     };
-    fx::Play(list, {twice(IDC_UNDO), Close(list)});
+    Play(list, {twice(IDC_UNDO), Close(list)});
     EXPECT_EQ(m_pJob->book.GetCount(), 2);
     CPointEntryDlg entry(*m_pJob, nullptr);
-    fx::Play(entry, {Keys({'1', VK_RETURN, '2'}), NoPanel(), twice(IDC_ADD), Close(entry)});
+    Play(entry, {Keys({'1', VK_RETURN, '2'}), NoPanel(), twice(IDC_ADD), Close(entry)});
     EXPECT_EQ(m_pJob->book.GetCount(), 3);
 }
 
@@ -186,17 +188,15 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
     m_pJob->book.Remove(L"A");
     const CTestFile other(L"fieldbook-other.csv", "A,1,2\r\n\x83,1,2\r\n");
     const auto open = [&](CJob& job, const CString& strPath) {
-        return fx::Play([&] { return OpenPointsFile(job, strPath, m_parent) ? 1 : 0; }, {Answer(IDOK)});
+        return Play([&] { return OpenPointsFile(job, strPath, m_parent) ? 1 : 0; }, {Answer(IDOK)});
     };
     EXPECT_EQ(open(*m_pJob, other.GetPath()), 0) << "bytes that are no text";
     EXPECT_EQ(open(*m_pJob, L"fieldbook-no-such.csv"), 0);
     CJob second(L"no-history.dat");
     EXPECT_EQ(open(second, m_file.GetPath()), 0) << "a second program is told";
     EXPECT_EQ(second.book.GetCount(), 0);
-    EXPECT_EQ(fx::Play([&] { return SavePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}),
-              0);
-    EXPECT_EQ(fx::Play([&] { return MakePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}),
-              0);
+    EXPECT_EQ(Play([&] { return SavePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}), 0);
+    EXPECT_EQ(Play([&] { return MakePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}), 0);
     EXPECT_TRUE(m_pJob->strPath == m_file.GetPath());
     EXPECT_EQ(m_pJob->book.GetCount(), 1);
     EXPECT_TRUE(m_pJob->book.IsModified());
@@ -213,7 +213,7 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
 
 /// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "x" closes, "end" ends the
 /// session, "yes" and "no" answer.
-fx::Step Action(CPointEntryDlg& dialog, const std::string& action) {
+Step Action(CPointEntryDlg& dialog, const std::string& action) {
     if (action == "N" || action == "E")
         return Tap(dialog, action == "N" ? IDC_N : IDC_E);
     if (action == "x")
@@ -227,7 +227,7 @@ fx::Step Action(CPointEntryDlg& dialog, const std::string& action) {
             if (ch == '+')
                 pen::Tap(*dialog.GetDlgItem(IDC_ADD));
             else
-                pen::TypeKeys({static_cast<WORD>(ch == '!' ? VK_RETURN : ch)});
+                TypeKeys({static_cast<WORD>(ch == '!' ? VK_RETURN : ch)});
     };
 }
 
@@ -245,12 +245,12 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
         SCOPED_TRACE(pszCase);
         Restart();
         CPointEntryDlg dialog(*m_pJob, nullptr);
-        fx::ModalScript script;
+        Script script;
         std::istringstream words(actions);
         for (std::string action; words >> action;) {
             if (action[0] == '+')
-                script.Until(NoPanel().run);
-            script.Until(Action(dialog, action).run);
+                script.Until(NoPanel());
+            script.Until(Action(dialog, action));
         }
         script.Run([&] { return dialog.DoModal(); });
         std::string bytes;
@@ -265,7 +265,7 @@ TEST_F(JobFile, PointIsChosenFromListAndPlan) {
         m_pJob->book.Add({pszName, CCoordinate(m_pJob->book.GetCount() * 10.0, 1, 0, 1)});
     const struct {
         const char* pszCase;
-        std::initializer_list<fx::Step> steps;
+        std::initializer_list<Step> steps;
         const wchar_t* pszName;
     } cases[] = {
         {"a tap on a row", {TapIn(IDC_PICK_LIST), TapRow(0)}, L"境界1"},
@@ -277,7 +277,7 @@ TEST_F(JobFile, PointIsChosenFromListAndPlan) {
         SCOPED_TRACE(pszCase);
         CNameDlg dialog(L"?", L"", m_pJob->history, nullptr);
         dialog.OfferPoints(*m_pJob);
-        EXPECT_EQ(fx::Play(dialog, steps), IDOK);
+        EXPECT_EQ(Play(dialog, steps), IDOK);
         EXPECT_TRUE(dialog.GetName() == pszName);
     }
 }
@@ -290,9 +290,8 @@ TEST_F(JobFile, RemovedPointComesBackToItsPlace) {
     const auto count = [&](int nExpected) {
         return [&, nExpected] { EXPECT_EQ(m_pJob->book.GetCount(), nExpected); };
     };
-    fx::Play(dialog,
-             {TapRow(1), Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
-              Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
+    Play(dialog, {TapRow(1), Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
+                  Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
     EXPECT_TRUE(m_pJob->book.GetPoints()[1].strName == L"B" && !m_pJob->book.CanUndo());
 }
 

@@ -1,5 +1,5 @@
 // Each call that saving and loading make into the system fails, for each reason that there is.
-#include "FaultPoints.h"
+#include "testkit/Faults.h"
 #include "points/History.h"
 #include "points/ChangeFile.h"
 #include "points/FileReplacement.h"
@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+
+using namespace testkit;
 
 namespace {
 

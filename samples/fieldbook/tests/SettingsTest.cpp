@@ -1,8 +1,9 @@
 #include "screens/Settings.h"
 
-#include "support/FrameworkEnvironment.h"
+#include "testkit/Application.h"
+#include "testkit/GTest.h"
 
-#include <gtest/gtest.h>
+using namespace testkit;
 
 namespace {
 
@@ -10,11 +11,10 @@ constexpr wchar_t COMPANY[] = L"FieldbookTest";
 constexpr wchar_t PRIVATE_KEY[] = L"Software\\FieldbookTest";
 constexpr wchar_t SHARED_KEY[] = L"Software\\Tesuvo\\Common";
 
-CWinApp& g_app = fx::g_app;
+testkit::Application g_app(L"test");
 
 struct Settings : testing::Test {
     void SetUp() override {
-        AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL);
         g_app.SetRegistryKey(COMPANY);
         m_saved = LoadSettings(g_app);
     }

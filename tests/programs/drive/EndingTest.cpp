@@ -1,4 +1,7 @@
-#include "Program.h"
+#include "testkit/GTest.h"
+#include "testkit/Program.h"
+
+using namespace testkit;
 
 TEST(ProgramsTest, EveryWayToEndKeepsTheSettingsAndEnds) {
     constexpr wchar_t kKey[] = L"Software\\Fieldkit tests\\Ending";
@@ -6,7 +9,7 @@ TEST(ProgramsTest, EveryWayToEndKeepsTheSettingsAndEnds) {
     for (const wchar_t* const pszWay : {L"end", L"quit", L"destroy", L"owner", L"unload", L"thread",
                                         L"window-thread", L"exit", L"exit-process"}) {
         SCOPED_TRACE(testing::PrintToString(pszWay));
-        EXPECT_EQ(drive::Program(L"Ending", nullptr, pszWay).End(), 3U);
+        EXPECT_EQ(Program(L"Ending", nullptr, pszWay).End(), 3U);
         wchar_t szValue[8] = {};
         DWORD nSize = sizeof szValue;
         ::RegGetValueW(HKEY_CURRENT_USER, (std::wstring(kKey) + L"\\Ways").c_str(), pszWay, RRF_RT_REG_SZ,

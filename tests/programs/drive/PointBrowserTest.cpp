@@ -1,12 +1,14 @@
-#include "Program.h"
+#include "About.h"
 #include "../pointbrowser/resource.h"
+
+#include "afxres.h"
 
 #include <commctrl.h>
 
 #include <fstream>
 #include <iterator>
 
-using drive::Until;
+using namespace testkit;
 
 namespace {
 
@@ -18,13 +20,13 @@ std::string ContentsOf(const std::wstring& path) {
 } // namespace
 
 TEST(ProgramsTest, PointBrowserFindsSavesAndLoads) {
-    const std::wstring job = drive::OwnFolder() + L"survey.job";
+    const std::wstring job = OwnFolder() + L"survey.job";
     ::DeleteFileW(job.c_str());
     for (const LRESULT nPoints :
          {5, 4}) { // a point is deleted and the job saved; the second run has what is left
-        const drive::Program program(L"PointBrowser", L"点ブラウザー", L"\"" + job + L"\"");
+        const Program program(L"PointBrowser", L"点ブラウザー", L"\"" + job + L"\"");
         EXPECT_EQ(::SendMessage(program.Item(IDC_POINTS), LVM_GETITEMCOUNT, 0, 0), nPoints);
-        program.Fill(IDC_FIND, {nPoints == 5 ? WORD{'T'} : WORD{'B'}});
+        program.Fill(IDC_FIND, nPoints == 5 ? L"t" : L"b");
         program.ExpectText(IDC_COUNT, nPoints == 5 ? L"5 点  基準点: T1" : L"4 点  境界点: B7");
         if (nPoints == 5) {
             program.Command(ID_POINT_DELETE);
@@ -36,7 +38,7 @@ TEST(ProgramsTest, PointBrowserFindsSavesAndLoads) {
             EXPECT_TRUE(Until([&] { return !ContentsOf(job + L".csv").empty(); }));
             EXPECT_EQ(ContentsOf(job + L".csv").find("T2,1043.215,2011.870,35.940\r\n"), 0U);
         }
-        program.ShowAbout(L"点ブラウザーについて");
+        ShowAbout(program, L"点ブラウザーについて");
         ::PostMessage(program.Main(), WM_CLOSE, 0, 0);
         EXPECT_EQ(program.End(), 0U);
     }

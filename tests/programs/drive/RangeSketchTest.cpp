@@ -1,18 +1,20 @@
-#include "Program.h"
+#include "About.h"
+#include "testkit/Pen.h"
 #include "../rangesketch/resource.h"
 
+using namespace testkit;
+
 TEST(ProgramsTest, RangeSketchMeasuresWhatIsDrawn) {
-    const drive::Program program(L"RangeSketch", L"RangeSketch");
+    const Program program(L"RangeSketch", L"RangeSketch");
     RECT sketch = {};
     ::GetWindowRect(program.Item(IDC_SKETCH), &sketch);
     for (const POINT point : {POINT{20, 20}, POINT{120, 20}, POINT{120, 70}, POINT{20, 70}})
         pen::Tap({sketch.left + point.x, sketch.top + point.y});
     // 100 + 50 + 100 pixels of a tenth of a metre
     program.ExpectText(IDC_LENGTH, L"25.00 m (1 px = 100 mm)");
-    EXPECT_TRUE(drive::Until([&] { return ::IsWindowEnabled(program.Item(IDC_COMPUTE)); }));
     program.Tap(IDC_COMPUTE);
     program.ExpectText(IDC_AREA, L"Area 50.00 m\u00B2");
-    program.ShowAbout(L"About RangeSketch");
+    ShowAbout(program, L"About RangeSketch");
     ::PostMessage(program.Main(), WM_CLOSE, 0, 0);
     EXPECT_EQ(program.End(), 0U);
 }

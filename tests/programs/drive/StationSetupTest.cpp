@@ -1,14 +1,16 @@
-#include "Program.h"
+#include "testkit/GTest.h"
+#include "testkit/Pen.h"
+#include "testkit/Program.h"
 #include "../stationsetup/resource.h"
 
 #include <commctrl.h>
 
-using drive::Until;
+using namespace testkit;
 
 namespace {
 
 // The pages are dialogs in the sheet; the one that is shown comes first.
-HWND PageItem(const drive::Program& program, int nID) {
+HWND PageItem(const Program& program, int nID) {
     HWND hPage = nullptr;
     EXPECT_TRUE(Until([&] {
         hPage = ::FindWindowExW(program.Main(), nullptr, L"#32770", nullptr);
@@ -31,16 +33,16 @@ TEST(ProgramsTest, StationSetupFillsItsListsAndKeepsItsSettings) {
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Levelling Tools");
     for (const wchar_t* const pszExpected :
          {L"-17", L"-30"}) { // what the second run finds is the first one's
-        const drive::Program program(L"StationSetup", L"Station setup");
+        const Program program(L"StationSetup", L"Station setup");
         const HWND hPrism = PageItem(program, IDC_PRISM);
         EXPECT_EQ(::SendMessage(hPrism, CB_GETCOUNT, 0, 0), 4);
         EXPECT_EQ(::SendMessage(PageItem(program, IDC_MODEL), CB_GETCOUNT, 0, 0), 4);
-        drive::FocusByTap(hPrism);
-        pen::TypeKeys({VK_RETURN}); // closes the list
-        pen::TypeKeys({VK_DOWN});
+        FocusByTap(hPrism);
+        TypeKeys({VK_RETURN}); // closes the list
+        TypeKeys({VK_DOWN});
         EXPECT_TRUE(
-            Until([&] { return drive::TextOf(PageItem(program, IDC_CONSTANT)).rfind(pszExpected, 0) == 0; }));
-        const POINT ok = drive::MiddleOf(program.Item(IDOK));
+            Until([&] { return TextOf(PageItem(program, IDC_CONSTANT)).rfind(pszExpected, 0) == 0; }));
+        const POINT ok = MiddleOf(program.Item(IDOK));
         for (const LONG x : {210, 215}) // on the screen, and on the button
             pen::Move({x, ok.y});
         EXPECT_TRUE(Until(IsTipShown));

@@ -1,12 +1,14 @@
-#include "support/FrameworkEnvironment.h"
+#include "support/TestApp.h"
 #include "util/StringStack.h"
+
+using namespace testkit;
 
 namespace {
 
 using Texts = std::vector<CString>;
 
 TEST(StringStack, FillsAComboBoxAndLeavesItsText) {
-    fx::Frame frame;
+    Frame frame;
     CStringStack stack;
     stack.Add(L"B", 0);
     stack.Add(L"A", 0);
@@ -21,7 +23,7 @@ TEST(StringStack, FillsAComboBoxAndLeavesItsText) {
         for (size_t i = 0; i < texts.size(); ++i)
             combo.GetLBText(static_cast<int>(i), texts[i]);
         EXPECT_EQ(texts, (Texts{L"A", L"B", L"境界点"}));
-        EXPECT_EQ(fx::TextOf(combo), strTyped);
+        EXPECT_EQ(TextOf(combo), strTyped);
     }
     CStringStack empty;
     combo.SetWindowText(L"typed");

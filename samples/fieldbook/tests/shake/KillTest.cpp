@@ -1,5 +1,5 @@
 // The program is killed at any moment while points are entered: whatever was confirmed is there.
-#include "support/FrameworkEnvironment.h"
+#include <gtest/gtest.h>
 
 #include "../TestFile.h"
 #include "../WindowCloser.h"

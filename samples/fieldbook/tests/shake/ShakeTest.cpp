@@ -1,5 +1,7 @@
-// Every screen under random input, see the library's tests/shake.
-#include "shake/Shake.h"
+// Every screen under random input, see docs/testkit.md of the library.
+#include "testkit/Application.h"
+#include "testkit/GTest.h"
+#include "testkit/Shake.h"
 
 #include "screens/BadLines.h"
 #include "screens/ColumnChoice.h"
@@ -17,9 +19,13 @@
 #include "screens/Resource.h"
 #include "screens/SettingsSheet.h"
 #include "Tesuvo.h"
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
+
+using namespace testkit;
 
 namespace {
+
+testkit::Application g_app(L"test");
 
 /// A job of two points on a drive of its own: random names are saved, nothing else may be reached.
 struct CShakenJob : CJob {
@@ -68,12 +74,14 @@ const Screen SCREENS[] = {
 class FieldbookShake : public testing::TestWithParam<Screen> {};
 
 TEST_P(FieldbookShake, Of) {
-    const TestDrive drive;
+    const Drive drive;
     const auto openJob = [open = GetParam().open](CWnd* pOwner) {
         CShakenJob job;
         open(job, pOwner);
     };
-    shake::Shake(openJob, [](int nMode) { nMode == 3 ? TVCloseSIP() : TVShowSIP(nMode); });
+    testkit::ShakeOptions options;
+    options.pszName = GetParam().pszName;
+    testkit::Shake(openJob, options);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FieldbookShake, testing::ValuesIn(SCREENS),

@@ -4,9 +4,11 @@
 #include "afxdlgs.h"
 #include "afxext.h"
 
-#include "support/DialogTemplate.h"
+#include "testkit/DialogTemplate.h"
 
 #include <cstdlib>
+
+using namespace testkit;
 
 namespace {
 
@@ -29,7 +31,7 @@ private:
 
 // Static objects of every kind. They go when the framework has ended its part, and those with windows have
 // them still.
-fx::DialogTemplate g_template;
+DialogTemplate g_template;
 CString g_strText;
 CFont g_font;
 CImageList g_images;

@@ -1,31 +1,36 @@
 // Seeded random input into whatever windows the thread has open.
 #pragma once
 
-#include "StackTrace.h"
+#include "testkit/Watchdog.h"
+#include "testkit/detail/StackTrace.h"
+#include "testkit/detail/TopLevels.h"
+
+#include "Tesuvo.h"
 #include "afxext.h"
 
-#include "support/Watchdog.h"
-
+#include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
+#include <initializer_list>
+#include <iterator>
 #include <random>
+#include <string>
 
-namespace shake {
+namespace testkit::detail {
 
 /// Pen, keys, focus, activation, settings and destruction, a burst at each timer tick, in whatever
 /// message loop is the innermost. Events are posted as the system posts them: the same seed gives
 /// the same ones, and there are many more a second than by real input.
 struct Shaker {
-    Shaker(const char* pszScenario, unsigned nSeed) : m_nSeed(nSeed), m_random(nSeed) {
+    Shaker(std::string name, unsigned nSeed) : m_name(std::move(name)), m_nSeed(nSeed), m_random(nSeed) {
         s_pThis = this;
-        m_pszScenario = pszScenario;
-        ::SetUnhandledExceptionFilter(OnCrash);
+        m_pfnFilter = ::SetUnhandledExceptionFilter(OnCrash);
         m_nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
     }
     ~Shaker() {
         ::KillTimer(nullptr, m_nTimer);
+        ::SetUnhandledExceptionFilter(m_pfnFilter);
         BYTE keys[256] = {};
         ::SetKeyboardState(keys);
         s_pThis = nullptr;
@@ -48,29 +53,21 @@ private:
         HWND hWnd = nullptr;
         int nFirst = 0, nSecond = 0;
     };
-    static constexpr int BURST = 16, KEPT = 20, MOST_FORCE = 200;
-    static constexpr DWORD HANG_SECONDS = 20;
+    static constexpr int kBurst = 16, kKept = 20, kMostForce = 200;
+    static constexpr DWORD kHangSeconds = 20;
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         Shaker* const pThis = s_pThis;
         if (pThis == nullptr || !pThis->m_bOn)
             return;
-        if (pThis->m_nForced < MOST_FORCE) // what no force ends is a hang
+        if (pThis->m_nForced < kMostForce) // what no force ends is a hang
             pThis->m_watchdog.Feed();
         if (pThis->m_nEvents >= pThis->m_nRoundEnd) {
             pThis->Force();
             return;
         }
-        for (int i = 0; i < BURST && pThis->m_bOn; ++i)
+        for (int i = 0; i < kBurst && pThis->m_bOn; ++i)
             pThis->Next();
-    }
-
-    static void OnHang() {
-        if (s_pThis == nullptr)
-            return;
-        s_pThis->Print();
-        std::fflush(stdout);
-        PrintStackOf(s_pThis->m_nThread);
     }
 
     static LONG WINAPI OnCrash(EXCEPTION_POINTERS* pInfo) {
@@ -92,9 +89,9 @@ private:
     }
 
     void Print() const {
-        std::printf("%s, seed %u, event %d; the last ones:\n", m_pszScenario, m_nSeed, m_nEvents);
-        for (int i = std::max(0, m_nEvents - KEPT); i < m_nEvents; ++i) {
-            const CEvent& event = m_events[static_cast<size_t>(i % KEPT)];
+        std::printf("%s, seed %u, event %d; the last ones:\n", m_name.c_str(), m_nSeed, m_nEvents);
+        for (int i = std::max(0, m_nEvents - kKept); i < m_nEvents; ++i) {
+            const CEvent& event = m_events[static_cast<size_t>(i % kKept)];
             char szClass[40] = {};
             ::GetClassNameA(event.hWnd, szClass, 40);
             std::printf("  %d %s %p %s %d %d\n", i, event.pszKind, static_cast<void*>(event.hWnd), szClass,
@@ -103,7 +100,7 @@ private:
     }
 
     void Keep(const char* pszKind, HWND hWnd, int nFirst = 0, int nSecond = 0) {
-        m_events[static_cast<size_t>(m_nEvents % KEPT)] = {pszKind, hWnd, nFirst, nSecond};
+        m_events[static_cast<size_t>(m_nEvents % kKept)] = {pszKind, hWnd, nFirst, nSecond};
         ++m_nEvents;
     }
 
@@ -115,12 +112,6 @@ private:
 
     static BOOL CALLBACK Add(HWND hWnd, LPARAM lWindows) {
         return reinterpret_cast<Windows*>(lWindows)->push_back(hWnd), TRUE;
-    }
-    static Windows TopLevels() {
-        Windows windows;
-        ::EnumThreadWindows(::GetCurrentThreadId(), Add, reinterpret_cast<LPARAM>(&windows));
-        std::erase_if(windows, [](HWND hWnd) { return !::IsWindowVisible(hWnd); });
-        return windows;
     }
     HWND Any(const Windows& windows) {
         return windows.empty() ? nullptr
@@ -158,14 +149,14 @@ private:
         }
         ::SetCursorPos(m_pen.x, m_pen.y);
         // A press without a lift, a lift without a press, a move, a double tap, and mostly a tap.
-        static constexpr std::initializer_list<UINT> TAP = {WM_LBUTTONDOWN, WM_LBUTTONUP};
-        static constexpr std::initializer_list<UINT> KINDS[] = {
+        static constexpr std::initializer_list<UINT> kTap = {WM_LBUTTONDOWN, WM_LBUTTONUP};
+        static constexpr std::initializer_list<UINT> kKinds[] = {
             {WM_LBUTTONDOWN},
             {WM_LBUTTONUP},
             {WM_MOUSEMOVE},
             {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}};
         const size_t nKind = static_cast<size_t>(Pick(8));
-        for (const UINT message : nKind < std::size(KINDS) ? KINDS[nKind] : TAP)
+        for (const UINT message : nKind < std::size(kKinds) ? kKinds[nKind] : kTap)
             Mouse(message);
     }
 
@@ -207,14 +198,14 @@ private:
     }
 
     void Key() {
-        static constexpr WORD KEYS[] = {VK_TAB,  VK_TAB,    VK_TAB,        VK_LEFT,     VK_RIGHT, VK_UP,
-                                        VK_DOWN, VK_RETURN, VK_SPACE,      VK_ESCAPE,   VK_BACK,  VK_DELETE,
-                                        VK_HOME, VK_END,    VK_PRIOR,      VK_NEXT,     VK_F1,    VK_F4,
-                                        VK_F10,  VK_MENU,   VK_OEM_PERIOD, VK_OEM_MINUS};
+        static constexpr WORD kKeys[] = {VK_TAB,  VK_TAB,    VK_TAB,        VK_LEFT,     VK_RIGHT, VK_UP,
+                                         VK_DOWN, VK_RETURN, VK_SPACE,      VK_ESCAPE,   VK_BACK,  VK_DELETE,
+                                         VK_HOME, VK_END,    VK_PRIOR,      VK_NEXT,     VK_F1,    VK_F4,
+                                         VK_F10,  VK_MENU,   VK_OEM_PERIOD, VK_OEM_MINUS};
         const int nChoice = Pick(3);
         const WORD wKey = nChoice == 0   ? static_cast<WORD>('0' + Pick(10))
                           : nChoice == 1 ? static_cast<WORD>('A' + Pick(26))
-                                         : KEYS[Pick(static_cast<int>(std::size(KEYS)))];
+                                         : kKeys[Pick(static_cast<int>(std::size(kKeys)))];
         const int nModifier = Pick(8); // 0 Shift, 1 Ctrl, 2 Alt, else none
         BYTE keys[256] = {};
         keys[VK_SHIFT] = nModifier == 0 ? 0x80 : 0;
@@ -222,8 +213,8 @@ private:
         keys[VK_MENU] = nModifier == 2 ? 0x80 : 0;
         ::SetKeyboardState(keys);
         const HWND hFocus = ::GetFocus() != nullptr ? ::GetFocus() : ::GetActiveWindow();
-        static constexpr const char* MODIFIERS[] = {"shift", "ctrl", "alt", "key"};
-        Keep(MODIFIERS[std::min(nModifier, 3)], hFocus, wKey);
+        static constexpr const char* kModifiers[] = {"shift", "ctrl", "alt", "key"};
+        Keep(kModifiers[std::min(nModifier, 3)], hFocus, wKey);
         if (hFocus == nullptr)
             return;
         const bool bAlt = nModifier == 2 || wKey == VK_F10 || wKey == VK_MENU;
@@ -252,8 +243,11 @@ private:
             ::PostMessage(hTop, WM_SETTINGCHANGE, nKind % 2 != 0 ? SPI_SETWORKAREA : SPI_SETSIPINFO, 0);
         } else if (nKind < 30) {
             Keep("panel", hTop, nKind);
-            if (m_panel)
-                m_panel(nKind - 26);
+            constexpr int kModes = 3;
+            if (nKind - 26 < kModes)
+                TVShowSIP(nKind - 26);
+            else
+                TVCloseSIP();
         } else if (nKind < 34) {
             const HWND hWnd = AnyWindow();
             Keep("timer", hWnd);
@@ -274,10 +268,7 @@ private:
     /// Ends what is open: as a user would, and in the end by destroying it.
     void Force() {
         ++m_nForced;
-        ::ReleaseCapture();
-        ::EndMenu();
-        // The system moves a window in a loop that only a lift or a key ends, even when it is destroyed.
-        ::PostThreadMessage(m_nThread, WM_LBUTTONUP, 0, 0);
+        EndInput();
         for (const HWND hWnd : TopLevels()) {
             if (!::IsWindow(hWnd))
                 continue;
@@ -288,13 +279,10 @@ private:
         }
     }
 
-public:
-    std::function<void(int)> m_panel; ///< Shows the soft input panel in a mode; 3 hides it.
-
-private:
     static inline Shaker* s_pThis = nullptr;
 
-    const char* m_pszScenario = "";
+    const std::string m_name;
+    LPTOP_LEVEL_EXCEPTION_FILTER m_pfnFilter = nullptr; ///< That of the program.
     unsigned m_nSeed;
     std::mt19937 m_random;
     UINT_PTR m_nTimer = 0;
@@ -302,9 +290,8 @@ private:
     int m_nEvents = 0, m_nRoundEnd = 0;
     int m_nForced = 0; ///< Ticks since the round is to end.
     CPoint m_pen{100, 100};
-    std::array<CEvent, KEPT> m_events;
-    DWORD m_nThread = ::GetCurrentThreadId();
-    fx::Watchdog m_watchdog{HANG_SECONDS, OnHang};
+    std::array<CEvent, kKept> m_events;
+    Watchdog m_watchdog{kHangSeconds, [this] { Print(); }};
 };
 
-} // namespace shake
+} // namespace testkit::detail

@@ -6,13 +6,13 @@
 #include <cstdio>
 #include <cstring>
 
-namespace shake {
+namespace testkit::detail {
 
 /// Prints the return addresses as module and address for addr2line. The context is that of a thread
 /// that is suspended or has crashed: nothing here may need memory, the thread may hold the heap.
 inline void PrintStack(CONTEXT context) {
-    constexpr int DEEPEST = 60;
-    for (int i = 0; i < DEEPEST && context.Rip != 0; ++i) {
+    constexpr int kDeepest = 60;
+    for (int i = 0; i < kDeepest && context.Rip != 0; ++i) {
         DWORD64 nBase = 0;
         PRUNTIME_FUNCTION pFunction = ::RtlLookupFunctionEntry(context.Rip, &nBase, nullptr);
         char szModule[MAX_PATH] = "?";
@@ -47,4 +47,4 @@ inline void PrintStackOf(DWORD nThread) {
         PrintStack(context);
 }
 
-} // namespace shake
+} // namespace testkit::detail

@@ -1,14 +1,16 @@
-// Dialog templates built in memory.
+/// @file
+/// Dialog templates built in memory, for dialogs that only a test has.
 #pragma once
 
 #include "afxwin.h"
 
 #include <vector>
 
-namespace fx {
+namespace testkit {
 
 /// A dialog template with its controls, all in dialog units.
 struct DialogTemplate {
+    /// A popup without controls.
     explicit DialogTemplate(short cx = 100, short cy = 80, DWORD dwStyle = WS_POPUP | WS_VISIBLE | WS_CAPTION,
                             LPCTSTR pszTitle = L"") {
         Long(dwStyle);
@@ -20,6 +22,7 @@ struct DialogTemplate {
         Text(pszTitle);
     }
 
+    /// Adds a control, which is visible.
     DialogTemplate& Add(LPCTSTR pszClass, LPCTSTR pszText, int nID, DWORD dwStyle, short x, short y, short cx,
                         short cy) {
         if (m_words.size() % 2 != 0)
@@ -35,13 +38,17 @@ struct DialogTemplate {
         return *this;
     }
 
+    /// Adds a button or a field in the next free row, below each other.
+    ///@{
     DialogTemplate& Button(int nID, LPCTSTR pszText = L"", DWORD dwStyle = BS_PUSHBUTTON | WS_TABSTOP) {
         return Add(WC_BUTTON, pszText, nID, dwStyle, 2, NextRow(), 40, 12);
     }
     DialogTemplate& Edit(int nID, DWORD dwStyle = ES_AUTOHSCROLL | WS_TABSTOP | WS_BORDER) {
         return Add(WC_EDIT, L"", nID, dwStyle, 2, NextRow(), 60, 12);
     }
+    ///@}
 
+    /// The template as the system wants it; valid as long as this object.
     LPCDLGTEMPLATE Get() const { return reinterpret_cast<LPCDLGTEMPLATE>(m_words.data()); }
 
 private:
@@ -66,12 +73,13 @@ private:
     std::vector<WORD> m_words;
 };
 
-/// A popup dialog from a template in memory.
+/// A popup dialog from a template in memory, which must live as long as the dialog.
 struct TemplateDialog : CDialog {
+    /// Ready for DoModal().
     explicit TemplateDialog(const DialogTemplate& dialogTemplate, CWnd* pParentWnd = nullptr) {
         m_bFullScreen = FALSE;
         InitModalIndirect(dialogTemplate.Get(), pParentWnd);
     }
 };
 
-} // namespace fx
+} // namespace testkit

@@ -1,0 +1,50 @@
+#include "testkit/Panel.h"
+
+#include "testkit/Application.h"
+
+#include "Tesuvo.h"
+
+namespace testkit {
+
+HWND panel::OfThread(DWORD nThread) {
+    HWND hPanel = nullptr;
+    const auto find = [](HWND hWnd, LPARAM lFound) -> BOOL {
+        wchar_t szName[64] = L"";
+        ::GetClassName(hWnd, szName, 64);
+        if (std::wstring(szName) != L"TesuvoInputPanel")
+            return TRUE;
+        *reinterpret_cast<HWND*>(lFound) = hWnd;
+        return FALSE;
+    };
+    ::EnumThreadWindows(nThread, find, reinterpret_cast<LPARAM>(&hPanel));
+    return hPanel;
+}
+
+bool panel::IsVisible() {
+    return ::IsWindowVisible(OfThread()) != FALSE;
+}
+
+std::wstring panel::Title() {
+    return TextOf(OfThread());
+}
+
+CRect panel::Place() {
+    return RectOf(OfThread());
+}
+
+void panel::ExpectShown(const testkit::Place& place) {
+    if (!PumpUntil(IsVisible))
+        Fail("the input panel does not come", place);
+}
+
+void panel::ExpectHidden(const testkit::Place& place) {
+    if (!PumpUntil([] { return !IsVisible(); }))
+        Fail("the input panel does not go", place);
+}
+
+void panel::Close(const testkit::Place& place) {
+    TVCloseSIP();
+    ExpectHidden(place);
+}
+
+} // namespace testkit

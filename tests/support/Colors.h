@@ -1,0 +1,33 @@
+// Colors that tests look for, and an icon to look for.
+#pragma once
+
+#include "afxwin.h"
+
+#include <vector>
+
+namespace fx {
+
+constexpr COLORREF BLACK = RGB(0, 0, 0);
+constexpr COLORREF WHITE = RGB(255, 255, 255);
+constexpr COLORREF MAGENTA = RGB(255, 0, 255);
+
+/// An icon that is one square of magenta.
+struct SquareIcon {
+    explicit SquareIcon(int nSize = 16) {
+        CBitmap mask; // all 0: nothing shines through
+        const std::vector<BYTE> bits(static_cast<size_t>(nSize * nSize), 0);
+        mask.CreateBitmap(nSize, nSize, 1, 1, bits.data());
+        CBitmap color;
+        const std::vector<DWORD> pixels(static_cast<size_t>(nSize * nSize), 0xFFFF00FF);
+        color.CreateBitmap(nSize, nSize, 1, 32, pixels.data());
+        ICONINFO info = {TRUE, 0, 0, mask, color};
+        m_hIcon = ::CreateIconIndirect(&info);
+    }
+    ~SquareIcon() { ::DestroyIcon(m_hIcon); }
+    operator HICON() const { return m_hIcon; }
+
+private:
+    HICON m_hIcon = nullptr;
+};
+
+} // namespace fx

@@ -1,0 +1,33 @@
+// The application of the test programs that open windows: include this in each of their files.
+#pragma once
+
+#include "testkit/Application.h"
+#include "testkit/GTest.h"
+
+#include "Rows.h"
+
+#include "afxext.h"
+
+#include <new>
+
+namespace fx {
+
+using namespace testkit;
+
+/// The application object of a test program.
+struct TestApp : Application {
+    TestApp() : Application(L"test") {}
+
+    LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override {
+        if (!m_bThrowAgain)
+            return CWinApp::ProcessWndProcException(e, pMsg);
+        e->Delete();
+        throw std::bad_alloc();
+    }
+
+    bool m_bThrowAgain = false; ///< When it is to tell of an exception.
+};
+
+inline TestApp g_app;
+
+} // namespace fx
