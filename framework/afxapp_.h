@@ -314,6 +314,16 @@ AFX_CORE LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = 
 
 // --- Extension modules ---------------------------------------------------------------
 
+/// Loads a DLL, and lets it go. @return null, and FALSE, on failure
+///@{
+inline HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName) {
+    return ::LoadLibrary(lpszModuleName);
+}
+inline BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib) {
+    return ::FreeLibrary(hInstLib);
+}
+///@}
+
 /// All modules have one state: nothing is to be switched at a DLL's entry points.
 ///@{
 struct AFX_MODULE_STATE {};

@@ -4,6 +4,8 @@
 
 #include "afxobj_.h"
 
+#include <cstdlib>
+
 class CFile;
 
 /// Takes what objects write about themselves, for the debugger's output or a file.
@@ -70,6 +72,11 @@ inline BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int /*nLength*/ = -1) {
     return lpsz != nullptr ? TRUE : FALSE;
 }
 ///@}
+
+/// Ends the program at once.
+[[noreturn]] inline void AFXAPI AfxAbort() {
+    std::abort();
+}
 
 /// The piece of a text with that number, counted from 0 between separators.
 /// @param rString receives it; empty if there is none.
