@@ -69,23 +69,26 @@ private:
     /// So the same window must have been ready at two ticks; one that hides is not waited for.
     bool IsSettled() {
         constexpr int kMaxTicks = 20;
+        if (!IsInFront())
+            return false;
         const HWND hActive = ::GetActiveWindow();
         const bool bReady = ::IsWindowVisible(hActive) && ::IsWindowEnabled(hActive);
-        if (bReady && !IsInFront(hActive))
-            return false;
         const bool bSettled = bReady && std::exchange(m_hLastActive, hActive) == hActive;
         m_nTicks = bSettled ? 0 : m_nTicks + 1;
         return bSettled || m_nTicks > kMaxTicks;
     }
 
-    /// What is typed while another program is in front would go there.
-    static bool IsInFront(HWND hActive) {
+    /// What is typed while another program is in front would go there. A thread without a window
+    /// that can be used has nothing to bring to the front.
+    static bool IsInFront() {
         DWORD nProcess = 0;
         ::GetWindowThreadProcessId(::GetForegroundWindow(), &nProcess);
         if (nProcess == ::GetCurrentProcessId())
             return true;
-        ::SetForegroundWindow(hActive);
-        return false;
+        for (const HWND hWnd : detail::TopLevels())
+            if (::IsWindowEnabled(hWnd))
+                return ::SetForegroundWindow(hWnd), false;
+        return true;
     }
 
     void GiveUp() {

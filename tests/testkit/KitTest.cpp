@@ -1,0 +1,139 @@
+// The rest of the kit, used as one who has read nothing uses it.
+#include "Caught.h"
+#include "support/Form.h"
+#include "testkit/Drive.h"
+#include "testkit/Leftovers.h"
+#include "testkit/Pen.h"
+#include "testkit/Picture.h"
+#include "testkit/Program.h"
+#include "testkit/Shake.h"
+#include "testkit/TitleBar.h"
+#include "testkit/Watchdog.h"
+
+#include <fstream>
+#include <iterator>
+
+using namespace testkit;
+using fx::Caught;
+
+namespace {
+
+TEST(Pen, TapThatNobodyCouldMakeIsAFailureAndNoTap) {
+    Frame frame, cover({300, 300}, WS_POPUP);
+    CWnd child, hidden, outside;
+    child.CreateEx(0, L"STATIC", L"child", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &frame, 7);
+    hidden.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(0, 0, 20, 20), &frame, 8);
+    outside.CreateEx(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, CRect(5000, 0, 5020, 20), &frame, 0);
+    const Rows<HWND, bool, std::string> rows = {{child, false, ""},
+                                                {hidden, false, "it is hidden"},
+                                                {outside, false, "it is off the screen"},
+                                                {nullptr, false, "no window"},
+                                                {child, true, "it is covered by "}};
+    for (const auto& [hWnd, bCovered, expected] : rows) {
+        cover.ShowWindow(bCovered ? SW_SHOWNA : SW_HIDE);
+        cover.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        Caught caught;
+        pen::Tap(hWnd);
+        ASSERT_EQ(caught.m_texts.empty(), expected.empty());
+        EXPECT_TRUE(expected.empty() || caught.m_texts[0].find(expected) != std::string::npos)
+            << testing::PrintToString(caught.m_texts);
+    }
+    Caught caught;
+    TapOk(frame);
+    EXPECT_EQ(caught.m_texts.size(), 1U) << "no title bar";
+}
+
+TEST(MessageRecorder, KeepsTheTextsAndAnswers) {
+    const MessageRecorder outer;
+    {
+        const MessageRecorder recorder(IDNO);
+        EXPECT_EQ(AfxMessageBox(L"?", MB_YESNO), IDNO);
+        EXPECT_EQ(recorder.m_prompts, std::vector<CString>{L"?"});
+    }
+    EXPECT_EQ(AfxMessageBox(L"!"), IDOK);
+    EXPECT_EQ(outer.m_prompts, std::vector<CString>{L"!"});
+}
+
+TEST(Picture, SavesPng) {
+    const Drive drive;
+    const HDC hMemory = ::CreateCompatibleDC(nullptr);
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = 1;
+    info.bmiHeader.biHeight = -2;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* pBits = nullptr;
+    const HBITMAP hBitmap = ::CreateDIBSection(hMemory, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
+    ::SelectObject(hMemory, hBitmap);
+    ::SetPixel(hMemory, 0, 0, RGB(255, 0, 0));
+    ::SetPixel(hMemory, 0, 1, RGB(0, 0, 255));
+    const Picture picture(hMemory, {1, 2});
+    ::DeleteDC(hMemory);
+    ::DeleteObject(hBitmap);
+    EXPECT_EQ(picture.At(0, 1), RGB(0, 0, 255));
+    ASSERT_TRUE(picture.Save(L"a.png"));
+    EXPECT_FALSE(picture.Save(L"none\\a.png"));
+    std::ifstream file("a.png", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    // What zlib reads back, and every viewer shows.
+    constexpr unsigned char EXPECTED[] = {
+        0x89, 0x50, 0x4e, 0x47, 0x0d, 0x0a, 0x1a, 0x0a, 0x00, 0x00, 0x00, 0x0d, 0x49, 0x48, 0x44, 0x52,
+        0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x02, 0x08, 0x02, 0x00, 0x00, 0x00, 0x16, 0xe3, 0x21,
+        0x70, 0x00, 0x00, 0x00, 0x13, 0x49, 0x44, 0x41, 0x54, 0x78, 0x01, 0x01, 0x08, 0x00, 0xf7, 0xff,
+        0x00, 0xff, 0x00, 0x00, 0x00, 0x00, 0x00, 0xff, 0x08, 0x00, 0x01, 0xff, 0xf0, 0xe2, 0x8c, 0xde,
+        0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4e, 0x44, 0xae, 0x42, 0x60, 0x82};
+    EXPECT_EQ(bytes, std::string(std::begin(EXPECTED), std::end(EXPECTED)));
+}
+
+TEST(Shake, FindsWhatIsLeftByEachOpening) {
+    std::vector<HWND> lost;
+    Caught caught;
+    Shake(
+        [&](CWnd* pOwner) {
+            lost.push_back(
+                ::CreateWindow(L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+            fx::Form(pOwner).DoModal();
+        },
+        3, 1000);
+    ASSERT_EQ(caught.m_texts.size(), 1U);
+    EXPECT_NE(caught.m_texts[0].find("seed 3 leaves with each 500 events: "), std::string::npos)
+        << caught.m_texts[0];
+    EXPECT_NE(caught.m_texts[0].find(" windows"), std::string::npos) << caught.m_texts[0];
+    for (const HWND hWnd : lost)
+        ::DestroyWindow(hWnd);
+}
+
+// The ends of programs that the next test starts.
+TEST(Ends, DISABLED_Hang) {
+    const Watchdog watchdog(1);
+    for (;;)
+        ::Sleep(1);
+}
+TEST(Ends, DISABLED_Crash) {
+    fx::Form form;
+    form.m_onMessage = [](UINT message, WPARAM) {
+        if (message == WM_TIMER || message == WM_SETTINGCHANGE)
+            *static_cast<volatile int*>(nullptr) = 0;
+    };
+    Shake(form);
+}
+
+TEST(Ends, ProgramThatHangsOrCrashesEndsWithItsOwnCode) {
+    const Rows<std::wstring, DWORD> rows = {{L"Hang", 99}, {L"Crash", 98}};
+    for (const auto& [name, nCode] : rows) {
+        const std::wstring argument = L"--gtest_also_run_disabled_tests --gtest_filter=Ends.DISABLED_" + name;
+        EXPECT_EQ(Program(fx::OwnPath(), nullptr, argument).End(), nCode);
+    }
+}
+
+TEST(Program, WhatDoesNotComeIsTold) {
+    Caught caught;
+    const Program none(L"no such program", L"");
+    none.ExpectText(1, L"a"); // at once: it has failed already
+    ASSERT_EQ(caught.m_texts.size(), 2U);
+    EXPECT_EQ(caught.m_texts[0].find("cannot start "), 0U) << caught.m_texts[0];
+    EXPECT_EQ(caught.m_texts[1], "the text is not \"a\" but that of no window");
+}
+
+} // namespace
