@@ -27,6 +27,7 @@ public:
     }
     ~CUnloadWatch() {
         using Unregister = LONG(NTAPI*)(void*);
+        ++g_nUnloads; // what is kept counts no longer
         if (g_bWatching.exchange(false))
             if (const auto pfnUnregister = LoaderFunction<Unregister>("LdrUnregisterDllNotification"))
                 pfnUnregister(m_pCookie);
@@ -45,16 +46,26 @@ private:
 };
 const CUnloadWatch g_unloadWatch;
 
-std::size_t PlaceOf(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
-    constexpr std::size_t kOdd = 0x9E3779B1; // spreads neighbours, see Knuth's multiplicative hashing
-    const std::size_t nKey = (reinterpret_cast<std::size_t>(pMap) >> 4) + message * kOdd +
-                             static_cast<UINT>(nCode) * (kOdd << 4) + nID * (kOdd << 8);
-    return nKey ^ nKey >> 16;
+/// A number of 64 bits of which the highest depend on all four; see Knuth's multiplicative hashing.
+std::size_t Spread(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    constexpr std::size_t kOdd = 0x9E3779B97F4A7C15;
+    const std::size_t nKey = (reinterpret_cast<std::size_t>(pMap) >> 4) + (std::size_t{message} << 24) +
+                             (std::size_t{static_cast<UINT>(nCode)} << 40) + (std::size_t{nID} << 48);
+    return nKey * kOdd;
 }
 
 } // namespace
 
 const AFX_MSGMAP_ENTRY* CMapCache::Find(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    CSlot& slot = m_slots[Spread(pMap, message, nCode, nID) >> kShift];
+    if (slot.pMap == pMap && slot.message == message && slot.nCode == nCode && slot.nID == nID &&
+        m_nUnloads == g_nUnloads)
+        return slot.pEntry;
+    return FindNew(slot, pMap, message, nCode, nID);
+}
+
+const AFX_MSGMAP_ENTRY* CMapCache::FindNew(CSlot& slot, const AFX_MSGMAP* pMap, UINT message, int nCode,
+                                           UINT nID) {
     // The number of a registered message is not known before it has been registered.
     if (!g_bWatching || message >= AFX_REGISTERED_)
         return Search(pMap, message, nCode, nID);
@@ -62,9 +73,7 @@ const AFX_MSGMAP_ENTRY* CMapCache::Find(const AFX_MSGMAP* pMap, UINT message, in
         std::fill(std::begin(m_slots), std::end(m_slots), CSlot{});
         m_nUnloads = nUnloads;
     }
-    CSlot& slot = m_slots[PlaceOf(pMap, message, nCode, nID) % kSlots];
-    if (slot.pMap != pMap || slot.message != message || slot.nCode != nCode || slot.nID != nID)
-        slot = {pMap, message, nCode, nID, Search(pMap, message, nCode, nID)};
+    slot = {pMap, message, nCode, nID, Search(pMap, message, nCode, nID)};
     return slot.pEntry;
 }
 

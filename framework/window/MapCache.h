@@ -23,7 +23,11 @@ private:
         UINT nID;
         const AFX_MSGMAP_ENTRY* pEntry;
     };
-    static constexpr std::size_t kSlots = 256; // 8 KB a thread
+    static constexpr int kShift = 56;                         ///< Leaves the number of a slot.
+    static constexpr std::size_t kSlots = 1 << (64 - kShift); // 8 KB a thread
+
+    /// Searches for what the slot does not hold, and keeps it there if it may be kept.
+    const AFX_MSGMAP_ENTRY* FindNew(CSlot& slot, const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID);
 
     CSlot m_slots[kSlots] = {};
     unsigned m_nUnloads = 0; ///< As many DLLs had been unloaded when the first answer was kept.

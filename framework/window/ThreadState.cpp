@@ -2,6 +2,7 @@
 
 #include <winternl.h>
 
+#include <atomic>
 #include <type_traits>
 #include <utility>
 
@@ -10,24 +11,41 @@ using namespace fieldkit::detail;
 // One slot for all of it: the compiler's thread_local is emulated here and seven times as slow.
 namespace {
 
+/// The slot as every message asks for it, several times; TLS_OUT_OF_INDEXES before it is allocated.
+std::atomic<DWORD> g_nSlot{TLS_OUT_OF_INDEXES};
+
 /// Made with the first object that needs it, which may be an application's static one.
 DWORD Slot() {
     static const DWORD nSlot = ::TlsAlloc();
+    g_nSlot.store(nSlot, std::memory_order_relaxed);
     return nSlot;
 }
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Warray-bounds" // the system's header reads the block at address 0 of gs
-/// Every message asks several times. The thread's block has the first slots where TlsGetValue looks.
-CThreadState* Current() {
-    if (const DWORD nSlot = Slot(); nSlot < std::extent_v<decltype(TEB::TlsSlots)>)
+/// The thread's block has the first slots where TlsGetValue looks; null also when the slot is none of them.
+CThreadState* Quick() {
+    if (const DWORD nSlot = g_nSlot.load(std::memory_order_relaxed);
+        nSlot < std::extent_v<decltype(TEB::TlsSlots)>)
         return static_cast<CThreadState*>(::NtCurrentTeb()->TlsSlots[nSlot]);
+    return nullptr;
+}
+#pragma GCC diagnostic pop
+
+CThreadState* Current() {
     const DWORD nError = ::GetLastError(); // taking the value clears it
     auto* pState = static_cast<CThreadState*>(::TlsGetValue(Slot()));
     ::SetLastError(nError);
     return pState;
 }
-#pragma GCC diagnostic pop
+
+[[gnu::noinline]] CThreadState& CurrentOrNew() {
+    if (CThreadState* pState = Current())
+        return *pState;
+    auto* pState = new CThreadState;
+    ::TlsSetValue(Slot(), pState);
+    return *pState;
+}
 
 /// The main thread has no such end: an application's static objects (its CWinApp, its dialogs)
 /// still use the state when the process is already going down.
@@ -50,11 +68,8 @@ extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK 
     OnThread;
 
 CThreadState& CThreadState::Get() {
-    if (CThreadState* pState = Current())
-        return *pState;
-    auto* pState = new CThreadState;
-    ::TlsSetValue(Slot(), pState);
-    return *pState;
+    CThreadState* const pState = Quick();
+    return pState != nullptr ? *pState : CurrentOrNew();
 }
 
 CWinThread& CThreadState::PumpThread() {

@@ -125,8 +125,10 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
 // --- Reflection ------------------------------------------------------------------------------
 
 BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
-    CWnd* pWnd = FromHandlePermanent(hWndChild);
-    return pWnd != nullptr && pWnd->SendChildNotifyLastMsg(pResult);
+    const CThreadState& state = CThreadState::Get();
+    CWnd* pWnd = state.m_windows.Permanent(hWndChild);
+    const MSG& msg = state.m_msgLast;
+    return pWnd != nullptr && pWnd->OnChildNotify(msg.message, msg.wParam, msg.lParam, pResult);
 }
 
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult) {
