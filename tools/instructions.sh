@@ -17,13 +17,13 @@ count_instructions_of() {
     logged "build-counts-$1" ninja -C "$folder" -j"$(nproc)" "$1_instructions"
     grep '^#' "$counts" >"$folder/instructions.txt"
     while read -r workload expected; do
-        count=$(instructions_of "$program" "$workload")
+        count=$(instructions_of "$program" "$workload" "$folder/$workload.log")
         printf '%s %s\n' "$workload" "$count" >>"$folder/instructions.txt"
         if [[ -n $count ]] && ((count * 100 <= expected * 105)); then
             good=$((good + 1))
         else
             bad=$((bad + 1))
-            problems+=("$workload: ${count:-no count}, the expected are $expected")
+            problems+=("$workload: ${count:-no count, see ${folder#"$root"/}/$workload.log}, the expected are $expected")
         fi
     done < <(grep -v '^#' "$counts")
     # A workload without a count, or a count without its workload, is a fault as well.
@@ -37,13 +37,20 @@ count_instructions_of() {
     ((bad == 0)) || printf '  %s\n' "${problems[@]}"
 }
 
-# instructions_of PROGRAM WORKLOAD: those of one pass, without those of the C and the
-# mathematics library, which have a variant for each kind of processor.
+# instructions_of PROGRAM WORKLOAD LOG: those of one pass, without those of the C and the
+# mathematics library, which have a variant for each kind of processor. In a folder of its own, for
+# the works write a file of one name: another run in this tree took it away, and there was no count.
 instructions_of() {
-    local folder=${1%/*}/counts
-    mkdir -p "$folder"
-    (cd "$folder" && valgrind --tool=callgrind --toggle-collect=CountedPass \
-        --callgrind-out-file="$folder/$2.out" "$1" "$2") >"$folder/$2.log" 2>&1 </dev/null || return 0
+    local folder status=0
+    folder=$(mktemp -d "${1%/*}/counts.XXXXXX")
+    (cd "$folder" && valgrind --tool=callgrind --vgdb=no --toggle-collect=CountedPass \
+        --callgrind-out-file=counts "$1" "$2") >"$3" 2>&1 </dev/null || status=$?
+    ((status != 0)) || own_instructions "$folder/counts"
+    rm -rf "$folder"
+}
+
+# own_instructions FILE: those of the counted program itself, of callgrind's file.
+own_instructions() {
     # A module is named once and then called by its number; the line after "calls=" repeats
     # what the called function has on lines of its own.
     awk '
@@ -55,5 +62,5 @@ instructions_of() {
         }
         /^calls=/ { getline; next }
         /^[-+*0-9]/ && inside { sum += $2 }
-        END { if (sum > 0) print sum }' "$folder/$2.out"
+        END { if (sum > 0) print sum }' "$1"
 }
