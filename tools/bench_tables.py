@@ -103,14 +103,17 @@ def contexts(text):
     return table(head, rows)
 
 
-def layer(data):
-    """A row for each work, with all its sizes."""
+DIALOGS = ("list of", "tree of", "100000 lines")
+
+
+def layer(data, dialogs):
+    """A row for each work, with all its sizes: those of the dialogs, or all others."""
     works = {}
     for row in data:
-        if row["kind"] != "ratio":
+        if row["kind"] != "ratio" or row["name"].startswith(DIALOGS) != dialogs:
             continue
         work, _, size = row["name"].rpartition(", ")
-        if not size.isdigit():
+        if not size.isdigit():  # the number at the end of another name is no size
             work, size = row["name"], ""
         works.setdefault(work, []).append((size, row))
     rows = []
@@ -135,11 +138,15 @@ def renew(document, name, content):
 def main():
     root = Path(sys.argv[1])
     bench = root / "build/bench"
-    for source, document, make in (("kernel.json", "kernel-speed.md", lambda text: kernel(json.loads(text))),
-                                   ("contexts.txt", "kernel-speed.md", contexts),
-                                   ("layer.json", "dialogs-speed.md", lambda text: layer(json.loads(text)))):
-        if (bench / source).exists():
-            renew(root / "docs" / document, source, make((bench / source).read_text(encoding="utf-8")))
+    for table_name, document, make in (
+        ("kernel.json", "kernel-speed.md", lambda text: kernel(json.loads(text))),
+        ("contexts.txt", "kernel-speed.md", contexts),
+        ("layer.json", "dialogs-speed.md", lambda text: layer(json.loads(text), False)),
+        ("layer.json, dialogs", "dialogs-speed.md", lambda text: layer(json.loads(text), True)),
+    ):
+        source = bench / table_name.split(",")[0]
+        if source.exists():
+            renew(root / "docs" / document, table_name, make(source.read_text(encoding="utf-8")))
 
 
 main()
