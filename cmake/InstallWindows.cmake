@@ -14,6 +14,8 @@ fieldkit_install_headers(companion Tesuvo.h)
 # The standard texts, which scripts include by these names.
 install(FILES ${PROJECT_SOURCE_DIR}/framework/afxres.rc
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/l.eng
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/resources)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/framework/l.jpn
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/fieldkit/framework)
 

@@ -13,10 +13,23 @@ HMODULE ModuleOfThisCode(DWORD flags) {
     return module;
 }
 
-struct NewHandler {
-    NewHandler() { AfxInstallNewHandler(); }
+#ifdef FIELDKIT_STATIC
+struct StartUp {
+    StartUp() { AfxInstallNewHandler(); }
 };
-const NewHandler g_newHandler;
+#else
+/// The labels are found wherever the application's texts are, so that it may have its own.
+struct StartUp {
+    StartUp() {
+        AfxInstallNewHandler();
+        AfxInitExtensionModule(module, CompanionModule());
+        new CDynLinkLibrary(module, TRUE); // in the framework's chain until AfxTermExtensionModule
+    }
+    ~StartUp() { AfxTermExtensionModule(module); }
+
+    AFX_EXTENSION_MODULE module = {};
+};
+#endif
 
 } // namespace
 
@@ -27,3 +40,9 @@ HINSTANCE fieldkit::detail::CompanionModule() {
 void fieldkit::detail::PinCompanionModule() {
     ModuleOfThisCode(GET_MODULE_HANDLE_EX_FLAG_PIN);
 }
+
+namespace {
+
+StartUp g_startUp;
+
+} // namespace

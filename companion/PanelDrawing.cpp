@@ -1,8 +1,9 @@
 #include "companion/detail/PanelDrawing.h"
 
+#include "resources/ResourceIds.h"
+
 #include <algorithm>
 #include <iterator>
-#include <string>
 
 using namespace fieldkit::detail;
 
@@ -26,26 +27,36 @@ void MakeFont(CFont& font, LONG height) {
     font.CreateFontIndirect(&description);
 }
 
-std::wstring LabelOf(wchar_t code, PanelPage page) {
+/// The number of a key's word; 0 if its character is its label.
+UINT WordOf(wchar_t code, PanelPage page) {
     const bool letters = page == PanelPage::Letters || page == PanelPage::Capitals;
     switch (code) {
     case KEY_BACKSPACE:
-        return L"BS";
+        return IDS_FK_PANEL_BACKSPACE;
     case KEY_NEXT:
-        return L"次へ";
+        return IDS_FK_PANEL_NEXT;
     case KEY_ENTER:
-        return L"Enter";
+        return IDS_FK_PANEL_ENTER;
     case KEY_SPACE:
-        return L"空白";
+        return IDS_FK_PANEL_SPACE;
     case KEY_SHIFT:
-        return L"Shift";
+        return IDS_FK_PANEL_SHIFT;
     case KEY_SCRIPT:
-        return page == PanelPage::Katakana ? L"かな" : L"カナ";
+        return page == PanelPage::Katakana ? IDS_FK_PANEL_KANA : IDS_FK_PANEL_KATAKANA;
     case KEY_MODE:
-        return letters ? L"かな" : L"ABC";
+        return letters ? IDS_FK_PANEL_KANA : IDS_FK_PANEL_LETTERS;
     default:
-        return std::wstring(1, code);
+        return 0;
     }
+}
+
+CString LabelOf(wchar_t code, PanelPage page) {
+    const UINT word = WordOf(code, page);
+    if (word == 0)
+        return CString(code);
+    CString label;
+    label.LoadString(word);
+    return label;
 }
 
 bool IsWord(wchar_t code) {
@@ -76,11 +87,10 @@ void DrawKey(CDC& dc, const PanelKey& key, bool pressed, const PanelLook& look) 
     ++cap.top;
     dc.FillSolidRect(cap, colour);
     dc.SetTextColor(colour == kPressedKey ? RGB(255, 255, 255) : RGB(0, 0, 0));
-    const std::wstring label = LabelOf(key.code, look.page);
+    const CString label = LabelOf(key.code, look.page);
     if (IsSoundMark(key.code))
         cap.OffsetRect(cap.Width() / 3, cap.Height() / 2);
-    dc.DrawText(label.c_str(), static_cast<int>(label.size()), cap,
-                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
+    dc.DrawText(label, cap, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "companion/detail/Module.h"
 #include "companion/detail/PanelDrawing.h"
+#include "resources/ResourceIds.h"
 
 #include <afxext.h>
 
@@ -27,15 +28,12 @@ constexpr UINT_PTR kWatchTimer = 2;
 constexpr UINT kWatchInterval = 100;
 constexpr int kRaises = 10; // one a watch, so for a second
 
-const wchar_t* TitleOf(int mode) {
-    switch (mode) {
-    case 1:
+CString TitleOf(int mode) {
+    if (mode == 1)
         return L"123";
-    case 2:
-        return L"かな";
-    default:
-        return L"ABC";
-    }
+    CString title;
+    title.LoadString(mode == 2 ? IDS_FK_PANEL_KANA : IDS_FK_PANEL_LETTERS);
+    return title;
 }
 
 bool IsEntryField(HWND window) {

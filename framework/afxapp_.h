@@ -352,7 +352,8 @@ class AFX_CORE CDynLinkLibrary : public CObject {
 public:
     /// Links the module into the chain.
     /// @param state a module that AfxInitExtensionModule has prepared
-    /// @param bSystem kept, not used
+    /// @param bSystem that the module is a part of the library: its texts are Japanese unless a
+    ///   language was chosen. Of other modules the system chooses the language then.
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     ~CDynLinkLibrary() override;
 
@@ -376,3 +377,20 @@ AFX_CORE HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszResource, LPCTSTR lp
 AFX_CORE HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
 /// @return the length without terminator; 0 and an empty text if there is no such string.
 AFX_CORE int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);
+
+/// Chooses the language of dialogs, strings, menus and toolbars, and of the buttons of message
+/// boxes, wherever the framework loads them. Which module a resource comes from does not change:
+/// the first that has it at all. Of that module's languages the chosen one is taken, else another
+/// variant of it (US for British English), else the library's own resources in Japanese and
+/// others in the system's choice; each string for itself. What exists already keeps its texts.
+/// Pictures, and what a program loads past the framework, are the system's choice.
+///
+/// May be called at any time and from any thread; it holds for the process. Without a call the
+/// application's resources choose, if they have a resource AFX_RESOURCE_LANGUAGE, an RCDATA of one
+/// 16-bit number; if they have none, the library is Japanese, whatever the system's language.
+///
+/// @param wLanguage e.g. MAKELANGID(LANG_ENGLISH, SUBLANG_DEFAULT), or LANG_ENGLISH for any of its
+///   variants; 0 takes an earlier call back
+AFX_CORE void AFXAPI AfxSetResourceLanguage(LANGID wLanguage);
+/// @return the chosen language; Japanese if none was chosen.
+AFX_CORE LANGID AFXAPI AfxGetResourceLanguage();

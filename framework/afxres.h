@@ -234,6 +234,7 @@
 #define AFX_IDP_ARCH_BADINDEX 0xF045
 #define AFX_IDP_ARCH_BADCLASS 0xF046
 #define AFX_IDP_ARCH_BADSCHEMA 0xF047
+#define AFX_IDP_ARCH_BUFFERFULL 0xF048
 ///@}
 
 /// What an application tells its user.

@@ -13,7 +13,7 @@ BOOL APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
         AfxInstallNewHandler();
         if (!AfxInitExtensionModule(g_module, hInstance))
             return FALSE;
-        new CDynLinkLibrary(g_module); // in the framework's chain until AfxTermExtensionModule
+        new CDynLinkLibrary(g_module, TRUE); // in the framework's chain until AfxTermExtensionModule
     } else if (dwReason == DLL_PROCESS_DETACH) {
         AfxTermExtensionModule(g_module);
     }

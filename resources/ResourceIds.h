@@ -23,6 +23,19 @@
 #define IDS_FK_NAME_OF_DEVICE 1519
 ///@}
 
+// Soft input panel
+/// A label of the panel's keys. In the framework's range, which applications leave alone.
+///@{
+#define IDS_FK_PANEL_NEXT 0xEF80
+#define IDS_FK_PANEL_SPACE 0xEF81
+#define IDS_FK_PANEL_KANA 0xEF82
+#define IDS_FK_PANEL_KATAKANA 0xEF83
+#define IDS_FK_PANEL_LETTERS 0xEF84
+#define IDS_FK_PANEL_BACKSPACE 0xEF85
+#define IDS_FK_PANEL_ENTER 0xEF86
+#define IDS_FK_PANEL_SHIFT 0xEF87
+///@}
+
 // Input dialog
 /// The input dialog's template and its controls.
 ///@{

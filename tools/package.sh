@@ -106,6 +106,8 @@ test_package() {
     check "$tests/views.txt" "$work/native/views.gdb"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
+    check "$root/tests/package/english.txt" "$work/cmake/english.exe"
+    check "$root/tests/package/english.txt" "$work/cmake/english_static.exe"
     check "$expected" "$work/pkgconf/shared.exe"
     check "$expected" "$work/pkgconf/static.exe"
     printf 'failures 0\n' >"$work/dialog.txt"

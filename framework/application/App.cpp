@@ -1,6 +1,7 @@
 // The application and its thread.
 #include "MessageFilter.h"
 #include "window/MessageMap.h"
+#include "window/Resources.h"
 #include "window/WndProc.h"
 
 #include <cstdlib>
@@ -235,7 +236,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
     HWND hWndTop = nullptr;
     CWnd* pOwner = CWnd::GetSafeOwner(nullptr, &hWndTop);
     const HWND hWndOwner = HandleOf(pOwner);
-    const int nResult = ::MessageBox(hWndOwner, lpszPrompt, m_pszAppName, nType);
+    const int nResult = ::MessageBoxEx(hWndOwner, lpszPrompt, m_pszAppName, nType, AfxChosenLanguage());
     if (hWndTop != nullptr)
         ::EnableWindow(hWndTop, TRUE);
     return nResult;
@@ -244,7 +245,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
     if (CWinApp* pApp = AfxGetApp())
         return pApp->DoMessageBox(lpszText, nType, nIDHelp);
-    return ::MessageBox(::GetActiveWindow(), lpszText, AfxGetAppName(), nType);
+    return ::MessageBoxEx(::GetActiveWindow(), lpszText, AfxGetAppName(), nType, AfxChosenLanguage());
 }
 
 int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {

@@ -8,6 +8,6 @@ int CException::ReportError(UINT nType, UINT nMessageID) {
         return AfxMessageBox(szText, nType);
     CString strText;
     if (nMessageID == 0 || !strText.LoadString(nMessageID))
-        strText = _T("An unknown error occurred.");
+        strText.LoadString(AFX_IDP_NO_ERROR_AVAILABLE);
     return AfxMessageBox(strText, nType);
 }

@@ -1,7 +1,11 @@
-#include "afx.h"
+#include "MessageText.h"
+
+#include "afxres.h"
 
 #include <algorithm>
 #include <cwchar>
+
+using namespace fieldkit::detail;
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -32,41 +36,58 @@ BOOL GiveText(LPCTSTR text, LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContex
     return *text != L'\0' ? TRUE : FALSE;
 }
 
+// Where there is no string table: natively, and before the framework has one.
 constexpr LPCTSTR kFileTexts[] = {
     L"No error occurred.",
-    L"An unknown error occurred while accessing %s.",
-    L"%s was not found.",
-    L"%s contains an invalid path.",
-    L"%s could not be opened because too many files are open.",
-    L"Access to %s was denied.",
-    L"An invalid file handle was associated with %s.",
-    L"%s could not be removed because it is the current directory.",
-    L"%s could not be created because the directory is full.",
-    L"A position in %s could not be reached.",
-    L"A hardware error was reported while accessing %s.",
-    L"A sharing violation occurred while accessing %s.",
-    L"A locking violation occurred while accessing %s.",
-    L"The disk is full while accessing %s.",
-    L"The end of %s was passed.",
+    L"An unknown error occurred while accessing %1.",
+    L"%1 was not found.",
+    L"%1 contains an invalid path.",
+    L"%1 could not be opened because too many files are open.",
+    L"Access to %1 was denied.",
+    L"An invalid file handle was associated with %1.",
+    L"%1 could not be removed because it is the current directory.",
+    L"%1 could not be created because the directory is full.",
+    L"A position in %1 could not be reached.",
+    L"A hardware error was reported while accessing %1.",
+    L"A sharing violation occurred while accessing %1.",
+    L"A locking violation occurred while accessing %1.",
+    L"The disk is full while accessing %1.",
+    L"The end of %1 was passed.",
 };
 
 constexpr LPCTSTR kArchiveTexts[] = {
     L"No error occurred.",
-    L"An unknown error occurred while accessing %s.",
-    L"%s is open for reading and was written to.",
-    L"%s ends unexpectedly.",
-    L"%s is open for writing and was read from.",
-    L"%s has a bad format.",
-    L"%s contains an unexpected object.",
-    L"%s contains an object of an unknown version.",
-    L"The buffer for %s is full.",
+    L"An unknown error occurred while accessing %1.",
+    L"%1 is open for reading and was written to.",
+    L"%1 ends unexpectedly.",
+    L"%1 is open for writing and was read from.",
+    L"%1 has a bad format.",
+    L"%1 contains an unexpected object.",
+    L"%1 contains an object of an unknown version.",
+    L"The buffer for %1 is full.",
 };
 
+/// The text of a number in the string table, into the caller's buffer: needs no memory.
+BOOL GiveText(UINT nID, LPCTSTR fallback, LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) {
+    const BOOL given = GiveText(fallback, lpszError, nMaxError, pnHelpContext);
+    if (given)
+        AfxMessageText(nID, lpszError, nMaxError);
+    return given;
+}
+
+CString Text(UINT nID, LPCTSTR fallback) {
+    constexpr UINT kMaxText = 256;
+    TCHAR text[kMaxText];
+    GiveText(nID, fallback, text, kMaxText, nullptr);
+    return text;
+}
+
+/// @param nFirst the number of the text of cause 0
 template <std::size_t N>
-CString TextWithName(const LPCTSTR (&texts)[N], int cause, const CString& name) {
-    const bool known = cause >= 0 && cause < static_cast<int>(N);
-    CString text(texts[known ? cause : 1]);
-    text.Replace(L"%s", name.IsEmpty() ? L"an unnamed file" : name.GetString());
+CString TextWithName(UINT nFirst, const LPCTSTR (&texts)[N], int cause, const CString& name) {
+    const UINT known = cause >= 0 && cause < static_cast<int>(N) ? static_cast<UINT>(cause) : 1;
+    CString text = Text(nFirst + known, texts[known]);
+    text.Replace(L"%1", name.IsEmpty() ? Text(AFX_IDS_UNNAMED_FILE, L"an unnamed file") : name);
     return text;
 }
 
@@ -82,23 +103,27 @@ BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpC
 }
 
 BOOL CMemoryException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(L"Out of memory.", lpszError, nMaxError, pnHelpContext);
+    return GiveText(AFX_IDS_MEMORY_EXCEPTION, L"Out of memory.", lpszError, nMaxError, pnHelpContext);
 }
 
 BOOL CNotSupportedException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(L"An unsupported operation was attempted.", lpszError, nMaxError, pnHelpContext);
+    return GiveText(AFX_IDS_NOT_SUPPORTED_EXCEPTION, L"An unsupported operation was attempted.", lpszError,
+                    nMaxError, pnHelpContext);
 }
 
 BOOL CResourceException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(L"A required resource was unavailable.", lpszError, nMaxError, pnHelpContext);
+    return GiveText(AFX_IDS_RESOURCE_EXCEPTION, L"A required resource was unavailable.", lpszError, nMaxError,
+                    pnHelpContext);
 }
 
 BOOL CInvalidArgException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(L"An invalid argument was encountered.", lpszError, nMaxError, pnHelpContext);
+    return GiveText(AFX_IDS_INVALID_ARG_EXCEPTION, L"An invalid argument was encountered.", lpszError,
+                    nMaxError, pnHelpContext);
 }
 
 BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(TextWithName(kFileTexts, m_cause, m_strFileName), lpszError, nMaxError, pnHelpContext);
+    return GiveText(TextWithName(AFX_IDP_FILE_NONE, kFileTexts, m_cause, m_strFileName), lpszError, nMaxError,
+                    pnHelpContext);
 }
 
 void AFXAPI CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName) {
@@ -107,7 +132,8 @@ void AFXAPI CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName) {
 }
 
 BOOL CArchiveException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const {
-    return GiveText(TextWithName(kArchiveTexts, m_cause, m_strFileName), lpszError, nMaxError, pnHelpContext);
+    return GiveText(TextWithName(AFX_IDP_ARCH_NONE, kArchiveTexts, m_cause, m_strFileName), lpszError,
+                    nMaxError, pnHelpContext);
 }
 
 void AFXAPI AfxThrowMemoryException() {

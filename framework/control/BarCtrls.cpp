@@ -27,12 +27,6 @@ TOOLINFO ToolOf(const CWnd* pWnd, UINT_PTR nIDTool) {
     return info;
 }
 
-/// The number of a text stands for it: the control loads it from the module that has it.
-LPTSTR SetText(TOOLINFO& info, UINT nIDText) {
-    info.hinst = AfxFindResourceHandle(MAKEINTRESOURCE((nIDText >> 4) + 1), RT_STRING);
-    return MAKEINTRESOURCE(nIDText);
-}
-
 } // namespace
 
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
@@ -44,11 +38,9 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UIN
 }
 
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
-    TOOLINFO info = ToolOf(pWnd, nIDTool);
-    info.lpszText = SetText(info, nIDText);
-    if (lpRectTool != nullptr)
-        info.rect = *lpRectTool;
-    return AfxSendPointer(m_hWnd, TTM_ADDTOOL, 0, &info);
+    CString strText;
+    strText.LoadString(nIDText);
+    return AddTool(pWnd, strText, lpRectTool, nIDTool);
 }
 
 void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool) {
@@ -63,9 +55,9 @@ void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
 }
 
 void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool) {
-    TOOLINFO info = ToolOf(pWnd, nIDTool);
-    info.lpszText = SetText(info, nIDText);
-    AfxSendPointer(m_hWnd, TTM_UPDATETIPTEXT, 0, &info);
+    CString strText;
+    strText.LoadString(nIDText);
+    UpdateTipText(strText, pWnd, nIDTool);
 }
 
 void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {

@@ -2,6 +2,7 @@
 #include "shell/DeviceCaption.h"
 #include "DialogTemplate.h"
 #include "ModalOwner.h"
+#include "window/Resources.h"
 #include "window/WndProc.h"
 
 #include <memory>
@@ -124,12 +125,10 @@ BOOL CDialog::CreateFromResource(CWnd* pParentWnd) {
         return CreateIndirect(m_hDialogTemplate, pParentWnd);
     if (m_lpDialogTemplate != nullptr)
         return CreateDlgIndirect(m_lpDialogTemplate, pParentWnd);
-    const HINSTANCE hInstance = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
-    const HRSRC hResource = ::FindResource(hInstance, m_lpszTemplateName, RT_DIALOG);
-    if (hResource == nullptr)
+    const std::span<const BYTE> resource = AfxFindResource(m_lpszTemplateName, RT_DIALOG);
+    if (resource.empty())
         return FALSE;
-    return CreateDlgIndirect(
-        static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(hInstance, hResource))), pParentWnd);
+    return CreateDlgIndirect(reinterpret_cast<LPCDLGTEMPLATE>(resource.data()), pParentWnd);
 }
 
 BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {

@@ -1,5 +1,6 @@
 #include "window/DialogKeys.h"
 #include "DialogTemplate.h"
+#include "window/Resources.h"
 #include "window/WndProc.h"
 #include "afxdlgs.h"
 
@@ -64,12 +65,10 @@ void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
 CPropertyPage::~CPropertyPage() = default;
 
 BOOL CPropertyPage::Prepare() {
-    const HINSTANCE hInstance = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
-    const HRSRC hResource = ::FindResource(hInstance, m_lpszTemplateName, RT_DIALOG);
-    if (hResource == nullptr)
+    const std::span<const BYTE> resource = AfxFindResource(m_lpszTemplateName, RT_DIALOG);
+    if (resource.empty())
         return FALSE;
-    m_pTemplate = std::make_unique<CDialogTemplateCopy>(
-        static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(hInstance, hResource))));
+    m_pTemplate = std::make_unique<CDialogTemplateCopy>(reinterpret_cast<LPCDLGTEMPLATE>(resource.data()));
     if (!m_pTemplate->IsValid())
         return FALSE;
     m_psp.dwFlags |= PSP_DLGINDIRECT | PSP_USECALLBACK;

@@ -1,4 +1,5 @@
 #include "Sip.h"
+#include "window/Resources.h"
 
 #include <algorithm>
 #include <climits>
@@ -119,8 +120,8 @@ void CCeCommandBar::AddSipButton() {
 }
 
 BOOL CCeCommandBar::InsertMenuBar(UINT nIDResource) {
-    const LPCTSTR pszMenu = MAKEINTRESOURCE(nIDResource);
-    const HMENU hMenu = ::LoadMenu(AfxFindResourceHandle(pszMenu, RT_MENU), pszMenu);
+    const std::span<const BYTE> resource = AfxFindResource(MAKEINTRESOURCE(nIDResource), RT_MENU);
+    const HMENU hMenu = resource.empty() ? nullptr : ::LoadMenuIndirect(resource.data());
     if (hMenu == nullptr)
         return FALSE;
     if (m_hMenu != nullptr) {
@@ -186,12 +187,10 @@ BOOL CCeCommandBar::LoadToolBar(UINT nIDResource) {
     };
     const LPCTSTR pszType = MAKEINTRESOURCE(241); // RT_TOOLBAR
     const LPCTSTR pszName = MAKEINTRESOURCE(nIDResource);
-    const HINSTANCE hInstance = AfxFindResourceHandle(pszName, pszType);
-    const HRSRC hResource = ::FindResource(hInstance, pszName, pszType);
-    if (hResource == nullptr)
+    const std::span<const BYTE> resource = AfxFindResource(pszName, pszType);
+    if (resource.empty())
         return FALSE;
-    const auto* pData =
-        static_cast<const CToolBarData*>(::LockResource(::LoadResource(hInstance, hResource)));
+    const auto* pData = reinterpret_cast<const CToolBarData*>(resource.data());
     const auto* pItems = reinterpret_cast<const WORD*>(pData + 1);
     int nImage = AddBitmap(pData->wItemCount, nIDResource);
     if (nImage < 0)

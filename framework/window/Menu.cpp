@@ -1,4 +1,5 @@
 // Menus, and how their items and the controls of dialogs look.
+#include "Resources.h"
 #include "WndProc.h"
 
 using namespace fieldkit::detail;
@@ -39,7 +40,8 @@ HMENU CMenu::Detach() {
 }
 
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName) {
-    return Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
+    const std::span<const BYTE> resource = AfxFindResource(lpszResourceName, RT_MENU);
+    return !resource.empty() && LoadMenuIndirect(resource.data());
 }
 
 BOOL CMenu::DestroyMenu() {

@@ -2,16 +2,12 @@
 
 #include "ThreadState.h"
 
-#include <algorithm>
-#include <cwchar>
 #include <utility>
 
 using namespace fieldkit::detail;
 
 namespace {
 
-constexpr WCHAR kTextMemory[] = L"Out of memory.";
-constexpr WCHAR kTextUnknown[] = L"An unknown error occurred.";
 constexpr int kMaxText = 512;
 
 /// @return false if the function threw
@@ -33,7 +29,7 @@ public:
     /// @param pszWhat empty for none
     explicit CStdException(const char* pszWhat) : CException(FALSE) {
         if (::MultiByteToWideChar(CP_ACP, 0, pszWhat, -1, m_szText, kMaxText) == 0 || m_szText[0] == 0)
-            std::copy_n(kTextUnknown, std::size(kTextUnknown), m_szText);
+            AfxLoadString(AFX_IDS_USER_EXCEPTION, m_szText, kMaxText);
     }
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const override {
         if (pnHelpContext != nullptr)
@@ -58,7 +54,7 @@ void fieldkit::detail::AfxTellException(CException* e) noexcept {
             if (!e->GetErrorMessage(szText, kMaxText))
                 szText[0] = 0;
         }))
-        std::copy_n(kTextMemory, std::size(kTextMemory), szText);
+        AfxLoadString(AFX_IDS_MEMORY_EXCEPTION, szText, kMaxText);
     e->Delete();
     bool& bTelling = CThreadState::Get().m_bTelling;
     if (bCancelled || bTelling)

@@ -1,4 +1,5 @@
 // CWnd: state, text, relations and messages; thin over the system's functions.
+#include "Resources.h"
 #include "WndProc.h"
 #include "WndShell.h"
 
@@ -240,6 +241,6 @@ BOOL CWnd::KillTimer(UINT_PTR nIDEvent) {
     return ::KillTimer(m_hWnd, nIDEvent);
 }
 int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
-    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(),
-                        nType);
+    return ::MessageBoxEx(GetSafeHwnd(), lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(),
+                          nType, AfxChosenLanguage());
 }

@@ -1,5 +1,6 @@
 // CWnd: the items of dialogs and their data.
 #include "DialogKeys.h"
+#include "Resources.h"
 #include "Uncaught.h"
 #include "WndProc.h"
 
@@ -65,12 +66,10 @@ struct CInitEntry {
 } // namespace
 
 BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
-    const HINSTANCE hInstance = AfxFindResourceHandle(lpszResourceName, MAKEINTRESOURCE(240));
-    const HRSRC hResource = ::FindResource(hInstance, lpszResourceName, MAKEINTRESOURCE(240));
-    if (hResource == nullptr)
+    const std::span<const BYTE> resource = AfxFindResource(lpszResourceName, MAKEINTRESOURCE(240));
+    if (resource.empty())
         return TRUE; // most dialogs have none
-    return ExecuteDlgInit(::LockResource(::LoadResource(hInstance, hResource)),
-                          ::SizeofResource(hInstance, hResource));
+    return ExecuteDlgInit(resource.data(), resource.size());
 }
 
 BOOL CWnd::ExecuteDlgInit(const void* lpResource, size_t nSize) {

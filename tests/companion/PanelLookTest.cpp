@@ -85,4 +85,27 @@ TEST_F(PanelLook, PressedAndShiftedKeysStandOut) {
     ExpectKey(Look(), SHIFT, FUNCTION);
 }
 
+TEST_F(PanelLook, LabelsFollowTheLanguageAndFitTheirKeys) {
+    const auto japanese = Look();
+    AfxSetResourceLanguage(MAKELANGID(LANG_ENGLISH, SUBLANG_DEFAULT));
+    CWnd::FromHandle(panel::OfThread())->Invalidate();
+    const auto letters = Look();
+    TVShowSIP(2);
+    EXPECT_EQ(panel::Title(), L"Kana");
+    const auto kana = Look();
+    AfxSetResourceLanguage(0);
+    // The keys with words, of forty parts of the row: letters, then kana.
+    const Rows<const fx::Image*, int, int, int> keys = {
+        {&letters, 100, 0, 5}, {&letters, 100, 5, 10}, {&letters, 100, 18, 27}, {&letters, 100, 31, 40},
+        {&kana, 104, 0, 5},    {&kana, 104, 5, 10},    {&kana, 104, 10, 15},    {&kana, 104, 23, 29}};
+    for (const auto& [pImage, nTop, nLeft, nRight] : keys) {
+        CRect key(nLeft * 6, nTop, nRight * 6, 125);
+        const CRect ink = pImage->Around(key, fx::BLACK);
+        key.DeflateRect(2, 2, 1, 1);
+        EXPECT_FALSE(ink.IsRectEmpty());
+        EXPECT_EQ(ink & key, ink) << nLeft << " of row " << nTop;
+    }
+    EXPECT_FALSE(letters.Difference(japanese).IsRectEmpty());
+}
+
 } // namespace

@@ -15,12 +15,12 @@ const struct {
     Thrower raise;
     LPCTSTR pszPrompt; ///< Null for none.
 } EXCEPTIONS[] = {
-    {"CException", [] { AfxThrowNotSupportedException(); }, L"An unsupported operation was attempted."},
+    {"CException", [] { AfxThrowNotSupportedException(); }, L"この操作はできません。"},
     {"user", [] { AfxThrowUserException(); }, nullptr},
-    {"memory", [] { AfxThrowMemoryException(); }, L"Out of memory."},
-    {"bad_alloc", [] { throw std::bad_alloc(); }, L"Out of memory."},
+    {"memory", [] { AfxThrowMemoryException(); }, L"メモリーが足りません。"},
+    {"bad_alloc", [] { throw std::bad_alloc(); }, L"メモリーが足りません。"},
     {"standard", [] { throw std::runtime_error("no fix"); }, L"no fix"},
-    {"foreign", [] { throw 5; }, L"An unknown error occurred."},
+    {"foreign", [] { throw 5; }, L"エラーが起きました。"},
 };
 
 void RaiseMemory() {
