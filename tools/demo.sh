@@ -3,10 +3,14 @@
 # scenario is samples/fieldbook/demo.sh, written with the functions of this file.
 
 demo_shots=$build/demo
+demo_language=() # what tells the sample its language, if it is not to be Japanese
 app_pid=
 pen_pause=0.05
 
+# run_demo [en]
 run_demo() {
+    demo_shots=$build/demo${1:+-$1}
+    demo_language=(${1:+"/$1"})
     if [[ -n ${DISPLAY:-} ]]; then
         show_sample
     else
@@ -18,7 +22,7 @@ show_sample() {
     close_when_over
     open_wine
     echo 'the fieldbook is on your screen; close it with its X to end'
-    in_wine wine "$build/fieldbook/fieldbook.exe" >"$build/demo.log" 2>&1 </dev/null
+    in_wine wine "$build/fieldbook/fieldbook.exe" "${demo_language[@]}" >"$build/demo.log" 2>&1 </dev/null
 }
 
 drive_sample() {

@@ -86,11 +86,16 @@ quoted_file() {
         substr($0, length($0) - length(label) + 1) == label { armed = 1 }' "$2"
 }
 
-# The pictures of the pages, and the demo's from which each is made, without its number.
+# The pictures of the pages, and the demo's from which each is made, without its number,
+# and the demo's folder if it is another one.
 pictures() {
     cat <<'TEXT'
 fieldbook         main
 fieldbook-plan    lines-plan
+fieldbook-en      main demo-en
+fieldbook-plan-en lines-plan demo-en
+CFileSelectDlg-en open demo-en
+controls-entry-en point-entry-complete demo-en
 CnDialog          computations
 CInputDlg         line-circle-radius
 CResultDlg        bad-lines
@@ -109,10 +114,11 @@ TEXT
 # Takes over what ./run demo has left in build/demo/, in 16 colours: a few kilobytes each.
 # Needs the screen and the tutorial's program (build_tutorial) for the tutorial's picture.
 refresh_pictures() {
-    local picture shot
+    local picture shot folder
     picture_tutorial
-    while read -r picture shot; do
-        take_over "$picture" "$demo_shots/$shot.png" "$demo_shots"/[0-9][0-9]-"$shot.png"
+    while read -r picture shot folder; do
+        folder=$build/${folder:-demo}
+        take_over "$picture" "$folder/$shot.png" "$folder"/[0-9][0-9]-"$shot.png"
     done < <(pictures)
 }
 

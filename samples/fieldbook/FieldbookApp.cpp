@@ -3,8 +3,12 @@
 
 #include "points/FilePath.h"
 #include "screens/MainMenu.h"
+#include "screens/Resource.h"
 #include "screens/SecondTap.h"
 #include "screens/SettingsSheet.h"
+#include "screens/Text.h"
+
+#include <cstdlib>
 
 namespace {
 
@@ -25,15 +29,16 @@ public:
     BOOL InitInstance() override;
 
 private:
-    CString PointsPath() const;
+    CString TakeLanguage();
 };
 
 CFieldbookApp theApp;
 
 BOOL CFieldbookApp::InitInstance() {
     SetRegistryKey(L"Fieldkit"); // the settings are kept there
+    const CString strFile = TakeLanguage();
     const CSecondTapFilter filter;
-    const CString strPath = PointsPath();
+    const CString strPath = strFile.IsEmpty() ? OwnFile(kPointsFile) : strFile;
     CJob job(OwnFile(kHistoryFile));
     job.history.Load();
     job.settings = LoadSettings(*this);
@@ -47,11 +52,22 @@ BOOL CFieldbookApp::InitInstance() {
     return FALSE;       // the menu was the whole program: no message loop
 }
 
-/// The file of the command line, else the one beside the program.
-CString CFieldbookApp::PointsPath() const {
-    CString strPath = m_lpCmdLine;
-    strPath.Trim(L" \"");
-    return strPath.IsEmpty() ? OwnFile(kPointsFile) : strPath;
+/// "/en" at the beginning of the command line makes the program English. Otherwise it is Japanese,
+/// whatever the system's language.
+///
+/// @return the file behind it, else the one of the whole line; empty for none
+CString CFieldbookApp::TakeLanguage() {
+    const CString strEnglish = L"/en";
+    CString strFile = m_lpCmdLine;
+    strFile.Trim();
+    const bool bEnglish = strFile.SpanExcluding(L" ").CompareNoCase(strEnglish) == 0;
+    AfxSetResourceLanguage(MAKELANGID(bEnglish ? LANG_ENGLISH : LANG_JAPANESE, SUBLANG_DEFAULT));
+    if (bEnglish)
+        strFile.Delete(0, strEnglish.GetLength());
+    // The name of the program, which is the caption of its message boxes. The settings keep theirs.
+    std::free(const_cast<LPTSTR>(m_pszAppName));
+    m_pszAppName = ::_tcsdup(Text(IDS_TITLE));
+    return strFile.Trim(L" \"");
 }
 
 } // namespace

@@ -149,11 +149,16 @@ reset() {
     rm -f "$build/fieldbook/history.dat"
 }
 
+# word JAPANESE ENGLISH: the one that is on the screen.
+word() {
+    if ((${#demo_language[@]} == 0)); then printf '%s' "$1"; else printf '%s' "$2"; fi
+}
+
 start_fieldbook() {
     cd "$job" || return
-    start_app "$fieldbook" "C:\\fieldbook\\$1"
+    start_app "$fieldbook" "${demo_language[@]}" "C:\\fieldbook\\$1"
     cd "$root" || return
-    wait_window "${2:-野帳}"
+    wait_window "${2:-$(word 野帳 Fieldbook)}"
 }
 
 # expect NAME TEXT: the last line of a file of the job begins with TEXT.
@@ -388,7 +393,7 @@ message_yes
 shot 43c-main-unsaved
 
 tap "${point_list[@]}"
-wait_window 点の一覧
+wait_window "$(word 点の一覧 Points)"
 shot 44-point-list
 tap 90 38
 shot 45-point-list-sorted
@@ -561,7 +566,7 @@ tap 195 235
 tap "${menu_close[@]}"
 wait_exit
 
-start_fieldbook points_bad.csv 読み込みの結果
+start_fieldbook points_bad.csv "$(word 読み込みの結果 "Lines not read")"
 shot 93-bad-lines
 tap 62 241
 tap "${point_list[@]}"
@@ -610,7 +615,7 @@ reset
 iconv -f CP932 -t UTF-8 "$job/points_results.txt" | tr -d '\r' |
     sed -E 's/^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}  //' >"$demo_shots/results.txt"
 cat "$demo_shots/results.txt"
-diff "$root/samples/fieldbook/demo-results.txt" "$demo_shots/results.txt" ||
+diff "$root/samples/fieldbook/$(word demo-results demo-results-en).txt" "$demo_shots/results.txt" ||
     die 'the computed coordinates are not the expected ones'
 expect backup/day1.csv 'K5,-35300.500000,13200.250000,24.500000'
 expect export.csv '13200.250000,K5,24.500000,'

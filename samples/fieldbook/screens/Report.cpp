@@ -28,12 +28,13 @@ CString ValueText(const CReportLine& line, const CSettings& settings) {
     }
 }
 
-/// A question without its explanations: "円の中心の点名" asks for "円の中心".
+/// A question without its explanations: "円の中心の点名" asks for "円の中心", and
+/// "Radius of the circle (m)" for "Radius of the circle".
 CString LabelOf(const CReportInput& input) {
-    const CString strName = L"の点名";
+    const CString strName = Text(IDS_QUESTION_SUFFIX);
     CString strLabel = Text(input.nQuestionId, input.nNumber);
-    const int nEnd = strLabel.FindOneOf(L"\n（\x3000");
-    strLabel = nEnd < 0 ? strLabel : strLabel.Left(nEnd);
+    const int nEnd = strLabel.FindOneOf(L"\n（(,\x3000");
+    strLabel = nEnd < 0 ? strLabel : strLabel.Left(nEnd).TrimRight();
     const int nName = strLabel.GetLength() - strName.GetLength();
     return nName > 0 && strLabel.Mid(nName) == strName ? strLabel.Left(nName) : strLabel;
 }
