@@ -95,7 +95,7 @@ TEST_F(PanelLook, LabelsFollowTheLanguageAndFitTheirKeys) {
     const auto kana = Look();
     AfxSetResourceLanguage(0);
     // The keys with words, of forty parts of the row: letters, then kana.
-    const Rows<const fx::Image*, int, int, int> keys = {
+    const Rows<const Picture*, int, int, int> keys = {
         {&letters, 100, 0, 5}, {&letters, 100, 5, 10}, {&letters, 100, 18, 27}, {&letters, 100, 31, 40},
         {&kana, 104, 0, 5},    {&kana, 104, 5, 10},    {&kana, 104, 10, 15},    {&kana, 104, 23, 29}};
     for (const auto& [pImage, nTop, nLeft, nRight] : keys) {

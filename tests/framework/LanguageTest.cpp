@@ -1,6 +1,7 @@
 // In which language a resource is found. FrameworkTest.rc has some in Japanese, some in British
 // English, and some in both.
-#include "support/ModalScript.h"
+#include "support/TestApp.h"
+#include "testkit/Script.h"
 
 namespace {
 
@@ -88,13 +89,13 @@ TEST_F(Language, DialogsMenusErrorsAndMessageBoxesFollow) {
         EXPECT_EQ(CString(szError), row.pszError);
 
         CString strButton;
-        fx::ModalScript script;
+        testkit::Script script;
         script.Then([&] {
             CWnd* pBox = CWnd::GetActiveWindow();
             pBox->GetDlgItemText(IDYES, strButton);
             pBox->PostMessage(WM_COMMAND, IDNO);
         });
-        script.Run([] { return AfxMessageBox(L"?", MB_YESNO); });
+        EXPECT_EQ(script.Run([] { return AfxMessageBox(L"?", MB_YESNO); }), IDNO);
         strButton.Remove(L'&');
         EXPECT_EQ(strButton.SpanExcluding(L"("), row.pszYes) << "of the system";
     }

@@ -1,7 +1,7 @@
 // Compares the languages of a module's resources, and measures their texts on the screen.
 #pragma once
 
-#include "FrameworkEnvironment.h"
+#include "TestApp.h"
 
 #include <map>
 #include <regex>
