@@ -15,10 +15,7 @@ constexpr SIZE kFrameThickness = {1, 1};
 /// The part of the screen between its two bars, which on the device is that from (0, 26) to
 /// (240, 294).
 CRect AreaBetweenBars(HWND hWnd) {
-    MONITORINFO info = {};
-    info.cbSize = sizeof info;
-    ::GetMonitorInfo(::MonitorFromWindow(hWnd, MONITOR_DEFAULTTONEAREST), &info);
-    CRect area(info.rcWork);
+    CRect area = AfxGetWorkArea(hWnd);
     area.DeflateRect(0, AfxScale(hWnd, AFX_DEVICE_BAR_HEIGHT));
     return area;
 }
@@ -95,6 +92,10 @@ void CnDialog::InitFullScreen() {
     // now: the focus comes again, and is noticed, when the initialisation is over.
     if (const CWnd* pFocus = GetFocus(); pFocus != nullptr && IsChild(pFocus))
         ::SetFocus(nullptr);
+}
+
+BOOL CnDialog::Anchor(UINT nID, int nLeft, int nTop, int nRight, int nBottom) {
+    return AfxAnchorControl(::GetDlgItem(m_hWnd, static_cast<int>(nID)), {nLeft, nTop, nRight, nBottom});
 }
 
 // --- Ending ----------------------------------------------------------------------------------

@@ -38,6 +38,16 @@ public:
     /// Colours the dialog's surface and its static texts. Call before the dialog is created.
     void SetBKColor(DWORD crColor);
 
+    /// Ties the edges of a control to those of the dialog, for screens that are larger than the
+    /// device's; see AfxAnchorControl. Without it nothing moves. To be called in OnInitDialog, before
+    /// the base class or after it.
+    ///
+    ///     Anchor(IDC_LIST, 0, 0, 100, 100); // grows with the dialog
+    ///     Anchor(IDC_CLOSE, 100, 100, 100, 100); // stays at the lower right corner
+    /// @param nLeft,nTop,nRight,nBottom percent of what the dialog has more than it needs
+    /// @return FALSE, with nothing done, if there is no such control
+    BOOL Anchor(UINT nID, int nLeft, int nTop, int nRight, int nBottom);
+
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:

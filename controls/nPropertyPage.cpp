@@ -1,5 +1,7 @@
 #include "controls/nPropertyPage.h"
 
+#include <afxext.h>
+
 // clang-format off
 BEGIN_MESSAGE_MAP(CnPropertyPage, CPropertyPage)
     ON_WM_LBUTTONDOWN()
@@ -15,6 +17,10 @@ void CnPropertyPage::DoDataExchange(CDataExchange* pDX) {
 BOOL CnPropertyPage::OnInitDialog() {
     CDialog::OnInitDialog();
     return TRUE;
+}
+
+BOOL CnPropertyPage::Anchor(UINT nID, int nLeft, int nTop, int nRight, int nBottom) {
+    return AfxAnchorControl(::GetDlgItem(m_hWnd, static_cast<int>(nID)), {nLeft, nTop, nRight, nBottom});
 }
 
 void CnPropertyPage::OnLButtonDown(UINT, CPoint) {

@@ -13,6 +13,9 @@ public:
     ///                    title is the text of the tab
     explicit CnPropertyPage(int nIDTemplate);
 
+    /// Ties the edges of a control to those of the page, as CnDialog::Anchor.
+    BOOL Anchor(UINT nID, int nLeft, int nTop, int nRight, int nBottom);
+
 protected:
     /// Nothing of its own; derived classes call it first.
     void DoDataExchange(CDataExchange* pDX) override;

@@ -2,7 +2,7 @@
 /// The resolution of screens. Included by afxwin.h.
 #pragma once
 
-#include "afxtypes.h"
+#include "atltypes.h"
 
 /// The resolution for which sizes in pixels are stated, in programs and in their documentation.
 constexpr int AFX_DESIGN_DPI = 96;
@@ -17,3 +17,7 @@ AFX_CORE int AFXAPI AfxGetDpi(HWND hWnd);
 /// A length that is stated for AFX_DESIGN_DPI in the pixels of a window, rounded.
 /// @param hWnd as for AfxGetDpi
 AFX_CORE int AFXAPI AfxScale(HWND hWnd, int nPixels);
+
+/// What the system's own bars leave of the monitor that a window stands on.
+/// @param hWnd as for AfxGetDpi
+AFX_CORE CRect AFXAPI AfxGetWorkArea(HWND hWnd);

@@ -108,6 +108,26 @@ enum : DWORD { SHDB_SHOW = 0x0001, SHDB_HIDE = 0x0002 };
 /// @return FALSE if hWnd is not a window of this framework and there is no shell library.
 AFX_CORE BOOL AFXAPI SHDoneButton(HWND hWnd, DWORD dwState);
 
+// --- Screens larger than the device's --------------------------------------------------------------
+
+/// How the edges of a control follow those of its parent, each in percent of what the parent has
+/// more than it needs: 0 stays, 100 goes with the right or lower edge, 50 is for two side by side.
+struct AFX_ANCHOR {
+    int nLeft;
+    int nTop;
+    int nRight;
+    int nBottom;
+};
+/// Ties a control to the edges of its parent, at once and for as long as both live. A second call
+/// takes the place of the first.
+///
+/// Controls of a full-screen dialog, or of a page in a full-screen sheet, stand where they are
+/// meant to on the device's screen of 240 x 320 pixels at AFX_DESIGN_DPI; what the screen is
+/// larger is shared out. In another window it is what that becomes larger from now on. A window
+/// that is smaller than meant takes nothing away: a full-screen dialog scrolls then.
+/// @return FALSE, with nothing done, if the window is no child
+AFX_CORE BOOL AFXAPI AfxAnchorControl(HWND hWndControl, const AFX_ANCHOR& anchor);
+
 // --- Soft input panel ----------------------------------------------------------------------------
 
 /// wParam of the WM_SETTINGCHANGE message that tells the active window that the soft input

@@ -43,13 +43,6 @@ void RefreshFrame(HWND hWnd) {
 
 // --- Geometry, in window coordinates ---------------------------------------------------------
 
-CRect CDeviceCaption::WorkArea(const CWnd* pWnd) {
-    MONITORINFO info = {};
-    info.cbSize = sizeof info;
-    ::GetMonitorInfo(::MonitorFromWindow(pWnd->m_hWnd, MONITOR_DEFAULTTONEAREST), &info);
-    return info.rcWork;
-}
-
 CRect CDeviceCaption::BarRect(const CWnd* pWnd) {
     CRect window;
     pWnd->GetWindowRect(window);
@@ -148,16 +141,15 @@ BOOL CDeviceCaption::OnFullScreenMessage(CWnd* pWnd, UINT message, WPARAM wParam
     case WM_GETMINMAXINFO: {
         *pResult = AfxWndAccess::CallSuper(pWnd, message, wParam, lParam);
         auto* pInfo = reinterpret_cast<MINMAXINFO*>(lParam);
-        const CRect area = WorkArea(pWnd);
+        const CRect area = AfxGetWorkArea(pWnd->m_hWnd);
         pInfo->ptMaxPosition = CPoint(0, 0);
         pInfo->ptMaxSize = CPoint(area.Width(), area.Height());
         pInfo->ptMaxTrackSize = pInfo->ptMaxSize;
         return TRUE;
     }
     case WM_SIZE:
-        *pResult = AfxWndAccess::CallSuper(pWnd, message, wParam, lParam);
         OnSized(pWnd, wParam);
-        return TRUE;
+        return FALSE;
     default:
         return FALSE;
     }
@@ -181,7 +173,7 @@ LRESULT CDeviceCaption::OnHitTest(CWnd* pWnd, WPARAM wParam, LPARAM lParam) {
 void CDeviceCaption::OnSized(CWnd* pWnd, WPARAM wParam) {
     // Maximising alone leaves a window without a sizing frame at its old size.
     if (wParam == SIZE_MAXIMIZED) {
-        const CRect area = WorkArea(pWnd);
+        const CRect area = AfxGetWorkArea(pWnd->m_hWnd);
         CRect window;
         pWnd->GetWindowRect(window);
         if (window != area)
@@ -200,7 +192,7 @@ void CDeviceCaption::EnterFullScreen(CWnd* pWnd) {
     if (::GetActiveWindow() == pWnd->m_hWnd) // it became so before the title bar was ours
         AfxWndAccess::SetFlags(pWnd, WF_CAPTIONACTIVE);
     KeepSystemFromDrawing(pWnd->m_hWnd);
-    const CRect area = WorkArea(pWnd);
+    const CRect area = AfxGetWorkArea(pWnd->m_hWnd);
     ::SetWindowPos(pWnd->m_hWnd, nullptr, area.left, area.top, area.Width(), area.Height(),
                    SWP_FRAMECHANGED | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -32,7 +32,6 @@ private:
     static CRect BarRect(const CWnd* pWnd);
     static CRect ButtonRect(const CWnd* pWnd, Button button);
     static Button ButtonAt(const CWnd* pWnd, CPoint screenPoint);
-    static CRect WorkArea(const CWnd* pWnd);
 };
 
 } // namespace fieldkit::detail

@@ -1,7 +1,8 @@
 #include "window/WndShell.h"
 
 #include "DeviceCaption.h"
-#include "SipRooms.h"
+#include "Rooms.h"
+#include "ScreenChange.h"
 
 using namespace fieldkit::detail;
 
@@ -10,7 +11,11 @@ namespace {
 BOOL OnMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (CDeviceCaption::OnMessage(pWnd, message, wParam, lParam, pResult))
         return TRUE;
-    if (!CSipRooms::OnMessage(pWnd, message, wParam, lParam))
+    if (CScreenChange::OnMessage(pWnd, message, wParam, lParam)) {
+        *pResult = 0;
+        return TRUE;
+    }
+    if (!CRooms::OnMessage(pWnd, message, wParam, lParam))
         return FALSE;
     *pResult = TRUE;
     return TRUE;

@@ -47,6 +47,13 @@ int AFXAPI AfxScale(HWND hWnd, int nPixels) {
     return ::MulDiv(nPixels, AfxGetDpi(hWnd), AFX_DESIGN_DPI);
 }
 
+CRect AFXAPI AfxGetWorkArea(HWND hWnd) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof info;
+    ::GetMonitorInfo(::MonitorFromWindow(hWnd, MONITOR_DEFAULTTONEAREST), &info);
+    return info.rcWork;
+}
+
 void CResolution::Tell(HWND hWnd, int nDpi) {
     if (nDpi > 0)
         ::SetProp(hWnd, kToldProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(nDpi)));
@@ -78,4 +85,12 @@ NONCLIENTMETRICS CResolution::NonClientMetrics(HWND hWnd) {
         !pfn(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, static_cast<UINT>(AfxGetDpi(hWnd))))
         ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     return metrics;
+}
+
+void CResolution::KeepSystemFromScaling(HWND hDialog) {
+    using Function = BOOL(WINAPI*)(HWND, UINT, UINT);
+    constexpr UINT kDisableAll = 1;
+    static const auto pfn = FromSystem<Function>("SetDialogDpiChangeBehavior");
+    if (pfn != nullptr)
+        pfn(hDialog, kDisableAll, kDisableAll);
 }

@@ -16,6 +16,8 @@ public:
     /// As AdjustWindowRectEx, for a window without a menu.
     static void AdjustRect(HWND hWnd, LPRECT pRect, DWORD dwStyle, DWORD dwExStyle);
     static NONCLIENTMETRICS NonClientMetrics(HWND hWnd);
+    /// Dialogs follow a change in one way on all systems: the framework's.
+    static void KeepSystemFromScaling(HWND hDialog);
 };
 
 } // namespace fieldkit::detail

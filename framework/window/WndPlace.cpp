@@ -61,11 +61,7 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
         ::GetClientRect(hOwner, center);
         ::MapWindowPoints(hOwner, ::GetParent(m_hWnd), reinterpret_cast<LPPOINT>(&center), 2);
     } else {
-        MONITORINFO info = {};
-        info.cbSize = sizeof info;
-        ::GetMonitorInfo(::MonitorFromWindow(hOwner != nullptr ? hOwner : m_hWnd, MONITOR_DEFAULTTONEAREST),
-                         &info);
-        area = info.rcWork;
+        area = AfxGetWorkArea(hOwner != nullptr ? hOwner : m_hWnd);
         center = area;
         if (hOwner != nullptr)
             ::GetWindowRect(hOwner, center);
