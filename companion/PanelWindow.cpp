@@ -49,14 +49,13 @@ RECT WorkArea() {
 }
 
 /// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow,
-/// as far as it makes them easier to hit; on a low one they stay as they are, for half of it.
+/// as far as it makes them easier to hit; a low one keeps the same share of it for the dialog.
 RECT PlaceIn(const RECT& area) {
     const HWND focus = ::GetFocus();
     const LONG width = area.right - area.left;
-    const LONG whole = area.bottom - area.top;
-    const LONG least = std::min<LONG>(AfxScale(focus, kPanelHeight), whole / 2);
-    const LONG most = std::min<LONG>(AfxScale(focus, kPanelHeightMost), width * kPanelHeight / kScreenWidth);
-    const LONG height = std::min(std::max(whole * kPanelHeight / kScreenHeight, least), most);
+    const LONG height = std::min({width * kPanelHeight / kScreenWidth,
+                                  (area.bottom - area.top) * kPanelHeight / kScreenHeight,
+                                  LONG{AfxScale(focus, kPanelHeightMost)}});
     const LONG bottom = area.bottom - AfxScale(focus, AFX_DEVICE_BAR_HEIGHT);
     return {area.left, bottom - height, area.right, bottom};
 }

@@ -43,6 +43,7 @@ struct OpenFolder {
 // clang-format off
 BEGIN_MESSAGE_MAP(CBrowseFolderDlg, CnDialog)
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_DPICHANGED, &CBrowseFolderDlg::OnDpiChanged)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -64,6 +65,7 @@ void CBrowseFolderDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CBrowseFolderDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_FK_FOLDER_TREE, 0, 0, 100, 100);
     // A tree that gets the focus selects its first item. An empty one has none to select, so
     // that nothing is selected but what the caller asked for.
     m_tree.SetFocus();
@@ -82,12 +84,20 @@ BOOL CBrowseFolderDlg::OnInitDialog() {
 }
 
 void CBrowseFolderDlg::LoadImages() {
+    m_tree.SetImageList(nullptr, TVSIL_NORMAL);
+    m_images.DeleteImageList(); // of another resolution
     const int nSize = AfxScale(m_hWnd, kImageSize);
     m_images.Create(nSize, nSize, ILC_COLOR, kImageCount, kImageCount);
     m_images.SetBkColor(kImageBackground);
     for (const TVIcon nIcon : kIcons)
         m_images.Add(TVGetCommonIcon(nIcon));
     m_tree.SetImageList(&m_images, TVSIL_NORMAL);
+}
+
+LRESULT CBrowseFolderDlg::OnDpiChanged(WPARAM, LPARAM) {
+    const LRESULT lResult = Default();
+    LoadImages();
+    return lResult;
 }
 
 HTREEITEM CBrowseFolderDlg::InsertFolder(HTREEITEM hParent, LPCTSTR pszName, int nImage,

@@ -49,6 +49,8 @@ protected:
 
     /// Frees the tree of a dialog that ends in neither way, as with its application.
     afx_msg void OnDestroy();
+    /// The icons in the size of the new resolution.
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 

@@ -2,6 +2,7 @@
 
 #include "Tesuvo.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "dialogs/detail/LoadText.h"
@@ -11,13 +12,17 @@ using namespace fieldkit::detail;
 
 namespace {
 
-constexpr int kButtonHeight = 36; ///< Pixels at AFX_DESIGN_DPI, for a finger.
+// Pixels at AFX_DESIGN_DPI.
+constexpr int kButtonHeight = 36; // for a finger
+constexpr int kLowestButton = 24;
+constexpr int kDeviceHeight = 320;
 constexpr int kNothingChosen = -1;
 
 } // namespace
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CButtonMenuDlg, CnDialog)
+    ON_MESSAGE(WM_DPICHANGED, &CButtonMenuDlg::OnDpiChanged)
     ON_COMMAND_RANGE(IDC_FK_MENU_FIRST, IDC_FK_MENU_LAST, &CButtonMenuDlg::OnBtnMenu)
 END_MESSAGE_MAP()
 // clang-format on
@@ -46,7 +51,7 @@ void CButtonMenuDlg::DoDataExchange(CDataExchange* pDX) {
 BOOL CButtonMenuDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     m_nMenuIndex = kNothingChosen; // a second run of the same dialog object
-    SetClientHeight(static_cast<int>(m_pEntryIds->GetSize()) * AfxScale(m_hWnd, kButtonHeight));
+    FitToEntries();
     CreateButtons();
     SetWindowText(LoadText(m_nTitleId));
     CenterWindow();
@@ -54,29 +59,53 @@ BOOL CButtonMenuDlg::OnInitDialog() {
     return TRUE;
 }
 
-void CButtonMenuDlg::SetClientHeight(int nHeight) {
-    CRect rect;
-    GetClientRect(rect);
-    rect.bottom = rect.top + nHeight;
-    CalcWindowRect(rect, adjustOutside);
-    SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+/// A column of entries. On a screen that is lower than the device's they are as low as a pen can
+/// do with, and if that is not enough, they stand in several columns.
+void CButtonMenuDlg::FitToEntries() {
+    const int nCount = static_cast<int>(m_pEntryIds->GetSize());
+    const CRect area = AfxGetWorkArea(m_hWnd);
+    CRect frame;
+    CalcWindowRect(frame, adjustOutside);
+    CRect client;
+    GetClientRect(client);
+    m_sizeButton = CSize(client.Width(), AfxScale(m_hWnd, kButtonHeight));
+    int nColumns = 1;
+    if (area.Height() < AfxScale(m_hWnd, kDeviceHeight)) {
+        const int nRoom = area.Height() - frame.Height();
+        m_sizeButton.cy =
+            std::clamp<int>(nRoom / std::max(nCount, 1), AfxScale(m_hWnd, kLowestButton), m_sizeButton.cy);
+        const int nFitting = std::max<int>(nRoom / m_sizeButton.cy, 1);
+        nColumns = std::max((nCount + nFitting - 1) / nFitting, 1);
+    }
+    m_nRows = (nCount + nColumns - 1) / nColumns; // columns of like height
+    if (nColumns > 1)
+        m_sizeButton.cx = std::min<int>(m_sizeButton.cx, (area.Width() - frame.Width()) / nColumns);
+    SetWindowPos(nullptr, 0, 0, nColumns * m_sizeButton.cx + frame.Width(),
+                 m_nRows * m_sizeButton.cy + frame.Height(), SWP_NOMOVE | SWP_NOZORDER);
 }
 
 void CButtonMenuDlg::CreateButtons() {
     DeleteButtons();
     m_buttons.RemoveAll();
-    CRect rect;
-    GetClientRect(rect);
-    rect.bottom = rect.top + AfxScale(m_hWnd, kButtonHeight);
     for (INT_PTR i = 0; i < m_pEntryIds->GetSize(); ++i) {
+        const auto nEntry = static_cast<int>(i);
+        const CRect rect(CPoint(nEntry / m_nRows * m_sizeButton.cx, nEntry % m_nRows * m_sizeButton.cy),
+                         m_sizeButton);
         m_buttons.Add(nullptr); // the place first: without memory for it there must be no button
         auto* const pButton = m_buttons[i] = new CIconButton;
         pButton->Create(LoadText(static_cast<int>(m_pEntryIds->GetAt(i))), BS_OWNERDRAW | WS_VISIBLE, rect,
                         this, static_cast<UINT>(IDC_FK_MENU_FIRST + i));
         pButton->SetIcon(TVGetCommonIcon(TVICON_MENU_ENTRY));
         pButton->SetButtonStyle(CIconButton::StyleText);
-        rect.OffsetRect(0, AfxScale(m_hWnd, kButtonHeight));
     }
+}
+
+LRESULT CButtonMenuDlg::OnDpiChanged(WPARAM, LPARAM) {
+    const LRESULT lResult = Default();
+    for (INT_PTR i = 0; i < m_buttons.GetSize(); ++i)
+        if (m_buttons[i] != nullptr)
+            m_buttons[i]->SetIcon(TVGetCommonIcon(TVICON_MENU_ENTRY));
+    return lResult;
 }
 
 // --- Ending ----------------------------------------------------------------------------------

@@ -36,11 +36,13 @@ protected:
     /// Takes the entry of a tapped button over and ends the dialog with IDOK.
     /// @param nID the button's control id
     afx_msg void OnBtnMenu(unsigned int nID);
+    /// The icons in the size of the new resolution.
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SetClientHeight(int nHeight);
+    void FitToEntries();
     int FocusedEntry() const;
     void CreateButtons();
     void DeleteButtons();
@@ -49,4 +51,6 @@ private:
     CUIntArray* m_pEntryIds;
     int m_nTitleId;
     int m_nMenuIndex;
+    CSize m_sizeButton;
+    int m_nRows = 1; ///< Entries in a column.
 };

@@ -17,6 +17,12 @@ namespace {
 
 enum Column { ColumnName, ColumnTime, ColumnSize };
 
+struct Heading {
+    int nText;
+    int nWidth; ///< Pixels at AFX_DESIGN_DPI; of the name at least.
+};
+constexpr Heading kHeadings[] = {{IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
+
 /// Text of a column. Made for each of thousands of files, so it asks for no memory.
 using ShortText = wchar_t[32];
 
@@ -51,6 +57,8 @@ UINT ReasonOf(NameFault fault) {
 BEGIN_MESSAGE_MAP(CFileSelectDlg, CnDialog)
     ON_NOTIFY(NM_CLICK, IDC_FK_FILE_LIST, &CFileSelectDlg::OnClickLstFiles)
     ON_BN_CLICKED(IDC_FK_FILE_BROWSE, &CFileSelectDlg::OnBtnFile)
+    ON_WM_SIZE()
+    ON_MESSAGE(WM_DPICHANGED, &CFileSelectDlg::OnDpiChanged)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -147,11 +155,22 @@ BOOL CFileSelectDlg::OnInitDialog() {
     ShowFolder();
     const RedrawPause pause(m_lstFiles);
     InitColumns();
+    AnchorControls();
     ChooseListFont();
     m_lstFiles.SetExtendedStyle(m_lstFiles.GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     ShowSubName();
     AddFiles();
     return TRUE;
+}
+
+void CFileSelectDlg::AnchorControls() {
+    Anchor(IDC_FK_FILE_NAME, 0, 0, 100, 0);
+    Anchor(IDC_FK_FILE_FOLDER, 0, 0, 100, 0);
+    Anchor(IDC_FK_FILE_BROWSE, 100, 0, 100, 0);
+    Anchor(IDC_FK_FILE_LIST, 0, 0, 100, 100);
+    Anchor(IDC_FK_FILE_EXTENSION_LABEL, 0, 100, 0, 100);
+    Anchor(IDC_FK_FILE_EXTENSION, 0, 100, 100, 100);
+    FitColumns();
 }
 
 void CFileSelectDlg::ShowTitle() {
@@ -211,15 +230,34 @@ void CFileSelectDlg::OnBtnFile() {
 // --- The list --------------------------------------------------------------------------------
 
 void CFileSelectDlg::InitColumns() {
-    struct Heading {
-        int nText;
-        int nWidth; ///< Pixels at AFX_DESIGN_DPI.
-    };
-    constexpr Heading kHeadings[] = {
-        {IDS_FK_FILE_NAME, 100}, {IDS_FK_DATE_MODIFIED, 119}, {IDS_FK_SIZE, 100}};
     for (int nColumn = ColumnName; nColumn <= ColumnSize; ++nColumn)
         m_lstFiles.InsertColumn(nColumn, LoadText(kHeadings[nColumn].nText), LVCFMT_LEFT,
                                 AfxScale(m_hWnd, kHeadings[nColumn].nWidth), nColumn);
+}
+
+/// A wide screen is for long names.
+void CFileSelectDlg::FitColumns() {
+    CRect list;
+    m_lstFiles.GetClientRect(list);
+    int nRest = list.Width() - ::GetSystemMetrics(SM_CXVSCROLL);
+    for (int nColumn = ColumnSize; nColumn >= ColumnName; --nColumn) {
+        const int nWidth = AfxScale(m_hWnd, kHeadings[nColumn].nWidth);
+        m_lstFiles.SetColumnWidth(nColumn, nColumn == ColumnName ? std::max(nWidth, nRest) : nWidth);
+        nRest -= nWidth;
+    }
+}
+
+void CFileSelectDlg::OnSize(UINT nType, int cx, int cy) {
+    CnDialog::OnSize(nType, cx, cy);
+    if (m_lstFiles.GetSafeHwnd() != nullptr)
+        FitColumns();
+}
+
+LRESULT CFileSelectDlg::OnDpiChanged(WPARAM, LPARAM) {
+    const LRESULT lResult = Default();
+    m_btnFile.SetIcon(TVGetCommonIcon(TVICON_FOLDER_BUTTON));
+    ChooseListFont();
+    return lResult;
 }
 
 /// In a wide font the end of the time would be cut off. The list then gets the widest form of the

@@ -74,11 +74,18 @@ protected:
     afx_msg void OnClickLstFiles(NMHDR* pNMHDR, LRESULT* pResult);
     /// Lets the user pick another folder. The name in the field stays.
     afx_msg void OnBtnFile();
+    /// The list follows the size of the dialog, icon and font the resolution.
+    ///@{
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
+    ///@}
 
     DECLARE_MESSAGE_MAP()
 
 private:
     void InitColumns();
+    void FitColumns();
+    void AnchorControls();
     void ChooseListFont();
     void ShowTitle();
     void ShowFolder();

@@ -118,8 +118,10 @@ std::wstring FitToScreen(View text) {
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics); // may have no memory for it
     const int nLineHeight = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
-    const int nMost = (::GetSystemMetrics(SM_CYSCREEN) - kAboveAndBelowText) / nLineHeight;
-    std::vector<View> lines = BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - kBesideText);
+    const int nRoom = ::GetSystemMetrics(SM_CYSCREEN) - AfxScale(nullptr, kAboveAndBelowText);
+    const int nMost = nRoom / nLineHeight;
+    std::vector<View> lines =
+        BreakIntoLines(dc, text, ::GetSystemMetrics(SM_CXSCREEN) - AfxScale(nullptr, kBesideText));
     Shorten(lines, static_cast<size_t>(std::max(nMost, kFewestLines)));
     std::wstring result(lines.front());
     for (size_t i = 1; i < lines.size(); ++i)

@@ -27,6 +27,10 @@ BOOL CResultDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
     SetWindowText(m_strCaption);
     SetDlgItemText(IDC_FK_RESULT_MESSAGE, m_strMessage);
+    Anchor(IDC_FK_RESULT_LINES, 0, 0, 100, 100);
+    Anchor(IDC_FK_RESULT_MESSAGE, 0, 100, 100, 100);
+    Anchor(IDOK, 33, 100, 33, 100);
+    Anchor(IDCANCEL, 67, 100, 67, 100);
     FillList(*static_cast<CListBox*>(GetDlgItem(IDC_FK_RESULT_LINES)));
     CenterWindow();
     ShowWindow(SW_SHOW);

@@ -46,6 +46,7 @@ BEGIN_MESSAGE_MAP(CSelMemberDlg, CnDialog)
     ON_BN_CLICKED(IDC_FK_MEMBER_UP, &CSelMemberDlg::OnBtnUp)
     ON_BN_CLICKED(IDC_FK_MEMBER_DOWN, &CSelMemberDlg::OnBtnDown)
     ON_MESSAGE(WM_NCCALCSIZE, &CSelMemberDlg::OnNcCalcSize)
+    ON_MESSAGE(WM_DPICHANGED, &CSelMemberDlg::OnDpiChanged)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -96,6 +97,13 @@ BOOL CSelMemberDlg::OnInitDialog() {
     CenterWindow();
     ShowWindow(SW_SHOW);
     return TRUE;
+}
+
+LRESULT CSelMemberDlg::OnDpiChanged(WPARAM, LPARAM) {
+    const LRESULT lResult = Default();
+    m_btnUp.SetIcon(TVGetCommonIcon(TVICON_UP));
+    m_btnDown.SetIcon(TVGetCommonIcon(TVICON_DOWN));
+    return lResult;
 }
 
 void CSelMemberDlg::OnOK() {

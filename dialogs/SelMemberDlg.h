@@ -54,6 +54,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// The icons in the size of the new resolution.
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnNcCalcSize(WPARAM wParam, LPARAM lParam);
     void FitToScreen();
     void MoveCurrent(int nFrom, int nTo);
