@@ -1,7 +1,8 @@
 # shellcheck shell=bash disable=SC2154  # sourced by ./run, which sets the paths
 # The device's screen: a virtual X display of 240 x 320 and a private Wine prefix; or another one.
 
-screen_size=240x320
+device_screen=240x320
+screen_size=$device_screen
 screen_dpi=96
 first_prefix=$build/wine
 prefix=$first_prefix
@@ -62,22 +63,22 @@ in_wine() {
 # What the registry holds for the screen. Wine takes the font of messages as so many pixels,
 # whatever the resolution.
 screen_settings() {
-    printf -v message_height '%02x' $((256 - 9 * screen_dpi / 96))
-    sed -e "s/\"240x320\"/\"$screen_size\"/" -e "s/^  f7,/  $message_height,/" "$root/tools/device.reg"
+    printf -v message_height "f7"
+    sed -e "s/\"$device_screen\"/\"$screen_size\"/" -e "s/^  f7,/  $message_height,/" "$root/tools/device.reg"
     printf '\n[HKEY_CURRENT_USER\\Control Panel\\Desktop]\n"LogPixels"=dword:%08x\n' "$screen_dpi"
 }
 
 make_prefix() {
     rm -rf "$prefix"
     [[ $prefix == "$first_prefix" || ! -d $first_prefix ]] || cp -a "$first_prefix" "$prefix"
-    screen_settings >"$build/tmp/device.reg"
-    if ! cmp -s "$build/tmp/device.reg" "$prefix/device.reg"; then
+    screen_settings >"$prefix.reg"
+    if ! cmp -s "$prefix.reg" "$prefix/device.reg"; then
         [[ -d $prefix ]] || in_wine wineboot -i
-        in_wine wine regedit /S "$build/tmp/device.reg"
+        in_wine wine regedit /S "$prefix.reg"
         add_marlett
         # Writes the registry to disk and ends all that still has the old settings.
         in_wine timeout 60 wineserver -w
-        cp "$build/tmp/device.reg" "$prefix/device.reg"
+        cp "$prefix.reg" "$prefix/device.reg"
     fi
 }
 

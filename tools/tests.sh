@@ -5,9 +5,13 @@ test_timeout=300
 passed=0
 failed=0
 
+# Beside the device's: size and resolution.
+other_screens=('320x240 96' '480x640 192' '800x480 96' '1024x768 96')
+
 # run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
 # also what is no test program: proofs, speed, tutorial, package. Programs with windows wait
-# more than they calculate, so there are three lanes: without a screen, and two with one each.
+# more than they calculate, so there are three lanes: without a screen, and two with one each. The
+# programs that look at all dialogs run on each of other_screens as well.
 run_tests() {
     local built=$SECONDS lane
     start_lane native tests_without_screen "$1"
@@ -38,9 +42,19 @@ tests_without_screen() {
 }
 
 tests_on_second_screen() {
-    [[ -n $(programs "$1" long win64 sample) ]] || return 0
-    open_screen -second
-    run_programs "$1" long win64 sample
+    if [[ -n $(programs "$1" long win64 sample) ]]; then
+        open_screen -second
+        run_programs "$1" long win64 sample
+        close_screen
+    fi
+    [[ -z $1 || screens == *"$1"* ]] || return 0
+    local screen
+    for screen in "${other_screens[@]}"; do
+        # shellcheck disable=SC2086  # size and resolution
+        open_screen "-${screen%% *}" $screen
+        run_programs screens short win64 sample
+        close_screen
+    done
 }
 
 declare -A lanes=()
@@ -96,6 +110,7 @@ programs() {
 run_test_program() {
     local preset=$1 program=$2 name start=$EPOCHREALTIME status=0
     name=$(basename "$program" .exe)
+    [[ $screen_size == "$device_screen" ]] || name+=@$screen_size
     local folder=$build/$preset/results
     local log=$folder/$name.log xml=$folder/$name.xml work=$folder/work/$name
     mkdir -p "$work"

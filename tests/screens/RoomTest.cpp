@@ -1,0 +1,214 @@
+// What full-screen dialogs do with more room than they need, with less, and with another screen.
+#include "support/ModalScript.h"
+#include "support/TitleBar.h"
+
+#include "controls/nDialog.h"
+
+#include <functional>
+
+namespace {
+
+const CSize DEVICE_CLIENT(240, 320 - AFX_DEVICE_BAR_HEIGHT);
+
+struct Dialog : CnDialog {
+    using Init = std::function<void(Dialog&)>;
+
+    explicit Dialog(UINT nTemplate = 210, Init before = {}, Init after = {})
+        : CnDialog(nTemplate, nullptr), m_before(std::move(before)), m_after(std::move(after)) {}
+    BOOL OnInitDialog() override {
+        if (m_before)
+            m_before(*this);
+        CnDialog::OnInitDialog();
+        if (m_after)
+            m_after(*this);
+        return TRUE;
+    }
+    /// In client coordinates.
+    CRect RectOf(int nID) const {
+        CRect rect;
+        GetDlgItem(nID)->GetWindowRect(rect);
+        ScreenToClient(rect);
+        return rect;
+    }
+    /// How much wider and higher than the device's this screen is.
+    CSize Spare() const {
+        CRect client;
+        GetClientRect(client);
+        return CSize(std::max<int>(client.Width() - AfxScale(m_hWnd, DEVICE_CLIENT.cx), 0),
+                     std::max<int>(client.Height() - AfxScale(m_hWnd, DEVICE_CLIENT.cy), 0));
+    }
+    bool HasScrollBar() const {
+        const CWnd* const pBar = GetScrollBar();
+        return pBar != nullptr && pBar->IsWindowVisible();
+    }
+    CWnd* GetScrollBar() const { return FromHandle(::FindWindowEx(m_hWnd, nullptr, WC_SCROLLBAR, nullptr)); }
+    CRect HomeOf(int nID) const { return m_homes[nID - 100]; }
+
+    CRect m_homes[6];
+
+private:
+    Init m_before, m_after;
+};
+
+/// For messages of tests.
+std::string Text(const CRect& rect) {
+    CString str;
+    str.Format(L"(%d, %d)-(%d, %d)", rect.left, rect.top, rect.right, rect.bottom);
+    return fx::Utf8(str);
+}
+
+void NoteHomes(Dialog& dialog) {
+    for (int nID = 100; nID <= 105; ++nID)
+        dialog.m_homes[nID - 100] = dialog.RectOf(nID);
+}
+
+TEST(Anchor, SharesOutWhatTheScreenHasMoreAndNothingElseMoves) {
+    struct Row {
+        int nID;
+        AFX_ANCHOR anchor;
+    };
+    constexpr Row ROWS[] = {{101, {50, 0, 100, 0}},
+                            {102, {0, 0, 100, 100}},
+                            {103, {0, 100, 50, 100}},
+                            {104, {50, 100, 100, 100}},
+                            {105, {100, 100, 100, 100}}};
+    const auto anchor = [&](Dialog& dialog) {
+        for (const auto& [nID, a] : ROWS)
+            EXPECT_TRUE(dialog.Anchor(nID, a.nLeft, a.nTop, a.nRight, a.nBottom));
+    };
+    const auto homesAndAnchors = [&](Dialog& dialog) { NoteHomes(dialog), anchor(dialog); };
+    const auto twice = [&](Dialog& dialog) {
+        NoteHomes(dialog);
+        for (const auto& row : ROWS)
+            dialog.Anchor(row.nID, 100, 0, 100, 0);
+        anchor(dialog);
+    };
+    Dialog before(210, homesAndAnchors), after(210, {}, homesAndAnchors), again(210, {}, twice);
+    EXPECT_FALSE(before.Anchor(100, 0, 0, 100, 100)) << "without a window";
+    for (Dialog* const pDialog : {&before, &after, &again})
+        fx::WhileOpen(*pDialog, [&] {
+            EXPECT_FALSE(pDialog->Anchor(999, 0, 0, 100, 100));
+            if (pDialog->HasScrollBar())
+                return; // a lower screen: what it has more in width is the next test's
+            const CSize spare = pDialog->Spare();
+            EXPECT_EQ(pDialog->HomeOf(100), pDialog->RectOf(100)) << "without an anchor";
+            for (const auto& [nID, a] : ROWS) {
+                CRect wanted = pDialog->HomeOf(nID);
+                wanted.left += spare.cx * a.nLeft / 100;
+                wanted.right += spare.cx * a.nRight / 100;
+                wanted.top += spare.cy * a.nTop / 100;
+                wanted.bottom += spare.cy * a.nBottom / 100;
+                EXPECT_EQ(Text(wanted), Text(pDialog->RectOf(nID))) << nID;
+            }
+        });
+}
+
+TEST(Anchor, ControlThatIsDestroyedOrMovedByTheProgramDoesNoHarm) {
+    Dialog dialog(210, {}, [](Dialog& d) {
+        d.Anchor(102, 0, 0, 100, 100);
+        d.Anchor(103, 0, 100, 0, 100);
+        d.GetDlgItem(102)->DestroyWindow();
+    });
+    fx::WhileOpen(dialog, [&] {
+        const CRect place(5, 6, 70, 30);
+        dialog.GetDlgItem(103)->MoveWindow(place);
+        dialog.SendMessage(WM_SIZE, SIZE_RESTORED, 0);
+        EXPECT_EQ(place, dialog.RectOf(103));
+    });
+}
+
+/// Whether a control can be seen between the bars.
+fx::Step UntilSeen(const Dialog& dialog, int nID) {
+    return [&dialog, nID]() -> bool {
+        const CRect rect = dialog.RectOf(nID);
+        CRect client;
+        dialog.GetClientRect(client);
+        return rect.top >= 0 && rect.bottom <= client.bottom - AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT);
+    };
+}
+
+TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
+    Dialog dialog(211);
+    const auto focus = [&](int nID) {
+        return [&dialog, nID] { dialog.GotoDlgCtrl(dialog.GetDlgItem(nID)); };
+    };
+    const auto tapDown = [&] {
+        const CRect bar = fx::RectOf(*dialog.GetScrollBar());
+        pen::Tap(CPoint(bar.CenterPoint().x, bar.bottom - 4));
+    };
+    CRect bar, toolbar;
+    const auto look = [&] {
+        bar = fx::RectOf(*dialog.GetScrollBar());
+        toolbar = fx::RectOf(*dialog.m_pWndEmptyCB);
+    };
+    const auto expectBarsInPlace = [&] {
+        EXPECT_EQ(bar, fx::RectOf(*dialog.GetScrollBar()));
+        EXPECT_EQ(toolbar, fx::RectOf(*dialog.m_pWndEmptyCB));
+    };
+    fx::PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102),
+                            expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
+                            [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
+                            UntilSeen(dialog, 101)});
+}
+
+TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {
+    Dialog dialog(210, {}, [](Dialog& d) { d.Anchor(102, 0, 0, 100, 100); });
+    fx::WhileOpen(dialog, [&] {
+        CWnd& edit = *dialog.GetDlgItem(100);
+        edit.SetWindowText(L"K12");
+        edit.SetFocus();
+        NoteHomes(dialog);
+        const CRect screen = fx::WorkArea();
+        for (const CSize other :
+             {CSize(screen.Height(), screen.Width()), CSize(2000, 2000), CSize(100, 60)}) {
+            dialog.SetWindowPos(nullptr, 0, 0, other.cx, other.cy, SWP_NOZORDER); // as it was before
+            dialog.SendMessage(WM_DISPLAYCHANGE, 32, MAKELPARAM(screen.Width(), screen.Height()));
+            EXPECT_EQ(Text(screen), Text(fx::RectOf(dialog)));
+            for (int nID = 100; nID <= 105; ++nID)
+                EXPECT_EQ(Text(dialog.HomeOf(nID)), Text(dialog.RectOf(nID))) << nID;
+        }
+        EXPECT_EQ(L"K12", fx::TextOf(edit));
+        EXPECT_EQ(&edit, CWnd::GetFocus());
+    });
+}
+
+TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
+    Dialog dialog(210, {}, [](Dialog& d) { d.Anchor(102, 0, 0, 100, 100); });
+    fx::WhileOpen(dialog, [&] {
+        auto& edit = *static_cast<CEdit*>(dialog.GetDlgItem(100));
+        auto& list = *static_cast<CListBox*>(dialog.GetDlgItem(102));
+        edit.SetWindowText(L"K12");
+        list.AddString(L"a");
+        list.SetCurSel(list.AddString(L"b"));
+        edit.SetFocus();
+        edit.SetSel(1, 2);
+        NoteHomes(dialog);
+        const int nDpi = AfxGetDpi(dialog);
+        const CRect window = fx::RectOf(dialog);
+        const auto change = [&](int n, LPARAM lParam) {
+            dialog.SendMessage(WM_DPICHANGED, MAKEWPARAM(n, n), lParam);
+        };
+        change(0, 0);
+        EXPECT_EQ(nDpi, AfxGetDpi(dialog));
+        change(0xFFFF, 0);
+        EXPECT_GT(1000, AfxGetDpi(dialog));
+        change(nDpi, 0);
+        for (int nID = 100; nID <= 105; ++nID)
+            EXPECT_EQ(Text(dialog.HomeOf(nID)), Text(dialog.RectOf(nID))) << "back again " << nID;
+        change(2 * nDpi, reinterpret_cast<LPARAM>(&window));
+        EXPECT_EQ(2 * nDpi, AfxGetDpi(dialog));
+        EXPECT_EQ(CSize(2 * dialog.HomeOf(103).Width(), 2 * dialog.HomeOf(103).Height()),
+                  dialog.RectOf(103).Size());
+        EXPECT_EQ(fx::WorkArea(), fx::RectOf(dialog));
+        CRect client;
+        dialog.GetClientRect(client);
+        EXPECT_EQ(window.Height() - AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT), client.Height());
+        EXPECT_EQ(L"K12", fx::TextOf(edit));
+        EXPECT_EQ(MAKELONG(1, 2), static_cast<LONG>(edit.SendMessage(EM_GETSEL)));
+        EXPECT_EQ(1, list.GetCurSel());
+        EXPECT_EQ(&edit, CWnd::GetFocus());
+        EXPECT_EQ(nDpi, AfxGetDpi(nullptr)) << "of this dialog only";
+    });
+}
+
+} // namespace

@@ -1,0 +1,174 @@
+// Walks over the controls of an open window and tells which of them a user could not read or reach.
+#pragma once
+
+#include "support/FrameworkEnvironment.h"
+#include "support/TitleBar.h"
+
+#include "afxdlgs.h"
+
+namespace fx {
+
+class ScreenWalk {
+public:
+    /// @return a line for each fault, nothing for a window that is as it should be
+    static std::string FaultsOf(HWND hWnd) {
+        ScreenWalk walk;
+        CRect window = RectOf(hWnd);
+        window.DeflateRect(::GetSystemMetrics(SM_CXFIXEDFRAME), 0); // which shows nothing
+        if ((WorkArea() & window) != window)
+            walk.Report(hWnd, "lies off the screen", window);
+        walk.Look(hWnd);
+        return walk.m_faults;
+    }
+
+private:
+    static CString ClassOf(HWND hWnd) {
+        wchar_t szClass[64] = {};
+        ::GetClassName(hWnd, szClass, 64);
+        return szClass;
+    }
+    static bool Is(HWND hWnd, LPCTSTR pszClass) { return ClassOf(hWnd).CompareNoCase(pszClass) == 0; }
+    static DWORD StyleOf(HWND hWnd) { return static_cast<DWORD>(::GetWindowLong(hWnd, GWL_STYLE)); }
+    static CString Text(HWND hWnd) { return TextOf(*CWnd::FromHandle(hWnd)); }
+    static bool IsDialog(HWND hWnd) { return Is(hWnd, L"#32770"); }
+    static bool IsScrollBar(HWND hWnd) { return Is(hWnd, L"ScrollBar"); }
+    static bool IsCommandBar(HWND hWnd) { return ::GetDlgCtrlID(hWnd) == static_cast<int>(AFX_IDW_TOOLBAR); }
+
+    void Report(HWND hWnd, const char* pszFault, const CRect& rect) {
+        CString str;
+        str.Format(L"%s %d \"%s\" (%d, %d)-(%d, %d) ", ClassOf(hWnd).GetString(), ::GetDlgCtrlID(hWnd),
+                   Text(hWnd).GetString(), rect.left, rect.top, rect.right, rect.bottom);
+        m_faults += Utf8(str) + pszFault + '\n';
+    }
+
+    static std::vector<HWND> ChildrenOf(HWND hWnd) {
+        std::vector<HWND> children;
+        for (HWND hChild = ::GetWindow(hWnd, GW_CHILD); hChild; hChild = ::GetWindow(hChild, GW_HWNDNEXT))
+            if (::IsWindowVisible(hChild))
+                children.push_back(hChild);
+        return children;
+    }
+
+    /// What a dialog shows of its controls: between its bars, or as far as its scroll bar reaches.
+    static CRect RoomOf(HWND hDialog, const std::vector<HWND>& children) {
+        CRect room;
+        ::GetClientRect(hDialog, room);
+        ::MapWindowPoints(hDialog, nullptr, reinterpret_cast<LPPOINT>(&room), 2);
+        for (const HWND hChild : children)
+            if (IsCommandBar(hChild))
+                room.bottom = std::min(room.bottom, RectOf(hChild).top);
+        for (const HWND hChild : children) {
+            if (!IsScrollBar(hChild))
+                continue;
+            SCROLLINFO info = {sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
+            ::GetScrollInfo(hChild, SB_CTL, &info);
+            room.right = RectOf(hChild).left;
+            room.top -= info.nPos;
+            room.bottom = room.top + info.nMax + 1;
+        }
+        return room;
+    }
+
+    void Look(HWND hDialog) {
+        const std::vector<HWND> children = ChildrenOf(hDialog);
+        const CRect room = RoomOf(hDialog, children);
+        for (const HWND hChild : children) {
+            if (IsScrollBar(hChild) || IsCommandBar(hChild))
+                continue;
+            if (IsDialog(hChild)) {
+                Look(hChild);
+                continue;
+            }
+            // The templates are half a dialog unit wider than the device's screen.
+            constexpr int HALF_UNIT = 2;
+            CRect rect = RectOf(hChild);
+            rect.right -= AfxScale(hChild, HALF_UNIT);
+            if ((room & rect) != rect)
+                Report(hChild, "is out of reach", rect);
+            LookAtText(hChild);
+            for (const HWND hOther : children)
+                if (hOther != hChild && Covers(hOther, hChild))
+                    Report(hChild, "is covered", rect);
+        }
+    }
+
+    /// Neighbours may share their edge. A tab control and a frame lie around what is theirs.
+    static bool Covers(HWND hOther, HWND hChild) {
+        const auto isAround = [](HWND hWnd) {
+            return IsDialog(hWnd) || Is(hWnd, WC_TABCONTROL) || IsCommandBar(hWnd) || IsScrollBar(hWnd) ||
+                   (Is(hWnd, WC_BUTTON) && (StyleOf(hWnd) & BS_TYPEMASK) == BS_GROUPBOX);
+        };
+        const int nEdge = AfxScale(hChild, 1);
+        CRect common;
+        return !isAround(hOther) && !isAround(hChild) &&
+               common.IntersectRect(RectOf(hOther), RectOf(hChild)) && common.Width() > nEdge &&
+               common.Height() > nEdge;
+    }
+
+    void LookAtText(HWND hControl) {
+        CClientDC dc(CWnd::FromHandle(hControl));
+        const auto hFont = reinterpret_cast<HFONT>(::SendMessage(hControl, WM_GETFONT, 0, 0));
+        const HGDIOBJ hOld = hFont != nullptr ? ::SelectObject(dc, hFont) : nullptr;
+        if (Is(hControl, WC_STATIC) || Is(hControl, WC_BUTTON))
+            LookAtLabel(hControl, dc);
+        else if (Is(hControl, WC_LISTVIEW))
+            LookAtList(hControl);
+        else if (Is(hControl, WC_EDIT) || Is(hControl, WC_COMBOBOX))
+            LookAtField(hControl, dc);
+        if (hOld != nullptr)
+            ::SelectObject(dc, hOld);
+    }
+
+    void LookAtLabel(HWND hControl, CDC& dc) {
+        const DWORD dwStyle = StyleOf(hControl);
+        const bool bStatic = Is(hControl, WC_STATIC);
+        if (bStatic && ((dwStyle & SS_ELLIPSISMASK) != 0 || (dwStyle & SS_TYPEMASK) == SS_ICON))
+            return;
+        CRect client;
+        ::GetClientRect(hControl, client);
+        const CString strText = Text(hControl);
+        CRect text(0, 0, client.Width(), 0);
+        dc.DrawText(strText, text,
+                    DT_CALCRECT | (bStatic ? DT_WORDBREAK : 0) |
+                        (strText.Find(L'\n') < 0 ? 0 : DT_WORDBREAK));
+        // The check of a box and the icon of a menu entry stand before the text.
+        const UINT nType = dwStyle & BS_TYPEMASK;
+        const bool bBox =
+            !bStatic && nType != BS_PUSHBUTTON && nType != BS_DEFPUSHBUTTON && nType != BS_OWNERDRAW;
+        const int nBefore = bBox ? AfxScale(hControl, 16) : 0;
+        if (text.Width() + nBefore > client.Width() || text.Height() > client.Height())
+            Report(hControl, "has a text that is cut off",
+                   CRect(CPoint(client.Width(), client.Height()), text.Size()));
+    }
+
+    /// A field shows a line in full height.
+    void LookAtField(HWND hControl, CDC& dc) {
+        CRect client;
+        ::GetClientRect(hControl, client);
+        TEXTMETRIC metrics = {};
+        dc.GetTextMetrics(&metrics);
+        if (metrics.tmHeight > client.Height())
+            Report(hControl, "is too low for its text", client);
+    }
+
+    /// No number may be shortened: it would be another one.
+    void LookAtList(HWND hControl) {
+        auto& list = *static_cast<CListCtrl*>(CWnd::FromHandle(hControl));
+        if ((StyleOf(hControl) & LVS_TYPEMASK) != LVS_REPORT)
+            return;
+        const int nColumns = list.GetHeaderCtrl() != nullptr ? list.GetHeaderCtrl()->GetItemCount() : 0;
+        for (int nRow = 0; nRow < std::min(list.GetItemCount(), 50); ++nRow)
+            for (int nColumn = 0; nColumn < nColumns; ++nColumn) {
+                const CString strText = list.GetItemText(nRow, nColumn);
+                const bool bNumber =
+                    !strText.IsEmpty() && strText.SpanIncluding(L"-+0123456789.,:/ ") == strText;
+                if (bNumber &&
+                    list.GetStringWidth(strText) > list.GetColumnWidth(nColumn) - AfxScale(hControl, 8))
+                    Report(hControl, ("shortens " + Utf8(strText)).c_str(), RectOf(hControl));
+            }
+    }
+
+    std::string m_faults;
+};
+
+} // namespace fx
