@@ -59,6 +59,12 @@ CPlanScale CPlanScale::Panned(CSize pixels) const {
     return panned;
 }
 
+CPlanScale CPlanScale::Resized(CSize view) const {
+    CPlanScale resized = *this;
+    resized.m_view = view;
+    return resized;
+}
+
 CScaleBar FindScaleBar(double dFactor, int nMaxPixels) {
     const double dMax = nMaxPixels / dFactor;
     const double dPower = std::pow(10.0, std::floor(std::log10(dMax)));

@@ -27,6 +27,9 @@ public:
     /// @param pixels how far the plan goes to the right and down
     CPlanScale Panned(CSize pixels) const;
 
+    /// The same about the middle of a view of another size.
+    CPlanScale Resized(CSize view) const;
+
 private:
     CLocalPlane m_plane{CCoordinate()}; ///< Its origin is in the middle of the view.
     CSize m_view;

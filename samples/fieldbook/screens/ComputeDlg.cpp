@@ -16,6 +16,15 @@ CComputeDlg::CComputeDlg(CJob& job, CWnd* pParent)
     SetOption(OptionOkButton);
 }
 
+BOOL CComputeDlg::OnInitDialog() {
+    CnDialog::OnInitDialog();
+    for (const UINT nId : {IDC_LINES, IDC_CIRCLES, IDC_COMBINED, IDC_ARC_CENTRE, IDC_POLAR, IDC_EXTENT})
+        Anchor(nId, 0, 0, 50, 0);
+    for (const UINT nId : {IDC_LINE_CIRCLE, IDC_BEARINGS, IDC_FOOT, IDC_CURVE, IDC_INVERSE, IDC_AREA})
+        Anchor(nId, 50, 0, 100, 0);
+    return TRUE;
+}
+
 void CComputeDlg::OnComputation(UINT nID) {
     using Computation = std::optional<CReport> (CComputations::*)();
     static constexpr Computation kComputations[] = {

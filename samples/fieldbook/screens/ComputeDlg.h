@@ -14,6 +14,7 @@ public:
     CComputeDlg(CJob& job, CWnd* pParent);
 
 protected:
+    BOOL OnInitDialog() override;
     afx_msg void OnComputation(UINT nID);
     afx_msg void OnPolar();
     DECLARE_MESSAGE_MAP()

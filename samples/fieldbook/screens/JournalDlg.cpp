@@ -30,6 +30,9 @@ void CJournalDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CJournalDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_PART, 0, 0, 100, 0);
+    Anchor(IDC_JOURNAL_TREE, 0, 0, 100, 50);
+    Anchor(IDC_JOURNAL_LINES, 0, 50, 100, 100);
     m_part.Attach(IDC_PART, this, SipOptionMode0);
     FillTree();
     m_tree.SetFocus(); // the panel comes with the field

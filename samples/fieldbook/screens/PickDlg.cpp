@@ -23,6 +23,8 @@ void CPickDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CPickDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_PART, 0, 0, 100, 0);
+    Anchor(IDC_POINTS, 0, 0, 100, 100);
     m_part.Attach(IDC_PART, this, SipOptionMode0);
     m_list.Fill();
     m_list.SetFocus(); // the panel comes with the field

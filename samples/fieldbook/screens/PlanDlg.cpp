@@ -42,6 +42,10 @@ CPlanDlg::CPlanDlg(const CDrawing& drawing, const CString& strTitle, CWnd* pPare
 
 BOOL CPlanDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_PLAN, 0, 0, 100, 100);
+    Anchor(IDC_ZOOM_IN, 0, 100, 33, 100);
+    Anchor(IDC_ZOOM_OUT, 33, 100, 67, 100);
+    Anchor(IDC_ZOOM_ALL, 67, 100, 100, 100);
     SetWindowText(m_strTitle);
     m_view.Attach(IDC_PLAN, this, m_drawing);
     m_zoomIn.Attach(IDC_ZOOM_IN, this, LoadSmallIcon(IDI_ZOOM_IN), CIconButton::StyleText);

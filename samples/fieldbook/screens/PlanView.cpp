@@ -10,6 +10,7 @@
 // clang-format off
 BEGIN_MESSAGE_MAP(CPlanView, CWnd)
     ON_WM_PAINT()
+    ON_WM_SIZE()
     ON_WM_ERASEBKGND()
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
@@ -48,6 +49,12 @@ void CPlanView::Centre(const CCoordinate& point) {
 void CPlanView::SetScale(const CPlanScale& scale) {
     m_scale = scale;
     Invalidate(FALSE);
+}
+
+/// Turning the device keeps what is in the middle.
+void CPlanView::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    SetScale(m_scale.Resized({cx, cy}));
 }
 
 CSize CPlanView::GetSize() const {

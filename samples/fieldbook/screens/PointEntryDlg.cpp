@@ -45,6 +45,9 @@ void CPointEntryDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CPointEntryDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    for (const UINT nId : {IDC_CODE, IDC_NAME, IDC_N, IDC_E, IDC_Z, IDC_ADD, IDC_MESSAGE})
+        Anchor(nId, 0, 0, 100, 0);
+    Anchor(IDC_NO_HEIGHT, 100, 0, 100, 0);
     AttachControls();
     for (UINT nKind = 0; nKind < std::size(kKindPrefixes); ++nKind)
         m_kind.AddString(Text(IDS_KIND_FIRST + nKind));

@@ -26,6 +26,11 @@ void CPointListDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CPointListDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_POINTS, 0, 0, 100, 100);
+    Anchor(IDC_LEGEND, 0, 100, 100, 100);
+    Anchor(IDC_EDIT, 0, 100, 33, 100);
+    Anchor(IDC_REMOVE, 33, 100, 67, 100);
+    Anchor(IDC_UNDO, 67, 100, 100, 100);
     m_list.Fill();
     m_legend.SetWindowText(Text(IDS_USED_POINTS, m_job.book.GetUsedCount()));
     GetDlgItem(IDC_UNDO)->EnableWindow(m_job.book.CanUndo());

@@ -21,6 +21,10 @@ CPolarDlg::CPolarDlg(CJob& job, CWnd* pParent) : CnDialog(IDD_POLAR, pParent), m
 
 BOOL CPolarDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_FROM, 0, 0, 100, 0);
+    Anchor(IDC_PICK_LIST, 100, 0, 100, 0);
+    Anchor(IDC_PICK_PLAN, 100, 0, 100, 0);
+    Anchor(IDC_COMPUTE, 0, 0, 100, 0);
     AttachControls();
     m_job.history.GetStack().SetupList(&m_from);
     if (m_from.GetCount() > 0)

@@ -28,6 +28,11 @@ void CReportDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CReportDlg::OnInitDialog() {
     CnDialog::OnInitDialog();
+    Anchor(IDC_MESSAGE, 0, 0, 100, 0);
+    Anchor(IDC_REPORT, 0, 0, 100, 100);
+    Anchor(IDC_LEGEND, 0, 100, 100, 100);
+    Anchor(IDC_SHOW_PLAN, 0, 100, 50, 100);
+    Anchor(IDC_KEEP, 50, 100, 100, 100);
     SetWindowText(Text(m_report.nTitleId));
     m_message.SetWindowText(MessageOf(m_report));
     m_list.Show(m_report, m_job.settings);

@@ -33,6 +33,7 @@ BOOL CCoordinatesPage::OnInitDialog() {
     constexpr DWORD kNoPanel = 0; // the arrows are enough
     m_decimals.Attach(IDC_DECIMALS, this, kNoPanel);
     CnPropertyPage::OnInitDialog();
+    Anchor(IDC_EXAMPLE, 0, 0, 100, 0);
     m_spin.SetBuddy(&m_decimals);
     m_spin.SetPos(m_settings.nDecimals);
     OnDecimals();
@@ -58,6 +59,7 @@ void CAnglesPage::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CAnglesPage::OnInitDialog() {
     CnPropertyPage::OnInitDialog();
+    Anchor(IDC_EXAMPLE, 0, 0, 100, 0);
     OnSeconds();
     return TRUE;
 }
@@ -83,6 +85,8 @@ void CTolerancePage::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CTolerancePage::OnInitDialog() {
     CnPropertyPage::OnInitDialog();
+    Anchor(IDC_TOLERANCES, 0, 0, 100, 100);
+    Anchor(IDC_EXAMPLE, 0, 100, 100, 100);
     OnTolerance();
     return TRUE;
 }
