@@ -65,7 +65,8 @@ bool CRoom::IsBar(HWND hChild) const {
     return hChild == m_hBar || ::GetDlgCtrlID(hChild) == static_cast<int>(AFX_IDW_TOOLBAR);
 }
 
-/// Those of dialogs that are not the framework's are left alone.
+/// From the bottom up: the pages of a sheet stand where its tabs are. Those of dialogs that are not
+/// the framework's are left alone.
 std::vector<HWND> CRoom::Controls() const {
     std::vector<HWND> controls;
     if (CWnd::FromHandlePermanent(m_hWnd) == nullptr)
@@ -73,7 +74,7 @@ std::vector<HWND> CRoom::Controls() const {
     for (HWND hChild = ::GetWindow(m_hWnd, GW_CHILD); hChild != nullptr;
          hChild = ::GetWindow(hChild, GW_HWNDNEXT))
         if (!IsBar(hChild))
-            controls.push_back(hChild);
+            controls.insert(controls.begin(), hChild);
     return controls;
 }
 
@@ -118,7 +119,8 @@ int CRoom::Height(const CRect* pPanel) const {
         nHeight -= AfxScale(m_hWnd, AFX_DEVICE_BAR_HEIGHT);
     CPoint top(0, 0);
     ::ClientToScreen(m_hWnd, &top);
-    return pPanel != nullptr ? std::min(nHeight, pPanel->top - top.y) : nHeight;
+    const bool bCovered = pPanel != nullptr && !IsChildWindow(m_hWnd);
+    return bCovered ? std::min(nHeight, pPanel->top - top.y) : nHeight;
 }
 
 bool CRoom::MustScroll() const {
@@ -183,12 +185,12 @@ void CRoom::ScrollTo(HWND hFocus) {
 }
 
 CRoom::CShift CRoom::ShiftFor(HWND hFocus, const CRect* pPanel) const {
-    if (pPanel == nullptr)
+    if (pPanel == nullptr || IsChildWindow(m_hWnd)) // a page moves with its sheet
         return {0, m_nScroll};
     const int nDialogNow = ShiftOf(m_hWnd);
     CRect dialog = RectOf(m_hWnd);
     dialog.OffsetRect(0, nDialogNow);
-    const bool bPopup = !IsChildWindow(m_hWnd) && !IsFullScreen(m_hWnd);
+    const bool bPopup = !IsFullScreen(m_hWnd);
     const auto liftFor = [&](int nCovered) {
         const int nWanted = std::max<int>({nCovered, static_cast<int>(dialog.bottom - pPanel->top), 0});
         return bPopup ? std::clamp<int>(dialog.top - AfxGetWorkArea(m_hWnd).top, 0, nWanted) : 0;
@@ -248,7 +250,7 @@ void CRoom::ShowBar(bool bShow, const CRect* pPanel) {
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-    info.nMax = ContentHeight(m_spare) - 1;
+    info.nMax = std::max(ContentHeight(m_spare), m_shift.nControls + nHeight) - 1;
     info.nPage = static_cast<UINT>(std::max(nHeight, 1));
     info.nPos = m_shift.nControls;
     ::SetScrollInfo(m_hBar, SB_CTL, &info, TRUE);
