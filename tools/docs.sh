@@ -122,6 +122,26 @@ refresh_pictures() {
     done < <(pictures)
 }
 
+# picture_screens: what the tests of the screens see on each of them, a sheet a screen.
+picture_screens() {
+    local screen program
+    for screen in "$device_screen 96" "${other_screens[@]}"; do
+        # shellcheck disable=SC2086  # size and resolution
+        open_screen "-${screen%% *}" $screen
+        local folder=$build/screens/$screen_size
+        rm -rf "$folder"
+        mkdir -p "$folder"
+        for program in "$build/fieldbook/tests/test_fieldbook_screens.exe" "$build/win64/bin/test_screens.exe"; do
+            (cd "$folder" && FIELDKIT_PICTURES=1 WINEPATH="Z:${build//\//\\}\\win64\\bin" in_wine timeout -k 5 120 wine "$program") \
+                >"$build/screens-$screen_size.log" 2>&1 </dev/null || die "see build/screens-$screen_size.log"
+        done
+        close_screen
+        montage "$folder"/*.bmp -tile 8x -geometry '240x240>+4+4' -background '#808080' "$folder/all.png"
+        convert "$folder/all.png" +dither -colors 32 -strip "png8:$root/docs/images/screens-$screen_size.png"
+        printf '  docs/images/screens-%s.png\n' "$screen_size"
+    done
+}
+
 # take_over PICTURE FILE...: the first of the files that is there.
 take_over() {
     local picture=$1 file

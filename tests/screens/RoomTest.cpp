@@ -1,10 +1,13 @@
 // What full-screen dialogs do with more room than they need, with less, and with another screen.
-#include "support/ModalScript.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Pen.h"
+#include "testkit/Script.h"
 
 #include "controls/nDialog.h"
 
 #include <functional>
+
+using namespace testkit;
 
 namespace {
 
@@ -54,7 +57,7 @@ private:
 std::string Text(const CRect& rect) {
     CString str;
     str.Format(L"(%d, %d)-(%d, %d)", rect.left, rect.top, rect.right, rect.bottom);
-    return fx::Utf8(str);
+    return Utf8(str);
 }
 
 void NoteHomes(Dialog& dialog) {
@@ -86,7 +89,7 @@ TEST(Anchor, SharesOutWhatTheScreenHasMoreAndNothingElseMoves) {
     Dialog before(210, homesAndAnchors), after(210, {}, homesAndAnchors), again(210, {}, twice);
     EXPECT_FALSE(before.Anchor(100, 0, 0, 100, 100)) << "without a window";
     for (Dialog* const pDialog : {&before, &after, &again})
-        fx::WhileOpen(*pDialog, [&] {
+        WhileOpen(*pDialog, [&] {
             EXPECT_FALSE(pDialog->Anchor(999, 0, 0, 100, 100));
             if (pDialog->HasScrollBar())
                 return; // a lower screen: what it has more in width is the next test's
@@ -109,7 +112,7 @@ TEST(Anchor, ControlThatIsDestroyedOrMovedByTheProgramDoesNoHarm) {
         d.Anchor(103, 0, 100, 0, 100);
         d.GetDlgItem(102)->DestroyWindow();
     });
-    fx::WhileOpen(dialog, [&] {
+    WhileOpen(dialog, [&] {
         const CRect place(5, 6, 70, 30);
         dialog.GetDlgItem(103)->MoveWindow(place);
         dialog.SendMessage(WM_SIZE, SIZE_RESTORED, 0);
@@ -118,7 +121,7 @@ TEST(Anchor, ControlThatIsDestroyedOrMovedByTheProgramDoesNoHarm) {
 }
 
 /// Whether a control can be seen between the bars.
-fx::Step UntilSeen(const Dialog& dialog, int nID) {
+Step UntilSeen(const Dialog& dialog, int nID) {
     return [&dialog, nID]() -> bool {
         const CRect rect = dialog.RectOf(nID);
         CRect client;
@@ -133,19 +136,19 @@ TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
         return [&dialog, nID] { dialog.GotoDlgCtrl(dialog.GetDlgItem(nID)); };
     };
     const auto tapDown = [&] {
-        const CRect bar = fx::RectOf(*dialog.GetScrollBar());
+        const CRect bar = testkit::RectOf(*dialog.GetScrollBar());
         pen::Tap(CPoint(bar.CenterPoint().x, bar.bottom - 4));
     };
     CRect bar, toolbar;
     const auto look = [&] {
-        bar = fx::RectOf(*dialog.GetScrollBar());
-        toolbar = fx::RectOf(*dialog.m_pWndEmptyCB);
+        bar = testkit::RectOf(*dialog.GetScrollBar());
+        toolbar = testkit::RectOf(*dialog.m_pWndEmptyCB);
     };
     const auto expectBarsInPlace = [&] {
-        EXPECT_EQ(bar, fx::RectOf(*dialog.GetScrollBar()));
-        EXPECT_EQ(toolbar, fx::RectOf(*dialog.m_pWndEmptyCB));
+        EXPECT_EQ(bar, testkit::RectOf(*dialog.GetScrollBar()));
+        EXPECT_EQ(toolbar, testkit::RectOf(*dialog.m_pWndEmptyCB));
     };
-    fx::PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102),
+    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102),
                             expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
                             [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
                             UntilSeen(dialog, 101)});
@@ -153,28 +156,28 @@ TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
 
 TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {
     Dialog dialog(210, {}, [](Dialog& d) { d.Anchor(102, 0, 0, 100, 100); });
-    fx::WhileOpen(dialog, [&] {
+    WhileOpen(dialog, [&] {
         CWnd& edit = *dialog.GetDlgItem(100);
         edit.SetWindowText(L"K12");
         edit.SetFocus();
         NoteHomes(dialog);
-        const CRect screen = fx::WorkArea();
+        const CRect screen = WorkArea();
         for (const CSize other :
              {CSize(screen.Height(), screen.Width()), CSize(2000, 2000), CSize(100, 60)}) {
             dialog.SetWindowPos(nullptr, 0, 0, other.cx, other.cy, SWP_NOZORDER); // as it was before
             dialog.SendMessage(WM_DISPLAYCHANGE, 32, MAKELPARAM(screen.Width(), screen.Height()));
-            EXPECT_EQ(Text(screen), Text(fx::RectOf(dialog)));
+            EXPECT_EQ(Text(screen), Text(testkit::RectOf(dialog)));
             for (int nID = 100; nID <= 105; ++nID)
                 EXPECT_EQ(Text(dialog.HomeOf(nID)), Text(dialog.RectOf(nID))) << nID;
         }
-        EXPECT_EQ(L"K12", fx::TextOf(edit));
+        EXPECT_EQ(L"K12", TextOf(edit));
         EXPECT_EQ(&edit, CWnd::GetFocus());
     });
 }
 
 TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
     Dialog dialog(210, {}, [](Dialog& d) { d.Anchor(102, 0, 0, 100, 100); });
-    fx::WhileOpen(dialog, [&] {
+    WhileOpen(dialog, [&] {
         auto& edit = *static_cast<CEdit*>(dialog.GetDlgItem(100));
         auto& list = *static_cast<CListBox*>(dialog.GetDlgItem(102));
         edit.SetWindowText(L"K12");
@@ -184,7 +187,7 @@ TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
         edit.SetSel(1, 2);
         NoteHomes(dialog);
         const int nDpi = AfxGetDpi(dialog);
-        const CRect window = fx::RectOf(dialog);
+        const CRect window = testkit::RectOf(dialog);
         const auto change = [&](int n, LPARAM lParam) {
             dialog.SendMessage(WM_DPICHANGED, MAKEWPARAM(n, n), lParam);
         };
@@ -199,11 +202,11 @@ TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
         EXPECT_EQ(2 * nDpi, AfxGetDpi(dialog));
         EXPECT_EQ(CSize(2 * dialog.HomeOf(103).Width(), 2 * dialog.HomeOf(103).Height()),
                   dialog.RectOf(103).Size());
-        EXPECT_EQ(fx::WorkArea(), fx::RectOf(dialog));
+        EXPECT_EQ(WorkArea(), testkit::RectOf(dialog));
         CRect client;
         dialog.GetClientRect(client);
         EXPECT_EQ(window.Height() - AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT), client.Height());
-        EXPECT_EQ(L"K12", fx::TextOf(edit));
+        EXPECT_EQ(L"K12", TextOf(edit));
         EXPECT_EQ(MAKELONG(1, 2), static_cast<LONG>(edit.SendMessage(EM_GETSEL)));
         EXPECT_EQ(1, list.GetCurSel());
         EXPECT_EQ(&edit, CWnd::GetFocus());

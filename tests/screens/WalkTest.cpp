@@ -1,9 +1,9 @@
 // Every dialog of the library on the screen that the program has been started on.
 #include "support/ScreenWalk.h"
 
-#include "support/ModalScript.h"
-#include "support/PanelPen.h"
-#include "support/TestDrive.h"
+#include "testkit/Drive.h"
+#include "testkit/Pen.h"
+#include "testkit/Script.h"
 
 #include "controls/nEdit.h"
 #include "controls/nPropertyPage.h"
@@ -16,23 +16,29 @@
 #include "dialogs/ResultDlg.h"
 #include "dialogs/SelMemberDlg.h"
 
+using namespace testkit;
+
 namespace {
 
 constexpr wchar_t QUESTION[] = L"\\作業\\測点.csvは既に存在します。\n上書きしますか？";
 
-fx::Step Look(std::string* pFaults) {
-    return [pFaults] { *pFaults = fx::ScreenWalk::FaultsOf(::GetActiveWindow()); };
+std::string FaultsNow() {
+    const HWND hWnd = ::GetActiveWindow();
+    std::string faults = fx::ScreenWalk::FaultsOf(hWnd);
+    faults += fx::ScreenWalk::FaultsUnderPanel(hWnd);
+    return faults;
 }
 
+/// In one step: another would come while this one waits.
 template <class Dialog>
 std::string FaultsOf(Dialog&& dialog) {
     std::string faults = "not open";
-    fx::PlayAndEnd(dialog, {Look(&faults)});
+    WhileOpen(dialog, [&] { faults = FaultsNow(); });
     return faults;
 }
 
 TEST(EveryScreen, FileAndFolderDialogsShowAllTheyHave) {
-    TestDrive drive;
+    Drive drive;
     drive.MakeFolder(L"\\作業");
     drive.MakeFile(L"\\作業\\測点.csv", 123456);
     for (const int nMode : {0, 1, 2}) {
@@ -73,16 +79,18 @@ TEST(EveryScreen, PagesOfASheetShowAllTheyHave) {
     sheet.SetOption(CnPropertySheet::OptionOkButton | CnPropertySheet::OptionCommandBar);
     sheet.AddPage(&first);
     sheet.AddPage(&second);
-    std::string faults[2];
-    fx::PlayAndEnd(sheet, {Look(&faults[0]), [&] { sheet.SetActivePage(1); }, Look(&faults[1])});
-    EXPECT_EQ("", faults[0]);
-    EXPECT_EQ("", faults[1]);
+    WhileOpen(sheet, [&] {
+        for (const int nPage : {0, 1}) {
+            sheet.SetActivePage(nPage);
+            EXPECT_EQ("", FaultsNow());
+        }
+    });
 }
 
 TEST(EveryScreen, AQuestionShowsAllItHas) {
     std::string faults;
     const auto answer = [] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(IDNO)); };
-    EXPECT_EQ(IDNO, fx::Play([] { return CResMsgBox().WarningMsgBox(QUESTION); }, {Look(&faults), answer}));
+    EXPECT_EQ(IDNO, Play([] { return CResMsgBox().WarningMsgBox(QUESTION); }, {[&] { faults = FaultsNow(); }, answer}));
     EXPECT_EQ("", faults);
 }
 
@@ -98,10 +106,10 @@ struct Behind : CnDialog {
 };
 
 /// Whether a control stands clear of the panel.
-fx::Step UntilClear(int nID) {
+Step UntilClear(int nID) {
     return [nID] {
         const HWND hControl = ::GetDlgItem(::GetActiveWindow(), nID);
-        return hControl != nullptr && panel::IsVisible() && fx::RectOf(hControl).bottom <= panel::Place().top;
+        return hControl != nullptr && panel::IsVisible() && RectOf(hControl).bottom <= panel::Place().top;
     };
 }
 
@@ -110,7 +118,7 @@ TEST(EveryScreen, ButtonsOfPopupsAndQuestionsStayClearOfThePanel) {
     CInputDlg input(L"点名", L"登録", &behind);
     const auto tap = [](int nID) { return [nID] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nID)); }; };
     int nAnswer = 0;
-    fx::PlayAndEnd(behind,
+    PlayAndEnd(behind,
                    {UntilClear(105), [&] { input.DoModal(); }, UntilClear(IDCANCEL), tap(IDCANCEL),
                     [&] { nAnswer = CResMsgBox().WarningMsgBox(QUESTION); }, UntilClear(IDNO), tap(IDNO)});
     EXPECT_EQ(IDNO, nAnswer);

@@ -1,8 +1,11 @@
 // Walks over the controls of an open window and tells which of them a user could not read or reach.
 #pragma once
 
-#include "support/FrameworkEnvironment.h"
-#include "support/TitleBar.h"
+#include "support/TestApp.h"
+#include "testkit/Panel.h"
+#include "testkit/Picture.h"
+
+#include "Tesuvo.h"
 
 #include "afxdlgs.h"
 
@@ -13,6 +16,8 @@ public:
     /// @return a line for each fault, nothing for a window that is as it should be
     static std::string FaultsOf(HWND hWnd) {
         ScreenWalk walk;
+        if (::GetEnvironmentVariable(L"FIELDKIT_PICTURES", nullptr, 0) != 0)
+            Picture::OfScreen().Save(PictureName());
         CRect window = RectOf(hWnd);
         window.DeflateRect(::GetSystemMetrics(SM_CXFIXEDFRAME), 0); // which shows nothing
         if ((WorkArea() & window) != window)
@@ -21,7 +26,72 @@ public:
         return walk.m_faults;
     }
 
+    /// @return a line for each entry field that the soft input panel covers while the user is in it,
+    ///         and for each button of a popup that would fit above the panel and is covered by it
+    static std::string FaultsUnderPanel(HWND hWnd) {
+        ScreenWalk walk;
+        std::vector<HWND> fields;
+        CollectFields(hWnd, fields);
+        const std::vector<CRect> homes = PlacesIn(hWnd);
+        for (const HWND hField : fields) {
+            ::SetFocus(hField);
+            TVShowSIP(0);
+            const auto isClear = [hField] {
+                return panel::IsVisible() && RectOf(hField).bottom <= panel::Place().top && IsInView(hField);
+            };
+            if (!PumpUntil(isClear))
+                walk.Report(hField, "is covered by the panel", RectOf(hField));
+            const auto isAbove = [hWnd] {
+                const CRect window = RectOf(hWnd);
+                return window.Height() > panel::Place().top || window.bottom <= panel::Place().top;
+            };
+            if (!PumpUntil(isAbove))
+                walk.Report(hWnd, "does not make room for the panel", RectOf(hWnd));
+        }
+        if (fields.empty())
+            return {};
+        panel::Close();
+        if (!PumpUntil([&] { return PlacesIn(hWnd) == homes; }))
+            walk.Report(hWnd, "does not come back when the panel has gone", RectOf(hWnd));
+        return walk.m_faults;
+    }
+
 private:
+    /// Of a window and its children.
+    static std::vector<CRect> PlacesIn(HWND hWnd) {
+        std::vector<CRect> places = {RectOf(hWnd)};
+        for (const HWND hChild : ChildrenOf(hWnd))
+            places.push_back(RectOf(hChild));
+        return places;
+    }
+
+    /// Of the test that is running, with a number.
+    static std::wstring PictureName() {
+        static int nPicture = 0;
+        CString strName(testing::UnitTest::GetInstance()->current_test_info()->name());
+        strName.Replace(L'/', L'-');
+        return std::to_wstring(100 + ++nPicture) + L'-' + strName.GetString() + L".png";
+    }
+
+    static void CollectFields(HWND hWnd, std::vector<HWND>& fields) {
+        for (const HWND hChild : ChildrenOf(hWnd)) {
+            const LRESULT lCode = ::SendMessage(hChild, WM_GETDLGCODE, 0, 0);
+            const bool bField = Is(hChild, WC_EDIT) && (lCode & DLGC_HASSETSEL) != 0 && ::IsWindowEnabled(hChild);
+            if (bField)
+                fields.push_back(hChild);
+            else
+                CollectFields(hChild, fields);
+        }
+    }
+
+    static bool IsInView(HWND hControl) {
+        CRect client;
+        const HWND hTop = ::GetAncestor(hControl, GA_ROOT);
+        ::GetClientRect(hTop, client);
+        ::MapWindowPoints(hTop, nullptr, reinterpret_cast<LPPOINT>(&client), 2);
+        return RectOf(hControl).top >= client.top;
+    }
+
     static CString ClassOf(HWND hWnd) {
         wchar_t szClass[64] = {};
         ::GetClassName(hWnd, szClass, 64);
@@ -163,7 +233,7 @@ private:
                 const bool bNumber =
                     !strText.IsEmpty() && strText.SpanIncluding(L"-+0123456789.,:/ ") == strText;
                 if (bNumber &&
-                    list.GetStringWidth(strText) > list.GetColumnWidth(nColumn) - AfxScale(hControl, 8))
+                    list.GetStringWidth(strText) > list.GetColumnWidth(nColumn) - AfxScale(hControl, 4))
                     Report(hControl, ("shortens " + Utf8(strText)).c_str(), RectOf(hControl));
             }
     }

@@ -1,0 +1,52 @@
+// Every screen of the application on the screen that the program has been started on.
+#include "support/ScreenWalk.h"
+
+#include "tests/AllScreens.h"
+#include "testkit/Drive.h"
+#include "testkit/Script.h"
+#include "tests/WindowCloser.h"
+
+#include <optional>
+
+using namespace testkit;
+
+namespace {
+
+class FieldbookScreen : public testing::TestWithParam<Screen> {};
+
+/// The faults of each page of a sheet, or of any other window.
+std::string FaultsOfPages(HWND hWnd) {
+    std::string faults;
+    const int nPages = dynamic_cast<CSettingsSheet*>(CWnd::FromHandlePermanent(hWnd)) != nullptr ? 3 : 1;
+    for (int nPage = 0; nPage < nPages; ++nPage) {
+        if (nPages > 1)
+            ::SendMessage(hWnd, PSM_SETCURSEL, static_cast<WPARAM>(nPage), 0);
+        Pump();
+        faults += fx::ScreenWalk::FaultsOf(hWnd);
+        faults += fx::ScreenWalk::FaultsUnderPanel(hWnd);
+    }
+    return faults;
+}
+
+TEST_P(FieldbookScreen, ShowsAllItHas) {
+    const Drive drive;
+    drive.MakeFile(L"\\points.csv");
+    CTestJob job;
+    Frame owner;
+    std::string faults = "not open";
+    std::optional<CWindowCloser> closer;
+    const auto look = [&] {
+        const HWND hWnd = ::GetActiveWindow();
+        faults = FaultsOfPages(hWnd);
+        closer.emplace();
+        if (auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hWnd)))
+            pSheet->EndDialog(IDCANCEL); // its title bar only has OK
+    };
+    Play([&] { return GetParam().open(job, &owner), 0; }, {look});
+    EXPECT_EQ("", faults);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FieldbookScreen, testing::ValuesIn(SCREENS),
+                         [](const auto& test) { return std::string(test.param.pszName); });
+
+} // namespace
