@@ -149,9 +149,9 @@ TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
         EXPECT_EQ(toolbar, testkit::RectOf(*dialog.m_pWndEmptyCB));
     };
     PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102),
-                            expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
-                            [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
-                            UntilSeen(dialog, 101)});
+                        expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
+                        [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
+                        UntilSeen(dialog, 101)});
 }
 
 TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {

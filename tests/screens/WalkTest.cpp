@@ -90,7 +90,8 @@ TEST(EveryScreen, PagesOfASheetShowAllTheyHave) {
 TEST(EveryScreen, AQuestionShowsAllItHas) {
     std::string faults;
     const auto answer = [] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(IDNO)); };
-    EXPECT_EQ(IDNO, Play([] { return CResMsgBox().WarningMsgBox(QUESTION); }, {[&] { faults = FaultsNow(); }, answer}));
+    EXPECT_EQ(IDNO, Play([] { return CResMsgBox().WarningMsgBox(QUESTION); },
+                         {[&] { faults = FaultsNow(); }, answer}));
     EXPECT_EQ("", faults);
 }
 
@@ -119,8 +120,8 @@ TEST(EveryScreen, ButtonsOfPopupsAndQuestionsStayClearOfThePanel) {
     const auto tap = [](int nID) { return [nID] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nID)); }; };
     int nAnswer = 0;
     PlayAndEnd(behind,
-                   {UntilClear(105), [&] { input.DoModal(); }, UntilClear(IDCANCEL), tap(IDCANCEL),
-                    [&] { nAnswer = CResMsgBox().WarningMsgBox(QUESTION); }, UntilClear(IDNO), tap(IDNO)});
+               {UntilClear(105), [&] { input.DoModal(); }, UntilClear(IDCANCEL), tap(IDCANCEL),
+                [&] { nAnswer = CResMsgBox().WarningMsgBox(QUESTION); }, UntilClear(IDNO), tap(IDNO)});
     EXPECT_EQ(IDNO, nAnswer);
     panel::Close();
 }

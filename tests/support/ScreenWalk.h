@@ -76,7 +76,8 @@ private:
     static void CollectFields(HWND hWnd, std::vector<HWND>& fields) {
         for (const HWND hChild : ChildrenOf(hWnd)) {
             const LRESULT lCode = ::SendMessage(hChild, WM_GETDLGCODE, 0, 0);
-            const bool bField = Is(hChild, WC_EDIT) && (lCode & DLGC_HASSETSEL) != 0 && ::IsWindowEnabled(hChild);
+            const bool bField =
+                Is(hChild, WC_EDIT) && (lCode & DLGC_HASSETSEL) != 0 && ::IsWindowEnabled(hChild);
             if (bField)
                 fields.push_back(hChild);
             else

@@ -34,17 +34,17 @@ struct CTestJob : CJob {
     CReport report;
 };
 
-struct Screen {
+struct AppScreen {
     const char* pszName;
     std::function<void(CTestJob&, CWnd*)> open; ///< Gets a job as it is in the morning.
 };
 
 /// For messages of tests.
-inline void PrintTo(const Screen& screen, std::ostream* os) {
+inline void PrintTo(const AppScreen& screen, std::ostream* os) {
     *os << screen.pszName;
 }
 
-inline const Screen SCREENS[] = {
+inline const AppScreen SCREENS[] = {
     {"Settings",
      [nPage = 0U](CTestJob& job, CWnd* p) mutable { CSettingsSheet(job.settings, nPage, p).DoModal(); }},
     {"MainMenu", [](CTestJob& job, CWnd*) { CMainMenu(job, L"\\points.csv").DoModal(); }},

@@ -12,7 +12,7 @@ using namespace testkit;
 
 namespace {
 
-class FieldbookScreen : public testing::TestWithParam<Screen> {};
+class FieldbookScreen : public testing::TestWithParam<AppScreen> {};
 
 /// The faults of each page of a sheet, or of any other window.
 std::string FaultsOfPages(HWND hWnd) {

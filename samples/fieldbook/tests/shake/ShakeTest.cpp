@@ -12,7 +12,7 @@ namespace {
 
 testkit::Application g_app(L"test");
 
-class FieldbookShake : public testing::TestWithParam<Screen> {};
+class FieldbookShake : public testing::TestWithParam<AppScreen> {};
 
 TEST_P(FieldbookShake, Of) {
     const Drive drive; // random names are saved, nothing else may be reached
