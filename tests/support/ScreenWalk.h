@@ -51,12 +51,17 @@ public:
         if (fields.empty())
             return {};
         panel::Close();
-        if (!PumpUntil([&] { return PlacesIn(hWnd) == homes; }))
+        // One that scrolls has followed the focus.
+        if (!HasScrollBar(hWnd) && !PumpUntil([&] { return PlacesIn(hWnd) == homes; }))
             walk.Report(hWnd, "does not come back when the panel has gone", RectOf(hWnd));
         return walk.m_faults;
     }
 
 private:
+    static bool HasScrollBar(HWND hWnd) {
+        return ::IsWindowVisible(::FindWindowEx(hWnd, nullptr, WC_SCROLLBAR, nullptr));
+    }
+
     /// Of a window and its children.
     static std::vector<CRect> PlacesIn(HWND hWnd) {
         std::vector<CRect> places = {RectOf(hWnd)};
