@@ -192,15 +192,15 @@ class HandlePrinter:
         return f"{line} {text_of_window(self.handle)}" if self.root == "CWnd" and window_text.value else line
 
     def children(self):
-        return own_fields(self.value, self.value.type.strip_typedefs(), self.root)
+        return own_fields(self.value, self.root)
 
 
-def own_fields(value, kind, root):
+def own_fields(value, root):
     """The members from a class down to, and without, those of the root."""
-    for field in kind.fields():
+    for field in value.type.strip_typedefs().fields():
         if field.is_base_class:
             if field.type.name != root:
-                yield from own_fields(value, field.type, root)
+                yield from own_fields(value[field], root)
         elif hasattr(field, "bitpos") and not field.artificial:
             yield field.name, value[field]
 

@@ -16,9 +16,13 @@ public:
     unsigned m_nFlags = 0;
 };
 
-class CPointDlg : public CWnd {
+class CNamedDlg : public CWnd {
 public:
     CString m_strName = L"K12";
+};
+
+class CPointDlg : public CNamedDlg {
+public:
     CCoordinate m_point{1, 2, 3, 3};
 };
 
