@@ -23,6 +23,7 @@ run_tests() {
     if [[ -z $1 ]]; then
         test_tutorial
         check_symbols
+        check_abi
         test_package
     fi
     ((passed + failed > 0)) || die "no test program matches \"$1\""
@@ -148,9 +149,9 @@ start_test() {
     local preset=$1
     shift
     case $preset in
-    host) timeout -k 5 "$test_timeout" "$@" ;;
+    host | clang) timeout -k 5 "$test_timeout" "$@" ;;
     arm) timeout -k 5 "$test_timeout" qemu-arm -L /usr/arm-linux-gnueabi "$@" ;;
-    win64 | sample | programs) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
+    win64 | clang-win64 | sample | programs) in_wine timeout -k 5 "$test_timeout" wine "$@" ;;
     esac
 }
 
