@@ -36,7 +36,10 @@ if(WIN32)
   add_link_options(-static -static-libgcc -static-libstdc++)
   # Code and data at random places, and no code among data. The linker's defaults today; GCC has
   # nothing for the system's control-flow guard.
-  add_link_options(LINKER:--dynamicbase,--high-entropy-va,--nxcompat)
+  add_link_options(LINKER:--dynamicbase,--nxcompat)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_link_options(LINKER:--high-entropy-va)
+  endif()
   # windres knows UTF-8 only when told so on the command line.
   set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
 endif()

@@ -78,7 +78,7 @@ public:
 
     static CRuntimeClass classCObject; ///< The class information of CObject itself.
     /// The base class of CObject: none.
-    static CRuntimeClass* _GetBaseClass() { return nullptr; }
+    static CRuntimeClass* AFXAPI _GetBaseClass() { return nullptr; }
 
 protected:
     CObject() = default;

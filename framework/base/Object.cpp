@@ -58,8 +58,9 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     return FALSE;
 }
 
+// A function of its own, as _GetBaseClass has another calling convention in 32-bit Windows.
 CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr,
-                                       &CObject::_GetBaseClass};
+                                       []() -> CRuntimeClass* { return nullptr; }};
 
 CRuntimeClass* CObject::GetRuntimeClass() const {
     return RUNTIME_CLASS(CObject);
