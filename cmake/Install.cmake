@@ -48,6 +48,6 @@ install(FILES ${PROJECT_SOURCE_DIR}/share/fieldkit.py ${PROJECT_SOURCE_DIR}/shar
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/FieldkitConfig.cmake.in
   ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake INSTALL_DESTINATION ${_package})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake
-  COMPATIBILITY SameMinorVersion)
+  COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/FieldkitConfig.cmake
   ${PROJECT_BINARY_DIR}/FieldkitConfigVersion.cmake DESTINATION ${_package})
