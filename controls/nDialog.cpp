@@ -11,14 +11,9 @@ using namespace fieldkit::detail;
 namespace {
 
 constexpr SIZE kFrameThickness = {1, 1};
-
-/// The part of the screen between its two bars, which on the device is that from (0, 26) to
-/// (240, 294).
-CRect AreaBetweenBars(HWND hWnd) {
-    CRect area = AfxGetWorkArea(hWnd);
-    area.DeflateRect(0, AfxScale(hWnd, AFX_DEVICE_BAR_HEIGHT));
-    return area;
-}
+/// The device's screen between its bars, in pixels at AFX_DESIGN_DPI: fixed, so that a dialog moves
+/// alike wherever the program runs.
+constexpr RECT kDeviceDragArea = {0, 26, 240, 294};
 
 /// Draws the drag frame on the screen by inverting it; the frame before, if there is one, is
 /// inverted back in the same call.
@@ -172,9 +167,15 @@ void CnDialog::AbandonDrag() {
     m_ptPress.reset();
 }
 
+CRect CnDialog::GetDragArea() const {
+    const RECT& area = kDeviceDragArea;
+    return {AfxScale(m_hWnd, area.left), AfxScale(m_hWnd, area.top), AfxScale(m_hWnd, area.right),
+            AfxScale(m_hWnd, area.bottom)};
+}
+
 /// Where the frame goes for a pen at `point` (client coordinates), kept in reach.
 CRect CnDialog::DragCandidate(CPoint point) const {
-    const CRect area = AreaBetweenBars(m_hWnd);
+    const CRect area = GetDragArea();
     CRect frame;
     GetWindowRect(frame);
     frame.OffsetRect(point - *m_ptPress);

@@ -65,6 +65,10 @@ protected:
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     /// Moves the drag frame along with the pen; it stays within reach on the screen.
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    /// The part of the screen that the drag frame keeps to, in screen coordinates. Here: that of the
+    /// device between its bars, (0, 26) to (240, 294) at AFX_DESIGN_DPI, on every screen; a program for
+    /// larger ones may give AfxGetWorkArea.
+    virtual CRect GetDragArea() const;
     /// A lift ends dragging: the dialog goes where the frame is.
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     /// A capture that is lost, or a dialog that opens above, ends dragging; this dialog stays
