@@ -118,9 +118,9 @@ def layer(data, dialogs):
         works.setdefault(work, []).append((size, row))
     rows = []
     for work, sizes in works.items():
-        beside = max((key for key in BESIDE if work.startswith(key)), key=len)
+        beside = max((key for key in BESIDE if work.startswith(key)), key=len, default="")
         rows.append([
-            work, BESIDE[beside], "; ".join(f"{int(size):,}" for size, _ in sizes if size),
+            work, BESIDE.get(beside, ""), "; ".join(f"{int(size):,}" for size, _ in sizes if size),
             "; ".join(f'{row["result"]:.2f} ({row["quartiles"][0]:.2f}..{row["quartiles"][1]:.2f})'
                       for _, row in sizes),
             f'{sizes[0][1]["goal"]:g}', "met" if all(row["met"] for _, row in sizes) else "**missed**",
