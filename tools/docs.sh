@@ -94,7 +94,7 @@ fieldbook         main
 fieldbook-plan    lines-plan
 fieldbook-en      main demo-en
 fieldbook-plan-en lines-plan demo-en
-CFileSelectDlg-en open demo-en
+CFileSelectDlg-en export-file demo-en
 controls-entry-en point-entry-complete demo-en
 CnDialog          computations
 CInputDlg         line-circle-radius

@@ -137,8 +137,8 @@ answer() {
 message_ok() { tap 120 219; }
 message_yes() { tap 62 219; }
 message_no() { tap 177 219; }
-box_yes() { tap 73 "$1"; }
-box_no() { tap 171 "$1"; }
+box_yes() { tap "$(word 73 95)" "$1"; }
+box_no() { tap "$(word 171 148)" "$1"; }
 
 # Whatever an earlier run has left, and for whoever comes next.
 reset() {
@@ -429,7 +429,7 @@ tap "${journal[@]}"
 shot 53-journal
 tap 90 74
 shot 54-journal-open
-tap 70 102
+tap 56 102
 shot 55-journal-result
 tap "${ok_button[@]}"
 
