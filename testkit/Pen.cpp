@@ -43,6 +43,10 @@ std::string Hindrance(HWND hWnd, CPoint point) {
 
 } // namespace
 
+bool CanBeTapped(HWND hWnd) {
+    return ::IsWindowEnabled(hWnd) && Hindrance(hWnd, MiddleOf(hWnd)).empty();
+}
+
 void pen::Move(CPoint point) {
     SendPen(point, 0);
 }

@@ -31,6 +31,10 @@ void Drag(CPoint from, CPoint to, int nSteps = 4);
 
 } // namespace pen
 
+/// Whether a user could tap the middle of a window now, and something would happen: it is visible,
+/// enabled, on the screen and not covered there.
+bool CanBeTapped(HWND hWnd);
+
 /// Presses keys one after another, for the window that has the focus.
 /// @param keys VK_... codes; letters and digits are their own
 void TypeKeys(std::initializer_list<WORD> keys);

@@ -30,11 +30,6 @@ bool IsInFront(HWND hWnd) {
     return hWnd != nullptr && ::GetForegroundWindow() == ::GetAncestor(hWnd, GA_ROOT);
 }
 
-bool CanBeTapped(HWND hWnd) {
-    return ::IsWindowVisible(hWnd) && ::IsWindowEnabled(hWnd) &&
-           ::GetAncestor(::WindowFromPoint(MiddleOf(hWnd)), GA_ROOT) == ::GetAncestor(hWnd, GA_ROOT);
-}
-
 } // namespace
 
 std::wstring OwnFolder() {

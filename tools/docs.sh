@@ -40,23 +40,31 @@ test_tutorial() {
 }
 
 # The tutorial's page shows all of its files as they are; so does the front page where it
-# shows one.
+# shows one, and the page of the kit its tests.
 test_quoted_files() {
     local page name good=0 bad=0
     for page in "$root/README.md" "$root/docs/tutorial.md"; do
         for name in CMakeLists.txt Resource.h First.rc First.cpp; do
             [[ $page == */tutorial.md ]] || grep -qF "\`$name\`:" "$page" || continue
-            if quoted_file "$name" "$page" | cmp -s - "$tutorial/$name"; then
-                good=$((good + 1))
-            else
-                bad=$((bad + 1))
-                printf '  %s does not show %s as it is\n' "${page#"$root"/}" "$name"
-            fi
+            check_quoted_file "$name" "$page" "$tutorial"
         done
+    done
+    for name in DialogTest.cpp ProgramTest.cpp; do
+        check_quoted_file "$name" "$root/docs/testkit.md" "$tutorial/tests"
     done
     passed=$((passed + good))
     failed=$((failed + bad))
     printf '%-6s %-20s %5d passed, %d failed\n' docs quoted_files: "$good" "$bad"
+}
+
+# check_quoted_file NAME PAGE FOLDER: counts in "good" and "bad".
+check_quoted_file() {
+    if quoted_file "$1" "$2" | cmp -s - "$3/$1"; then
+        good=$((good + 1))
+    else
+        bad=$((bad + 1))
+        printf '  %s does not show %s as it is\n' "${2#"$root"/}" "$1"
+    fi
 }
 
 # Every page and picture that a page refers to is there.

@@ -54,6 +54,13 @@ TEST(MessageRecorder, KeepsTheTextsAndAnswers) {
     EXPECT_EQ(outer.m_prompts, std::vector<CString>{L"!"});
 }
 
+TEST(Picture, OfTheScreenHasTheWindowsInIt) {
+    const Frame frame;
+    ::UpdateWindow(frame);
+    const CPoint middle = MiddleOf(frame);
+    EXPECT_EQ(Picture::OfScreen().At(middle.x, middle.y), ::GetSysColor(COLOR_WINDOW));
+}
+
 TEST(Picture, SavesPng) {
     const Drive drive;
     const HDC hMemory = ::CreateCompatibleDC(nullptr);
