@@ -140,11 +140,11 @@ picture_screens() {
         rm -rf "$folder"
         mkdir -p "$folder"
         for program in "$build/fieldbook/tests/test_fieldbook_screens.exe" "$build/win64/bin/test_screens.exe"; do
-            (cd "$folder" && FIELDKIT_PICTURES=1 WINEPATH="Z:${build//\//\\}\\win64\\bin" in_wine timeout -k 5 120 wine "$program") \
+            (cd "$folder" && FIELDKIT_PICTURES="Z:${folder//\//\\}" WINEPATH="Z:${build//\//\\}\\win64\\bin" in_wine timeout -k 5 120 wine "$program") \
                 >"$build/screens-$screen_size.log" 2>&1 </dev/null || die "see build/screens-$screen_size.log"
         done
         close_screen
-        montage "$folder"/*.bmp -tile 8x -geometry '240x240>+4+4' -background '#808080' "$folder/all.png"
+        montage "$folder"/[0-9]*.png -tile 6x -geometry '320x320>+4+4' -background '#808080' "$folder/all.png"
         convert "$folder/all.png" +dither -colors 32 -strip "png8:$root/docs/images/screens-$screen_size.png"
         printf '  docs/images/screens-%s.png\n' "$screen_size"
     done

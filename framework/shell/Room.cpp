@@ -6,6 +6,7 @@
 #include "afxdlgs.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace fieldkit::detail;
 
@@ -254,6 +255,24 @@ void CRoom::ShowBar(bool bShow, const CRect* pPanel) {
     info.nPage = static_cast<UINT>(std::max(nHeight, 1));
     info.nPos = m_shift.nControls;
     ::SetScrollInfo(m_hBar, SB_CTL, &info, TRUE);
+}
+
+void CRoom::CutOff() {
+    const int nHeight = Height(nullptr);
+    std::vector<std::pair<HWND, CRect>> regions;
+    std::vector<HWND> cut;
+    for (const HWND hControl : Controls()) {
+        const CRect place = PlaceOf(hControl);
+        const bool bCut = IsScrolling() && place.bottom > nHeight;
+        if (bCut)
+            cut.push_back(hControl);
+        if (bCut || std::find(m_cut.begin(), m_cut.end(), hControl) != m_cut.end())
+            regions.emplace_back(
+                hControl, bCut ? CRect(0, 0, place.Width(), std::max<int>(nHeight - place.top, 0)) : CRect());
+    }
+    m_cut = std::move(cut);
+    for (const auto& [hControl, rect] : regions) // a window owns its region
+        ::SetWindowRgn(hControl, rect.right > 0 ? ::CreateRectRgnIndirect(rect) : nullptr, TRUE);
 }
 
 CRoom::CMoves CRoom::Scroll(UINT nCode, const CRect* pPanel) {

@@ -47,6 +47,9 @@ public:
     bool IsAnchored(HWND hControl) const;
     /// The control is none of those with an anchor, or Settle has been carried out.
     void Anchor(HWND hControl, const AFX_ANCHOR& anchor);
+    /// After a plan has been carried out: what reaches into the command bar, since it scrolls, is cut
+    /// off there. Controls do not clip each other, which frames around others depend on.
+    void CutOff();
     /// What SetResolution has been given; null if nothing.
     HFONT GetFont() const { return m_pFont != nullptr ? static_cast<HFONT>(m_pFont->m_hObject) : nullptr; }
     /// The resolution has changed after Settle.
@@ -91,6 +94,7 @@ private:
     CSize m_sizeHome;                ///< Of a popup, before anything was spare.
     std::vector<CShifted> m_shifted; ///< The dialog and its controls, as far as they are not at home.
     std::vector<CAnchored> m_anchors;
+    std::vector<HWND> m_cut;        ///< Controls of which a part is cut off.
     std::unique_ptr<CFont> m_pFont; ///< Made for another resolution than that of the template.
 };
 

@@ -100,6 +100,11 @@ CRoom& CRooms::Add(HWND hWnd) {
     return pRoom != nullptr ? *pRoom : m_rooms.emplace_back(hWnd);
 }
 
+void CRooms::CutOff(HWND hWnd) {
+    if (CRoom* const pRoom = Find(hWnd))
+        pRoom->CutOff();
+}
+
 void CRooms::Remove(HWND hWnd) {
     std::erase_if(m_rooms, [hWnd](const CRoom& room) { return room.GetWindow() == hWnd; });
 }
@@ -114,6 +119,7 @@ void CRooms::OnSize(HWND hWnd) {
         return;
     OfThread().FollowLater();
     Move(OfThread().Add(hWnd).Plan(CPanelPlace()));
+    OfThread().CutOff(hWnd);
 }
 
 BOOL CRooms::OnScroll(HWND hWnd, UINT nCode, HWND hBar) {
@@ -123,6 +129,7 @@ BOOL CRooms::OnScroll(HWND hWnd, UINT nCode, HWND hBar) {
     if (pRoom == nullptr || !pRoom->HasBar(hBar))
         return FALSE;
     Move(pRoom->Scroll(nCode, CPanelPlace()));
+    OfThread().CutOff(hWnd);
     return TRUE;
 }
 
@@ -133,6 +140,7 @@ void CRooms::Anchor(HWND hControl, const AFX_ANCHOR& anchor) {
     CRoom& room = OfThread().Add(hParent);
     room.Anchor(hControl, anchor);
     Move(room.Plan(CPanelPlace()));
+    OfThread().CutOff(hParent);
 }
 
 void CRooms::Settle(HWND hWnd) {
@@ -189,7 +197,13 @@ void CRooms::Follow() {
     const auto scrolls = [](const CRoom& room) { return room.IsScrolling(); };
     WatchFocus(!m_rooms.empty() &&
                (panel != nullptr || std::any_of(m_rooms.begin(), m_rooms.end(), scrolls)));
+    std::vector<HWND> scrolling;
+    for (const CRoom& room : m_rooms)
+        if (room.IsScrolling())
+            scrolling.push_back(room.GetWindow());
     Move(moves); // last: the application may do anything in between, close the dialog too
+    for (const HWND hWnd : scrolling)
+        OfThread().CutOff(hWnd);
 }
 
 LRESULT CALLBACK CRooms::FocusHook(int nCode, WPARAM wParam, LPARAM lParam) {

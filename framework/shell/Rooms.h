@@ -31,6 +31,7 @@ private:
 
     CRoom* Find(HWND hWnd);
     CRoom& Add(HWND hWnd);
+    void CutOff(HWND hWnd);
     void Remove(HWND hWnd);
     void FollowLater();
     void Follow();

@@ -16,8 +16,9 @@ public:
     /// @return a line for each fault, nothing for a window that is as it should be
     static std::string FaultsOf(HWND hWnd) {
         ScreenWalk walk;
-        if (::GetEnvironmentVariable(L"FIELDKIT_PICTURES", nullptr, 0) != 0)
-            Picture::OfScreen().Save(PictureName());
+        wchar_t szFolder[MAX_PATH];
+        if (::GetEnvironmentVariable(L"FIELDKIT_PICTURES", szFolder, MAX_PATH) != 0)
+            Picture::OfScreen().Save(szFolder + PictureName());
         CRect window = RectOf(hWnd);
         window.DeflateRect(::GetSystemMetrics(SM_CXFIXEDFRAME), 0); // which shows nothing
         if ((WorkArea() & window) != window)
@@ -75,7 +76,7 @@ private:
         static int nPicture = 0;
         CString strName(testing::UnitTest::GetInstance()->current_test_info()->name());
         strName.Replace(L'/', L'-');
-        return std::to_wstring(100 + ++nPicture) + L'-' + strName.GetString() + L".png";
+        return L"\\" + std::to_wstring(100 + ++nPicture) + L'-' + strName.GetString() + L".png";
     }
 
     static void CollectFields(HWND hWnd, std::vector<HWND>& fields) {
