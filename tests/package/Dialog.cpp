@@ -4,7 +4,6 @@
 #include "testkit/Application.h"
 #include "testkit/Pen.h"
 #include "testkit/Script.h"
-#include "testkit/TitleBar.h"
 
 #include <cstdio>
 
@@ -12,7 +11,8 @@ static testkit::Application theApp;
 
 static void Enter(const wchar_t* pszText) {
     CInputDlg dlg(L"?", L"", nullptr);
-    testkit::Play(dlg, {[&] { testkit::TypeText(pszText); }, [&] { testkit::TapOk(dlg); }});
+    testkit::Play(dlg,
+                  {[&] { testkit::TypeText(pszText); }, [&] { testkit::pen::Tap(::GetDlgItem(dlg, IDOK)); }});
     if (dlg.GetString() != pszText)
         testkit::Fail("the text is not " + testkit::Utf8(pszText));
 }
