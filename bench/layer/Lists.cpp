@@ -1,6 +1,7 @@
 // The history and the lists that the library fills or reads, beside the system's own controls and
 // lists of the standard library. A size is the number of entries.
 #include "Rows.h"
+#include "Shown.h"
 
 #include "dialogs/SelMemberDlg.h"
 #include "util/StringStack.h"
@@ -85,21 +86,6 @@ Row Added(const char* pszName, CStringStack::Mode mode) {
             [=](int n) { return AddBare(n, mode == CStringStack::ModeHeader); },
             [=](int n) { return AddOurs(n, mode); }};
 }
-
-/// A visible control in a window of its own.
-template <class Control>
-class Shown : public Control {
-public:
-    Shown(const wchar_t* pszClass, DWORD dwStyle) {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE, CRect(0, 26, 240, 294),
-                          nullptr, 0);
-        this->CWnd::Create(pszClass, L"", WS_CHILD | WS_VISIBLE | WS_VSCROLL | dwStyle, CRect(0, 0, 240, 240),
-                           &m_parent, 1);
-    }
-
-private:
-    CWnd m_parent;
-};
 
 Cost SetupBare(int n) {
     const auto texts = TextsOf<std::wstring>(n, kLength);

@@ -29,6 +29,8 @@ std::vector<Row> CollectionRows();
 std::vector<Row> FileRows();
 /// Lists that the library fills or reads.
 std::vector<Row> ListRows();
+/// What the sample does with many points; a file is written to the current drive.
+std::vector<Row> SampleRows();
 
 /// Takes what a work gives, so that the compiler cannot leave the work out.
 inline volatile std::size_t g_taken;

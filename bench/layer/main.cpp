@@ -125,6 +125,7 @@ int Run(const char* pszJson, const char* pszOnly) {
     {
         const Drive drive;
         MeasureRows(report, bench::FileRows());
+        MeasureRows(report, bench::SampleRows());
     }
     MeasureSmallDialog(report);
     MeasureFiles(report, 10000);
