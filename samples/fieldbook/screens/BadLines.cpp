@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+static_assert(IDS_FAULT_LAST - IDS_FAULT_FIRST + 1 == static_cast<int>(LineFault::BadCode),
+              "a text for each fault but None");
+
 UINT FaultTextId(LineFault fault) {
     return IDS_FAULT_FIRST + static_cast<UINT>(fault) - static_cast<UINT>(LineFault::TooFewFields);
 }

@@ -94,12 +94,12 @@ protected:
 private:
     /// The buttons at the bottom go down.
     void MakeRoom() {
-        constexpr int kHintHeight = 17, kListHeight = 100; // pixels
+        const int nHintHeight = AfxScale(m_hWnd, 17), nMargin = AfxScale(m_hWnd, 4);
         CRect window, area;
         GetWindowRect(window);
         GetClientRect(area);
         const int nMore =
-            std::min(kHintHeight + kListHeight, ::GetSystemMetrics(SM_CYSCREEN) - window.Height());
+            std::min(nHintHeight + AfxScale(m_hWnd, 100), ::GetSystemMetrics(SM_CYSCREEN) - window.Height());
         SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + nMore, SWP_NOMOVE | SWP_NOZORDER);
         CRect button;
         for (const int nId : {IDOK, IDCANCEL}) {
@@ -109,10 +109,10 @@ private:
                                           SWP_NOSIZE | SWP_NOZORDER);
         }
         area.bottom = button.top;
-        area.top = area.bottom + kHintHeight;
+        area.top = area.bottom + nHintHeight;
         m_hint.Create(Text(m_nHintId), WS_CHILD | WS_VISIBLE | SS_NOPREFIX,
-                      CRect(kMargin, button.top, area.right, area.top), this);
-        area.bottom = button.top + nMore - kMargin;
+                      CRect(nMargin, button.top, area.right, area.top), this);
+        area.bottom = button.top + nMore - nMargin;
         m_list.Create(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER, area,
                       this, IDC_FIRST_LINES);
         m_hint.SetFont(GetFont());
@@ -120,12 +120,12 @@ private:
     }
 
     void Fill() {
-        constexpr int kWidth = 76; // pixels
+        const int nWidth = AfxScale(m_hWnd, 76);
         for (size_t nLine = 0; nLine < m_lines.size(); ++nLine) {
             m_list.InsertItem(static_cast<int>(nLine), L"");
             for (size_t nField = 0; nField < m_lines[nLine].size(); ++nField) {
                 if (nField == m_nFields)
-                    m_list.InsertColumn(static_cast<int>(m_nFields++), L"", LVCFMT_LEFT, kWidth);
+                    m_list.InsertColumn(static_cast<int>(m_nFields++), L"", LVCFMT_LEFT, nWidth);
                 m_list.SetItemText(static_cast<int>(nLine), static_cast<int>(nField), m_lines[nLine][nField]);
             }
         }
@@ -145,8 +145,6 @@ private:
             m_list.SetColumn(static_cast<int>(i), &column);
         }
     }
-
-    static constexpr int kMargin = 4; // pixels
 
     UINT m_nHintId;
     const Lines& m_lines;

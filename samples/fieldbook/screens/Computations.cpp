@@ -97,6 +97,10 @@ CReport CComputations::Finish(CReport report) {
     return report;
 }
 
+// Three sets of questions of a kind stand before those of the next.
+static_assert(IDS_LINE_FIRST + 3 * 2 <= IDS_SIGHT_FIRST && IDS_SIGHT_FIRST + 3 * 2 <= IDS_PARALLEL_FIRST &&
+              IDS_PARALLEL_FIRST + 3 * 3 <= IDS_CIRCLE_FIRST && IDS_CIRCLE_FIRST + 3 * 2 <= IDS_FIGURE_FIRST);
+
 bool CComputations::AskFigure(Figure kind, UINT nWhich, CAskedFigure& asked) {
     CCoordinate first, second;
     double dNumber = 0;
@@ -182,6 +186,7 @@ std::optional<CReport> CComputations::Combined() {
 }
 
 std::optional<CComputations::Figure> CComputations::ChooseFigure(UINT nTitleId) {
+    static_assert(IDS_FIGURE_LAST - IDS_FIGURE_FIRST + 1 == kFigureCount);
     CUIntArray entries;
     for (UINT nKind = 0; nKind < kFigureCount; ++nKind)
         entries.Add(IDS_FIGURE_FIRST + nKind);

@@ -32,7 +32,7 @@ public:
 private:
     /// How a line or a circle is given: by two points, by a point and a direction, beside a line.
     enum class Figure { Line, Sight, Parallel, Circle };
-    static constexpr UINT kFigureCount = 4;
+    static constexpr UINT kFigureCount = static_cast<UINT>(Figure::Circle) + 1;
     struct CAskedFigure {
         CFigure figure;
         CString strFrom{};                  ///< Of a sight.

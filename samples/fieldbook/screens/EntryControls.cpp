@@ -33,7 +33,8 @@ bool IsControlCharacter(UINT nChar) {
 
 } // namespace
 
-static_assert(IDS_ANGLE_FIRST + static_cast<UINT>(AngleFault::BadSixties) - 1 < IDS_FOUND);
+static_assert(IDS_ANGLE_LAST - IDS_ANGLE_FIRST + 1 == static_cast<int>(AngleFault::BadSixties),
+              "a text for each fault but None");
 
 CString AngleProblem(AngleFault fault) {
     return fault == AngleFault::None ? CString() : Text(IDS_ANGLE_FIRST + static_cast<UINT>(fault) - 1);

@@ -13,6 +13,7 @@
 
 void CFileCommands::RunMenu() {
     enum { EntryOpen, EntryPrevious, EntryNew, EntrySave, EntrySaveAs, EntryFolder, EntryCount };
+    static_assert(IDS_FILE_MENU_LAST - IDS_FILE_MENU_FIRST + 1 == EntryCount);
     CUIntArray entries;
     for (UINT nEntry = 0; nEntry < EntryCount; ++nEntry)
         entries.Add(IDS_FILE_MENU_FIRST + nEntry);

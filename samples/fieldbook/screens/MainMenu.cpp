@@ -19,7 +19,7 @@ namespace {
 constexpr UINT WM_OPEN_FIRST = WM_APP;
 constexpr UINT WM_IN_FRONT = WM_APP + 1;
 
-constexpr UINT kEntryCount = 8;
+constexpr UINT kEntryCount = IDS_MENU_LAST - IDS_MENU_FIRST + 1;
 
 } // namespace
 
@@ -85,10 +85,11 @@ void CMainMenu::ShowTitle() {
 /// Without the base class, which would close the menu.
 void CMainMenu::OnOK() {
     using Command = void (CMainMenu::*)();
-    static constexpr Command kCommands[kEntryCount] = {
+    static constexpr Command kCommands[] = {
         &CMainMenu::OnPointEntry, &CMainMenu::OnPointList, &CMainMenu::OnCompute, &CMainMenu::OnPlan,
         &CMainMenu::OnJournal,    &CMainMenu::OnFile,      &CMainMenu::OnExport,  &CMainMenu::OnSettings,
     };
+    static_assert(std::size(kCommands) == kEntryCount);
     if (GetMenuIndex() < 0)
         return;
     (this->*kCommands[GetMenuIndex()])();

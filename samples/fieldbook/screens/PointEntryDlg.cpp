@@ -13,6 +13,8 @@ namespace {
 /// What the names of a kind of points begin with, in the order of their texts.
 constexpr const wchar_t* kKindPrefixes[] = {L"T", L"K", L"BM", L"P"};
 
+static_assert(IDS_KIND_LAST - IDS_KIND_FIRST + 1 == std::size(kKindPrefixes));
+
 /// A coordinate as it can be typed, with all decimals that the points file keeps; nothing for one
 /// that is missing.
 CString NumberText(double dValue) {

@@ -107,6 +107,7 @@
 #define IDS_PARALLEL_FIRST 2500
 #define IDS_CIRCLE_FIRST 2510
 #define IDS_FIGURE_FIRST 2520 // kinds, in the order of Figure
+#define IDS_FIGURE_LAST 2523
 #define IDS_FIRST_FIGURE 2525
 #define IDS_SECOND_FIGURE 2526
 #define IDS_ARC_START 2222
@@ -133,6 +134,7 @@
 #define IDS_POINT_WITHOUT_NE 2244
 // Why an angle was refused, in the order of AngleFault, from NoNumber on
 #define IDS_ANGLE_FIRST 2245
+#define IDS_ANGLE_LAST 2247
 
 // Results
 #define IDS_FOUND 2250
@@ -183,16 +185,19 @@
 
 // Why a line of the file was left out, in the order of LineFault, from TooFewFields on
 #define IDS_FAULT_FIRST 2280
+#define IDS_FAULT_LAST 2289
 
 // Main menu: the title without and with a points file, and the entries in the order of its commands
 #define IDS_TITLE 2290
 #define IDS_TITLE_POINTS 2291
 #define IDS_UNTITLED 2292
 #define IDS_MENU_FIRST 2460
+#define IDS_MENU_LAST 2467
 
 // File menu: the title, and the entries in the order of its commands
 #define IDS_FILE_MENU 2293
 #define IDS_FILE_MENU_FIRST 2470
+#define IDS_FILE_MENU_LAST 2475
 #define IDS_NO_PREVIOUS 2299
 #define IDS_ASK_SAVE 2294
 #define IDS_ASK_GIVE_UP 2295
@@ -263,6 +268,7 @@
 
 // Kinds of points, in the order of the beginnings of their names
 #define IDS_KIND_FIRST 2330
+#define IDS_KIND_LAST 2333
 
 // Angles
 #define IDS_POLAR 2340

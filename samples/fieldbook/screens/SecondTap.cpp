@@ -23,9 +23,11 @@ bool IsPushButton(HWND hWnd) {
     return (::SendMessage(hWnd, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
-bool IsNear(CPoint first, CPoint second) {
+bool IsNear(const MSG& msg, CPoint place) {
     constexpr int kHalfButton = 14; // pixels
-    return std::abs(first.x - second.x) <= kHalfButton && std::abs(first.y - second.y) <= kHalfButton;
+    const CSize way = CPoint(msg.pt) - place;
+    const int nMost = AfxScale(msg.hwnd, kHalfButton);
+    return std::abs(way.cx) <= nMost && std::abs(way.cy) <= nMost;
 }
 
 } // namespace
@@ -60,7 +62,7 @@ LRESULT CALLBACK CSecondTapFilter::OnMessage(int nCode, WPARAM wParam, LPARAM lP
 bool CSecondTapFilter::IsSecond(const MSG& msg, HWND hWnd, CTap& last) const {
     const bool bQuick =
         last.hWnd != nullptr && (IsHeldDown(msg) || msg.time - last.dwTime <= ::GetDoubleClickTime());
-    const bool bNear = IsEnter(msg) || IsNear(last.place, msg.pt);
+    const bool bNear = IsEnter(msg) || IsNear(msg, last.place);
     if (bQuick && bNear && (hWnd != last.hWnd || IsPushButton(msg.hwnd)))
         return true;
     last = {hWnd, msg.pt, msg.time};
