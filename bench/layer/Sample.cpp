@@ -3,10 +3,10 @@
 #include "Rows.h"
 #include "Shown.h"
 
-#include "plan/PlanPainter.h"
-#include "points/FileReplacement.h"
-#include "points/PointFile.h"
-#include "screens/ListControls.h"
+#include "samples/fieldbook/plan/PlanPainter.h"
+#include "samples/fieldbook/points/FileReplacement.h"
+#include "samples/fieldbook/points/PointFile.h"
+#include "samples/fieldbook/screens/ListControls.h"
 
 #include <algorithm>
 #include <cstdio>
