@@ -84,8 +84,14 @@ void CPointEntryDlg::OnKind() {
     m_name.SetWindowText(m_job.book.NextName(kKindPrefixes[m_kind.GetCurSel()]));
 }
 
+/// Typing goes on where something is missing.
 void CPointEntryDlg::OnNoHeight() {
     m_z.EnableWindow(!m_noHeight.GetPush());
+    for (CNumberEdit* const pField : {&m_n, &m_e, &m_z})
+        if (pField->IsWindowEnabled() && TextOf(*pField).IsEmpty()) {
+            pField->SetFocus();
+            return;
+        }
 }
 
 void CPointEntryDlg::ShowPoint(const CNamedPoint& point) {
