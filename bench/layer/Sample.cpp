@@ -209,7 +209,7 @@ Row Removed() {
             WithBareList(kTimes,
                          [](BareList& list, int i) {
                              const auto nPlace = static_cast<std::size_t>(i) * kStep;
-                             list.points.erase(list.points.begin() + i * kStep);
+                             list.points.erase(list.points.begin() + static_cast<std::ptrdiff_t>(nPlace));
                              list.order.erase(std::find(list.order.begin(), list.order.end(), nPlace));
                              for (std::size_t& nOther : list.order)
                                  nOther -= nOther > nPlace ? 1 : 0;

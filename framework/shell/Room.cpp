@@ -164,7 +164,7 @@ CRoom::CMoves CRoom::Plan(const CRect* pPanel) {
     if (bScroll)
         ScrollTo(hFocus);
     m_nScroll = std::clamp(m_nScroll, 0, std::max(nRange, 0));
-    const CMoves moves = Apply(ShiftFor(hFocus, pPanel), spare);
+    CMoves moves = Apply(ShiftFor(hFocus, pPanel), spare);
     ShowBar(bScroll, pPanel);
     return moves;
 }
