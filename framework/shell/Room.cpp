@@ -54,6 +54,15 @@ bool CanScroll(HWND hWnd) {
             dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hParent)) != nullptr);
 }
 
+bool IsPageOf(HWND hSheet, HWND hWnd) {
+    return dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hSheet)) != nullptr &&
+           dynamic_cast<CPropertyPage*>(CWnd::FromHandlePermanent(hWnd)) != nullptr;
+}
+
+HWND TabsOf(HWND hSheet) {
+    return reinterpret_cast<HWND>(::SendMessage(hSheet, PSM_GETTABCONTROL, 0, 0));
+}
+
 bool IsEntryField(HWND hWnd) {
     return hWnd != nullptr && (::SendMessage(hWnd, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0;
 }
@@ -141,11 +150,13 @@ CSize CRoom::Spare(bool bBar) const {
                  std::max<LONG>(client.bottom - home.cy, 0));
 }
 
-/// What has been moved by someone else since has a new place of its own, and is not shifted.
+/// What has been moved by someone else since has a new place of its own, and is not shifted. A page
+/// stands where its sheet's tabs are, though it be one that came while they were shifted.
 int CRoom::ShiftOf(HWND hWnd) const {
+    const HWND hShifted = IsPageOf(m_hWnd, hWnd) ? TabsOf(m_hWnd) : hWnd;
     for (const CShifted& shifted : m_shifted)
-        if (shifted.hWnd == hWnd)
-            return PlaceOf(hWnd).TopLeft() == shifted.place ? shifted.nShift : 0;
+        if (shifted.hWnd == hShifted)
+            return PlaceOf(hShifted).TopLeft() == shifted.place ? shifted.nShift : 0;
     return 0;
 }
 

@@ -15,6 +15,7 @@ class ScreenWalk {
 public:
     /// @return a line for each fault, nothing for a window that is as it should be
     static std::string FaultsOf(HWND hWnd) {
+        Pump();
         std::string faults = LookAt(hWnd);
         // It may be on its way back from where it was for the panel.
         if (!faults.empty())
@@ -144,6 +145,8 @@ private:
             if (IsScrollBar(hChild) || IsCommandBar(hChild))
                 continue;
             if (IsDialog(hChild)) {
+                if ((room & RectOf(hChild)) != RectOf(hChild))
+                    Report(hChild, "is out of reach", RectOf(hChild));
                 Look(hChild);
                 continue;
             }
