@@ -15,7 +15,7 @@ namespace testkit {
 class Script::Running {
 public:
     Running(const std::vector<Step>& steps, DWORD nSeconds, const Place& place)
-        : m_steps(steps), m_place(place), m_nDeadline(::GetTickCount64() + nSeconds * 1000),
+        : m_steps(steps), m_place(place), m_nDeadline(::GetTickCount64() + nSeconds * ULONGLONG{1000}),
           m_watchdog(nSeconds + kGrace, [this] { Print(); }) {}
     ~Running() {
         ::KillTimer(nullptr, m_nTimer);
