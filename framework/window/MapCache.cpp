@@ -47,10 +47,10 @@ private:
 const CUnloadWatch g_unloadWatch;
 
 /// A number of 64 bits of which the highest depend on all four; see Knuth's multiplicative hashing.
-std::size_t Spread(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
-    constexpr std::size_t kOdd = 0x9E3779B97F4A7C15;
-    const std::size_t nKey = (reinterpret_cast<std::size_t>(pMap) >> 4) + (std::size_t{message} << 24) +
-                             (std::size_t{static_cast<UINT>(nCode)} << 40) + (std::size_t{nID} << 48);
+ULONGLONG Spread(const AFX_MSGMAP* pMap, UINT message, int nCode, UINT nID) {
+    constexpr ULONGLONG kOdd = 0x9E3779B97F4A7C15;
+    const ULONGLONG nKey = (ULONGLONG{reinterpret_cast<UINT_PTR>(pMap)} >> 4) + (ULONGLONG{message} << 24) +
+                           (ULONGLONG{static_cast<UINT>(nCode)} << 40) + (ULONGLONG{nID} << 48);
     return nKey * kOdd;
 }
 

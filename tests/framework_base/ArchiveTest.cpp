@@ -74,7 +74,7 @@ TEST(Archive, StringsHaveTheUnicodeMarkAndALengthOfThreeSizes) {
              {CString(L'x', 0xFFFD), "ff fe ff ff fd ff 78 00 78 00 78 00", 6 + 0x1FFFA},
              {CString(L'x', 0xFFFE), "ff fe ff ff ff ff fe ff 00 00 78 00", 10 + 0x1FFFC},
              {CString(L"a\0b", 3), "ff fe ff 03 61 00 00 00 62 00", 10}}) {
-        const Bytes bytes = Stored([&](CArchive& ar) { ar << wanted; });
+        const Bytes bytes = Stored([&text = wanted](CArchive& ar) { ar << text; });
         EXPECT_EQ(head, Head(bytes));
         EXPECT_EQ(size, bytes.size());
         CString loaded;
