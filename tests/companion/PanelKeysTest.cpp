@@ -130,16 +130,20 @@ TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
     SetText(strText);
     pen::Move(fx::BackspaceKey());
     fx::PumpFor(50); // the pointer may have been elsewhere
+    constexpr ULONGLONG DELAY = 400, INTERVAL = 60;
+    const ULONGLONG nPressed = ::GetTickCount64();
+    const auto most = [&] { return 1 + (::GetTickCount64() - nPressed) / INTERVAL; };
     pen::Down(fx::BackspaceKey());
     ASSERT_TRUE(PumpUntil([this] { return Text().GetLength() < 40; }));
-    EXPECT_EQ(Text().GetLength(), 39) << "at once, and only one";
     fx::PumpFor(200);
-    EXPECT_EQ(Text().GetLength(), 39) << "a hesitant finger deletes no more";
+    const int nHesitant = Text().GetLength();
+    if (::GetTickCount64() - nPressed < DELAY) // a loaded machine may take longer
+        EXPECT_EQ(nHesitant, 39) << "a hesitant finger deletes one at once, and no more";
     EXPECT_TRUE(PumpUntil([this] { return Text().GetLength() < 35; }));
     pen::Up(fx::BackspaceKey());
-    fx::PumpFor(50);
+    ASSERT_TRUE(PumpUntil([] { return ::GetCapture() == nullptr; }));
     const int nLeft = Text().GetLength();
-    EXPECT_GT(nLeft, 20);
+    EXPECT_GE(nLeft + static_cast<int>(most()), 40);
     fx::PumpFor(200);
     EXPECT_EQ(Text().GetLength(), nLeft);
 
