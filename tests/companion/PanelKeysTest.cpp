@@ -137,8 +137,9 @@ TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
     ASSERT_TRUE(PumpUntil([this] { return Text().GetLength() < 40; }));
     fx::PumpFor(200);
     const int nHesitant = Text().GetLength();
-    if (::GetTickCount64() - nPressed < DELAY) // a loaded machine may take longer
+    if (::GetTickCount64() - nPressed < DELAY) { // a loaded machine may take longer
         EXPECT_EQ(nHesitant, 39) << "a hesitant finger deletes one at once, and no more";
+    }
     EXPECT_TRUE(PumpUntil([this] { return Text().GetLength() < 35; }));
     pen::Up(fx::BackspaceKey());
     ASSERT_TRUE(PumpUntil([] { return ::GetCapture() == nullptr; }));

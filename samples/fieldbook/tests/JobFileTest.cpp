@@ -118,21 +118,6 @@ TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {
         EXPECT_TRUE(m_file.Read() == FILE_OF_OTHERS && m_pJob->book.IsModified() && !HasBackup());
         EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
     }
-    CPointListDlg dialog(*m_pJob, nullptr);
-    const auto tapHeading = [] {
-        CListCtrl& list =
-            *static_cast<CListCtrl*>(CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), IDC_POINTS)));
-        CRect heading;
-        list.GetHeaderCtrl()->GetWindowRect(heading);
-        pen::Tap(CPoint(heading.left + 60, heading.CenterPoint().y));
-    };
-    const auto isFirst = [&](const wchar_t* pszText) {
-        return [&dialog, pszText] {
-            CListCtrl& list = *static_cast<CListCtrl*>(dialog.GetDlgItem(IDC_POINTS));
-            EXPECT_TRUE(list.GetItemText(0, 0) == pszText);
-        };
-    };
-    Play(dialog, {tapHeading, TapIn(IDCANCEL), isFirst(L"K1"), Close(dialog)});
 }
 
 TEST_F(JobFile, QuickSecondTapDoesNothingTwice) {

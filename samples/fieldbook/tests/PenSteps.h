@@ -4,22 +4,14 @@
 
 #include "screens/Resource.h"
 #include "testkit/GTest.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
-#include "testkit/Panel.h"
-#include "Tesuvo.h"
+#include "testkit/Steps.h"
 
-/// Taps a button of the message box that is on the screen.
-inline testkit::Step Answer(int nButton) {
-    return [nButton] {
-        if (testkit::panel::IsVisible())
-            return false; // it goes with the focus, but not at once
-        const HWND hButton = ::GetDlgItem(::GetActiveWindow(), nButton);
-        EXPECT_NE(hButton, nullptr) << "no such question";
-        testkit::pen::Tap(*CWnd::FromHandle(hButton));
-        return true;
-    };
-}
+using testkit::Answer;
+using testkit::Close;
+using testkit::NoPanel;
+using testkit::Tap;
+using testkit::TapIn;
 
 inline testkit::Step Keys(std::initializer_list<WORD> keys) {
     const std::vector<WORD> copy = keys;
@@ -27,15 +19,6 @@ inline testkit::Step Keys(std::initializer_list<WORD> keys) {
         for (const WORD key : copy)
             testkit::TypeKeys({key});
     };
-}
-
-inline testkit::Step Tap(const CDialog& dialog, UINT nId) {
-    return [&dialog, nId] { testkit::pen::Tap(*dialog.GetDlgItem(static_cast<int>(nId))); };
-}
-
-/// Of the dialog that is on the screen then.
-inline testkit::Step TapIn(int nId) {
-    return [nId] { testkit::pen::Tap(*CWnd::FromHandle(::GetDlgItem(::GetActiveWindow(), nId))); };
 }
 
 inline testkit::Step TapRow(int nRow) {
@@ -49,14 +32,3 @@ inline testkit::Step TapRow(int nRow) {
     };
 }
 
-/// The panel lies on the lower buttons while a field has the focus.
-inline testkit::Step NoPanel() {
-    return [] {
-        TVCloseSIP();
-        return !testkit::panel::IsVisible();
-    };
-}
-
-inline testkit::Step Close(CDialog& dialog) {
-    return [&dialog] { dialog.PostMessage(WM_CLOSE); };
-}
