@@ -31,4 +31,3 @@ inline testkit::Step TapRow(int nRow) {
         testkit::pen::Tap(row.CenterPoint());
     };
 }
-
