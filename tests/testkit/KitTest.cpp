@@ -58,7 +58,10 @@ TEST(Picture, OfTheScreenHasTheWindowsInIt) {
     const Frame frame;
     ::UpdateWindow(frame);
     const CPoint middle = MiddleOf(frame);
-    EXPECT_EQ(Picture::OfScreen().At(middle.x, middle.y), ::GetSysColor(COLOR_WINDOW));
+    const auto isSeen = [&] {
+        return Picture::OfScreen().At(middle.x, middle.y) == ::GetSysColor(COLOR_WINDOW);
+    };
+    EXPECT_TRUE(PumpUntil(isSeen)); // the display shows it in its own time
 }
 
 TEST(Picture, SavesPng) {
