@@ -43,6 +43,9 @@ public:
 class CMap5 : public CCounting {
     DECLARE_MESSAGE_MAP()
 };
+class CMap20 : public CCounting {
+    DECLARE_MESSAGE_MAP()
+};
 class CMap50 : public CCounting {
     DECLARE_MESSAGE_MAP()
 };
@@ -62,6 +65,9 @@ class CReflecting : public CCounting {
 // clang-format off
 BEGIN_MESSAGE_MAP(CMap5, CWnd)
     LINES5(0)
+END_MESSAGE_MAP()
+BEGIN_MESSAGE_MAP(CMap20, CWnd)
+    LINES5(0) LINES5(5) LINES5(10) LINES5(15)
 END_MESSAGE_MAP()
 BEGIN_MESSAGE_MAP(CMap50, CWnd)
     ON_COMMAND(kCommand, &CCounting::OnCommandCount)
@@ -123,9 +129,10 @@ void MeasureDispatch(Report& report) {
     const HWND hBare = BareWindow(nullptr);
     const HWND hBareChild = BareWindow(hBare);
     CMap5 map5;
+    CMap20 map20;
     CMap50 map50;
     CTop top;
-    for (CWnd* pWnd : {static_cast<CWnd*>(&map5), static_cast<CWnd*>(&map50), static_cast<CWnd*>(&top)})
+    for (CWnd* pWnd : std::initializer_list<CWnd*>{&map5, &map20, &map50, &top})
         pWnd->CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0);
     CReflecting child;
     child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 9, 9), &map50, kCommand);
@@ -143,8 +150,10 @@ void MeasureDispatch(Report& report) {
         double goal;
     } rows[] = {
         {"message, map of 5", map5, kFirst + 4, 0, 0, 0, kGoal},
+        {"message, map of 20", map20, kFirst + 19, 0, 0, 0, kGoal},
         {"message, map of 50", map50, kFirst + 49, 0, 0, 0, kGoal},
         {"message nobody wants, map of 5", map5, kUnknown, 0, 0, 0, kGoal},
+        {"message nobody wants, map of 20", map20, kUnknown, 0, 0, 0, kGoal},
         {"message nobody wants, map of 50", map50, kUnknown, 0, 0, 0, kGoal},
         {"message, base class of 3", top, kFirst, 0, 0, 0, kGoal},
         {"command of a menu", map50, WM_COMMAND, kCommand, 0, 0, kCommandGoal},

@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kArchiveGoal = 1.2;
 constexpr double kLinesGoal = 3;
+constexpr double kUnbufferedGoal = 1.2;
 constexpr int kLength = 24;
 constexpr auto kPath = L"\\texts";
 
@@ -20,6 +21,50 @@ using FilePtr = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
 FilePtr OpenBare(const wchar_t* pszMode) {
     return {::_wfopen(kPath, pszMode), std::fclose};
+}
+
+// --- Archives: integers -----------------------------------------------------------------------
+
+Cost StoreNumbersBare(int n) {
+    return Timed(1, [&] {
+        const FilePtr file = OpenBare(L"wb");
+        for (int i = 0; i < n; ++i)
+            std::fwrite(&i, sizeof i, 1, file.get());
+    });
+}
+
+Cost StoreNumbersOurs(int n) {
+    return Timed(1, [&] {
+        CFile file(kPath, CFile::modeCreate | CFile::modeWrite);
+        CArchive ar(&file, CArchive::store);
+        for (int i = 0; i < n; ++i)
+            ar << i;
+    });
+}
+
+Cost LoadNumbersBare(int n) {
+    StoreNumbersBare(n);
+    return Timed(1, [&] {
+        const FilePtr file = OpenBare(L"rb");
+        for (int i = 0; i < n; ++i) {
+            int nRead = 0;
+            std::fread(&nRead, sizeof nRead, 1, file.get());
+            Take(static_cast<std::size_t>(nRead));
+        }
+    });
+}
+
+Cost LoadNumbersOurs(int n) {
+    StoreNumbersBare(n);
+    return Timed(1, [&] {
+        CFile file(kPath, CFile::modeRead);
+        CArchive ar(&file, CArchive::load);
+        for (int i = 0; i < n; ++i) {
+            int nRead = 0;
+            ar >> nRead;
+            Take(static_cast<std::size_t>(nRead));
+        }
+    });
 }
 
 // --- Archives: FF FE FF, the length in a byte, the units ------------------------------------
@@ -90,10 +135,29 @@ Cost WriteBare(int n) {
     });
 }
 
+/// A line is two writes of the system here as there.
+Cost WriteUnbufferedBare(int n) {
+    const auto texts = TextsOf<std::wstring>(n, kLength);
+    return Timed(1, [&] {
+        const HANDLE hFile =
+            ::CreateFile(kPath, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        char bytes[256];
+        DWORD nWritten;
+        for (const std::wstring& text : texts) {
+            const int nBytes = ::WideCharToMultiByte(CP_OEMCP, 0, text.data(), static_cast<int>(text.size()),
+                                                     bytes, sizeof bytes, nullptr, nullptr);
+            ::WriteFile(hFile, bytes, static_cast<DWORD>(nBytes), &nWritten, nullptr);
+            ::WriteFile(hFile, "\r\n", 2, &nWritten, nullptr);
+        }
+        ::CloseHandle(hFile);
+    });
+}
+
+template <class File>
 Cost WriteOurs(int n) {
     const auto texts = TextsOf<CString>(n, kLength);
     return Timed(1, [&] {
-        CBufferedAsciiFile file;
+        File file;
         file.Open(kPath, CFile::modeCreate | CFile::modeWrite);
         for (const CString& text : texts)
             file.WriteString(text);
@@ -130,10 +194,18 @@ Cost ReadOurs(int n) {
 } // namespace
 
 std::vector<Row> FileRows() {
-    return {{"archive: strings written", kArchiveGoal, {1000, 100000}, StoreBare, StoreOurs},
-            {"archive: strings read", kArchiveGoal, {1000, 100000}, LoadBare, LoadOurs},
-            {"lines written in blocks", kLinesGoal, {10000, 1000000}, WriteBare, WriteOurs},
-            {"lines read in blocks", kLinesGoal, {10000, 1000000}, ReadBare, ReadOurs}};
+    return {
+        {"archive: integers written", kArchiveGoal, {1000, 100000}, StoreNumbersBare, StoreNumbersOurs},
+        {"archive: integers read", kArchiveGoal, {1000, 100000}, LoadNumbersBare, LoadNumbersOurs},
+        {"archive: strings written", kArchiveGoal, {1000, 100000}, StoreBare, StoreOurs},
+        {"archive: strings read", kArchiveGoal, {1000, 100000}, LoadBare, LoadOurs},
+        {"lines written one by one",
+         kUnbufferedGoal,
+         {1000, 10000},
+         WriteUnbufferedBare,
+         WriteOurs<CAsciiFile>},
+        {"lines written in blocks", kLinesGoal, {10000, 1000000}, WriteBare, WriteOurs<CBufferedAsciiFile>},
+        {"lines read in blocks", kLinesGoal, {10000, 1000000}, ReadBare, ReadOurs}};
 }
 
 } // namespace bench

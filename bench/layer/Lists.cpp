@@ -92,12 +92,15 @@ Cost SetupBare(int n) {
     const Shown<CWnd> combo(WC_COMBOBOX, CBS_DROPDOWN);
     const HWND hCombo = combo.m_hWnd;
     return Timed(1, [&] {
+        wchar_t szText[kLength + 1];
+        ::GetWindowText(hCombo, szText, kLength + 1);
         ::SendMessage(hCombo, WM_SETREDRAW, FALSE, 0);
         ::SendMessage(hCombo, CB_RESETCONTENT, 0, 0);
         ::SendMessage(hCombo, CB_INITSTORAGE, texts.size(), static_cast<LPARAM>(texts.size() * kLength * 2));
         for (const std::wstring& text : texts)
             ::SendMessage(hCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
         ::SendMessage(hCombo, WM_SETREDRAW, TRUE, 0);
+        ::SetWindowText(hCombo, szText);
         ::RedrawWindow(hCombo, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     });
 }

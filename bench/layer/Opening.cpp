@@ -123,6 +123,8 @@ bool RunOpening(int argc, char** argv) {
     const auto what = static_cast<What>(std::stoi(argv[2]));
     if (what < What::BareDialog) // the small dialog is to be the first window
         WarmUp();
+    ::GetFocus(); // the first question to the window server waits until it has cleared away the process
+                  // before
     const Cost cost = Open(what, CString(argv[3]));
     CFile file(kResult, CFile::modeCreate | CFile::modeWrite);
     file.Write(&cost, sizeof cost);

@@ -277,6 +277,7 @@ std::string FileOf(int n) {
 }
 
 /// As plain as it can be: no quotation marks, no other encoding, nothing is checked but names.
+/// Each line is ended by a zero, since wcstod measures the rest of its text at every call.
 std::size_t ReadBare(const wchar_t* pszPath) {
     std::string bytes;
     {
@@ -289,8 +290,9 @@ std::size_t ReadBare(const wchar_t* pszPath) {
                           static_cast<int>(text.size()));
     std::vector<Point> points;
     std::map<std::wstring, std::size_t> index;
-    for (std::size_t nStart = text.find(L'\n') + 1; nStart < text.size();
-         nStart = text.find(L'\n', nStart) + 1) {
+    for (std::size_t nStart = text.find(L'\n') + 1, nEnd = 0; (nEnd = text.find(L'\n', nStart)) != text.npos;
+         nStart = nEnd + 1) {
+        text[nEnd] = L'\0';
         const std::size_t nComma = text.find(L',', nStart);
         Point point{text.substr(nStart, nComma - nStart), 0, 0, 0};
         wchar_t* pchEnd = nullptr;
