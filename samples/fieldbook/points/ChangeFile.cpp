@@ -24,17 +24,16 @@ CChangeFile::Lock CChangeFile::LockOf(const CString& strPath) {
 }
 
 bool CChangeFile::Claim(const CString& strPointsPath) {
-    std::vector<CString> places = {FirstPlaceOf(strPointsPath)};
-    if (!strPointsPath.IsEmpty())
-        places.push_back(PathIn(m_strOwnFolder, HashText(strPointsPath) + L".changes"));
+    std::vector<CString> places = PlacesOf(strPointsPath);
     if (!IsOwn(places.front())) {
         Lock lock = LockOf(places.front());
         if (lock == nullptr)
             return false;
+        Begin(m_nBase);
         m_lock = std::move(lock);
     }
     Close();
-    m_places = places;
+    m_places = std::move(places);
     m_record.clear();
     m_nPlace = 0;
     return true;
@@ -49,17 +48,28 @@ CString CChangeFile::FirstPlaceOf(const CString& strPointsPath) const {
     return strPointsPath.IsEmpty() ? PathIn(m_strOwnFolder, L"unsaved.changes") : strPointsPath + L".changes";
 }
 
+std::vector<CString> CChangeFile::PlacesOf(const CString& strPointsPath) const {
+    std::vector<CString> places = {FirstPlaceOf(strPointsPath)};
+    if (!strPointsPath.IsEmpty())
+        places.push_back(PathIn(m_strOwnFolder, HashText(strPointsPath) + L".changes"));
+    return places;
+}
+
 bool CChangeFile::IsOwn(const CString& strPlace) const {
     return !m_places.empty() && IsSamePath(m_places.front(), strPlace);
 }
 
-std::optional<CLeftChanges> CChangeFile::FindLeft(std::uint64_t nHash) const {
+std::optional<CLeftChanges> CChangeFile::FindLeft(const CString& strPointsPath, std::uint64_t nHash,
+                                                  const Progress& progress) {
     std::optional<CLeftChanges> best;
-    for (size_t nPlace = 0; nPlace < m_places.size(); ++nPlace) {
-        if (::GetFileAttributes(m_places[nPlace]) == INVALID_FILE_ATTRIBUTES)
+    const std::vector<CString> places = PlacesOf(strPointsPath);
+    if (IsOwn(places.front()))
+        Close(); // nobody reads a file that is being written
+    for (size_t nPlace = 0; nPlace < places.size(); ++nPlace) {
+        if (::GetFileAttributes(places[nPlace]) == INVALID_FILE_ATTRIBUTES)
             continue;
-        std::string bytes = ReadWholeFile(m_places[nPlace]);
-        CChangeRecord record = ReadChanges(bytes);
+        std::string bytes = ReadWholeFile(places[nPlace]);
+        CChangeRecord record = ReadChanges(bytes, PartOf(progress, nPlace, places.size()));
         bytes.resize(record.nGoodBytes);
         size_t nFirst = 0;
         const bool bFits = record.FitsTo(nHash, nFirst);
@@ -103,10 +113,32 @@ void CChangeFile::AppendSaving(std::uint64_t nHash) {
     }
 }
 
-void CChangeFile::Write(const std::string& line) {
-    if (m_record.empty())
-        m_record = BaseLine(m_nBase);
-    m_record += line;
+void CChangeFile::Append(const std::vector<CPointChange>& changes) {
+    std::string lines;
+    for (const CPointChange& change : changes)
+        lines += ChangeLine(change);
+    Write(lines);
+}
+
+void CChangeFile::Write(const std::string& lines) {
+    const size_t nBefore = m_record.size();
+    try {
+        if (m_record.empty())
+            m_record = BaseLine(m_nBase);
+        m_record += lines;
+        WriteSomewhere();
+    } catch (CFileException*) {
+        throw;
+    } catch (...) {
+        m_record.resize(nBefore);
+        Close(); // the next time all is written
+        throw;
+    }
+}
+
+void CChangeFile::WriteSomewhere() {
+    if (m_places.empty()) // another program has the only one
+        AfxThrowFileException(CFileException::sharingViolation);
     const size_t nFirst = m_nPlace;
     try {
         WriteTo(nFirst);

@@ -27,7 +27,8 @@ public:
     CChangeFile(const CChangeFile&) = delete;
     CChangeFile& operator=(const CChangeFile&) = delete;
 
-    /// Turns to the record of a points file. What it had of another one must not be wanted any more.
+    /// Turns to the record of a points file, and forgets the changes to the one before, if that was
+    /// another one.
     /// @param strPointsPath empty for points that are in no file yet
     /// @return false, with nothing changed, if another program works on that file
     bool Claim(const CString& strPointsPath);
@@ -35,10 +36,12 @@ public:
     /// Whether no other program works on a points file.
     bool IsFree(const CString& strPointsPath) const;
 
-    /// What an earlier run has left: the longest record that fits to the content, else any. It
-    /// stays on the disk. Nothing if there are no changes that the content has not got.
-    /// @throw CFileException* if a record cannot be read
-    std::optional<CLeftChanges> FindLeft(std::uint64_t nHash) const;
+    /// What an earlier run has left of changes to a points file: the longest record that fits to the
+    /// content, else any. It stays on the disk. Nothing if there are no changes that the content has
+    /// not got.
+    /// @throw CFileException* with the record's name if it cannot be read
+    std::optional<CLeftChanges> FindLeft(const CString& strPointsPath, std::uint64_t nHash,
+                                         const Progress& progress = {});
     /// Goes on with a record that was found and fits.
     void Resume(const CLeftChanges& left);
     /// Puts what was found aside, with ".old" behind its name.
@@ -47,9 +50,10 @@ public:
     /// @param nHash of the points file from now on
     void Begin(std::uint64_t nHash);
 
-    /// Writes a change down. When it returns, the change is on the disk.
-    /// @throw CFileException* if it is in no place; the next call tries again to write all
-    void Append(const CPointChange& change) { Write(ChangeLine(change)); }
+    /// Writes changes down. When it returns, they are on the disk.
+    /// @throw CFileException* if they are in no place; the next call tries again to write all. For
+    ///        want of memory what `new` throws; then they do not belong to the record.
+    void Append(const std::vector<CPointChange>& changes);
     /// The points file is about to get this content.
     /// If that cannot be written it costs a question only, should the program end just then.
     void AppendSaving(std::uint64_t nHash);
@@ -61,9 +65,11 @@ private:
     using Lock = std::unique_ptr<void, CCloseHandle>;
     static Lock LockOf(const CString& strPath);
     CString FirstPlaceOf(const CString& strPointsPath) const;
+    std::vector<CString> PlacesOf(const CString& strPointsPath) const;
     bool IsOwn(const CString& strPlace) const;
 
-    void Write(const std::string& line);
+    void Write(const std::string& lines);
+    void WriteSomewhere();
     void WriteTo(size_t nPlace);
     void Close();
 

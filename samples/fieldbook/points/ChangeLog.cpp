@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cwchar>
+#include <utility>
 
 using fieldkit::survey::kNull;
 
@@ -166,11 +167,13 @@ bool CChangeRecord::FitsTo(std::uint64_t nHash, size_t& nFirst) const {
     return bSaved || (nHash == nBase && nGoodBytes > 0);
 }
 
-CChangeRecord ReadChanges(const std::string& bytes) {
+CChangeRecord ReadChanges(const std::string& bytes, const Progress& progress) {
     CChangeRecord record;
+    CSteps steps(progress, bytes.size());
     size_t nStart = 0;
     std::string content;
     while (NextContent(bytes, nStart, content)) {
+        steps.At(nStart);
         const bool bFirst = record.nGoodBytes == 0;
         CPointChange change{};
         if (bFirst != (content[0] == kBase))
@@ -180,7 +183,7 @@ CChangeRecord ReadChanges(const std::string& bytes) {
         else if (content[0] == kSaved)
             record.saved.push_back({HashIn(content), record.changes.size()});
         else if (ReadChange(content, change))
-            record.changes.push_back(change);
+            record.changes.push_back(std::move(change));
         else
             break;
         record.nGoodBytes = nStart;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "points/PointBook.h"
+#include "points/Progress.h"
 
 #include <cstdint>
 #include <string>
@@ -40,4 +41,4 @@ struct CChangeRecord {
 };
 
 /// Reads a record up to the first line that is not whole. Without a good first line nothing is read.
-CChangeRecord ReadChanges(const std::string& bytes);
+CChangeRecord ReadChanges(const std::string& bytes, const Progress& progress = {});

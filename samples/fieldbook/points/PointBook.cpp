@@ -15,7 +15,16 @@ bool CPointBook::Add(const CNamedPoint& point) {
 }
 
 bool CPointBook::AddRead(const CNamedPoint& point) {
-    return Insert(m_points.size(), point);
+    const auto [it, bNew] = m_index.emplace(point.strName, m_points.size());
+    if (!bNew)
+        return false;
+    try {
+        m_points.push_back(point);
+    } catch (...) {
+        m_index.erase(it);
+        throw;
+    }
+    return true;
 }
 
 bool CPointBook::Replace(const CString& strName, const CNamedPoint& point) {
@@ -29,82 +38,85 @@ bool CPointBook::Remove(const CString& strName) {
 }
 
 bool CPointBook::Apply(const CPointChange& change) {
+    if (!CanMake(change))
+        return false;
     m_undo.push_back(change);
-    bool bMade = false;
     try {
-        bMade = Make(change);
-    } catch (...) { // there is no memory for it
+        Make(change);
+    } catch (...) {
         m_undo.pop_back();
         throw;
     }
-    if (!bMade) {
-        m_undo.pop_back();
-        return false;
-    }
-    if (m_observer)
-        m_observer(change);
+    TellMade();
     return true;
 }
 
 bool CPointBook::Undo(CPointChange& undone) {
     if (m_undo.empty())
         return false;
-    undone = m_undo.back();
+    CPointChange last = m_undo.back();
+    Make(last.Reversed());
     m_undo.pop_back();
-    const CPointChange back = undone.Reversed();
-    Make(back);
-    if (m_observer)
-        m_observer(back);
+    undone = std::move(last);
+    TellMade();
     return true;
 }
 
-bool CPointBook::Make(const CPointChange& change) {
+bool CPointBook::CanMake(const CPointChange& change) const {
+    const bool bFree = m_index.count(change.after.strName) == 0;
     switch (change.kind) {
     case CPointChange::Kind::Add:
-        if (change.nPlace > m_points.size() || !Insert(change.nPlace, change.after))
-            return false;
+        return bFree && change.nPlace <= m_points.size();
+    case CPointChange::Kind::Replace:
+        return IsAt(change.nPlace, change.before.strName) &&
+               (bFree || change.after.strName == change.before.strName);
+    default:
+        return IsAt(change.nPlace, change.before.strName);
+    }
+}
+
+/// What needs memory comes first and the observer last of it, so that its record and the book have the
+/// same changes.
+void CPointBook::Make(const CPointChange& change) {
+    CNamedPoint after = change.after;
+    std::map<CString, size_t> entry;
+    if (change.kind == CPointChange::Kind::Add) {
+        entry.emplace(after.strName, change.nPlace);
+        if (m_points.size() == m_points.capacity())
+            m_points.reserve(m_points.size() * 2 + 1);
+    }
+    if (m_observer)
+        m_observer(change);
+    switch (change.kind) {
+    case CPointChange::Kind::Add:
+        m_index.merge(entry);
+        m_points.insert(m_points.begin() + static_cast<std::ptrdiff_t>(change.nPlace), std::move(after));
         break;
-    case CPointChange::Kind::Replace: {
-        const CString& strOld = change.before.strName;
-        const CString& strNew = change.after.strName;
-        if (!IsAt(change.nPlace, strOld))
-            return false;
-        if (strNew != strOld && m_index.count(strNew) != 0)
-            return false;
-        CNamedPoint after = change.after; // from here on nothing takes memory
-        if (auto index = m_index.extract(strOld)) {
-            index.key() = strNew;
-            m_index.insert(std::move(index));
-        }
-        if (auto used = m_used.extract(strOld)) {
-            used.value() = strNew;
-            m_used.insert(std::move(used));
-        }
+    case CPointChange::Kind::Replace:
+        Rename(change.before.strName, after.strName);
         m_points[change.nPlace] = std::move(after);
         break;
-    }
     case CPointChange::Kind::Remove:
-        if (!IsAt(change.nPlace, change.before.strName))
-            return false;
         Erase(change.nPlace);
         break;
     }
     m_bModified = true;
-    return true;
 }
 
-/// @return false if the name is taken
-bool CPointBook::Insert(size_t nPlace, const CNamedPoint& point) {
-    const auto [it, bNew] = m_index.emplace(point.strName, nPlace);
-    if (!bNew)
-        return false;
-    try {
-        m_points.insert(m_points.begin() + static_cast<std::ptrdiff_t>(nPlace), point);
-    } catch (...) {
-        m_index.erase(it);
-        throw;
+void CPointBook::Rename(const CString& strOld, const CString& strNew) {
+    if (auto index = m_index.extract(strOld)) {
+        index.key() = strNew;
+        m_index.insert(std::move(index));
     }
-    return true;
+    if (auto used = m_used.extract(strOld)) {
+        used.value() = strNew;
+        m_used.insert(std::move(used));
+    }
+}
+
+void CPointBook::TellMade() {
+    if (m_follower)
+        m_follower();
 }
 
 void CPointBook::Erase(size_t nPlace) {

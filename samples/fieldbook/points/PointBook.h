@@ -28,7 +28,8 @@ struct CPointChange {
     CPointChange Reversed() const;
 };
 
-/// Points in the order in which they were added. No two have the same name.
+/// Points in the order in which they were added. No two have the same name. A function that throws,
+/// for want of memory, has changed nothing.
 class CPointBook {
 public:
     /// @return false, with nothing changed, if the name is taken
@@ -51,10 +52,15 @@ public:
     bool CanUndo() const { return !m_undo.empty(); }
     /// The change that Undo takes back; there must be one.
     const CPointChange& GetLastChange() const { return m_undo.back(); }
+    /// What can be taken back, the last change last.
+    const std::vector<CPointChange>& GetChanges() const { return m_undo; }
 
-    /// Is told each change after it was made, those of Undo too.
+    /// Is told each change, those of Undo too, once nothing else can prevent it. What it throws does:
+    /// then nothing has changed.
     using Observer = std::function<void(const CPointChange&)>;
     void SetObserver(const Observer& observer) { m_observer = observer; }
+    /// Is called when a change that the observer was told has been made. It may look at the book.
+    void SetFollower(const std::function<void()>& follower) { m_follower = follower; }
 
     /// @return the point; null if no point has this name. Valid until the book is changed.
     const CNamedPoint* FindPoint(const CString& strName) const;
@@ -78,9 +84,11 @@ public:
     int GetCount() const { return static_cast<int>(m_points.size()); }
 
 private:
-    bool Make(const CPointChange& change);
-    bool Insert(size_t nPlace, const CNamedPoint& point);
+    bool CanMake(const CPointChange& change) const;
+    void Make(const CPointChange& change);
+    void Rename(const CString& strOld, const CString& strNew);
     void Erase(size_t nPlace);
+    void TellMade();
     bool IsAt(size_t nPlace, const CString& strName) const;
     /// @return the place of a point; that behind the last one if no point has this name
     size_t PlaceOf(const CString& strName) const;
@@ -90,7 +98,8 @@ private:
     /// come and gone. So none of 100,000 is looked up when one comes or goes.
     std::map<CString, size_t> m_index;
     std::set<CString> m_used;
-    std::vector<CPointChange> m_undo; ///< What can be taken back, the last change last.
+    std::vector<CPointChange> m_undo;
     Observer m_observer;
+    std::function<void()> m_follower;
     bool m_bModified = false;
 };

@@ -21,6 +21,7 @@ struct CJob {
     CPointBook book;
     CChangeFile changes;        ///< What the points file has not got yet.
     bool bRecorded = true;      ///< Whether the last change could be recorded.
+    UINT nUntold = 0;           ///< The text why not, until the user is told; 0 for nothing to tell.
     std::uint64_t nContent = 0; ///< Hash of the points file as it was read or written last.
     std::uint64_t nSeen = 0;    ///< Hash of the points file when it was looked at last.
     CFileStamp stamp;           ///< Of the points file at that time.

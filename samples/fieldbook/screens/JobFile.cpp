@@ -16,17 +16,23 @@ namespace {
 
 constexpr size_t kSavingParts = 4; // the bytes, those that are there, how they compare, the disk
 
-/// The user is told when changes begin to be on no disk, not at each of them.
-void Record(CJob& job, const CPointChange& change) {
+/// In the middle of a change nobody can be told.
+void Record(CJob& job, const std::vector<CPointChange>& changes) {
     try {
-        job.changes.Append(change);
+        job.changes.Append(changes);
         job.bRecorded = true;
     } catch (CFileException* e) {
         if (std::exchange(job.bRecorded, false))
-            TellFileProblem(e, IDS_NOT_RECORDED, job.strPath);
-        else
-            e->Delete();
+            job.nUntold = CauseTextId(*e);
+        e->Delete();
     }
+}
+
+/// The user is told when changes begin to be on no disk, not at each of them.
+void TellNotRecorded(CJob& job) {
+    const UINT nCauseId = std::exchange(job.nUntold, 0);
+    if (nCauseId != 0)
+        TellError(Text(IDS_NOT_RECORDED, FileNameOf(job.strPath).GetString(), Text(nCauseId).GetString()));
 }
 
 /// Remembers the file before this one: crews go back and forth between two jobs.
@@ -50,57 +56,21 @@ void Meet(CJob& job, const CString& strPath, std::uint64_t nContent, const CFile
 void BeginJob(CJob& job, const CString& strPath, std::uint64_t nContent, const CFileStamp& stamp) {
     Meet(job, strPath, nContent, stamp);
     job.bRecorded = true;
+    job.nUntold = 0;
     job.bWritten = false;
     job.journal = strPath.IsEmpty() ? CJournal() : CJournal(strPath);
-    job.book.BeginHere();
-    job.book.SetObserver([&job](const CPointChange& change) { Record(job, change); });
+    job.book.SetObserver([&job](const CPointChange& change) { Record(job, {change}); });
+    job.book.SetFollower([&job] { TellNotRecorded(job); });
 }
 
-/// @return how many of the changes do not fit to the points
-int Repeat(CPointBook& book, const std::vector<CPointChange>& changes) {
-    int nLeftOut = 0;
-    for (const CPointChange& change : changes)
-        nLeftOut += book.Apply(change) ? 0 : 1;
-    return nLeftOut;
-}
-
-/// Changes that were made to another content than the file has now: the user decides.
-void RepeatForeignChanges(CJob& job, const std::vector<CPointChange>& changes) {
-    const auto nCount = static_cast<int>(changes.size());
-    const bool bWanted = Ask(Text(IDS_ASK_REPEAT, nCount));
-    job.changes.PutAside();
-    job.changes.Begin(job.nContent);
-    if (!bWanted)
-        return;
-    const int nLeftOut = Repeat(job.book, changes);
-    TellInformation(Text(IDS_REPEATED, nCount - nLeftOut, nLeftOut));
-}
-
-void RepeatChangesLeft(CJob& job) {
-    try {
-        const std::optional<CLeftChanges> left = job.changes.FindLeft(job.nContent);
-        if (!left) {
-            job.changes.Begin(job.nContent);
-            return;
-        }
-        if (!left->bFits) {
-            RepeatForeignChanges(job, left->changes);
-            return;
-        }
-        job.book.SetObserver({}); // they are recorded already
-        Repeat(job.book, left->changes);
-        job.changes.Resume(*left);
-        job.book.SetObserver([&job](const CPointChange& change) { Record(job, change); });
-        TellInformation(Text(IDS_RECOVERED, static_cast<int>(left->changes.size())));
-    } catch (CFileException* e) {
-        TellFileProblem(e, IDS_NOT_READ, job.strPath);
-    }
+void TellInUse(const CString& strPath) {
+    TellError(Text(IDS_FILE_IN_USE, FileNameOf(strPath).GetString()));
 }
 
 bool IsFree(const CJob& job, const CString& strPath) {
     const bool bFree = job.changes.IsFree(strPath);
     if (!bFree)
-        TellError(Text(IDS_FILE_IN_USE, FileNameOf(strPath).GetString()));
+        TellInUse(strPath);
     return bFree;
 }
 
@@ -147,17 +117,41 @@ bool MayReplace(const CJob& job, const CString& strPath, CProgressWindow& window
     return !bForeign || KeepForeignFile(job, strPath);
 }
 
-/// A points file before it becomes the job's.
+/// A points file before it becomes the job's: work that breaks off must not cost the points that are there.
 struct CReadFile {
-    CPointBook book; ///< A file that breaks off must not cost the points that are there.
+    CPointBook book; ///< With the changes that were left and are wanted.
     CReadReport report;
     std::uint64_t nContent = 0;
     CFileStamp stamp;
+    std::optional<CLeftChanges> left;
+    bool bLeftWanted = false;
 };
 
+/// Finds the changes that were not saved when the program ended and repeats them. Those that were made to
+/// another content than the file has now are asked about.
+void RepeatLeft(CJob& job, const CString& strPath, CReadFile& file, CProgressWindow& window,
+                const Progress& progress) {
+    file.left = job.changes.FindLeft(strPath, file.nContent, PartOf(progress, 0, 2));
+    if (!file.left)
+        return;
+    const std::vector<CPointChange>& changes = file.left->changes;
+    if (!file.left->bFits)
+        window.Close();
+    file.bLeftWanted = file.left->bFits || Ask(Text(IDS_ASK_REPEAT, static_cast<int>(changes.size())));
+    if (!file.bLeftWanted)
+        return;
+    const Progress repeating = PartOf(progress, 1, 2);
+    CSteps steps(repeating, changes.size());
+    for (const CPointChange& change : changes) {
+        steps.Next();
+        file.book.Apply(change);
+    }
+}
+
+/// @param bGiveUp whether changes to the job's points so far are forgotten
 /// @return false if it is not to be used; the user knows why
-bool Read(CJob& job, const CString& strPath, CWnd& parent, CReadFile& file) {
-    constexpr size_t kParts = 3;
+bool Read(CJob& job, const CString& strPath, bool bGiveUp, CWnd& parent, CReadFile& file) {
+    constexpr size_t kParts = 4;
     try {
         CProgressWindow window(IDS_READING);
         file.stamp = StampOf(strPath);
@@ -172,26 +166,55 @@ bool Read(CJob& job, const CString& strPath, CWnd& parent, CReadFile& file) {
         help.progress = PartOf(window.Get(), 2, kParts);
         file.report = ReadPoints(text, file.book, help);
         file.nContent = HashOf(bytes);
+        if (file.report.bRead && !(bGiveUp && IsSamePath(strPath, job.strPath)))
+            RepeatLeft(job, strPath, file, window, PartOf(window.Get(), 3, kParts));
         return file.report.bRead;
     } catch (CFileException* e) {
-        TellFileProblem(e, IDS_NOT_READ, strPath);
+        TellFileProblem(e, IDS_NOT_READ, CString(e->m_strFileName));
     } catch (CUserException* e) {
         e->Delete();
     }
     return false;
 }
 
-/// @param bGiveUp whether changes to the job's points so far are forgotten
-void Take(CJob& job, const CString& strPath, CReadFile& file, bool bGiveUp, CWnd& parent) {
-    if (bGiveUp)
-        GiveUpChanges(job);
-    job.changes.Claim(strPath);
+/// The record goes on with the changes that the book has, and without any others.
+void GoOnRecording(CJob& job, const CReadFile& file) {
+    if (file.left && file.left->bFits) {
+        job.changes.Resume(*file.left);
+        return;
+    }
+    if (file.left)
+        job.changes.PutAside();
+    job.changes.Begin(file.nContent);
+    if (job.book.IsModified())
+        Record(job, job.book.GetChanges());
+}
+
+void TellLeft(const CLeftChanges& left, int nMade) {
+    const auto nCount = static_cast<int>(left.changes.size());
+    TellInformation(left.bFits ? Text(IDS_RECOVERED, nCount) : Text(IDS_REPEATED, nMade, nCount - nMade));
+}
+
+void BeginWith(CJob& job, const CString& strPath, CReadFile& file, CWnd& parent) {
     job.book = std::move(file.book);
     job.badLines = std::move(file.report.badLines);
     job.format = file.report.format;
     BeginJob(job, strPath, file.nContent, file.stamp);
+    GoOnRecording(job, file);
     ShowBadLines(parent, job.badLines);
-    RepeatChangesLeft(job);
+    if (file.bLeftWanted)
+        TellLeft(*file.left, static_cast<int>(job.book.GetChanges().size()));
+    TellNotRecorded(job);
+}
+
+/// @return false, with the job as it was, if another program has begun to work on the file
+bool Take(CJob& job, const CString& strPath, CReadFile& file, CWnd& parent) {
+    const bool bClaimed = job.changes.Claim(strPath);
+    if (bClaimed)
+        BeginWith(job, strPath, file, parent);
+    else
+        TellInUse(strPath);
+    return bClaimed;
 }
 
 } // namespace
@@ -200,27 +223,39 @@ CJob::CJob(const CString& strHistoryPath)
     : changes(FullPathOf(strHistoryPath).Left(FullPathOf(strHistoryPath).ReverseFind(L'\\'))),
       history(strHistoryPath) {}
 
-void BeginWithoutFile(CJob& job) {
-    BeginJob(job, CString(), HashOf({}), {});
-    job.format = NewFormat();
-    if (job.changes.Claim(CString()))
-        RepeatChangesLeft(job);
-    else
-        job.book.SetObserver({}); // another program without a file has the record
+void BeginWithoutFile(CJob& job, CWnd& parent) {
+    CReadFile file;
+    file.report.format = NewFormat();
+    file.nContent = HashOf({});
+    try {
+        CProgressWindow window(IDS_READING);
+        if (job.changes.Claim(CString())) // else another program without a file has the record
+            RepeatLeft(job, CString(), file, window, window.Get());
+    } catch (CFileException* e) {
+        TellFileProblem(e, IDS_NOT_READ, CString(e->m_strFileName));
+        job.changes.PutAside();
+    } catch (CUserException* e) {
+        e->Delete();
+        file.book = CPointBook();
+        file.left.reset();
+        job.changes.PutAside();
+    }
+    BeginWith(job, CString(), file, parent);
 }
 
 bool OpenPointsFile(CJob& job, const CString& strPath, CWnd& parent) {
     CReadFile file;
-    if (!IsFree(job, strPath) || !Read(job, strPath, parent, file))
-        return false;
-    Take(job, strPath, file, true, parent);
-    return true;
+    return IsFree(job, strPath) && Read(job, strPath, true, parent, file) && Take(job, strPath, file, parent);
 }
 
 bool HasNewsOutside(CJob& job) {
     const CFileStamp stamp = StampOf(job.strPath);
-    if (job.strPath.IsEmpty() || !stamp.bThere || stamp == job.stamp)
+    if (job.strPath.IsEmpty() || stamp == job.stamp)
         return false;
+    if (!stamp.bThere) {
+        job.stamp = stamp;
+        return true;
+    }
     try {
         const std::uint64_t nHash = HashOf(ReadWholeFile(job.strPath));
         job.stamp = stamp;
@@ -231,13 +266,19 @@ bool HasNewsOutside(CJob& job) {
     }
 }
 
-void OfferToReload(CJob& job, CWnd& parent) {
+void AnswerNewsOutside(CJob& job, CWnd& parent) {
+    const CString strPath = job.strPath;
+    if (!job.stamp.bThere) {
+        job.book.SetModified(true);
+        if (Ask(Text(IDS_ASK_SAVE_AGAIN, FileNameOf(strPath).GetString())))
+            SavePointsFile(job, strPath);
+        return;
+    }
     CReadFile file;
     const bool bOnDisk = !job.book.IsModified() || job.bRecorded;
-    if (!Ask(Text(IDS_ASK_RELOAD, FileNameOf(job.strPath).GetString())) ||
-        (!bOnDisk && !AskToLose(Text(IDS_ASK_GIVE_UP))) || !Read(job, job.strPath, parent, file))
-        return;
-    Take(job, CString(job.strPath), file, false, parent);
+    if (Ask(Text(IDS_ASK_RELOAD, FileNameOf(strPath).GetString())) &&
+        (bOnDisk || AskToLose(Text(IDS_ASK_GIVE_UP))) && Read(job, strPath, false, parent, file))
+        Take(job, strPath, file, parent);
 }
 
 bool MakePointsFile(CJob& job, const CString& strPath) {
@@ -253,8 +294,10 @@ bool MakePointsFile(CJob& job, const CString& strPath) {
         TellFileProblem(e, IDS_NOT_WRITTEN, strPath);
         return false;
     }
-    GiveUpChanges(job);
-    job.changes.Claim(strPath);
+    if (!job.changes.Claim(strPath)) {
+        TellInUse(strPath);
+        return false;
+    }
     job.changes.Begin(HashOf(bytes));
     job.book = std::move(book);
     job.badLines.clear();
@@ -287,8 +330,10 @@ bool SavePointsFile(CJob& job, const CString& strPath) {
         e->Delete();
         return false;
     }
-    job.changes.Begin(HashOf(bytes)); // the record of the file before: its changes are in this one
-    job.changes.Claim(strPath);
+    if (!job.changes.Claim(strPath)) {
+        TellInUse(strPath);
+        return false;
+    }
     job.changes.Begin(HashOf(bytes));
     if (job.book.GetCount() != 0) // a file without points is of no kind; the next ones get theirs back
         job.format = format;

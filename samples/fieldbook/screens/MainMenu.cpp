@@ -51,7 +51,7 @@ BOOL CMainMenu::OnInitDialog() {
 
 LRESULT CMainMenu::OnOpenFirst(WPARAM, LPARAM) {
     if (!OpenPointsFile(m_job, m_strFirstPath, *this))
-        BeginWithoutFile(m_job);
+        BeginWithoutFile(m_job, *this);
     KeepSettings(m_job.settings); // which file was used last
     ShowTitle();
     return 0;
@@ -72,7 +72,7 @@ LRESULT CMainMenu::OnInFront(WPARAM, LPARAM) {
 /// Not while a screen is open: then it is done when that is closed.
 void CMainMenu::LookAtFile() {
     if (IsWindowEnabled() && HasNewsOutside(m_job))
-        OfferToReload(m_job, *this);
+        AnswerNewsOutside(m_job, *this);
     ShowTitle();
 }
 
@@ -107,10 +107,12 @@ void CMainMenu::OnCancel() {
     CButtonMenuDlg::OnCancel();
 }
 
-/// The changes are on the disk: No leaves them to the next start, and so does work that is under way.
+/// Changes that are on the disk are left to the next start by No, and by work that is under way.
 BOOL CMainMenu::OnQueryEndSession() {
     if (CProgressWindow::StopCurrent())
         return m_job.bRecorded;
+    if (!m_job.bRecorded)
+        return m_files.MayGiveUpPoints();
     m_files.OfferToSave();
     return TRUE;
 }

@@ -9,6 +9,38 @@
 
 namespace {
 
+/// @param nType of the system's box, whose letters and buttons are smaller: it needs no memory of ours
+INT_PTR Show(const CString& strText, UINT nCaptionId, int nDefault, UINT nType) {
+    ::MessageBeep(nType & MB_ICONMASK);
+    CMessageDlg dialog(strText, nCaptionId, nDefault, CWnd::GetActiveWindow());
+    const INT_PTR nAnswer = dialog.DoModal();
+    return nAnswer != -1 ? nAnswer : CResMsgBox().MsgBox(strText, nCaptionId, nType);
+}
+
+} // namespace
+
+void TellError(const CString& strText) {
+    Show(strText, IDS_FK_ERROR, IDOK, MB_OK | MB_ICONERROR);
+}
+
+void TellInformation(const CString& strText) {
+    Show(strText, IDS_FK_INFORMATION, IDOK, MB_OK | MB_ICONINFORMATION);
+}
+
+bool Ask(const CString& strText) {
+    return Show(strText, IDS_FK_WARNING, IDYES, MB_YESNO | MB_ICONWARNING) == IDYES;
+}
+
+bool AskToLose(const CString& strText) {
+    return Show(strText, IDS_ASK_CAPTION, IDNO, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES;
+}
+
+void TellFileProblem(CFileException* e, UINT nTextId, const CString& strPath) {
+    const CString strCause = Text(CauseTextId(*e));
+    e->Delete();
+    TellError(Text(nTextId, FileNameOf(strPath).GetString(), strCause.GetString()));
+}
+
 UINT CauseTextId(const CFileException& e) {
     switch (e.m_lOsError) {
     case ERROR_WRITE_PROTECT:
@@ -39,40 +71,4 @@ UINT CauseTextId(const CFileException& e) {
     default:
         return IDS_CAUSE_OTHER;
     }
-}
-
-/// @param nType of the system's box, whose letters and buttons are smaller: it needs no memory of ours
-INT_PTR Show(const CString& strText, UINT nCaptionId, int nDefault, UINT nType) {
-    ::MessageBeep(nType & MB_ICONMASK);
-    CMessageDlg dialog(strText, nCaptionId, nDefault, CWnd::GetActiveWindow());
-    const INT_PTR nAnswer = dialog.DoModal();
-    return nAnswer != -1 ? nAnswer : CResMsgBox().MsgBox(strText, nCaptionId, nType);
-}
-
-} // namespace
-
-void TellError(const CString& strText) {
-    Show(strText, IDS_FK_ERROR, IDOK, MB_OK | MB_ICONERROR);
-}
-
-void TellInformation(const CString& strText) {
-    Show(strText, IDS_FK_INFORMATION, IDOK, MB_OK | MB_ICONINFORMATION);
-}
-
-bool Ask(const CString& strText) {
-    return Show(strText, IDS_FK_WARNING, IDYES, MB_YESNO | MB_ICONWARNING) == IDYES;
-}
-
-bool AskToLose(const CString& strText) {
-    return Show(strText, IDS_ASK_CAPTION, IDNO, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES;
-}
-
-void TellFileProblem(CFileException* e, UINT nTextId, const CString& strPath) {
-    const CString strCause = CauseText(*e);
-    e->Delete();
-    TellError(Text(nTextId, FileNameOf(strPath).GetString(), strCause.GetString()));
-}
-
-CString CauseText(const CFileException& e) {
-    return Text(CauseTextId(e));
 }

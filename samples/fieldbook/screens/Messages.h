@@ -20,5 +20,5 @@ bool AskToLose(const CString& strText);
 /// @param nTextId with a place for the file's name and one for the cause
 void TellFileProblem(CFileException* e, UINT nTextId, const CString& strPath);
 
-/// The cause in words: what to do about it can be told from them.
-CString CauseText(const CFileException& e);
+/// The text that has the cause in words: what to do about it can be told from them.
+UINT CauseTextId(const CFileException& e);

@@ -297,6 +297,7 @@
 
 // A file that something else has changed
 #define IDS_ASK_RELOAD 2564
+#define IDS_ASK_SAVE_AGAIN 2566
 
 // What questions for a point end in, and the titles of the answers do not
 #define IDS_QUESTION_SUFFIX 2565

@@ -69,11 +69,11 @@ struct ChangeFile : testing::Test {
         m_pFile = std::make_unique<CChangeFile>(L"own");
         ASSERT_TRUE(m_pFile->Claim(m_points.GetPath()));
     }
-    void Add(const wchar_t* pszName) { m_pFile->Append({CPointChange::Kind::Add, 0, {}, At(pszName, 1)}); }
+    void Add(const wchar_t* pszName) { m_pFile->Append({{CPointChange::Kind::Add, 0, {}, At(pszName, 1)}}); }
     /// The names of points that were added and are in no file, after a restart that goes on with them.
     CString Left(std::uint64_t nHash = 1) {
         Restart();
-        const std::optional<CLeftChanges> left = m_pFile->FindLeft(nHash);
+        const std::optional<CLeftChanges> left = m_pFile->FindLeft(m_points.GetPath(), nHash);
         CString strNames;
         if (!left)
             return strNames;
@@ -102,7 +102,7 @@ TEST_F(ChangeFile, ChangesAreThereAfterARestartUntilTheFileHasThem) {
     m_pFile->Begin(2);
     Add(L"D");
     EXPECT_TRUE(Left(2) == L"D");
-    EXPECT_FALSE(m_pFile->FindLeft(7)->bFits) << "another file by the same name";
+    EXPECT_FALSE(m_pFile->FindLeft(m_points.GetPath(), 7)->bFits) << "another file by the same name";
 }
 
 TEST_F(ChangeFile, RecordGoesOnInTheOwnFolderIfItMust) {

@@ -95,10 +95,20 @@ TEST_F(JobFile, FileThatWasChangedOutsideIsAskedAbout) {
     // Read again, with the change that was not saved.
     m_pJob->book.Add({L"C", CCoordinate(2, 1, 0, 1)});
     m_file.Write(FILE_OF_OURS);
-    Play([&] { return OfferToReload(*m_pJob, m_parent), 1; }, {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
+    Play([&] { return AnswerNewsOutside(*m_pJob, m_parent), 1; },
+         {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
     EXPECT_TRUE(m_pJob->book.GetCount() == 3 && m_pJob->book.Find(L"B") != nullptr &&
                 m_pJob->book.IsModified());
     ::DeleteFile(m_file.GetPath() + L".changes.old");
+
+    // Gone: its points are here still, and leaving without a save asks.
+    for (const int nAnswer : {IDYES, IDNO}) {
+        ::DeleteFile(m_file.GetPath());
+        EXPECT_TRUE(HasNewsOutside(*m_pJob) && !HasNewsOutside(*m_pJob));
+        Play([&] { return AnswerNewsOutside(*m_pJob, m_parent), 1; }, {Answer(nAnswer)});
+        EXPECT_EQ(CTestFile::Exists(m_file.GetPath()), nAnswer == IDYES);
+        EXPECT_EQ(m_pJob->book.IsModified(), nAnswer == IDNO);
+    }
 }
 
 TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {

@@ -85,14 +85,17 @@ std::vector<fault::Point> Points() {
             MakePoint("RegSetKeyValueW", ::RegSetKeyValueW, noKey)};
 }
 
-/// Runs something with every single call failing, for every trouble.
+/// Runs something with every single call failing, for every trouble, or for one alone.
 /// @param run    tells whether it was done; it may throw
 /// @param check  is told whether it was
-void ForEveryFault(const std::function<bool()>& run, const std::function<void(bool)>& check) {
+void ForEveryFault(const std::function<bool()>& run, const std::function<void(bool)>& check,
+                   DWORD dwErrorAlone = ERROR_SUCCESS) {
     for (const wchar_t* pszModule : {static_cast<LPCWSTR>(nullptr), L"FieldkitFx.dll", L"Fieldkit.dll"})
         fault::Install(::GetModuleHandle(pszModule), Points());
     for (const Trouble& trouble : TROUBLES) {
         g_dwError = trouble.dwError;
+        if (dwErrorAlone != ERROR_SUCCESS && dwErrorAlone != g_dwError)
+            continue;
         const char* pszFailed = "";
         for (int nCall = 1; pszFailed != nullptr; ++nCall) {
             bool bDone = false;
@@ -147,14 +150,14 @@ TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
     pFile->Begin(1);
     size_t nRecorded = 0;
     const auto append = [&] {
-        pFile->Append({CPointChange::Kind::Add, 0, {}, {L"P", CCoordinate(1, 2, 3, 3)}});
+        pFile->Append({{CPointChange::Kind::Add, 0, {}, {L"P", CCoordinate(1, 2, 3, 3)}}});
         return true;
     };
     ForEveryFault(append, [&](bool bDone) {
         pFile.reset(); // as if it were killed
         pFile = std::make_unique<CChangeFile>(L"own");
         ASSERT_TRUE(pFile->Claim(points.GetPath()));
-        const std::optional<CLeftChanges> left = pFile->FindLeft(1);
+        const std::optional<CLeftChanges> left = pFile->FindLeft(points.GetPath(), 1);
         const size_t nLeft = left ? left->changes.size() : 0;
         EXPECT_GE(nLeft, nRecorded + (bDone ? 1 : 0));
         EXPECT_LE(nLeft, nRecorded + 1);
@@ -163,6 +166,50 @@ TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
             pFile->Resume(*left);
     });
     pFile->Begin(1);
+}
+
+TEST(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
+    const CTestFile points(L"fieldbook-faults.csv"), disk(points.GetPath() + L".changes");
+    ::CreateDirectory(L"own", nullptr);
+    CChangeFile record(L"own");
+    ASSERT_TRUE(record.Claim(points.GetPath()));
+    CPointBook book;
+    const auto fresh = [&] {
+        record.Begin(1);
+        book = CPointBook();
+        book.AddRead({L"A", CCoordinate(1, 2, 3, 3)});
+        book.SetObserver([&](const CPointChange& change) { record.Append({change}); });
+    };
+    const auto change = [&] {
+        CPointChange undone;
+        return book.Replace(L"A", {L"B", CCoordinate(4, 5, 6, 3), L"", {L"x"}}) &&
+               book.Add({L"C", CCoordinate(7, 8, 9, 3)}) && book.Remove(L"B") && book.Undo(undone);
+    };
+    const auto namesOf = [](const CPointBook& of) {
+        CString strNames;
+        for (const CNamedPoint& point : of.GetPoints()) {
+            EXPECT_TRUE(of.Find(point.strName) == &point.point);
+            strNames += point.strName;
+        }
+        return strNames;
+    };
+    fresh();
+    const auto check = [&](bool) {
+        EXPECT_TRUE(book.Add({L"Z", CCoordinate(1, 2, 3, 3)})) << "as soon as the trouble is over";
+        CPointBook again;
+        again.AddRead({L"A", CCoordinate(1, 2, 3, 3)});
+        const std::optional<CLeftChanges> left = record.FindLeft(points.GetPath(), 1);
+        for (const CPointChange& each : left->changes)
+            EXPECT_TRUE(again.Apply(each));
+        EXPECT_TRUE(namesOf(again) == namesOf(book));
+        book.SetObserver({});
+        for (CPointChange undone; book.Undo(undone);)
+            continue;
+        EXPECT_TRUE(namesOf(book) == L"A") << "all can be taken back";
+        fresh();
+    };
+    ForEveryFault(change, check, ERROR_NOT_ENOUGH_MEMORY);
+    record.Begin(1);
 }
 
 TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
