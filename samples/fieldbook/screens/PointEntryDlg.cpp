@@ -143,7 +143,22 @@ bool CPointEntryDlg::IsOnLastField() const {
     return pFocus == &m_z || (pFocus == &m_e && !m_z.IsWindowEnabled());
 }
 
+bool CPointEntryDlg::EndsNumber(const MSG& msg) const {
+    const CWnd* const pFocus = GetFocus();
+    if (msg.message != WM_CHAR || msg.wParam != L'-' || IsOnLastField() || (pFocus != &m_n && pFocus != &m_e))
+        return false;
+    const CNumberEdit& field = pFocus == &m_n ? m_n : m_e;
+    const int nLength = field.GetWindowTextLength();
+    int nFirst = 0, nEnd = 0;
+    field.GetSel(nFirst, nEnd);
+    return nFirst == nLength && TextOf(field).FindOneOf(L"0123456789") >= 0;
+}
+
 BOOL CPointEntryDlg::PreTranslateMessage(MSG* pMsg) {
+    if (EndsNumber(*pMsg)) {
+        NextDlgCtrl();
+        pMsg->hwnd = ::GetFocus();
+    }
     const CWnd* const pFocus = GetFocus();
     const bool bEnter = pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN;
     if (!bEnter || pFocus == nullptr || pFocus == GetDlgItem(IDC_ADD) || m_name.GetDroppedState() ||

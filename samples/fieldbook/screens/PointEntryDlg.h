@@ -16,7 +16,8 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    /// Enter goes from field to field; from the last one it stores.
+    /// Enter goes from field to field; from the last one it stores. A minus behind digits goes on, too:
+    /// it can only begin the next number.
     BOOL PreTranslateMessage(MSG* pMsg) override;
     /// Takes over what has been typed, too.
     void OnOK() override;
@@ -47,6 +48,7 @@ private:
     CString Typed() const;
     bool IsBlank() const;
     bool IsOnLastField() const;
+    bool EndsNumber(const MSG& msg) const;
     bool MayGiveUpTyped();
 
     CChoiceCombo m_kind;

@@ -206,7 +206,7 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
 
-/// "N" and "E" tap a field, digits and "!" for Enter are typed, "+" stores, "x" closes, "end" ends the
+/// "N" and "E" tap a field, digits, "-" and "!" for Enter are typed, "+" stores, "x" closes, "end" ends the
 /// session, "yes" and "no" answer.
 Step Action(CPointEntryDlg& dialog, const std::string& action) {
     if (action == "N" || action == "E")
@@ -222,7 +222,7 @@ Step Action(CPointEntryDlg& dialog, const std::string& action) {
             if (ch == '+')
                 pen::Tap(*dialog.GetDlgItem(IDC_ADD));
             else
-                TypeKeys({static_cast<WORD>(ch == '!' ? VK_RETURN : ch)});
+                TypeKeys({static_cast<WORD>(ch == '!' ? VK_RETURN : ch == '-' ? VK_OEM_MINUS : ch)});
     };
 }
 
@@ -232,6 +232,8 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
         {"Enter goes on and stores from the last field", "N 1! 2! 3! x", "T1,1.000000,2.000000,3.000000\r\n"},
         {"the next point begins by itself", "1!2!! 3!4!! x",
          "T1,1.000000,2.000000,\r\nT2,3.000000,4.000000,\r\n"},
+        {"a minus behind digits begins the next number", "-1-2-3! 4- x yes",
+         "T1,-1.000000,-2.000000,-3.000000\r\n"},
         {"typing replaces what is there", "N 1! 2! N 7 + x", "T1,7.000000,2.000000,\r\n"},
         {"no coordinate, and Enter in the question", "+ ! + yes x", "T1,,,\r\n"},
         {"closing with typed values", "N 1 x ! E 2 + N 9 x yes", "T1,1.000000,2.000000,\r\n"},
