@@ -4,6 +4,7 @@
 #include "Shown.h"
 
 #include "samples/fieldbook/plan/PlanPainter.h"
+#include "samples/fieldbook/points/ChangeFile.h"
 #include "samples/fieldbook/points/FileReplacement.h"
 #include "samples/fieldbook/points/PointFile.h"
 #include "samples/fieldbook/screens/ListControls.h"
@@ -19,8 +20,9 @@ namespace {
 
 constexpr double kListGoal = 1.3;
 constexpr double kLinesGoal = 2; // for all forms of files, and each line checked
-constexpr double kFrameGoal = 1.0;
-constexpr double kFrame = 100; // milliseconds
+constexpr double kTimeGoal = 1.0;
+constexpr double kFrame = 100;    // milliseconds
+constexpr double kPatience = 500; // milliseconds that work takes without showing how far it is
 constexpr int kDecimals = 3;
 constexpr int kMany = 100000;
 constexpr DWORD kListStyle = LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_OWNERDATA;
@@ -240,9 +242,28 @@ Row Edited() {
             })};
 }
 
+Row PartTyped() {
+    constexpr int kTimes = 4; // a part that all have, and none, with the rows sorted by names
+    return {"points: part of a name typed",
+            kTimeGoal,
+            {kMany},
+            [](int) { return Cost{kPatience}; },
+            [](int n) {
+                CPointBook book = BookOf(n);
+                OurList list(book);
+                list.Open();
+                list.TapHeading(PointColumn::Name);
+                int i = 0;
+                return Timed(kTimes, [&] {
+                    list.ShowOnly(++i % 2 != 0 ? L"k" : L"");
+                    list.UpdateWindow();
+                });
+            }};
+}
+
 Row PlanPainted() {
     return {"points: plan painted in a frame",
-            kFrameGoal,
+            kTimeGoal,
             {kMany},
             [](int) { return Cost{kFrame}; },
             [](int n) {
@@ -324,10 +345,44 @@ Row LinesRead() {
             }};
 }
 
+/// New points, each then given a height, as an unlucky day would leave them.
+Row ChangesRepeated() {
+    constexpr auto kPath = L"\\points.csv";
+    return {"points: changes repeated",
+            kTimeGoal,
+            {kMany},
+            [](int) { return Cost{kPatience}; },
+            [=](int n) {
+                CChangeFile record(L"\\");
+                record.Claim(kPath);
+                record.Begin(1);
+                CPointBook book;
+                std::vector<CPointChange> changes;
+                book.SetObserver([&](const CPointChange& change) { changes.push_back(change); });
+                for (const Point& point : BarePoints(n / 2)) {
+                    CNamedPoint each{point.name.c_str(), CCoordinate(point.e, point.n, 0, 1)};
+                    book.Add(each);
+                    each.point.SetZ(point.z);
+                    book.Replace(each.strName, each);
+                }
+                record.Append(changes);
+                const Cost cost = Timed(1, [&] {
+                    CPointBook again;
+                    const std::optional<CLeftChanges> left = record.FindLeft(kPath, 1);
+                    for (const CPointChange& change : left->changes)
+                        again.Apply(change);
+                    Take(static_cast<std::size_t>(again.GetCount()));
+                });
+                record.Begin(1);
+                return cost;
+            }};
+}
+
 } // namespace
 
 std::vector<Row> SampleRows() {
-    return {Opened(), Scrolled(), Sorted(), Removed(), Edited(), PlanPainted(), LinesRead()};
+    return {Opened(),    Scrolled(),    Sorted(),    Removed(),        Edited(),
+            PartTyped(), PlanPainted(), LinesRead(), ChangesRepeated()};
 }
 
 } // namespace bench

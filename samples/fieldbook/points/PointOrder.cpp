@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <string_view>
 #include <utility>
 
@@ -97,42 +96,52 @@ size_t Comparisons(size_t nPoints) {
 }
 
 /// The same order as IsBefore has it, without a look at the points for each comparison.
-std::vector<size_t> OrderByValue(const std::vector<CNamedPoint>& points, const CPointOrder& order,
-                                 const Progress& progress) {
+void OrderByValue(const std::vector<CNamedPoint>& points, std::vector<size_t>& places,
+                  const CPointOrder& order, const Progress& progress) {
     std::vector<std::pair<double, size_t>> values;
-    values.reserve(points.size());
-    for (const CNamedPoint& point : points) {
-        const double dValue = ValueOf(point, *order.column);
+    values.reserve(places.size());
+    for (const size_t nPlace : places) {
+        const double dValue = ValueOf(points[nPlace], *order.column);
         const double dKey = order.bTurned ? -dValue : dValue;
-        values.emplace_back(IsMissing(point, *order.column) ? std::numeric_limits<double>::infinity() : dKey,
-                            values.size());
+        const bool bMissing = IsMissing(points[nPlace], *order.column);
+        values.emplace_back(bMissing ? std::numeric_limits<double>::infinity() : dKey, nPlace);
     }
-    CSteps steps(progress, Comparisons(points.size()));
+    CSteps steps(progress, Comparisons(places.size()));
     std::sort(values.begin(), values.end(), [&](const auto& first, const auto& second) {
         steps.Next();
         return first < second;
     });
-    std::vector<size_t> places;
-    places.reserve(points.size());
-    for (const auto& value : values)
-        places.push_back(value.second);
-    return places;
+    std::transform(values.begin(), values.end(), places.begin(),
+                   [](const auto& value) { return value.second; });
 }
 
 } // namespace
 
-std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, const CPointOrder& order,
-                                const Progress& progress) {
-    std::vector<size_t> places(points.size());
-    std::iota(places.begin(), places.end(), size_t{0});
+bool HasPart(const CString& strName, const CString& strPart) {
+    return strPart.IsEmpty() || CString(strName).MakeUpper().Find(strPart) >= 0;
+}
+
+std::vector<size_t> FindPoints(const std::vector<CNamedPoint>& points, const CString& strPart,
+                               const Progress& progress) {
+    std::vector<size_t> places;
+    CSteps steps(progress, points.size());
+    for (size_t nPlace = 0; nPlace < points.size(); ++nPlace) {
+        steps.Next();
+        if (HasPart(points[nPlace].strName, strPart))
+            places.push_back(nPlace);
+    }
+    return places;
+}
+
+void OrderPoints(const std::vector<CNamedPoint>& points, std::vector<size_t>& places,
+                 const CPointOrder& order, const Progress& progress) {
     if (!order.column)
-        return places;
+        return;
     if (!IsText(*order.column))
-        return OrderByValue(points, order, progress);
-    CSteps steps(progress, Comparisons(points.size()));
+        return OrderByValue(points, places, order, progress);
+    CSteps steps(progress, Comparisons(places.size()));
     std::sort(places.begin(), places.end(), [&](size_t a, size_t b) {
         steps.Next();
         return order.IsBefore(points, a, b);
     });
-    return places;
 }

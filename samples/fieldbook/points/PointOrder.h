@@ -24,6 +24,14 @@ struct CPointOrder {
     bool IsBefore(const std::vector<CNamedPoint>& points, size_t nFirst, size_t nSecond) const;
 };
 
-/// The points in that order, by their places.
-std::vector<size_t> OrderPoints(const std::vector<CNamedPoint>& points, const CPointOrder& order,
-                                const Progress& progress = {});
+/// Whether a name has a part, in capitals or not. @param strPart in capitals
+bool HasPart(const CString& strName, const CString& strPart);
+
+/// The places of the points that have a part in their names, in the book's order.
+/// @param strPart in capitals
+std::vector<size_t> FindPoints(const std::vector<CNamedPoint>& points, const CString& strPart,
+                               const Progress& progress = {});
+
+/// Puts points, given by their places, into that order.
+void OrderPoints(const std::vector<CNamedPoint>& points, std::vector<size_t>& places,
+                 const CPointOrder& order, const Progress& progress = {});

@@ -45,30 +45,25 @@ void CPointListCtrl::Fill() {
     insert(PointColumn::E, L"E", LVCFMT_RIGHT, kCoordinateWidth);
     insert(PointColumn::Z, L"Z", LVCFMT_RIGHT, kHeightWidth);
     insert(PointColumn::Code, Text(IDS_COLUMN_CODE), LVCFMT_LEFT, kHeightWidth);
-    SortBy({});
+    Arrange({}, CString());
 }
 
 /// @return false, with the rows as they were, if the user has stopped it
-bool CPointListCtrl::SortBy(const CPointOrder& by) {
+bool CPointListCtrl::Arrange(const CPointOrder& by, const CString& strPart) {
     std::vector<size_t> order;
     try {
         CProgressWindow window(IDS_SORTING);
-        order = OrderPoints(m_book.GetPoints(), by, window.Get());
+        order = FindPoints(m_book.GetPoints(), strPart, PartOf(window.Get(), 0, 2));
+        OrderPoints(m_book.GetPoints(), order, by, PartOf(window.Get(), 1, 2));
     } catch (CUserException* e) {
         e->Delete();
         return false;
     }
-    const auto isLeftOut = [this](size_t nPlace) { return !IsShown(nPlace); };
-    if (!m_strPart.IsEmpty())
-        order.erase(std::remove_if(order.begin(), order.end(), isLeftOut), order.end());
     m_order = std::move(order);
     m_by = by;
+    m_strPart = strPart;
     ShowRows();
     return true;
-}
-
-bool CPointListCtrl::IsShown(size_t nPlace) const {
-    return CString(m_book.GetPoints()[nPlace].strName).MakeUpper().Find(m_strPart) >= 0;
 }
 
 void CPointListCtrl::ShowRows() {
@@ -78,6 +73,7 @@ void CPointListCtrl::ShowRows() {
 
 void CPointListCtrl::Follow(const CPointChange& change) {
     const size_t nPlace = change.nPlace;
+    m_order.reserve(m_order.size() + 1); // what needs memory comes first: the rows follow or stay
     if (change.kind != CPointChange::Kind::Add)
         m_order.erase(std::remove(m_order.begin(), m_order.end(), nPlace), m_order.end());
     for (size_t& nOther : m_order) {
@@ -86,7 +82,7 @@ void CPointListCtrl::Follow(const CPointChange& change) {
         else if (change.kind == CPointChange::Kind::Add && nOther >= nPlace)
             ++nOther;
     }
-    if (change.kind != CPointChange::Kind::Remove && IsShown(nPlace)) {
+    if (change.kind != CPointChange::Kind::Remove && HasPart(change.after.strName, m_strPart)) {
         const auto isBefore = [this](size_t a, size_t b) { return m_by.IsBefore(m_book.GetPoints(), a, b); };
         m_order.insert(std::lower_bound(m_order.begin(), m_order.end(), nPlace, isBefore), nPlace);
     }
@@ -94,10 +90,10 @@ void CPointListCtrl::Follow(const CPointChange& change) {
 }
 
 void CPointListCtrl::ShowOnly(const CString& strPart) {
-    m_strPart = CString(strPart).MakeUpper();
+    const CString strCapitals = CString(strPart).MakeUpper();
     SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-    if (!SortBy(m_by))
-        SortBy({});
+    if (!Arrange(m_by, strCapitals))
+        Arrange({}, strCapitals);
 }
 
 void CPointListCtrl::Select(const CString& strName) {
@@ -151,7 +147,7 @@ DWORD CPointListCtrl::GetItemAttribute(int nItem) {
 
 void CPointListCtrl::OnColumnClick(NMHDR* pNMHDR, LRESULT* pResult) {
     const auto column = static_cast<PointColumn>(reinterpret_cast<const NMLISTVIEW*>(pNMHDR)->iSubItem);
-    SortBy({column, m_by.column == column && !m_by.bTurned});
+    Arrange({column, m_by.column == column && !m_by.bTurned}, m_strPart);
     *pResult = 0;
 }
 

@@ -36,8 +36,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool SortBy(const CPointOrder& by);
-    bool IsShown(size_t nPlace) const;
+    bool Arrange(const CPointOrder& by, const CString& strPart);
     void ShowRows();
     /// @return null if there is none: the book may have changed before the rows follow
     const CNamedPoint* PointAt(int nRow) const;

@@ -1,10 +1,17 @@
 #include "compute/ValueText.h"
-#include "screens/JournalGroups.h"
+#include "points/ChangeLog.h"
+#include "points/FileReplacement.h"
+#include "points/PointFile.h"
 #include "points/PointOrder.h"
+#include "points/PointSaving.h"
+#include "screens/JournalGroups.h"
 
+#include "TestFile.h"
 #include "support/Rows.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -62,8 +69,51 @@ TEST(PointOrder, EachColumnSortsBothWaysAndWhatIsMissingComesLast) {
         {PointColumn::N, false, {0, 1, 2, 3}}, // those that are alike stay as they were
         {PointColumn::N, true, {1, 2, 0, 3}},     {PointColumn::E, false, {1, 2, 0, 3}},
         {PointColumn::Z, false, {2, 3, 1, 0}},    {PointColumn::Code, true, {1, 2, 0, 3}}};
-    for (const auto& [column, bTurned, order] : cases)
-        EXPECT_EQ(OrderPoints(points, {column, bTurned}), order) << static_cast<int>(column);
+    for (const auto& [column, bTurned, order] : cases) {
+        std::vector<size_t> places = FindPoints(points, L"");
+        OrderPoints(points, places, {column, bTurned});
+        EXPECT_EQ(places, order) << static_cast<int>(column);
+    }
+    std::vector<size_t> some = FindPoints(points, L"K1");
+    OrderPoints(points, some, {PointColumn::E, false});
+    EXPECT_EQ(some, (std::vector<size_t>{2, 0}));
+}
+
+TEST(Progress, AllWorkThatCanBeLongCanBeStopped) {
+    const std::vector<CNamedPoint> points(3, {L"K", CCoordinate(1, 2, 3, 3)});
+    const CFileText text = DecodeText("K,1,2\r\n");
+    const CTestFile file(L"fieldbook-stopped.csv", "K,1,2\r\n");
+    CPointBook book;
+    CLineFormat format;
+    std::string bytes = "A,1,2\r\n";
+    CString strBad;
+    std::vector<size_t> places = {2, 1, 0};
+    const std::function<void(const Progress&)> works[] = {
+        [&](const Progress& progress) { ReadWholeFile(file.GetPath(), progress); },
+        [&](const Progress& progress) { RewriteFile(file.GetPath(), bytes, progress); },
+        [&](const Progress& progress) { DecodeText(bytes, progress); },
+        [&](const Progress& progress) {
+            ReadPoints(text, book, {{}, progress});
+        },
+        [&](const Progress& progress) { ReadChanges(BaseLine(1), progress); },
+        [&](const Progress& progress) { FormatPoints(points, format, bytes, strBad, progress); },
+        [&](const Progress& progress) { FormatFile(points, format, bytes, strBad, progress); },
+        [&](const Progress& progress) { FindPoints(points, L"K", progress); },
+        [&](const Progress& progress) {
+            OrderPoints(points, places, {PointColumn::Name, false}, progress);
+        },
+        [&](const Progress& progress) {
+            OrderPoints(points, places, {PointColumn::N, false}, progress);
+        },
+    };
+    const Progress stop = [](size_t nDone, size_t nAll) {
+        EXPECT_LE(nDone, nAll);
+        throw std::exception();
+    };
+    for (const auto& work : works)
+        EXPECT_THROW(work(stop), std::exception) << &work - works;
+    EXPECT_TRUE(file.Read() == "K,1,2\r\n" && bytes == "A,1,2\r\n" && book.GetCount() == 0);
+    EXPECT_EQ(places, (std::vector<size_t>{2, 1, 0}));
 }
 
 TEST(PointOrder, NumbersInNamesCount) {
