@@ -22,6 +22,7 @@ constexpr int kNothingChosen = -1;
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CButtonMenuDlg, CnDialog)
+    ON_WM_SHOWWINDOW()
     ON_MESSAGE(WM_DPICHANGED, &CButtonMenuDlg::OnDpiChanged)
     ON_COMMAND_RANGE(IDC_FK_MENU_FIRST, IDC_FK_MENU_LAST, &CButtonMenuDlg::OnBtnMenu)
 END_MESSAGE_MAP()
@@ -98,6 +99,11 @@ void CButtonMenuDlg::CreateButtons() {
         pButton->SetIcon(TVGetCommonIcon(TVICON_MENU_ENTRY));
         pButton->SetButtonStyle(CIconButton::StyleText);
     }
+}
+
+void CButtonMenuDlg::OnShowWindow(BOOL bShow, UINT nStatus) {
+    if (nStatus != 0) // its owner is minimized or comes back
+        CnDialog::OnShowWindow(bShow, nStatus);
 }
 
 LRESULT CButtonMenuDlg::OnDpiChanged(WPARAM, LPARAM) {

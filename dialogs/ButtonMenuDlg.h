@@ -36,6 +36,8 @@ protected:
     /// Takes the entry of a tapped button over and ends the dialog with IDOK.
     /// @param nID the button's control id
     afx_msg void OnBtnMenu(unsigned int nID);
+    /// Nothing: default processing would make a menu scroll that is higher than its screen.
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     /// The icons in the size of the new resolution.
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
 

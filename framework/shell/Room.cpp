@@ -133,8 +133,13 @@ int CRoom::Height(const CRect* pPanel) const {
     return bCovered ? std::min(nHeight, pPanel->top - top.y) : nHeight;
 }
 
+/// How far the controls can be scrolled.
+int CRoom::ScrollRange(const CRect* pPanel) const {
+    return std::max(ContentHeight(m_spare) - Height(pPanel), 0);
+}
+
 bool CRoom::MustScroll() const {
-    return CanScroll(m_hWnd) && ContentHeight(Spare(false)) > Height(nullptr);
+    return (GetWholeSize().cy != 0 || CanScroll(m_hWnd)) && ContentHeight(Spare(false)) > Height(nullptr);
 }
 
 /// How much larger the window is than the controls were placed for: in full screen than the
@@ -173,7 +178,7 @@ CRoom::CMoves CRoom::Plan(const CRect* pPanel) {
     if (!::IsChild(m_hWnd, hFocus))
         hFocus = nullptr;
     if (bScroll)
-        ScrollTo(hFocus);
+        ShowFocused(hFocus);
     m_nScroll = std::clamp(m_nScroll, 0, std::max(nRange, 0));
     CMoves moves = Apply(ShiftFor(hFocus, pPanel), spare);
     ShowBar(bScroll, pPanel);
@@ -181,7 +186,7 @@ CRoom::CMoves CRoom::Plan(const CRect* pPanel) {
 }
 
 /// A control that gets the focus comes into view; of one that is higher than that, any part will do.
-void CRoom::ScrollTo(HWND hFocus) {
+void CRoom::ShowFocused(HWND hFocus) {
     if (hFocus == m_hSeen)
         return;
     m_hSeen = hFocus;
@@ -293,7 +298,6 @@ CRoom::CMoves CRoom::Scroll(UINT nCode, const CRect* pPanel) {
     info.cbSize = sizeof info;
     info.fMask = SIF_TRACKPOS;
     ::GetScrollInfo(m_hBar, SB_CTL, &info);
-    const int nRange = std::max(ContentHeight(m_spare) - nHeight, 0);
     int nPos = m_shift.nControls;
     switch (nCode) {
     case SB_LINEUP:
@@ -316,15 +320,39 @@ CRoom::CMoves CRoom::Scroll(UINT nCode, const CRect* pPanel) {
         nPos = 0;
         break;
     case SB_BOTTOM:
-        nPos = nRange;
+        nPos = ScrollRange(pPanel);
         break;
     default:
         return {};
     }
-    m_nScroll = std::clamp(nPos, 0, nRange);
+    return ScrollTo(nPos, pPanel);
+}
+
+CRoom::CMoves CRoom::ScrollTo(int nPos, const CRect* pPanel) {
+    m_nScroll = std::clamp(nPos, 0, ScrollRange(pPanel));
     CMoves moves = Apply({m_shift.nDialog, m_nScroll}, m_spare);
     ShowBar(true, pPanel);
     return moves;
+}
+
+/// What somebody has resized since it was cut is whole again.
+CSize CRoom::GetWholeSize() const {
+    return m_sizeWhole.cy != 0 && RectOf(m_hWnd).Size() == m_sizeCut ? m_sizeWhole : CSize();
+}
+
+/// A popup that is cut becomes as much wider as its scroll bar takes, if the screen is.
+CSize CRoom::SizeIn(const CRect& area) {
+    CSize whole = GetWholeSize();
+    if (whole.cy == 0)
+        whole = RectOf(m_hWnd).Size();
+    if (whole.cy <= area.Height()) {
+        m_sizeWhole = m_sizeCut = CSize();
+        return whole;
+    }
+    const int nWithBar = whole.cx + CResolution::Metric(m_hWnd, SM_CXVSCROLL);
+    m_sizeWhole = whole;
+    m_sizeCut = CSize(std::min<int>(nWithBar, area.Width()), area.Height());
+    return m_sizeCut;
 }
 
 bool CRoom::IsAnchored(HWND hControl) const {

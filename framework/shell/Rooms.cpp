@@ -1,7 +1,9 @@
 #include "Rooms.h"
 
 #include "Sip.h"
-#include "window/ThreadState.h"
+#include "window/WndProc.h"
+
+#include "afxdlgs.h"
 
 #include <algorithm>
 
@@ -24,6 +26,16 @@ private:
     CRect m_rect;
     bool m_bShown;
 };
+
+/// A popup that is higher than its screen. The system's own dialogs are left alone.
+bool IsTooHigh(CWnd* pWnd) {
+    if (!IsTopLevelDialog(pWnd->m_hWnd) || (AfxWndAccess::Flags(pWnd) & WF_FULLSCREEN) != 0 ||
+        dynamic_cast<CDialog*>(pWnd) == nullptr || dynamic_cast<CCommonDialog*>(pWnd) != nullptr)
+        return false;
+    CRect window;
+    pWnd->GetWindowRect(window);
+    return window.Height() > AfxGetWorkArea(pWnd->m_hWnd).Height();
+}
 
 void Move(const CRoom::CMoves& moves) {
     for (const CRoom::CMove& move : moves) {
@@ -67,6 +79,18 @@ BOOL CRooms::OnMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam != SIZE_MINIMIZED)
             OnSize(pWnd->m_hWnd);
         return FALSE;
+    case WM_SHOWWINDOW: // by then an application has given it its size
+        if (wParam != 0 && lParam == 0 && IsTooHigh(pWnd))
+            FitPopup(pWnd);
+        return FALSE;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONUP:
+    case WM_CAPTURECHANGED:
+        if (CThreadState::Get().m_pShell != nullptr)
+            OnPen(pWnd->m_hWnd, message, static_cast<short>(HIWORD(lParam)));
+        return FALSE;
     case WM_VSCROLL:
         return lParam != 0 && OnScroll(pWnd->m_hWnd, LOWORD(wParam), reinterpret_cast<HWND>(lParam));
     case WM_SETTINGCHANGE:
@@ -106,6 +130,7 @@ void CRooms::CutOff(HWND hWnd) {
 }
 
 void CRooms::Remove(HWND hWnd) {
+    m_pen.End(hWnd);
     std::erase_if(m_rooms, [hWnd](const CRoom& room) { return room.GetWindow() == hWnd; });
 }
 
@@ -131,6 +156,50 @@ BOOL CRooms::OnScroll(HWND hWnd, UINT nCode, HWND hBar) {
     Move(pRoom->Scroll(nCode, CPanelPlace()));
     OfThread().CutOff(hWnd);
     return TRUE;
+}
+
+/// A program that handles these messages has the pen for itself if it does not hand them on, or has
+/// taken the capture before it does.
+void CRooms::OnPen(HWND hWnd, UINT message, int nY) {
+    CRooms& rooms = OfThread();
+    switch (message) {
+    case WM_LBUTTONUP:
+    case WM_CAPTURECHANGED:
+        rooms.m_pen.End(hWnd);
+        break;
+    case WM_MOUSEMOVE:
+        if (const std::optional<int> pos = rooms.m_pen.Move(hWnd, nY)) {
+            Move(rooms.Add(hWnd).ScrollTo(*pos, CPanelPlace()));
+            OfThread().CutOff(hWnd);
+        }
+        break;
+    default:
+        const CRoom* const pRoom = rooms.Find(hWnd);
+        if (pRoom != nullptr && pRoom->IsScrolling() && ::GetCapture() == nullptr)
+            rooms.m_pen.Press(hWnd, nY, pRoom->GetScroll(), OnPenTimer);
+    }
+}
+
+void CALLBACK CRooms::OnPenTimer(HWND, UINT, UINT_PTR, DWORD) {
+    OfThread().m_pen.Watch();
+}
+
+void CRooms::FitPopup(CWnd* pWnd) {
+    const HWND hWnd = pWnd->m_hWnd;
+    const CRect area = AfxGetWorkArea(hWnd);
+    CRect now;
+    pWnd->GetWindowRect(now);
+    const bool bCut = IsTooHigh(pWnd) || WholeSize(hWnd).cy != 0;
+    const CSize size = bCut ? OfThread().Add(hWnd).SizeIn(area) : now.Size();
+    const CPoint place(std::max(std::min(now.left, area.right - size.cx), area.left),
+                       std::max(std::min(now.top, area.bottom - size.cy), area.top));
+    if (CRect(place, size) != now)
+        pWnd->SetWindowPos(nullptr, place.x, place.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+CSize CRooms::WholeSize(HWND hWnd) {
+    const CRoom* const pRoom = CThreadState::Get().m_pShell != nullptr ? OfThread().Find(hWnd) : nullptr;
+    return pRoom != nullptr ? pRoom->GetWholeSize() : CSize();
 }
 
 void CRooms::Anchor(HWND hControl, const AFX_ANCHOR& anchor) {

@@ -1,6 +1,7 @@
 // Which dialogs of a thread have to make do with the room that there is, and when.
 #pragma once
 
+#include "PenScroll.h"
 #include "Room.h"
 
 namespace fieldkit::detail {
@@ -16,6 +17,11 @@ public:
     static void Anchor(HWND hControl, const AFX_ANCHOR& anchor);
     /// Undoes all shifts and what the anchored controls have been given, in a window and its pages.
     static void Settle(HWND hWnd);
+    /// A popup comes into the work area as far as it must; a dialog that is higher than that is cut, and
+    /// scrolls.
+    static void FitPopup(CWnd* pWnd);
+    /// How large a popup was before it was cut; empty if it was not.
+    static CSize WholeSize(HWND hWnd);
     /// The font of a dialog's controls, which not every system's dialogs tell after SetResolution.
     static HFONT FontOf(HWND hDialog);
     /// After Settle: all sizes have another scale.
@@ -26,6 +32,8 @@ private:
     static CRooms& OfThread();
     static void OnSize(HWND hWnd);
     static BOOL OnScroll(HWND hWnd, UINT nCode, HWND hBar);
+    static void OnPen(HWND hWnd, UINT message, int nY);
+    static void CALLBACK OnPenTimer(HWND, UINT, UINT_PTR, DWORD);
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
     static LRESULT CALLBACK FocusHook(int nCode, WPARAM wParam, LPARAM lParam);
 
@@ -40,6 +48,7 @@ private:
     std::vector<CRoom> m_rooms;
     UINT_PTR m_nTimer = 0;
     HHOOK m_hFocusHook = nullptr;
+    CPenScroll m_pen;
 };
 
 } // namespace fieldkit::detail

@@ -5,8 +5,6 @@
 #include "window/Resolution.h"
 #include "window/WndProc.h"
 
-#include <algorithm>
-
 using namespace fieldkit::detail;
 
 namespace {
@@ -90,9 +88,21 @@ void ScaleControls(HWND hDialog, const CScale& scale) {
         CRooms::SetResolution(hDialog, scale.nOld, scale.nNew, std::move(pFont));
 }
 
+/// A full-screen window covers the work area again; another comes back into it as far as it must.
+void FitIn(CWnd* pWnd) {
+    if (!IsFullScreen(pWnd))
+        return CRooms::FitPopup(pWnd);
+    const CRect area = AfxGetWorkArea(pWnd->m_hWnd);
+    CRect window;
+    pWnd->GetWindowRect(window);
+    if (window != area)
+        Place(pWnd->m_hWnd, area);
+}
+
 void OnDpiChanged(CWnd* pWnd, int nDpi, const RECT* pSuggested) {
     const HWND hWnd = pWnd->m_hWnd;
     const int nOld = AfxGetDpi(hWnd);
+    const CSize whole = CRooms::WholeSize(hWnd);
     CRect place = pSuggested != nullptr ? *pSuggested : CRect();
     CRooms::Settle(hWnd);
     CResolution::Tell(hWnd, nDpi);
@@ -103,30 +113,17 @@ void OnDpiChanged(CWnd* pWnd, int nDpi, const RECT* pSuggested) {
         return;
     if (IsFullScreen(pWnd))
         place = AfxGetWorkArea(hWnd);
+    else if (whole.cy != 0)
+        place = CRect(place.TopLeft(), CSize(scale(whole.cx), scale(whole.cy)));
     if (!place.IsRectEmpty())
         Place(hWnd, place, SWP_FRAMECHANGED);
+    if (whole.cy != 0)
+        FitIn(pWnd);
     // The system tells of the size only if it is another one.
     CRect client;
     ::GetClientRect(hWnd, client);
     ::SendMessage(hWnd, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
     ::RedrawWindow(hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
-/// A full-screen window covers the work area again; another comes back into it as far as it must.
-void FitIn(CWnd* pWnd) {
-    const CRect area = AfxGetWorkArea(pWnd->m_hWnd);
-    CRect window;
-    pWnd->GetWindowRect(window);
-    if (IsFullScreen(pWnd)) {
-        if (window != area)
-            Place(pWnd->m_hWnd, area);
-        return;
-    }
-    CPoint place = window.TopLeft();
-    place.x = std::max(std::min(place.x, area.right - window.Width()), area.left);
-    place.y = std::max(std::min(place.y, area.bottom - window.Height()), area.top);
-    if (place != window.TopLeft())
-        Place(pWnd->m_hWnd, CRect(place, window.Size()), SWP_NOSIZE);
 }
 
 } // namespace

@@ -126,7 +126,9 @@ Step UntilSeen(const Dialog& dialog, int nID) {
         const CRect rect = dialog.RectOf(nID);
         CRect client;
         dialog.GetClientRect(client);
-        return rect.top >= 0 && rect.bottom <= client.bottom - AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT);
+        if (dialog.m_pWndEmptyCB != nullptr)
+            client.bottom -= AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT);
+        return rect.top >= 0 && rect.bottom <= client.bottom;
     };
 }
 
@@ -152,6 +154,96 @@ TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
                         expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
                         [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
                         UntilSeen(dialog, 101)});
+}
+
+/// Free ground in the middle of a dialog of template 211, on the screen.
+CPoint GroundOf(const Dialog& dialog) {
+    return testkit::RectOf(dialog).CenterPoint() + CSize(AfxScale(dialog, 20), 0);
+}
+
+TEST(DialogThatIsTooHigh, IsDraggedByItsGround) {
+    constexpr int FAR_ENOUGH = 50;
+    Dialog dialog(211);
+    CPoint ground;
+    int nHome = 0;
+    const auto drag = [&](CPoint from, int nUp) { pen::Drag(from, from - CSize(0, nUp)); };
+    const auto untilScrolled = [&](int nUp) {
+        return [&dialog, &nHome, nUp] { return dialog.RectOf(100).top == nHome - nUp; };
+    };
+    const auto tapAndDragLittle = [&] {
+        pen::Tap(ground);
+        drag(ground, ::GetSystemMetrics(SM_CYDRAG));
+    };
+    const auto dragField = [&] { drag(MiddleOf(*dialog.GetDlgItem(100)), -FAR_ENOUGH); };
+    const auto take = [&] {
+        pen::Down(ground);
+        pen::Move(ground - CSize(0, FAR_ENOUGH));
+    };
+    const auto lose = [&] {
+        EXPECT_EQ(dialog.m_hWnd, ::GetCapture());
+        ::ReleaseCapture();
+        pen::Move(ground);
+        pen::Up(ground);
+    };
+    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); },
+                        [&] { ground = GroundOf(dialog), nHome = dialog.RectOf(100).top; }, tapAndDragLittle,
+                        [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, dragField,
+                        [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, [&] { drag(ground, FAR_ENOUGH); },
+                        untilScrolled(FAR_ENOUGH), [&] { EXPECT_EQ(nullptr, ::GetCapture()); },
+                        [&] { drag(ground, -1000); }, untilScrolled(0), take, untilScrolled(FAR_ENOUGH), lose,
+                        [&] { EXPECT_EQ(nHome - FAR_ENOUGH, dialog.RectOf(100).top); }});
+}
+
+TEST(DialogThatIsTooHigh, IsLetGoByWhateverComesBetween) {
+    /// Keeps the pen's lift for itself.
+    struct Keeper : Dialog {
+        using Dialog::Dialog;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            return message == WM_LBUTTONUP ? 0 : Dialog::WindowProc(message, wParam, lParam);
+        }
+    };
+    Keeper dialog(211);
+    Dialog other(210, {}, {});
+    const auto press = [&] {
+        pen::Down(GroundOf(dialog));
+        pen::Move(GroundOf(dialog) - CSize(0, 20));
+    };
+    const Step captured = [&] { return ::GetCapture() == dialog.m_hWnd; };
+    const Step free = [] { return ::GetCapture() == nullptr; };
+    const auto lift = [&] { pen::Up(GroundOf(dialog)); };
+    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, press, captured, lift, free, press, captured,
+                        [&] { other.DoModal(); }, free, [&] { other.EndDialog(IDOK); }, lift, free});
+    Dialog destroyed(211);
+    Play([&] { return destroyed.DoModal(); },
+         {[&] { return destroyed.HasScrollBar(); }, [&] { pen::Down(GroundOf(destroyed)); },
+          [&] { return ::GetCapture() == destroyed.m_hWnd; }, [&] { destroyed.DestroyWindow(); }});
+    EXPECT_EQ(nullptr, ::GetCapture());
+    pen::Up(CPoint(0, 0));
+}
+
+TEST(PopupThatIsTooHigh, IsCutToTheScreenAndScrolls) {
+    Dialog dialog(211);
+    dialog.SetOption(CnDialog::OptionPopup);
+    const auto look = [&] {
+        const CRect place = testkit::RectOf(dialog), area = WorkArea();
+        EXPECT_EQ(Text(area & place), Text(place));
+        EXPECT_EQ(area.Height(), place.Height());
+        dialog.SendMessage(WM_DISPLAYCHANGE, 32, 0);
+        EXPECT_EQ(Text(place), Text(testkit::RectOf(dialog)));
+    };
+    const auto focus = [&](int nID) {
+        return [&dialog, nID] { dialog.GotoDlgCtrl(dialog.GetDlgItem(nID)); };
+    };
+    const auto drag = [&] { pen::Drag(GroundOf(dialog), GroundOf(dialog) - CSize(0, 60)); };
+    const auto makeLower = [&] {
+        dialog.SetWindowPos(nullptr, 0, 0, 200, 100, SWP_NOMOVE | SWP_NOZORDER);
+        dialog.SendMessage(WM_DISPLAYCHANGE, 32, 0);
+        EXPECT_EQ(CSize(200, 100), testkit::RectOf(dialog).Size());
+        EXPECT_FALSE(dialog.HasScrollBar()) << "what a program hides by its size stays hidden";
+    };
+    PlayAndEnd(dialog,
+               {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102), focus(100),
+                UntilSeen(dialog, 100), drag, [&] { return dialog.RectOf(100).bottom < 0; }, makeLower});
 }
 
 TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {
