@@ -4,6 +4,8 @@
 #include "companion/detail/PanelDrawing.h"
 #include "resources/ResourceIds.h"
 
+#include "Tesuvo.h"
+
 #include <afxext.h>
 
 #include <algorithm>
@@ -69,6 +71,8 @@ PanelWindow& PanelWindow::OfThisThread() {
 }
 
 RECT PanelWindow::Place() const {
+    if (m_system)
+        return m_systemPlace;
     RECT place{};
     ::GetWindowRect(m_window, &place);
     return place;
@@ -101,7 +105,13 @@ void PanelWindow::Show(int mode) {
     m_field = ::GetFocus();
     m_below = nullptr;
     SetMode(mode == 1 || mode == 2 ? mode : 0);
-    PutInPlace();
+    m_system = TVGetCommonRegInt(TVSETTING_SYSTEM_KEYBOARD) != 0 && m_keyboard.Show();
+    if (m_system) {
+        ::ShowWindow(m_window, SW_HIDE);
+    } else {
+        m_keyboard.Hide(); // if the choice has changed
+        PutInPlace();
+    }
     ::SetTimer(m_window, kWatchTimer, kWatchInterval, nullptr);
     // Later, when the dialog that is perhaps just being made has its place on the screen.
     ::PostMessageW(m_window, WM_ANNOUNCE, 0, 0);
@@ -127,7 +137,7 @@ void PanelWindow::PutInPlace() {
 }
 
 void PanelWindow::Close() {
-    if (!IsShown())
+    if (!m_shown)
         return;
     m_shown = false;
     ::SetTimer(m_window, kCloseTimer, USER_TIMER_MINIMUM, nullptr);
@@ -144,6 +154,8 @@ void PanelWindow::Hide() {
     Release();
     m_shift = Shift::Off;
     ::ShowWindow(m_window, SW_HIDE);
+    m_keyboard.Hide();
+    m_system = false;
     Announce();
 }
 
@@ -157,7 +169,10 @@ void PanelWindow::Watch() {
     }
     if (focus != nullptr)
         m_field = focus;
-    StayOnTop();
+    if (m_system)
+        m_systemPlace = m_keyboard.Place();
+    else
+        StayOnTop();
     Announce();
 }
 
@@ -191,7 +206,7 @@ void PanelWindow::StayOnTop() {
 
 void PanelWindow::Announce() {
     const HWND active = ::GetActiveWindow();
-    if (!m_shown) {
+    if (!IsShown()) {
         const HWND told = std::exchange(m_told, nullptr);
         if (told != nullptr && active != told)
             Tell(active);
@@ -264,6 +279,7 @@ LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
         Close();
         return 0;
     case WM_NCDESTROY:
+        m_keyboard.Hide();
         *this = PanelWindow();
         break;
     default:

@@ -1,6 +1,7 @@
 #include "Tesuvo.h"
 
 #include "companion/detail/SharedSetting.h"
+#include "companion/detail/SystemKeyboard.h"
 
 #include <string>
 
@@ -23,5 +24,7 @@ std::optional<long long> StoredSetting(int nId) {
 } // namespace
 
 int TVGetCommonRegInt(int nId) {
-    return GuardedSetting(nId, StoredSetting(nId));
+    const int nValue = GuardedSetting(nId, StoredSetting(nId));
+    // What is chosen may have gone since.
+    return nId == TVSETTING_SYSTEM_KEYBOARD && nValue != 0 ? SystemKeyboard::IsThere() : nValue;
 }

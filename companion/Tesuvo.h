@@ -21,13 +21,15 @@
 
 /// Numbers of the settings that all applications of the device share, for TVGetCommonRegInt().
 enum TVSetting : int {
-    TVSETTING_DECIMALS = 1280, ///< Decimals of coordinate text minus one.
+    TVSETTING_DECIMALS = 1280,        ///< Decimals of coordinate text minus one.
+    TVSETTING_SYSTEM_KEYBOARD = 1312, ///< Whether the system's touch keyboard is the panel.
 };
 
 /// Reads an integer of the settings that all applications of the device share.
 ///
-/// The one setting known is TVSETTING_DECIMALS: the number of decimals of coordinate text minus
-/// one, 0 (one decimal) to 4 (five decimals), default 2.
+/// TVSETTING_DECIMALS is the number of decimals of coordinate text minus one, 0 (one decimal) to 4
+/// (five decimals), default 2. TVSETTING_SYSTEM_KEYBOARD is 1 if the touch keyboard of the system has
+/// been chosen and there is one, otherwise 0; see TVUseSystemKeyboard().
 ///
 /// The store is the registry key `HKEY_CURRENT_USER\Software\Tesuvo\Common`, one
 /// REG_DWORD a setting, named by the setting's number in decimal ("1280"). There
@@ -95,6 +97,23 @@ TESUVO_API void TVShowSIP(int nMode);
 /// It disappears when the thread's message loop is next idle and the pen is up: if
 /// TVShowSIP() follows before, as on the way from field to field, it stays.
 TESUVO_API void TVCloseSIP();
+
+/// Chooses the touch keyboard of Windows instead of the panel, for all applications of the user:
+/// TVShowSIP() and TVCloseSIP() show and hide it from the next call on, and dialogs make room for it as
+/// for the panel, as soon as it is on the screen. It has its own keys for all modes. Where it is not to
+/// be had, then or later, the panel goes on.
+///
+/// It is the setting TVSETTING_SYSTEM_KEYBOARD, kept with the others, and not a function of the library:
+/// a program that calls it runs with the device's own library, too, which always has the panel.
+///
+/// @return TRUE if the system's keyboard is used from now on; FALSE if there is none, the setting cannot
+///         be stored, or bUse is FALSE
+inline BOOL TVUseSystemKeyboard(BOOL bUse) {
+    const DWORD dwUse = bUse ? 1 : 0;
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Tesuvo\\Common", L"1312", REG_DWORD, &dwUse,
+                      sizeof dwUse);
+    return TVGetCommonRegInt(TVSETTING_SYSTEM_KEYBOARD) != 0;
+}
 
 /// Numbers of the device's shared icons, for TVGetCommonIcon().
 enum TVIcon : int {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "companion/detail/PanelKeys.h"
+#include "companion/detail/SystemKeyboard.h"
 
 namespace fieldkit::detail {
 
-/// The soft input panel of a thread. Neither focus nor activation is ever with it.
+/// The soft input panel of a thread. Neither focus nor activation is ever with it. If the user has
+/// chosen the system's keyboard, it shows that one instead of itself.
 class PanelWindow {
 public:
     static PanelWindow& OfThisThread();
@@ -20,7 +22,8 @@ public:
     /// field to field it stays.
     void Close();
 
-    bool IsShown() const { return m_window != nullptr && m_shown; }
+    /// The system's keyboard is from the time that it is on the screen.
+    bool IsShown() const { return m_shown && (!m_system || !::IsRectEmpty(&m_systemPlace)); }
     /// The place on the screen.
     RECT Place() const;
 
@@ -54,13 +57,16 @@ private:
     void SetShift(Shift shift);
 
     HWND m_window = nullptr;
-    int m_mode = -1;        ///< None so far.
-    bool m_shown = false;   ///< Wanted by the application; the window follows.
-    HWND m_field = nullptr; ///< What has the focus while the panel is shown.
-    HWND m_below = nullptr; ///< The focused window over which the panel has been put.
-    int m_raises = 0;       ///< How often it is still to be put there.
-    HWND m_told = nullptr;  ///< The window that knows that the panel is shown, ...
-    RECT m_toldPlace = {};  ///< ... and where.
+    int m_mode = -1;       ///< None so far.
+    bool m_shown = false;  ///< Wanted by the application; the window follows.
+    bool m_system = false; ///< The system's keyboard is shown in its stead, ...
+    SystemKeyboard m_keyboard;
+    RECT m_systemPlace = {}; ///< ... and where.
+    HWND m_field = nullptr;  ///< What has the focus while the panel is shown.
+    HWND m_below = nullptr;  ///< The focused window over which the panel has been put.
+    int m_raises = 0;        ///< How often it is still to be put there.
+    HWND m_told = nullptr;   ///< The window that knows that the panel is shown, ...
+    RECT m_toldPlace = {};   ///< ... and where.
     Shift m_shift = Shift::Off;
     bool m_katakana = false;
     int m_pressed = -1;       ///< Index of the key under the pen.

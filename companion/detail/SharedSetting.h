@@ -18,6 +18,8 @@ namespace fieldkit::detail {
 constexpr int GuardedSetting(int nId, std::optional<long long> stored) {
     constexpr int kDecimalsDefault = 2;
     constexpr int kDecimalsMost = 4;
+    if (nId == TVSETTING_SYSTEM_KEYBOARD)
+        return stored == 1 ? 1 : 0;
     if (nId != TVSETTING_DECIMALS)
         return 0;
     if (!stored || *stored < 0 || *stored > kDecimalsMost)

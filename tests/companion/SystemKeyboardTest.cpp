@@ -1,0 +1,145 @@
+// The panel's calls with the system's touch keyboard: without one, and with a stand-in where the
+// system would have its own.
+#include "support/TestApp.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/Drive.h"
+#include "testkit/Panel.h"
+#include "testkit/Script.h"
+
+#include "controls/nDialog.h"
+#include "controls/nEdit.h"
+
+#include "Tesuvo.h"
+
+using namespace testkit;
+
+namespace {
+
+constexpr wchar_t CLASS[] = L"IPTip_Main_Window";
+constexpr wchar_t PROGRAM[] = L"\\microsoft shared\\ink\\TabTip.exe";
+
+HWND Keyboard() {
+    return ::FindWindow(CLASS, nullptr);
+}
+
+LRESULT CALLBACK KeyboardProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DESTROY)
+        ::PostQuitMessage(0);
+    return ::DefWindowProc(hWnd, message, wParam, lParam);
+}
+
+/// The stand-in is this program under the keyboard's name: a window over the lower third.
+struct StandIn {
+    StandIn() {
+        WCHAR szProgram[MAX_PATH];
+        ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+        if (CString(szProgram).Right(10) == L"TabTip.exe")
+            Run();
+    }
+    [[noreturn]] static void Run() {
+        WNDCLASS wc = {};
+        wc.lpfnWndProc = KeyboardProc;
+        wc.hInstance = ::GetModuleHandle(nullptr);
+        wc.lpszClassName = CLASS;
+        ::RegisterClass(&wc);
+        const CRect screen = Screen();
+        ::CreateWindowEx(WS_EX_NOACTIVATE | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, CLASS, L"",
+                         WS_POPUP | WS_VISIBLE, 0, screen.bottom * 2 / 3, screen.right, screen.bottom / 3,
+                         nullptr, nullptr, wc.hInstance, nullptr);
+        MSG msg;
+        while (::GetMessage(&msg, nullptr, 0, 0) > 0)
+            ::DispatchMessage(&msg);
+        ::ExitProcess(0);
+    }
+};
+const StandIn g_standIn;
+
+struct SystemKeyboard : testing::Test {
+    /// Puts the keyboard, if there is to be one, where a variable of the environment tells.
+    void SetUp() override {
+        ::SetEnvironmentVariable(L"CommonProgramW6432", m_drive.Letter());
+        m_drive.MakeFolder(L"\\microsoft shared");
+        m_drive.MakeFolder(L"\\microsoft shared\\ink");
+    }
+    void TearDown() override {
+        ::SetEnvironmentVariable(L"CommonProgramW6432", nullptr);
+        TVUseSystemKeyboard(FALSE);
+    }
+    void Install() const {
+        WCHAR szProgram[MAX_PATH];
+        ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+        ASSERT_TRUE(::CopyFile(szProgram, m_drive.Letter() + PROGRAM, TRUE));
+    }
+
+    Drive m_drive;
+};
+
+/// A popup at the bottom of the screen, with a field that wants a keyboard.
+struct Entry : CnDialog {
+    Entry() : CnDialog(0, nullptr) {
+        static const DialogTemplate lines{100, 60, WS_POPUP | WS_CAPTION};
+        InitModalIndirect(lines.Get());
+        SetOption(OptionPopup);
+    }
+    BOOL OnInitDialog() override {
+        CnDialog::OnInitDialog();
+        m_home = RectOf(m_hWnd);
+        m_home.OffsetRect(0, WorkArea().bottom - m_home.bottom);
+        MoveWindow(m_home);
+        m_field.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 100, 30), this, 10);
+        m_other.Create(L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(110, 10, 150, 30), this, 11);
+        m_other.SetFocus();
+        return FALSE;
+    }
+
+    CRect m_home;
+    CEdit m_field;
+    CButton m_other;
+};
+
+TEST_F(SystemKeyboard, ThatIsNotThereLeavesThePanel) {
+    EXPECT_FALSE(TVUseSystemKeyboard(TRUE));
+    const Frame frame;
+    TVShowSIP(0);
+    panel::ExpectShown();
+    panel::Close();
+}
+
+TEST_F(SystemKeyboard, StandsInForThePanelAndDialogsMakeRoomForIt) {
+    Install();
+    ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
+    Entry dialog;
+    const Step untilClear = [&] {
+        return Keyboard() != nullptr && RectOf(dialog).bottom <= RectOf(Keyboard()).top;
+    };
+    const Step untilHome = [&] { return RectOf(dialog) == dialog.m_home; };
+    const auto show = [&] {
+        dialog.m_field.SetFocus();
+        TVShowSIP(0);
+    };
+    const auto look = [&] {
+        EXPECT_FALSE(panel::IsVisible());
+        SIPINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_TRUE(SipGetInfo(&info));
+        EXPECT_EQ(RectOf(Keyboard()), CRect(info.rcSipRect));
+    };
+    PlayAndEnd(dialog,
+               {show, untilClear, look, [] { TVCloseSIP(); }, untilHome, [] { return Keyboard() == nullptr; },
+                show, untilClear, [] { ::PostMessage(Keyboard(), WM_CLOSE, 0, 0); }, // by its own X
+                untilHome, show, untilClear,                                         // asked for again
+                [] { TVUseSystemKeyboard(FALSE), TVShowSIP(1); },
+                [] { return panel::IsVisible() && Keyboard() == nullptr; }});
+    panel::Close();
+}
+
+TEST_F(SystemKeyboard, ThatCannotBeStartedLeavesThePanel) {
+    m_drive.MakeFile(PROGRAM, 10); // no program
+    const Frame frame;
+    ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
+    TVShowSIP(0);
+    panel::ExpectShown();
+    panel::Close();
+}
+
+} // namespace
