@@ -54,7 +54,7 @@ if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   # name of a C function, a Create with other arguments than the base's. The others are meant: the
   # kernel's & of comparisons, which saves branches, CWnd::GetSafeHwnd of null objects, and the >> of
   # DECLARE_SERIAL in a class that one source has for itself.
-  target_compile_options(fieldkit_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-sign-conversion;-Wno-shadow;-Wno-overloaded-virtual;-Wno-bitwise-instead-of-logical;-Wno-tautological-undefined-compare;-Wno-unused-function>)
+  target_compile_options(fieldkit_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-sign-conversion;-Wno-shadow;-Wno-overloaded-virtual;-Wno-bitwise-instead-of-logical;-Wno-tautological-undefined-compare>)
 endif()
 
 # fieldkit_precompile(TARGET HEADER...): the headers that nearly every source of TARGET includes

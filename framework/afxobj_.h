@@ -78,7 +78,7 @@ public:
 
     static CRuntimeClass classCObject; ///< The class information of CObject itself.
     /// The base class of CObject: none.
-    static CRuntimeClass* AFXAPI _GetBaseClass() { return nullptr; }
+    static CRuntimeClass* _GetBaseClass() { return nullptr; }
 
 protected:
     CObject() = default;
@@ -103,7 +103,7 @@ public:                                                                         
 /// The operator is defined inside the class, so that it needs no export of its own.
 #define DECLARE_SERIAL(class_name)                                                                           \
     DECLARE_DYNCREATE(class_name)                                                                            \
-    friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {                                            \
+    [[maybe_unused]] friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {                           \
         pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name)));                        \
         return ar;                                                                                           \
     }

@@ -4,6 +4,11 @@
 
 #include "afxtypes.h"
 
+// Pointers and handles travel in the arguments, the result and the data of items.
+static_assert(sizeof(WPARAM) == sizeof(void*) && sizeof(LPARAM) == sizeof(void*) &&
+              sizeof(LRESULT) == sizeof(void*) && sizeof(DWORD_PTR) == sizeof(void*) &&
+              sizeof(LONG_PTR) == sizeof(void*));
+
 /// Sends a message whose result is a number, an index or a flag.
 inline int AfxSendInt(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessage(hWnd, message, wParam, lParam));

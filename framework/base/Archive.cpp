@@ -171,7 +171,9 @@ void CArchive::LoadValue(Value& value) {
     std::memcpy(&value, &bits, sizeof(value));
 }
 
-#define ARCHIVE_VALUE(type)                                                                                  \
+// The width is part of the archive's format.
+#define ARCHIVE_VALUE(type, bytes)                                                                           \
+    static_assert(sizeof(type) == bytes);                                                                    \
     CArchive& CArchive::operator<<(type value) {                                                             \
         StoreValue(value);                                                                                   \
         return *this;                                                                                        \
@@ -181,19 +183,19 @@ void CArchive::LoadValue(Value& value) {
         return *this;                                                                                        \
     }
 
-ARCHIVE_VALUE(BYTE)
-ARCHIVE_VALUE(char)
-ARCHIVE_VALUE(short)
-ARCHIVE_VALUE(WORD)
-ARCHIVE_VALUE(int)
-ARCHIVE_VALUE(unsigned)
-ARCHIVE_VALUE(float)
-ARCHIVE_VALUE(double)
-ARCHIVE_VALUE(LONGLONG)
-ARCHIVE_VALUE(ULONGLONG)
+ARCHIVE_VALUE(BYTE, 1)
+ARCHIVE_VALUE(char, 1)
+ARCHIVE_VALUE(short, 2)
+ARCHIVE_VALUE(WORD, 2)
+ARCHIVE_VALUE(int, 4)
+ARCHIVE_VALUE(unsigned, 4)
+ARCHIVE_VALUE(float, 4)
+ARCHIVE_VALUE(double, 8)
+ARCHIVE_VALUE(LONGLONG, 8)
+ARCHIVE_VALUE(ULONGLONG, 8)
 #ifdef _WIN32
-ARCHIVE_VALUE(LONG)
-ARCHIVE_VALUE(DWORD)
+ARCHIVE_VALUE(LONG, 4)
+ARCHIVE_VALUE(DWORD, 4)
 #endif
 #undef ARCHIVE_VALUE
 
