@@ -60,7 +60,7 @@ Program::Program(const std::wstring& name, const wchar_t* pszTitle, const std::w
     STARTUPINFO start = {};
     start.cb = sizeof start;
     std::wstring command = CommandLine(name, argument);
-    if (!::CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+    if (!::CreateProcess(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
                          &m_process)) {
         m_bFailed = true;
         Fail("cannot start " + Utf8(command.c_str()) + ": error " + std::to_string(::GetLastError()), place);
@@ -78,8 +78,9 @@ Program::~Program() {
     ::CloseHandle(m_process.hProcess);
 }
 
-bool Program::Wait(const std::function<bool()>& done, const std::string& failure, const Place& place) const {
-    const bool bDone = Until(done, m_bFailed ? kImpatience : kPatience);
+bool Program::Wait(const std::function<bool()>& done, const std::string& failure, const Place& place,
+                   DWORD nMilliseconds) const {
+    const bool bDone = Until(done, m_bFailed ? kImpatience : nMilliseconds);
     if (!bDone) {
         m_bFailed = true;
         Fail(failure, place);
@@ -135,10 +136,17 @@ void Program::Close(HWND hWnd, const Place& place) const {
     Wait([&] { return !::IsWindow(hWnd); }, "the window does not close: " + NameOf(hWnd), place);
 }
 
+bool Program::IsRunning() const {
+    return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT;
+}
+
 DWORD Program::End(const Place& place) const {
+    return End(kPatience, place);
+}
+
+DWORD Program::End(DWORD nMilliseconds, const Place& place) const {
     DWORD nCode = STILL_ACTIVE;
-    const auto hasEnded = [this] { return ::WaitForSingleObject(m_process.hProcess, 0) != WAIT_TIMEOUT; };
-    Wait(hasEnded, "the program does not end", place);
+    Wait([this] { return !IsRunning(); }, "the program does not end", place, nMilliseconds);
     ::GetExitCodeProcess(m_process.hProcess, &nCode);
     return nCode;
 }

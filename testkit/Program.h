@@ -2,8 +2,8 @@
 /// A program in a process of its own, used as somebody with a pen and a keyboard would use it.
 /// Needs nothing of the framework, and the program need not know of it.
 ///
-///     const Program program(L"LevelNote", L"LevelNote");
-///     program.Fill(IDC_HEIGHT, L"1.5");
+///     const Program program(L"Heights", L"Heights");
+///     program.Fill(IDC_SIGHT, L"1.5");
 ///     program.Tap(IDC_ADD);
 ///     program.ExpectText(IDC_RESULT, L"101.500");
 ///     program.Tap(IDCANCEL);
@@ -30,7 +30,8 @@ bool Until(const std::function<bool()>& done, DWORD nMilliseconds = 20000);
 void FocusByTap(HWND hWnd, const Place& place = {});
 
 /// A running program. Each function waits for up to 20 seconds for what it needs, and fails if that
-/// does not come; after a failure the others wait for one.
+/// does not come; after a failure the others wait for one. What the program prints goes where the
+/// output of this one goes.
 class Program {
 public:
     /// Starts the program and waits for its main window.
@@ -69,13 +70,18 @@ public:
     /// Closes a window as its X does, and waits until it has gone.
     void Close(HWND hWnd, const Place& place = {}) const;
 
+    /// False once it has ended.
+    bool IsRunning() const;
     /// Waits until the program has ended. @return its exit code
     DWORD End(const Place& place = {}) const;
+    /// The same of a program that may take this long.
+    DWORD End(DWORD nMilliseconds, const Place& place = {}) const;
     /// Of its first thread, which has the main window.
     DWORD Thread() const { return m_process.dwThreadId; }
 
 private:
-    bool Wait(const std::function<bool()>& done, const std::string& failure, const Place& place) const;
+    bool Wait(const std::function<bool()>& done, const std::string& failure, const Place& place,
+              DWORD nMilliseconds = 20000) const;
 
     PROCESS_INFORMATION m_process = {};
     HWND m_hMain = nullptr;

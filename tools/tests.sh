@@ -14,6 +14,7 @@ other_screens=('320x240 96' '480x640 192' '800x480 96' '1024x768 96')
 # programs that look at all dialogs run on each of other_screens as well.
 run_tests() {
     local built=$SECONDS lane
+    export SHAKE_EVENTS=${SHAKE_EVENTS:-1000} # each; the long rounds are ./run shake's
     start_lane native tests_without_screen "$1"
     start_lane long tests_on_second_screen "$1"
     run_programs "$1" short win64 sample programs

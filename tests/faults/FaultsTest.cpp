@@ -1,8 +1,8 @@
 // Each call into the system fails once: nothing may crash, hang, be lost or be left behind.
 #include "FaultLoop.h"
 #include "FaultTable.h"
-#include "support/OwnProcess.h"
 #include "testkit/Drive.h"
+#include "testkit/Program.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -55,9 +55,11 @@ struct Faults : testing::TestWithParam<Scenario> {
         CString strRange;
         strRange.Format(L"%d %d", nFirst, nStride);
         ::SetEnvironmentVariable(RANGE, strRange);
-        return fx::RunOwnProcess(L"--gtest_also_run_disabled_tests --gtest_brief=1 "
-                                 L"--gtest_filter=All/DISABLED_FaultLoop.Run/" +
-                                 CString(pszScenario));
+        return Program(L"test_faults", nullptr,
+                       L"--gtest_also_run_disabled_tests --gtest_brief=1 "
+                       L"--gtest_filter=All/DISABLED_FaultLoop.Run/" +
+                           std::wstring(CString(pszScenario)))
+            .End(INFINITE);
     }
 
 private:

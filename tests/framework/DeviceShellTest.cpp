@@ -1,9 +1,9 @@
 // What the device's shell does for dialogs: full screen, the OK button in the title bar,
 // the command bar. The screen is the device's or larger.
 #include "support/Form.h"
-#include "support/OwnProcess.h"
-#include "testkit/TitleBar.h"
 #include "testkit/Pen.h"
+#include "testkit/Program.h"
+#include "testkit/TitleBar.h"
 
 using namespace testkit;
 
@@ -85,25 +85,29 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     EXPECT_EQ(child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)), 0);
 }
 
-/// The folder that the program was started in, with a library of the shell's name in it.
+/// The current folder of all that is started meanwhile, with a library of the shell's name in it.
 struct PlantedFolder {
     PlantedFolder() {
         wchar_t szPath[MAX_PATH];
+        ::GetCurrentDirectory(MAX_PATH, m_szBefore);
         ::GetTempPath(MAX_PATH, szPath);
         m_strFolder.Format(L"%sfk-planted%u", szPath, ::GetCurrentProcessId());
         ::CreateDirectory(m_strFolder, nullptr);
         ::GetModuleFileName(nullptr, szPath, MAX_PATH);
         EXPECT_TRUE(::CopyFile(szPath, Library(), FALSE)); // any module will do
+        ::SetCurrentDirectory(m_strFolder);
     }
     ~PlantedFolder() {
+        ::SetCurrentDirectory(m_szBefore);
         ::DeleteFile(Library());
         ::RemoveDirectory(m_strFolder);
     }
 
-    CString m_strFolder;
-
 private:
     CString Library() const { return m_strFolder + L"\\aygshell.dll"; }
+
+    wchar_t m_szBefore[MAX_PATH];
+    CString m_strFolder;
 };
 
 constexpr LPCTSTR IN_PLANTED_FOLDER = L"FK_TEST_IN_PLANTED_FOLDER";
@@ -117,7 +121,7 @@ TEST(ShellLibrary, OneThatLiesInTheCurrentFolderIsNotLoaded) {
     // A library is looked for once, and another test may have asked: so a process of its own.
     const PlantedFolder planted;
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, L"1");
-    EXPECT_EQ(0U, fx::RunOwnProcess(L"--gtest_filter=ShellLibrary.*", planted.m_strFolder));
+    EXPECT_EQ(0U, Program(L"test_framework", nullptr, L"--gtest_filter=ShellLibrary.*").End());
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr);
 }
 

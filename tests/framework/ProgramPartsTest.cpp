@@ -4,7 +4,7 @@
 #include "afxext.h"
 #include "afxmt.h"
 #include "testkit/DialogTemplate.h"
-#include "support/OwnProcess.h"
+#include "testkit/Program.h"
 
 #include <thread>
 
@@ -133,7 +133,8 @@ TEST(CommandLine, FirstArgumentWithoutAMarkIsTheFile) {
     } info;
     if (::GetEnvironmentVariable(L"FK_TEST_ARGUMENTS", nullptr, 0) == 0) {
         ::SetEnvironmentVariable(L"FK_TEST_ARGUMENTS", L"1");
-        EXPECT_EQ(0U, fx::RunOwnProcess(L"--gtest_filter=CommandLine.* -s /t \"a b\" c"));
+        EXPECT_EQ(0U,
+                  Program(L"test_framework", nullptr, L"--gtest_filter=CommandLine.* -s /t \"a b\" c").End());
         ::SetEnvironmentVariable(L"FK_TEST_ARGUMENTS", nullptr);
         return;
     }
@@ -209,6 +210,8 @@ TEST(Locks, AreHeldByOneAtATime) {
     event.SetEvent();
     EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
     EXPECT_TRUE(both.IsLocked(0) && !isFree(mutex) && both.Unlock());
+    EXPECT_TRUE(event.ResetEvent());
+    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
     EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
 }
 

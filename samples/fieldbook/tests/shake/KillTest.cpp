@@ -4,6 +4,7 @@
 #include "../TestFile.h"
 #include "../WindowCloser.h"
 #include "screens/JobFile.h"
+#include "testkit/Program.h"
 
 #include <random>
 
@@ -59,29 +60,6 @@ TEST(Killed, DISABLED_Child) {
     }
 }
 
-struct CChild {
-    CChild() {
-        wchar_t szProgram[MAX_PATH] = {};
-        ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
-        CString strLine = CString(L"\"") + szProgram +
-                          L"\" --gtest_filter=Killed.DISABLED_Child --gtest_also_run_disabled_tests";
-        STARTUPINFO startup = {};
-        startup.cb = sizeof startup;
-        ::CreateProcess(nullptr, strLine.GetBuffer(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &m_process);
-    }
-    ~CChild() {
-        ::TerminateProcess(m_process.hProcess, 1);
-        ::WaitForSingleObject(m_process.hProcess, INFINITE);
-        ::CloseHandle(m_process.hThread);
-        ::CloseHandle(m_process.hProcess);
-    }
-    bool IsAlive() const { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT; }
-
-private:
-    PROCESS_INFORMATION m_process = {};
-};
-
 /// A start takes most of a second; ./run shake, which names a seed, has the time for all.
 TEST(Killed, ConfirmedPointsAreThereAfterEachKill) {
     const char* const pszSeed = std::getenv("SHAKE_SEED");
@@ -94,14 +72,16 @@ TEST(Killed, ConfirmedPointsAreThereAfterEachKill) {
     for (int i = 0; i < KILLS && !HasFailure(); ++i) {
         const LONG nBefore = *confirmed;
         {
-            const CChild child;
+            const testkit::Program child(L"test_fieldbook_shake", nullptr,
+                                         L"--gtest_filter=Killed.DISABLED_Child "
+                                         L"--gtest_also_run_disabled_tests --gtest_brief=1");
             // It is killed a random number of points after its first one, and at any place between.
             const LONG nUntil = nBefore + 1 + static_cast<LONG>(random() % 20);
-            while (*confirmed < nUntil && child.IsAlive())
+            while (*confirmed < nUntil && child.IsRunning())
                 ::Sleep(0);
             for (unsigned nSpin = random() % 20000; nSpin > 0; --nSpin)
                 ::GetTickCount64();
-            ASSERT_TRUE(child.IsAlive()) << "kill " << i;
+            ASSERT_TRUE(child.IsRunning()) << "kill " << i;
         }
         nWithRecord += CTestFile::Exists(record.GetPath()) ? 1 : 0;
         CJob job(L"no-history.dat");
