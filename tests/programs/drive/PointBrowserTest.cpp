@@ -27,7 +27,7 @@ TEST(ProgramsTest, PointBrowserFindsSavesAndLoads) {
         const Program program(L"PointBrowser", L"点ブラウザー", L"\"" + job + L"\"");
         EXPECT_EQ(::SendMessage(program.Item(IDC_POINTS), LVM_GETITEMCOUNT, 0, 0), nPoints);
         program.Fill(IDC_FIND, nPoints == 5 ? L"t" : L"b");
-        program.ExpectText(IDC_COUNT, nPoints == 5 ? L"5 点  基準点: T1" : L"4 点  境界点: B7");
+        program.ExpectText(IDC_COUNT, nPoints == 5 ? L"5 点  基準点: T1" : L"4 点  基準点: B7");
         if (nPoints == 5) {
             program.Command(ID_POINT_DELETE);
             const HWND hQuestion = program.Window(L"PointBrowser");

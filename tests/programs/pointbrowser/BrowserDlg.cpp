@@ -1,100 +1,9 @@
-// BrowserDlg.cpp : the main dialog, and the dialog of one point
+// BrowserDlg.cpp : the main dialog
 //
 
 #include "stdafx.h"
 #include "PointBrowser.h"
 #include "BrowserDlg.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
-/////////////////////////////////////////////////////////////////////////////
-// CEditPointDlg
-
-CEditPointDlg::CEditPointDlg(CSurveyJob& job, CWnd* pParent /*=NULL*/)
-	: CDialog(CEditPointDlg::IDD, pParent), m_job(job)
-{
-	//{{AFX_DATA_INIT(CEditPointDlg)
-	m_dEast = 0.0;
-	m_dNorth = 0.0;
-	m_dHeight = 0.0;
-	m_time = CTime::GetCurrentTime();
-	m_nGroup = 0;
-	//}}AFX_DATA_INIT
-}
-
-void CEditPointDlg::Load(const CSurveyPoint& point)
-{
-	m_strOldName = m_strName = point.m_strName;
-	m_dEast = point.m_dEast;
-	m_dNorth = point.m_dNorth;
-	m_dHeight = point.m_dHeight;
-	m_time = point.m_time;
-	for (int i = 0; i < m_job.GetGroupCount(); i++)
-	{
-		if (m_job.GetGroup(i) == point.m_pGroup)
-			m_nGroup = i;
-	}
-}
-
-void CEditPointDlg::Store(CSurveyPoint& point) const
-{
-	point.m_strName = m_strName;
-	point.m_dEast = m_dEast;
-	point.m_dNorth = m_dNorth;
-	point.m_dHeight = m_dHeight;
-	point.m_time = m_time;
-}
-
-void CEditPointDlg::DoDataExchange(CDataExchange* pDX)
-{
-	CDialog::DoDataExchange(pDX);
-	//{{AFX_DATA_MAP(CEditPointDlg)
-	DDX_Text(pDX, IDC_NAME, m_strName);
-	DDV_MaxChars(pDX, m_strName, 16);
-	DDX_Text(pDX, IDC_EAST, m_dEast);
-	DDX_Text(pDX, IDC_NORTH, m_dNorth);
-	DDX_Text(pDX, IDC_HEIGHT, m_dHeight);
-	DDV_MinMaxDouble(pDX, m_dHeight, -500., 9000.);
-	DDX_DateTimeCtrl(pDX, IDC_DATE, m_time);
-	//}}AFX_DATA_MAP
-	if (pDX->m_bSaveAndValidate || m_job.GetGroupCount() > 0)
-		DDX_CBIndex(pDX, IDC_GROUP, m_nGroup);
-}
-
-BEGIN_MESSAGE_MAP(CEditPointDlg, CDialog)
-END_MESSAGE_MAP()
-
-BOOL CEditPointDlg::OnInitDialog()
-{
-	CComboBox* pCombo = (CComboBox*)GetDlgItem(IDC_GROUP);
-	for (int i = 0; i < m_job.GetGroupCount(); i++)
-		pCombo->AddString(m_job.GetGroup(i)->m_strName);
-	CDialog::OnInitDialog();
-	if (!m_strName.IsEmpty())
-		SetWindowText(m_strName);
-	return TRUE;
-}
-
-void CEditPointDlg::OnOK()
-{
-	if (!UpdateData())
-		return;
-	m_strName.TrimLeft();
-	m_strName.TrimRight();
-	if (m_strName.IsEmpty() || (m_strName != m_strOldName && m_job.Lookup(m_strName) != NULL))
-	{
-		CString strText;
-		strText.FormatMessage(IDS_NAME_TAKEN, (LPCTSTR)m_strName);
-		MessageBox(strText, NULL, MB_ICONWARNING);
-		GetDlgItem(IDC_NAME)->SetFocus();
-		return;
-	}
-	EndDialog(IDOK);
-}
 
 /////////////////////////////////////////////////////////////////////////////
 // CBrowserDlg
@@ -120,21 +29,22 @@ void CBrowserDlg::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CBrowserDlg, CDialog)
 	//{{AFX_MSG_MAP(CBrowserDlg)
 	ON_WM_SYSCOMMAND()
+	ON_WM_PAINT()
 	ON_WM_QUERYDRAGICON()
+	ON_WM_CONTEXTMENU()
+	ON_WM_INITMENUPOPUP()
 	ON_WM_SIZE()
 	ON_WM_DROPFILES()
 	ON_EN_CHANGE(IDC_FIND, OnFind)
+	ON_EN_KILLFOCUS(IDC_FIND, OnFind)
 	ON_BN_CLICKED(IDC_MENU_BUTTON, OnMenu)
-	ON_COMMAND(ID_POINT_ADD, OnPointAdd)
-	ON_COMMAND(ID_POINT_EDIT, OnPointEdit)
 	ON_COMMAND(ID_POINT_DELETE, OnPointDelete)
 	ON_COMMAND(ID_FILE_OPEN, OnFileOpen)
 	ON_COMMAND(ID_FILE_SAVE, OnFileSave)
-	ON_COMMAND(ID_FILE_IMPORT, OnFileImport)
 	ON_COMMAND(ID_FILE_EXPORT, OnFileExport)
-	ON_NOTIFY(NM_DBLCLK, IDC_POINTS, OnDblclkPoints)
 	ON_NOTIFY(LVN_ITEMCHANGED, IDC_POINTS, OnItemchangedPoints)
 	//}}AFX_MSG_MAP
+	ON_UPDATE_COMMAND_UI(ID_POINT_DELETE, OnUpdatePoint)
 END_MESSAGE_MAP()
 
 BOOL CBrowserDlg::OnInitDialog()
@@ -176,22 +86,18 @@ BOOL CBrowserDlg::OnInitDialog()
 // So that there is something to see without a file.
 void CBrowserDlg::MakeExample()
 {
-	static const struct { LPCTSTR lpszName; double dEast, dNorth, dHeight; int nGroup; } points[] =
+	static const struct { LPCTSTR lpszName; double dEast, dNorth, dHeight; } points[] =
 	{
-		{ _T("T1"), 1000.000, 2000.000, 35.20, 1 },
-		{ _T("T2"), 1043.215, 2011.870, 35.94, 1 },
-		{ _T("a12"), 1012.400, 2004.125, 34.87, 0 },
-		{ _T("a3"), 1018.955, 1996.310, -1.25, 0 },
-		{ _T("B7"), 1027.080, 2008.640, 36.02, 0 },
+		{ _T("T1"), 1000.000, 2000.000, 35.20 },
+		{ _T("T2"), 1043.215, 2011.870, 35.94 },
+		{ _T("a12"), 1012.400, 2004.125, 34.87 },
+		{ _T("a3"), 1018.955, 1996.310, -1.25 },
+		{ _T("B7"), 1027.080, 2008.640, 36.02 },
 	};
 	m_job.RemoveAll();
-	m_job.m_groups.Add(new CPointGroup(_T("境界点")));
-	m_job.m_groups.Add(new CPointGroup(_T("基準点"), RGB(0, 96, 0)));
 	for (int i = 0; i < sizeof(points) / sizeof(points[0]); i++)
 	{
-		CSurveyPoint* pPoint = new CSurveyPoint(points[i].lpszName, points[i].dEast,
-			points[i].dNorth, points[i].dHeight);
-		VERIFY(m_job.Add(pPoint, m_job.GetGroup(points[i].nGroup)) != NULL);
+		m_job.Add(new CSurveyPoint(points[i].lpszName, points[i].dEast, points[i].dNorth, points[i].dHeight));
 	}
 }
 
@@ -200,8 +106,7 @@ void CBrowserDlg::ShowCount()
 	CString strText, strName;
 	CSurveyPoint* pPoint = m_list.GetSelectedPoint();
 	if (pPoint != NULL)
-		strName.Format(_T("%s: %s"), pPoint->m_pGroup != NULL ? pPoint->m_pGroup->m_strName : CString(),
-			pPoint->m_strName);
+		strName.Format(_T("%s: %s"), CString(_T("基準点")), pPoint->m_strName);
 	strText.Format(IDS_COUNT, m_list.GetItemCount(), strName);
 	m_wndCount.SetWindowText(strText);
 }
@@ -275,6 +180,19 @@ void CBrowserDlg::OnSysCommand(UINT nID, LPARAM lParam)
 	CDialog::OnSysCommand(nID, lParam);
 }
 
+// A minimized dialog draws its icon itself.
+void CBrowserDlg::OnPaint()
+{
+	if (!IsIconic())
+	{
+		CDialog::OnPaint();
+		return;
+	}
+	CPaintDC dc(this);
+	SendMessage(WM_ICONERASEBKGND, (WPARAM) dc.GetSafeHdc(), 0);
+	dc.DrawIcon(0, 0, m_hIcon);
+}
+
 HCURSOR CBrowserDlg::OnQueryDragIcon()
 {
 	return (HCURSOR)m_hIcon;
@@ -323,46 +241,39 @@ void CBrowserDlg::OnMenu()
 	CRect rect;
 	GetDlgItem(IDC_MENU_BUTTON)->GetWindowRect(&rect);
 	CMenu* pPopup = m_menu.GetSubMenu(0);
-	UINT nState = m_list.GetSelectedCount() > 0 ? MF_ENABLED : MF_GRAYED;
-	pPopup->EnableMenuItem(ID_POINT_EDIT, MF_BYCOMMAND | nState);
-	pPopup->EnableMenuItem(ID_POINT_DELETE, MF_BYCOMMAND | nState);
+	pPopup->EnableMenuItem(ID_FILE_EXPORT, MF_BYCOMMAND | (m_list.GetItemCount() > 0 ? MF_ENABLED : MF_GRAYED));
 	pPopup->TrackPopupMenu(TPM_RIGHTALIGN, rect.right, rect.bottom, this);
 }
 
-void CBrowserDlg::OnPointAdd()
+// The same menu at the pen; by the keyboard there is no place for it.
+void CBrowserDlg::OnContextMenu(CWnd* pWnd, CPoint point)
 {
-	CEditPointDlg dlg(m_job, this);
-	if (dlg.DoModal() != IDOK)
-		return;
-	CSurveyPoint* pPoint = new CSurveyPoint;
-	dlg.Store(*pPoint);
-	CPointGroup* pGroup = dlg.m_nGroup >= 0 && dlg.m_nGroup < m_job.GetGroupCount() ?
-		m_job.GetGroup(dlg.m_nGroup) : NULL;
-	if (m_job.Add(pPoint, pGroup) == NULL)
-	{
-		delete pPoint;
-		return;
-	}
-	m_list.AddPoint(pPoint);
-	m_list.Select(m_list.GetItemCount() - 1);
-	ShowCount();
+	if (pWnd->GetSafeHwnd() == m_list.GetSafeHwnd() && point != CPoint(-1, -1))
+		m_menu.GetSubMenu(0)->TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, this);
+	else
+		OnMenu();
 }
 
-void CBrowserDlg::OnPointEdit()
+// A dialog does not run the update handlers of its menus by itself.
+void CBrowserDlg::OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
 {
-	int nItem;
-	CSurveyPoint* pPoint = m_list.GetSelectedPoint(&nItem);
-	if (pPoint == NULL)
+	CDialog::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu);
+	if (bSysMenu)
 		return;
-	CEditPointDlg dlg(m_job, this);
-	dlg.Load(*pPoint);
-	if (dlg.DoModal() == IDOK)
+	CCmdUI state;
+	state.m_pMenu = pPopupMenu;
+	state.m_nIndexMax = pPopupMenu->GetMenuItemCount();
+	for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; state.m_nIndex++)
 	{
-		dlg.Store(*pPoint);
-		m_list.UpdatePoint(nItem);
-		m_list.RedrawItems(nItem, nItem);
-		ShowCount();
+		state.m_nID = pPopupMenu->GetMenuItemID(state.m_nIndex);
+		if (state.m_nID != 0 && state.m_nID != (UINT) -1)
+			state.DoUpdate(this, FALSE);
 	}
+}
+
+void CBrowserDlg::OnUpdatePoint(CCmdUI* pCmdUI)
+{
+	pCmdUI->Enable(m_list.GetSelectedCount() > 0);
 }
 
 void CBrowserDlg::OnPointDelete()
@@ -404,39 +315,6 @@ void CBrowserDlg::OnFileSave()
 	SaveJob(strPath);
 }
 
-void CBrowserDlg::OnFileImport()
-{
-	CString strFilter;
-	strFilter.LoadString(IDS_TEXT_FILTER);
-	CFileDialog dlg(TRUE, _T("csv"), NULL, OFN_HIDEREADONLY, strFilter, this);
-	if (dlg.DoModal() != IDOK)
-		return;
-	CUIntArray badLines;
-	try
-	{
-		m_job.Import(dlg.GetPathName(), badLines);
-	}
-	catch (CFileException* e)
-	{
-		e->ReportError();
-		e->Delete();
-	}
-	m_list.Fill(m_job);
-	CString strLines, strLine;
-	for (int i = 0; i < badLines.GetSize(); i++)
-	{
-		strLine.Format(_T(" %u"), badLines[i]);
-		strLines += strLine;
-	}
-	if (!strLines.IsEmpty())
-	{
-		CString strText;
-		strText.Format(IDS_BAD_LINE, dlg.GetFileTitle(), strLines);
-		AfxMessageBox(strText);
-	}
-	ShowCount();
-}
-
 void CBrowserDlg::OnFileExport()
 {
 	CString strPath = m_strPath.IsEmpty() ? CString(_T("points.csv")) : m_strPath + _T(".csv");
@@ -452,12 +330,6 @@ void CBrowserDlg::OnFileExport()
 		e->ReportError();
 	}
 	END_CATCH_ALL
-}
-
-void CBrowserDlg::OnDblclkPoints(NMHDR* /*pNMHDR*/, LRESULT* pResult)
-{
-	PostMessage(WM_COMMAND, ID_POINT_EDIT);
-	*pResult = 0;
 }
 
 void CBrowserDlg::OnItemchangedPoints(NMHDR* pNMHDR, LRESULT* pResult)

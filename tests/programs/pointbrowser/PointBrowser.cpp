@@ -5,12 +5,6 @@
 #include "PointBrowser.h"
 #include "BrowserDlg.h"
 
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
 BEGIN_MESSAGE_MAP(CPointBrowserApp, CWinApp)
 	//{{AFX_MSG_MAP(CPointBrowserApp)
 	//}}AFX_MSG_MAP
@@ -31,6 +25,11 @@ BOOL CPointBrowserApp::InitInstance()
 		return FALSE;
 	}
 	AfxEnableControlContainer();
+#ifdef _AFXDLL
+	Enable3dControls();
+#else
+	Enable3dControlsStatic();
+#endif
 	InitCommonControls();
 
 	CCommandLineInfo cmdInfo;
@@ -40,6 +39,6 @@ BOOL CPointBrowserApp::InitInstance()
 	dlg.m_strPath = cmdInfo.m_strFileName;
 	m_pMainWnd = &dlg;
 	if (dlg.DoModal() == IDOK)
-		TRACE(_T("PointBrowser: %s\n"), dlg.m_strPath);
+		TRACE(_T("%s: %s\n"), (LPCTSTR) m_pszAppName, dlg.m_strPath);
 	return FALSE;
 }

@@ -6,12 +6,6 @@
 #include "PointList.h"
 #include "SurveyJob.h"
 
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
 CPointListCtrl::CPointListCtrl()
 {
 	m_nSortColumn = -1;
@@ -103,31 +97,14 @@ int CALLBACK CPointListCtrl::Compare(LPARAM lParam1, LPARAM lParam2, LPARAM lPar
 	const CPointListCtrl* pList = (const CPointListCtrl*)lParamSort;
 	const CSurveyPoint* p1 = (const CSurveyPoint*)lParam1;
 	const CSurveyPoint* p2 = (const CSurveyPoint*)lParam2;
-	double dDifference = 0.0;
-	switch (pList->m_nSortColumn)
+	int nResult = p1->m_strName.CompareNoCase(p2->m_strName);
+	if (pList->m_nSortColumn == COL_HEIGHT)
+		nResult = p1->m_dHeight < p2->m_dHeight ? -1 : p1->m_dHeight > p2->m_dHeight;
+	else if (pList->m_nSortColumn == COL_DATE)
 	{
-	case COL_NAME:
-		dDifference = p1->m_strName.CompareNoCase(p2->m_strName);
-		break;
-	case COL_EAST:
-		dDifference = p1->m_dEast - p2->m_dEast;
-		break;
-	case COL_NORTH:
-		dDifference = p1->m_dNorth - p2->m_dNorth;
-		break;
-	case COL_HEIGHT:
-		dDifference = p1->m_dHeight - p2->m_dHeight;
-		break;
-	case COL_DATE:
-		{
-			CTimeSpan span = p1->m_time - p2->m_time;
-			dDifference = (double)span.GetTotalSeconds();
-		}
-		break;
-	default:
-		ASSERT(FALSE);
+		CTimeSpan span = p1->m_time - p2->m_time;
+		nResult = (int)span.GetTotalSeconds();
 	}
-	int nResult = dDifference < 0.0 ? -1 : dDifference > 0.0 ? 1 : 0;
 	return pList->m_bAscending ? nResult : -nResult;
 }
 
@@ -136,6 +113,7 @@ void CPointListCtrl::Sort(int nColumn, BOOL bAscending)
 	m_nSortColumn = nColumn;
 	m_bAscending = bAscending;
 	SortItems(Compare, (DWORD_PTR)this);
+	RedrawItems(0, GetItemCount() - 1);
 
 	CHeaderCtrl* pHeader = GetHeaderCtrl();
 	for (int i = 0; i < pHeader->GetItemCount(); i++)
@@ -157,7 +135,7 @@ void CPointListCtrl::OnColumnclick(NMHDR* pNMHDR, LRESULT* pResult)
 	*pResult = 0;
 }
 
-// Every other line is grey, names have the colour of their group, heights below zero are red.
+// Every other line is grey, heights below zero are red.
 void CPointListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
 {
 	NMLVCUSTOMDRAW* pLVCD = reinterpret_cast<NMLVCUSTOMDRAW*>(pNMHDR);
@@ -175,9 +153,7 @@ void CPointListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
 		{
 			const CSurveyPoint* pPoint = (const CSurveyPoint*)pLVCD->nmcd.lItemlParam;
 			pLVCD->clrText = GetSysColor(COLOR_WINDOWTEXT);
-			if (pLVCD->iSubItem == COL_NAME && pPoint->m_pGroup != NULL)
-				pLVCD->clrText = pPoint->m_pGroup->m_crText;
-			else if (pLVCD->iSubItem == COL_HEIGHT && pPoint->m_dHeight < 0.0)
+			if (pLVCD->iSubItem == COL_HEIGHT && pPoint->m_dHeight < 0.0)
 				pLVCD->clrText = RGB(200, 0, 0);
 		}
 		break;

@@ -1,11 +1,9 @@
-// SurveyJob.h : points, groups of points, and the job that holds them
+// SurveyJob.h : points, and the job that holds them
 //
 
 #pragma once
 
-class CPointGroup;
-
-// A surveyed point. Its group is the one that it was added to.
+// A surveyed point.
 class CSurveyPoint : public CObject
 {
 	DECLARE_SERIAL(CSurveyPoint)
@@ -19,10 +17,7 @@ public:
 	double m_dNorth;
 	double m_dHeight;
 	CTime m_time;
-	CPointGroup* m_pGroup;
 
-	// A line of a text file. FALSE if it holds no point.
-	BOOL Parse(const CString& strLine);
 	CString ToText(TCHAR chSeparator) const;
 
 	virtual void Serialize(CArchive& ar);
@@ -34,45 +29,21 @@ public:
 
 typedef CTypedPtrList<CObList, CSurveyPoint*> CPointList;
 
-class CPointGroup : public CObject
-{
-	DECLARE_SERIAL(CPointGroup)
-
-public:
-	CPointGroup();
-	explicit CPointGroup(LPCTSTR lpszName, COLORREF crText = RGB(0, 0, 0));
-
-	CString m_strName;
-	COLORREF m_crText;
-	CPointList m_points;		// not owned: the job's
-
-	virtual void Serialize(CArchive& ar);
-};
-
 class CSurveyJob : public CObject
 {
 	DECLARE_SERIAL(CSurveyJob)
 
 public:
-	CSurveyJob();
 	virtual ~CSurveyJob();
 
-	CObArray m_groups;
 	CPointList m_points;
 
-	CSurveyPoint* Add(CSurveyPoint* pPoint, CPointGroup* pGroup);
+	void Add(CSurveyPoint* pPoint);
 	void Remove(CSurveyPoint* pPoint);
-	CSurveyPoint* Lookup(LPCTSTR lpszName) const;
-	CPointGroup* GetGroup(int nIndex) const { return (CPointGroup*)m_groups[nIndex]; }
-	int GetGroupCount() const { return m_groups.GetSize(); }
 	void RemoveAll();
 
-	// Text, one point a line; the numbers of lines that hold none are added to badLines.
-	int Import(LPCTSTR lpszPath, CUIntArray& badLines);
+	// Text, one point a line.
 	void Export(LPCTSTR lpszPath) const;
 
 	virtual void Serialize(CArchive& ar);
-
-protected:
-	CMapStringToPtr m_names;
 };

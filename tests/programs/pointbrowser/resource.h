@@ -5,7 +5,6 @@
 #define IDD_ABOUTBOX                    100
 #define IDS_ABOUTBOX                    101
 #define IDD_BROWSER                     102
-#define IDD_EDIT_POINT                  103
 #define IDS_COL_NAME                    104
 #define IDS_COL_EAST                    105
 #define IDS_COL_NORTH                   106
@@ -13,25 +12,13 @@
 #define IDS_COL_DATE                    108
 #define IDS_COUNT                       109
 #define IDS_ASK_DELETE                  110
-#define IDS_TEXT_FILTER                 111
 #define IDS_JOB_FILTER                  112
-#define IDS_BAD_LINE                    113
-#define IDS_NAME_TAKEN                  114
 #define IDR_MAINFRAME                   128
 #define IDR_MENU                        129
 #define IDC_POINTS                      1000
 #define IDC_COUNT                       1001
 #define IDC_FIND                        1002
-#define IDC_GROUP                       1003
-#define IDC_NAME                        1004
-#define IDC_EAST                        1005
-#define IDC_NORTH                       1006
-#define IDC_HEIGHT                      1007
-#define IDC_DATE                        1008
-#define ID_POINT_ADD                    32771
-#define ID_POINT_EDIT                   32772
 #define ID_POINT_DELETE                 32773
-#define ID_FILE_IMPORT                  32774
 #define ID_FILE_EXPORT                  32775
 #define IDC_MENU_BUTTON                 1009
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "SketchWnd.h"
-#include "AreaThread.h"
 
 class CSketchDlg : public CDialog
 {
@@ -20,17 +19,13 @@ public:
 protected:
 	HICON m_hIcon;
 	CSketchWnd m_sketch;
-	CProgressCtrl m_wndProgress;
 	CScrollBar m_wndScale;
-	BOOL m_bSnap;
-	CAreaJob m_job;
 
 	virtual void DoDataExchange(CDataExchange* pDX);
 	virtual BOOL OnInitDialog();
 	virtual void OnOK();
 	virtual void OnCancel();
 	virtual void PostNcDestroy();
-	virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
 
 	afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
 	afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -38,10 +33,6 @@ protected:
 	afx_msg void OnClose();
 	afx_msg void OnCompute();
 	afx_msg void OnClear();
-	afx_msg void OnSnap();
-	afx_msg void OnColor();
 	afx_msg void OnSketchChanged();
-	afx_msg LRESULT OnAreaProgress(WPARAM wParam, LPARAM lParam);
-	afx_msg LRESULT OnAreaDone(WPARAM wParam, LPARAM lParam);
 	DECLARE_MESSAGE_MAP()
 };

@@ -18,8 +18,7 @@ static const UINT nBlinkTimer = 1;
 IMPLEMENT_DYNCREATE(CSketchWnd, CWnd)
 
 CSketchWnd::CSketchWnd()
-	: m_nScale(100), m_bSnap(TRUE), m_bDragging(FALSE), m_bBlink(FALSE), m_nTimer(0),
-	  m_crLine(RGB(0, 0, 160)), m_ptDrag(0, 0), m_sizeBuffer(0, 0)
+	: m_nScale(100), m_bDragging(FALSE), m_bBlink(FALSE), m_nTimer(0), m_ptDrag(0, 0), m_sizeBuffer(0, 0)
 {
 	RegisterWindowClass();
 }
@@ -48,11 +47,6 @@ BOOL CSketchWnd::RegisterWindowClass(HINSTANCE hInstance)
 	return TRUE;
 }
 
-BOOL CSketchWnd::Create(CWnd* pParentWnd, const RECT& rect, UINT nID, DWORD dwStyle)
-{
-	return CWnd::Create(szClassName, _T(""), dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
 BEGIN_MESSAGE_MAP(CSketchWnd, CWnd)
 	ON_WM_ERASEBKGND()
 	ON_WM_PAINT()
@@ -62,11 +56,9 @@ BEGIN_MESSAGE_MAP(CSketchWnd, CWnd)
 	ON_WM_RBUTTONDOWN()
 	ON_WM_SETCURSOR()
 	ON_WM_GETDLGCODE()
-	ON_WM_KEYDOWN()
 	ON_WM_SETFOCUS()
 	ON_WM_KILLFOCUS()
 	ON_WM_TIMER()
-	ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 void CSketchWnd::PreSubclassWindow()
@@ -76,18 +68,9 @@ void CSketchWnd::PreSubclassWindow()
 		m_brPaper.CreatePatternBrush(&bmpPaper);
 	else
 		m_brPaper.CreateSolidBrush(RGB(255, 255, 240));
-	m_penGrid.CreatePen(PS_DOT, 1, RGB(200, 208, 216));
 	m_font.CreateFont(-10, 0, 0, 0, FW_NORMAL, FALSE, FALSE, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
 		CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS, _T("MS Shell Dlg"));
 	CWnd::PreSubclassWindow();
-}
-
-LRESULT CSketchWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-	// a new font is for the labels as well
-	if (message == WM_SETFONT && lParam)
-		Invalidate(FALSE);
-	return CWnd::WindowProc(message, wParam, lParam);
 }
 
 void CSketchWnd::SetScale(int nScale)
@@ -95,14 +78,6 @@ void CSketchWnd::SetScale(int nScale)
 	ASSERT(nScale > 0);
 	m_nScale = nScale;
 	Changed();
-}
-
-COLORREF CSketchWnd::SetLineColor(COLORREF crLine)
-{
-	COLORREF crOld = m_crLine;
-	m_crLine = crLine;
-	Invalidate(FALSE);
-	return crOld;
 }
 
 double CSketchWnd::GetLength() const
@@ -114,6 +89,14 @@ double CSketchWnd::GetLength() const
 		dLength += sqrt((double)size.cx * size.cx + (double)size.cy * size.cy);
 	}
 	return dLength * m_nScale / 1000.0;
+}
+
+double CSketchWnd::GetArea() const
+{
+	double dTwice = 0.0;
+	for (int i = 0, j = m_points.GetUpperBound(); i < m_points.GetSize(); j = i++)
+		dTwice += (double)m_points[j].x * m_points[i].y - (double)m_points[i].x * m_points[j].y;
+	return fabs(dTwice) / 2.0;
 }
 
 void CSketchWnd::Clear()
@@ -132,8 +115,6 @@ void CSketchWnd::Changed()
 
 CPoint CSketchWnd::Snap(CPoint point) const
 {
-	if (!m_bSnap)
-		return point;
 	return CPoint((point.x + nGrid / 2) / nGrid * nGrid, (point.y + nGrid / 2) / nGrid * nGrid);
 }
 
@@ -166,7 +147,6 @@ void CSketchWnd::Draw(CDC* pDC, const CRect& rect)
 {
 	int nSaved = pDC->SaveDC();
 	pDC->FillRect(rect, &m_brPaper);
-	DrawGrid(pDC, rect);
 	DrawPoints(pDC);
 	DrawNorth(pDC, rect);
 	CRect rectFrame(rect);
@@ -178,24 +158,6 @@ void CSketchWnd::Draw(CDC* pDC, const CRect& rect)
 	}
 	pDC->DrawEdge(rectFrame, EDGE_SUNKEN, BF_RECT);
 	pDC->RestoreDC(nSaved);
-}
-
-void CSketchWnd::DrawGrid(CDC* pDC, const CRect& rect)
-{
-	CPen* pOldPen = pDC->SelectObject(&m_penGrid);
-	int nOldMode = pDC->SetBkMode(TRANSPARENT);
-	for (int x = rect.left; x < rect.right; x += 5 * nGrid)
-	{
-		pDC->MoveTo(x, rect.top);
-		pDC->LineTo(x, rect.bottom);
-	}
-	for (int y = rect.top; y < rect.bottom; y += 5 * nGrid)
-	{
-		pDC->MoveTo(rect.left, y);
-		pDC->LineTo(rect.right, y);
-	}
-	pDC->SetBkMode(nOldMode);
-	pDC->SelectObject(pOldPen);
 }
 
 void CSketchWnd::DrawPoints(CDC* pDC)
@@ -215,36 +177,21 @@ void CSketchWnd::DrawPoints(CDC* pDC)
 		pDC->SelectObject(pOldBrush);
 	}
 
-	LOGBRUSH lb = { BS_SOLID, m_crLine, 0 };
-	CPen penLine(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND, 2, &lb);
-	CPen* pOldPen = pDC->SelectObject(&penLine);
 	if (nCount > 1)
 		pDC->Polyline(m_points.GetData(), nCount);
-	pDC->SelectObject(pOldPen);
-
 	CFont* pOldFont = pDC->SelectObject(&m_font);
 	pDC->SetBkMode(TRANSPARENT);
-	pDC->SetTextColor(RGB(64, 64, 64));
-	TEXTMETRIC tm;
-	pDC->GetTextMetrics(&tm);
 	CString strName;
 	for (int i = 0; i < nCount; i++)
 	{
-		BOOL bLast = i == nCount - 1;
 		CRect rectMark(m_points[i], CSize(0, 0));
 		rectMark.InflateRect(3, 3);
-		CBrush brMark(bLast && m_bBlink ? RGB(255, 64, 64) : RGB(255, 255, 255));
+		CBrush brMark(i == nCount - 1 && m_bBlink ? RGB(255, 64, 64) : RGB(255, 255, 255));
 		CBrush* pOldBrush = pDC->SelectObject(&brMark);
 		pDC->Ellipse(rectMark);
 		pDC->SelectObject(pOldBrush);
 		strName.Format(_T("%d"), i + 1);
-		CSize size = pDC->GetTextExtent(strName);
-		pDC->TextOut(rectMark.right + 2, rectMark.top - tm.tmDescent, strName);
-		if (bLast)
-		{
-			pDC->MoveTo(rectMark.right + 2, rectMark.top - tm.tmDescent + size.cy);
-			pDC->LineTo(rectMark.right + 2 + size.cx, rectMark.top - tm.tmDescent + size.cy);
-		}
+		pDC->TextOut(rectMark.right + 2, rectMark.top, strName);
 	}
 	pDC->SelectObject(pOldFont);
 }
@@ -347,33 +294,6 @@ UINT CSketchWnd::OnGetDlgCode()
 	return CWnd::OnGetDlgCode() | DLGC_WANTARROWS;
 }
 
-void CSketchWnd::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
-{
-	int nLast = m_points.GetUpperBound();
-	if (nLast < 0)
-		return;
-	int nStep = ::GetKeyState(VK_SHIFT) < 0 ? nGrid : 1;
-	switch (nChar)
-	{
-	case VK_LEFT:
-		m_points[nLast].x -= nStep;
-		break;
-	case VK_RIGHT:
-		m_points[nLast].x += nStep;
-		break;
-	case VK_UP:
-		m_points[nLast].Offset(0, -nStep);
-		break;
-	case VK_DOWN:
-		m_points[nLast].Offset(0, nStep);
-		break;
-	default:
-		CWnd::OnKeyDown(nChar, nRepCnt, nFlags);
-		return;
-	}
-	Changed();
-}
-
 void CSketchWnd::OnSetFocus(CWnd* pOldWnd)
 {
 	CWnd::OnSetFocus(pOldWnd);
@@ -400,11 +320,4 @@ void CSketchWnd::OnTimer(UINT nIDEvent)
 			Invalidate(FALSE);
 	}
 	CWnd::OnTimer(nIDEvent);
-}
-
-void CSketchWnd::OnDestroy()
-{
-	if (m_nTimer != 0)
-		KillTimer(m_nTimer);
-	CWnd::OnDestroy();
 }

@@ -18,7 +18,6 @@ public:
 
 	// The name that the dialog's template has for it.
 	static BOOL RegisterWindowClass(HINSTANCE hInstance = NULL);
-	BOOL Create(CWnd* pParentWnd, const RECT& rect, UINT nID, DWORD dwStyle = WS_VISIBLE);
 
 // Attributes
 public:
@@ -27,9 +26,8 @@ public:
 	void SetScale(int nScale);
 	int GetScale() const { return m_nScale; }
 	double GetLength() const;
-	void SetSnap(BOOL bSnap) { m_bSnap = bSnap; }
-	COLORREF SetLineColor(COLORREF crLine);
-	COLORREF GetLineColor() const { return m_crLine; }
+	// Square pixels.
+	double GetArea() const;
 
 // Operations
 public:
@@ -38,26 +36,21 @@ public:
 // Overrides
 protected:
 	virtual void PreSubclassWindow();
-	virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
 // Implementation
 protected:
 	CPointArray m_points;
 	int m_nScale;
-	BOOL m_bSnap;
 	BOOL m_bDragging;
 	BOOL m_bBlink;
 	UINT_PTR m_nTimer;
-	COLORREF m_crLine;
 	CPoint m_ptDrag;
 	CBitmap m_bmpBuffer;
 	CSize m_sizeBuffer;
 	CBrush m_brPaper;
 	CFont m_font;
-	CPen m_penGrid;
 
 	void Draw(CDC* pDC, const CRect& rect);
-	void DrawGrid(CDC* pDC, const CRect& rect);
 	void DrawPoints(CDC* pDC);
 	void DrawNorth(CDC* pDC, const CRect& rect);
 	CPoint Snap(CPoint point) const;
@@ -72,10 +65,8 @@ protected:
 	afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
 	afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
 	afx_msg UINT OnGetDlgCode();
-	afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
 	afx_msg void OnSetFocus(CWnd* pOldWnd);
 	afx_msg void OnKillFocus(CWnd* pNewWnd);
 	afx_msg void OnTimer(UINT nIDEvent);
-	afx_msg void OnDestroy();
 	DECLARE_MESSAGE_MAP()
 };

@@ -15,10 +15,7 @@
 #define IDC_AREA                        1002
 #define IDC_COMPUTE                     1003
 #define IDC_CLEAR                       1004
-#define IDC_PROGRESS                    1005
 #define IDC_SCALE                       1006
-#define IDC_SNAP                        1007
-#define IDC_COLOR                       1008
 
 // Next numbers
 //

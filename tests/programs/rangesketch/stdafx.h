@@ -8,7 +8,5 @@
 #include <afxwin.h>
 #include <afxext.h>
 #include <afxcmn.h>
-#include <afxdlgs.h>
-#include <afxmt.h>
 #include <afxtempl.h>
 #include <math.h>

@@ -1,13 +1,9 @@
-// InstrumentPage.cpp : model, height and prism
+// InstrumentPage.cpp : model, prism and the air that is measured through
 //
 
 #include "stdafx.h"
 #include "StationSetup.h"
 #include "InstrumentPage.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#endif
 
 // Tenths of a millimetre, in the order of the box.
 static const int aConstants[] = { 0, -175, -300, 344 };
@@ -16,6 +12,7 @@ IMPLEMENT_DYNCREATE(CInstrumentPage, CPropertyPage)
 
 CInstrumentPage::CInstrumentPage() : CPropertyPage(CInstrumentPage::IDD)
 {
+	m_psp.dwFlags &= ~PSP_HASHELP;
 }
 
 CInstrumentPage::~CInstrumentPage()
@@ -28,26 +25,26 @@ void CInstrumentPage::DoDataExchange(CDataExchange* pDX)
 	CPropertyPage::DoDataExchange(pDX);
 	DDX_Control(pDX, IDC_MODEL, m_wndModel);
 	DDX_Control(pDX, IDC_PRISM, m_wndPrism);
+	DDX_Control(pDX, IDC_PRESSURE_SPIN, m_wndPressure);
 	DDX_CBString(pDX, IDC_MODEL, settings.strModel);
 	DDV_MaxChars(pDX, settings.strModel, 12);
 	DDX_Text(pDX, IDC_SERIAL, settings.strSerial);
 	DDV_MaxChars(pDX, settings.strSerial, 10);
-	DDX_Text(pDX, IDC_HEIGHT, settings.dHeight);
-	DDV_MinMaxDouble(pDX, settings.dHeight, 0.1, 3.0);
+	DDX_Text(pDX, IDC_PRESSURE, settings.nPressure);
+	DDV_MinMaxInt(pDX, settings.nPressure, 500, 1100);
 	DDX_CBIndex(pDX, IDC_PRISM, settings.nPrism);
 	DDX_Text(pDX, IDC_CONSTANT, settings.nConstant);
 	DDV_MinMaxInt(pDX, settings.nConstant, -999, 999);
-	DDX_Check(pDX, IDC_TRACKING, settings.bTracking);
 }
 
 BEGIN_MESSAGE_MAP(CInstrumentPage, CPropertyPage)
 	ON_CBN_SELCHANGE(IDC_MODEL, &CInstrumentPage::OnChange)
 	ON_CBN_EDITCHANGE(IDC_MODEL, &CInstrumentPage::OnChange)
 	ON_CBN_SELCHANGE(IDC_PRISM, &CInstrumentPage::OnSelchangePrism)
-	ON_EN_CHANGE(IDC_HEIGHT, &CInstrumentPage::OnChange)
+	ON_EN_CHANGE(IDC_PRESSURE, &CInstrumentPage::OnChange)
+	ON_NOTIFY(UDN_DELTAPOS, IDC_PRESSURE_SPIN, &CInstrumentPage::OnDeltaposPressure)
 	ON_EN_CHANGE(IDC_CONSTANT, &CInstrumentPage::OnChange)
 	ON_EN_CHANGE(IDC_SERIAL, &CInstrumentPage::OnChange)
-	ON_BN_CLICKED(IDC_TRACKING, &CInstrumentPage::OnChange)
 END_MESSAGE_MAP()
 
 BOOL CInstrumentPage::OnInitDialog()
@@ -55,9 +52,12 @@ BOOL CInstrumentPage::OnInitDialog()
 	CPropertyPage::OnInitDialog();
 	ASSERT(m_wndPrism.GetCount() == (int)_countof(aConstants));
 	m_wndModel.LimitText(12);
+	m_wndPressure.SetRange(500, 1100);
+	UDACCEL accel[2] = { { 0, 1 }, { 2, 10 } };
+	m_wndPressure.SetAccel(2, accel);
 	((CEdit*)GetDlgItem(IDC_SERIAL))->SetLimitText(10);
 	m_tips.Create(this);
-	m_tips.AddTool(GetDlgItem(IDC_HEIGHT), IDS_TIP_HEIGHT);
+	m_tips.AddTool(GetDlgItem(IDC_PRESSURE), IDS_TIP_PRESSURE);
 	m_tips.AddTool(&m_wndPrism, IDS_TIP_PRISM);
 	m_tips.Activate(TRUE);
 	SetModified(FALSE);
@@ -84,8 +84,21 @@ void CInstrumentPage::OnSelchangePrism()
 	SetModified();
 }
 
+void CInstrumentPage::OnDeltaposPressure(NMHDR* pNMHDR, LRESULT* pResult)
+{
+	LPNMUPDOWN pNMUpDown = reinterpret_cast<LPNMUPDOWN>(pNMHDR);
+	*pResult = pNMUpDown->iPos + pNMUpDown->iDelta > 1100 ? 1 : 0;
+}
+
 BOOL CInstrumentPage::OnApply()
 {
 	theApp.m_settings.Save();
 	return CPropertyPage::OnApply();
+}
+
+void CInstrumentPage::OnReset()
+{
+	// what was not applied is forgotten
+	theApp.m_settings.Load();
+	CPropertyPage::OnReset();
 }

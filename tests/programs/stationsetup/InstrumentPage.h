@@ -1,4 +1,4 @@
-// InstrumentPage.h : model, height and prism
+// InstrumentPage.h : model, prism and the air that is measured through
 //
 
 #pragma once
@@ -15,11 +15,13 @@ public:
 	enum { IDD = IDD_INSTRUMENT };
 	CComboBox m_wndModel;
 	CComboBox m_wndPrism;
+	CSpinButtonCtrl m_wndPressure;
 	CToolTipCtrl m_tips;
 
 // Overrides
 	virtual BOOL OnInitDialog();
 	virtual BOOL OnApply();
+	virtual void OnReset();
 	virtual BOOL PreTranslateMessage(MSG* pMsg);
 
 protected:
@@ -27,5 +29,6 @@ protected:
 
 	afx_msg void OnChange();
 	afx_msg void OnSelchangePrism();
+	afx_msg void OnDeltaposPressure(NMHDR* pNMHDR, LRESULT* pResult);
 	DECLARE_MESSAGE_MAP()
 };

@@ -1,28 +1,9 @@
-// OutputPage.cpp : where measurements are written to, and how
+// OutputPage.cpp : how measurements are written
 //
 
 #include "stdafx.h"
 #include "StationSetup.h"
 #include "OutputPage.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#endif
-
-// The data exchange refuses a folder that does not exist.
-static void AFXAPI DDV_FolderExists(CDataExchange* pDX, CString const& strFolder)
-{
-	if (!pDX->m_bSaveAndValidate)
-		return;
-	DWORD dwAttributes = ::GetFileAttributes(strFolder);
-	if (dwAttributes != INVALID_FILE_ATTRIBUTES && (dwAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-		return;
-	CString strPrompt;
-	AfxFormatString1(strPrompt, IDS_BAD_FOLDER, strFolder);
-	AfxMessageBox(strPrompt, MB_ICONEXCLAMATION, IDS_BAD_FOLDER);
-	strPrompt.Empty();
-	pDX->Fail();
-}
 
 // The marked lines of a list, a bit a line.
 static void AFXAPI DDX_LBBits(CDataExchange* pDX, int nIDC, DWORD& dwBits)
@@ -51,14 +32,12 @@ void COutputPage::DoDataExchange(CDataExchange* pDX)
 	SETTINGS& settings = theApp.m_settings;
 	CPropertyPage::DoDataExchange(pDX);
 	DDX_Control(pDX, IDC_COLUMNS, m_wndColumns);
-	DDX_Text(pDX, IDC_FOLDER, settings.strFolder);
-	DDV_FolderExists(pDX, settings.strFolder);
 	DDX_LBBits(pDX, IDC_COLUMNS, settings.dwColumns);
 	DDX_Radio(pDX, IDC_SEP_COMMA, settings.nSeparator);
 }
 
 BEGIN_MESSAGE_MAP(COutputPage, CPropertyPage)
-	ON_BN_CLICKED(IDC_BROWSE, &COutputPage::OnBrowse)
+	ON_LBN_DBLCLK(IDC_COLUMNS, &COutputPage::OnDblclkColumns)
 	ON_LBN_SELCHANGE(IDC_COLUMNS, &COutputPage::OnSelchangeColumns)
 	ON_CONTROL_RANGE(BN_CLICKED, IDC_SEP_COMMA, IDC_SEP_SEMICOLON, &COutputPage::OnSeparator)
 END_MESSAGE_MAP()
@@ -66,24 +45,12 @@ END_MESSAGE_MAP()
 BOOL COutputPage::OnInitDialog()
 {
 	CPropertyPage::OnInitDialog();
+	int nTabs[] = { 18, 62 };
+	m_wndColumns.SetTabStops(2, nTabs);
+	m_wndColumns.SetHorizontalExtent(120);
+	m_wndColumns.SetTopIndex(0);
 	CheckRadioButton(IDC_SEP_COMMA, IDC_SEP_SEMICOLON, IDC_SEP_COMMA + theApp.m_settings.nSeparator);
 	return TRUE;
-}
-
-// The folder of a file that the user picks.
-void COutputPage::OnBrowse()
-{
-	CString strFilter;
-	VERIFY(strFilter.LoadString(IDS_FILE_FILTER));
-	CFileDialog dlg(FALSE, _T("csv"), _T("points.csv"), OFN_HIDEREADONLY | OFN_PATHMUSTEXIST, strFilter, this);
-	GetDlgItemText(IDC_FOLDER, theApp.m_settings.strFolder);
-	dlg.m_ofn.lpstrInitialDir = theApp.m_settings.strFolder;
-	if (dlg.DoModal() != IDOK)
-		return;
-	CString strPath = dlg.GetPathName();
-	strPath.Truncate(strPath.GetLength() - dlg.GetFileName().GetLength());
-	SetDlgItemText(IDC_FOLDER, strPath);
-	SetModified();
 }
 
 void COutputPage::OnSelchangeColumns()
@@ -97,15 +64,16 @@ void COutputPage::OnSelchangeColumns()
 	SetModified();
 }
 
-void COutputPage::OnSeparator(UINT /*nID*/)
+// All of them.
+void COutputPage::OnDblclkColumns()
 {
+	m_wndColumns.SetSel(-1);
 	SetModified();
 }
 
-BOOL COutputPage::OnKillActive()
+void COutputPage::OnSeparator(UINT /*nID*/)
 {
-	CWaitCursor wait;
-	return CPropertyPage::OnKillActive();
+	SetModified();
 }
 
 BOOL COutputPage::OnApply()

@@ -1,4 +1,4 @@
-// OutputPage.h : where measurements are written to, and how
+// OutputPage.h : how measurements are written
 //
 
 #pragma once
@@ -16,13 +16,12 @@ public:
 
 // Overrides
 	virtual BOOL OnInitDialog();
-	virtual BOOL OnKillActive();
 	virtual BOOL OnApply();
 
 protected:
 	virtual void DoDataExchange(CDataExchange* pDX);
 
-	afx_msg void OnBrowse();
+	afx_msg void OnDblclkColumns();
 	afx_msg void OnSelchangeColumns();
 	afx_msg void OnSeparator(UINT nID);
 	DECLARE_MESSAGE_MAP()

@@ -5,34 +5,18 @@
 #include "StationSetup.h"
 #include "SetupSheet.h"
 
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#endif
-
 IMPLEMENT_DYNAMIC(CSetupSheet, CPropertySheet)
 
 CSetupSheet::CSetupSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
 	: CPropertySheet(nIDCaption, pParentWnd, iSelectPage)
 {
-	AddPages();
-}
-
-CSetupSheet::CSetupSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
-	: CPropertySheet(pszCaption, pParentWnd, iSelectPage)
-{
-	AddPages();
+	AddPage(&m_instrument);
+	AddPage(&m_output);
+	m_psh.dwFlags |= PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
 }
 
 CSetupSheet::~CSetupSheet()
 {
-}
-
-void CSetupSheet::AddPages()
-{
-	AddPage(&m_instrument);
-	AddPage(&m_atmosphere);
-	AddPage(&m_output);
-	m_psh.dwFlags |= PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
 }
 
 BEGIN_MESSAGE_MAP(CSetupSheet, CPropertySheet)

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "InstrumentPage.h"
-#include "AtmospherePage.h"
 #include "OutputPage.h"
 
 class CSetupSheet : public CPropertySheet
@@ -13,17 +12,13 @@ class CSetupSheet : public CPropertySheet
 
 public:
 	CSetupSheet(UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
-	CSetupSheet(LPCTSTR pszCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
 	virtual ~CSetupSheet();
 
 	virtual BOOL OnInitDialog();
 
 protected:
 	CInstrumentPage m_instrument;
-	CAtmospherePage m_atmosphere;
 	COutputPage m_output;
-
-	void AddPages();
 
 	afx_msg void OnDestroy();
 	afx_msg BOOL OnToolTipText(UINT id, NMHDR* pNMHDR, LRESULT* pResult);

@@ -10,14 +10,12 @@
 #endif
 
 static const TCHAR szInstrument[] = _T("Instrument");
-static const TCHAR szAtmosphere[] = _T("Atmosphere");
 static const TCHAR szOutput[] = _T("Output");
 
 // SETTINGS
 
 SETTINGS::SETTINGS()
-	: strModel(_T("TS-2")), dHeight(1.5), nPrism(0), nConstant(0), bTracking(FALSE),
-	  nTemperature(15), nPressure(1013), bCurvature(TRUE), dwColumns(0x0F), nSeparator(0)
+	: strModel(_T("TS-2")), nPrism(0), nConstant(0), nPressure(1013), dwColumns(0x0F), nSeparator(0)
 {
 }
 
@@ -28,26 +26,17 @@ void SETTINGS::Load()
 	strSerial = pApp->GetProfileString(szInstrument, _T("Serial"));
 	nPrism = pApp->GetProfileInt(szInstrument, _T("Prism"), nPrism);
 	nConstant = (short)pApp->GetProfileInt(szInstrument, _T("Constant"), nConstant);
-	bTracking = pApp->GetProfileInt(szInstrument, _T("Tracking"), bTracking) != 0;
+	nPressure = max(500, min((int)pApp->GetProfileInt(szInstrument, _T("Pressure"), nPressure), 1100));
 
-	// a height has no profile function of its own: its bytes are kept
+	// the marked columns: their bytes are kept
 	LPBYTE pBytes = NULL;
 	UINT nBytes = 0;
-	if (pApp->GetProfileBinary(szInstrument, _T("Height"), &pBytes, &nBytes))
+	if (pApp->GetProfileBinary(szOutput, _T("Columns"), &pBytes, &nBytes))
 	{
-		if (nBytes == sizeof(dHeight))
-			memcpy(&dHeight, pBytes, nBytes);
+		if (nBytes == sizeof(dwColumns))
+			memcpy(&dwColumns, pBytes, nBytes);
 		delete [] pBytes;
 	}
-
-	nTemperature = pApp->GetProfileInt(szAtmosphere, _T("Temperature"), nTemperature);
-	nPressure = pApp->GetProfileInt(szAtmosphere, _T("Pressure"), nPressure);
-	bCurvature = pApp->GetProfileInt(szAtmosphere, _T("Curvature"), bCurvature) != 0;
-	nTemperature = max(-30, min(nTemperature, 50));
-	nPressure = max(500, min(nPressure, 1100));
-
-	strFolder = pApp->GetProfileString(szOutput, _T("Folder"), _T("C:\\"));
-	dwColumns = pApp->GetProfileInt(szOutput, _T("Columns"), dwColumns);
 	nSeparator = pApp->GetProfileInt(szOutput, _T("Separator"), nSeparator);
 }
 
@@ -58,19 +47,9 @@ void SETTINGS::Save() const
 	pApp->WriteProfileString(szInstrument, _T("Serial"), strSerial.IsEmpty() ? NULL : (LPCTSTR)strSerial);
 	pApp->WriteProfileInt(szInstrument, _T("Prism"), nPrism);
 	pApp->WriteProfileInt(szInstrument, _T("Constant"), nConstant);
-	pApp->WriteProfileInt(szInstrument, _T("Tracking"), bTracking);
-	pApp->WriteProfileBinary(szInstrument, _T("Height"), (LPBYTE)&dHeight, sizeof(dHeight));
-	pApp->WriteProfileInt(szAtmosphere, _T("Temperature"), nTemperature);
-	pApp->WriteProfileInt(szAtmosphere, _T("Pressure"), nPressure);
-	pApp->WriteProfileInt(szAtmosphere, _T("Curvature"), bCurvature);
-	pApp->WriteProfileString(szOutput, _T("Folder"), strFolder);
-	pApp->WriteProfileInt(szOutput, _T("Columns"), dwColumns);
+	pApp->WriteProfileInt(szInstrument, _T("Pressure"), nPressure);
+	pApp->WriteProfileBinary(szOutput, _T("Columns"), (LPBYTE)&dwColumns, sizeof(dwColumns));
 	pApp->WriteProfileInt(szOutput, _T("Separator"), nSeparator);
-}
-
-double SETTINGS::GetPpm() const
-{
-	return 281.8 - 0.29065 * nPressure / (1.0 + nTemperature / 273.15);
 }
 
 // CStationSetupApp
@@ -90,16 +69,6 @@ CStationSetupApp theApp;
 BOOL CStationSetupApp::IsFirst()
 {
 	return ::WaitForSingleObject(m_mutex, 0) != WAIT_TIMEOUT;
-}
-
-// Counts the runs and keeps the day of the last one.
-void CStationSetupApp::NoteUse()
-{
-	int nRuns = GetProfileInt(_T("Use"), _T("Runs"), 0) + 1;
-	WriteProfileInt(_T("Use"), _T("Runs"), nRuns);
-	CTime now = CTime::GetCurrentTime();
-	WriteProfileString(_T("Use"), _T("Last"), now.Format(_T("%Y-%m-%d")));
-	TRACE(_T("StationSetup: run %d at %s\n"), nRuns, now.Format(_T("%H:%M:%S")).GetString());
 }
 
 BOOL CStationSetupApp::InitInstance()
@@ -129,14 +98,13 @@ BOOL CStationSetupApp::InitInstance()
 		if (nResponse == IDOK)
 		{
 			CString strText;
-			strText.Format(IDS_SUMMARY, (LPCTSTR)m_settings.strModel, m_settings.dHeight, m_settings.GetPpm());
+			strText.Format(IDS_SUMMARY, (LPCTSTR)m_settings.strModel, m_settings.nPressure);
 			AfxMessageBox(strText, MB_OK | MB_ICONINFORMATION);
 		}
 		else if (nResponse == -1)
 		{
 			TRACE(traceAppMsg, 0, "StationSetup: the sheet could not be created.\n");
 		}
-		NoteUse();
 	}
 	else
 	{

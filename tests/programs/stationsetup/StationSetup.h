@@ -14,22 +14,15 @@ struct SETTINGS
 {
 	CString strModel;
 	CString strSerial;
-	double dHeight;			// metres
 	int nPrism;
 	int nConstant;			// tenths of a millimetre
-	BOOL bTracking;
-	int nTemperature;		// degrees Celsius
 	int nPressure;			// hectopascals
-	BOOL bCurvature;
-	CString strFolder;
 	DWORD dwColumns;		// a bit a column
 	int nSeparator;
 
 	SETTINGS();
 	void Load();
 	void Save() const;
-	// The correction of distances, millionths.
-	double GetPpm() const;
 };
 
 // CStationSetupApp
@@ -51,7 +44,6 @@ private:
 	CMutex m_mutex;
 
 	BOOL IsFirst();
-	void NoteUse();
 
 	DECLARE_MESSAGE_MAP()
 };

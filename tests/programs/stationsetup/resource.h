@@ -3,36 +3,22 @@
 //
 #define IDS_SHEET_TITLE                 101
 #define IDS_ALREADY_RUNNING             102
-#define IDS_PPM                         103
-#define IDS_FILE_FILTER                 104
-#define IDS_BAD_FOLDER                  105
 #define IDS_SUMMARY                     106
-#define IDS_TIP_HEIGHT                  107
+#define IDS_TIP_PRESSURE                107
 #define IDS_TIP_PRISM                   108
 #define IDS_TIP_OK                      109
 #define IDR_MAINFRAME                   128
 #define IDD_INSTRUMENT                  129
-#define IDD_ATMOSPHERE                  130
 #define IDD_OUTPUT                      131
 #define IDC_MODEL                       1000
-#define IDC_HEIGHT                      1001
 #define IDC_PRISM                       1002
 #define IDC_CONSTANT                    1003
-#define IDC_TRACKING                    1004
-#define IDC_TEMPERATURE                 1005
-#define IDC_TEMP_SLIDER                 1006
 #define IDC_PRESSURE                    1007
 #define IDC_PRESSURE_SPIN               1008
-#define IDC_PPM                         1009
-#define IDC_PPM_BAR                     1010
-#define IDC_CURVATURE                   1011
-#define IDC_FOLDER                      1012
-#define IDC_BROWSE                      1013
 #define IDC_COLUMNS                     1014
 #define IDC_SEP_COMMA                   1015
 #define IDC_SEP_TAB                     1016
 #define IDC_SEP_SEMICOLON               1017
-#define IDC_LAST_USED                   1018
 #define IDC_SERIAL                      1019
 
 // Next numbers

@@ -1,3 +1,0 @@
-// stdafx.cpp : the precompiled header comes from here
-
-#include "stdafx.h"
