@@ -15,7 +15,11 @@ constexpr int kFontHeight = 15;
 constexpr int kLongestName = 110; // wide; longer names end in dots
 constexpr int kLongestBar = 90;
 constexpr int kNamesInVain = 200; // one after the other: then the plan is full
-constexpr int kEdge = 6;          // from scale bar and north arrow to the border
+constexpr int kEdge = 4;          // from scale bar and north arrow to the border
+constexpr int kTick = 4;          // of the scale bar
+constexpr int kArrowHalfWidth = 6;
+constexpr int kArrowLength = 14;
+const CString kNorth = L"N";
 
 COLORREF ColorOf(Role role) {
     return role == Role::Result ? kResultColor : kGivenColor;
@@ -88,9 +92,13 @@ void CPlanPainter::Paint(const CDrawing& drawing) {
     m_dc.IntersectClipRect(m_view);
     PaintLines(drawing, Role::Given);
     PaintLines(drawing, Role::Result);
-    PaintScaleBar();
-    PaintNorthArrow();
-    PaintPoints(drawing.GetPoints());
+    const std::vector<const CDrawnPoint*> seen = FindSeen(drawing.GetPoints());
+    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), Px(kLongestBar));
+    const CRect barPlace = TakeBarPlace(bar);
+    const CRect arrowPlace = TakeArrowPlace();
+    PaintPoints(seen);
+    PaintScaleBar(bar, barPlace);
+    PaintNorthArrow(arrowPlace);
 }
 
 void CPlanPainter::PaintLines(const CDrawing& drawing, Role role) {
@@ -125,53 +133,60 @@ void CPlanPainter::PaintPieces(const std::vector<CSegment>& pieces, Role role) {
     }
 }
 
-void CPlanPainter::PaintScaleBar() {
-    const int nTick = Px(4);
-    const CScaleBar bar = FindScaleBar(m_scale.GetFactor(), Px(kLongestBar));
-    const CString strText = ScaleBarText(bar.dLength);
+CRect CPlanPainter::TakeBarPlace(const CScaleBar& bar) {
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&m_fonts.given);
+    const CSize text = m_dc.GetTextExtent(ScaleBarText(bar.dLength));
+    const CSize size(std::max<int>(bar.nPixels, text.cx) + Px(5), Px(kTick) + text.cy + 1 + Px(2));
+    return m_space.TakeCorner(size, Px(kEdge),
+                              {Corner::BottomLeft, Corner::BottomRight, Corner::TopLeft, Corner::TopRight});
+}
+
+void CPlanPainter::PaintScaleBar(const CScaleBar& bar, const CRect& place) {
+    const int nTick = Px(kTick);
     CPen pen(PS_SOLID, Px(2), kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&pen);
-    const CSize text = m_dc.GetTextExtent(strText);
-    const CPoint corner(m_view.left + Px(kEdge), m_view.bottom - Px(kEdge));
-    const CRect place(corner.x - Px(2), corner.y - nTick - text.cy - 1,
-                      corner.x + std::max<int>(bar.nPixels, text.cx) + Px(3), corner.y + Px(2));
     m_dc.FillSolidRect(place, kGroundColor);
     m_dc.SetTextColor(kGivenColor);
-    m_dc.TextOut(corner.x + Px(3), corner.y - nTick - text.cy + 1, strText);
+    const CPoint corner(place.left + Px(2), place.bottom - Px(2));
+    m_dc.TextOut(corner.x + Px(3), place.top + 2, ScaleBarText(bar.dLength));
     const POINT line[] = {{corner.x, corner.y - nTick},
                           {corner.x, corner.y},
                           {corner.x + bar.nPixels, corner.y},
                           {corner.x + bar.nPixels, corner.y - nTick}};
     m_dc.Polyline(line, 4);
-    m_space.Put(place, Space::Taken);
 }
 
-void CPlanPainter::PaintNorthArrow() {
-    const int nHalfWidth = Px(6);
-    const int nLength = Px(14);
+CRect CPlanPainter::TakeArrowPlace() {
+    const CKeepState state(m_dc);
+    m_dc.SelectObject(&m_fonts.given);
+    const CSize text = m_dc.GetTextExtent(kNorth);
+    const int nReach = std::max<int>(Px(kArrowHalfWidth), text.cx / 2) + Px(2);
+    return m_space.TakeCorner(CSize(2 * nReach, Px(kArrowLength) + text.cy + 2), Px(kEdge),
+                              {Corner::TopRight, Corner::TopLeft, Corner::BottomRight, Corner::BottomLeft});
+}
+
+void CPlanPainter::PaintNorthArrow(const CRect& place) {
+    const int nHalfWidth = Px(kArrowHalfWidth);
+    const int nLength = Px(kArrowLength);
     CBrush brush(kGivenColor);
     const CKeepState state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&brush);
-    const CString strNorth = L"N";
-    const CSize text = m_dc.GetTextExtent(strNorth);
-    const int nReach = std::max<int>(nHalfWidth, text.cx / 2) + Px(2);
-    const CPoint tip(m_view.right - Px(kEdge) - nReach, m_view.top + Px(kEdge));
-    const CRect place(tip.x - nReach, tip.y - 2, tip.x + nReach, tip.y + nLength + text.cy);
     m_dc.FillSolidRect(place, kGroundColor);
+    const CPoint tip(place.CenterPoint().x, place.top + 2);
     const POINT arrow[] = {tip,
                            {tip.x + nHalfWidth, tip.y + nLength},
                            {tip.x, tip.y + nLength - Px(4)},
                            {tip.x - nHalfWidth, tip.y + nLength}};
     m_dc.Polygon(arrow, 4);
     m_dc.SetTextColor(kGivenColor);
-    m_dc.TextOut(tip.x - text.cx / 2, tip.y + nLength - 1, strNorth);
-    m_space.Put(place, Space::Taken);
+    m_dc.TextOut(tip.x - m_dc.GetTextExtent(kNorth).cx / 2, tip.y + nLength - 1, kNorth);
 }
 
-void CPlanPainter::PaintPoints(const std::vector<CDrawnPoint>& points) {
+std::vector<const CDrawnPoint*> CPlanPainter::FindSeen(const std::vector<CDrawnPoint>& points) {
     CRect mark;
     std::vector<const CDrawnPoint*> seen;
     CThinning thinning(m_view.Size());
@@ -180,6 +195,10 @@ void CPlanPainter::PaintPoints(const std::vector<CDrawnPoint>& points) {
             seen.push_back(&point);
             m_space.Put(mark, Space::Mark);
         }
+    return seen;
+}
+
+void CPlanPainter::PaintPoints(std::vector<const CDrawnPoint*> seen) {
     const auto firstGiven = std::stable_partition(
         seen.begin(), seen.end(), [](const CDrawnPoint* p) { return p->role == Role::Result; });
     const CKeepState state(m_dc);

@@ -19,8 +19,9 @@ struct CPlanFonts {
     void Create(const CFont& like, int nResolution = AFX_DESIGN_DPI);
 };
 
-/// Paints one picture: lines and arcs, scale bar and north arrow, points with their names. A name
-/// for which there is no room is left out until the plan is zoomed; names of results come first.
+/// Paints one picture: lines and arcs, points with their names, scale bar and north arrow. A name
+/// for which there is no room is left out until the plan is zoomed; names of results come first. Bar
+/// and arrow go to corners without marks, and over the marks if there are none.
 class CPlanPainter {
 public:
     /// All must outlive the painter.
@@ -35,9 +36,13 @@ private:
     int Px(int nPixels) const { return ::MulDiv(nPixels, m_fonts.nDpi, AFX_DESIGN_DPI); }
     void PaintLines(const CDrawing& drawing, Role role);
     void PaintPieces(const std::vector<CSegment>& pieces, Role role);
-    void PaintScaleBar();
-    void PaintNorthArrow();
-    void PaintPoints(const std::vector<CDrawnPoint>& points);
+    /// @param seen points in the view
+    void PaintPoints(std::vector<const CDrawnPoint*> seen);
+    std::vector<const CDrawnPoint*> FindSeen(const std::vector<CDrawnPoint>& points);
+    CRect TakeBarPlace(const CScaleBar& bar);
+    void PaintScaleBar(const CScaleBar& bar, const CRect& place);
+    CRect TakeArrowPlace();
+    void PaintNorthArrow(const CRect& place);
     /// @return false if there is no room for it
     bool PaintName(const CDrawnPoint& point);
     /// @param points all in the view and of that role

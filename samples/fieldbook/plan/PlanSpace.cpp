@@ -83,3 +83,21 @@ bool CPlanSpace::PlaceName(const CRect& mark, CSize name, Space worst, CRect& pl
     Put(place, Space::Taken);
     return true;
 }
+
+CRect CPlanSpace::TakeCorner(CSize size, int nEdge, std::initializer_list<Corner> corners) {
+    const auto placeIn = [&](Corner corner) {
+        const bool bRight = corner == Corner::TopRight || corner == Corner::BottomRight;
+        const bool bBottom = corner == Corner::BottomLeft || corner == Corner::BottomRight;
+        return CRect(CPoint(bRight ? m_view.right - nEdge - size.cx : m_view.left + nEdge,
+                            bBottom ? m_view.bottom - nEdge - size.cy : m_view.top + nEdge),
+                     size);
+    };
+    // A line is no reason to go: it goes on beside the place, and a mark does not.
+    const auto worstIn = [&](Corner corner) {
+        return std::max(WorstIn(placeIn(corner) & m_view), Space::Line);
+    };
+    const Corner best = *std::min_element(corners.begin(), corners.end(),
+                                          [&](Corner a, Corner b) { return worstIn(a) < worstIn(b); });
+    Put(placeIn(best), Space::Taken);
+    return placeIn(best);
+}

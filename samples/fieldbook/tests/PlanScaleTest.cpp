@@ -184,6 +184,29 @@ TEST(PlanSpace, NameKeepsOffALineWhileThereIsRoomElsewhere) {
     EXPECT_NE(place, onLine);
 }
 
+TEST(PlanSpace, ScaleAndArrowGoToCornersWithoutMarks) {
+    const auto takeIn = [](CPlanSpace& space) {
+        return space.TakeCorner(CSize(60, 20), 4, {Corner::BottomLeft, Corner::TopRight});
+    };
+    const CRect bottomLeft(CPoint(4, VIEW.cy - 24), CSize(60, 20)),
+        topRight(CPoint(VIEW.cx - 64, 4), CSize(60, 20));
+    const Rows<const char*, std::vector<CRect>, Space, CRect, CRect> cases = {
+        {"nothing there", {}, Space::Mark, bottomLeft, topRight},
+        {"a line may go through", {bottomLeft}, Space::Line, bottomLeft, topRight},
+        {"a mark in the first corner", {bottomLeft}, Space::Mark, topRight, bottomLeft},
+        {"marks everywhere", {bottomLeft, topRight}, Space::Mark, bottomLeft, topRight},
+    };
+    for (const auto& [pszCase, there, what, first, second] : cases) {
+        SCOPED_TRACE(pszCase);
+        CPlanSpace space(VIEW);
+        for (const CRect& rect : there)
+            space.Put(rect, what);
+        EXPECT_TRUE(takeIn(space) == first && takeIn(space) == second);
+    }
+    CPlanSpace none(CSize(0, 0));
+    takeIn(none);
+}
+
 TEST(PlanSpace, OnlyAllowedNamesLieOnMarksAndNoneOnAName) {
     CPlanSpace space(VIEW);
     space.Put(VIEW_RECT, Space::Mark);
