@@ -18,16 +18,19 @@ public:
     /// @param strPointsPath the points file; the journal gets its name with "_results.txt"
     void SetPointsPath(const CString& strPointsPath);
 
-    /// Appends a title, with the time, and its lines. A journal that cannot be written is told once and then
-    /// only remembered: the results themselves are on the screen.
+    /// Appends a title, with the time, and its lines. That it cannot be written is told once; then what is
+    /// missing comes with the next result.
     void Append(const CString& strTitle, const std::vector<CString>& lines);
 
     /// The results since the points file was opened, not those that were in the journal before.
     const std::vector<CJournalEntry>& GetEntries() const { return m_entries; }
 
 private:
-    CString m_strPath;
+    void WriteMissing();
+
+    CString m_strPath; ///< Empty without a file.
     CString m_strFile; ///< The name of the points file.
-    bool m_bWritable = false;
     std::vector<CJournalEntry> m_entries;
+    size_t m_nWritten = 0; ///< So many of them are in the file, or not meant for it.
+    bool m_bTold = false;  ///< That it cannot be written.
 };

@@ -204,6 +204,23 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
     EXPECT_TRUE(IsSamePath(m_pJob->settings.strPrevious, other.GetPath()));
 }
 
+TEST_F(JobFile, ResultThatCouldNotBeWrittenComesWithTheNext) {
+    const CTestFile results(L"fieldbook-job_results.txt");
+    ASSERT_TRUE(::CreateDirectory(results.GetPath(), nullptr));
+    CJournal journal(m_file.GetPath());
+    const auto appendTwo = [&] {
+        journal.Append(L"A", {L"1"});
+        journal.Append(L"B", {});
+        return 1;
+    };
+    Play(appendTwo, {Answer(IDOK)}); // told once
+    ::RemoveDirectory(results.GetPath());
+    journal.Append(L"C", {});
+    const std::string text = results.Read();
+    const size_t nA = text.find("  A\r\n1\r\n"), nB = text.find("  B\r\n"), nC = text.find("  C\r\n");
+    EXPECT_TRUE(nA < nB && nB < nC && nC + 5 == text.size()) << text;
+}
+
 // --- Entry, edit and list by pen ------------------------------------------------------------------
 
 /// "N" and "E" tap a field, digits, "-" and "!" for Enter are typed, "+" stores, "x" closes, "end" ends the
