@@ -4,17 +4,22 @@
 # which no time is.
 
 count_instructions() {
-    count_instructions_of kernel
-    count_instructions_of portable
+    local kernel=$build/bench-counts/kernel
+    logged configure-counts cmake -S "$root/bench/kernel" -B "$kernel" -G Ninja
+    logged build-counts ninja -C "$kernel" -j"$(nproc)" kernel_instructions
+    count_instructions_of kernel "$kernel"
+    # The package's library has been built already.
+    logged configure-linux configure_preset linux
+    logged build-portable ninja -C "$build/linux" -j"$(nproc)" portable_instructions
+    count_instructions_of portable "$build/linux"
 }
 
-# count_instructions_of BENCH: adds to "passed" and "failed" like the test programs. Leaves the
-# counts in build/bench-counts/BENCH/instructions.txt, in the form of the expected ones.
+# count_instructions_of BENCH BUILD: adds to "passed" and "failed" like the test programs. Leaves
+# the counts in build/bench-counts/BENCH/instructions.txt, in the form of the expected ones.
 count_instructions_of() {
     local counts=$root/bench/$1/instructions.txt folder=$build/bench-counts/$1 start=$EPOCHREALTIME
-    local program=$folder/bin/$1_instructions good=0 bad=0 problems=() workload expected count
-    logged "configure-counts-$1" cmake -S "$root/bench/$1" -B "$folder" -G Ninja
-    logged "build-counts-$1" ninja -C "$folder" -j"$(nproc)" "$1_instructions"
+    local program=$2/bin/$1_instructions good=0 bad=0 problems=() workload expected count
+    mkdir -p "$folder"
     grep '^#' "$counts" >"$folder/instructions.txt"
     while read -r workload expected; do
         count=$(instructions_of "$program" "$workload" "$folder/$workload.log")
