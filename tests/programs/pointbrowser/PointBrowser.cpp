@@ -11,10 +11,6 @@ BEGIN_MESSAGE_MAP(CPointBrowserApp, CWinApp)
 	ON_COMMAND(ID_HELP, CWinApp::OnHelp)
 END_MESSAGE_MAP()
 
-CPointBrowserApp::CPointBrowserApp()
-{
-}
-
 CPointBrowserApp theApp;
 
 BOOL CPointBrowserApp::InitInstance()

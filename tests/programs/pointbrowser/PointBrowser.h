@@ -11,9 +11,6 @@
 
 class CPointBrowserApp : public CWinApp
 {
-public:
-	CPointBrowserApp();
-
 	//{{AFX_VIRTUAL(CPointBrowserApp)
 	public:
 	virtual BOOL InitInstance();

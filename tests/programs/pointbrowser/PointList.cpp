@@ -15,7 +15,6 @@ CPointListCtrl::CPointListCtrl()
 BEGIN_MESSAGE_MAP(CPointListCtrl, CListCtrl)
 	//{{AFX_MSG_MAP(CPointListCtrl)
 	ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, OnColumnclick)
-	ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, OnCustomDraw)
 	ON_WM_KEYDOWN()
 	//}}AFX_MSG_MAP
 END_MESSAGE_MAP()
@@ -133,31 +132,6 @@ void CPointListCtrl::OnColumnclick(NMHDR* pNMHDR, LRESULT* pResult)
 	NM_LISTVIEW* pNMListView = (NM_LISTVIEW*)pNMHDR;
 	Sort(pNMListView->iSubItem, pNMListView->iSubItem == m_nSortColumn ? !m_bAscending : TRUE);
 	*pResult = 0;
-}
-
-// Every other line is grey, heights below zero are red.
-void CPointListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
-{
-	NMLVCUSTOMDRAW* pLVCD = reinterpret_cast<NMLVCUSTOMDRAW*>(pNMHDR);
-	*pResult = CDRF_DODEFAULT;
-	switch (pLVCD->nmcd.dwDrawStage)
-	{
-	case CDDS_PREPAINT:
-		*pResult = CDRF_NOTIFYITEMDRAW;
-		break;
-	case CDDS_ITEMPREPAINT:
-		pLVCD->clrTextBk = pLVCD->nmcd.dwItemSpec % 2 ? RGB(236, 240, 244) : GetSysColor(COLOR_WINDOW);
-		*pResult = CDRF_NOTIFYSUBITEMDRAW;
-		break;
-	case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
-		{
-			const CSurveyPoint* pPoint = (const CSurveyPoint*)pLVCD->nmcd.lItemlParam;
-			pLVCD->clrText = GetSysColor(COLOR_WINDOWTEXT);
-			if (pLVCD->iSubItem == COL_HEIGHT && pPoint->m_dHeight < 0.0)
-				pLVCD->clrText = RGB(200, 0, 0);
-		}
-		break;
-	}
 }
 
 void CPointListCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)

@@ -30,7 +30,6 @@ protected:
 
 	//{{AFX_MSG(CPointListCtrl)
 	afx_msg void OnColumnclick(NMHDR* pNMHDR, LRESULT* pResult);
-	afx_msg void OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult);
 	afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
 	//}}AFX_MSG
 	DECLARE_MESSAGE_MAP()

@@ -21,14 +21,3 @@
 #define ID_POINT_DELETE                 32773
 #define ID_FILE_EXPORT                  32775
 #define IDC_MENU_BUTTON                 1009
-
-// Next numbers
-//
-#ifdef APSTUDIO_INVOKED
-#ifndef APSTUDIO_READONLY_SYMBOLS
-#define _APS_NEXT_RESOURCE_VALUE        130
-#define _APS_NEXT_COMMAND_VALUE         32776
-#define _APS_NEXT_CONTROL_VALUE         1010
-#define _APS_NEXT_SYMED_VALUE           101
-#endif
-#endif

@@ -11,10 +11,6 @@ BEGIN_MESSAGE_MAP(CRangeSketchApp, CWinApp)
 	ON_COMMAND(ID_HELP, CWinApp::OnHelp)
 END_MESSAGE_MAP()
 
-CRangeSketchApp::CRangeSketchApp()
-{
-}
-
 CRangeSketchApp theApp;
 
 BOOL CRangeSketchApp::InitInstance()
@@ -37,12 +33,6 @@ BOOL CRangeSketchApp::InitInstance()
 	pDlg->ShowWindow(m_nCmdShow);
 	pDlg->UpdateWindow();
 	return TRUE;
-}
-
-int CRangeSketchApp::ExitInstance()
-{
-	TRACE("RangeSketch: end\n");
-	return CWinApp::ExitInstance();
 }
 
 BOOL CRangeSketchApp::OnIdle(LONG lCount)

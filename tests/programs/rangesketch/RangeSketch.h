@@ -8,9 +8,7 @@
 class CRangeSketchApp : public CWinApp
 {
 public:
-	CRangeSketchApp();
 	virtual BOOL InitInstance();
-	virtual int ExitInstance();
 	virtual BOOL OnIdle(LONG lCount);
 
 	afx_msg void OnAppAbout();

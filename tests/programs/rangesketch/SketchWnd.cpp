@@ -13,18 +13,13 @@ static char THIS_FILE[] = __FILE__;
 
 static const TCHAR szClassName[] = _T("RangeSketchWnd");
 static const int nGrid = 10;		// pixels
-static const UINT nBlinkTimer = 1;
 
 IMPLEMENT_DYNCREATE(CSketchWnd, CWnd)
 
 CSketchWnd::CSketchWnd()
-	: m_nScale(100), m_bDragging(FALSE), m_bBlink(FALSE), m_nTimer(0), m_ptDrag(0, 0), m_sizeBuffer(0, 0)
+	: m_nScale(100), m_bDragging(FALSE), m_ptDrag(0, 0), m_sizeBuffer(0, 0)
 {
 	RegisterWindowClass();
-}
-
-CSketchWnd::~CSketchWnd()
-{
 }
 
 BOOL CSketchWnd::RegisterWindowClass(HINSTANCE hInstance)
@@ -58,7 +53,6 @@ BEGIN_MESSAGE_MAP(CSketchWnd, CWnd)
 	ON_WM_GETDLGCODE()
 	ON_WM_SETFOCUS()
 	ON_WM_KILLFOCUS()
-	ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 void CSketchWnd::PreSubclassWindow()
@@ -186,7 +180,7 @@ void CSketchWnd::DrawPoints(CDC* pDC)
 	{
 		CRect rectMark(m_points[i], CSize(0, 0));
 		rectMark.InflateRect(3, 3);
-		CBrush brMark(i == nCount - 1 && m_bBlink ? RGB(255, 64, 64) : RGB(255, 255, 255));
+		CBrush brMark(i == nCount - 1 ? RGB(255, 64, 64) : RGB(255, 255, 255));
 		CBrush* pOldBrush = pDC->SelectObject(&brMark);
 		pDC->Ellipse(rectMark);
 		pDC->SelectObject(pOldBrush);
@@ -297,27 +291,11 @@ UINT CSketchWnd::OnGetDlgCode()
 void CSketchWnd::OnSetFocus(CWnd* pOldWnd)
 {
 	CWnd::OnSetFocus(pOldWnd);
-	m_nTimer = SetTimer(nBlinkTimer, 500, NULL);
 	Invalidate(FALSE);
 }
 
 void CSketchWnd::OnKillFocus(CWnd* pNewWnd)
 {
 	CWnd::OnKillFocus(pNewWnd);
-	if (m_nTimer != 0)
-		KillTimer(m_nTimer);
-	m_nTimer = 0;
-	m_bBlink = FALSE;
 	Invalidate(FALSE);
-}
-
-void CSketchWnd::OnTimer(UINT nIDEvent)
-{
-	if (nIDEvent == nBlinkTimer)
-	{
-		m_bBlink = !m_bBlink;
-		if (!m_bDragging)
-			Invalidate(FALSE);
-	}
-	CWnd::OnTimer(nIDEvent);
 }

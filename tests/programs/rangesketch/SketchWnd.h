@@ -14,7 +14,6 @@ class CSketchWnd : public CWnd
 
 public:
 	CSketchWnd();
-	virtual ~CSketchWnd();
 
 	// The name that the dialog's template has for it.
 	static BOOL RegisterWindowClass(HINSTANCE hInstance = NULL);
@@ -42,8 +41,6 @@ protected:
 	CPointArray m_points;
 	int m_nScale;
 	BOOL m_bDragging;
-	BOOL m_bBlink;
-	UINT_PTR m_nTimer;
 	CPoint m_ptDrag;
 	CBitmap m_bmpBuffer;
 	CSize m_sizeBuffer;
@@ -67,6 +64,5 @@ protected:
 	afx_msg UINT OnGetDlgCode();
 	afx_msg void OnSetFocus(CWnd* pOldWnd);
 	afx_msg void OnKillFocus(CWnd* pNewWnd);
-	afx_msg void OnTimer(UINT nIDEvent);
 	DECLARE_MESSAGE_MAP()
 };

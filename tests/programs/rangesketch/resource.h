@@ -16,14 +16,3 @@
 #define IDC_COMPUTE                     1003
 #define IDC_CLEAR                       1004
 #define IDC_SCALE                       1006
-
-// Next numbers
-//
-#ifdef APSTUDIO_INVOKED
-#ifndef APSTUDIO_READONLY_SYMBOLS
-#define _APS_NEXT_RESOURCE_VALUE        131
-#define _APS_NEXT_COMMAND_VALUE         32771
-#define _APS_NEXT_CONTROL_VALUE         1009
-#define _APS_NEXT_SYMED_VALUE           101
-#endif
-#endif

@@ -15,10 +15,6 @@ CInstrumentPage::CInstrumentPage() : CPropertyPage(CInstrumentPage::IDD)
 	m_psp.dwFlags &= ~PSP_HASHELP;
 }
 
-CInstrumentPage::~CInstrumentPage()
-{
-}
-
 void CInstrumentPage::DoDataExchange(CDataExchange* pDX)
 {
 	SETTINGS& settings = theApp.m_settings;

@@ -9,7 +9,6 @@ class CInstrumentPage : public CPropertyPage
 
 public:
 	CInstrumentPage();
-	virtual ~CInstrumentPage();
 
 // Dialog Data
 	enum { IDD = IDD_INSTRUMENT };

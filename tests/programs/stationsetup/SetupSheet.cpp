@@ -15,10 +15,6 @@ CSetupSheet::CSetupSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
 	m_psh.dwFlags |= PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
 }
 
-CSetupSheet::~CSetupSheet()
-{
-}
-
 BEGIN_MESSAGE_MAP(CSetupSheet, CPropertySheet)
 	ON_WM_DESTROY()
 	ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &CSetupSheet::OnToolTipText)

@@ -12,7 +12,6 @@ class CSetupSheet : public CPropertySheet
 
 public:
 	CSetupSheet(UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
-	virtual ~CSetupSheet();
 
 	virtual BOOL OnInitDialog();
 

@@ -111,16 +111,8 @@ BOOL CStationSetupApp::InitInstance()
 		AfxMessageBox(IDS_ALREADY_RUNNING);
 	}
 
-	if (pShellManager != NULL)
-	{
-		delete pShellManager;
-	}
+	delete pShellManager;
 
-	return FALSE;
-}
-
-int CStationSetupApp::ExitInstance()
-{
 	TRACE0("StationSetup: end\n");
-	return CWinApp::ExitInstance();
+	return FALSE;
 }

@@ -37,7 +37,6 @@ public:
 // Overrides
 public:
 	virtual BOOL InitInstance();
-	virtual int ExitInstance();
 
 // Implementation
 private:
