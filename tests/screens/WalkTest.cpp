@@ -20,6 +20,12 @@ using namespace testkit;
 
 namespace {
 
+/// In a language.
+struct EveryScreen : testing::TestWithParam<LANGID> {
+    void SetUp() override { AfxSetResourceLanguage(GetParam()); }
+    void TearDown() override { AfxSetResourceLanguage(0); }
+};
+
 constexpr wchar_t QUESTION[] = L"\\作業\\測点.csvは既に存在します。\n上書きしますか？";
 
 std::string FaultsNow() {
@@ -37,7 +43,7 @@ std::string FaultsOf(Dialog&& dialog) {
     return faults;
 }
 
-TEST(EveryScreen, FileAndFolderDialogsShowAllTheyHave) {
+TEST_P(EveryScreen, FileAndFolderDialogsShowAllTheyHave) {
     Drive drive;
     drive.MakeFolder(L"\\作業");
     drive.MakeFile(L"\\作業\\測点.csv", 123456);
@@ -51,7 +57,7 @@ TEST(EveryScreen, FileAndFolderDialogsShowAllTheyHave) {
     EXPECT_EQ("", FaultsOf(CBrowseFolderDlg(L"\\作業", nullptr)));
 }
 
-TEST(EveryScreen, InputAndResultShowAllTheyHave) {
+TEST_P(EveryScreen, InputAndResultShowAllTheyHave) {
     EXPECT_EQ("", FaultsOf(CInputDlg(L"新しい点の点名を入れてください", L"点の登録", nullptr)));
     CResultDlg popup(L"3件の結果があります", L"結果", nullptr), full(1500, 1501, nullptr);
     for (CResultDlg* const pDialog : {&popup, &full}) {
@@ -60,7 +66,7 @@ TEST(EveryScreen, InputAndResultShowAllTheyHave) {
     }
 }
 
-TEST(EveryScreen, MembersAndMenusShowAllTheyHave) {
+TEST_P(EveryScreen, MembersAndMenusShowAllTheyHave) {
     EXPECT_EQ("", FaultsOf(CSelMemberDlg(L"書き出す項目", nullptr)));
     for (const int nEntries : {1, 3, 8}) {
         CUIntArray entries;
@@ -70,7 +76,7 @@ TEST(EveryScreen, MembersAndMenusShowAllTheyHave) {
     }
 }
 
-TEST(EveryScreen, PagesOfASheetShowAllTheyHave) {
+TEST_P(EveryScreen, PagesOfASheetShowAllTheyHave) {
     struct Page : CnPropertyPage {
         using CnPropertyPage::CnPropertyPage;
         BOOL OnInitDialog() override { return CnPropertyPage::OnInitDialog(), Anchor(100, 0, 0, 100, 0); }
@@ -87,7 +93,7 @@ TEST(EveryScreen, PagesOfASheetShowAllTheyHave) {
     });
 }
 
-TEST(EveryScreen, AQuestionShowsAllItHas) {
+TEST_P(EveryScreen, AQuestionShowsAllItHas) {
     std::string faults;
     const auto answer = [] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(IDNO)); };
     EXPECT_EQ(IDNO, Play([] { return CResMsgBox().WarningMsgBox(QUESTION); },
@@ -114,7 +120,7 @@ Step UntilClear(int nID) {
     };
 }
 
-TEST(EveryScreen, ButtonsOfPopupsAndQuestionsStayClearOfThePanel) {
+TEST_P(EveryScreen, ButtonsOfPopupsAndQuestionsStayClearOfThePanel) {
     Behind behind;
     CInputDlg input(L"点名", L"登録", &behind);
     const auto tap = [](int nID) { return [nID] { pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nID)); }; };
@@ -129,7 +135,9 @@ TEST(EveryScreen, ButtonsOfPopupsAndQuestionsStayClearOfThePanel) {
     panel::Close();
 }
 
-TEST(EveryScreen, SharedIconsAreDrawnForItsResolution) {
+INSTANTIATE_TEST_SUITE_P(In, EveryScreen, testing::ValuesIn(fx::WalkLanguages()));
+
+TEST(SharedIcons, AreDrawnForTheScreensResolution) {
     ICONINFO info = {};
     ASSERT_TRUE(::GetIconInfo(TVGetCommonIcon(TVICON_FOLDER), &info));
     BITMAP bitmap = {};

@@ -11,6 +11,16 @@
 
 namespace fx {
 
+/// What the screens are walked over in. The sizes of texts are decided on the device's screen, upright
+/// and turned, where a walk is short: larger ones only have more room.
+inline std::vector<LANGID> WalkLanguages() {
+    constexpr int MOST = 320;
+    std::vector<LANGID> languages = {MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT)};
+    if (Screen().Width() <= MOST)
+        languages.push_back(MAKELANGID(LANG_ENGLISH, SUBLANG_DEFAULT));
+    return languages;
+}
+
 class ScreenWalk {
 public:
     /// @return a line for each fault, nothing for a window that is as it should be
@@ -197,6 +207,11 @@ private:
             return;
         CRect client;
         ::GetClientRect(hControl, client);
+        // What has room for an icon only shows that alone.
+        constexpr int ICON_BUTTON = 32;
+        const bool bOwnerDrawn = !bStatic && (dwStyle & BS_TYPEMASK) == BS_OWNERDRAW;
+        if (bOwnerDrawn && client.Width() < AfxScale(hControl, ICON_BUTTON))
+            return;
         const CString strText = Text(hControl);
         CRect text(0, 0, client.Width(), 0);
         dc.DrawText(strText, text,

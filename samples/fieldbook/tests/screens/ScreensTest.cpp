@@ -7,12 +7,17 @@
 #include "tests/WindowCloser.h"
 
 #include <optional>
+#include <tuple>
 
 using namespace testkit;
 
 namespace {
 
-class FieldbookScreen : public testing::TestWithParam<AppScreen> {};
+/// A screen in a language.
+struct FieldbookScreen : testing::TestWithParam<std::tuple<AppScreen, LANGID>> {
+    void SetUp() override { AfxSetResourceLanguage(std::get<LANGID>(GetParam())); }
+    void TearDown() override { AfxSetResourceLanguage(0); }
+};
 
 /// The faults of each page of a sheet, or of any other window.
 std::string FaultsOfPages(HWND hWnd) {
@@ -42,11 +47,17 @@ TEST_P(FieldbookScreen, ShowsAllItHas) {
         if (auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hWnd)))
             pSheet->EndDialog(IDCANCEL); // its title bar only has OK
     };
-    Play([&] { return GetParam().open(job, &owner), 0; }, {look});
+    Play([&] { return std::get<AppScreen>(GetParam()).open(job, &owner), 0; }, {look});
     EXPECT_EQ("", faults);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, FieldbookScreen, testing::ValuesIn(SCREENS),
-                         [](const auto& test) { return std::string(test.param.pszName); });
+INSTANTIATE_TEST_SUITE_P(All, FieldbookScreen,
+                         testing::Combine(testing::ValuesIn(SCREENS), testing::ValuesIn(fx::WalkLanguages())),
+                         [](const auto& test) {
+                             const bool bEnglish =
+                                 PRIMARYLANGID(std::get<LANGID>(test.param)) == LANG_ENGLISH;
+                             return std::get<AppScreen>(test.param).pszName +
+                                    std::string(bEnglish ? "En" : "");
+                         });
 
 } // namespace
