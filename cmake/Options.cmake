@@ -52,8 +52,7 @@ target_compile_options(fieldkit_warnings INTERFACE
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   # Of these clang's groups hold more than those of g++: conversions of signs, an enumerator with the
   # name of a C function, a Create with other arguments than the base's. The others are meant: the
-  # kernel's & of comparisons, which saves branches, CWnd::GetSafeHwnd of null objects, and the >> of
-  # DECLARE_SERIAL in a class that one source has for itself.
+  # kernel's & of comparisons, which saves branches, and CWnd::GetSafeHwnd of null objects.
   target_compile_options(fieldkit_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-sign-conversion;-Wno-shadow;-Wno-overloaded-virtual;-Wno-bitwise-instead-of-logical;-Wno-tautological-undefined-compare>)
 endif()
 

@@ -5,7 +5,7 @@ lint_folders=(api framework companion geometry survey util controls dialogs reso
 
 # The quick ones first; each step is an error when it finds anything.
 run_lint() {
-    require clang-format clang-tidy shellcheck python3
+    require clang-format clang-tidy shellcheck python3 g++-mingw-w64-i686-posix
     logged lint-format check_format
     logged lint-scripts check_scripts
     logged lint-arrows check_arrows
@@ -58,14 +58,15 @@ check_members() {
     return 1
 }
 
-# Each public header is enough by itself, from the oldest standard on that applications use.
+# Each public header is enough by itself, from the oldest standard on that applications use; all of
+# them at once also where pointers have four bytes.
 check_headers() {
-    local sum
+    local sum options=(-std=c++17 -fsyntax-only -Wall -Wextra -Wpedantic -Werror -D_WIN32_WINNT=0x0601 -DUNICODE
+        -D_UNICODE "-I$root" "-I$root/framework" "-I$root/companion" -isystem /usr/src/googletest/googletest/include)
     sum=$build/lint/passed/headers-$(public_headers | xargs cat | sha1sum | cut -c 1-40)
     [[ ! -e $sum ]] || return 0
-    public_headers | xargs -P "$(nproc)" -I '{}' x86_64-w64-mingw32-g++-posix -std=c++17 -fsyntax-only \
-        -Wall -Wextra -Wpedantic -Werror -D_WIN32_WINNT=0x0601 -DUNICODE -D_UNICODE \
-        -I"$root" -I"$root/framework" -I"$root/companion" -isystem /usr/src/googletest/googletest/include -include '{}' -x c++ /dev/null ||
+    public_headers | sed 's/.*/#include "&"/' | i686-w64-mingw32-g++-posix "${options[@]}" -x c++ - || return
+    public_headers | xargs -P "$(nproc)" -I '{}' x86_64-w64-mingw32-g++-posix "${options[@]}" -include '{}' -x c++ /dev/null ||
         return
     mkdir -p "$build/lint/passed"
     : >"$sum"
