@@ -10,22 +10,27 @@
 
 using namespace fieldkit::detail;
 
+namespace fieldkit::detail {
+
+// Both are known to the system's headers only in programs for newer systems. Not in an unnamed
+// namespace: the compiler would take it that nobody implements them.
+
+/// The switch of the keyboard; Windows has it since version 10.
+struct IKeyboardSwitch : IUnknown {
+    virtual HRESULT STDMETHODCALLTYPE Toggle(HWND window) = 0;
+};
+
 /// Knows the place of whatever keyboard is on the screen; since version 8.
-struct fieldkit::detail::IInputPane : IUnknown {
+struct IInputPane : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE Advise(IUnknown*, IUnknown*, DWORD*) = 0;
     virtual HRESULT STDMETHODCALLTYPE AdviseWithHWND(HWND, IUnknown*, DWORD*) = 0;
     virtual HRESULT STDMETHODCALLTYPE Unadvise(DWORD) = 0;
     virtual HRESULT STDMETHODCALLTYPE Location(RECT* place) = 0;
 };
 
+} // namespace fieldkit::detail
+
 namespace {
-
-// The headers lack this and the other one for programs that also run on older systems.
-
-/// The switch of the keyboard; Windows has it since version 10.
-struct ISwitch : IUnknown {
-    virtual HRESULT STDMETHODCALLTYPE Toggle(HWND window) = 0;
-};
 
 constexpr wchar_t kProgram[] = L"\\microsoft shared\\ink\\TabTip.exe";
 constexpr wchar_t kWindowClass[] = L"IPTip_Main_Window";
@@ -96,8 +101,8 @@ HWND Window() {
 
 /// @return false if this system has no switch
 bool Toggle() {
-    const std::unique_ptr<ISwitch, Release> object(
-        static_cast<ISwitch*>(SystemObjects().Create(kSwitchClass, kSwitchId)));
+    const std::unique_ptr<IKeyboardSwitch, Release> object(
+        static_cast<IKeyboardSwitch*>(SystemObjects().Create(kSwitchClass, kSwitchId)));
     return object != nullptr && SUCCEEDED(object->Toggle(::GetDesktopWindow()));
 }
 
@@ -123,8 +128,9 @@ bool SystemKeyboard::Show() {
 void SystemKeyboard::Hide() {
     if (!m_open)
         return;
-    if (!IsEmpty(Place()) && !::PostMessageW(Window(), WM_SYSCOMMAND, SC_CLOSE, 0))
-        Toggle();
+    const HWND window = Window();
+    if (!IsEmpty(Place()) && !Toggle() && window != nullptr)
+        ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
     Close();
 }
 

@@ -11,6 +11,8 @@
 
 #include "Tesuvo.h"
 
+#include <unknwn.h>
+
 using namespace testkit;
 
 namespace {
@@ -131,6 +133,78 @@ TEST_F(SystemKeyboard, StandsInForThePanelAndDialogsMakeRoomForIt) {
                 [] { TVUseSystemKeyboard(FALSE), TVShowSIP(1); },
                 [] { return panel::IsVisible() && Keyboard() == nullptr; }});
     panel::Close();
+}
+
+/// The system's objects about the keyboard, as newer systems have them: its switch and its place. One
+/// object for both, which is never deleted.
+struct KeyboardObject : IUnknown {
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** pp) override {
+        AddRef();
+        return *pp = this, S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(++s_nReferences); }
+    ULONG STDMETHODCALLTYPE Release() override { return static_cast<ULONG>(--s_nReferences); }
+
+    static inline int s_nReferences = 0;
+    static inline bool s_bShown = false;
+};
+
+struct Switch : KeyboardObject {
+    virtual HRESULT STDMETHODCALLTYPE Toggle(HWND) { return s_bShown = !s_bShown, S_OK; }
+};
+
+struct InputPane : KeyboardObject {
+    virtual HRESULT STDMETHODCALLTYPE Advise(IUnknown*, IUnknown*, DWORD*) { return E_NOTIMPL; }
+    virtual HRESULT STDMETHODCALLTYPE AdviseWithHWND(HWND, IUnknown*, DWORD*) { return E_NOTIMPL; }
+    virtual HRESULT STDMETHODCALLTYPE Unadvise(DWORD) { return E_NOTIMPL; }
+    virtual HRESULT STDMETHODCALLTYPE Location(RECT* pPlace) {
+        const CRect screen = Screen();
+        *pPlace = s_bShown ? CRect(0, screen.bottom * 2 / 3, screen.right, screen.bottom) : CRect();
+        return S_OK;
+    }
+};
+
+/// Gives the object out, while it exists.
+template <class Object>
+struct Factory : IClassFactory {
+    explicit Factory(const CLSID& id) {
+        ::CoRegisterClassObject(id, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &m_dwCookie);
+    }
+    ~Factory() { ::CoRevokeClassObject(m_dwCookie); }
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** pp) override { return *pp = this, S_OK; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** pp) override {
+        return m_object.QueryInterface(id, pp);
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+
+    Object m_object;
+    DWORD m_dwCookie = 0;
+};
+
+TEST_F(SystemKeyboard, WithASwitchIsShownByItAndItsPlaceIsThatOfTheSystem) {
+    m_drive.MakeFile(PROGRAM, 10); // there, and not started
+    ::CoInitialize(nullptr);
+    {
+        const Factory<Switch> toggle(
+            {0x4CE576FA, 0x83DC, 0x4F88, {0x95, 0x1C, 0x9D, 0x07, 0x82, 0xB4, 0xE3, 0x76}});
+        const Factory<InputPane> pane(
+            {0xD5120AA3, 0x46BA, 0x44C5, {0x82, 0x2D, 0xCA, 0x80, 0x92, 0xC1, 0xFC, 0x72}});
+        ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
+        Entry dialog;
+        const auto show = [&] {
+            dialog.m_field.SetFocus();
+            TVShowSIP(0);
+            TVShowSIP(1); // as from field to field
+        };
+        PlayAndEnd(dialog, {show, [&] { return RectOf(dialog).bottom <= Screen().bottom * 2 / 3; },
+                            [] { EXPECT_TRUE(KeyboardObject::s_bShown && !panel::IsVisible()); },
+                            [] { TVCloseSIP(); }, [&] { return RectOf(dialog) == dialog.m_home; },
+                            [] { return !KeyboardObject::s_bShown; }});
+        EXPECT_EQ(0, KeyboardObject::s_nReferences);
+    }
+    ::CoUninitialize();
 }
 
 TEST_F(SystemKeyboard, ThatCannotBeStartedLeavesThePanel) {
