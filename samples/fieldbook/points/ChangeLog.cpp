@@ -62,26 +62,36 @@ public:
     explicit CFields(const CString& strLine) : m_strLine(strLine) {}
 
     CString Next() {
-        if (m_nStart > m_strLine.GetLength()) {
-            m_bGood = false;
-            return CString();
-        }
-        const int nFound = m_strLine.Find(kTab, m_nStart);
-        const int nEnd = nFound < 0 ? m_strLine.GetLength() : nFound;
-        CString strField = m_strLine.Mid(m_nStart, nEnd - m_nStart);
-        m_nStart = nEnd + 1;
-        return strField;
+        const wchar_t* const pszField = Take();
+        return CString(pszField, m_nLength);
     }
     double NextNumber() {
-        const CString strField = Next();
-        return strField.IsEmpty() ? kNull : std::wcstod(strField, nullptr);
+        const wchar_t* const pszField = Take();
+        return m_nLength == 0 ? kNull : std::wcstod(pszField, nullptr);
     }
-    size_t NextCount() { return static_cast<size_t>(std::wcstoul(Next(), nullptr, 10)); }
+    size_t NextCount() {
+        const wchar_t* const pszField = Take();
+        return m_nLength == 0 ? 0 : static_cast<size_t>(std::wcstoul(pszField, nullptr, 10));
+    }
     bool IsGood() const { return m_bGood; }
 
 private:
+    /// @return the beginning of the next field, behind whose length the line goes on
+    const wchar_t* Take() {
+        m_nLength = 0;
+        m_bGood = m_bGood && m_nStart <= m_strLine.GetLength();
+        if (!m_bGood)
+            return L"";
+        const wchar_t* const pszField = m_strLine.GetString() + m_nStart;
+        const int nFound = m_strLine.Find(kTab, m_nStart);
+        m_nLength = (nFound < 0 ? m_strLine.GetLength() : nFound) - m_nStart;
+        m_nStart += m_nLength + 1;
+        return pszField;
+    }
+
     const CString m_strLine;
     int m_nStart = 0;
+    int m_nLength = 0; ///< Of the field that was taken.
     bool m_bGood = true;
 };
 
