@@ -31,8 +31,9 @@ void Record(CJob& job, const std::vector<CPointChange>& changes) {
 /// The user is told when changes begin to be on no disk, not at each of them.
 void TellNotRecorded(CJob& job) {
     const UINT nCauseId = std::exchange(job.nUntold, 0);
+    const CString strName = job.strPath.IsEmpty() ? Text(IDS_UNTITLED) : FileNameOf(job.strPath);
     if (nCauseId != 0)
-        TellError(Text(IDS_NOT_RECORDED, FileNameOf(job.strPath).GetString(), Text(nCauseId).GetString()));
+        TellError(Text(IDS_NOT_RECORDED, strName.GetString(), Text(nCauseId).GetString()));
 }
 
 /// Remembers the file before this one: crews go back and forth between two jobs.
