@@ -32,8 +32,8 @@ enum TVSetting : int {
 /// been chosen and there is one, otherwise 0; see TVUseSystemKeyboard().
 ///
 /// The store is the registry key `HKEY_CURRENT_USER\Software\Tesuvo\Common`, one
-/// REG_DWORD a setting, named by the setting's number in decimal ("1280"). There
-/// is no setter: a settings page writes the value, and the next call sees it.
+/// REG_DWORD a setting, named by the setting's number in decimal ("1280"). The
+/// library sets none: a settings page writes the value, and the next call sees it.
 /// Natively the environment variable `TESUVO_SETTING_<id>` takes its place.
 ///
 /// @param nId  number of the setting
@@ -106,6 +106,7 @@ TESUVO_API void TVCloseSIP();
 /// It is the setting TVSETTING_SYSTEM_KEYBOARD, kept with the others, and not a function of the library:
 /// a program that calls it runs with the device's own library, too, which always has the panel.
 ///
+/// @param bUse TRUE for the system's keyboard, FALSE for the panel
 /// @return TRUE if the system's keyboard is used from now on; FALSE if there is none, the setting cannot
 ///         be stored, or bUse is FALSE
 inline BOOL TVUseSystemKeyboard(BOOL bUse) {
