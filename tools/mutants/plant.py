@@ -53,6 +53,7 @@ class Source:
         # libclang counts bytes.
         self.bytes = self.text.encode("utf-8")
         self.left_out = left_out
+        self.skipped = 0
         self.roots = {}
         self.seen = set()
 
@@ -115,6 +116,7 @@ class Source:
         start, end = self.range_of(cursor)
         edit = Edit(start, end, kind, parts, before, edits)
         if self.key(edit) in self.left_out:
+            self.skipped += 1
             return edits
         return [edit]
 
@@ -201,9 +203,9 @@ class Source:
         text = self.part(start, end)
         within = [edit for edit in edits if start <= edit.start and edit.end <= end]
         # Comparisons are turned round by their own faults.
-        if len(within) == 1 and (within[0].start, within[0].end) == (start, end):
-            if within[0].kind in ("equal", "not_equal"):
-                return edits
+        own = {self.key(Edit(start, end, kind, [], text, [])) for kind in ("equal", "not_equal")}
+        if own & (self.left_out | {self.key(edit) for edit in within}):
+            return edits
         turned = self.wrap(first, within, "condition", [(start, end)], text)
         return sorted([edit for edit in edits if edit not in within] + turned, key=lambda edit: edit.start)
 
@@ -304,6 +306,8 @@ def main():
             edits = [edit for cursor in definitions(unit, path) for edit in source.walk(cursor)]
             edits.sort(key=lambda edit: edit.start)
             number_all(edits, counter)
+            # What is left out keeps the numbers of other sources, which are not compiled again.
+            counter[0] += source.skipped
             faults += listed(source, edits, tree)
             target = os.path.join(copy, os.path.relpath(path, tree))
             text = source.emit(0, len(source.bytes), edits)
