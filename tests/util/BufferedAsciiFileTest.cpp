@@ -74,10 +74,30 @@ std::string Contents(LPCTSTR pszPath) {
     return bytes;
 }
 
-TEST(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
-    std::string start; // more than a block
+std::string LongText() {
+    std::string text;
     for (unsigned i = 0; i < 3 * kBlock; ++i)
-        start += static_cast<char>('0' + i * i % 71);
+        text += static_cast<char>('0' + i * i % 71);
+    return text;
+}
+
+TEST(BufferedAsciiFile, ReadsOnBehindTheBlockWithoutAnother) {
+    const std::string text = LongText();
+    CBufferedAsciiFile file;
+    ASSERT_TRUE(file.Open(L"buffered.txt", CFile::modeCreate | CFile::modeReadWrite));
+    file.Write(text.data(), static_cast<UINT>(text.size()));
+    file.SeekToBegin();
+    std::string read(text.size(), '\0');
+    EXPECT_EQ(1U, file.Read(read.data(), 1));
+    EXPECT_EQ(2 * kBlock, file.Read(read.data() + 1, 2 * kBlock));
+    EXPECT_EQ(2 * kBlock + 1, file.GetPosition());
+    EXPECT_EQ(text.substr(0, 2 * kBlock + 1), read.substr(0, 2 * kBlock + 1));
+    file.Close();
+    std::remove("buffered.txt");
+}
+
+TEST(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
+    const std::string start = LongText();
     for (unsigned nRun = 0; nRun < 20; ++nRun) {
         {
             CAsciiFile plain;

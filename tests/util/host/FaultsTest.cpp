@@ -4,9 +4,12 @@
 #include "util/StringStack.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cwchar>
 #include <memory>
+
+#include <sys/resource.h>
 
 // fieldkit::detail::OemToWide by the name that the linker knows.
 #define OEM_TO_WIDE(prefix) prefix##_ZN8fieldkit6detail9OemToWideEPKcPwi
@@ -18,6 +21,25 @@ enum class Converter { Sound, Unterminated, Failing };
 Converter g_converter = Converter::Sound;
 
 constexpr LPCTSTR kLong = L"a text that is longer than any small string";
+
+/// The disk takes files of so many bytes only, and what fits of larger ones.
+struct Limit {
+    explicit Limit(rlim_t nBytes) {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit = {nBytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~Limit() {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_pfnBefore);
+    }
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
+
+private:
+    rlimit m_before = {};
+    void (*m_pfnBefore)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
 
 Bytes Archived(CStringStack& stack) {
     return Stored([&](CArchive& ar) { stack.Serialize(ar); });
@@ -96,11 +118,13 @@ TEST(BufferedAsciiFileFaults, AfterALossTheNextFileIsClean) {
     CBufferedAsciiFile file;
     for (const bool bClose : {true, false}) {
         ASSERT_TRUE(file.Open(L"faults.txt", kMode));
+        file.Seek(100, CFile::begin);
         file.WriteString(L"lost");
         faults::FailCall("write", EIO);
         EXPECT_EQ(bClose ? faults::End::FileError : faults::End::Done,
                   faults::EndOf([&] { bClose ? file.Close() : file.Abort(); }));
         EXPECT_TRUE(faults::Disarm() && file.m_hFile == CFile::hFileNull);
+        EXPECT_EQ(0U, CFile(L"faults.txt", CFile::modeRead).GetLength()) << "not written a second time";
         ASSERT_TRUE(file.Open(L"faults.txt", kMode));
         CString str;
         EXPECT_TRUE(file.GetPosition() == 0 && file.GetLength() == 0 && file.ReadString(str) == 0);
@@ -124,6 +148,10 @@ TEST(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
         EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
         faults::Disarm();
         file.WriteString(L"2");
+    }
+    {
+        const Limit limit(4); // within the second line
+        EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
     }
     file.SeekToBegin();
     char bytes[10] = {};
