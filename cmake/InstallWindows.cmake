@@ -5,6 +5,13 @@ else()
   fieldkit_install(static framework companion fieldkit winmain testkit)
 endif()
 
+# Those of the compiler's DLLs that the library cannot do without.
+foreach(_name IN LISTS FIELDKIT_RUNTIME)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${_name}
+    OUTPUT_VARIABLE _path OUTPUT_STRIP_TRAILING_WHITESPACE)
+  install(FILES ${_path} DESTINATION ${CMAKE_INSTALL_BINDIR})
+endforeach()
+
 # Only what lies directly in these folders is public; subfolders are internal.
 foreach(_folder api framework geometry survey util controls dialogs resources testkit)
   file(GLOB _headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/${_folder} ${PROJECT_SOURCE_DIR}/${_folder}/*.h)

@@ -23,7 +23,7 @@ function(fieldkit_part target)
   target_compile_features(${target} PUBLIC cxx_std_17)
   # Inline members compute as those of the library do, see cmake/Options.cmake.
   target_compile_options(${target} INTERFACE
-    $<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:-ffp-contract=off>>)
+    "$<INSTALL_INTERFACE:$<$<COMPILE_LANGUAGE:CXX>:${FIELDKIT_EXACT}>>")
   # Otherwise g++ describes a class to the debugger only where its virtual members are, which is here.
   target_compile_options(${target} INTERFACE
     $<INSTALL_INTERFACE:$<$<AND:$<COMPILE_LANG_AND_ID:CXX,GNU>,$<CONFIG:Debug,RelWithDebInfo>>:-femit-class-debug-always>>)

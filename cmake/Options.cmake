@@ -16,9 +16,15 @@ set(CMAKE_SHARED_LIBRARY_PREFIX "")
 string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
 
-# The order of evaluation of a formula is part of its result: no fused
-# multiply-add, no reassociation, in any build and for any source file.
-add_compile_options(-ffp-contract=off)
+# The order of evaluation of a formula is part of its result: no fused multiply-add, no
+# reassociation, in any build and for any source file; on 32-bit PCs no registers of 80 bits, which
+# would round each operation twice. Users compile inline members in the same way.
+set(FIELDKIT_EXACT -ffp-contract=off)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
+  list(APPEND FIELDKIT_EXACT -msse2 -mfpmath=sse)
+endif()
+add_compile_options(${FIELDKIT_EXACT})
+list(JOIN FIELDKIT_EXACT " " FIELDKIT_EXACT_FLAGS) # for pkg-config
 
 # Names of source files in messages start at the tree, wherever it was built.
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
@@ -31,9 +37,17 @@ endif()
 if(WIN32)
   add_compile_definitions(UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0601 WINVER=0x0601
                           __USE_MINGW_ANSI_STDIO=1)
-  # Each module carries its own copy of the compiler's runtime, so that no
-  # further DLL has to be shipped; exceptions still cross the borders by pointer.
-  add_link_options(-static -static-libgcc -static-libstdc++)
+  # Each module carries its own copy of the compiler's runtime, so that no further DLL has to be
+  # shipped; exceptions still cross the borders by pointer, since the system unwinds the stack. That
+  # of 32 bits leaves it to the runtime, which must be one for all: libgcc and libwinpthread are DLLs.
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_link_options(-static -static-libgcc -static-libstdc++)
+    set(FIELDKIT_ENTRY WinMain)
+  else()
+    add_link_options(-shared-libgcc -static-libstdc++)
+    set(FIELDKIT_RUNTIME libgcc_s_dw2-1.dll libwinpthread-1.dll)
+    set(FIELDKIT_ENTRY _WinMain@16)
+  endif()
   # Code and data at random places, and no code among data. The linker's defaults today; GCC has
   # nothing for the system's control-flow guard.
   add_link_options(LINKER:--dynamicbase,--nxcompat)

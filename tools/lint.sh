@@ -65,7 +65,7 @@ check_headers() {
         -D_UNICODE "-I$root" "-I$root/framework" "-I$root/companion" -isystem /usr/src/googletest/googletest/include)
     sum=$build/lint/passed/headers-$(public_headers | xargs cat | sha1sum | cut -c 1-40)
     [[ ! -e $sum ]] || return 0
-    public_headers | sed 's/.*/#include "&"/' | i686-w64-mingw32-g++-posix "${options[@]}" -x c++ - || return
+    public_headers | sed 's/.*/#include "&"/' | i686-w64-mingw32-g++-posix -msse2 -mfpmath=sse "${options[@]}" -x c++ - || return
     public_headers | xargs -P "$(nproc)" -I '{}' x86_64-w64-mingw32-g++-posix "${options[@]}" -include '{}' -x c++ /dev/null ||
         return
     mkdir -p "$build/lint/passed"
