@@ -12,7 +12,8 @@
 #ifdef __FAST_MATH__
 #error "compile without -ffast-math: it changes the order of formulas, which is part of their results"
 #endif
-static_assert(FLT_EVAL_METHOD == 0, "operations on double round to double: -msse2 -mfpmath=sse on 32-bit PCs");
+static_assert(FLT_EVAL_METHOD == 0,
+              "operations on double round to double: -msse2 -mfpmath=sse on 32-bit PCs");
 
 inline int CVector::Double2Int(double value) {
     constexpr double kLeast = std::numeric_limits<int>::min();

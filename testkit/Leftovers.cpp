@@ -16,23 +16,29 @@ BOOL CALLBACK CountWindow(HWND hWnd, LPARAM lCount) {
     return CountChild(hWnd, lCount);
 }
 
+template <class Function>
+Function FromNtdll(const char* pszName) {
+    return reinterpret_cast<Function>(
+        reinterpret_cast<UINT_PTR>(::GetProcAddress(::GetModuleHandle(L"ntdll.dll"), pszName)));
+}
+
 /// Windows tells the number. Wine tells 0, but keeps the same table of all objects in the
 /// process, which is counted then.
 int CountGdiObjects() {
     if (const DWORD nObjects = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))
         return static_cast<int>(nObjects);
     struct Entry {
-        void* pKernel;
+        DWORD64 nKernel;
         WORD nProcess, nCount, nUpper;
         BYTE nType; ///< 0 for a free entry.
         BYTE nFlags;
-        void* pUser;
+        DWORD64 nUser;
     };
-    constexpr size_t kTableInPeb = 0xF8;
+    using PebFn = const std::byte*(NTAPI*)();
+    constexpr size_t kTableInPeb = sizeof(void*) == 8 ? 0xF8 : 0x94;
     constexpr int kTableSize = 0x4000;
-    const std::byte* pPeb = nullptr;
-    __asm__("movq %%gs:0x60, %0" : "=r"(pPeb)); // the thread's block holds it at a fixed place
-    const Entry* const pTable = *reinterpret_cast<Entry* const*>(pPeb + kTableInPeb);
+    const std::byte* const pPeb = FromNtdll<PebFn>("RtlGetCurrentPeb")();
+    const Entry* const pTable = *reinterpret_cast<const Entry* const*>(pPeb + kTableInPeb);
     return static_cast<int>(
         std::count_if(pTable, pTable + kTableSize, [](const Entry& entry) { return entry.nType != 0; }));
 }
@@ -55,10 +61,9 @@ int CountHandles() {
     DWORD nHandles = 0;
     if (::GetProcessHandleCount(::GetCurrentProcess(), &nHandles) && nHandles != 0)
         return static_cast<int>(nHandles);
-    const auto pfnQuery = reinterpret_cast<QueryFn>(reinterpret_cast<UINT_PTR>(
-        ::GetProcAddress(::GetModuleHandle(L"ntdll.dll"), "NtQuerySystemInformation")));
     std::vector<BYTE> memory(1 << 20);
-    pfnQuery(kSystemHandles, memory.data(), static_cast<ULONG>(memory.size()), nullptr);
+    FromNtdll<QueryFn>("NtQuerySystemInformation")(kSystemHandles, memory.data(),
+                                                   static_cast<ULONG>(memory.size()), nullptr);
     const auto* pList = reinterpret_cast<const List*>(memory.data());
     return static_cast<int>(
         std::count_if(pList->handles, pList->handles + pList->nCount, [](const Handle& handle) {

@@ -6,17 +6,22 @@
 
 namespace testkit {
 
+namespace {
+
+BOOL CALLBACK FindPanel(HWND hWnd, LPARAM lFound) {
+    wchar_t szName[64] = L"";
+    ::GetClassName(hWnd, szName, 64);
+    if (std::wstring(szName) != L"TesuvoInputPanel")
+        return TRUE;
+    *reinterpret_cast<HWND*>(lFound) = hWnd;
+    return FALSE;
+}
+
+} // namespace
+
 HWND panel::OfThread(DWORD nThread) {
     HWND hPanel = nullptr;
-    const auto find = [](HWND hWnd, LPARAM lFound) -> BOOL {
-        wchar_t szName[64] = L"";
-        ::GetClassName(hWnd, szName, 64);
-        if (std::wstring(szName) != L"TesuvoInputPanel")
-            return TRUE;
-        *reinterpret_cast<HWND*>(lFound) = hWnd;
-        return FALSE;
-    };
-    ::EnumThreadWindows(nThread, find, reinterpret_cast<LPARAM>(&hPanel));
+    ::EnumThreadWindows(nThread, FindPanel, reinterpret_cast<LPARAM>(&hPanel));
     return hPanel;
 }
 

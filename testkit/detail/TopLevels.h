@@ -7,15 +7,16 @@
 
 namespace testkit::detail {
 
+inline BOOL CALLBACK AddVisible(HWND hWnd, LPARAM lWindows) {
+    if (::IsWindowVisible(hWnd))
+        reinterpret_cast<std::vector<HWND>*>(lWindows)->push_back(hWnd);
+    return TRUE;
+}
+
 /// The visible top-level windows of this thread, from front to back.
 inline std::vector<HWND> TopLevels() {
     std::vector<HWND> windows;
-    const auto add = [](HWND hWnd, LPARAM lWindows) -> BOOL {
-        if (::IsWindowVisible(hWnd))
-            reinterpret_cast<std::vector<HWND>*>(lWindows)->push_back(hWnd);
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), add, reinterpret_cast<LPARAM>(&windows));
+    ::EnumThreadWindows(::GetCurrentThreadId(), AddVisible, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

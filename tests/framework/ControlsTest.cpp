@@ -49,8 +49,9 @@ TEST_F(Controls, ListsGiveTextsAndDataOfTheirItems) {
         EXPECT_EQ(L"", str);
         read(1, str);
         EXPECT_EQ(L"挿入", str);
-        box.SetItemData(1, 0x1234567890ULL);
-        EXPECT_EQ(0x1234567890ULL, box.GetItemData(1)) << "as wide as a pointer";
+        constexpr auto kWide = ~DWORD_PTR{0} / 3;
+        box.SetItemData(1, kWide);
+        EXPECT_EQ(kWide, box.GetItemData(1)) << "as wide as a pointer";
     };
     check(list, [&](int nItem, CString& str) { list.GetText(nItem, str); });
     check(combo, [&](int nItem, CString& str) { combo.GetLBText(nItem, str); });

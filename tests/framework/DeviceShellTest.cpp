@@ -35,11 +35,18 @@ TEST(FullScreenDialog, CoversTheWorkAreaBetweenItsBars) {
     EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
 }
 
+std::vector<BOOL> g_shown; // what the switch asked for
+
+void CALLBACK RecordShown(BOOL bShow) {
+    g_shown.push_back(bShow);
+}
+BOOL CALLBACK WasShown(LPRECT) {
+    return !g_shown.empty() && g_shown.back();
+}
+
 TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
-    static std::vector<BOOL> calls;
-    calls.clear();
-    const AFX_SIP_HANDLER handler = {[](BOOL bShow) { calls.push_back(bShow); },
-                                     [](LPRECT) -> BOOL { return !calls.empty() && calls.back(); }};
+    g_shown.clear();
+    const AFX_SIP_HANDLER handler = {RecordShown, WasShown};
     const AFX_SIP_HANDLER* const pOld = AfxSetSipHandler(&handler);
     FullDialog dialog;
     const auto tap = [&] {
@@ -48,7 +55,7 @@ TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
     };
     Play(dialog, {tap, tap, [&] { dialog.EndDialog(1); }});
     AfxSetSipHandler(pOld);
-    EXPECT_EQ((std::vector<BOOL>{TRUE, FALSE}), calls);
+    EXPECT_EQ((std::vector<BOOL>{TRUE, FALSE}), g_shown);
 }
 
 TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {

@@ -52,9 +52,10 @@ TEST_F(Lists, ItemsHaveDataImagesAndState) {
     EXPECT_EQ(34U, m_list.GetItemData(1));
     EXPECT_EQ(0U, m_list.GetItemData(9));
     EXPECT_EQ(77U, m_tree.GetItemData(m_leaf));
-    EXPECT_TRUE(m_list.SetItemData(1, 0x1234567890ULL) && m_tree.SetItemData(m_leaf, 0x1234567890ULL));
-    EXPECT_EQ(0x1234567890ULL, m_list.GetItemData(1)) << "as wide as a pointer";
-    EXPECT_EQ(0x1234567890ULL, m_tree.GetItemData(m_leaf));
+    constexpr auto kWide = ~DWORD_PTR{0} / 3;
+    EXPECT_TRUE(m_list.SetItemData(1, kWide) && m_tree.SetItemData(m_leaf, kWide));
+    EXPECT_EQ(kWide, m_list.GetItemData(1)) << "as wide as a pointer";
+    EXPECT_EQ(kWide, m_tree.GetItemData(m_leaf));
     int nImage = -1, nSelected = -1;
     ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
     EXPECT_EQ(CPoint(2, 3), CPoint(nImage, nSelected));

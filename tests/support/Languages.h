@@ -12,14 +12,15 @@ namespace languages {
 constexpr LANGID JAPANESE = MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT);
 constexpr LANGID ENGLISH = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
 
+inline BOOL CALLBACK AddNumber(HMODULE, LPCTSTR, LPTSTR pszName, LONG_PTR lNumbers) {
+    reinterpret_cast<std::vector<WORD>*>(lNumbers)->push_back(LOWORD(pszName));
+    return TRUE;
+}
+
 /// The numbers of a module's resources of one type.
 inline std::vector<WORD> NumbersOf(HMODULE hModule, LPCTSTR pszType) {
     std::vector<WORD> numbers;
-    const auto add = [](HMODULE, LPCTSTR, LPTSTR pszName, LONG_PTR lNumbers) -> BOOL {
-        reinterpret_cast<std::vector<WORD>*>(lNumbers)->push_back(LOWORD(pszName));
-        return TRUE;
-    };
-    ::EnumResourceNames(hModule, pszType, add, reinterpret_cast<LONG_PTR>(&numbers));
+    ::EnumResourceNames(hModule, pszType, AddNumber, reinterpret_cast<LONG_PTR>(&numbers));
     return numbers;
 }
 
