@@ -9,6 +9,10 @@
 #include <cwchar>
 #include <string>
 
+#ifndef _WIN32
+static_assert(sizeof(std::time_t) == 8);
+#endif
+
 namespace {
 
 constexpr int kFirstYear = 1970;
