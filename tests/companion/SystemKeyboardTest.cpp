@@ -4,6 +4,7 @@
 #include "testkit/DialogTemplate.h"
 #include "testkit/Drive.h"
 #include "testkit/Panel.h"
+#include "testkit/Program.h"
 #include "testkit/Script.h"
 
 #include "controls/nDialog.h"
@@ -68,8 +69,11 @@ struct SystemKeyboard : testing::Test {
         TVUseSystemKeyboard(FALSE);
     }
     void Install() const {
-        WCHAR szProgram[MAX_PATH];
+        WCHAR szProgram[MAX_PATH], szPath[4096];
         ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+        // The copy finds the DLLs as this program does.
+        ::GetEnvironmentVariable(L"PATH", szPath, 4096);
+        ::SetEnvironmentVariable(L"PATH", (OwnFolder() + L';' + szPath).c_str());
         ASSERT_TRUE(::CopyFile(szProgram, m_drive.Letter() + PROGRAM, TRUE));
     }
 
