@@ -312,8 +312,8 @@ std::size_t ReadBare(const wchar_t* pszPath) {
                           static_cast<int>(text.size()));
     std::vector<Point> points;
     std::map<std::wstring, std::size_t> index;
-    for (std::size_t nStart = text.find(L'\n') + 1, nEnd = 0; (nEnd = text.find(L'\n', nStart)) != text.npos;
-         nStart = nEnd + 1) {
+    for (std::size_t nStart = text.find(L'\n') + 1, nEnd = 0;
+         (nEnd = text.find(L'\n', nStart)) != std::wstring::npos; nStart = nEnd + 1) {
         text[nEnd] = L'\0';
         const std::size_t nComma = text.find(L',', nStart);
         Point point{text.substr(nStart, nComma - nStart), 0, 0, 0};
