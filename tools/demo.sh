@@ -46,7 +46,7 @@ build_sample() {
     logged build-fieldbook ninja -C "$build/fieldbook" -j"$(nproc)" "$@"
 }
 
-# Programs that others could have brought, built like the sample, and the test that drives them.
+# The classic samples and the test that drives them, built like the sample.
 build_programs() {
     logged configure-programs cmake -S "$root/tests/programs" -B "$build/programs" -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \

@@ -30,13 +30,14 @@ check_scripts() {
 check_arrows() { python3 tools/arrows.py "$root"; }
 
 # Constants, internal linkage and the companion's header in the one way of CONTRIBUTING.md. The
-# framework's public headers name things as the framework does; tests are left alone.
+# framework's public headers name things as the framework does; tests and what others wrote are left
+# alone.
 check_names() {
     local found
     found=$(
         grep -rnE --include='*.h' --include='*.cpp' '\<constexpr [^=(;]*\<[A-Z][A-Z0-9_]+(\[[^]]*\])? *=' "${lint_folders[@]}" |
-            grep -vE '^[a-z]+/[^/]*\.h:|(^|/)tests/|\<(WM|IDR)_[A-Z_]+ *='
-        grep -rnE --include='*.cpp' '^static ' "${lint_folders[@]}" | grep -vE '(^|/)tests/'
+            grep -vE '^[a-z]+/[^/]*\.h:|(^|/)(tests|classic)/|\<(WM|IDR)_[A-Z_]+ *='
+        grep -rnE --include='*.cpp' '^static ' "${lint_folders[@]}" | grep -vE '(^|/)(tests|classic)/'
         grep -rnE --include='*.h' --include='*.cpp' 'include (<|"companion/)Tesuvo\.h' "${lint_folders[@]}"
     ) || true
     [[ -z $found ]] || printf 'not as CONTRIBUTING.md says:\n%s\n' "$found"
@@ -96,8 +97,9 @@ tidy_all() {
     tidy_each "$native" -p "$build/lint/host" || status=1
     windows_arguments
     tidy_each "$windows" -p "$build/lint/win64" "${tidy_windows[@]/#/--extra-arg=}" || status=1
-    # The sample is a project of its own, and is built against the installed headers.
-    find samples -name '*.cpp' -not -path '*/tests/*' -not -path '*/fuzz/*' >"$windows"
+    # The samples are projects of their own, and are built against the installed headers. The classic
+    # ones are left as another house wrote them.
+    find samples -name '*.cpp' -not -path '*/tests/*' -not -path '*/fuzz/*' -not -path '*/classic/*' >"$windows"
     tidy_each "$windows" -- -std=c++17 "${tidy_windows[@]}" -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0601 \
         -I"$root" -I"$root/framework" -I"$root/companion" -I"$root/samples/fieldbook" || status=1
     return $status

@@ -1,7 +1,7 @@
 #include "testkit/GTest.h"
 #include "testkit/Pen.h"
 #include "testkit/Program.h"
-#include "../stationsetup/resource.h"
+#include "../../samples/classic/stationsetup/resource.h"
 
 #include <commctrl.h>
 
@@ -35,8 +35,8 @@ TEST(ProgramsTest, StationSetupFillsItsListsAndKeepsItsSettings) {
          {L"-17", L"-30"}) { // what the second run finds is the first one's
         const Program program(L"StationSetup", L"Station setup");
         const HWND hPrism = PageItem(program, IDC_PRISM);
-        EXPECT_EQ(::SendMessage(hPrism, CB_GETCOUNT, 0, 0), 4);
-        EXPECT_EQ(::SendMessage(PageItem(program, IDC_MODEL), CB_GETCOUNT, 0, 0), 4);
+        EXPECT_EQ(4, ::SendMessage(hPrism, CB_GETCOUNT, 0, 0));
+        EXPECT_EQ(4, ::SendMessage(PageItem(program, IDC_MODEL), CB_GETCOUNT, 0, 0));
         FocusByTap(hPrism);
         TypeKeys({VK_RETURN}); // closes the list
         TypeKeys({VK_DOWN});
@@ -52,6 +52,6 @@ TEST(ProgramsTest, StationSetupFillsItsListsAndKeepsItsSettings) {
         ::PostMessage(program.Main(), WM_COMMAND, IDOK, 0);
         const HWND hSummary = program.Window(L"StationSetup");
         EXPECT_TRUE(::PostMessage(hSummary, WM_COMMAND, IDOK, 0));
-        EXPECT_EQ(program.End(), 0U);
+        EXPECT_EQ(0U, program.End());
     }
 }

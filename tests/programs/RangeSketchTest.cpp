@@ -1,6 +1,6 @@
 #include "About.h"
 #include "testkit/Pen.h"
-#include "../rangesketch/resource.h"
+#include "../../samples/classic/rangesketch/resource.h"
 
 using namespace testkit;
 
@@ -16,5 +16,5 @@ TEST(ProgramsTest, RangeSketchMeasuresWhatIsDrawn) {
     program.ExpectText(IDC_AREA, L"Area 50.00 m\u00B2");
     ShowAbout(program, L"About RangeSketch");
     ::PostMessage(program.Main(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(program.End(), 0U);
+    EXPECT_EQ(0U, program.End());
 }

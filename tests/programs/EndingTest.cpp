@@ -9,11 +9,11 @@ TEST(ProgramsTest, EveryWayToEndKeepsTheSettingsAndEnds) {
     for (const wchar_t* const pszWay : {L"end", L"quit", L"destroy", L"owner", L"unload", L"thread",
                                         L"window-thread", L"exit", L"exit-process"}) {
         SCOPED_TRACE(testing::PrintToString(pszWay));
-        EXPECT_EQ(Program(L"Ending", nullptr, pszWay).End(), 3U);
+        EXPECT_EQ(3U, Program(L"Ending", nullptr, pszWay).End());
         wchar_t szValue[8] = {};
         DWORD nSize = sizeof szValue;
         ::RegGetValueW(HKEY_CURRENT_USER, (std::wstring(kKey) + L"\\Ways").c_str(), pszWay, RRF_RT_REG_SZ,
                        nullptr, szValue, &nSize);
-        EXPECT_STREQ(szValue, L"done");
+        EXPECT_STREQ(L"done", szValue);
     }
 }

@@ -1,5 +1,5 @@
 #include "About.h"
-#include "../pointbrowser/resource.h"
+#include "../../samples/classic/pointbrowser/resource.h"
 
 #include "afxres.h"
 
@@ -25,7 +25,7 @@ TEST(ProgramsTest, PointBrowserFindsSavesAndLoads) {
     for (const LRESULT nPoints :
          {5, 4}) { // a point is deleted and the job saved; the second run has what is left
         const Program program(L"PointBrowser", L"点ブラウザー", L"\"" + job + L"\"");
-        EXPECT_EQ(::SendMessage(program.Item(IDC_POINTS), LVM_GETITEMCOUNT, 0, 0), nPoints);
+        EXPECT_EQ(nPoints, ::SendMessage(program.Item(IDC_POINTS), LVM_GETITEMCOUNT, 0, 0));
         program.Fill(IDC_FIND, nPoints == 5 ? L"t" : L"b");
         program.ExpectText(IDC_COUNT, nPoints == 5 ? L"5 点  基準点: T1" : L"4 点  基準点: B7");
         if (nPoints == 5) {
@@ -36,10 +36,10 @@ TEST(ProgramsTest, PointBrowserFindsSavesAndLoads) {
             program.Command(ID_FILE_SAVE);
             program.Command(ID_FILE_EXPORT);
             EXPECT_TRUE(Until([&] { return !ContentsOf(job + L".csv").empty(); }));
-            EXPECT_EQ(ContentsOf(job + L".csv").find("T2,1043.215,2011.870,35.940\r\n"), 0U);
+            EXPECT_EQ(0U, ContentsOf(job + L".csv").find("T2,1043.215,2011.870,35.940\r\n"));
         }
         ShowAbout(program, L"点ブラウザーについて");
         ::PostMessage(program.Main(), WM_CLOSE, 0, 0);
-        EXPECT_EQ(program.End(), 0U);
+        EXPECT_EQ(0U, program.End());
     }
 }
