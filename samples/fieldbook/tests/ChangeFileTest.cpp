@@ -31,12 +31,12 @@ std::string Record() {
 TEST(ChangeLog, RecordIsReadUpToTheFirstLineThatIsNotWhole) {
     const std::string whole = Record();
     const CChangeRecord all = ReadChanges(whole);
-    EXPECT_EQ(all.nGoodBytes, whole.size());
-    ASSERT_EQ(all.changes.size(), 3U);
-    EXPECT_TRUE(all.changes[0].after.strName == L"境界1");
-    EXPECT_TRUE(all.changes[1].after.strCode == L"石 1") << "a tab would end the field";
-    EXPECT_EQ(all.changes[1].after.point.GetN(), 1 / 3.0) << "to the last bit";
-    EXPECT_EQ(all.changes[1].after.others.size(), 2U);
+    EXPECT_EQ(whole.size(), all.nGoodBytes);
+    ASSERT_EQ(3U, all.changes.size());
+    EXPECT_STREQ(L"境界1", all.changes[0].after.strName);
+    EXPECT_STREQ(L"石 1", all.changes[1].after.strCode) << "a tab would end the field";
+    EXPECT_EQ(1 / 3.0, all.changes[1].after.point.GetN()) << "to the last bit";
+    EXPECT_EQ(2U, all.changes[1].after.others.size());
     for (size_t nCut = 0; nCut < whole.size(); ++nCut) {
         const CChangeRecord cut = ReadChanges(whole.substr(0, nCut) + "\xE6");
         EXPECT_LE(cut.nGoodBytes, nCut);
@@ -51,8 +51,8 @@ TEST(ChangeLog, ChangesThatTheFileHasAreNotRepeated) {
     const Rows<std::uint64_t, bool, size_t> cases = {{1, true, 0}, {2, true, 2}, {3, false, 0}};
     for (const auto& [nHash, bFits, nWanted] : cases) {
         size_t nFirst = 9;
-        EXPECT_EQ(ReadChanges(Record()).FitsTo(nHash, nFirst), bFits);
-        EXPECT_EQ(nFirst, nWanted);
+        EXPECT_EQ(bFits, ReadChanges(Record()).FitsTo(nHash, nFirst));
+        EXPECT_EQ(nWanted, nFirst);
     }
 }
 
@@ -92,16 +92,16 @@ TEST_F(ChangeFile, ChangesAreThereAfterARestartUntilTheFileHasThem) {
     EXPECT_FALSE(CTestFile::Exists(m_record.GetPath())) << "nothing to record";
     Add(L"A");
     Add(L"B");
-    EXPECT_TRUE(Left() == L"AB");
+    EXPECT_STREQ(L"AB", Left());
     Add(L"C");
-    EXPECT_TRUE(Left() == L"ABC");
+    EXPECT_STREQ(L"ABC", Left());
     m_pFile->AppendSaving(2);
-    EXPECT_TRUE(Left() == L"ABC") << "the file was not written";
+    EXPECT_STREQ(L"ABC", Left()) << "the file was not written";
     EXPECT_TRUE(Left(2).IsEmpty()) << "the file was written, but nobody could tell the record";
     Restart();
     m_pFile->Begin(2);
     Add(L"D");
-    EXPECT_TRUE(Left(2) == L"D");
+    EXPECT_STREQ(L"D", Left(2));
     EXPECT_FALSE(m_pFile->FindLeft(m_points.GetPath(), 7)->bFits) << "another file by the same name";
 }
 
@@ -113,14 +113,15 @@ TEST_F(ChangeFile, RecordGoesOnInTheOwnFolderIfItMust) {
     ASSERT_TRUE(::CreateDirectory(m_record.GetPath(), nullptr));
     Add(L"B");
     ASSERT_TRUE(::RemoveDirectory(m_record.GetPath()));
-    EXPECT_TRUE(Left() == L"AB") << "all of it";
+    EXPECT_STREQ(L"AB", Left()) << "all of it";
     EXPECT_FALSE(CTestFile::Exists(m_record.GetPath()));
     ::DeleteFile(m_record.GetPath() + L".old");
 }
 
 TEST_F(ChangeFile, OneProgramAloneHasTheRecord) {
     CChangeFile other(L"own");
-    EXPECT_TRUE(!other.IsFree(L".\\fieldbook-CHANGES.csv") && !other.Claim(m_points.GetPath()));
+    EXPECT_FALSE(other.IsFree(L".\\fieldbook-CHANGES.csv"));
+    EXPECT_FALSE(other.Claim(m_points.GetPath()));
     EXPECT_TRUE(m_pFile->IsFree(m_points.GetPath()));
     EXPECT_TRUE(m_pFile->Claim(m_points.GetPath())) << "one's own, once more";
     m_pFile.reset();

@@ -74,13 +74,13 @@ TEST(Computations, AskForWhatTheyNeedAndWriteItDown) {
                 return 1;
             },
             c.steps);
-        ASSERT_EQ(report.has_value(), !c.lines.empty());
+        ASSERT_EQ(!c.lines.empty(), report.has_value());
         if (!report)
             continue;
         std::vector<CString> lines = LinesOf(*report, job.settings);
         ASSERT_GE(lines.size(), c.lines.size());
         lines.resize(c.lines.size());
-        EXPECT_EQ(lines, c.lines);
+        EXPECT_EQ(c.lines, lines);
     }
     parent.DestroyWindow();
 }

@@ -29,7 +29,7 @@ struct Compute : testing::Test {
 
     CCoordinate Point(const wchar_t* pszName) const {
         const CCoordinate* pPoint = m_book.Find(pszName);
-        EXPECT_NE(pPoint, nullptr);
+        EXPECT_NE(nullptr, pPoint);
         return pPoint != nullptr ? *pPoint : CCoordinate();
     }
 
@@ -44,17 +44,17 @@ CCoordinate At(double dN, double dE) {
 }
 
 void ExpectPoints(const CResult& result, const std::vector<CCoordinate>& expected) {
-    EXPECT_EQ(result.verdict, Verdict::Found);
-    ASSERT_EQ(result.points.size(), expected.size());
+    EXPECT_EQ(Verdict::Found, result.verdict);
+    ASSERT_EQ(expected.size(), result.points.size());
     for (size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_NEAR(result.points[i].GetN(), expected[i].GetN(), 1e-6);
-        EXPECT_NEAR(result.points[i].GetE(), expected[i].GetE(), 1e-6);
+        EXPECT_NEAR(expected[i].GetN(), result.points[i].GetN(), 1e-6);
+        EXPECT_NEAR(expected[i].GetE(), result.points[i].GetE(), 1e-6);
         EXPECT_FALSE(result.points[i].IsExistZ());
     }
 }
 
 void ExpectNone(const CResult& result, Verdict verdict) {
-    EXPECT_EQ(result.verdict, verdict);
+    EXPECT_EQ(verdict, result.verdict);
     EXPECT_TRUE(result.points.empty());
 }
 
@@ -106,11 +106,11 @@ TEST_F(Compute, CirclesAreScreened) {
 
 TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
     double dQuarter = 0;
-    ASSERT_EQ(ParsePackedAngle(L"90.0000", dQuarter), AngleFault::None);
+    ASSERT_EQ(AngleFault::None, ParsePackedAngle(L"90.0000", dQuarter));
     const CCoordinate bc = Point(L"BC"), ec = Point(L"EC");
     const CResult result = FindArcCentre(bc, ec, dQuarter);
     ExpectPoints(result, {Point(L"CC1")});
-    EXPECT_NEAR(Distance(result.points.at(0), bc), 30, 1e-6);
+    EXPECT_NEAR(30, Distance(result.points.at(0), bc), 1e-6);
     // Turning right from BC, the centre is CC1 mirrored on the chord: the corner of the tangents.
     ExpectPoints(FindArcCentre(bc, ec, -dQuarter), {Point(L"IP1")});
     ExpectPoints(FindArcCentre(bc, ec, 2 * dQuarter), {At(-35237, 13261)});
@@ -129,9 +129,9 @@ TEST_F(Compute, TangentsOfTheCurveMeetInItsCorner) {
     // The other way round it is three quarters of a circle: two corners, both at the same
     // distance from the centre.
     const CResult major = FindTangentCorners(ec, centre, bc);
-    ASSERT_EQ(major.points.size(), 2U);
+    ASSERT_EQ(2U, major.points.size());
     for (const CCoordinate& corner : major.points)
-        EXPECT_NEAR(Distance(centre, corner), 30 / std::cos(67.5 * 3.14159265358979 / 180), 1e-6);
+        EXPECT_NEAR(30 / std::cos(67.5 * 3.14159265358979 / 180), Distance(centre, corner), 1e-6);
 
     ExpectNone(FindTangentCorners(bc, centre, bc), Verdict::SamePoint);
     ExpectNone(FindTangentCorners(bc, centre, centre), Verdict::RadiusSmall);
@@ -187,13 +187,13 @@ TEST_F(Compute, PointBesideALine) {
     };
     COffset offset{};
     for (const auto& c : cases) {
-        EXPECT_EQ(FindOffset(At(0, 0), At(20, 0), c.point, offset), Verdict::Found);
+        EXPECT_EQ(Verdict::Found, FindOffset(At(0, 0), At(20, 0), c.point, offset));
         ExpectPoints({Verdict::Found, {offset.foot}}, {c.foot});
-        EXPECT_DOUBLE_EQ(offset.dAlong, c.dAlong);
-        EXPECT_DOUBLE_EQ(offset.dToTheRight, c.dToTheRight);
+        EXPECT_DOUBLE_EQ(c.dAlong, offset.dAlong);
+        EXPECT_DOUBLE_EQ(c.dToTheRight, offset.dToTheRight);
     }
-    EXPECT_EQ(FindOffset(At(1, 1), At(1, 1), At(2, 2), offset), Verdict::SamePoint);
-    EXPECT_EQ(FindOffset(At(1, 1), CCoordinate(), At(2, 2), offset), Verdict::NoPosition);
+    EXPECT_EQ(Verdict::SamePoint, FindOffset(At(1, 1), At(1, 1), At(2, 2), offset));
+    EXPECT_EQ(Verdict::NoPosition, FindOffset(At(1, 1), CCoordinate(), At(2, 2), offset));
 }
 
 TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
@@ -217,13 +217,13 @@ TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
     CPolygon polygon{};
     for (const auto& example : cases) {
         SCOPED_TRACE(example.pszCase);
-        EXPECT_EQ(MeasurePolygon(example.corners, polygon), Verdict::Found);
-        EXPECT_NEAR(polygon.dArea, example.dArea, 1e-9);
-        EXPECT_NEAR(polygon.dPerimeter, example.dPerimeter, 1e-9);
-        EXPECT_EQ(polygon.bCrosses, example.bCrosses);
+        EXPECT_EQ(Verdict::Found, MeasurePolygon(example.corners, polygon));
+        EXPECT_NEAR(example.dArea, polygon.dArea, 1e-9);
+        EXPECT_NEAR(example.dPerimeter, polygon.dPerimeter, 1e-9);
+        EXPECT_EQ(example.bCrosses, polygon.bCrosses);
     }
-    EXPECT_EQ(MeasurePolygon({a, b}, polygon), Verdict::TooFewCorners);
-    EXPECT_EQ(MeasurePolygon({a, b, CCoordinate()}, polygon), Verdict::NoPosition);
+    EXPECT_EQ(Verdict::TooFewCorners, MeasurePolygon({a, b}, polygon));
+    EXPECT_EQ(Verdict::NoPosition, MeasurePolygon({a, b, CCoordinate()}, polygon));
 }
 
 TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
@@ -233,33 +233,33 @@ TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
             const double dDirection = nDegrees * QUARTER / 90;
             CInverse inverse{};
             ASSERT_TRUE(FindInverse(t1, FindPolarPoint(t1, dDirection, dDistance), inverse));
-            EXPECT_NEAR(inverse.dDistance, dDistance, 1e-9);
+            EXPECT_NEAR(dDistance, inverse.dDistance, 1e-9);
             // The points carry their coordinates to about 1e-11 m.
-            EXPECT_NEAR(std::remainder(inverse.dDirection - dDirection, 4 * QUARTER), 0,
+            EXPECT_NEAR(0, std::remainder(inverse.dDirection - dDirection, 4 * QUARTER),
                         2e-9 + 1e-11 / dDistance);
             EXPECT_GE(inverse.dDirection, 0);
         }
     CInverse inverse{1, 2, 0, 0, {}};
     EXPECT_FALSE(FindInverse(t1, t1, inverse));
-    EXPECT_EQ(inverse.dDirection, 2);
+    EXPECT_EQ(2, inverse.dDirection);
 }
 
 TEST_F(Compute, CurveOfTheRoad) {
     const CCoordinate bc = Point(L"BC"), ec = Point(L"EC"), centre = Point(L"CC1");
     CCurve curve{};
-    ASSERT_EQ(FindCurve(bc, centre, ec, curve), Verdict::Found);
-    EXPECT_NEAR(curve.dRadius, 30, 1e-9);
-    EXPECT_NEAR(curve.dSweep, QUARTER, 1e-8);
-    EXPECT_NEAR(curve.dLength, 30 * QUARTER, 1e-6);
-    EXPECT_NEAR(curve.dBulge, std::tan(QUARTER / 4), 1e-8);
+    ASSERT_EQ(Verdict::Found, FindCurve(bc, centre, ec, curve));
+    EXPECT_NEAR(30, curve.dRadius, 1e-9);
+    EXPECT_NEAR(QUARTER, curve.dSweep, 1e-8);
+    EXPECT_NEAR(30 * QUARTER, curve.dLength, 1e-6);
+    EXPECT_NEAR(std::tan(QUARTER / 4), curve.dBulge, 1e-8);
     ExpectPoints({Verdict::Found, curve.corners}, {Point(L"IP1")});
 
-    ASSERT_EQ(FindCurve(ec, centre, bc, curve), Verdict::Found);
-    EXPECT_NEAR(curve.dSweep, 3 * QUARTER, 1e-8);
-    EXPECT_EQ(curve.corners.size(), 2U);
+    ASSERT_EQ(Verdict::Found, FindCurve(ec, centre, bc, curve));
+    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8);
+    EXPECT_EQ(2U, curve.corners.size());
 
-    EXPECT_EQ(FindCurve(bc, centre, bc, curve), Verdict::SamePoint);
-    EXPECT_NEAR(curve.dSweep, 3 * QUARTER, 1e-8) << "not written";
+    EXPECT_EQ(Verdict::SamePoint, FindCurve(bc, centre, bc, curve));
+    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8) << "not written";
 }
 
 TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
@@ -276,19 +276,21 @@ TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
     CCoordinate lo = At(7, 7), hi = At(8, 8);
     EXPECT_FALSE(Found({}, lo, hi));
     EXPECT_FALSE(Found({north, height}, lo, hi));
-    EXPECT_EQ(lo.GetN(), 7);
+    EXPECT_EQ(7, lo.GetN());
 
     // All beyond the origin: what is not there yet must not count as zero.
     ASSERT_TRUE(Found({height, At(20, 300), north, CCoordinate(200, 10, 5, 3), At(15, 400)}, lo, hi));
-    EXPECT_EQ(lo.GetN(), 10);
-    EXPECT_EQ(lo.GetE(), 200);
-    EXPECT_EQ(hi.GetN(), 20);
-    EXPECT_EQ(hi.GetE(), 400);
-    EXPECT_EQ(lo.GetZ(), 5);
-    EXPECT_EQ(hi.GetZ(), 5);
+    EXPECT_EQ(10, lo.GetN());
+    EXPECT_EQ(200, lo.GetE());
+    EXPECT_EQ(20, hi.GetN());
+    EXPECT_EQ(400, hi.GetE());
+    EXPECT_EQ(5, lo.GetZ());
+    EXPECT_EQ(5, hi.GetZ());
 
     ASSERT_TRUE(Found({At(3, 4)}, lo, hi));
-    EXPECT_TRUE(lo.GetN() == 3 && hi.GetE() == 4 && !lo.IsExistZ());
+    EXPECT_EQ(3, lo.GetN());
+    EXPECT_EQ(4, hi.GetE());
+    EXPECT_FALSE(lo.IsExistZ());
 }
 
 TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
@@ -303,7 +305,7 @@ TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
         ExpectNone(IntersectCircles(none, 1, p, 1), Verdict::NoPosition);
         ExpectNone(FindArcCentre(p, none, 1), Verdict::NoPosition);
         CCurve curve{};
-        EXPECT_EQ(FindCurve(p, q, none, curve), Verdict::NoPosition);
+        EXPECT_EQ(Verdict::NoPosition, FindCurve(p, q, none, curve));
         CInverse inverse{};
         EXPECT_FALSE(FindInverse(none, p, inverse));
     }

@@ -28,20 +28,20 @@ TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
         {-0.5, false, L"359°30'00\""},
         {725.25, true, L"5°15'00.0\""}};
     for (const auto& [dDegrees, bTenths, pszText] : cases)
-        EXPECT_TRUE(DirectionText(dDegrees * RADIANS, bTenths) == pszText) << dDegrees;
+        EXPECT_STREQ(pszText, DirectionText(dDegrees * RADIANS, bTenths)) << dDegrees;
 }
 
 TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
     const std::vector<CJournalEntry> entries = {
         {L"b", {L"始点  K10"}, L"", L""}, {L"a", {}, L"", L""}, {L"b", {}, L"", L""}};
     const std::vector<CJournalGroup> groups = GroupByTitle(entries, L"");
-    ASSERT_EQ(groups.size(), 2U);
-    EXPECT_TRUE(groups[0].strTitle == L"b");
-    EXPECT_EQ(groups[0].entries, (std::vector<size_t>{0, 2}));
-    EXPECT_EQ(groups[1].entries, (std::vector<size_t>{1}));
+    ASSERT_EQ(2U, groups.size());
+    EXPECT_STREQ(L"b", groups[0].strTitle);
+    EXPECT_EQ((std::vector<size_t>{0, 2}), groups[0].entries);
+    EXPECT_EQ((std::vector<size_t>{1}), groups[1].entries);
     const std::vector<CJournalGroup> found = GroupByTitle(entries, L"k1");
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].entries, std::vector<size_t>{0});
+    ASSERT_EQ(1U, found.size());
+    EXPECT_EQ(std::vector<size_t>{0}, found[0].entries);
 }
 
 TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {
@@ -52,7 +52,8 @@ TEST(JournalGroups, LinesComeApartAtTwoBlanksOnly) {
         {L"", L"", L""}};
     for (const auto& [pszLine, pszItem, pszValue] : cases) {
         const auto [strItem, strValue] = SplitLine(pszLine);
-        EXPECT_TRUE(strItem == pszItem && strValue == pszValue);
+        EXPECT_STREQ(pszItem, strItem);
+        EXPECT_STREQ(pszValue, strValue);
     }
 }
 
@@ -72,11 +73,11 @@ TEST(PointOrder, EachColumnSortsBothWaysAndWhatIsMissingComesLast) {
     for (const auto& [column, bTurned, order] : cases) {
         std::vector<size_t> places = FindPoints(points, L"");
         OrderPoints(points, places, {column, bTurned});
-        EXPECT_EQ(places, order) << static_cast<int>(column);
+        EXPECT_EQ(order, places) << static_cast<int>(column);
     }
     std::vector<size_t> some = FindPoints(points, L"K1");
     OrderPoints(points, some, {PointColumn::E, false});
-    EXPECT_EQ(some, (std::vector<size_t>{2, 0}));
+    EXPECT_EQ((std::vector<size_t>{2, 0}), some);
 }
 
 TEST(Progress, AllWorkThatCanBeLongCanBeStopped) {
@@ -112,8 +113,10 @@ TEST(Progress, AllWorkThatCanBeLongCanBeStopped) {
     };
     for (const auto& work : works)
         EXPECT_THROW(work(stop), std::exception) << &work - works;
-    EXPECT_TRUE(file.Read() == "K,1,2\r\n" && bytes == "A,1,2\r\n" && book.GetCount() == 0);
-    EXPECT_EQ(places, (std::vector<size_t>{2, 1, 0}));
+    EXPECT_EQ("K,1,2\r\n", file.Read());
+    EXPECT_EQ("A,1,2\r\n", bytes);
+    EXPECT_EQ(0, book.GetCount());
+    EXPECT_EQ((std::vector<size_t>{2, 1, 0}), places);
 }
 
 TEST(PointOrder, NumbersInNamesCount) {
@@ -121,8 +124,9 @@ TEST(PointOrder, NumbersInNamesCount) {
                                     L"K10", L"K10-2", L"K10-11", L"境界9", L"境界10"};
     for (size_t i = 0; i < std::size(names); ++i)
         for (size_t j = 0; j < std::size(names); ++j)
-            EXPECT_EQ(IsNameBefore(names[i], names[j]), i < j) << i << ' ' << j;
-    EXPECT_TRUE(!IsNameBefore(L"K02", L"K2") && IsNameBefore(L"K002", L"K3"));
+            EXPECT_EQ(i < j, IsNameBefore(names[i], names[j])) << i << ' ' << j;
+    EXPECT_FALSE(IsNameBefore(L"K02", L"K2"));
+    EXPECT_TRUE(IsNameBefore(L"K002", L"K3"));
 }
 
 TEST(LengthText, HasTheDecimalsAndNoSignOfNothing) {
@@ -130,7 +134,7 @@ TEST(LengthText, HasTheDecimalsAndNoSignOfNothing) {
         {-0.0004, 3, L"0.000"}, {-0.0006, 3, L"-0.001"}, {12.5, 1, L"12.5"},
         {-10, 2, L"-10.00"},    {0, 5, L"0.00000"},      {fieldkit::survey::kNull, 3, L""}};
     for (const auto& [dMetres, nDecimals, pszText] : cases)
-        EXPECT_TRUE(LengthText(dMetres, nDecimals) == pszText) << dMetres;
+        EXPECT_STREQ(pszText, LengthText(dMetres, nDecimals)) << dMetres;
 }
 
 } // namespace

@@ -19,10 +19,10 @@ CCoordinate At(double dN, double dE) {
 void ExpectExtent(const CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
     CCoordinate foundLo, foundHi;
     ASSERT_TRUE(drawing.GetExtent(foundLo, foundHi));
-    EXPECT_NEAR(foundLo.GetN(), lo.GetN(), 1e-6);
-    EXPECT_NEAR(foundLo.GetE(), lo.GetE(), 1e-6);
-    EXPECT_NEAR(foundHi.GetN(), hi.GetN(), 1e-6);
-    EXPECT_NEAR(foundHi.GetE(), hi.GetE(), 1e-6);
+    EXPECT_NEAR(lo.GetN(), foundLo.GetN(), 1e-6);
+    EXPECT_NEAR(lo.GetE(), foundLo.GetE(), 1e-6);
+    EXPECT_NEAR(hi.GetN(), foundHi.GetN(), 1e-6);
+    EXPECT_NEAR(hi.GetE(), foundHi.GetE(), 1e-6);
 }
 
 TEST(Drawing, LeavesOutWhatCannotBeDrawn) {
@@ -62,13 +62,13 @@ TEST(Drawing, ArcTurnsLeftFromStartToEnd) {
     const CCoordinate centre = At(100, 200), east = At(100, 230), north = At(130, 200);
     CDrawing quarter;
     quarter.AddArc(east, centre, north, Role::Given);
-    ASSERT_EQ(quarter.GetArcs().size(), 1U);
-    EXPECT_NEAR(quarter.GetArcs()[0].dSweep, TWO_PI / 4, 1e-8);
+    ASSERT_EQ(1U, quarter.GetArcs().size());
+    EXPECT_NEAR(TWO_PI / 4, quarter.GetArcs()[0].dSweep, 1e-8);
     ExpectExtent(quarter, At(100, 200), At(130, 230));
     CDrawing rest;
     rest.AddArc(north, centre, east, Role::Given);
-    ASSERT_EQ(rest.GetArcs().size(), 1U);
-    EXPECT_NEAR(rest.GetArcs()[0].dSweep, TWO_PI * 3 / 4, 1e-8);
+    ASSERT_EQ(1U, rest.GetArcs().size());
+    EXPECT_NEAR(TWO_PI * 3 / 4, rest.GetArcs()[0].dSweep, 1e-8);
     ExpectExtent(rest, At(70, 170), At(130, 230));
 }
 

@@ -12,11 +12,11 @@ TEST(FilePath, FoldersAreNamedFromTheRootAsTheFileDialogsDo) {
     const CString strDrive = CString(szCurrent).Left(2);
     const CString strOther = strDrive.CompareNoCase(L"Q:") == 0 ? L"R:" : L"Q:";
 
-    EXPECT_TRUE(FolderOf(strDrive + L"\\job 7\\points.csv") == L"\\job 7");
-    EXPECT_TRUE(FolderOf(strDrive + L"\\points.csv") == L"\\");
-    EXPECT_TRUE(FolderOf(L"\\job/day.1/points.csv") == L"\\job\\day.1");
+    EXPECT_STREQ(L"\\job 7", FolderOf(strDrive + L"\\job 7\\points.csv"));
+    EXPECT_STREQ(L"\\", FolderOf(strDrive + L"\\points.csv"));
+    EXPECT_STREQ(L"\\job\\day.1", FolderOf(L"\\job/day.1/points.csv"));
     EXPECT_TRUE(FolderOf(L"points.csv") == CString(szCurrent).Mid(2));
-    EXPECT_TRUE(FolderOf(strOther + L"\\job\\points.csv") == strOther + L"\\job");
+    EXPECT_STREQ(strOther + L"\\job", FolderOf(strOther + L"\\job\\points.csv"));
 }
 
 TEST(FilePath, OneFileIsKnownByEachOfItsPaths) {
@@ -25,7 +25,8 @@ TEST(FilePath, OneFileIsKnownByEachOfItsPaths) {
     const CString strFull = PathIn(szCurrent, L"Points.csv");
     EXPECT_TRUE(IsSamePath(strFull, L"points.csv"));
     EXPECT_TRUE(IsSamePath(strFull.Mid(2), L".\\day\\..\\points.csv"));
-    EXPECT_TRUE(!IsSamePath(strFull, L"points1.csv") && PathIn(L"\\", L"points.csv") == L"\\points.csv");
+    EXPECT_FALSE(IsSamePath(strFull, L"points1.csv"));
+    EXPECT_STREQ(L"\\points.csv", PathIn(L"\\", L"points.csv"));
 }
 
 TEST(FilePath, NamesComeWithAndWithoutTheirExtension) {
@@ -35,7 +36,8 @@ TEST(FilePath, NamesComeWithAndWithoutTheirExtension) {
         {L"現場.1.csv", L"現場.1.csv", L"現場.1"},
     };
     for (const auto& [pszPath, pszName, pszTitle] : cases) {
-        EXPECT_TRUE(FileNameOf(pszPath) == pszName && TitleOf(pszPath) == pszTitle);
+        EXPECT_STREQ(pszName, FileNameOf(pszPath));
+        EXPECT_STREQ(pszTitle, TitleOf(pszPath));
     }
 }
 

@@ -14,7 +14,7 @@ int CauseOf(const CString& strPath, const std::function<void(CFile&)>& write) {
         RewriteFile(strPath, write);
     } catch (CFileException* pError) {
         const int nCause = pError->m_cause;
-        EXPECT_TRUE(pError->m_strFileName == strPath) << "the user knows the file by this name only";
+        EXPECT_STREQ(strPath, pError->m_strFileName) << "the user knows the file by this name only";
         pError->Delete();
         return nCause;
     }
@@ -27,7 +27,7 @@ void WriteNew(CFile& file) {
 
 struct FileReplacement : testing::Test {
     void ExpectOldFileAlone() const {
-        EXPECT_EQ(m_file.Read(), OLD);
+        EXPECT_EQ(OLD, m_file.Read());
         EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
     }
 
@@ -37,14 +37,14 @@ struct FileReplacement : testing::Test {
 TEST_F(FileReplacement, NewFileTakesTheOldOnesPlace) {
     RewriteFile(m_file.GetPath(), [this](CFile& file) {
         file.Write("new\r\n", 5);
-        EXPECT_EQ(m_file.Read(), OLD) << "whole until the new one is complete";
+        EXPECT_EQ(OLD, m_file.Read()) << "whole until the new one is complete";
     });
-    EXPECT_EQ(m_file.Read(), "new\r\n");
+    EXPECT_EQ("new\r\n", m_file.Read());
     EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
 
     ::DeleteFile(m_file.GetPath());
     RewriteFile(m_file.GetPath(), WriteNew);
-    EXPECT_EQ(m_file.Read(), "new\r\n") << "where there was none";
+    EXPECT_EQ("new\r\n", m_file.Read()) << "where there was none";
 }
 
 TEST_F(FileReplacement, FullDiskLeavesTheOldFile) {
@@ -52,20 +52,20 @@ TEST_F(FileReplacement, FullDiskLeavesTheOldFile) {
         file.Write("half", 4);
         AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, file.GetFilePath());
     });
-    EXPECT_EQ(nCause, CFileException::diskFull);
+    EXPECT_EQ(CFileException::diskFull, nCause);
     ExpectOldFileAlone();
 }
 
 TEST_F(FileReplacement, ReadOnlyFileIsLeftAlone) {
     ASSERT_TRUE(::SetFileAttributes(m_file.GetPath(), FILE_ATTRIBUTE_READONLY));
-    EXPECT_EQ(CauseOf(m_file.GetPath(), WriteNew), CFileException::accessDenied);
+    EXPECT_EQ(CFileException::accessDenied, CauseOf(m_file.GetPath(), WriteNew));
     ExpectOldFileAlone();
 }
 
 TEST_F(FileReplacement, FileThatIsOpenElsewhereIsLeftAlone) {
     {
         const CFile other(m_file.GetPath(), CFile::modeRead | CFile::shareDenyWrite);
-        EXPECT_NE(CauseOf(m_file.GetPath(), WriteNew), CFileException::none);
+        EXPECT_NE(CFileException::none, CauseOf(m_file.GetPath(), WriteNew));
     }
     ExpectOldFileAlone();
 }
@@ -73,24 +73,25 @@ TEST_F(FileReplacement, FileThatIsOpenElsewhereIsLeftAlone) {
 TEST_F(FileReplacement, NameThatCannotBeUsedStopsItBeforeAnythingHappens) {
     const CString strInTheWay = m_file.GetPath() + L".new";
     ASSERT_TRUE(::CreateDirectory(strInTheWay, nullptr));
-    EXPECT_NE(CauseOf(m_file.GetPath(), WriteNew), CFileException::none);
-    EXPECT_EQ(m_file.Read(), OLD);
+    EXPECT_NE(CFileException::none, CauseOf(m_file.GetPath(), WriteNew));
+    EXPECT_EQ(OLD, m_file.Read());
     EXPECT_TRUE(CTestFile::Exists(strInTheWay)) << "what others have made stays";
 
-    EXPECT_EQ(CauseOf(L"no such folder\\points.csv", WriteNew), CFileException::badPath);
+    EXPECT_EQ(CFileException::badPath, CauseOf(L"no such folder\\points.csv", WriteNew));
 }
 
 TEST_F(FileReplacement, RestOfACrashIsWrittenOver) {
     const CTestFile rest(m_file.GetPath() + L".new", "a long half of a file that never became whole");
     RewriteFile(m_file.GetPath(), WriteNew);
-    EXPECT_EQ(m_file.Read(), "new\r\n");
+    EXPECT_EQ("new\r\n", m_file.Read());
 }
 
 TEST_F(FileReplacement, BackupHoldsTheFileByteForByte) {
     const CTestFile backup(m_file.GetPath() + L".bak", "older");
     ASSERT_TRUE(KeepBackup(m_file.GetPath()));
-    EXPECT_EQ(backup.Read(), OLD);
-    EXPECT_TRUE(!KeepBackup(L"no such file.csv") && !CTestFile::Exists(L"no such file.csv.bak"));
+    EXPECT_EQ(OLD, backup.Read());
+    EXPECT_FALSE(KeepBackup(L"no such file.csv"));
+    EXPECT_FALSE(CTestFile::Exists(L"no such file.csv.bak"));
 }
 
 } // namespace

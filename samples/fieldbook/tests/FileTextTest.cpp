@@ -26,13 +26,13 @@ TEST(FileText, EveryFormIsRecognisedAndWrittenAgain) {
         SCOPED_TRACE(pszCase);
         const CFileText text = DecodeText(bytes);
         EXPECT_TRUE(text.unreadable.empty());
-        EXPECT_EQ(text.form.encoding, encoding);
-        EXPECT_EQ(text.form.lineEnd, lineEnd);
-        EXPECT_TRUE((text.lines.empty() ? CString() : text.lines.front()) == strFirst);
+        EXPECT_EQ(encoding, text.form.encoding);
+        EXPECT_EQ(lineEnd, text.form.lineEnd);
+        EXPECT_STREQ(strFirst, (text.lines.empty() ? CString() : text.lines.front()));
         CTextEncoder encoder(text.form);
         for (const CString& strLine : text.lines)
             EXPECT_TRUE(encoder.Add(strLine));
-        EXPECT_EQ(encoder.GetBytes(), bytes);
+        EXPECT_EQ(bytes, encoder.GetBytes());
     }
 }
 
@@ -45,7 +45,7 @@ TEST(FileText, BytesThatAreNoTextAreToldByTheirLines) {
         {"half a pair of UTF-16", "\xff\xfe\x42\xd8\r\0\n\0"s, {1}}};
     for (const auto& [pszCase, bytes, lines] : cases) {
         const CFileText text = DecodeText(bytes);
-        EXPECT_EQ(text.unreadable, lines) << pszCase;
+        EXPECT_EQ(lines, text.unreadable) << pszCase;
         EXPECT_TRUE(text.lines.empty()) << pszCase;
     }
 }
@@ -56,8 +56,9 @@ TEST(FileText, WhatACodePageCannotHoldIsRefusedOrSpelled) {
         {L"Ä1", false, L"<U+00C4>1"}, // would come back as A1, or as a question mark
         {L"\U00020BB7野", false, L"<U+20BB7>野"}};
     for (const auto& [strText, bFits, strSpelled] : cases) {
-        EXPECT_EQ(CanEncode(strText, Encoding::Oem), bFits);
-        EXPECT_TRUE(CanEncode(strText, Encoding::Utf16Le) && SpellForOem(strText) == strSpelled);
+        EXPECT_EQ(bFits, CanEncode(strText, Encoding::Oem));
+        EXPECT_TRUE(CanEncode(strText, Encoding::Utf16Le));
+        EXPECT_STREQ(strSpelled, SpellForOem(strText));
     }
 }
 

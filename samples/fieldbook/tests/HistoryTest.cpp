@@ -36,11 +36,11 @@ TEST_F(History, ComesBackFromItsFileAndGoesOnAsBefore) {
 
     CHistory loaded(m_file.GetPath());
     loaded.Load();
-    EXPECT_EQ(ContentOf(loaded, m_file), saved);
+    EXPECT_EQ(saved, ContentOf(loaded, m_file));
 
     loaded.Add(L"K3"); // the same kind as K2
     history.Add(L"K3");
-    EXPECT_EQ(ContentOf(loaded, m_file), ContentOf(history, m_file));
+    EXPECT_EQ(ContentOf(history, m_file), ContentOf(loaded, m_file));
 }
 
 TEST_F(History, KeepsTheLastOfEachKindAndTwentyKinds) {
@@ -56,7 +56,7 @@ TEST_F(History, KeepsTheLastOfEachKindAndTwentyKinds) {
         strName.Format(L"%c%d", L'A' + i / 2, i);
         last.Add(strName);
     }
-    EXPECT_EQ(ContentOf(all, m_file), ContentOf(last, m_file));
+    EXPECT_EQ(ContentOf(last, m_file), ContentOf(all, m_file));
 }
 
 TEST_F(History, AbsentAndDamagedFilesGiveAnEmptyOne) {
@@ -75,13 +75,13 @@ TEST_F(History, AbsentAndDamagedFilesGiveAnEmptyOne) {
         CHistory history(m_file.GetPath());
         history.Add(L"before");
         history.Load();
-        EXPECT_EQ(ContentOf(history, m_file), nothing) << content.size();
+        EXPECT_EQ(nothing, ContentOf(history, m_file)) << content.size();
     }
 
     ::DeleteFile(m_file.GetPath());
     CHistory history(m_file.GetPath());
     history.Load();
-    EXPECT_EQ(ContentOf(history, m_file), nothing);
+    EXPECT_EQ(nothing, ContentOf(history, m_file));
 }
 
 TEST_F(History, NoFlippedBitDoesHarm) {

@@ -69,8 +69,8 @@ TEST_F(JobFile, FirstSaveKeepsWhatSomethingElseHasWritten) {
         m_file.Write(pszFile);
         ASSERT_TRUE(Open(opening));
         ASSERT_TRUE(Save(saving));
-        EXPECT_EQ(m_file.Read(), pszSaved);
-        EXPECT_EQ(HasBackup(), bBackup);
+        EXPECT_EQ(pszSaved, m_file.Read());
+        EXPECT_EQ(bBackup, HasBackup());
         EXPECT_TRUE(!bBackup || CTestFile::ReadFrom(m_file.GetPath() + L".bak") == pszFile);
         ::DeleteFile(m_file.GetPath() + L".bak");
         EXPECT_TRUE(Save());
@@ -87,27 +87,31 @@ TEST_F(JobFile, FileThatWasChangedOutsideIsAskedAbout) {
     EXPECT_TRUE(HasNewsOutside(*m_pJob));
     EXPECT_FALSE(HasNewsOutside(*m_pJob)) << "each change once";
     EXPECT_FALSE(Save({Keys({VK_RETURN})})) << "Enter loses nothing";
-    EXPECT_EQ(m_file.Read(), FILE_OF_OTHERS);
-    EXPECT_TRUE(m_pJob->book.IsModified() && Save({Answer(IDYES)}));
-    EXPECT_EQ(m_file.Read(), "name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\n");
-    EXPECT_TRUE(HasBackup() && !HasNewsOutside(*m_pJob));
+    EXPECT_EQ(FILE_OF_OTHERS, m_file.Read());
+    EXPECT_TRUE(m_pJob->book.IsModified());
+    EXPECT_TRUE(Save({Answer(IDYES)}));
+    EXPECT_EQ("name,N,E,Z\r\nA,1.000000,2.000000,3.000000\r\n", m_file.Read());
+    EXPECT_TRUE(HasBackup());
+    EXPECT_FALSE(HasNewsOutside(*m_pJob));
 
     // Read again, with the change that was not saved.
     m_pJob->book.Add({L"C", CCoordinate(2, 1, 0, 1)});
     m_file.Write(FILE_OF_OURS);
     Play([&] { return AnswerNewsOutside(*m_pJob, m_parent), 1; },
          {Answer(IDYES), Answer(IDYES), Answer(IDOK)});
-    EXPECT_TRUE(m_pJob->book.GetCount() == 3 && m_pJob->book.Find(L"B") != nullptr &&
-                m_pJob->book.IsModified());
+    EXPECT_EQ(3, m_pJob->book.GetCount());
+    EXPECT_NE(nullptr, m_pJob->book.Find(L"B"));
+    EXPECT_TRUE(m_pJob->book.IsModified());
     ::DeleteFile(m_file.GetPath() + L".changes.old");
 
     // Gone: its points are here still, and leaving without a save asks.
     for (const int nAnswer : {IDYES, IDNO}) {
         ::DeleteFile(m_file.GetPath());
-        EXPECT_TRUE(HasNewsOutside(*m_pJob) && !HasNewsOutside(*m_pJob));
+        EXPECT_TRUE(HasNewsOutside(*m_pJob));
+        EXPECT_FALSE(HasNewsOutside(*m_pJob));
         Play([&] { return AnswerNewsOutside(*m_pJob, m_parent), 1; }, {Answer(nAnswer)});
-        EXPECT_EQ(CTestFile::Exists(m_file.GetPath()), nAnswer == IDYES);
-        EXPECT_EQ(m_pJob->book.IsModified(), nAnswer == IDNO);
+        EXPECT_EQ(nAnswer == IDYES, CTestFile::Exists(m_file.GetPath()));
+        EXPECT_EQ(nAnswer == IDNO, m_pJob->book.IsModified());
     }
 }
 
@@ -125,7 +129,9 @@ TEST_F(JobFile, LongWorkThatIsStoppedLeavesEverythingAsItWas) {
     const Step endOfSession = [] { EXPECT_TRUE(CProgressWindow::StopCurrent()); };
     for (const Step& stop : {TapIn(IDCANCEL), close, endOfSession}) {
         EXPECT_FALSE(Save({stop}));
-        EXPECT_TRUE(m_file.Read() == FILE_OF_OTHERS && m_pJob->book.IsModified() && !HasBackup());
+        EXPECT_EQ(FILE_OF_OTHERS, m_file.Read());
+        EXPECT_TRUE(m_pJob->book.IsModified());
+        EXPECT_FALSE(HasBackup());
         EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
     }
 }
@@ -142,10 +148,10 @@ TEST_F(JobFile, QuickSecondTapDoesNothingTwice) {
         };
     };
     Play(list, {twice(IDC_UNDO), Close(list)});
-    EXPECT_EQ(m_pJob->book.GetCount(), 2);
+    EXPECT_EQ(2, m_pJob->book.GetCount());
     CPointEntryDlg entry(*m_pJob, nullptr);
     Play(entry, {Keys({'1', VK_RETURN, '2'}), NoPanel(), twice(IDC_ADD), Close(entry)});
-    EXPECT_EQ(m_pJob->book.GetCount(), 3);
+    EXPECT_EQ(3, m_pJob->book.GetCount());
 }
 
 TEST_F(JobFile, WhatWasNotSavedComesBackWithOneLineThatSaysSo) {
@@ -156,9 +162,9 @@ TEST_F(JobFile, WhatWasNotSavedComesBackWithOneLineThatSaysSo) {
     Restart();
     ASSERT_TRUE(Open({Answer(IDOK)}));
     EXPECT_TRUE(m_pJob->book.IsModified());
-    EXPECT_EQ(m_pJob->book.GetCount(), 2);
-    ASSERT_NE(m_pJob->book.FindPoint(L"C"), nullptr);
-    EXPECT_TRUE(m_pJob->book.FindPoint(L"C")->strCode == L"STONE");
+    EXPECT_EQ(2, m_pJob->book.GetCount());
+    ASSERT_NE(nullptr, m_pJob->book.FindPoint(L"C"));
+    EXPECT_STREQ(L"STONE", m_pJob->book.FindPoint(L"C")->strCode);
     ASSERT_TRUE(Save());
     Restart();
     EXPECT_TRUE(Open()) << "without any line";
@@ -169,7 +175,7 @@ TEST_F(JobFile, WhatWasNotSavedComesBackWithOneLineThatSaysSo) {
         m_file.Write(nAnswer == IDYES ? FILE_OF_OURS : FILE_OF_OTHERS);
         Restart();
         ASSERT_TRUE(nAnswer == IDYES ? Open({Answer(IDYES), Answer(IDOK)}) : Open({Answer(IDNO)}));
-        EXPECT_EQ(m_pJob->book.GetCount(), nAnswer == IDYES ? 3 : 1);
+        EXPECT_EQ(nAnswer == IDYES ? 3 : 1, m_pJob->book.GetCount());
         EXPECT_TRUE(CTestFile::Exists(m_file.GetPath() + L".changes.old"));
         GiveUpChanges(*m_pJob);
         ::DeleteFile(m_file.GetPath() + L".changes.old");
@@ -185,17 +191,17 @@ TEST_F(JobFile, FileThatCannotBeUsedLeavesTheJobAsItWas) {
     const auto open = [&](CJob& job, const CString& strPath) {
         return Play([&] { return OpenPointsFile(job, strPath, m_parent) ? 1 : 0; }, {Answer(IDOK)});
     };
-    EXPECT_EQ(open(*m_pJob, other.GetPath()), 0) << "bytes that are no text";
-    EXPECT_EQ(open(*m_pJob, L"fieldbook-no-such.csv"), 0);
+    EXPECT_EQ(0, open(*m_pJob, other.GetPath())) << "bytes that are no text";
+    EXPECT_EQ(0, open(*m_pJob, L"fieldbook-no-such.csv"));
     CJob second(L"no-history.dat");
-    EXPECT_EQ(open(second, m_file.GetPath()), 0) << "a second program is told";
-    EXPECT_EQ(second.book.GetCount(), 0);
-    EXPECT_EQ(Play([&] { return SavePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}), 0);
-    EXPECT_EQ(Play([&] { return MakePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}), 0);
+    EXPECT_EQ(0, open(second, m_file.GetPath())) << "a second program is told";
+    EXPECT_EQ(0, second.book.GetCount());
+    EXPECT_EQ(0, Play([&] { return SavePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}));
+    EXPECT_EQ(0, Play([&] { return MakePointsFile(*m_pJob, L"no folder\\p.csv") ? 1 : 0; }, {Answer(IDOK)}));
     EXPECT_TRUE(m_pJob->strPath == m_file.GetPath());
-    EXPECT_EQ(m_pJob->book.GetCount(), 1);
+    EXPECT_EQ(1, m_pJob->book.GetCount());
     EXPECT_TRUE(m_pJob->book.IsModified());
-    EXPECT_EQ(other.Read(), "A,1,2\r\n\x83,1,2\r\n");
+    EXPECT_EQ("A,1,2\r\n\x83,1,2\r\n", other.Read());
     Restart();
     EXPECT_TRUE(Open({Answer(IDOK)})) << "the change is recorded still";
     other.Write(FILE_OF_OURS);
@@ -218,7 +224,9 @@ TEST_F(JobFile, ResultThatCouldNotBeWrittenComesWithTheNext) {
     journal.Append(L"C", {});
     const std::string text = results.Read();
     const size_t nA = text.find("  A\r\n1\r\n"), nB = text.find("  B\r\n"), nC = text.find("  C\r\n");
-    EXPECT_TRUE(nA < nB && nB < nC && nC + 5 == text.size()) << text;
+    EXPECT_LT(nA, nB);
+    EXPECT_LT(nB, nC);
+    EXPECT_EQ(text.size(), nC + 5);
 }
 
 // --- Entry, edit and list by pen ------------------------------------------------------------------
@@ -231,7 +239,7 @@ Step Action(CPointEntryDlg& dialog, const std::string& action) {
     if (action == "x")
         return Close(dialog);
     if (action == "end")
-        return [&dialog] { EXPECT_EQ(dialog.SendMessage(WM_QUERYENDSESSION), FALSE) << "the answer is No"; };
+        return [&dialog] { EXPECT_EQ(FALSE, dialog.SendMessage(WM_QUERYENDSESSION)) << "the answer is No"; };
     if (action == "yes" || action == "no")
         return Answer(action == "yes" ? IDYES : IDNO);
     return [&dialog, action] {
@@ -270,7 +278,7 @@ TEST_F(JobFile, EntryStoresWhatIsMeantAndNothingElse) {
         std::string bytes;
         CString strBad;
         FormatPoints(m_pJob->book.GetPoints(), {}, bytes, strBad);
-        EXPECT_EQ(bytes, points);
+        EXPECT_EQ(points, bytes);
     }
 }
 
@@ -291,8 +299,8 @@ TEST_F(JobFile, PointIsChosenFromListAndPlan) {
         SCOPED_TRACE(pszCase);
         CNameDlg dialog(L"?", L"", m_pJob->history, nullptr);
         dialog.OfferPoints(*m_pJob);
-        EXPECT_EQ(Play(dialog, steps), IDOK);
-        EXPECT_TRUE(dialog.GetName() == pszName);
+        EXPECT_EQ(IDOK, Play(dialog, steps));
+        EXPECT_STREQ(pszName, dialog.GetName());
     }
 }
 
@@ -302,11 +310,12 @@ TEST_F(JobFile, RemovedPointComesBackToItsPlace) {
     m_pJob->book.BeginHere();
     CPointListDlg dialog(*m_pJob, nullptr);
     const auto count = [&](int nExpected) {
-        return [&, nExpected] { EXPECT_EQ(m_pJob->book.GetCount(), nExpected); };
+        return [&, nExpected] { EXPECT_EQ(nExpected, m_pJob->book.GetCount()); };
     };
     Play(dialog, {TapRow(1), Tap(dialog, IDC_REMOVE), Keys({VK_RETURN}), count(3), Tap(dialog, IDC_REMOVE),
                   Answer(IDYES), count(2), Tap(dialog, IDC_UNDO), count(3), Close(dialog)});
-    EXPECT_TRUE(m_pJob->book.GetPoints()[1].strName == L"B" && !m_pJob->book.CanUndo());
+    EXPECT_STREQ(L"B", m_pJob->book.GetPoints()[1].strName);
+    EXPECT_FALSE(m_pJob->book.CanUndo());
 }
 
 } // namespace

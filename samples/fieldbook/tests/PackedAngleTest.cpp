@@ -22,8 +22,8 @@ TEST(PackedAngle, ReadsDegreesMinutesAndSeconds) {
     };
     for (const auto& [pszText, dDegrees] : cases) {
         double dRadians = 0;
-        EXPECT_EQ(ParsePackedAngle(pszText, dRadians), AngleFault::None) << CString(pszText).GetLength();
-        EXPECT_NEAR(dRadians / RADIANS, dDegrees, 1e-12);
+        EXPECT_EQ(AngleFault::None, ParsePackedAngle(pszText, dRadians)) << CString(pszText).GetLength();
+        EXPECT_NEAR(dDegrees, dRadians / RADIANS, 1e-12);
     }
 }
 
@@ -36,8 +36,8 @@ TEST(PackedAngle, RefusesWhatIsNoAngleAndKeepsTheOldValue) {
     };
     for (const auto& [pszText, fault] : cases) {
         double dRadians = 7;
-        EXPECT_EQ(ParsePackedAngle(pszText, dRadians), fault) << CString(pszText).GetLength();
-        EXPECT_EQ(dRadians, 7);
+        EXPECT_EQ(fault, ParsePackedAngle(pszText, dRadians)) << CString(pszText).GetLength();
+        EXPECT_EQ(7, dRadians);
     }
 }
 

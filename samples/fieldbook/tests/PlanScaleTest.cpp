@@ -23,8 +23,8 @@ CCoordinate At(double dN, double dE) {
 }
 
 void ExpectPixel(CVector pixel, double dX, double dY) {
-    EXPECT_NEAR(pixel.GetX(), dX, 1e-6);
-    EXPECT_NEAR(pixel.GetY(), dY, 1e-6);
+    EXPECT_NEAR(dX, pixel.GetX(), 1e-6);
+    EXPECT_NEAR(dY, pixel.GetY(), 1e-6);
 }
 
 TEST(PlanScale, ShowsTheWholeBoxNorthUpWithOneScale) {
@@ -40,8 +40,8 @@ TEST(PlanScale, ShowsTheWholeBoxNorthUpWithOneScale) {
         EXPECT_LE(northEast.GetX(), VIEW.cx - 20);
         EXPECT_GE(northEast.GetY(), 20);
         CVector diagonal = northEast - southWest;
-        EXPECT_NEAR(diagonal.GetX(), dWidth * scale.GetFactor(), 1e-6);
-        EXPECT_NEAR(diagonal.GetY(), -dHeight * scale.GetFactor(), 1e-6);
+        EXPECT_NEAR(dWidth * scale.GetFactor(), diagonal.GetX(), 1e-6);
+        EXPECT_NEAR(-dHeight * scale.GetFactor(), diagonal.GetY(), 1e-6);
         EXPECT_GT(diagonal.UNorm(), 160); // and as large as there is room
     }
 }
@@ -56,7 +56,7 @@ TEST(PlanScale, ZoomsAboutTheMiddleWithinLimits) {
     const CPlanScale whole(At(0, 0), At(100, 100), VIEW);
     const CPlanScale larger = whole.Zoomed(2);
     ExpectPixel(larger.ToPixel(At(50, 50)), 120, 116);
-    EXPECT_DOUBLE_EQ(larger.GetFactor(), 2 * whole.GetFactor());
+    EXPECT_DOUBLE_EQ(2 * whole.GetFactor(), larger.GetFactor());
     CPlanScale scale = whole;
     for (int i = 0; i < 100; ++i)
         scale = scale.Zoomed(0.5);
@@ -83,8 +83,8 @@ TEST(PlanScale, BarHasARoundLength) {
     for (const auto& [dFactor, pszText, nPixels] : cases) {
         SCOPED_TRACE(dFactor);
         const CScaleBar bar = FindScaleBar(dFactor, 90);
-        EXPECT_STREQ(ScaleBarText(bar.dLength), pszText);
-        EXPECT_EQ(bar.nPixels, nPixels);
+        EXPECT_STREQ(pszText, ScaleBarText(bar.dLength));
+        EXPECT_EQ(nPixels, bar.nPixels);
     }
 }
 
@@ -104,7 +104,7 @@ TEST(PlanClip, CutsLinesAtTheBorders) {
     for (const auto& [pszCase, given, bUnbounded, bSeen, seen] : cases) {
         SCOPED_TRACE(pszCase);
         CSegment line = given;
-        ASSERT_EQ(ClipSegment(line, VIEW_RECT, bUnbounded), bSeen);
+        ASSERT_EQ(bSeen, ClipSegment(line, VIEW_RECT, bUnbounded));
         if (!bSeen)
             continue;
         ExpectPixel(line.start, seen.start.GetX(), seen.start.GetY());
@@ -137,13 +137,13 @@ TEST(PlanClip, ArcsKeepToTheirCircleInTheView) {
     for (const auto& [pszCase, centre, dRadius, dStart, dSweep, dLength] : cases) {
         SCOPED_TRACE(pszCase);
         const std::vector<CSegment> pieces = ClipArc(centre, dRadius, dStart, dSweep, VIEW_RECT);
-        EXPECT_NEAR(LengthOf(pieces), dLength, 0.01 * dLength + 0.2);
+        EXPECT_NEAR(dLength, LengthOf(pieces), 0.01 * dLength + 0.2);
         EXPECT_LT(pieces.size(), 300U);
         for (const CSegment& piece : pieces) {
             CVector start = piece.start;
-            EXPECT_NEAR((start - centre).UNorm(), dRadius, 0.3);
-            EXPECT_TRUE(VIEW_RECT.left <= start.GetX() && start.GetX() <= VIEW_RECT.right);
-            EXPECT_TRUE(VIEW_RECT.top <= start.GetY() && start.GetY() <= VIEW_RECT.bottom);
+            EXPECT_NEAR(dRadius, (start - centre).UNorm(), 0.3);
+            EXPECT_NEAR(VIEW_RECT.CenterPoint().x, start.GetX(), VIEW_RECT.Width() / 2.0);
+            EXPECT_NEAR(VIEW_RECT.CenterPoint().y, start.GetY(), VIEW_RECT.Height() / 2.0);
         }
     }
 }
@@ -162,7 +162,7 @@ TEST(PlanSpace, NamesLieInTheViewAndOnNoOtherName) {
     EXPECT_GE(names.size(), 2U);
     EXPECT_LT(names.size(), 13U);
     for (size_t i = 0; i < names.size(); ++i) {
-        EXPECT_EQ(names[i] & VIEW_RECT, names[i]);
+        EXPECT_EQ(names[i], names[i] & VIEW_RECT);
         EXPECT_TRUE((names[i] & mark).IsRectEmpty());
         for (size_t j = 0; j < i; ++j)
             EXPECT_TRUE((names[i] & names[j]).IsRectEmpty());
@@ -181,7 +181,7 @@ TEST(PlanSpace, NameKeepsOffALineWhileThereIsRoomElsewhere) {
     CRect onLine;
     EXPECT_FALSE(full.PlaceName(mark, NAME, Space::Free, onLine));
     ASSERT_TRUE(full.PlaceName(mark, NAME, Space::Line, onLine));
-    EXPECT_NE(place, onLine);
+    EXPECT_NE(onLine, place);
 }
 
 TEST(PlanSpace, ScaleAndArrowGoToCornersWithoutMarks) {
@@ -201,7 +201,8 @@ TEST(PlanSpace, ScaleAndArrowGoToCornersWithoutMarks) {
         CPlanSpace space(VIEW);
         for (const CRect& rect : there)
             space.Put(rect, what);
-        EXPECT_TRUE(takeIn(space) == first && takeIn(space) == second);
+        EXPECT_EQ(first, takeIn(space));
+        EXPECT_EQ(second, takeIn(space));
     }
     CPlanSpace none(CSize(0, 0));
     takeIn(none);

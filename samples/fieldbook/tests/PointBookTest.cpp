@@ -1,5 +1,7 @@
 #include "points/PointBook.h"
 
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -14,7 +16,7 @@ struct PointBook : testing::Test {
         CString strNames;
         for (const CNamedPoint& point : m_book.GetPoints()) {
             strNames += point.strName + L" ";
-            EXPECT_EQ(m_book.Find(point.strName), &point.point);
+            EXPECT_EQ(&point.point, m_book.Find(point.strName));
         }
         return strNames;
     }
@@ -30,40 +32,47 @@ struct PointBook : testing::Test {
 };
 
 TEST_F(PointBook, NextNameIsTheFirstFreeOne) {
-    EXPECT_TRUE(m_book.NextName(L"T") == L"T3" && m_book.NextName(L"T1") == L"T3");
-    EXPECT_TRUE(m_book.NextName(L"K009") == L"K010" && m_book.NextName(L"BM") == L"BM1");
+    for (const auto& [pszName, pszNext] : Rows<const wchar_t*, const wchar_t*>{
+             {L"T", L"T3"}, {L"T1", L"T3"}, {L"K009", L"K010"}, {L"BM", L"BM1"}})
+        EXPECT_STREQ(pszNext, m_book.NextName(pszName));
 }
 
 TEST_F(PointBook, PointIsChangedInItsPlace) {
     ASSERT_TRUE(m_book.Replace(L"T2", At(L"T2", 20)));
-    EXPECT_TRUE(Names() == L"T1 T2 K009 ");
-    EXPECT_EQ(m_book.Find(L"T2")->GetE(), 20);
+    EXPECT_STREQ(L"T1 T2 K009 ", Names());
+    EXPECT_EQ(20, m_book.Find(L"T2")->GetE());
     EXPECT_TRUE(m_book.IsModified());
 }
 
 TEST_F(PointBook, PointKeepsItsPlaceAndItsMarkUnderANewName) {
     m_book.MarkUsed(L"T1");
     ASSERT_TRUE(m_book.Replace(L"T1", At(L"T7", 7)));
-    EXPECT_TRUE(Names() == L"T7 T2 K009 " && m_book.Find(L"T1") == nullptr && m_book.IsUsed(L"T7"));
+    EXPECT_STREQ(L"T7 T2 K009 ", Names());
+    EXPECT_EQ(nullptr, m_book.Find(L"T1"));
+    EXPECT_TRUE(m_book.IsUsed(L"T7"));
     EXPECT_FALSE(m_book.IsUsed(L"T1"));
     EXPECT_TRUE(m_book.Add(At(L"T1", 1))) << "the old name is free";
 }
 
 TEST_F(PointBook, WhatIsRefusedChangesNothing) {
-    EXPECT_TRUE(!m_book.Add(At(L"T1", 9)) && !m_book.Replace(L"T1", At(L"T2", 9)));
-    EXPECT_TRUE(!m_book.Replace(L"X", At(L"Y", 9)) && !m_book.Remove(L"X") && !m_book.IsModified());
-    EXPECT_TRUE(Names() == L"T1 T2 K009 ");
-    EXPECT_EQ(m_book.Find(L"T1")->GetE(), 0);
-    EXPECT_EQ(m_book.Find(L"T2")->GetE(), 1);
+    EXPECT_FALSE(m_book.Add(At(L"T1", 9)));
+    EXPECT_FALSE(m_book.Replace(L"T1", At(L"T2", 9)));
+    EXPECT_FALSE(m_book.Replace(L"X", At(L"Y", 9)));
+    EXPECT_FALSE(m_book.Remove(L"X"));
+    EXPECT_FALSE(m_book.IsModified());
+    EXPECT_STREQ(L"T1 T2 K009 ", Names());
+    EXPECT_EQ(0, m_book.Find(L"T1")->GetE());
+    EXPECT_EQ(1, m_book.Find(L"T2")->GetE());
 }
 
 TEST_F(PointBook, RemovedPointLeavesTheOthersInOrder) {
     m_book.MarkUsed(L"T1");
     ASSERT_TRUE(m_book.Remove(L"T1"));
-    EXPECT_TRUE(m_book.IsModified() && Names() == L"T2 K009 ");
-    EXPECT_EQ(m_book.GetUsedCount(), 0);
+    EXPECT_TRUE(m_book.IsModified());
+    EXPECT_STREQ(L"T2 K009 ", Names());
+    EXPECT_EQ(0, m_book.GetUsedCount());
     ASSERT_TRUE(m_book.Add(At(L"T1", 5)));
-    EXPECT_TRUE(Names() == L"T2 K009 T1 ");
+    EXPECT_STREQ(L"T2 K009 T1 ", Names());
 }
 
 TEST_F(PointBook, ChangesAreTakenBackOneByOneAndToldLikeOthers) {
@@ -78,10 +87,10 @@ TEST_F(PointBook, ChangesAreTakenBackOneByOneAndToldLikeOthers) {
     for (const wchar_t* pszNames : states) {
         CPointChange undone{};
         ASSERT_TRUE(m_book.Undo(undone));
-        EXPECT_TRUE(Names() == pszNames);
+        EXPECT_STREQ(pszNames, Names());
     }
     EXPECT_FALSE(m_book.CanUndo());
-    EXPECT_EQ(m_book.Find(L"T1")->GetE(), 0);
+    EXPECT_EQ(0, m_book.Find(L"T1")->GetE());
     for (const CPointChange& change : told)
         EXPECT_TRUE(same.Apply(change)) << "whoever repeats them all comes to the same";
     EXPECT_FALSE(same.Apply(told.front().Reversed())) << "not made in this state";

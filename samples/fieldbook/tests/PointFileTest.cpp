@@ -66,18 +66,18 @@ TEST(PointFile, ShippedFilesAreReadAndComeBackAsTheyWereSaved) {
         SCOPED_TRACE(testing::Message() << c.pszName);
         CPointBook book;
         const CReadReport report = ReadPoints(DecodeText(Shipped(c.pszName)), book);
-        EXPECT_EQ(FaultsOf(report), c.faults);
-        EXPECT_EQ(book.GetCount(), c.nPoints);
+        EXPECT_EQ(c.faults, FaultsOf(report));
+        EXPECT_EQ(c.nPoints, book.GetCount());
         const CCoordinate* const pPoint = book.Find(c.pszPoint);
-        ASSERT_NE(pPoint, nullptr) << "is the OEM code page 932?";
-        EXPECT_EQ(pPoint->GetN(), c.dN);
-        EXPECT_EQ(pPoint->GetE(), c.dE);
-        EXPECT_EQ(pPoint->GetZ(), c.dZ);
+        ASSERT_NE(nullptr, pPoint) << "is the OEM code page 932?";
+        EXPECT_EQ(c.dN, pPoint->GetN());
+        EXPECT_EQ(c.dE, pPoint->GetE());
+        EXPECT_EQ(c.dZ, pPoint->GetZ());
 
         const std::string saved = Saved(book, report.format);
         CPointBook again;
-        EXPECT_EQ(Saved(again, ReadPoints(DecodeText(saved), again).format), saved);
-        EXPECT_EQ(again.GetCount(), c.nPoints);
+        EXPECT_EQ(saved, Saved(again, ReadPoints(DecodeText(saved), again).format));
+        EXPECT_EQ(c.nPoints, again.GetCount());
         EXPECT_TRUE(IsAsSaved(saved, report.format));
     }
 }
@@ -118,19 +118,19 @@ TEST(PointFile, HeadingDecidesWhatIsInAColumnAndIsKept) {
         };
         CPointBook book;
         const CReadReport report = ReadPoints(DecodeText(c.pszFile), book, help);
-        EXPECT_EQ(FaultsOf(report), Faults());
+        EXPECT_EQ(Faults(), FaultsOf(report));
         EXPECT_TRUE(LettersOf(report.format.columns) == c.pszColumns)
             << CStringA(LettersOf(report.format.columns)).GetString();
         EXPECT_TRUE(strAsked == c.pszHeadingAsked);
         const CNamedPoint* const pPoint = book.FindPoint(L"P");
-        ASSERT_NE(pPoint, nullptr);
-        EXPECT_EQ(pPoint->point.GetN(), 1);
-        EXPECT_EQ(pPoint->point.GetE(), 2);
+        ASSERT_NE(nullptr, pPoint);
+        EXPECT_EQ(1, pPoint->point.GetN());
+        EXPECT_EQ(2, pPoint->point.GetE());
         EXPECT_TRUE(!pPoint->point.IsExistZ() || pPoint->point.GetZ() == 3);
         EXPECT_TRUE(pPoint->strCode ==
                     (CString(c.pszColumns).Find(L'C') >= 0 && !report.format.bSima ? L"S" : L""));
-        EXPECT_EQ(Saved(book, report.format), c.pszSaved != nullptr ? c.pszSaved : c.pszFile);
-        EXPECT_EQ(IsAsSaved(c.pszFile, report.format), c.pszSaved == nullptr);
+        EXPECT_EQ(c.pszSaved != nullptr ? c.pszSaved : c.pszFile, Saved(book, report.format));
+        EXPECT_EQ(c.pszSaved == nullptr, IsAsSaved(c.pszFile, report.format));
     }
 }
 
@@ -163,8 +163,8 @@ TEST(PointFile, NoLineIsLostOrShifted) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.pszCase);
         CPointBook book;
-        EXPECT_EQ(FaultsOf(ReadPoints(DecodeText(c.content), book)), c.faults);
-        EXPECT_EQ(book.GetCount(), c.nPoints);
+        EXPECT_EQ(c.faults, FaultsOf(ReadPoints(DecodeText(c.content), book)));
+        EXPECT_EQ(c.nPoints, book.GetCount());
     }
 }
 
@@ -172,10 +172,11 @@ TEST(PointFile, WhatAFileHasNotGotIsAddedBehind) {
     CPointBook book;
     CReadReport report = ReadPoints(DecodeText("name;N;E\r\nP;1;2\r\n"), book);
     book.Add({L"Q", CCoordinate(4, 3, 5, 3), L"STONE"});
-    EXPECT_EQ(Saved(book, report.format), "name;N;E;Z;code\r\nP;1.000000;2.000000;;\r\n"
-                                          "Q;3.000000;4.000000;5.000000;STONE\r\n");
+    EXPECT_EQ("name;N;E;Z;code\r\nP;1.000000;2.000000;;\r\n"
+              "Q;3.000000;4.000000;5.000000;STONE\r\n",
+              Saved(book, report.format));
     report = ReadPoints(DecodeText("A01,7,R,1,2,3,\r\nA01,9,S,1,2,,\r\n"), book);
-    EXPECT_NE(Saved(book, report.format).find("A01,10,P,1.000000,2.000000,,\r\n"), std::string::npos)
+    EXPECT_NE(std::string::npos, Saved(book, report.format).find("A01,10,P,1.000000,2.000000,,\r\n"))
         << "a point that is new there gets the next number";
 }
 
@@ -203,9 +204,9 @@ TEST(PointFile, WhatWouldBeReadOtherwiseIsWrittenAnotherWay) {
         std::string bytes;
         CString strBad;
         EXPECT_TRUE(FormatFile(c.points, format, bytes, strBad));
-        EXPECT_EQ(bytes, c.pszFile);
+        EXPECT_EQ(c.pszFile, bytes);
         CPointBook book;
-        EXPECT_EQ(FaultsOf(ReadPoints(DecodeText(bytes), book)), Faults());
+        EXPECT_EQ(Faults(), FaultsOf(ReadPoints(DecodeText(bytes), book)));
         EXPECT_TRUE(book.FindPoint(c.points.front().strName) != nullptr);
     }
 }
@@ -229,7 +230,7 @@ TEST(PointFile, ExportHasTheChosenColumnsInTheirOrder) {
         std::string bytes;
         CString strBad;
         EXPECT_TRUE(FormatPoints(points, ExportFormat(ColumnsOf(c.pszColumns), format), bytes, strBad));
-        EXPECT_EQ(bytes, c.pszFile);
+        EXPECT_EQ(c.pszFile, bytes);
     }
 }
 
@@ -248,7 +249,7 @@ TEST(PointFile, PointThatAFileCannotHoldIsNamed) {
         CLineFormat format = NewFormat();
         EXPECT_FALSE(FormatFile({point}, format, bytes, strBad));
         EXPECT_TRUE(strBad == point.strName);
-        EXPECT_EQ(bytes, "old");
+        EXPECT_EQ("old", bytes);
     }
 }
 

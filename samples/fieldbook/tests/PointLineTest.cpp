@@ -25,8 +25,8 @@ TEST(PointLine, FieldsAreCheckedOneByOne) {
     };
     for (const auto& [strName, pszN, pszE, pszZ, fault] : cases) {
         CNamedPoint point{L"old", CCoordinate()};
-        EXPECT_EQ(ParsePoint(strName, pszN, pszE, pszZ, point), fault) << pszN << ' ' << pszE;
-        EXPECT_EQ(point.strName == L"old", fault != LineFault::None);
+        EXPECT_EQ(fault, ParsePoint(strName, pszN, pszE, pszZ, point)) << pszN << ' ' << pszE;
+        EXPECT_EQ(fault != LineFault::None, point.strName == L"old");
     }
 }
 
@@ -38,11 +38,11 @@ TEST(PointLine, BlankMembersAreAbsentAndTheOthersKept) {
     };
     for (const auto& [pszN, pszE, pszZ, dN, dE, dZ] : cases) {
         CNamedPoint point;
-        ASSERT_EQ(ParsePoint(L"境 界7", pszN, pszE, pszZ, point), LineFault::None);
-        EXPECT_TRUE(point.strName == L"境界7");
-        EXPECT_EQ(point.point.GetN(), dN);
-        EXPECT_EQ(point.point.GetE(), dE);
-        EXPECT_EQ(point.point.GetZ(), dZ);
+        ASSERT_EQ(LineFault::None, ParsePoint(L"境 界7", pszN, pszE, pszZ, point));
+        EXPECT_STREQ(L"境界7", point.strName);
+        EXPECT_EQ(dN, point.point.GetN());
+        EXPECT_EQ(dE, point.point.GetE());
+        EXPECT_EQ(dZ, point.point.GetZ());
     }
 }
 

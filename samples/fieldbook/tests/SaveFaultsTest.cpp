@@ -123,12 +123,12 @@ void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
     const std::string older = file.Read();
     ASSERT_TRUE(save());
     const std::string newer = file.Read();
-    ASSERT_NE(newer, older);
+    ASSERT_NE(older, newer);
     file.Write(older);
     ForEveryFault(save, [&](bool bDone) {
-        EXPECT_EQ(file.Read(), bDone ? newer : older);
+        EXPECT_EQ(bDone ? newer : older, file.Read());
         EXPECT_TRUE(save()) << "it must work as soon as the trouble is over";
-        EXPECT_EQ(file.Read(), newer);
+        EXPECT_EQ(newer, file.Read());
         EXPECT_FALSE(CTestFile::Exists(file.GetPath() + L".new"));
         file.Write(older);
     });
@@ -205,7 +205,7 @@ TEST(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
         book.SetObserver({});
         for (CPointChange undone; book.Undo(undone);)
             continue;
-        EXPECT_TRUE(namesOf(book) == L"A") << "all can be taken back";
+        EXPECT_STREQ(L"A", namesOf(book)) << "all can be taken back";
         fresh();
     };
     ForEveryFault(change, check, ERROR_NOT_ENOUGH_MEMORY);
@@ -224,7 +224,7 @@ TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
     const std::string saved = file.Read();
     ASSERT_TRUE(history.Save());
     const std::string whole = file.Read();
-    EXPECT_NE(saved, whole);
+    EXPECT_NE(whole, saved);
     ForEveryFault(
         [&] {
             history.Load();
@@ -235,7 +235,7 @@ TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
             file.Write(whole);
             history.Load();
             EXPECT_TRUE(history.Save());
-            EXPECT_EQ(file.Read(), whole);
+            EXPECT_EQ(whole, file.Read());
         });
 }
 

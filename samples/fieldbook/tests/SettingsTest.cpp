@@ -40,19 +40,19 @@ TEST_F(Settings, ComeBackAsTheyWereSaved) {
     settings.order = {Column::Name, Column::E, Column::N};
     ASSERT_TRUE(SaveSettings(g_app, settings));
     const CSettings loaded = LoadSettings(g_app);
-    EXPECT_EQ(loaded.nDecimals, 5);
-    EXPECT_EQ(loaded.bTenths, 1);
-    EXPECT_EQ(loaded.nTolerance, 2);
+    EXPECT_EQ(5, loaded.nDecimals);
+    EXPECT_EQ(1, loaded.bTenths);
+    EXPECT_EQ(2, loaded.nTolerance);
     EXPECT_TRUE(loaded.strFolder == settings.strFolder);
-    EXPECT_TRUE(loaded.strFile == settings.strFile && loaded.strPrevious == settings.strPrevious);
-    EXPECT_EQ(loaded.columns, settings.columns);
-    EXPECT_EQ(loaded.order, settings.order);
+    EXPECT_STREQ(settings.strFile, loaded.strFile);
+    EXPECT_STREQ(settings.strPrevious, loaded.strPrevious);
+    EXPECT_EQ(settings.columns, loaded.columns);
+    EXPECT_EQ(settings.order, loaded.order);
 
     DWORD dwValue = 0, dwSize = sizeof dwValue;
-    ASSERT_EQ(
-        ::RegGetValue(HKEY_CURRENT_USER, SHARED_KEY, L"1280", RRF_RT_REG_DWORD, nullptr, &dwValue, &dwSize),
-        ERROR_SUCCESS);
-    EXPECT_EQ(dwValue, 4U) << "the shared setting is the number of decimals minus one";
+    ASSERT_EQ(ERROR_SUCCESS, ::RegGetValue(HKEY_CURRENT_USER, SHARED_KEY, L"1280", RRF_RT_REG_DWORD, nullptr,
+                                           &dwValue, &dwSize));
+    EXPECT_EQ(4U, dwValue) << "the shared setting is the number of decimals minus one";
 }
 
 TEST_F(Settings, ValuesThatNoOneCanHaveSetCountAsTheDefault) {
@@ -60,11 +60,11 @@ TEST_F(Settings, ValuesThatNoOneCanHaveSetCountAsTheDefault) {
         g_app.WriteProfileInt(L"Settings", L"Tenths", nValue);
         g_app.WriteProfileInt(L"Settings", L"Tolerance", nValue);
         const CSettings loaded = LoadSettings(g_app);
-        EXPECT_EQ(loaded.bTenths, 0) << nValue;
-        EXPECT_EQ(loaded.nTolerance, 0) << nValue;
+        EXPECT_EQ(0, loaded.bTenths) << nValue;
+        EXPECT_EQ(0, loaded.nTolerance) << nValue;
     }
     g_app.WriteProfileString(L"Settings", L"Columns", L"?!");
-    EXPECT_EQ(LoadSettings(g_app).columns, CSettings().columns) << "a file without columns has no sense";
+    EXPECT_EQ(CSettings().columns, LoadSettings(g_app).columns) << "a file without columns has no sense";
 }
 
 } // namespace

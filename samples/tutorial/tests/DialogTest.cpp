@@ -24,8 +24,8 @@ TEST_F(FirstDialog, ComputesWithWhatPenAndKeysEnter) {
     const INT_PTR nResult =
         Play(m_dlg, {Type(L"-30"), // the first field has the focus
                      Tap(m_dlg, IDC_NORTH), Type(L"40.5"), Tap(m_dlg, IDC_COMPUTE),
-                     [&] { EXPECT_EQ(Distance(), L"距離 50.401"); }, [&] { TapOk(m_dlg); }});
-    EXPECT_EQ(nResult, IDOK);
+                     [&] { EXPECT_EQ(L"距離 50.401", Distance()); }, [&] { TapOk(m_dlg); }});
+    EXPECT_EQ(IDOK, nResult);
 }
 
 TEST_F(FirstDialog, ToldThatATextIsNoNumberTheUserIsBackInTheField) {

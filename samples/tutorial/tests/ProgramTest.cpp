@@ -33,7 +33,7 @@ TEST_F(FirstProgram, HasTheInputPanelWhileAFieldHasTheFocus) {
 
 TEST_F(FirstProgram, EndsByTheOkButtonOfItsTitleBar) {
     TapOk(m_program.Main());
-    EXPECT_EQ(m_program.End(), 0U);
+    EXPECT_EQ(0U, m_program.End());
 }
 
 } // namespace
