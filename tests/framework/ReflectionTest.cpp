@@ -1,5 +1,5 @@
 // Notifications that come back to the control that sent them.
-#include "support/TestApp.h"
+#include "support/Child.h"
 
 #include <string>
 
@@ -9,20 +9,25 @@ namespace {
 
 std::string g_log;
 
-void Log(const char* psz) {
+template <class Result = int>
+Result Log(const char* psz, Result result = 0) {
     g_log += g_log.empty() ? psz : std::string(", ") + psz;
+    return result;
 }
 
 struct ReflectingEdit : CEdit {
-    bool m_bTake = true; ///< What the _EX handlers answer.
+    BOOL m_bTake = TRUE; ///< What the _EX handlers answer.
     HBRUSH m_hBrush = nullptr;
 
 protected:
-    afx_msg void OnUpdate() { Log("child update"); }
-    afx_msg BOOL OnChange() { return Log("child change"), m_bTake; }
-    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { Log("child notify"), *pResult = 11; }
-    afx_msg BOOL OnCodeEx(NMHDR*, LRESULT* pResult) { return Log("child notify ex"), *pResult = 12, m_bTake; }
-    afx_msg HBRUSH CtlColor(CDC*, UINT) { return Log("child colour"), m_hBrush; }
+    afx_msg void OnUpdate() { Log("child"); }
+    afx_msg BOOL OnChange() { return Log("child", m_bTake); }
+    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { *pResult = Log("child", 11); }
+    afx_msg BOOL OnCodeEx(NMHDR*, LRESULT* pResult) {
+        *pResult = 12;
+        return Log("child", m_bTake);
+    }
+    afx_msg HBRUSH CtlColor(CDC*, UINT) { return Log("child", m_hBrush); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -36,21 +41,19 @@ END_MESSAGE_MAP()
 
 class Parent : public Frame {
 protected:
-    afx_msg void OnUpdate() { Log("parent update"); }
-    afx_msg void OnChange() { Log("parent change"); }
-    afx_msg void OnMaxText() { Log("parent maxtext"); }
-    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { Log("parent notify"), *pResult = 21; }
+    afx_msg void OnControl() { Log("parent"); }
+    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { *pResult = Log("parent", 21); }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-        Log("parent colour");
+        Log("parent");
         return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
     }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Parent, CWnd)
-ON_EN_UPDATE(1, &Parent::OnUpdate)
-ON_EN_CHANGE(1, &Parent::OnChange)
-ON_CONTROL(EN_MAXTEXT, 1, &Parent::OnMaxText)
+ON_EN_UPDATE(1, &Parent::OnControl)
+ON_EN_CHANGE(1, &Parent::OnControl)
+ON_CONTROL(EN_MAXTEXT, 1, &Parent::OnControl)
 ON_NOTIFY(-60, 1, &Parent::OnCode)
 ON_NOTIFY(-61, 1, &Parent::OnCode)
 ON_NOTIFY(-62, 1, &Parent::OnCode)
@@ -60,40 +63,37 @@ END_MESSAGE_MAP()
 TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
     constexpr int UNATTACHED = -1; ///< The control has no object.
     const Rows<UINT, int, int, const char*, LRESULT> rows = {
-        {WM_COMMAND, EN_UPDATE, TRUE, "child update", 1},
-        {WM_COMMAND, EN_MAXTEXT, TRUE, "parent maxtext", 1},
-        {WM_COMMAND, EN_CHANGE, TRUE, "child change", 1},
-        {WM_COMMAND, EN_CHANGE, FALSE, "child change, parent change", 1},
-        {WM_NOTIFY, -60, TRUE, "child notify", 11},
-        {WM_NOTIFY, -61, TRUE, "child notify ex", 12},
-        {WM_NOTIFY, -62, TRUE, "parent notify", 21},
-        {WM_NOTIFY, -61, FALSE, "child notify ex, parent notify", 21},
-        {WM_COMMAND, EN_UPDATE, UNATTACHED, "parent update", 1},
-        {WM_COMMAND, EN_CHANGE, UNATTACHED, "parent change", 1},
+        {WM_COMMAND, EN_UPDATE, TRUE, "child", 1},
+        {WM_COMMAND, EN_MAXTEXT, TRUE, "parent", 1},
+        {WM_COMMAND, EN_CHANGE, TRUE, "child", 1},
+        {WM_COMMAND, EN_CHANGE, FALSE, "child, parent", 1},
+        {WM_NOTIFY, -60, TRUE, "child", 11},
+        {WM_NOTIFY, -61, TRUE, "child", 12},
+        {WM_NOTIFY, -62, TRUE, "parent", 21},
+        {WM_NOTIFY, -61, FALSE, "child, parent", 21},
+        {WM_COMMAND, EN_UPDATE, UNATTACHED, "parent", 1},
+        {WM_COMMAND, EN_CHANGE, UNATTACHED, "parent", 1},
     };
     for (const auto& [nMessage, nCode, nTake, pszLog, lWanted] : rows) {
+        SCOPED_TRACE(testing::Message() << nMessage << ' ' << nCode << ' ' << nTake);
         Parent parent;
-        ReflectingEdit edit;
-        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent, 1));
+        fx::Child<ReflectingEdit> edit(parent);
         const HWND hEdit = edit;
         edit.m_bTake = nTake == TRUE;
         if (nTake == UNATTACHED)
             edit.UnsubclassWindow();
-        NMHDR header = {hEdit, 1, static_cast<UINT>(nCode)};
         g_log.clear();
-        const LRESULT lResult =
-            nMessage == WM_COMMAND
-                ? parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, nCode), reinterpret_cast<LPARAM>(hEdit))
-                : parent.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&header));
+        const LRESULT lResult = nMessage == WM_NOTIFY ? fx::Notify(parent, hEdit, 1, nCode)
+                                                      : parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, nCode),
+                                                                           reinterpret_cast<LPARAM>(hEdit));
         EXPECT_EQ(pszLog, g_log);
-        EXPECT_EQ(lWanted, lResult) << pszLog;
+        EXPECT_EQ(lWanted, lResult);
     }
 }
 
 TEST(Reflection, ParentChoosesColoursFirstAndItsBaseClassAsksTheControl) {
     Parent parent;
-    ReflectingEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent, 1));
+    fx::Child<ReflectingEdit> edit(parent);
     CClientDC dc(&edit);
     const auto ask = [&] {
         g_log.clear();
@@ -102,7 +102,7 @@ TEST(Reflection, ParentChoosesColoursFirstAndItsBaseClassAsksTheControl) {
     };
     edit.m_hBrush = static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
     EXPECT_EQ(edit.m_hBrush, ask());
-    EXPECT_EQ("parent colour, child colour", g_log);
+    EXPECT_EQ("parent, child", g_log);
     edit.m_hBrush = nullptr;
     EXPECT_NE(nullptr, ask()) << "without a choice of the control the system's colour holds";
 }
