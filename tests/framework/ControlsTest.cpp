@@ -1,32 +1,29 @@
-// Entry fields, lists, scroll bars: members that do more than send their message.
-#include "support/TestApp.h"
+// Entry fields, lists, scroll bars: members that do more than send their message, and owner draw.
+#include "support/Child.h"
 
+#include "afxcmn.h"
+
+#include <set>
 #include <string>
 
 using namespace testkit;
 
 namespace {
 
-struct Controls : testing::Test {
-    template <class Control>
-    void Create(Control& control, DWORD dwStyle) {
-        ASSERT_TRUE(control.Create(WS_CHILD | WS_VISIBLE | dwStyle, CRect(0, 0, 150, 80), &m_frame, 1));
-    }
-    Frame m_frame;
-};
+using fx::Child;
 
-TEST_F(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {
-    CEdit edit;
-    Create(edit, ES_MULTILINE | ES_AUTOHSCROLL);
+TEST(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {
+    Frame frame;
+    Child<CEdit> edit(frame, ES_MULTILINE | ES_AUTOHSCROLL);
     edit.SetWindowText(L"01234\r\nsecond line\r\n\r\n4");
     edit.SetSel(3, 1000);
     int nStart = -1, nEnd = -1;
     edit.GetSel(nStart, nEnd);
     EXPECT_EQ(CPoint(3, 23), CPoint(nStart, nEnd)) << "to the end";
-    edit.SetSel(static_cast<DWORD>(MAKELONG(2, 4)));
-    EXPECT_EQ(static_cast<DWORD>(MAKELONG(2, 4)), edit.GetSel());
-    edit.SetSel(static_cast<DWORD>(MAKELONG(0, -1)));
-    EXPECT_EQ(static_cast<DWORD>(MAKELONG(0, 23)), edit.GetSel());
+    for (const auto& [nLast, nSelected] : {std::pair(4, 4), {-1, 23}}) {
+        edit.SetSel(static_cast<DWORD>(MAKELONG(2, nLast)));
+        EXPECT_EQ(static_cast<DWORD>(MAKELONG(2, nSelected)), edit.GetSel());
+    }
     TCHAR szLine[20] = {};
     EXPECT_EQ(6, edit.GetLine(1, szLine, 6));
     EXPECT_EQ(L"second", CString(szLine, 6));
@@ -36,11 +33,10 @@ TEST_F(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {
     EXPECT_GT(edit.PosFromChar(7).y, edit.PosFromChar(0).y);
 }
 
-TEST_F(Controls, ListsGiveTextsAndDataOfTheirItems) {
-    CListBox list;
-    CComboBox combo;
-    Create(list, LBS_MULTIPLESEL);
-    Create(combo, CBS_DROPDOWN);
+TEST(Controls, ListsGiveTextsAndDataOfTheirItems) {
+    Frame frame;
+    Child<CListBox> list(frame, LBS_MULTIPLESEL);
+    Child<CComboBox> combo(frame, CBS_DROPDOWN);
     const auto check = [](auto& box, auto read) {
         for (const LPCTSTR psz : {L"beta", L"挿入", L"Gamma", L"al"})
             box.AddString(psz);
@@ -49,24 +45,23 @@ TEST_F(Controls, ListsGiveTextsAndDataOfTheirItems) {
         EXPECT_EQ(L"", str);
         read(1, str);
         EXPECT_EQ(L"挿入", str);
-        constexpr auto kWide = ~DWORD_PTR{0} / 3;
-        box.SetItemData(1, kWide);
-        EXPECT_EQ(kWide, box.GetItemData(1)) << "as wide as a pointer";
     };
     check(list, [&](int nItem, CString& str) { list.GetText(nItem, str); });
     check(combo, [&](int nItem, CString& str) { combo.GetLBText(nItem, str); });
 
-    const auto select = [&](BOOL bSelect, int nFirst, int nLast) {
+    const Rows<BOOL, int, int, std::string> rows = {
+        {TRUE, 3, 0, "xxxx"}, // in either direction
+        {FALSE, 1, 2, "x..x"},
+        {FALSE, 3, 3, "x..."},
+        {TRUE, 1, 1, "xx.."},
+    };
+    for (const auto& [bSelect, nFirst, nLast, wanted] : rows) {
         list.SelItemRange(bSelect, nFirst, nLast);
         std::string selected;
         for (int i = 0; i < list.GetCount(); ++i)
             selected += list.GetSel(i) > 0 ? 'x' : '.';
-        return selected;
-    };
-    EXPECT_EQ("xxxx", select(TRUE, 3, 0)) << "in either direction";
-    EXPECT_EQ("x..x", select(FALSE, 1, 2));
-    EXPECT_EQ("x...", select(FALSE, 3, 3));
-    EXPECT_EQ("xx..", select(TRUE, 1, 1));
+        EXPECT_EQ(wanted, selected);
+    }
     CRect rect;
     list.GetItemRect(2, rect);
     BOOL bOutside = TRUE;
@@ -76,9 +71,9 @@ TEST_F(Controls, ListsGiveTextsAndDataOfTheirItems) {
     EXPECT_TRUE(bOutside);
 }
 
-TEST_F(Controls, ScrollBarsLimitLeavesRoomForThePage) {
-    CScrollBar bar;
-    Create(bar, SBS_HORZ);
+TEST(Controls, ScrollBarsLimitLeavesRoomForThePage) {
+    Frame frame;
+    Child<CScrollBar> bar(frame, SBS_HORZ);
     bar.SetScrollRange(5, 50);
     EXPECT_EQ(50, bar.GetScrollLimit());
     SCROLLINFO info = {};
@@ -88,34 +83,33 @@ TEST_F(Controls, ScrollBarsLimitLeavesRoomForThePage) {
     EXPECT_EQ(40, bar.GetScrollLimit());
 }
 
-// --- Owner draw -----------------------------------------------------------------------------
+using Items = std::set<UINT>;
 
-/// A control of any class that notes what it was asked to draw.
+/// A control of any class that notes which items it was asked to draw.
 template <class Control>
 struct Drawn : Control {
-    UINT m_nStates = 0;
+    Items m_items;
 
-    void DrawItem(LPDRAWITEMSTRUCT pItem) override {
-        m_nStates |= pItem->itemState;
-        CDC::FromHandle(pItem->hDC)->FillSolidRect(&pItem->rcItem, RGB(255, 0, 0));
-    }
-    COLORREF Color() {
+    void DrawItem(LPDRAWITEMSTRUCT pItem) override { m_items.insert(pItem->itemID); }
+    Items Redraw() {
+        m_items.clear();
         this->RedrawWindow();
-        CClientDC dc(this);
-        return dc.GetPixel(3, 3);
+        return m_items;
     }
 };
 
-TEST_F(Controls, ButtonAndStaticDrawThemselves) {
-    Drawn<CButton> button;
-    Drawn<CStatic> label;
-    ASSERT_TRUE(button.Create(L"", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 50, 20), &m_frame, 1));
-    ASSERT_TRUE(label.Create(L"", WS_CHILD | WS_VISIBLE | SS_OWNERDRAW, CRect(0, 30, 50, 50), &m_frame, 2));
-    EXPECT_EQ(RGB(255, 0, 0), button.Color());
-    EXPECT_EQ(RGB(255, 0, 0), label.Color());
-    button.SetState(TRUE);
-    button.UpdateWindow();
-    EXPECT_NE(0U, button.m_nStates & ODS_SELECTED);
+TEST(Controls, DrawThemselvesWhenTheirOwnerIsAsked) {
+    Frame frame;
+    EXPECT_FALSE(Child<Drawn<CButton>>(frame, BS_OWNERDRAW).Redraw().empty());
+    EXPECT_FALSE(Child<Drawn<CStatic>>(frame, SS_OWNERDRAW).Redraw().empty());
+    Child<Drawn<CTabCtrl>> tabs(frame, TCS_OWNERDRAWFIXED);
+    tabs.InsertItem(0, L"a");
+    EXPECT_EQ((Items{0}), tabs.Redraw());
+    Child<Drawn<CListCtrl>> list(frame, LVS_REPORT | LVS_OWNERDRAWFIXED);
+    list.InsertColumn(0, L"", LVCFMT_LEFT, 100);
+    list.InsertItem(0, L"a");
+    list.InsertItem(1, L"b");
+    EXPECT_EQ((Items{0, 1}), list.Redraw());
 }
 
 /// A list box or a combo box that does everything itself.
@@ -130,26 +124,21 @@ struct OwnBox : Drawn<Box> {
     void DeleteItem(LPDELETEITEMSTRUCT pItem) override { m_deleted.push_back(pItem->itemData); }
 };
 
-TEST_F(Controls, ListsMeasureSortDrawAndDeleteTheirItems) {
-    OwnBox<CListBox> list;
-    OwnBox<CComboBox> combo;
-    Create(list, LBS_OWNERDRAWVARIABLE | LBS_SORT);
-    Create(combo, CBS_SIMPLE | CBS_OWNERDRAWVARIABLE | CBS_SORT);
+TEST(Controls, ListsMeasureSortDrawAndDeleteTheirItems) {
+    Frame frame;
+    Child<OwnBox<CListBox>> list(frame, LBS_OWNERDRAWVARIABLE | LBS_SORT);
+    Child<OwnBox<CComboBox>> combo(frame, CBS_SIMPLE | CBS_OWNERDRAWVARIABLE | CBS_SORT);
     const auto check = [](auto& box) {
         for (const UINT_PTR nData : {20, 10, 30})
             box.AddString(reinterpret_cast<LPCTSTR>(nData));
         EXPECT_EQ(10U, box.GetItemData(0));
         EXPECT_EQ(30U, box.GetItemData(2));
         EXPECT_EQ(37, box.GetItemHeight(0));
+        EXPECT_FALSE(box.Redraw().empty());
         box.DeleteString(0);
         box.ResetContent();
-        EXPECT_EQ(3U, box.m_deleted.size());
-        EXPECT_EQ(10U, box.m_deleted.front());
+        EXPECT_EQ((std::vector<UINT_PTR>{10, 20, 30}), box.m_deleted);
     };
-    list.AddString(reinterpret_cast<LPCTSTR>(5));
-    EXPECT_EQ(RGB(255, 0, 0), list.Color());
-    list.ResetContent();
-    list.m_deleted.clear();
     check(list);
     check(combo);
 }

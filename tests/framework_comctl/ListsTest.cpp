@@ -1,5 +1,5 @@
 // List views, tree views, image lists: texts, data, places, owners.
-#include "support/TestApp.h"
+#include "support/Child.h"
 
 #include "afxcmn.h"
 
@@ -7,30 +7,20 @@ using namespace testkit;
 
 namespace {
 
-constexpr DWORD REPORT = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
-
 struct Lists : testing::Test {
     Lists() {
-        m_list.Create(REPORT, CRect(0, 0, 180, 80), &m_frame, 1);
         m_list.InsertColumn(0, L"名前", LVCFMT_LEFT, 80);
         m_list.InsertColumn(1, L"サイズ", LVCFMT_RIGHT, 60, 1);
         for (int i = 0; i < 4; ++i)
             m_list.InsertItem(LVIF_TEXT | LVIF_PARAM, i, L"item", 0, 0, 0, i + 33);
-        m_tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS, CRect(0, 80, 180, 160), &m_frame, 2);
         m_root = m_tree.InsertItem(L"ﾙｰﾄ", 2, 3);
         m_item = m_tree.InsertItem(L"beta", m_root);
         m_leaf = m_tree.InsertItem(TVIF_TEXT | TVIF_PARAM, L"leaf", 0, 0, 0, 0, 77, m_item, TVI_LAST);
     }
-    std::vector<int> Selected() const {
-        std::vector<int> items;
-        for (POSITION pos = m_list.GetFirstSelectedItemPosition(); pos != nullptr;)
-            items.push_back(m_list.GetNextSelectedItem(pos));
-        return items;
-    }
 
     Frame m_frame;
-    CListCtrl m_list;
-    CTreeCtrl m_tree;
+    fx::Child<CListCtrl> m_list{m_frame, LVS_REPORT | LVS_SHOWSELALWAYS, CRect(0, 0, 180, 80)};
+    fx::Child<CTreeCtrl> m_tree{m_frame, TVS_HASBUTTONS, CRect(0, 80, 180, 160)};
     HTREEITEM m_root = nullptr, m_item = nullptr, m_leaf = nullptr;
 };
 
@@ -53,18 +43,20 @@ TEST_F(Lists, ItemsHaveDataImagesAndState) {
     EXPECT_EQ(0U, m_list.GetItemData(9));
     EXPECT_EQ(77U, m_tree.GetItemData(m_leaf));
     constexpr auto kWide = ~DWORD_PTR{0} / 3;
-    EXPECT_TRUE(m_list.SetItemData(1, kWide) && m_tree.SetItemData(m_leaf, kWide));
+    m_list.SetItemData(1, kWide);
+    m_tree.SetItemData(m_leaf, kWide);
     EXPECT_EQ(kWide, m_list.GetItemData(1)) << "as wide as a pointer";
     EXPECT_EQ(kWide, m_tree.GetItemData(m_leaf));
-    int nImage = -1, nSelected = -1;
-    ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
-    EXPECT_EQ(CPoint(2, 3), CPoint(nImage, nSelected));
-    EXPECT_TRUE(m_tree.SetItemImage(m_root, 4, 5));
-    ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
-    EXPECT_EQ(CPoint(4, 5), CPoint(nImage, nSelected));
+    for (const CPoint images : {CPoint(2, 3), CPoint(4, 5)}) {
+        int nImage = -1, nSelected = -1;
+        ASSERT_TRUE(m_tree.GetItemImage(m_root, nImage, nSelected));
+        EXPECT_EQ(images, CPoint(nImage, nSelected));
+        EXPECT_TRUE(m_tree.SetItemImage(m_root, 4, 5));
+    }
     EXPECT_TRUE(m_tree.SetItemState(m_leaf, TVIS_BOLD, TVIS_BOLD | TVIS_CUT));
     EXPECT_EQ(UINT{TVIS_BOLD}, m_tree.GetItemState(m_leaf, TVIS_BOLD | TVIS_CUT));
-    EXPECT_TRUE(m_tree.ItemHasChildren(m_item) && !m_tree.ItemHasChildren(m_leaf));
+    EXPECT_TRUE(m_tree.ItemHasChildren(m_item));
+    EXPECT_FALSE(m_tree.ItemHasChildren(m_leaf));
     m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
     m_tree.ModifyStyle(0, TVS_CHECKBOXES);
     for (const BOOL bCheck : {TRUE, FALSE}) {
@@ -76,12 +68,11 @@ TEST_F(Lists, ItemsHaveDataImagesAndState) {
 }
 
 TEST_F(Lists, SelectedItemsAreWalkedOver) {
-    EXPECT_EQ(std::vector<int>(), Selected());
     m_list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
     m_list.SetItemState(2, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    EXPECT_EQ((std::vector<int>{0, 2}), Selected());
-    POSITION pos = nullptr;
-    EXPECT_EQ(-1, m_list.GetNextSelectedItem(pos));
+    POSITION pos = m_list.GetFirstSelectedItemPosition();
+    for (const int nItem : {0, 2, -1})
+        EXPECT_EQ(nItem, m_list.GetNextSelectedItem(pos));
 }
 
 TEST_F(Lists, ItemsHaveTheirPlaces) {
@@ -120,21 +111,6 @@ TEST_F(Lists, OnlyImageListsThatHaveNoOwnerAreDestroyed) {
     EXPECT_EQ(0, ::ImageList_GetImageCount(hForeign)) << "gone with the control";
 }
 
-TEST_F(Lists, DrawTheirItemsThemselves) {
-    struct Drawer : CListCtrl {
-        std::vector<UINT> m_drawn;
-        void DrawItem(LPDRAWITEMSTRUCT pDraw) override { m_drawn.push_back(pDraw->itemID); }
-    };
-    Drawer list;
-    ASSERT_TRUE(list.Create(REPORT | LVS_OWNERDRAWFIXED, CRect(0, 0, 180, 150), &m_frame, 1));
-    list.InsertColumn(0, L"", LVCFMT_LEFT, 160);
-    list.InsertItem(0, L"a");
-    list.InsertItem(1, L"b");
-    list.m_drawn.clear();
-    list.RedrawWindow();
-    EXPECT_EQ((std::vector<UINT>{0, 1}), list.m_drawn);
-}
-
 TEST(ImageList, HasOneOwnerWhichDestroysIt) {
     const HIMAGELIST hList = ::ImageList_Create(16, 16, ILC_COLOR, 4, 4);
     ::ImageList_SetImageCount(hList, 3);
@@ -145,10 +121,12 @@ TEST(ImageList, HasOneOwnerWhichDestroysIt) {
     CImageList::DeleteTempMap();
     {
         CImageList owner;
-        EXPECT_TRUE(!owner.Attach(nullptr) && owner.Attach(hList));
+        EXPECT_FALSE(owner.Attach(nullptr));
+        EXPECT_TRUE(owner.Attach(hList));
         EXPECT_EQ(&owner, CImageList::FromHandle(hList));
         EXPECT_EQ(hList, owner.Detach());
-        EXPECT_TRUE(CImageList::FromHandlePermanent(hList) == nullptr && !owner.DeleteImageList());
+        EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
+        EXPECT_FALSE(owner.DeleteImageList());
     }
     EXPECT_EQ(3, ::ImageList_GetImageCount(hList)) << "neither a temporary owner's nor one's that gave it up";
     CImageList owner;
@@ -156,10 +134,10 @@ TEST(ImageList, HasOneOwnerWhichDestroysIt) {
     CImageList copy;
     ASSERT_TRUE(copy.Create(&owner));
     ASSERT_TRUE(owner.Create(32, 16, ILC_COLOR, 1, 1));
-    EXPECT_EQ(0, owner.GetImageCount()) << "room is not images";
     EXPECT_EQ(0, ::ImageList_GetImageCount(hList)) << "replaced";
     EXPECT_EQ(3, copy.GetImageCount());
-    EXPECT_TRUE(owner.DeleteImageList() && owner.GetSafeHandle() == nullptr);
+    EXPECT_TRUE(owner.DeleteImageList());
+    EXPECT_EQ(nullptr, owner.GetSafeHandle());
 }
 
 } // namespace
