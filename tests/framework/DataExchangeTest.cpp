@@ -59,7 +59,8 @@ TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(m_form.m_first.GetSel(), static_cast<DWORD>(MAKELONG(2, 2)));
     m_form.m_first.SetWindowText(L"");
-    EXPECT_TRUE(m_form.UpdateData() && strValue.IsEmpty());
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(L"", strValue);
 }
 
 TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
@@ -102,17 +103,18 @@ TEST_F(DataExchange, CheckBoxHasThreeStates) {
 TEST_F(DataExchange, RadioButtonsCountWithinTheirGroup) {
     int nValue = -1;
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, ID_RADIO, nValue); };
-    m_form.m_radio[3].SetCheck(BST_CHECKED);
+    m_form.m_other.SetCheck(BST_CHECKED);
     for (const int nSet : {2, 0, -1}) {
         nValue = nSet;
         EXPECT_TRUE(m_form.UpdateData(FALSE));
+        const CButton* const radios[] = {&m_form.m_radio0, &m_form.m_radio1, &m_form.m_radio2};
         for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(m_form.m_radio[i].GetCheck(), i == nSet) << i;
+            EXPECT_EQ(i == nSet, radios[i]->GetCheck()) << i;
         nValue = 55;
         EXPECT_TRUE(m_form.UpdateData());
-        EXPECT_EQ(nValue, nSet);
+        EXPECT_EQ(nSet, nValue);
     }
-    EXPECT_EQ(m_form.m_radio[3].GetCheck(), BST_CHECKED) << "another group's";
+    EXPECT_EQ(BST_CHECKED, m_form.m_other.GetCheck()) << "another group's";
 }
 
 TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
@@ -132,10 +134,12 @@ TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
 
     CString strList = L"be";
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_LBString(pDX, ID_LIST, strList); };
-    EXPECT_TRUE(m_form.UpdateData(FALSE) && m_form.UpdateData());
-    EXPECT_EQ(strList, L"Beta");
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(L"Beta", strList);
     m_form.m_list.SetCurSel(-1);
-    EXPECT_TRUE(m_form.UpdateData() && strList.IsEmpty());
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(L"", strList);
 }
 
 TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
@@ -171,52 +175,51 @@ TEST_F(DataExchange, ControlIsAttachedOnce) {
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(edit.GetDlgCtrlID(), ID_FIRST);
     EXPECT_EQ(CWnd::FromHandlePermanent(edit), &edit);
-    EXPECT_TRUE(m_form.UpdateData(FALSE) && m_form.UpdateData());
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
 }
 
 // --- Rules --------------------------------------------------------------------------------------
 
 TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
-    const struct {
-        std::function<void(CDataExchange*)> check;
-        LPCTSTR pszPrompt; ///< Null if it passes.
-    } cases[] = {
-        {[](CDataExchange* p) { DDV_MinMaxInt(p, -3, -3, 8); }, nullptr},
-        {[](CDataExchange* p) { DDV_MinMaxInt(p, 8, -3, 8); }, nullptr},
-        {[](CDataExchange* p) { DDV_MinMaxInt(p, 9, -3, 8); }, L"-3 から 8 までの整数を入力してください。"},
-        {[](CDataExchange* p) { DDV_MinMaxLong(p, -4, -3, 8); }, L"-3 から 8 までの整数を入力してください。"},
+    constexpr LPCTSTR PASSES = nullptr, INT_RANGE = L"-3 から 8 までの整数を入力してください。";
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    const Rows<std::function<void(CDataExchange*)>, LPCTSTR> rows = {
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, -3, -3, 8); }, PASSES},
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, 8, -3, 8); }, PASSES},
+        {[](CDataExchange* p) { DDV_MinMaxInt(p, 9, -3, 8); }, INT_RANGE},
+        {[](CDataExchange* p) { DDV_MinMaxLong(p, -4, -3, 8); }, INT_RANGE},
+        {[](CDataExchange* p) { DDV_MinMaxShort(p, -4, -3, 8); }, INT_RANGE},
         {[](CDataExchange* p) { DDV_MinMaxUInt(p, 4000000000U, 1, 5); },
          L"1 から 5 までの整数を入力してください。"},
-        {[](CDataExchange* p) { DDV_MinMaxDWord(p, 4000000000U, 1, 4294967295U); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxDWord(p, 4000000000U, 1, 4294967295U); }, PASSES},
         {[](CDataExchange* p) { DDV_MinMaxByte(p, 255, 1, 200); },
          L"1 から 200 までの整数を入力してください。"},
-        {[](CDataExchange* p) { DDV_MinMaxShort(p, -4, -3, 8); },
-         L"-3 から 8 までの整数を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxLongLong(p, -(1LL << 40), -3, 1LL << 40); },
          L"-3 から 1099511627776 までの整数を入力してください。"},
-        {[](CDataExchange* p) { DDV_MinMaxULongLong(p, ~0ULL, 1, ~0ULL); }, nullptr},
-        {[](CDataExchange* p) { DDV_MinMaxDouble(p, 1.5, 1.5, 2); }, nullptr},
+        {[](CDataExchange* p) { DDV_MinMaxULongLong(p, ~0ULL, 1, ~0ULL); }, PASSES},
+        {[](CDataExchange* p) { DDV_MinMaxDouble(p, 1.5, 1.5, 2); }, PASSES},
         {[](CDataExchange* p) { DDV_MinMaxDouble(p, 1.4, 1.5, 2); },
          L"1.5 から 2 までの数値を入力してください。"},
-        {[](CDataExchange* p) { DDV_MinMaxDouble(p, std::numeric_limits<double>::quiet_NaN(), 0, 1); },
+        {[=](CDataExchange* p) { DDV_MinMaxDouble(p, notANumber, 0, 1); },
          L"0 から 1 までの数値を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxFloat(p, 2.5F, 0, 2); },
          L"0 から 2 までの数値を入力してください。"},
-        {[](CDataExchange* p) { DDV_MaxChars(p, L"三文字", 3); }, nullptr},
+        {[](CDataExchange* p) { DDV_MaxChars(p, L"三文字", 3); }, PASSES},
         {[](CDataExchange* p) { DDV_MaxChars(p, L"abcd", 3); }, L"3 文字以内で入力してください。"},
     };
-    for (size_t i = 0; i < std::size(cases); ++i) {
-        m_form.m_exchange = [&](CDataExchange* pDX) {
+    int nRow = 0;
+    for (const auto& [check, pszPrompt] : rows) {
+        SCOPED_TRACE(nRow++);
+        m_form.m_exchange = [&, &run = check](CDataExchange* pDX) {
             CString strText;
             DDX_Text(pDX, ID_FIRST, strText);
-            cases[i].check(pDX);
+            run(pDX);
         };
         m_recorder.m_prompts.clear();
-        const auto expected =
-            cases[i].pszPrompt != nullptr ? std::vector<CString>{cases[i].pszPrompt} : std::vector<CString>{};
-        EXPECT_EQ(m_form.UpdateData() == FALSE, cases[i].pszPrompt != nullptr) << i;
-        EXPECT_EQ(m_recorder.m_prompts, expected) << i;
-        EXPECT_TRUE(m_form.UpdateData(FALSE)) << i << ": what the program itself shows is not refused";
+        EXPECT_EQ(pszPrompt == PASSES, m_form.UpdateData() != FALSE);
+        EXPECT_EQ(pszPrompt == PASSES ? std::vector<CString>{} : std::vector<CString>{pszPrompt},
+                  m_recorder.m_prompts);
+        EXPECT_TRUE(m_form.UpdateData(FALSE)) << "what the program itself shows is not refused";
     }
 }
 
