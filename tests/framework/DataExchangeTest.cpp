@@ -1,6 +1,8 @@
 // Dialog data exchange and validation.
 #include "ExchangeForm.h"
 
+#include "afxcmn.h"
+
 #include <limits>
 
 using namespace testkit;
@@ -10,6 +12,36 @@ namespace {
 using namespace fx; // the form's identifiers
 
 struct DataExchange : testing::Test {
+    template <class Value>
+    using Exchange = void(AFXAPI*)(CDataExchange*, int, Value&);
+
+    /// Shows values and reads them back.
+    /// @param look the state of the control
+    /// @param rows what is set, what the control shows of it, and what comes back
+    template <class Value, class Shown, class Look>
+    void ExpectBothWays(Exchange<Value> exchange, UINT nID, Look look, Rows<Value, Shown, Value> rows) {
+        for (const auto& [set, shown, back] : rows) {
+            EXPECT_EQ(back, Kept<Value>(exchange, nID, set));
+            EXPECT_EQ(shown, look());
+        }
+    }
+    /// What comes back of a value that has been shown.
+    template <class Value>
+    Value Kept(Exchange<Value> exchange, UINT nID, Value value) {
+        m_form.m_exchange = [&](CDataExchange* pDX) { exchange(pDX, static_cast<int>(nID), value); };
+        EXPECT_TRUE(m_form.UpdateData(FALSE));
+        value = Value();
+        EXPECT_TRUE(m_form.UpdateData());
+        return value;
+    }
+    /// The same with a control of a class of its own.
+    template <class Control, class Value>
+    void ExpectKept(Exchange<Value> exchange, Value value) {
+        constexpr UINT ID_OWN = 99;
+        const Child<Control> control(m_form, 0, CRect(0, 0, 100, 20), ID_OWN);
+        EXPECT_EQ(value, Kept(exchange, ID_OWN, value));
+    }
+
     ExchangeForm m_form;
     MessageRecorder m_recorder;
 };
@@ -26,10 +58,10 @@ TEST_F(DataExchange, RefusalPutsTheFocusIntoTheFieldWithItsTextSelected) {
     m_form.m_second.SetWindowText(L"two");
     m_form.m_first.SetFocus();
     EXPECT_FALSE(m_form.UpdateData());
-    EXPECT_EQ(nFirst, 1) << "fields before the refused one have been read";
-    EXPECT_EQ(nSecond, 7);
-    EXPECT_EQ(::GetFocus(), m_form.m_second.m_hWnd);
-    EXPECT_EQ(m_form.m_second.GetSel(), static_cast<DWORD>(MAKELONG(0, 3)));
+    EXPECT_EQ(1, nFirst) << "fields before the refused one have been read";
+    EXPECT_EQ(7, nSecond);
+    EXPECT_EQ(m_form.m_second.m_hWnd, ::GetFocus());
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(0, 3)), m_form.m_second.GetSel());
 }
 
 TEST_F(DataExchange, MissingControlIsAnErrorNotACrash) {
@@ -43,24 +75,20 @@ TEST_F(DataExchange, MissingControlIsAnErrorNotACrash) {
         m_form.m_exchange = exchange;
         m_recorder.m_prompts.clear();
         EXPECT_FALSE(m_form.UpdateData(FALSE));
-        EXPECT_EQ(m_recorder.m_prompts.size(), 1U);
+        EXPECT_EQ(1U, m_recorder.m_prompts.size());
     }
-    EXPECT_EQ(edit.m_hWnd, nullptr);
+    EXPECT_EQ(nullptr, edit.m_hWnd);
 }
 
-// --- Text -------------------------------------------------------------------------------------
+// --- Controls -----------------------------------------------------------------------------------
 
 TEST_F(DataExchange, TextGoesBothWaysAndAnEqualOneLeavesTheCaretWhereItIs) {
-    CString strValue = L"東京 100";
-    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, ID_FIRST, strValue); };
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(TextOf(m_form.m_first), strValue);
-    m_form.m_first.SetSel(2, 2);
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(m_form.m_first.GetSel(), static_cast<DWORD>(MAKELONG(2, 2)));
-    m_form.m_first.SetWindowText(L"");
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_EQ(L"", strValue);
+    const auto text = [&] { return TextOf(m_form.m_first); };
+    ExpectBothWays<CString, CString>(DDX_Text, ID_FIRST, text,
+                                     {{L"", L"", L""}, {L"東京", L"東京", L"東京"}});
+    m_form.m_first.SetSel(1, 1);
+    Kept<CString>(DDX_Text, ID_FIRST, L"東京");
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(1, 1)), m_form.m_first.GetSel());
 }
 
 TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
@@ -86,86 +114,57 @@ TEST(DataExchangeNotification, WhatTheProgramWritesIsNoChangeByTheUser) {
     EXPECT_EQ(1, form.m_nChanges);
 }
 
-// --- Buttons and lists --------------------------------------------------------------------------
-
 TEST_F(DataExchange, CheckBoxHasThreeStates) {
-    int nValue = 0;
-    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Check(pDX, ID_CHECK, nValue); };
-    for (const auto& [nSet, nShown] : {std::pair{1, 1}, {2, 2}, {0, 0}, {3, 0}, {-1, 0}}) {
-        nValue = nSet;
-        EXPECT_TRUE(m_form.UpdateData(FALSE));
-        EXPECT_EQ(m_form.m_check.GetCheck(), nShown) << nSet;
-        EXPECT_TRUE(m_form.UpdateData());
-        EXPECT_EQ(nValue, nShown) << nSet;
-    }
+    ExpectBothWays<int, int>(DDX_Check, ID_CHECK, [&] { return m_form.m_check.GetCheck(); },
+                             {{1, 1, 1}, {2, 2, 2}, {0, 0, 0}, {3, 0, 0}, {-1, 0, 0}});
 }
 
 TEST_F(DataExchange, RadioButtonsCountWithinTheirGroup) {
-    int nValue = -1;
-    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, ID_RADIO, nValue); };
     m_form.m_other.SetCheck(BST_CHECKED);
-    for (const int nSet : {2, 0, -1}) {
-        nValue = nSet;
-        EXPECT_TRUE(m_form.UpdateData(FALSE));
-        const CButton* const radios[] = {&m_form.m_radio0, &m_form.m_radio1, &m_form.m_radio2};
-        for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(i == nSet, radios[i]->GetCheck()) << i;
-        nValue = 55;
-        EXPECT_TRUE(m_form.UpdateData());
-        EXPECT_EQ(nSet, nValue);
-    }
-    EXPECT_EQ(BST_CHECKED, m_form.m_other.GetCheck()) << "another group's";
+    const auto checked = [&] {
+        std::string states;
+        for (const CButton* p : {&m_form.m_radio0, &m_form.m_radio1, &m_form.m_radio2, &m_form.m_other})
+            states += p->GetCheck() == BST_CHECKED ? 'x' : '.';
+        return states;
+    };
+    ExpectBothWays<int, std::string>(DDX_Radio, ID_RADIO, checked,
+                                     {{2, "..xx", 2}, {0, "x..x", 0}, {-1, "...x", -1}});
 }
 
 TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
-    int nList = 1, nCombo = 2;
-    m_form.m_exchange = [&](CDataExchange* pDX) {
-        DDX_LBIndex(pDX, ID_LIST, nList);
-        DDX_CBIndex(pDX, ID_DROPLIST, nCombo);
-    };
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(m_form.m_list.GetCurSel(), 1);
-    EXPECT_EQ(m_form.m_dropList.GetCurSel(), 2);
-    m_form.m_list.SetCurSel(-1);
-    m_form.m_dropList.SetCurSel(0);
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_EQ(nList, -1);
-    EXPECT_EQ(nCombo, 0);
-
-    CString strList = L"be";
-    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_LBString(pDX, ID_LIST, strList); };
-    EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_EQ(L"Beta", strList);
-    m_form.m_list.SetCurSel(-1);
-    EXPECT_TRUE(m_form.UpdateData());
-    EXPECT_EQ(L"", strList);
+    const auto item = [&] { return m_form.m_list.GetCurSel(); };
+    ExpectBothWays<int, int>(DDX_LBIndex, ID_LIST, item, {{1, 1, 1}, {-1, -1, -1}});
+    ExpectBothWays<CString, int>(DDX_LBString, ID_LIST, item, {{L"no", -1, L""}, {L"be", 2, L"Beta"}});
+    const auto entry = [&] { return m_form.m_dropList.GetCurSel(); };
+    ExpectBothWays<int, int>(DDX_CBIndex, ID_DROPLIST, entry, {{2, 2, 2}, {0, 0, 0}});
+    ExpectBothWays<CString, int>(
+        DDX_CBString, ID_DROPLIST, entry,
+        {{L"Beta", 2, L"Beta"}, {L"alphab", 1, L"alphabet"}, {L"Alpha", 0, L"Alpha"}});
 }
 
 TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
-    CString strValue;
-    int nID = 0;
-    m_form.m_exchange = [&](CDataExchange* pDX) { DDX_CBString(pDX, nID, strValue); };
-    const Rows<int, LPCTSTR, LPCTSTR, int> cases = {
-        {ID_COMBO, L"Beta", L"Beta", 2},
-        {ID_COMBO, L"free text", L"free text", -1},
-        {ID_COMBO, L"Al", L"Al", -1},
-        {ID_COMBO, L"", L"", -1},
-        {ID_DROPLIST, L"Beta", L"Beta", 2},
-        {ID_DROPLIST, L"alphab", L"alphabet", 1},
-        {ID_DROPLIST, L"Alpha", L"Alpha", 0},
-        {ID_COMBO, L"BETA", L"BETA", 2}, // found without regard to case, shown as given
-    };
-    for (const auto& [nControl, pszValue, pszBack, nSelected] : cases) {
-        nID = nControl;
-        strValue = pszValue;
+    const auto takeSelected = [&] {
+        const int nSelected = m_form.m_combo.GetCurSel();
         m_form.m_combo.SetCurSel(-1);
-        EXPECT_TRUE(m_form.UpdateData(FALSE));
-        EXPECT_EQ((nID == ID_COMBO ? m_form.m_combo : m_form.m_dropList).GetCurSel(), nSelected)
-            << Utf8(pszValue);
-        EXPECT_TRUE(m_form.UpdateData());
-        EXPECT_EQ(strValue, pszBack);
-    }
+        return nSelected;
+    };
+    ExpectBothWays<CString, int>(DDX_CBString, ID_COMBO, takeSelected,
+                                 {{L"Beta", 2, L"Beta"},
+                                  {L"free text", -1, L"free text"},
+                                  {L"Al", -1, L"Al"},
+                                  {L"", -1, L""},
+                                  {L"BETA", 2, L"BETA"}}); // found without regard to case, shown as given
+}
+
+TEST_F(DataExchange, CommonControlsGiveBackWhatTheyWereGiven) {
+    ExpectKept<CSliderCtrl>(DDX_Slider, 7);
+    ExpectKept<CDateTimeCtrl>(DDX_DateTimeCtrl, CTime(2024, 5, 6, 7, 8, 9));
+    ExpectKept<CMonthCalCtrl>(DDX_MonthCalCtrl, CTime(2023, 4, 3, 0, 0, 0));
+    ExpectKept<CIPAddressCtrl>(DDX_IPAddress, DWORD{0x7F000001});
+    ExpectKept<CEdit>(DDX_Text, LONGLONG{-5000000000});
+    Child<CScrollBar> bar(m_form, 0, CRect(0, 0, 100, 20), 98);
+    bar.SetScrollRange(0, 20);
+    EXPECT_EQ(8, Kept(DDX_Scroll, 98, 8));
 }
 
 TEST_F(DataExchange, ControlIsAttachedOnce) {
@@ -173,8 +172,8 @@ TEST_F(DataExchange, ControlIsAttachedOnce) {
     CEdit edit;
     m_form.m_exchange = [&](CDataExchange* pDX) { DDX_Control(pDX, ID_FIRST, edit); };
     EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(edit.GetDlgCtrlID(), ID_FIRST);
-    EXPECT_EQ(CWnd::FromHandlePermanent(edit), &edit);
+    EXPECT_EQ(int{ID_FIRST}, edit.GetDlgCtrlID());
+    EXPECT_EQ(&edit, CWnd::FromHandlePermanent(edit));
     EXPECT_TRUE(m_form.UpdateData(FALSE));
 }
 
@@ -223,6 +222,18 @@ TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
     }
 }
 
+TEST_F(DataExchange, RangeOfASliderIsItsLimit) {
+    Child<CSliderCtrl> slider(m_form, 0, CRect(0, 0, 100, 20), 99);
+    m_form.m_exchange = [](CDataExchange* pDX) {
+        int nValue = 7;
+        DDX_Slider(pDX, 99, nValue);
+        DDV_MinMaxSlider(pDX, 7, 5, 9);
+    };
+    EXPECT_TRUE(m_form.UpdateData(FALSE));
+    EXPECT_EQ(5, slider.GetRangeMin());
+    EXPECT_EQ(9, slider.GetRangeMax());
+}
+
 TEST_F(DataExchange, LongestTextAlsoLimitsTyping) {
     CString strEdit, strCombo;
     m_form.m_exchange = [&](CDataExchange* pDX) {
@@ -232,10 +243,10 @@ TEST_F(DataExchange, LongestTextAlsoLimitsTyping) {
         DDV_MaxChars(pDX, strCombo, 2);
     };
     EXPECT_TRUE(m_form.UpdateData(FALSE));
-    EXPECT_EQ(m_form.m_first.GetLimitText(), 4U);
+    EXPECT_EQ(4U, m_form.m_first.GetLimitText());
     COMBOBOXINFO info = {};
     ASSERT_TRUE(m_form.m_combo.GetComboBoxInfo(&info));
-    EXPECT_EQ(::SendMessage(info.hwndItem, EM_GETLIMITTEXT, 0, 0), 2);
+    EXPECT_EQ(2, ::SendMessage(info.hwndItem, EM_GETLIMITTEXT, 0, 0));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// List boxes with check boxes and with items to drag, and data exchange with the common controls.
+// List boxes with check boxes and with items to drag.
 #include "support/Child.h"
 
 #include "afxcmn.h"
@@ -73,53 +73,6 @@ TEST(DragList, ADroppedItemMovesWithItsData) {
         EXPECT_EQ(static_cast<DWORD_PTR>(text[0]), list.GetItemData(i));
     }
     EXPECT_EQ(L"cab", order);
-}
-
-enum : UINT { IDC_SLIDER = 11, IDC_SCROLL, IDC_DATE, IDC_CALENDAR, IDC_ADDRESS, IDC_NUMBER };
-
-struct ExchangeFrame : Frame {
-    int m_nSlider = 7, m_nScroll = 8;
-    CTime m_date{2024, 5, 6, 7, 8, 9}, m_day{2023, 4, 3, 0, 0, 0};
-    DWORD m_dwAddress = 0x7F000001;
-    LONGLONG m_nNumber = -5000000000;
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        DDX_Slider(pDX, IDC_SLIDER, m_nSlider);
-        DDV_MinMaxSlider(pDX, static_cast<DWORD>(m_nSlider), 5, 9);
-        DDX_Scroll(pDX, IDC_SCROLL, m_nScroll);
-        DDX_DateTimeCtrl(pDX, IDC_DATE, m_date);
-        DDX_MonthCalCtrl(pDX, IDC_CALENDAR, m_day);
-        DDX_IPAddress(pDX, IDC_ADDRESS, m_dwAddress);
-        DDX_Text(pDX, IDC_NUMBER, m_nNumber);
-    }
-};
-
-TEST(DataExchange, CommonControlsGiveBackWhatTheyWereGiven) {
-    ExchangeFrame frame;
-    const CRect rect(0, 0, 100, 20);
-    Child<CSliderCtrl> slider(frame, 0, rect, IDC_SLIDER);
-    Child<CScrollBar> scroll(frame, 0, rect, IDC_SCROLL);
-    const Child<CDateTimeCtrl> date(frame, 0, rect, IDC_DATE);
-    const Child<CMonthCalCtrl> calendar(frame, 0, rect, IDC_CALENDAR);
-    const Child<CIPAddressCtrl> address(frame, 0, rect, IDC_ADDRESS);
-    const Child<CEdit> number(frame, 0, rect, IDC_NUMBER);
-    scroll.SetScrollRange(0, 20);
-    ASSERT_TRUE(frame.UpdateData(FALSE));
-    EXPECT_EQ(9, slider.GetRangeMax());
-
-    const ExchangeFrame given;
-    frame.m_nSlider = frame.m_nScroll = 0;
-    frame.m_date = frame.m_day = CTime();
-    frame.m_dwAddress = 0;
-    frame.m_nNumber = 0;
-    ASSERT_TRUE(frame.UpdateData());
-    EXPECT_EQ(given.m_nSlider, frame.m_nSlider);
-    EXPECT_EQ(given.m_nScroll, frame.m_nScroll);
-    EXPECT_EQ(given.m_date, frame.m_date);
-    EXPECT_EQ(given.m_day, frame.m_day);
-    EXPECT_EQ(given.m_dwAddress, frame.m_dwAddress);
-    EXPECT_EQ(given.m_nNumber, frame.m_nNumber);
 }
 
 } // namespace
