@@ -7,13 +7,6 @@ namespace {
 
 const CSize THIN(1, 1);
 
-/// A background on which an inverted pixel is always seen.
-void Paint(CDC& dc) {
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 40; ++x)
-            dc.SetPixel(x, y, RGB(6 * x, 6 * y, 3 * (x + y)));
-}
-
 std::vector<COLORREF> Pixels(const CDC& dc) {
     std::vector<COLORREF> pixels;
     for (int y = 0; y < 40; ++y)
@@ -23,72 +16,74 @@ std::vector<COLORREF> Pixels(const CDC& dc) {
 }
 
 TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
-    const Rows<CSize, int> cases = {
-        {{1, 1}, 38},    // 20 x 20 less 18 x 18, halved
-        {{2, 3}, 88},    // sides 2, top and bottom 3
-        {{10, 10}, 200}, // the sides meet: all of it
-        {{15, 15}, 200},
+    CBrush white(RGB(255, 255, 255));
+    const Rows<CSize, CBrush*, int> rows = {
+        {{1, 1}, nullptr, 38},    // 20 x 20 less 18 x 18, halved
+        {{1, 1}, &white, 76},     // all of them by a brush without a pattern
+        {{2, 3}, nullptr, 88},    // sides 2, top and bottom 3
+        {{10, 10}, nullptr, 200}, // the sides meet: all of it
+        {{15, 15}, nullptr, 200},
     };
-    for (const auto& [size, nPixels] : cases) {
+    for (const auto& [size, pBrush, nPixels] : rows) {
         fx::Canvas canvas;
-        canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), size, nullptr, size);
-        EXPECT_EQ(canvas.CountDrawn(), nPixels) << size.cx;
-        EXPECT_EQ(canvas.Picture().find('#'), canvas.Picture().find_first_not_of(".\n"));
-        EXPECT_GE(canvas.Picture().find('#'), 10U * 41);
+        canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), size, nullptr, size, pBrush);
+        EXPECT_EQ(nPixels, canvas.CountDrawn()) << size.cx;
+        const std::string picture = canvas.Picture();
+        EXPECT_EQ(picture.find_first_not_of(".\n"), picture.find('#'));
+        EXPECT_GE(picture.find('#'), 10U * 41);
     }
 }
 
 TEST(DragRect, AWholeDragLeavesThePictureAsItWas) {
-    fx::Canvas canvas;
-    Paint(canvas.m_dc);
-    const auto before = Pixels(canvas.m_dc);
-    const CRect first(2, 2, 20, 15);
-    const CRect second(5, 3, 23, 16); // overlaps the first
-    const CRect third(22, 20, 40, 38);
-    canvas.m_dc.DrawDragRect(first, THIN, nullptr, THIN);
-    EXPECT_NE(Pixels(canvas.m_dc), before);
-    canvas.m_dc.DrawDragRect(second, THIN, first, THIN);
-    canvas.m_dc.DrawDragRect(third, THIN, second, THIN);
-    const auto shown = Pixels(canvas.m_dc);
-    canvas.m_dc.DrawDragRect(third, THIN, nullptr, THIN);
-    EXPECT_EQ(Pixels(canvas.m_dc), before);
-    canvas.m_dc.DrawDragRect(third, THIN, nullptr, THIN);
-    EXPECT_EQ(Pixels(canvas.m_dc), shown) << "only the last frame was on the screen";
-}
-
-TEST(DragRect, TakesOtherBrushesAndThicknessesBackToo) {
-    fx::Canvas canvas;
-    Paint(canvas.m_dc);
-    const auto before = Pixels(canvas.m_dc);
-    CBrush solid(RGB(255, 255, 255)), red(RGB(255, 0, 0));
-    const CRect first(2, 2, 20, 20), second(8, 8, 35, 35);
-    canvas.m_dc.DrawDragRect(first, CSize(3, 3), nullptr, THIN, &solid);
-    EXPECT_NE(canvas.m_dc.GetPixel(2, 2), RGB(12, 12, 12));
-    EXPECT_NE(canvas.m_dc.GetPixel(3, 2), RGB(18, 12, 15)) << "a solid brush inverts every pixel";
-    canvas.m_dc.DrawDragRect(second, THIN, first, CSize(3, 3), &red, &solid);
-    canvas.m_dc.DrawDragRect(second, THIN, nullptr, THIN, &red);
-    EXPECT_EQ(Pixels(canvas.m_dc), before);
+    struct Step {
+        CRect rect;
+        CSize size;
+        CBrush* pBrush;
+    };
+    CBrush white(RGB(255, 255, 255)), red(RGB(255, 0, 0));
+    const std::vector<Step> drags[] = {
+        {{{2, 2, 20, 15}, THIN, nullptr}, {{5, 3, 23, 16}, THIN, nullptr}, {{22, 20, 40, 38}, THIN, nullptr}},
+        {{{2, 2, 20, 20}, {3, 3}, &white}, {{8, 8, 35, 35}, THIN, &red}},
+    };
+    for (const std::vector<Step>& steps : drags) {
+        fx::Canvas canvas;
+        CDC& dc = canvas.m_dc;
+        for (int i = 0; i < 40 * 40; ++i) // an inverted pixel is always seen
+            dc.SetPixel(i % 40, i / 40, RGB(6 * (i % 40), 6 * (i / 40), 100));
+        const auto before = Pixels(dc);
+        dc.DrawDragRect(steps[0].rect, steps[0].size, nullptr, THIN, steps[0].pBrush);
+        EXPECT_NE(before, Pixels(dc));
+        for (size_t i = 1; i < steps.size(); ++i)
+            dc.DrawDragRect(steps[i].rect, steps[i].size, steps[i - 1].rect, steps[i - 1].size,
+                            steps[i].pBrush, steps[i - 1].pBrush);
+        const Step& last = steps.back();
+        const auto shown = Pixels(dc);
+        dc.DrawDragRect(last.rect, last.size, nullptr, THIN, last.pBrush);
+        EXPECT_EQ(before, Pixels(dc));
+        dc.DrawDragRect(last.rect, last.size, nullptr, THIN, last.pBrush);
+        EXPECT_EQ(shown, Pixels(dc)) << "only the last frame was on the screen";
+    }
 }
 
 TEST(DragRect, DoesNotDependOnWhatElseIsSetInTheContext) {
     fx::Canvas canvas;
     CDC& dc = canvas.m_dc;
     const CRect rect(3, 3, 20, 20);
-    dc.SetTextColor(RGB(255, 0, 0));
     dc.SetBkColor(RGB(0, 255, 0));
-    dc.DrawDragRect(rect, THIN, nullptr, THIN);
-    dc.SetTextColor(RGB(0, 0, 255));
-    dc.DrawDragRect(rect, THIN, nullptr, THIN);
-    EXPECT_EQ(canvas.CountDrawn(), 0);
-    EXPECT_EQ(dc.GetBkColor(), RGB(0, 255, 0)) << "and leaves it alone";
+    for (const COLORREF color : {RGB(255, 0, 0), RGB(0, 0, 255)}) {
+        dc.SetTextColor(color);
+        dc.DrawDragRect(rect, THIN, nullptr, THIN);
+    }
+    EXPECT_EQ(0, canvas.CountDrawn());
+    EXPECT_EQ(RGB(0, 255, 0), dc.GetBkColor()) << "and leaves it alone";
 
     // Logical coordinates, and the application's own clipping, hold.
     dc.IntersectClipRect(0, 0, 40, 10);
     dc.SetViewportOrg(5, 5);
     dc.DrawDragRect(CRect(0, 0, 20, 20), THIN, nullptr, THIN);
     const std::string picture = canvas.Picture();
-    EXPECT_EQ(picture.find('#') / 41, 5U) << "row of the frame's top";
-    EXPECT_EQ(picture.rfind('#') / 41, 9U) << "last row inside the clipping";
+    EXPECT_EQ(5U, picture.find('#') / 41) << "row of the frame's top";
+    EXPECT_EQ(9U, picture.rfind('#') / 41) << "last row inside the clipping";
 }
 
 } // namespace

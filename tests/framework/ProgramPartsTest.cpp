@@ -3,6 +3,7 @@
 #include "afxdialogex.h"
 #include "afxext.h"
 #include "afxmt.h"
+#include "support/Child.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Program.h"
 
@@ -30,7 +31,7 @@ HBITMAP MakePicture(COLORREF color, int cx = 3, int cy = 2) {
 
 TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
     const DialogTemplate dialogTemplate(30, 20);
-    const HBITMAP hPicture = MakePicture(RED);
+    const HBITMAP hPicture = MakePicture(RED), hOwned = MakePicture(BLUE);
     CDialogEx dialog;
     dialog.m_bFullScreen = FALSE;
     ASSERT_TRUE(dialog.CreateIndirect(dialogTemplate.Get()));
@@ -46,24 +47,23 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
             found += canvas.m_dc.GetPixel(p) == RED ? 'p' : canvas.m_dc.GetPixel(p) == BLUE ? 'c' : '.';
         return found;
     };
-    CStatic label;
-    ASSERT_TRUE(label.Create(L"", WS_CHILD, CRect(0, 0, 5, 5), &dialog));
+    fx::Child<CStatic> label(dialog);
     CClientDC dc(&label);
-    const auto brush = [&](UINT nMessage) {
+    const auto expectMode = [&](int nMode, UINT nMessage) {
         dc.SetBkMode(OPAQUE);
-        return reinterpret_cast<HGDIOBJ>(dialog.SendMessage(nMessage, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                            reinterpret_cast<LPARAM>(label.m_hWnd)));
+        const LRESULT lBrush = dialog.SendMessage(nMessage, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                  reinterpret_cast<LPARAM>(label.m_hWnd));
+        EXPECT_EQ(nMode, dc.GetBkMode());
+        LOGBRUSH brush = {};
+        ::GetObject(reinterpret_cast<HGDIOBJ>(lBrush), sizeof brush, &brush);
+        return brush;
     };
     EXPECT_EQ("......", corners());
-    brush(WM_CTLCOLORSTATIC);
-    EXPECT_EQ(OPAQUE, dc.GetBkMode());
+    expectMode(OPAQUE, WM_CTLCOLORSTATIC);
     dialog.SetBackgroundColor(BLUE);
     EXPECT_EQ("cccccc", corners());
-    LOGBRUSH look = {};
-    ::GetObject(brush(WM_CTLCOLORSTATIC), sizeof look, &look);
-    EXPECT_EQ(BLUE, look.lbColor);
-    EXPECT_EQ(TRANSPARENT, dc.GetBkMode());
-    const std::pair<CDialogEx::BackgroundLocation, const char*> rows[] = {
+    EXPECT_EQ(BLUE, expectMode(TRANSPARENT, WM_CTLCOLORSTATIC).lbColor);
+    const Rows<CDialogEx::BackgroundLocation, const char*> rows = {
         {CDialogEx::BACKGR_TOPLEFT, "pccccc"},    {CDialogEx::BACKGR_TOPRIGHT, "cpcccc"},
         {CDialogEx::BACKGR_BOTTOMLEFT, "ccpccc"}, {CDialogEx::BACKGR_BOTTOMRIGHT, "cccpcc"},
         {CDialogEx::BACKGR_TILE, "pppppp"},
@@ -72,55 +72,48 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
         dialog.SetBackgroundImage(hPicture, location, FALSE);
         EXPECT_EQ(pszCorners, corners());
     }
-    EXPECT_EQ(::GetStockObject(HOLLOW_BRUSH), brush(WM_CTLCOLORSTATIC));
-    brush(WM_CTLCOLOREDIT);
-    EXPECT_EQ(OPAQUE, dc.GetBkMode()) << "texts alone let it through";
-    const HBITMAP hOwned = MakePicture(BLUE);
+    EXPECT_EQ(UINT{BS_NULL}, expectMode(TRANSPARENT, WM_CTLCOLORSTATIC).lbStyle);
+    expectMode(OPAQUE, WM_CTLCOLOREDIT); // texts alone let it through
     dialog.SetBackgroundImage(hOwned, CDialogEx::BACKGR_TILE, TRUE);
     EXPECT_NE(0U, ::GetObjectType(hPicture));
-    dialog.SetBackgroundImage(hPicture, CDialogEx::BACKGR_TILE, TRUE);
+    dialog.SetBackgroundImage(hPicture, CDialogEx::BACKGR_TILE, FALSE);
     EXPECT_EQ(0U, ::GetObjectType(hOwned));
     dialog.SetBackgroundImage(static_cast<HBITMAP>(nullptr), CDialogEx::BACKGR_TILE, FALSE);
-    EXPECT_EQ(0U, ::GetObjectType(hPicture));
     dialog.SetBackgroundColor(static_cast<COLORREF>(-1));
     EXPECT_EQ("......", corners());
+    ::DeleteObject(hPicture);
 }
 
 TEST(BitmapButton, ShowsThePictureOfItsState) {
     struct Button : CBitmapButton {
-        Button() {
-            CBitmap* const bitmaps[] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
-            for (int i = 0; i < 4; ++i)
-                bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
-        }
-        void Forget() {
-            for (CBitmap* pBitmap : {&m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled})
-                pBitmap->DeleteObject();
-        }
+        CBitmap* const m_bitmaps[4] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
     };
+    fx::Canvas canvas;
     Frame frame;
     Button button;
     ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(3, 3, 50, 50), &frame, 1));
+    for (int i = 0; i < 4; ++i)
+        button.m_bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
     button.SizeToContent();
     EXPECT_EQ(CSize(9, 7), RectOf(button).Size());
     const auto shown = [&](UINT nState) {
-        fx::Canvas canvas;
         DRAWITEMSTRUCT item = {};
         item.itemState = nState;
         item.hDC = canvas.m_dc;
         item.rcItem = CRect(5, 5, 14, 12);
         button.DrawItem(&item);
-        EXPECT_EQ(RGB(255, 255, 255), canvas.m_dc.GetPixel(4, 4));
         return static_cast<int>(canvas.m_dc.GetPixel(5, 5)) / 50;
     };
     for (const auto& [nState, nPicture] : {std::pair(0U, 0),
                                            {UINT{ODS_SELECTED | ODS_FOCUS}, 1},
                                            {UINT{ODS_FOCUS}, 2},
-                                           {UINT{ODS_DISABLED}, 3}})
+                                           {UINT{ODS_DISABLED}, 3}}) {
         EXPECT_EQ(nPicture, shown(nState));
-    button.Forget();
-    for (const UINT nState : {ODS_SELECTED, ODS_FOCUS, ODS_DISABLED})
-        EXPECT_EQ(0, shown(nState)) << "the one it has";
+        if (nPicture != 0)
+            button.m_bitmaps[nPicture]->DeleteObject();
+        EXPECT_EQ(nPicture == 1 ? 2 : 0, shown(nState)) << "the one it has";
+    }
+    EXPECT_EQ(RGB(255, 255, 255), canvas.m_dc.GetPixel(4, 4));
 }
 
 TEST(CommandLine, FirstArgumentWithoutAMarkIsTheFile) {
@@ -173,7 +166,8 @@ TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
     buttons[1].idCommand = 6;
     EXPECT_TRUE(bar.AddButtons(2, buttons));
     buttons[0].idCommand = 7;
-    EXPECT_TRUE(bar.InsertButton(1, buttons) && bar.InsertSeparator(-1));
+    EXPECT_TRUE(bar.InsertButton(1, buttons));
+    EXPECT_TRUE(bar.InsertSeparator(-1));
     EXPECT_EQ((std::vector<int>{0, 5, 7, 6, empty[0], empty[1]}), ids());
     for (int i = 0; i < 2; ++i) // the second one takes the place of what was there
         ASSERT_TRUE(bar.InsertMenuBar(310));
@@ -188,59 +182,54 @@ TEST(Locks, AreHeldByOneAtATime) {
     CMutex mutex;
     CSemaphore semaphore(2, 2);
     CEvent event(FALSE, TRUE);
-    const auto isFree = [](CSyncObject& object) {
+    const auto isFree = [&] { // for another thread
         BOOL bFree = FALSE;
-        const auto ask = [&] { bFree = object.Lock(0) && object.Unlock(); };
-        std::thread(ask).join();
+        std::thread([&] { bFree = mutex.Lock(0) && mutex.Unlock(); }).join();
         return bFree != FALSE;
     };
-    {
-        CSingleLock lock(&mutex);
-        EXPECT_TRUE(!lock.Unlock() && lock.Lock(0) && !isFree(mutex) && lock.Unlock() && isFree(mutex));
-    }
-    EXPECT_TRUE(semaphore.Lock(0) && semaphore.Lock(0) && !semaphore.Lock(0));
+    CSingleLock lock(&mutex);
+    EXPECT_FALSE(lock.Unlock());
+    EXPECT_TRUE(lock.Lock(0));
+    EXPECT_FALSE(isFree());
+    EXPECT_TRUE(lock.Unlock());
+    EXPECT_TRUE(isFree());
+    for (const BOOL bLocked : {TRUE, TRUE, FALSE})
+        EXPECT_EQ(bLocked, semaphore.Lock(0));
     LONG nBefore = -1;
     EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
     EXPECT_EQ(0, nBefore);
+
     CSyncObject* objects[] = {&event, &mutex};
     CMultiLock both(objects, 2);
     EXPECT_EQ(WAIT_OBJECT_0 + 1, both.Lock(0, FALSE));
-    EXPECT_TRUE(!both.IsLocked(0) && both.IsLocked(1));
+    EXPECT_FALSE(both.IsLocked(0));
+    EXPECT_TRUE(both.IsLocked(1));
+    EXPECT_TRUE(both.Unlock());
+    EXPECT_TRUE(isFree());
     EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
     event.SetEvent();
     EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
-    EXPECT_TRUE(both.IsLocked(0) && !isFree(mutex) && both.Unlock());
-    EXPECT_TRUE(event.ResetEvent());
-    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
+    EXPECT_TRUE(both.IsLocked(0));
+    EXPECT_FALSE(isFree());
     EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
 }
 
 TEST(Relatives, AreFoundFromAnyWindow) {
     Frame frame;
-    CWnd outer;
-    CButton inner, second;
-    ASSERT_TRUE(outer.Create(WC_STATIC, L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 90), &frame, 1));
-    ASSERT_TRUE(inner.Create(L"", WS_CHILD | WS_VISIBLE | WS_GROUP, CRect(5, 5, 30, 30), &outer, 2));
-    ASSERT_TRUE(second.Create(L"", WS_CHILD | WS_VISIBLE, CRect(40, 5, 70, 30), &outer, 3));
+    fx::Child<CWnd> outer(frame, 0, CRect(10, 10, 90, 90), 1);
+    const fx::Child<CButton> inner(outer, WS_GROUP, CRect(5, 5, 30, 30), 2);
+    const fx::Child<CButton> second(outer, 0, CRect(40, 5, 70, 30), 3);
     CWnd popup;
     ASSERT_TRUE(popup.CreateEx(0, WC_STATIC, L"", WS_POPUP, CRect(0, 0, 5, 5), &frame, 0));
-    const std::pair<CWnd*, CWnd*> rows[] = {
-        {frame.GetTopWindow(), &outer},
-        {inner.GetNextWindow(), &second},
-        {second.GetNextWindow(GW_HWNDPREV), &inner},
-        {inner.GetAncestor(GA_ROOT), &frame},
-        {frame.ChildWindowFromPoint(CPoint(20, 20)), &outer},
-        {outer.ChildWindowFromPoint(CPoint(50, 10), CWP_SKIPINVISIBLE), &second},
-        {outer.GetNextDlgGroupItem(&inner), &second},
-        {frame.GetDescendantWindow(3), &second},
-        {frame.GetDescendantWindow(3, TRUE), &second},
-        {frame.GetDescendantWindow(9), nullptr},
-        {inner.GetParentOwner(), &frame},
-        {popup.GetTopLevelOwner(), &frame},
-        {CWnd::FindWindow(nullptr, L"frame"), &frame},
-        {CWnd::FindWindowEx(frame, nullptr, WC_STATIC, nullptr), &outer}};
-    for (size_t i = 0; i < std::size(rows); ++i)
-        EXPECT_EQ(rows[i].second, rows[i].first) << i;
+    const Rows<const CWnd*, const CWnd*> rows = {
+        {&second, frame.GetDescendantWindow(3)},     {&second, frame.GetDescendantWindow(3, TRUE)},
+        {nullptr, frame.GetDescendantWindow(9)},     {&frame, inner.GetParentOwner()},
+        {&frame, popup.GetTopLevelOwner()},          {&second, inner.GetNextWindow()},
+        {&inner, second.GetNextWindow(GW_HWNDPREV)},
+    };
+    int nRow = 0;
+    for (const auto& [pExpected, pFound] : rows)
+        EXPECT_EQ(pExpected, pFound) << nRow++;
 }
 
 } // namespace
