@@ -1,39 +1,42 @@
 // Which object belongs to which window, and who outlives whom.
-#include "support/TestApp.h"
+#include "support/Child.h"
 
-#include <algorithm>
 #include <memory>
+#include <set>
 
 using namespace testkit;
 
 namespace {
 
-HWND CreateForeign(HWND hWndParent = nullptr) {
-    return ::CreateWindow(WC_STATIC, L"foreign", hWndParent != nullptr ? WS_CHILD : WS_POPUP, 0, 0, 10, 10,
-                          hWndParent, nullptr, nullptr, nullptr);
-}
+using fx::Child;
 
-/// A foreign window for the time of a test.
+/// A window that the framework has not made.
 struct Foreign {
+    explicit Foreign(CWnd* pParentWnd = nullptr)
+        : m_hWnd(::CreateWindow(WC_STATIC, L"foreign", pParentWnd != nullptr ? WS_CHILD : WS_POPUP, 0, 0, 10,
+                                10, pParentWnd->GetSafeHwnd(), nullptr, nullptr, nullptr)) {}
     ~Foreign() { ::DestroyWindow(m_hWnd); }
+    Foreign(const Foreign&) = delete;
+    Foreign& operator=(const Foreign&) = delete;
     operator HWND() const { return m_hWnd; }
 
 private:
-    HWND m_hWnd = CreateForeign();
+    const HWND m_hWnd;
 };
-
-WNDPROC ProcedureOf(HWND hWnd) {
-    return reinterpret_cast<WNDPROC>(::GetWindowLongPtr(hWnd, GWLP_WNDPROC));
-}
 
 /// Lives on the heap as long as its window, and tells when it goes.
 struct SelfDeleting : CWnd {
     explicit SelfDeleting(int& rnDeleted) : m_rnDeleted(rnDeleted) {}
     ~SelfDeleting() override { ++m_rnDeleted; }
 
+    SelfDeleting* In(CWnd& parent) {
+        EXPECT_TRUE(Create(WC_STATIC, L"", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
+        return this;
+    }
+
 protected:
     void PostNcDestroy() override { delete this; }
-    afx_msg LRESULT OnEnd(WPARAM, LPARAM) { return DestroyWindow(), 42; }
+    afx_msg LRESULT OnEnd(WPARAM, LPARAM) { return DestroyWindow() ? 42 : 0; }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -44,20 +47,17 @@ BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
 ON_MESSAGE(WM_APP, &SelfDeleting::OnEnd)
 END_MESSAGE_MAP()
 
-BOOL CreateChild(CWnd& child, CWnd* pParent) {
-    return child.Create(WC_STATIC, L"", WS_CHILD, CRect(0, 0, 5, 5), pParent, 1);
-}
-
 TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
     const Foreign window;
     CWnd* const pWnd = CWnd::FromHandle(window);
-    ASSERT_NE(pWnd, nullptr);
-    EXPECT_EQ(pWnd->m_hWnd, window);
-    EXPECT_EQ(CWnd::FromHandle(window), pWnd);
-    EXPECT_TRUE(CWnd::FromHandlePermanent(window) == nullptr && CWnd::FromHandle(nullptr) == nullptr);
+    ASSERT_NE(nullptr, pWnd);
+    EXPECT_EQ(window, pWnd->m_hWnd);
+    EXPECT_EQ(pWnd, CWnd::FromHandle(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(window));
-    EXPECT_EQ(CWnd::FromHandle(window)->m_hWnd, window);
+    EXPECT_EQ(window, CWnd::FromHandle(window)->m_hWnd);
 }
 
 TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
@@ -65,135 +65,108 @@ TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
     CWnd wnd;
     EXPECT_FALSE(wnd.Attach(nullptr));
     ASSERT_TRUE(wnd.Attach(window));
-    EXPECT_EQ(CWnd::FromHandle(window), &wnd);
-    EXPECT_EQ(CWnd::FromHandlePermanent(window), &wnd);
+    EXPECT_EQ(&wnd, CWnd::FromHandle(window));
+    EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(window));
     EXPECT_FALSE(CWnd().Attach(window)) << "two objects of one window";
     EXPECT_FALSE(wnd.Attach(other)) << "two windows of one object";
-    EXPECT_EQ(wnd.Detach(), window);
-    EXPECT_TRUE(wnd.m_hWnd == nullptr && CWnd::FromHandlePermanent(window) == nullptr);
+    EXPECT_EQ(window, wnd.Detach());
+    EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
     EXPECT_TRUE(::IsWindow(window));
 }
 
-TEST(WindowObject, IsAttachedBeforeTheFirstMessage) {
-    struct Early : CWnd {
-        std::vector<UINT> m_messages;
+/// A window that makes a child while it is created itself must not lose its object to that one.
+TEST(WindowObject, IsAttachedBeforeTheFirstMessageAlsoWithChildrenOfItsOwn) {
+    struct Early : fx::Heard<CWnd> {
         int m_nPrepared = 0;
-        void PreSubclassWindow() override {
-            EXPECT_TRUE(m_hWnd != nullptr && m_messages.empty());
-            ++m_nPrepared;
-        }
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            m_messages.push_back(message);
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
+        void PreSubclassWindow() override { m_nPrepared += m_hWnd != nullptr ? 1 : 100; }
     };
     Early wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, WC_STATIC, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
-    EXPECT_EQ(wnd.m_nPrepared, 1);
-    EXPECT_NE(std::find(wnd.m_messages.begin(), wnd.m_messages.end(), UINT(WM_NCCREATE)),
-              wnd.m_messages.end());
-}
-
-TEST(WindowObject, ParentNotificationsOfCreationDoNotTakeThePlaceOfTheNewWindow) {
-    // A window that creates children while it is created itself must not lose its object to one.
-    struct WithChild : CWnd {
-        CWnd m_child;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message == WM_CREATE)
-                CreateChild(m_child, this);
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
+    std::set<UINT> messages;
+    std::optional<Child<CWnd>> child;
+    wnd.m_hear = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        EXPECT_EQ(1, wnd.m_nPrepared);
+        messages.insert(message);
+        if (message == WM_CREATE)
+            child.emplace(wnd);
+        return {};
     };
-    WithChild wnd;
     ASSERT_TRUE(wnd.CreateEx(0, WC_STATIC, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
-    ASSERT_NE(wnd.m_child.m_hWnd, nullptr);
-    EXPECT_NE(wnd.m_hWnd, wnd.m_child.m_hWnd);
-    EXPECT_EQ(::GetParent(wnd.m_child.m_hWnd), wnd.m_hWnd);
-    EXPECT_EQ(CWnd::FromHandlePermanent(wnd.m_child.m_hWnd), &wnd.m_child);
+    EXPECT_EQ(1U, messages.count(WM_NCCREATE));
+    ASSERT_TRUE(child.has_value());
+    EXPECT_EQ(wnd.m_hWnd, ::GetParent(child->m_hWnd));
+    EXPECT_EQ(&*child, CWnd::FromHandlePermanent(child->m_hWnd));
 }
 
 TEST(WindowObject, SubclassingEndsWithTheOldProcedureBack) {
-    class Deaf : public CWnd {
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            return message == WM_APP ? 7 : CWnd::WindowProc(message, wParam, lParam);
-        }
-    };
     const Foreign window;
-    const WNDPROC pfnBefore = ProcedureOf(window);
-    Deaf wnd;
+    const auto procedure = [&] { return ::GetWindowLongPtr(window, GWLP_WNDPROC); };
+    const LONG_PTR nBefore = procedure();
+    fx::Heard<CWnd> wnd;
+    wnd.m_hear = [](UINT message, WPARAM, LPARAM) {
+        return message == WM_APP ? std::optional<LRESULT>(7) : std::nullopt;
+    };
     ASSERT_TRUE(wnd.SubclassWindow(window));
-    EXPECT_EQ(::SendMessage(window, WM_APP, 0, 0), 7);
-    EXPECT_EQ(wnd.GetWindowTextLength(), 7) << "what the object does not handle reaches the old procedure";
-    EXPECT_EQ(wnd.UnsubclassWindow(), window);
-    EXPECT_EQ(ProcedureOf(window), pfnBefore);
-    EXPECT_EQ(::SendMessage(window, WM_APP, 0, 0), 0);
+    EXPECT_EQ(7, ::SendMessage(window, WM_APP, 0, 0));
+    EXPECT_EQ(7, wnd.GetWindowTextLength()) << "what the object does not handle reaches the old procedure";
+    EXPECT_EQ(window, wnd.UnsubclassWindow());
+    EXPECT_EQ(nBefore, procedure());
+    EXPECT_EQ(0, ::SendMessage(window, WM_APP, 0, 0));
 }
 
 TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
     Frame frame;
-    const HWND hItem = CreateForeign(frame);
-    ::SetWindowLongPtr(hItem, GWLP_ID, 5);
+    const Foreign foreign(&frame);
+    ::SetWindowLongPtr(foreign, GWLP_ID, 5);
     CWnd item, second;
-    EXPECT_TRUE(!item.SubclassDlgItem(6, &frame) && item.SubclassDlgItem(5, &frame));
-    EXPECT_EQ(item.m_hWnd, hItem);
+    EXPECT_FALSE(item.SubclassDlgItem(6, &frame));
+    EXPECT_TRUE(item.SubclassDlgItem(5, &frame));
+    EXPECT_EQ(foreign, item.m_hWnd);
     EXPECT_FALSE(second.SubclassDlgItem(5, &frame));
 }
 
-// --- Destruction ----------------------------------------------------------------------------
-
 TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
+    Frame frame;
+    const Foreign foreign;
     HWND hCreated = nullptr;
-    const HWND hAttached = CreateForeign();
     {
-        Frame frame;
-        hCreated = frame;
+        const Child<CWnd> created(frame);
+        hCreated = created;
         CWnd attached;
-        attached.Attach(hAttached);
+        attached.Attach(foreign);
     }
-    EXPECT_TRUE(!::IsWindow(hCreated) && !::IsWindow(hAttached));
-    EXPECT_EQ(CWnd::FromHandlePermanent(hCreated), nullptr);
-    EXPECT_EQ(CWnd::FromHandlePermanent(hAttached), nullptr);
+    for (const HWND hWnd : {hCreated, HWND{foreign}}) {
+        EXPECT_FALSE(::IsWindow(hWnd));
+        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
+    }
 }
 
-TEST(WindowDestruction, WindowFirstLeavesAnEmptyObject) {
-    Frame frame;
-    const HWND hWnd = frame;
-    ::DestroyWindow(hWnd);
-    EXPECT_TRUE(frame.m_hWnd == nullptr && CWnd::FromHandlePermanent(hWnd) == nullptr);
-    EXPECT_FALSE(frame.DestroyWindow());
-}
-
-TEST(WindowDestruction, ParentFirstEmptiesTheObjectsOfItsChildrenAndAChildTakesItsWindow) {
-    CWnd child, grandchild;
+TEST(WindowDestruction, WindowFirstEmptiesItsObjectAndThoseOfItsChildren) {
     auto pFrame = std::make_unique<Frame>();
-    ASSERT_TRUE(CreateChild(child, pFrame.get()));
-    ASSERT_TRUE(CreateChild(grandchild, &child));
+    Child<CWnd> child(*pFrame), sibling(*pFrame);
+    Child<CStatic> grandchild(child);
+    const HWND hSibling = sibling;
+    ::DestroyWindow(hSibling);
+    EXPECT_EQ(nullptr, sibling.m_hWnd);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hSibling));
+    EXPECT_FALSE(sibling.DestroyWindow());
     pFrame.reset();
-    EXPECT_TRUE(child.m_hWnd == nullptr && grandchild.m_hWnd == nullptr);
-    Frame frame;
-    ASSERT_TRUE(CreateChild(*std::make_unique<CWnd>(), &frame));
-    EXPECT_EQ(nullptr, ::GetWindow(frame, GW_CHILD));
+    EXPECT_EQ(nullptr, child.m_hWnd);
+    EXPECT_EQ(nullptr, grandchild.m_hWnd);
 }
 
 TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
     int nDeleted = 0;
     Frame frame;
-    auto* pWnd = new SelfDeleting(nDeleted);
-    ASSERT_TRUE(CreateChild(*pWnd, &frame));
-    EXPECT_TRUE(pWnd->DestroyWindow());
-    EXPECT_EQ(nDeleted, 1) << "by its own call";
-
-    pWnd = new SelfDeleting(nDeleted);
-    ASSERT_TRUE(CreateChild(*pWnd, &frame));
-    EXPECT_EQ(pWnd->SendMessage(WM_APP), 42);
-    EXPECT_EQ(nDeleted, 2) << "inside a handler of its own";
-
-    ASSERT_TRUE(CreateChild(*new SelfDeleting(nDeleted), &frame));
+    EXPECT_TRUE((new SelfDeleting(nDeleted))->In(frame)->DestroyWindow());
+    EXPECT_EQ(1, nDeleted) << "by its own call";
+    EXPECT_EQ(42, (new SelfDeleting(nDeleted))->In(frame)->SendMessage(WM_APP));
+    EXPECT_EQ(2, nDeleted) << "inside a handler of its own";
+    (new SelfDeleting(nDeleted))->In(frame);
     frame.DestroyWindow();
-    EXPECT_EQ(nDeleted, 3) << "with its parent";
-
+    EXPECT_EQ(3, nDeleted) << "with its parent";
     EXPECT_FALSE((new SelfDeleting(nDeleted))->Create(L"no such class", L"", 0, CRect(), nullptr, 1));
-    EXPECT_EQ(nDeleted, 4) << "when the window could not be created";
+    EXPECT_EQ(4, nDeleted) << "when the window could not be created";
 }
 
 } // namespace
