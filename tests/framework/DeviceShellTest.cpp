@@ -1,6 +1,7 @@
 // What the device's shell does for dialogs: full screen, the OK button in the title bar,
 // the command bar. The screen is the device's or larger.
 #include "support/Form.h"
+#include "testkit/Drive.h"
 #include "testkit/Pen.h"
 #include "testkit/Program.h"
 #include "testkit/TitleBar.h"
@@ -78,6 +79,49 @@ TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {
     EXPECT_EQ(IDOK, Play(dialog, {leave, tap}));
 }
 
+TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
+    using fx::Form;
+    // What the handler of OK does, and where the focus is then; 0 if the dialog is over.
+    const Rows<const char*, std::function<void(Form&)>, const char*, int> rows = {
+        {"stays", [](Form&) {}, "left ok entered ", Form::FIELD},
+        {"ends", [](Form& f) { f.EndDialog(8); }, "left ok ", 0},
+        {"is destroyed", [](Form& f) { f.DestroyWindow(); }, "left ok ", 0},
+        {"goes elsewhere", [](Form& f) { ::SetFocus(f.Item(Form::EDIT)); }, "left ok ", Form::EDIT},
+        {"asks", [](Form&) { Play([] { return AfxMessageBox(L"?"); }, {[] { TypeKeys({VK_RETURN}); }}); },
+         "left ok entered ", Form::FIELD},
+    };
+    for (const auto& [pszOk, act, pszLog, nFocus] : rows) {
+        SCOPED_TRACE(pszOk);
+        std::string log;
+        Form form;
+        form.m_bFullScreen = TRUE;
+        form.m_onMessage = [&](UINT message, WPARAM wParam) {
+            if (message == WM_COMMAND && wParam == MAKEWPARAM(Form::FIELD, EN_KILLFOCUS))
+                log += "left ";
+            if (message == WM_COMMAND && wParam == MAKEWPARAM(Form::FIELD, EN_SETFOCUS))
+                log += "entered ";
+        };
+        form.m_onOk = [&, &does = act] {
+            log += "ok ";
+            does(form);
+        };
+        Script script;
+        script.Then([&] {
+            ::SetFocus(form.Item(Form::FIELD));
+            log.clear();
+            TapOk(form);
+        });
+        if (nFocus != 0)
+            script.Then([&, nID = nFocus] {
+                EXPECT_EQ(form.Item(nID), ::GetFocus());
+                form.m_onMessage = nullptr;
+                form.EndDialog(1);
+            });
+        script.Run([&] { return form.DoModal(); });
+        EXPECT_EQ(pszLog, log);
+    }
+}
+
 TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     class Patient : public CWnd {
         ULONG GetGestureStatus(CPoint ptTouch) override { return ptTouch == CPoint(3, 4) ? 0 : 1; }
@@ -89,44 +133,22 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     ASSERT_TRUE(child.Create(WC_STATIC, L"", WS_CHILD, CRect(5, 5, 50, 50), &frame, 1));
     CPoint point(3, 4);
     child.ClientToScreen(&point);
-    EXPECT_EQ(child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)), 0);
+    EXPECT_EQ(0, child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)));
 }
-
-/// The current folder of all that is started meanwhile, with a library of the shell's name in it.
-struct PlantedFolder {
-    PlantedFolder() {
-        wchar_t szPath[MAX_PATH];
-        ::GetCurrentDirectory(MAX_PATH, m_szBefore);
-        ::GetTempPath(MAX_PATH, szPath);
-        m_strFolder.Format(L"%sfk-planted%u", szPath, ::GetCurrentProcessId());
-        ::CreateDirectory(m_strFolder, nullptr);
-        ::GetModuleFileName(nullptr, szPath, MAX_PATH);
-        EXPECT_TRUE(::CopyFile(szPath, Library(), FALSE)); // any module will do
-        ::SetCurrentDirectory(m_strFolder);
-    }
-    ~PlantedFolder() {
-        ::SetCurrentDirectory(m_szBefore);
-        ::DeleteFile(Library());
-        ::RemoveDirectory(m_strFolder);
-    }
-
-private:
-    CString Library() const { return m_strFolder + L"\\aygshell.dll"; }
-
-    wchar_t m_szBefore[MAX_PATH];
-    CString m_strFolder;
-};
 
 constexpr LPCTSTR IN_PLANTED_FOLDER = L"FK_TEST_IN_PLANTED_FOLDER";
 
 TEST(ShellLibrary, OneThatLiesInTheCurrentFolderIsNotLoaded) {
     if (::GetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr, 0) != 0) {
         SHDoneButton(nullptr, SHDB_HIDE);
-        ASSERT_EQ(::GetModuleHandle(L"aygshell.dll"), nullptr);
+        ASSERT_EQ(nullptr, ::GetModuleHandle(L"aygshell.dll"));
         return;
     }
     // A library is looked for once, and another test may have asked: so a process of its own.
-    const PlantedFolder planted;
+    const Drive drive; // which is the current one
+    wchar_t szPath[MAX_PATH];
+    ::GetModuleFileName(nullptr, szPath, MAX_PATH);
+    ASSERT_TRUE(::CopyFile(szPath, drive.Root() + L"aygshell.dll", FALSE)); // any module will do
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, L"1");
     EXPECT_EQ(0U, Program(L"test_framework", nullptr, L"--gtest_filter=ShellLibrary.*").End());
     ::SetEnvironmentVariable(IN_PLANTED_FOLDER, nullptr);

@@ -1,8 +1,7 @@
 // Modal dialogs: their loop, their owner, their end.
+#include "support/Child.h"
 #include "support/Form.h"
 #include "testkit/Pen.h"
-
-#include <optional>
 
 using namespace testkit;
 
@@ -29,14 +28,15 @@ TEST(ModalDialog, IsToldWhenItIsIdleAndNeverSeenIfItsInitialisationEndsIt) {
     int nIdle = 0;
     bool bSeen = false;
     Form form;
-    form.m_onMessage = [&](UINT message, WPARAM) { nIdle += message == WM_KICKIDLE ? 1 : 0; };
-    EXPECT_EQ(1,
-              Play(form, {[&] { return nIdle > 0 && form.IsWindowVisible(); }, [&] { form.EndDialog(1); }}));
-    nIdle = 0;
-    form.m_onInit = [&] {
-        form.EndDialog(5);
-        bSeen = form.IsWindowVisible() != FALSE;
+    form.m_onMessage = [&](UINT message, WPARAM) {
+        nIdle += message == WM_KICKIDLE ? 1 : 0;
+        bSeen = bSeen || form.IsWindowVisible();
     };
+    EXPECT_EQ(1, Play(form, {[&] { return nIdle > 0; }, [&] { form.EndDialog(1); }}));
+    EXPECT_TRUE(bSeen);
+    nIdle = 0;
+    bSeen = false;
+    form.m_onInit = [&] { form.EndDialog(5); };
     EXPECT_EQ(5, Play(form, {}));
     EXPECT_FALSE(bSeen);
     EXPECT_EQ(0, nIdle);
@@ -44,8 +44,7 @@ TEST(ModalDialog, IsToldWhenItIsIdleAndNeverSeenIfItsInitialisationEndsIt) {
 
 TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
     Frame owner;
-    CEdit field;
-    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 50, 50), &owner, 2));
+    fx::Child<CEdit> field(owner);
     for (CWnd* const pParent : {static_cast<CWnd*>(&owner), static_cast<CWnd*>(&field)}) {
         std::optional<bool> bEnabledAtEnd;
         Form form(pParent);
@@ -97,12 +96,14 @@ struct Nested : testing::Test {
 
 TEST_F(Nested, InnerDialogDisablesTheOuterOneOnly) {
     const auto end = [&] {
-        EXPECT_TRUE(!m_outer.IsWindowEnabled() && !m_owner.IsWindowEnabled());
+        EXPECT_FALSE(m_outer.IsWindowEnabled());
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
         m_inner.EndDialog(3);
     };
     const auto endOuter = [&] {
         EXPECT_EQ(3, m_nInner);
-        EXPECT_TRUE(m_outer.IsWindowEnabled() && !m_owner.IsWindowEnabled());
+        EXPECT_TRUE(m_outer.IsWindowEnabled());
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
         EXPECT_EQ(m_outer.m_hWnd, ::GetActiveWindow());
         m_outer.EndDialog(4);
     };
@@ -119,7 +120,8 @@ TEST_F(Nested, EndOfTheOuterDialogWaitsForTheInnerOne) {
 TEST_F(Nested, QuitEndsAllLoopsAndReachesTheOutermost) {
     m_outer.m_onDo = [this] { m_inner.DoModal(); };
     Play(m_outer, {Open(), IsOpen(), [] { AfxPostQuitMessage(7); }});
-    EXPECT_TRUE(m_outer.m_hWnd == nullptr && m_inner.m_hWnd == nullptr);
+    EXPECT_EQ(nullptr, m_outer.m_hWnd);
+    EXPECT_EQ(nullptr, m_inner.m_hWnd);
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7U, msg.wParam);

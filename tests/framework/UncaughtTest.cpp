@@ -1,6 +1,5 @@
 // Exceptions that nobody catches, and memory that runs out.
 #include "support/Form.h"
-#include "testkit/Watchdog.h"
 
 #include <stdexcept>
 
@@ -56,28 +55,26 @@ private:
 };
 
 TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
-    const Watchdog watchdog(30);
-    const struct {
-        Form::Place place;
-        bool bOpens; ///< The dialog comes up all the same.
-        bool bTold;
-    } places[] = {{Form::Command, true, true},   {Form::Init, false, true}, {Form::InitMessage, false, true},
-                  {Form::Translate, true, true}, {Form::End, true, true},   {Form::Attaching, false, false}};
+    // Whether the dialog comes up all the same, and whether the user is told.
+    const Rows<Form::Place, bool, bool> places = {
+        {Form::Command, true, true},   {Form::Init, false, true}, {Form::InitMessage, false, true},
+        {Form::Translate, true, true}, {Form::End, true, true},   {Form::Attaching, false, false}};
     Frame owner;
     for (const auto& e : EXCEPTIONS) {
-        for (const auto& p : places) {
-            SCOPED_TRACE(std::string(e.pszName) + " " + std::to_string(p.place));
-            Form form(p.place, e.raise, &owner);
+        for (const auto& [place, bOpens, bTells] : places) {
+            SCOPED_TRACE(std::string(e.pszName) + " " + std::to_string(place));
+            Form form(place, e.raise, &owner);
             MessageRecorder recorder;
             const auto raise = [&] {
                 form.PostDo();
                 form.PostMessage(WM_USER);
             };
             const auto end = [&] { form.EndDialog(6); };
-            EXPECT_EQ(p.bOpens ? 6 : -1, p.bOpens ? Play(form, {raise, end}) : Play(form, {}));
-            const bool bTold = p.bTold && e.pszPrompt != nullptr;
+            EXPECT_EQ(bOpens ? 6 : -1, bOpens ? Play(form, {raise, end}) : Play(form, {}));
+            const bool bTold = bTells && e.pszPrompt != nullptr;
             EXPECT_EQ(bTold ? std::vector<CString>{e.pszPrompt} : std::vector<CString>(), recorder.m_prompts);
-            EXPECT_TRUE(form.m_hWnd == nullptr && owner.IsWindowEnabled());
+            EXPECT_EQ(nullptr, form.m_hWnd);
+            EXPECT_TRUE(owner.IsWindowEnabled());
             form.m_place = Form::Nowhere;
             WhileOpen(form, [] {});
         }
@@ -92,12 +89,12 @@ TEST(Uncaught, ModelessDialogThatCannotBeInitialisedIsNotThere) {
     Failing dialog;
     dialog.m_bFullScreen = FALSE;
     MessageRecorder recorder;
-    EXPECT_TRUE(!dialog.CreateIndirect(dialogTemplate.Get()) && dialog.m_hWnd == nullptr);
+    EXPECT_FALSE(dialog.CreateIndirect(dialogTemplate.Get()));
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
 }
 
 /// The handler fails each time it is called, also while the box about the first time is open.
 TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
-    const Watchdog watchdog(20);
     int nFailures = 0;
     fx::Form form;
     form.m_onMessage = [&](UINT message, WPARAM) {
@@ -153,7 +150,8 @@ TEST(Uncaught, FailingNewIsAMemoryException) {
     volatile size_t nBytes = SIZE_MAX / 4;
     void* pBlock = nullptr;
     EXPECT_THROW(pBlock = ::operator new(nBytes), CMemoryException*);
-    EXPECT_TRUE(pBlock == nullptr && ::operator new(nBytes, std::nothrow) == nullptr);
+    EXPECT_EQ(nullptr, pBlock);
+    EXPECT_EQ(nullptr, ::operator new(nBytes, std::nothrow));
     std::set_new_handler(pfnBefore);
 }
 
