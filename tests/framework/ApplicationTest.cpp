@@ -10,30 +10,27 @@ namespace {
 TEST(Application, RunsUntilItsMainWindowIsDestroyed) {
     Frame frame;
     fx::g_app.m_pMainWnd = &frame;
-    EXPECT_EQ(AfxGetMainWnd(), &frame);
-    Script script;
-    script.Then([&] { frame.PostMessage(WM_CLOSE); });
-    EXPECT_EQ(script.Run([] { return fx::g_app.Run(); }), 0);
-    EXPECT_TRUE(frame.m_hWnd == nullptr && AfxGetMainWnd() == nullptr);
-    EXPECT_EQ(fx::g_app.Run(), 0) << "at once without one";
+    EXPECT_EQ(0, Play([] { return fx::g_app.Run(); }, {[&] { frame.PostMessage(WM_CLOSE); }}));
+    EXPECT_EQ(nullptr, frame.m_hWnd);
+    EXPECT_EQ(nullptr, AfxGetMainWnd());
+    EXPECT_EQ(0, fx::g_app.Run()) << "at once without one";
 }
 
 TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
     Frame frame;
     fx::g_app.m_pMainWnd = &frame;
-    const Rows<UINT, WORD, int> cases = {
+    const Rows<UINT, WORD, int> rows = {
         {MB_OK, VK_RETURN, IDOK},
         {MB_YESNO | MB_DEFBUTTON2, VK_RETURN, IDNO},
         {MB_OKCANCEL, VK_ESCAPE, IDCANCEL},
     };
-    for (const auto& [nType, nKey, nAnswer] : cases) {
-        Script script;
-        script.Then([&] {
+    for (const auto& [nType, nKey, nAnswer] : rows) {
+        const auto answer = [&, nPressed = nKey] {
             EXPECT_FALSE(frame.IsWindowEnabled());
-            EXPECT_NE(::FindWindow(nullptr, L"test"), nullptr) << "the application's name is its caption";
-            TypeKeys({nKey});
-        });
-        EXPECT_EQ(script.Run([&] { return AfxMessageBox(L"本文", nType); }), nAnswer);
+            EXPECT_NE(nullptr, ::FindWindow(nullptr, L"test")) << "the application's name is its caption";
+            TypeKeys({nPressed});
+        };
+        EXPECT_EQ(nAnswer, Play([nAsked = nType] { return AfxMessageBox(L"本文", nAsked); }, {answer}));
         EXPECT_TRUE(frame.IsWindowEnabled());
     }
     fx::g_app.m_pMainWnd = nullptr;
@@ -41,26 +38,25 @@ TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
 
 /// Settings of every kind, wherever they are kept.
 void ExpectSettingsAreKept(CWinApp& app) {
-    EXPECT_EQ(app.GetProfileInt(L"部", L"number", 7), 7U);
+    EXPECT_EQ(7U, app.GetProfileInt(L"部", L"number", 7));
     EXPECT_TRUE(app.WriteProfileInt(L"部", L"number", -12));
-    EXPECT_EQ(static_cast<int>(app.GetProfileInt(L"部", L"number", 7)), -12);
+    EXPECT_EQ(-12, static_cast<int>(app.GetProfileInt(L"部", L"number", 7)));
     const CString strLong(L'長', 500);
     for (const CString& strText : {strLong, CString(L""), CString(L"  blanks "), CString(L"'\"quotes\"")}) {
         EXPECT_TRUE(app.WriteProfileString(L"部", L"text", strText));
-        EXPECT_EQ(app.GetProfileString(L"部", L"text", L"default"), strText);
+        EXPECT_EQ(strText, app.GetProfileString(L"部", L"text", L"default"));
     }
-    EXPECT_EQ(app.GetProfileString(L"部", L"none", L"default"), L"default");
     EXPECT_TRUE(app.WriteProfileString(L"部", L"text", nullptr));
-    EXPECT_EQ(app.GetProfileString(L"部", L"text", L"gone"), L"gone");
-    BYTE bytes[] = {0, 1, 0xFE, 0x70};
-    EXPECT_TRUE(app.WriteProfileBinary(L"部", L"bytes", bytes, sizeof bytes));
+    EXPECT_EQ(L"gone", app.GetProfileString(L"部", L"text", L"gone"));
+    std::vector<BYTE> bytes = {0, 1, 0xFE, 0x70};
+    EXPECT_TRUE(app.WriteProfileBinary(L"部", L"bytes", bytes.data(), 4));
     BYTE* pData = nullptr;
     UINT nBytes = 0;
     ASSERT_TRUE(app.GetProfileBinary(L"部", L"bytes", &pData, &nBytes));
-    EXPECT_EQ(std::vector<BYTE>(pData, pData + nBytes), std::vector<BYTE>(bytes, bytes + sizeof bytes));
+    EXPECT_EQ(bytes, std::vector<BYTE>(pData, pData + nBytes));
     delete[] pData;
     EXPECT_TRUE(app.WriteProfileString(L"部", nullptr, nullptr));
-    EXPECT_EQ(app.GetProfileInt(L"部", L"number", 7), 7U);
+    EXPECT_EQ(7U, app.GetProfileInt(L"部", L"number", 7));
 }
 
 TEST(Application, KeepsSettingsUnderItsKey) {
