@@ -1,8 +1,6 @@
 // Where the focus is when pages change, and sheets that are destroyed instead of ended.
 #include "SheetProbe.h"
 
-#include "testkit/Watchdog.h"
-
 using namespace testkit;
 
 namespace {
@@ -20,7 +18,6 @@ void TypeCtrlTab(Sheet&) {
 }
 
 TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
-    const Watchdog watchdog(20);
     const auto setFocusByProgram = [](Sheet& s) {
         s.SetActivePage(1);
         ::SetFocus(::GetDlgItem(s.m_a, fx::IDC_NUMBER));
@@ -58,7 +55,6 @@ TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
 }
 
 TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
-    const Watchdog watchdog(20);
     struct Destroying : Sheet {
         using Sheet::Sheet;
         BOOL OnInitDialog() override {
@@ -81,7 +77,9 @@ TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
         Destroying sheet(&owner);
         sheet.m_bDestroy = go == nullptr;
         EXPECT_EQ(-1, go ? Play(sheet, {[&] { go(sheet); }}) : Play(sheet, {}));
-        EXPECT_TRUE(sheet.m_hWnd == nullptr && sheet.m_a.m_hWnd == nullptr && owner.IsWindowEnabled());
+        EXPECT_EQ(nullptr, sheet.m_hWnd);
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
+        EXPECT_TRUE(owner.IsWindowEnabled());
         sheet.m_bDestroy = false;
         WhileOpen(sheet, [] {});
     }

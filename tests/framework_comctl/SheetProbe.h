@@ -1,14 +1,13 @@
 // Property sheets and pages that write down what happens to them.
 #pragma once
 
-#include "support/TestApp.h"
+#include "support/Child.h"
 #include "testkit/Script.h"
 #include "testkit/Pen.h"
 #include "testkit/TitleBar.h"
 
 #include "afxdlgs.h"
 
-#include <functional>
 #include <string>
 
 namespace fx {
@@ -31,25 +30,13 @@ struct Page : CPropertyPage {
         m_onInit();
         return CPropertyPage::OnInitDialog();
     }
-    BOOL OnSetActive() override {
-        Log("set");
-        return CPropertyPage::OnSetActive();
-    }
-    BOOL OnKillActive() override {
-        Log("kill");
-        return CPropertyPage::OnKillActive();
-    }
-    BOOL OnApply() override {
-        Log("apply");
-        return m_bApply && CPropertyPage::OnApply();
-    }
+    BOOL OnSetActive() override { return Log("set") && CPropertyPage::OnSetActive(); }
+    BOOL OnKillActive() override { return Log("kill") && CPropertyPage::OnKillActive(); }
+    BOOL OnApply() override { return Log("apply") && m_bApply && CPropertyPage::OnApply(); }
     BOOL OnQueryCancel() override { return m_bCancel; }
     void OnOK() override { Log("ok"); }
     void OnCancel() override { Log("cancel"); }
-    BOOL OnWizardFinish() override {
-        Log("finish");
-        return TRUE;
-    }
+    BOOL OnWizardFinish() override { return Log("finish"); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
@@ -64,7 +51,10 @@ protected:
     }
 
 private:
-    void Log(const char* pszEvent) { m_log += m_name + '.' + pszEvent + ' '; }
+    bool Log(const char* pszEvent) {
+        m_log += m_name + '.' + pszEvent + ' ';
+        return true;
+    }
 
     std::string& m_log;
     std::string m_name;
