@@ -10,7 +10,8 @@
 #include "afxmap_.h"
 
 // Those of strings, objects and numbers can be archived under their names; pointers mean nothing in
-// a file. Objects and what pointers point to are the caller's.
+// a file. Objects and what pointers point to are the caller's. Constructors have a source: defined here
+// they would have every source that includes this header make all virtual members of the templates.
 
 /// An array that can be archived.
 #define AFX_SERIAL_ARRAY(class_name, TYPE, ARG_TYPE)                                                         \
@@ -22,21 +23,21 @@
     class AFX_CORE class_name : public CList<TYPE, ARG_TYPE> {                                               \
         DECLARE_SERIAL(class_name)                                                                           \
     public:                                                                                                  \
-        explicit class_name(INT_PTR nBlockSize = 10) : CList(nBlockSize) {}                                  \
+        explicit class_name(INT_PTR nBlockSize = 10);                                                        \
     };
 /// A map that can be archived.
 #define AFX_SERIAL_MAP(class_name, KEY, ARG_KEY, VALUE, ARG_VALUE)                                           \
     class AFX_CORE class_name : public CMap<KEY, ARG_KEY, VALUE, ARG_VALUE> {                                \
         DECLARE_SERIAL(class_name)                                                                           \
     public:                                                                                                  \
-        explicit class_name(INT_PTR nBlockSize = 10) : CMap(nBlockSize) {}                                   \
+        explicit class_name(INT_PTR nBlockSize = 10);                                                        \
     };
 /// A map with pointers, which is not archived.
 #define AFX_POINTER_MAP(class_name, KEY, ARG_KEY, VALUE)                                                     \
     class AFX_CORE class_name : public CMap<KEY, ARG_KEY, VALUE, VALUE> {                                    \
         DECLARE_DYNAMIC(class_name)                                                                          \
     public:                                                                                                  \
-        explicit class_name(INT_PTR nBlockSize = 10) : CMap(nBlockSize) {}                                   \
+        explicit class_name(INT_PTR nBlockSize = 10);                                                        \
         void Serialize(CArchive& /*ar*/) override {}                                                         \
     };
 
@@ -73,7 +74,7 @@ class AFX_CORE CPtrList : public CList<void*, void*> {
     DECLARE_DYNAMIC(CPtrList)
 public:
     /// @copydoc CList::CList
-    explicit CPtrList(INT_PTR nBlockSize = 10) : CList(nBlockSize) {}
+    explicit CPtrList(INT_PTR nBlockSize = 10);
     /// Nothing: pointers mean nothing in a file.
     void Serialize(CArchive& /*ar*/) override {}
 };

@@ -17,3 +17,14 @@ IMPLEMENT_DYNAMIC(CMapWordToPtr, CObject)
 IMPLEMENT_DYNAMIC(CPtrArray, CObject)
 IMPLEMENT_DYNAMIC(CPtrList, CObject)
 IMPLEMENT_DYNAMIC(CUIntArray, CObject)
+
+CStringList::CStringList(INT_PTR nBlockSize) : CList(nBlockSize) {}
+CObList::CObList(INT_PTR nBlockSize) : CList(nBlockSize) {}
+CPtrList::CPtrList(INT_PTR nBlockSize) : CList(nBlockSize) {}
+CMapStringToString::CMapStringToString(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapStringToOb::CMapStringToOb(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapWordToOb::CMapWordToOb(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapStringToPtr::CMapStringToPtr(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapPtrToPtr::CMapPtrToPtr(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapPtrToWord::CMapPtrToWord(INT_PTR nBlockSize) : CMap(nBlockSize) {}
+CMapWordToPtr::CMapWordToPtr(INT_PTR nBlockSize) : CMap(nBlockSize) {}
