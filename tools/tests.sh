@@ -14,7 +14,6 @@ other_screens=('320x240 96' '480x640 192' '800x480 96' '1024x768 96')
 # programs that look at all dialogs run on each of other_screens as well.
 run_tests() {
     local built=$SECONDS lane
-    export SHAKE_EVENTS=${SHAKE_EVENTS:-1000} # each; the long rounds are ./run shake's
     start_lane native tests_without_screen "$1"
     start_lane long tests_on_second_screen "$1"
     run_programs "$1" short win64 sample programs
@@ -44,9 +43,9 @@ tests_without_screen() {
 }
 
 tests_on_second_screen() {
-    if [[ -n $(programs "$1" long win64 sample) ]]; then
+    if [[ -n $(programs "$1" long win64) ]]; then
         open_screen -second
-        run_programs "$1" long win64 sample
+        run_programs "$1" long win64
         close_screen
     fi
     [[ -z $1 || screens == *"$1"* ]] || return 0
@@ -93,7 +92,7 @@ run_programs() {
     done 4< <(programs "$@")
 }
 
-# Their builds and paths, a line each. The long ones are those that repeat much at random.
+# Their builds and paths, a line each. The long ones are on the second screen, so that both take alike.
 programs() {
     local name=$1 length=$2 preset program folder found
     shift 2
@@ -103,7 +102,7 @@ programs() {
         for program in "$folder"/test_*"$name"*; do
             [[ -x $program && $program != *.dll ]] || continue
             found=short
-            [[ $program != *test_faults.exe && $program != *shake.exe ]] || found=long
+            [[ $program != *test_faults.exe && $program != *test_shake.exe ]] || found=long
             [[ $found != "$length" ]] || printf '%s %s\n' "$preset" "$program"
         done
     done
