@@ -1,7 +1,5 @@
 // The system's dialogs: events reach the object, answers are taken apart.
 #include "support/TestApp.h"
-#include "testkit/Script.h"
-#include "testkit/Pen.h"
 
 #include "afxdlgs.h"
 
@@ -19,9 +17,9 @@ TEST(CommonDialogs, ColourIsTakenWithOK) {
     };
     Frame frame;
     Probe dialog(RGB(255, 0, 0), 0, &frame);
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.GetColor(), RGB(255, 0, 0));
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(RGB(255, 0, 0), dialog.GetColor());
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
 }
 
 TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
@@ -35,7 +33,7 @@ TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
     };
     Frame frame;
     Probe dialog(TRUE, L"txt", nullptr, OFN_HIDEREADONLY, L"Text|*.txt|All|*.*||", &frame);
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
     EXPECT_TRUE(dialog.m_bReady);
 }
 
@@ -65,21 +63,22 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
 TEST(CommonDialogs, AnswersAreTakenApart) {
     TCHAR one[] = L"C:\\a.b\\plan.old.txt\0";
     TCHAR root[] = L"C:\\\0x\0y\0";
-    const Rows<LPTSTR, DWORD, LPCTSTR> cases = {{one, 0, L"C:\\a.b\\plan.old.txt;"},
-                                                {one, OFN_ALLOWMULTISELECT, L"C:\\a.b\\plan.old.txt;"},
-                                                {root, OFN_ALLOWMULTISELECT, L"C:\\x;C:\\y;"}};
-    for (const auto& [pszFile, dwFlags, pszPaths] : cases) {
+    const Rows<LPTSTR, DWORD, LPCTSTR> rows = {{one, 0, L"C:\\a.b\\plan.old.txt;"},
+                                               {one, OFN_ALLOWMULTISELECT, L"C:\\a.b\\plan.old.txt;"},
+                                               {root, OFN_ALLOWMULTISELECT, L"C:\\x;C:\\y;"}};
+    for (const auto& [pszFile, dwFlags, pszPaths] : rows) {
         CFileDialog dialog(TRUE, nullptr, nullptr, dwFlags);
         dialog.m_ofn.lpstrFile = pszFile;
         CString strPaths;
         for (POSITION pos = dialog.GetStartPosition(); pos != nullptr;)
             strPaths += dialog.GetNextPathName(pos) + L";";
-        EXPECT_EQ(strPaths, pszPaths);
+        EXPECT_EQ(pszPaths, strPaths);
     }
     CFileDialog dialog(TRUE);
     dialog.m_ofn.lpstrFile = one;
-    EXPECT_EQ(dialog.GetFileTitle() + L"|" + dialog.GetFileExt() + L"|" + dialog.GetFolderPath(),
-              L"plan.old|txt|C:\\a.b");
+    EXPECT_EQ(L"plan.old", dialog.GetFileTitle());
+    EXPECT_EQ(L"txt", dialog.GetFileExt());
+    EXPECT_EQ(L"C:\\a.b", dialog.GetFolderPath());
 }
 
 } // namespace

@@ -12,32 +12,18 @@ CRect InnerArea() {
     return rect;
 }
 
-bool Contains(const CRect& outer, const CRect& inner) {
-    CRect both;
-    both.UnionRect(outer, inner);
-    return both == outer && !inner.IsRectEmpty();
-}
-
-int CountCommandBars(const CWnd& wnd) {
-    int nCount = 0;
-    for (HWND h = ::GetWindow(wnd, GW_CHILD); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT))
-        nCount += ::GetDlgCtrlID(h) == static_cast<int>(AFX_IDW_TOOLBAR) ? 1 : 0;
-    return nCount;
-}
-
 /// The tabs fill the inner area, and the pages what is left of the tabs.
 void ExpectLaidOut(const fx::Sheet& sheet, const std::vector<const CPropertyPage*>& pages) {
-    EXPECT_EQ(RectOf(sheet.m_hWnd), WorkArea());
+    EXPECT_EQ(WorkArea(), RectOf(sheet.m_hWnd));
     const CRect tabs = RectOf(sheet.GetTabControl()->m_hWnd);
-    EXPECT_EQ(tabs, InnerArea());
-    const CRect bar = RectOf(sheet.GetDlgItem(static_cast<int>(AFX_IDW_TOOLBAR))->m_hWnd);
-    EXPECT_EQ(bar.bottom, WorkArea().bottom);
+    EXPECT_EQ(InnerArea(), tabs);
+    EXPECT_EQ(WorkArea().bottom, RectOf(sheet.Button(AFX_IDW_TOOLBAR)).bottom);
     CRect free(CPoint(0, 0), tabs.Size());
     sheet.GetTabControl()->AdjustRect(FALSE, free);
     free.OffsetRect(tabs.TopLeft());
     EXPECT_LT(free.Height(), tabs.Height() - 10) << "no room for the tabs' names";
     for (const CPropertyPage* pPage : pages)
-        EXPECT_EQ(RectOf(pPage->m_hWnd), free);
+        EXPECT_EQ(free, RectOf(pPage->m_hWnd));
 }
 
 TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
@@ -55,7 +41,8 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     };
     const auto others = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide});
-        EXPECT_TRUE(wide.IsWindowVisible() && !sheet.m_a.IsWindowVisible());
+        EXPECT_TRUE(wide.IsWindowVisible());
+        EXPECT_FALSE(sheet.m_a.IsWindowVisible());
         sheet.AddPage(&added);
         sheet.SetActivePage(&added);
     };
@@ -67,31 +54,29 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
         sheet.EndDialog(1);
     };
     Play(sheet, {first, others, last});
-    EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr);
+    EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
 }
 
 /// What a full-screen sheet class of an application does: all its own settings first, the
 /// base class last.
 struct EarlySheet : fx::Sheet {
-    bool m_bOkButton = false, m_bOwnBar = true;
-    int m_nShow = SW_SHOWMAXIMIZED;
-    BOOL m_bResult = FALSE;
-    CCeCommandBar m_bar;
-
-    BOOL OnInitDialog() override {
-        ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
-        if (m_bOwnBar)
-            m_bar.Create(this, 0x50002800, AFX_IDW_TOOLBAR);
-        if (!m_bOkButton)
-            SHDoneButton(m_hWnd, SHDB_HIDE);
-        ShowWindow(m_nShow);
-        m_bResult = CPropertySheet::OnInitDialog();
-        return m_bResult;
+    explicit EarlySheet(bool bOkButton = true, bool bOwnBar = true, int nShow = SW_SHOWMAXIMIZED) {
+        m_onInit = [=, this] {
+            ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
+            if (bOwnBar)
+                m_bar.Create(this, 0x50002800, AFX_IDW_TOOLBAR);
+            if (!bOkButton)
+                SHDoneButton(m_hWnd, SHDB_HIDE);
+            ShowWindow(nShow);
+        };
     }
 
 protected:
     afx_msg void OnCancel() { m_log += "sheet.cancel "; }
     DECLARE_MESSAGE_MAP()
+
+private:
+    CCeCommandBar m_bar;
 };
 
 BEGIN_MESSAGE_MAP(EarlySheet, CPropertySheet)
@@ -99,21 +84,16 @@ ON_COMMAND(IDCANCEL, &EarlySheet::OnCancel)
 END_MESSAGE_MAP()
 
 TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
-    const Rows<bool, bool, int> cases = {{false, true, SW_SHOWMAXIMIZED},
-                                         {true, true, SW_SHOWMAXIMIZED},
-                                         {true, false, SW_SHOWMAXIMIZED},
-                                         {true, true, SW_HIDE}};
-    for (const auto& [bOkButton, bOwnBar, nShow] : cases) {
-        EarlySheet sheet;
-        sheet.m_bOkButton = bOkButton;
-        sheet.m_bOwnBar = bOwnBar;
-        sheet.m_nShow = nShow;
-        WhileOpen(sheet, [&] {
-            EXPECT_TRUE(sheet.m_bResult);
-            EXPECT_EQ(nShow != SW_HIDE, sheet.IsWindowVisible() != FALSE);
-            EXPECT_EQ(bOkButton, FindOkButton(sheet).x != -1);
-            EXPECT_EQ(1, CountCommandBars(sheet));
-            EXPECT_EQ(bOwnBar, sheet.m_pWndEmptyCB == nullptr);
+    const Rows<bool, bool, int> rows = {{false, true, SW_SHOWMAXIMIZED},
+                                        {true, true, SW_SHOWMAXIMIZED},
+                                        {true, false, SW_SHOWMAXIMIZED},
+                                        {true, true, SW_HIDE}};
+    for (const auto& [bOkButton, bOwnBar, nShow] : rows) {
+        EarlySheet sheet(bOkButton, bOwnBar, nShow);
+        WhileOpen(sheet, [&, bOk = bOkButton, bOwn = bOwnBar, bVisible = nShow != SW_HIDE] {
+            EXPECT_EQ(bVisible, sheet.IsWindowVisible() != FALSE);
+            EXPECT_EQ(bOk, FindOkButton(sheet).x != -1);
+            EXPECT_EQ(bOwn, sheet.m_pWndEmptyCB == nullptr);
             ExpectLaidOut(sheet, {&sheet.m_a});
         });
     }
@@ -134,19 +114,18 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
     sheet.SetWizardMode();
     WhileOpen(sheet, [&] {
         EXPECT_EQ(-1, FindOkButton(sheet).x);
-        const CRect page = RectOf(sheet.m_a.m_hWnd);
-        EXPECT_TRUE(Contains(InnerArea(), page));
-        CRect last;
+        std::vector<CRect> places = {RectOf(sheet.m_a.m_hWnd)};
+        EXPECT_EQ(places[0], places[0] & InnerArea());
         for (const int nID : {ID_WIZBACK, ID_WIZNEXT, IDCANCEL}) {
+            SCOPED_TRACE(nID);
             const CRect button = RectOf(sheet.Button(nID));
-            EXPECT_TRUE(sheet.ShowsButton(nID)) << nID;
-            EXPECT_TRUE(Contains(InnerArea(), button)) << nID;
-            CRect overlap;
-            EXPECT_FALSE(overlap.IntersectRect(button, page)) << nID;
-            EXPECT_FALSE(overlap.IntersectRect(button, last)) << nID;
-            last = button;
+            EXPECT_TRUE(sheet.ShowsButton(nID));
+            EXPECT_EQ(button, button & InnerArea());
+            for (const CRect& other : places)
+                EXPECT_EQ(CRect(), button & other);
+            places.push_back(button);
         }
-        EXPECT_EQ(RectOf(sheet.Button(ID_WIZFINISH)), RectOf(sheet.Button(ID_WIZNEXT)));
+        EXPECT_EQ(RectOf(sheet.Button(ID_WIZNEXT)), RectOf(sheet.Button(ID_WIZFINISH)));
     });
 }
 
@@ -166,20 +145,21 @@ TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
     fx::Sheet sheet;
     sheet.m_bFullScreen = FALSE;
     ASSERT_TRUE(sheet.Create());
-    EXPECT_TRUE(!sheet.ShowsButton(IDOK) && !sheet.ShowsButton(IDCANCEL));
-    const CRect window = RectOf(sheet.m_hWnd), tabs = RectOf(sheet.GetTabControl()->m_hWnd);
-    EXPECT_LT(window.bottom - tabs.bottom, 30);
-    EXPECT_GT(window.bottom, tabs.bottom);
+    EXPECT_FALSE(sheet.ShowsButton(IDOK));
+    EXPECT_FALSE(sheet.ShowsButton(IDCANCEL));
+    const int nBelow = RectOf(sheet.m_hWnd).bottom - RectOf(sheet.GetTabControl()->m_hWnd).bottom;
+    EXPECT_LT(nBelow, 30);
+    EXPECT_GT(nBelow, 0);
 }
 
 TEST(PopupSheet, CanBeAChildOfAWindow) {
     Frame frame(CSize(230, 250));
     fx::Sheet sheet;
     ASSERT_TRUE(sheet.Create(&frame, WS_CHILD | WS_VISIBLE));
-    EXPECT_EQ(::GetParent(sheet), frame.m_hWnd);
+    EXPECT_EQ(frame.m_hWnd, ::GetParent(sheet));
     EXPECT_TRUE(sheet.IsWindowVisible());
-    EXPECT_EQ(sheet.GetStyle() & WS_CAPTION, 0U);
-    EXPECT_EQ(sheet.m_pWndEmptyCB, nullptr) << "never full screen";
+    EXPECT_EQ(0U, sheet.GetStyle() & WS_CAPTION);
+    EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB) << "never full screen";
 }
 
 } // namespace

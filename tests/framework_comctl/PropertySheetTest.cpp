@@ -14,23 +14,22 @@ void SetNumber(fx::Page& page, LPCTSTR psz) {
 }
 
 TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
-    const Rows<const char*, std::function<void(Sheet&)>, INT_PTR, const char*> cases = {
-        {"OK in the title bar", [](Sheet& s) { TapOk(s); }, IDOK, "a.kill a.apply a.ok "},
+    constexpr const char* APPLIED = "a.kill a.apply a.ok ";
+    const Rows<const char*, std::function<void(Sheet&)>, INT_PTR, const char*> rows = {
+        {"OK in the title bar", [](Sheet& s) { TapOk(s); }, IDOK, APPLIED},
         {"Close in the title bar", [](Sheet& s) { TapClose(s); }, IDCANCEL, "a.cancel "},
-        {"Enter", [](Sheet&) { TypeKeys({VK_RETURN}); }, IDOK, "a.kill a.apply a.ok "},
+        {"Enter", [](Sheet&) { TypeKeys({VK_RETURN}); }, IDOK, APPLIED},
         {"Escape", [](Sheet&) { TypeKeys({VK_ESCAPE}); }, IDCANCEL, "a.cancel "},
-        {"PressButton", [](Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, "a.kill a.apply a.ok "},
-        {"button", [](Sheet& s) { ::SendMessage(s.Button(IDOK), BM_CLICK, 0, 0); }, IDOK,
-         "a.kill a.apply a.ok "},
+        {"PressButton", [](Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, APPLIED},
         {"EndDialog of the sheet", [](Sheet& s) { s.EndDialog(77); }, 77, ""},
         {"EndDialog of a page", [](Sheet& s) { s.m_a.EndDialog(78); }, 78, ""},
     };
-    for (const auto& [pszWay, way, nResult, pszLog] : cases) {
+    for (const auto& [pszWay, way, nResult, pszLog] : rows) {
         SCOPED_TRACE(pszWay);
         Sheet sheet;
-        const auto end = [&] {
+        const auto end = [&, &act = way] {
             EXPECT_EQ("a.init a.set ", sheet.TakeLog());
-            way(sheet);
+            act(sheet);
         };
         EXPECT_EQ(nResult, Play(sheet, {end}));
         EXPECT_EQ(pszLog, sheet.TakeLog());
@@ -143,6 +142,7 @@ TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
 
 TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
     Sheet sheet;
+    fx::Page c(sheet.m_log, "c", fx::ID_PAGE_VIEW), missing(sheet.m_log, "missing", 9999);
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
     EXPECT_FALSE(sheet.SetActivePage(2));
@@ -150,8 +150,6 @@ TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
         EXPECT_EQ("b.init b.set ", sheet.TakeLog());
         EXPECT_EQ(::GetDlgItem(sheet.m_b, fx::IDC_NUMBER), ::GetFocus());
     });
-    sheet.TakeLog();
-    fx::Page c(sheet.m_log, "c", fx::ID_PAGE_VIEW), missing(sheet.m_log, "missing", 9999);
     sheet.RemovePage(&sheet.m_a);
     sheet.RemovePage(5);
     EXPECT_EQ(1, sheet.GetPageCount());
@@ -159,7 +157,6 @@ TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
     EXPECT_EQ(-1, sheet.GetPageIndex(&sheet.m_a));
     EXPECT_EQ(nullptr, sheet.GetPage(1));
     WhileOpen(sheet, [&] {
-        EXPECT_EQ("b.init b.set ", sheet.TakeLog());
         sheet.AddPage(&c);
         sheet.AddPage(&missing);
         EXPECT_EQ(2, sheet.GetPageCount()) << "a page without a template is not added";
@@ -198,21 +195,20 @@ TEST(ModalSheet, PageThatCannotBeMadeLeavesOtherWindowsAlone) {
 }
 
 TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
-    for (const int nPage : {-1, 0, 1}) { // the sheet itself, the first page, one shown later
+    Sheet sheet;
+    const auto showLater = [&] { sheet.SetActivePage(1); };
+    std::function<void()>* const inits[] = {&sheet.m_onInit, &sheet.m_a.m_onInit, &sheet.m_b.m_onInit};
+    for (std::function<void()>* pOnInit : inits) {
+        SCOPED_TRACE(pOnInit == inits[0] ? "the sheet" : pOnInit == inits[1] ? "a page" : "a later page");
         MessageRecorder recorder;
         const int nWindows = Leftovers::Now().nWindows;
-        Sheet sheet;
-        std::function<void()>& onInit = nPage == -1  ? sheet.m_onInit
-                                        : nPage == 0 ? sheet.m_a.m_onInit
-                                                     : sheet.m_b.m_onInit;
-        onInit = [] { throw std::bad_alloc(); };
-        const auto show = [&] { sheet.SetActivePage(1); };
-        EXPECT_EQ(-1, nPage == 1 ? Play(sheet, {show}) : Play(sheet, {})) << nPage;
-        EXPECT_EQ(1U, recorder.m_prompts.size()) << nPage;
-        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd) << nPage;
-        EXPECT_EQ(nWindows, Leftovers::Now().nWindows) << nPage;
-        onInit = [] {};
-        EXPECT_EQ(IDOK, Play(sheet, {[&] { TapOk(sheet); }})) << nPage;
+        *pOnInit = [] { throw std::bad_alloc(); };
+        EXPECT_EQ(-1, pOnInit == inits[2] ? Play(sheet, {showLater}) : Play(sheet, {}));
+        EXPECT_EQ(1U, recorder.m_prompts.size());
+        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
+        EXPECT_EQ(nWindows, Leftovers::Now().nWindows);
+        *pOnInit = [] {};
+        EXPECT_EQ(IDOK, Play(sheet, {[&] { TapOk(sheet); }}));
     }
 }
 
