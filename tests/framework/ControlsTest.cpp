@@ -93,7 +93,7 @@ struct Drawn : Control {
     void DrawItem(LPDRAWITEMSTRUCT pItem) override { m_items.insert(pItem->itemID); }
     Items Redraw() {
         m_items.clear();
-        this->RedrawWindow();
+        this->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         return m_items;
     }
 };
@@ -115,13 +115,13 @@ TEST(Controls, DrawThemselvesWhenTheirOwnerIsAsked) {
 /// A list box or a combo box that does everything itself.
 template <class Box>
 struct OwnBox : Drawn<Box> {
-    std::vector<UINT_PTR> m_deleted;
+    std::multiset<UINT_PTR> m_deleted;
 
     void MeasureItem(LPMEASUREITEMSTRUCT pItem) override { pItem->itemHeight = 37; }
     int CompareItem(LPCOMPAREITEMSTRUCT pItem) override {
         return pItem->itemData1 < pItem->itemData2 ? -1 : pItem->itemData1 > pItem->itemData2;
     }
-    void DeleteItem(LPDELETEITEMSTRUCT pItem) override { m_deleted.push_back(pItem->itemData); }
+    void DeleteItem(LPDELETEITEMSTRUCT pItem) override { m_deleted.insert(pItem->itemData); }
 };
 
 TEST(Controls, ListsMeasureSortDrawAndDeleteTheirItems) {
@@ -136,8 +136,9 @@ TEST(Controls, ListsMeasureSortDrawAndDeleteTheirItems) {
         EXPECT_EQ(37, box.GetItemHeight(0));
         EXPECT_FALSE(box.Redraw().empty());
         box.DeleteString(0);
+        EXPECT_EQ((std::multiset<UINT_PTR>{10}), box.m_deleted);
         box.ResetContent();
-        EXPECT_EQ((std::vector<UINT_PTR>{10, 20, 30}), box.m_deleted);
+        EXPECT_EQ((std::multiset<UINT_PTR>{10, 20, 30}), box.m_deleted);
     };
     check(list);
     check(combo);
