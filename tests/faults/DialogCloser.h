@@ -1,21 +1,17 @@
 // The user of a dialog that may fail to open.
 #pragma once
 
-#include "support/TestApp.h"
-
-#include <afxdlgs.h>
+#include "support/AllDialogs.h"
 
 #include <cwchar>
-#include <functional>
 
 namespace fx {
 
-/// While it exists, each dialog of the thread is used and then cancelled, as soon as it is there.
-/// Windows that are in the way, such as messages, are closed as well.
+/// While it exists, the first dialog of the thread is used as soon as it is there, and then it and
+/// whatever is in the way, such as messages, is closed.
 struct DialogCloser {
-    using Use = std::function<void(CWnd&)>;
-
-    explicit DialogCloser(Use use = {}) : m_use(std::move(use)) {
+    /// @param bOk whether OK is tried before Cancel
+    explicit DialogCloser(bool bOk) : m_bOk(bOk) {
         s_pCurrent = this;
         m_nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
     }
@@ -46,19 +42,27 @@ private:
         if (hDialog == nullptr || (!::IsWindowVisible(hDialog) && ++m_nTicks < PATIENCE))
             return;
         m_nTicks = 0;
-        if (!m_bBegun) {
-            m_bBegun = true;
+        if (!std::exchange(m_bBegun, true)) {
             ::RedrawWindow(hDialog, nullptr, nullptr,
                            RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-            if (m_use)
-                m_use(*CWnd::FromHandle(hDialog));
-            m_bUsed = true;
+            m_bUsed = Use(hDialog);
+            if (m_bOk) {
+                ::PostMessage(hDialog, WM_COMMAND, IDOK, 0);
+                return;
+            }
         }
-        // It may have gone, and it may not obey when its own handler fails: then at the next tick.
-        if (auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hDialog)))
-            pSheet->EndDialog(IDCANCEL); // one of the library does not know Cancel
-        else
-            ::PostMessage(hDialog, WM_COMMAND, IDCANCEL, 0);
+        Cancel(hDialog); // it may not obey when its own handler fails: then at the next tick
+    }
+
+    /// Goes to each page and each control. @return whether that worked
+    static bool Use(HWND hDialog) {
+        bool bGood = true;
+        auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hDialog));
+        for (int i = 0; pSheet != nullptr && i < pSheet->GetPageCount(); ++i)
+            bGood = pSheet->SetActivePage(i) && bGood;
+        for (HWND h = ::GetWindow(hDialog, GW_CHILD); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT))
+            ::SendMessage(hDialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(h), TRUE);
+        return bGood;
     }
 
     /// Must not throw, and so uses nothing of the library.
@@ -73,7 +77,7 @@ private:
 
     static inline DialogCloser* s_pCurrent = nullptr;
 
-    Use m_use;
+    const bool m_bOk;
     UINT_PTR m_nTimer = 0;
     int m_nTicks = 0;
     bool m_bBegun = false, m_bUsed = false;

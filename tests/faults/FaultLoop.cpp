@@ -5,7 +5,8 @@
 
 #include <csignal>
 #include <cstdio>
-#include <optional>
+#include <ctime>
+#include <limits>
 #include <thread>
 
 using namespace testkit;
@@ -16,7 +17,7 @@ namespace fx {
 namespace {
 
 std::atomic<int> g_nRunning = 0; ///< The call that fails at present.
-std::atomic<ULONGLONG> g_nDeadline = 0;
+std::atomic<ULONGLONG> g_nDeadline;
 const Injection* g_pInjection = nullptr;
 
 std::string Story(const Injection& injection) {
@@ -34,7 +35,7 @@ std::string Story(const Injection& injection) {
     const Injection* const p = g_pInjection;
     std::printf("%s: %s\n", pszWhy, p != nullptr ? Story(*p).c_str() : "(between two runs)");
     std::fflush(stdout);
-    ::TerminateProcess(::GetCurrentProcess(), ENDED + static_cast<DWORD>(g_nRunning));
+    ::TerminateProcess(::GetCurrentProcess(), 1);
     std::abort();
 }
 
@@ -57,9 +58,11 @@ void GiveTime() {
     g_nDeadline = ::GetTickCount64() + PATIENCE;
 }
 
-/// Ends the process when it crashes, aborts or takes too long for one run.
-void WatchOver() {
-    GiveTime();
+/// Ends the process when it crashes, aborts or takes too long for one run. Points the calls of the
+/// DLLs here.
+bool Begin() {
+    for (const wchar_t* const pszModule : {L"FieldkitFx.dll", L"Fieldkit.dll", L"Tesuvo.dll"})
+        Install(::GetModuleHandle(pszModule), Table());
     ::AddVectoredExceptionHandler(1, OnException);
     std::signal(SIGABRT, [](int) { EndProcess("abort"); });
     std::thread([] {
@@ -67,6 +70,7 @@ void WatchOver() {
             if (::GetTickCount64() > g_nDeadline)
                 EndProcess("hang");
     }).detach();
+    return true;
 }
 
 struct Loop {
@@ -167,16 +171,18 @@ private:
 
 } // namespace
 
-void RunLoop(const Scenario& scenario, LoopRange range) {
-    for (const wchar_t* const pszModule : {L"FieldkitFx.dll", L"Fieldkit.dll", L"Tesuvo.dll"})
-        Install(::GetModuleHandle(pszModule), Table());
-    WatchOver();
+void RunLoop(const Scenario& scenario, bool bAll) {
+    constexpr int RUNS = 40;
+    GiveTime();
+    [[maybe_unused]] static const bool s_bBegun = Begin();
     Loop loop(scenario);
-    const int nStride = range.nStride > 0 ? range.nStride : 1 + loop.Calls() / RUNS_IN_SUITE;
+    const int nStride = bAll ? 1 : 1 + loop.Calls() / RUNS;
+    const int nDay = static_cast<int>(std::time(nullptr) / (24 * 60 * 60));
     loop.TryWithoutFailure();
-    int n = range.nFirst;
+    int n = bAll ? 1 : 1 + nDay % 16; // other calls each day, so that all have their turn
     while (loop.Try(n))
         n += nStride;
+    g_nDeadline = std::numeric_limits<ULONGLONG>::max();
     std::printf("%s: %d calls, every %dth failed\n", scenario.pszName, loop.Calls(), nStride);
 }
 

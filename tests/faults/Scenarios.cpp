@@ -1,21 +1,9 @@
 #include "Scenarios.h"
 
 #include "DialogCloser.h"
-#include "support/AllControls.h"
-
-#include "controls/nPropertyPage.h"
-#include "controls/nPropertySheet.h"
-#include "dialogs/BrowseFolderDlg.h"
-#include "dialogs/ButtonMenuDlg.h"
-#include "dialogs/FileSelectDlg.h"
-#include "dialogs/InputDlg.h"
-#include "dialogs/ResMsgBox.h"
-#include "dialogs/ResultDlg.h"
-#include "dialogs/SelMemberDlg.h"
+#include "support/AllDialogs.h"
 #include "util/AsciiFile.h"
 #include "util/StringStack.h"
-
-#include <afxcmn.h>
 
 using namespace testkit;
 
@@ -23,133 +11,16 @@ namespace fx {
 
 namespace {
 
-constexpr int ICON = 39; ///< One of the companion's.
-
-/// Opens a dialog and uses it; if the use does not end it with nEnd, it is cancelled.
+/// Opens a dialog, goes through all that it has and ends it by Cancel, and by OK.
 /// @return whether all this worked
-bool Open(CDialog& dialog, const DialogCloser::Use& use = {}, INT_PTR nEnd = IDCANCEL) {
-    const DialogCloser closer(use);
-    const INT_PTR nResult = dialog.DoModal();
-    EXPECT_TRUE(nResult == nEnd || nResult == IDCANCEL || nResult == -1) << nResult;
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-    return nResult == nEnd && closer.WasUsed();
-}
-
-void PressOk(CWnd& dialog) {
-    dialog.PostMessage(WM_COMMAND, IDOK);
-}
-
-// --- Ready-made dialogs -----------------------------------------------------------------------
-
-bool SelectFile(CWnd& owner) {
-    CFileSelectDlg dlg(&owner);
-    dlg.SetMode(CFileSelectDlg::ModeSave);
-    dlg.SetCurrentName(L"P1");
-    dlg.SetSubName(L"csv");
-    dlg.SetFileFolder(L"\\faults");
-    return Open(dlg);
-}
-
-bool BrowseFolder(CWnd& owner) {
-    CBrowseFolderDlg dlg(L"\\faults", &owner);
-    const auto abort = [&](CWnd&) { dlg.EndDialog(IDABORT); }; // as an application that ends
-    return Open(dlg) && Open(dlg, PressOk, IDOK) && Open(dlg, abort, IDABORT);
-}
-
-bool SelectMembers(CWnd& owner) {
-    struct Members : CSelMemberDlg {
-        using CSelMemberDlg::CSelMemberDlg;
-        ~Members() override {
-            FlashSelMemberList(m_listAvailable);
-            FlashSelMemberList(m_listCurrent);
-        }
+bool Open(const AnyDialog& dialog, CWnd& owner) {
+    const auto endsWith = [&](INT_PTR nWanted) {
+        const DialogCloser closer(nWanted == IDOK);
+        const INT_PTR nResult = dialog.open(&owner);
+        EXPECT_TRUE(nResult == nWanted || nResult == dialog.nCancel || nResult == -1) << nResult;
+        return nResult == nWanted && closer.WasUsed();
     };
-    Members dlg(L"座標", &owner);
-    for (CPtrList* const pList : {&dlg.m_listAvailable, &dlg.m_listCurrent})
-        for (const wchar_t* const pszText : {L"P1", L"P2"}) {
-            auto pItem = std::make_unique<CSelMemberItem>();
-            pItem->m_strText = pszText;
-            pList->AddTail(pItem.get());
-            (void)pItem.release();
-        }
-    return Open(dlg) && Open(dlg, PressOk, IDOK);
-}
-
-bool OpenMenu(CWnd& owner) {
-    CUIntArray ids;
-    for (const UINT nID : {1513U, 1514U, 1515U})
-        ids.Add(nID);
-    CButtonMenuDlg dlg(1503, &ids, &owner);
-    const auto choose = [&](CWnd&) { dlg.PostMessage(WM_COMMAND, 5101); };
-    return Open(dlg) && Open(dlg, choose, IDOK);
-}
-
-bool Ask(CWnd& owner) {
-    CInputDlg dlg(L"点名", L"入力", &owner);
-    dlg.SetString(L"P1");
-    return Open(dlg);
-}
-
-bool ShowResult(CWnd& owner) {
-    CResultDlg dlg(L"計算", L"結果", &owner);
-    for (const wchar_t* const pszLine : {L"X = 1.000", L"Y = 2.000"})
-        dlg.AddString(pszLine);
-    return Open(dlg);
-}
-
-bool ShowMessage(CWnd&) {
-    const DialogCloser closer;
-    CResMsgBox box;
-    box.WarningMsgBox(1513);
-    return closer.WasUsed();
-}
-
-// --- Dialogs of the application -----------------------------------------------------------------
-
-bool OpenControls(CWnd& owner, bool bPopup) {
-    fx::AllControls dlg(&owner, bPopup);
-    return Open(dlg, [&dlg](CWnd&) {
-        for (int nID = fx::AllControls::FIRST; nID <= fx::AllControls::LAST; ++nID)
-            if (CWnd* const pControl = dlg.GetDlgItem(nID))
-                dlg.GotoDlgCtrl(pControl);
-    });
-}
-
-constexpr int IDD_PAGE = 201, IDC_TEXT = 100;
-
-struct Page : CnPropertyPage {
-    Page() : CnPropertyPage(IDD_PAGE) {}
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        CnPropertyPage::DoDataExchange(pDX);
-        DDX_Text(pDX, IDC_TEXT, m_strText);
-    }
-
-private:
-    CString m_strText = L"P1";
-};
-
-struct Sheet : CnPropertySheet {
-    explicit Sheet(CWnd& owner) : CnPropertySheet(L"設定", &owner, 0) {
-        for (Page& page : m_pages)
-            AddPage(&page);
-    }
-    ~Sheet() override { DestroyWindow(); } // before the pages go
-
-    Page m_pages[3];
-};
-
-bool OpenSheet(CWnd& owner) {
-    Sheet sheet(owner);
-    bool bTurned = true;
-    const DialogCloser closer([&](CWnd&) {
-        for (int i = 0; i < 3; ++i)
-            bTurned = sheet.SetActivePage(i) && bTurned;
-    });
-    const INT_PTR nResult = sheet.DoModal();
-    EXPECT_TRUE(nResult == IDCANCEL || nResult == -1) << nResult;
-    return nResult == IDCANCEL && closer.WasUsed() && bTurned;
+    return endsWith(dialog.nCancel) && (!dialog.bOkWorks || endsWith(IDOK));
 }
 
 // --- Soft input panel ---------------------------------------------------------------------------
@@ -179,7 +50,8 @@ bool UsePanel(CWnd& owner) {
 
 bool UseImageLists(CWnd&) {
     CImageList list, copy;
-    bool bGood = list.Create(16, 16, ILC_COLOR | ILC_MASK, 4, 4) && list.Add(TVGetCommonIcon(ICON)) == 0;
+    bool bGood =
+        list.Create(16, 16, ILC_COLOR | ILC_MASK, 4, 4) && list.Add(TVGetCommonIcon(TVICON_FOLDER)) == 0;
     bGood = copy.Create(&list) && bGood;
     CBitmap bitmap;
     bGood = bitmap.CreateBitmap(16, 16, 1, 1, nullptr) && bGood;
@@ -215,7 +87,7 @@ bool Draw(CWnd& owner) {
 }
 
 bool WriteAndReadFile(CWnd&) {
-    constexpr wchar_t PATH[] = L"\\faults\\archive.dat";
+    constexpr wchar_t PATH[] = L"\\作業\\archive.dat";
     {
         CFile file(PATH, CFile::modeCreate | CFile::modeWrite);
         CArchive archive(&file, CArchive::store);
@@ -239,7 +111,7 @@ bool WriteAndReadFile(CWnd&) {
 }
 
 bool WriteAndReadText(CWnd&) {
-    constexpr wchar_t PATH[] = L"\\faults\\text.txt";
+    constexpr wchar_t PATH[] = L"\\作業\\text.txt";
     {
         CAsciiFile file;
         if (!file.Open(PATH, CFile::modeCreate | CFile::modeWrite))
@@ -299,27 +171,19 @@ bool StartModule(CWnd&) {
 
 } // namespace
 
-const std::vector<Scenario>& Scenarios() {
-    static const std::vector<Scenario> all = {
-        {"FileDialog", SelectFile},
-        {"FolderDialog", BrowseFolder},
-        {"Members", SelectMembers},
-        {"Menu", OpenMenu},
-        {"Input", Ask},
-        {"Result", ShowResult},
-        {"Message", ShowMessage},
-        {"FullScreen", [](CWnd& owner) { return OpenControls(owner, false); }},
-        {"Popup", [](CWnd& owner) { return OpenControls(owner, true); }},
-        {"Sheet", OpenSheet, 700}, // Wine's record of a sheet whose window was refused
-        {"Panel", UsePanel},
-        {"ImageLists", UseImageLists},
-        {"Drawing", Draw},
-        {"Files", WriteAndReadFile},
-        {"Text", WriteAndReadText},
-        {"Settings", KeepSettings},
-        {"Combo", FillCombo},
-        {"Module", StartModule},
+std::vector<Scenario> Scenarios() {
+    constexpr size_t SHEET = 700; // Wine's record of a sheet whose window was refused
+    std::vector<Scenario> all = {
+        {"Panel", UsePanel},         {"ImageLists", UseImageLists}, {"Drawing", Draw},
+        {"Files", WriteAndReadFile}, {"Text", WriteAndReadText},    {"Settings", KeepSettings},
+        {"Combo", FillCombo},        {"Module", StartModule},
     };
+    const auto add = [&](const AnyDialog& dialog) {
+        all.push_back({dialog.pszName, [&dialog](CWnd& owner) { return Open(dialog, owner); },
+                       dialog.open == OpenSheet ? SHEET : 0});
+    };
+    std::for_each(std::begin(DIALOGS), std::end(DIALOGS), add);
+    std::for_each(std::begin(CONTROLS), std::end(CONTROLS), add);
     return all;
 }
 

@@ -20,6 +20,6 @@ inline void PrintTo(const Scenario& scenario, std::ostream* os) {
     *os << scenario.pszName;
 }
 
-const std::vector<Scenario>& Scenarios();
+std::vector<Scenario> Scenarios();
 
 } // namespace fx

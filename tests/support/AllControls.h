@@ -1,6 +1,7 @@
 // A dialog with one of each control of the library.
 #pragma once
 
+#include "support/TestApp.h"
 #include "testkit/DialogTemplate.h"
 
 #include "controls/IconButton.h"
