@@ -87,43 +87,57 @@ inline std::string ClassOf(const CWnd& wnd) {
     return fx::Utf8(szName);
 }
 
-/// All of a dialog but its texts and places, a line a window.
-inline std::string Describe(const Dialog& dialog) {
+/// All of a dialog, a line a window.
+/// @param bDesign also its texts, and its places in dialog units
+inline std::string Describe(const Dialog& dialog, bool bDesign) {
+    CRect unit(0, 0, 4, 8); // four units wide and eight high
+    ::MapDialogRect(dialog, unit);
     std::ostringstream text;
-    const auto add = [&](const CWnd& wnd) {
+    const auto add = [&](const CWnd& wnd, CRect place) {
         LOGFONT font{};
         if (CFont* pFont = wnd.GetFont())
             pFont->GetLogFont(&font);
         text << ClassOf(wnd) << ' ' << wnd.GetDlgCtrlID() << std::hex << ' ' << wnd.GetStyle() << ' '
-             << wnd.GetExStyle() << std::dec << ' ' << font.lfHeight << fx::Utf8(font.lfFaceName) << '\n';
+             << wnd.GetExStyle() << std::dec << ' ' << font.lfHeight << fx::Utf8(font.lfFaceName);
+        if (bDesign)
+            text << ' ' << ::MulDiv(place.left, 4, unit.right) << ',' << ::MulDiv(place.top, 8, unit.bottom)
+                 << ',' << ::MulDiv(place.Width(), 4, unit.right) << ','
+                 << ::MulDiv(place.Height(), 8, unit.bottom) << " \"" << fx::Utf8(fx::TextOf(wnd)) << '"';
+        text << '\n';
     };
-    add(*CWnd::FromHandle(dialog));
-    for (const CWnd* pControl : dialog.Controls())
-        add(*pControl);
+    CRect client;
+    ::GetClientRect(dialog, client);
+    add(*CWnd::FromHandle(dialog), client);
+    for (const CWnd* pControl : dialog.Controls()) {
+        CRect place = fx::RectOf(*pControl);
+        CWnd::FromHandle(dialog)->ScreenToClient(place);
+        add(*pControl, place);
+    }
     return text.str();
 }
 
-/// Whether a control's text fits into it. Fields and lists scroll, and pictures stand for the text of
-/// what its owner draws.
+/// Whether a control's text fits into it. Fields and lists scroll, and what has room for an icon only
+/// shows that alone.
 inline bool Fits(const CWnd& control) {
-    const std::string name = ClassOf(control);
-    const DWORD dwType = control.GetStyle() & BS_TYPEMASK;
-    const bool bButton = name == "Button";
-    if ((!bButton && name != "Static") || (bButton && dwType == BS_OWNERDRAW) ||
-        (!bButton && (control.GetStyle() & SS_PATHELLIPSIS) == SS_PATHELLIPSIS))
-        return true;
+    constexpr int ICON_BUTTON = 32;
+    const DWORD dwStyle = control.GetStyle(), dwType = dwStyle & BS_TYPEMASK;
+    const bool bButton = ClassOf(control) == "Button", bDrawn = dwType == BS_OWNERDRAW;
+    const bool bLabel = ClassOf(control) == "Static" && (dwStyle & SS_ELLIPSISMASK) == 0 &&
+                        (dwStyle & SS_TYPEMASK) != SS_ICON;
     CRect room;
     control.GetClientRect(room);
+    if (bButton ? bDrawn && room.Width() < AfxScale(control, ICON_BUTTON) : !bLabel)
+        return true;
     // The frame of a button, or its box and the gap behind.
     if (bButton)
-        room.DeflateRect(dwType > BS_DEFPUSHBUTTON ? 9 : 2, 1);
+        room.DeflateRect(AfxScale(control, dwType > BS_DEFPUSHBUTTON && !bDrawn ? 9 : 2), 1);
     const CString str = fx::TextOf(control);
     CClientDC dc(CWnd::FromHandle(control.m_hWnd));
     CFont* const pOuter = dc.SelectObject(control.GetFont());
     CRect needed(0, 0, room.Width(), 0);
     dc.DrawText(str, needed,
-                DT_CALCRECT | (bButton ? DT_SINGLELINE : DT_WORDBREAK) |
-                    (control.GetStyle() & SS_NOPREFIX && !bButton ? DT_NOPREFIX : 0));
+                DT_CALCRECT | (bButton && str.Find(L'\n') < 0 ? DT_SINGLELINE : DT_WORDBREAK) |
+                    (dwStyle & SS_NOPREFIX && !bButton ? DT_NOPREFIX : 0));
     dc.SelectObject(pOuter);
     return needed.Width() <= room.Width() && needed.Height() <= room.Height() + 1;
 }
@@ -162,7 +176,7 @@ inline int Compare(HMODULE hModule) {
     }
     for (const WORD nName : NumbersOf(hModule, RT_DIALOG)) {
         const Dialog japanese(hModule, nName, JAPANESE), english(hModule, nName, ENGLISH);
-        EXPECT_EQ(Describe(japanese), Describe(english)) << "dialog " << nName;
+        EXPECT_EQ(Describe(japanese, false), Describe(english, false)) << "dialog " << nName;
         for (const Dialog* pDialog : {&japanese, &english}) {
             EXPECT_TRUE(CaptionFits(*pDialog)) << fx::Utf8(fx::TextOf(*CWnd::FromHandle(*pDialog)));
             for (const CWnd* pControl : pDialog->Controls())

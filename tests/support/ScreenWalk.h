@@ -1,7 +1,7 @@
 // Walks over the controls of an open window and tells which of them a user could not read or reach.
 #pragma once
 
-#include "support/TestApp.h"
+#include "support/Languages.h"
 #include "testkit/Panel.h"
 #include "testkit/Picture.h"
 
@@ -15,9 +15,9 @@ namespace fx {
 /// and turned, where a walk is short: larger ones only have more room.
 inline std::vector<LANGID> WalkLanguages() {
     constexpr int MOST = 320;
-    std::vector<LANGID> languages = {MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT)};
+    std::vector<LANGID> languages = {languages::JAPANESE};
     if (Screen().Width() <= MOST)
-        languages.push_back(MAKELANGID(LANG_ENGLISH, SUBLANG_DEFAULT));
+        languages.push_back(languages::ENGLISH);
     return languages;
 }
 
@@ -101,11 +101,7 @@ private:
         return RectOf(hControl).top >= client.top;
     }
 
-    static CString ClassOf(HWND hWnd) {
-        wchar_t szClass[64] = {};
-        ::GetClassName(hWnd, szClass, 64);
-        return szClass;
-    }
+    static CString ClassOf(HWND hWnd) { return CString(languages::ClassOf(*CWnd::FromHandle(hWnd)).c_str()); }
     static bool Is(HWND hWnd, LPCTSTR pszClass) { return ClassOf(hWnd).CompareNoCase(pszClass) == 0; }
     static DWORD StyleOf(HWND hWnd) { return static_cast<DWORD>(::GetWindowLong(hWnd, GWL_STYLE)); }
     static CString Text(HWND hWnd) { return TextOf(*CWnd::FromHandle(hWnd)); }
@@ -187,52 +183,20 @@ private:
     }
 
     void LookAtText(HWND hControl) {
-        CClientDC dc(CWnd::FromHandle(hControl));
-        const auto hFont = reinterpret_cast<HFONT>(::SendMessage(hControl, WM_GETFONT, 0, 0));
-        const HGDIOBJ hOld = hFont != nullptr ? ::SelectObject(dc, hFont) : nullptr;
-        if (Is(hControl, WC_STATIC) || Is(hControl, WC_BUTTON))
-            LookAtLabel(hControl, dc);
-        else if (Is(hControl, WC_LISTVIEW))
+        CRect client;
+        ::GetClientRect(hControl, client);
+        CWnd& control = *CWnd::FromHandle(hControl);
+        if (!languages::Fits(control))
+            Report(hControl, "has a text that is cut off", client);
+        if (Is(hControl, WC_LISTVIEW))
             LookAtList(hControl);
-        else if (Is(hControl, WC_EDIT) || Is(hControl, WC_COMBOBOX))
-            LookAtField(hControl, dc);
-        if (hOld != nullptr)
-            ::SelectObject(dc, hOld);
-    }
-
-    void LookAtLabel(HWND hControl, CDC& dc) {
-        const DWORD dwStyle = StyleOf(hControl);
-        const bool bStatic = Is(hControl, WC_STATIC);
-        if (bStatic && ((dwStyle & SS_ELLIPSISMASK) != 0 || (dwStyle & SS_TYPEMASK) == SS_ICON))
+        if (!Is(hControl, WC_EDIT) && !Is(hControl, WC_COMBOBOX))
             return;
-        CRect client;
-        ::GetClientRect(hControl, client);
-        // What has room for an icon only shows that alone.
-        constexpr int ICON_BUTTON = 32;
-        const bool bOwnerDrawn = !bStatic && (dwStyle & BS_TYPEMASK) == BS_OWNERDRAW;
-        if (bOwnerDrawn && client.Width() < AfxScale(hControl, ICON_BUTTON))
-            return;
-        const CString strText = Text(hControl);
-        CRect text(0, 0, client.Width(), 0);
-        dc.DrawText(strText, text,
-                    DT_CALCRECT | (bStatic ? DT_WORDBREAK : 0) |
-                        (strText.Find(L'\n') < 0 ? 0 : DT_WORDBREAK));
-        // The check of a box and the icon of a menu entry stand before the text.
-        const UINT nType = dwStyle & BS_TYPEMASK;
-        const bool bBox =
-            !bStatic && nType != BS_PUSHBUTTON && nType != BS_DEFPUSHBUTTON && nType != BS_OWNERDRAW;
-        const int nBefore = bBox ? AfxScale(hControl, 16) : 0;
-        if (text.Width() + nBefore > client.Width() || text.Height() > client.Height())
-            Report(hControl, "has a text that is cut off",
-                   CRect(CPoint(client.Width(), client.Height()), text.Size()));
-    }
-
-    /// A field shows a line in full height.
-    void LookAtField(HWND hControl, CDC& dc) {
-        CRect client;
-        ::GetClientRect(hControl, client);
+        CClientDC dc(&control);
+        CFont* const pOuter = dc.SelectObject(control.GetFont());
         TEXTMETRIC metrics = {};
         dc.GetTextMetrics(&metrics);
+        dc.SelectObject(pOuter);
         if (metrics.tmHeight > client.Height())
             Report(hControl, "is too low for its text", client);
     }
