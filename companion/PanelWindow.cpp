@@ -52,13 +52,12 @@ RECT WorkArea() {
 
 /// Above the bar at the bottom, whose switch must stay in reach. On larger screens the keys grow,
 /// as far as it makes them easier to hit; a low one keeps the same share of it for the dialog.
-RECT PlaceIn(const RECT& area) {
+CRect PlaceIn(const CRect& area) {
     const HWND focus = ::GetFocus();
-    const LONG width = area.right - area.left;
-    const LONG height = std::min({width * kPanelHeight / kScreenWidth,
-                                  (area.bottom - area.top) * kPanelHeight / kScreenHeight,
-                                  LONG{AfxScale(focus, kPanelHeightMost)}});
-    const LONG bottom = area.bottom - AfxScale(focus, AFX_DEVICE_BAR_HEIGHT);
+    const int height =
+        std::min({area.Width() * kPanelHeight / kScreenWidth, area.Height() * kPanelHeight / kScreenHeight,
+                  AfxScale(focus, kPanelHeightMost)});
+    const int bottom = area.bottom - AfxScale(focus, AFX_DEVICE_BAR_HEIGHT);
     return {area.left, bottom - height, area.right, bottom};
 }
 
@@ -128,12 +127,11 @@ void PanelWindow::SetMode(int mode) {
 }
 
 void PanelWindow::PutInPlace() {
-    const RECT place = PlaceIn(WorkArea());
-    const RECT now = Place();
-    if (::IsWindowVisible(m_window) && ::EqualRect(&now, &place))
+    const CRect place = PlaceIn(WorkArea());
+    if (::IsWindowVisible(m_window) && place == Place())
         return;
-    ::SetWindowPos(m_window, HWND_TOPMOST, place.left, place.top, place.right - place.left,
-                   place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    ::SetWindowPos(m_window, HWND_TOPMOST, place.left, place.top, place.Width(), place.Height(),
+                   SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
 void PanelWindow::Close() {

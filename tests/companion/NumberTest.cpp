@@ -101,7 +101,8 @@ TEST(Number, StopsAtNothingHidden) {
 TEST(Number, RefusesNullArguments) {
     const CString text = L"1";
     double value = kUntouched;
-    EXPECT_TRUE(!TVString2Double(nullptr, &value) && !TVString2Double(&text, nullptr));
+    EXPECT_FALSE(TVString2Double(nullptr, &value));
+    EXPECT_FALSE(TVString2Double(&text, nullptr));
     EXPECT_EQ(value, kUntouched);
 }
 

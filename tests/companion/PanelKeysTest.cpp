@@ -6,15 +6,7 @@ using namespace testkit;
 
 namespace {
 
-struct PanelKeys : testing::Test {
-    PanelKeys() {
-        m_field.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 150, 20), &m_frame, 10);
-        m_field.SetFocus();
-        TVShowSIP(0);
-        Pump();
-    }
-    ~PanelKeys() override { panel::Close(); }
-
+struct PanelKeys : fx::PanelTest {
     /// Taps, and waits until the field shows the text.
     void ExpectAfterTaps(const std::vector<CPoint>& taps, const CString& strText) {
         for (const CPoint& point : taps) {
@@ -31,9 +23,6 @@ struct PanelKeys : testing::Test {
         m_field.SetWindowText(pszText);
         m_field.SetSel(m_field.GetWindowTextLength(), m_field.GetWindowTextLength());
     }
-
-    Frame m_frame;
-    CEdit m_field;
 };
 
 TEST_F(PanelKeys, TypeWhatTheyShow) {

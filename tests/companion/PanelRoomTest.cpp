@@ -1,81 +1,10 @@
 // Dialogs keep the field into which the user types clear of the soft input panel.
-#include "support/PanelKeys.h"
-#include "testkit/DialogTemplate.h"
-#include "testkit/Script.h"
-#include "testkit/Pen.h"
-
-#include "controls/nDialog.h"
+#include "FieldDialog.h"
 
 using namespace testkit;
+using fx::FieldDialog;
 
 namespace {
-
-constexpr int FIELD_HEIGHT = 20;
-
-/// A dialog of the library with fields at given heights.
-struct FieldDialog : CnDialog {
-    /// @param window place on the screen; empty for a full-screen dialog
-    /// @param tops   upper edges of the fields, in pixels
-    FieldDialog(CRect window, std::vector<int> tops, CWnd* pParent = nullptr)
-        : CnDialog(0, pParent), m_window(window), m_tops(std::move(tops)) {
-        InitModalIndirect(s_template.Get());
-        if (!window.IsRectEmpty())
-            SetOption(OptionPopup);
-    }
-
-    BOOL OnInitDialog() override {
-        CnDialog::OnInitDialog();
-        if (!m_bFullScreen)
-            MoveWindow(m_window);
-        for (size_t i = 0; i < m_tops.size(); ++i)
-            m_fields[i].Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP,
-                               CRect(10, m_tops[i], 150, m_tops[i] + FIELD_HEIGHT), this,
-                               static_cast<UINT>(10 + i));
-        m_other.Create(L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(160, 5, 200, 25), this, 30);
-        m_other.SetFocus();
-        ShowWindow(SW_SHOW);
-        return FALSE;
-    }
-
-    CRect WindowRect() const { return RectOf(m_hWnd); }
-    CRect FieldRect(int nField) const { return RectOf(m_fields[nField]); }
-    /// Whether the panel is there and the field stands clear of it, inside the dialog.
-    bool IsClear(int nField) const {
-        const CRect field = FieldRect(nField);
-        CRect client;
-        GetClientRect(client);
-        ClientToScreen(client);
-        return panel::IsVisible() && field.bottom <= panel::Place().top && field.top >= client.top;
-    }
-
-    // Steps of a script.
-    Step Enter(int nField) {
-        return [this, nField] { m_fields[nField].SetFocus(); };
-    }
-    Step Leave() {
-        return [this] { m_other.SetFocus(); };
-    }
-    Step UntilClear(int nField) {
-        return [this, nField] { return IsClear(nField); };
-    }
-    Step UntilAt(CRect place) {
-        return [this, place] { return WindowRect() == place; };
-    }
-    /// Runs the steps, ends the dialog and closes the panel.
-    void Run(std::initializer_list<Step> steps) {
-        PlayAndEnd(*this, steps);
-        panel::Close();
-    }
-
-    fx::PanelField m_fields[3];
-    CButton m_other;
-
-private:
-    static inline const DialogTemplate s_template{100, 80, WS_POPUP | WS_CAPTION};
-
-    CRect m_window;
-    std::vector<int> m_tops;
-};
 
 const Step UNTIL_SHOWN = [] { return panel::IsVisible(); };
 const Step UNTIL_HIDDEN = [] { return !panel::IsVisible(); };
@@ -94,13 +23,13 @@ TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
         EXPECT_EQ(home, dialog.FieldRect(0)) << "not covered";
         dialog.m_fields[2].SetFocus(); // here: another step could come while this one pumps
     };
-    const auto expectJustEnough = [&](int nField) {
-        EXPECT_GE(dialog.FieldRect(nField).bottom, panel::Place().top - 4) << "no more than needed";
-        EXPECT_EQ(bar, RectOf(*dialog.m_pWndEmptyCB));
+    const auto untilJustClear = [&](int nField) {
+        return [&dialog, nField] {
+            return dialog.IsClear(nField) && dialog.FieldRect(nField).bottom >= panel::Place().top - 4;
+        };
     };
-    dialog.Run({enterFirst, UNTIL_SHOWN, lookAtFirst, dialog.UntilClear(2), [&] { expectJustEnough(2); },
-                dialog.Enter(1),
-                [&] { return dialog.IsClear(1) && dialog.FieldRect(1).bottom >= panel::Place().top - 4; },
+    dialog.Run({enterFirst, UNTIL_SHOWN, lookAtFirst, untilJustClear(2),
+                [&] { EXPECT_EQ(bar, RectOf(*dialog.m_pWndEmptyCB)); }, dialog.Enter(1), untilJustClear(1),
                 dialog.Leave(), [&] { return dialog.FieldRect(0) == home; },
                 [] { EXPECT_FALSE(panel::IsVisible()); }});
 }
@@ -139,7 +68,7 @@ TEST(PopupDialogAndPanel, MovesUpAsFarAsTheWorkAreaScrollsTheRestAndGoesBack) {
             EXPECT_EQ(home.Size(), dialog.WindowRect().Size());
             EXPECT_EQ(bWholly ? panel::Place().top - home.Height() : 0, dialog.WindowRect().top);
         };
-        dialog.Run({enter, dialog.UntilClear(0), look, dialog.Leave(), dialog.UntilAt(home),
+        dialog.Run({enter, dialog.UntilClear(0), look, dialog.Leave(), dialog.UntilHome(),
                     [&] { return dialog.FieldRect(0) == field; }});
     }
 }
@@ -162,19 +91,19 @@ TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
 
     protected:
         BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-            m_nClicks += LOWORD(wParam) == 30 && HIWORD(wParam) == BN_CLICKED ? 1 : 0;
+            m_nClicks += wParam == MAKEWPARAM(OTHER, BN_CLICKED) ? 1 : 0;
             return FieldDialog::OnCommand(wParam, lParam);
         }
     };
-    const CRect home(20, 110, 220, 220);
-    Dialog dialog(home, {50});
+    Dialog dialog(CRect(20, 110, 220, 220), {50});
     const auto lift = [&] {
         fx::PumpFor(150);
-        EXPECT_NE(home, dialog.WindowRect());
+        EXPECT_NE(dialog.m_home, dialog.WindowRect());
+        EXPECT_TRUE(panel::IsVisible());
         pen::Up(MiddleOf(dialog.m_other));
     };
     dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { pen::Down(MiddleOf(dialog.m_other)); },
-                [&] { return ::GetFocus() == dialog.m_other.m_hWnd; }, lift, dialog.UntilAt(home)});
+                [&] { return ::GetFocus() == dialog.m_other.m_hWnd; }, lift, dialog.UntilHome()});
     EXPECT_EQ(1, dialog.m_nClicks);
 }
 
@@ -191,23 +120,21 @@ TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
             return 0;
         }
     };
-    const CRect home(20, 150, 220, 250);
-    Dialog dialog(home, {20});
+    Dialog dialog(CRect(20, 150, 220, 250), {20});
     const auto look = [&] {
         fx::PumpFor(100);
-        EXPECT_EQ(home, dialog.WindowRect());
+        EXPECT_EQ(dialog.m_home, dialog.WindowRect());
     };
     dialog.Run({dialog.Enter(0), [&] { return dialog.m_bTold; }, look});
 }
 
 TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoesBack) {
-    const CRect ownerHome(20, 150, 220, 250);
-    FieldDialog owner(ownerHome, {20}), popup(CRect(30, 160, 210, 240), {20}, &owner);
+    FieldDialog owner(CRect(20, 150, 220, 250), {20}), popup(CRect(30, 160, 210, 240), {20}, &owner);
     owner.Run({owner.Enter(0), owner.UntilClear(0), [&] { popup.DoModal(); }, popup.Enter(0),
                popup.UntilClear(0),
                [&] { popup.EndDialog(IDCANCEL); }, // its field goes, the owner's takes over
                [&] { return owner.IsClear(0) && ::GetFocus() == owner.m_fields[0].m_hWnd; }, owner.Leave(),
-               owner.UntilAt(ownerHome)});
+               owner.UntilHome()});
 }
 
 TEST(PanelSwitch, ShowsAndHidesWhatIsReallyThereEvenBelowADialog) {

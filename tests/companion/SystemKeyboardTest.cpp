@@ -1,16 +1,9 @@
 // The panel's calls with the system's touch keyboard: without one, and with a stand-in where the
 // system would have its own.
-#include "support/TestApp.h"
-#include "testkit/DialogTemplate.h"
+#include "FieldDialog.h"
+
 #include "testkit/Drive.h"
-#include "testkit/Panel.h"
 #include "testkit/Program.h"
-#include "testkit/Script.h"
-
-#include "controls/nDialog.h"
-#include "controls/nEdit.h"
-
-#include "Tesuvo.h"
 
 #include <unknwn.h>
 
@@ -80,49 +73,19 @@ struct SystemKeyboard : testing::Test {
     Drive m_drive;
 };
 
-/// A popup at the bottom of the screen, with a field that wants a keyboard.
-struct Entry : CnDialog {
-    Entry() : CnDialog(0, nullptr) {
-        static const DialogTemplate lines{100, 60, WS_POPUP | WS_CAPTION};
-        InitModalIndirect(lines.Get());
-        SetOption(OptionPopup);
-    }
-    BOOL OnInitDialog() override {
-        CnDialog::OnInitDialog();
-        m_home = RectOf(m_hWnd);
-        m_home.OffsetRect(0, WorkArea().bottom - m_home.bottom);
-        MoveWindow(m_home);
-        m_field.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 100, 30), this, 10);
-        m_other.Create(L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(110, 10, 150, 30), this, 11);
-        m_other.SetFocus();
-        return FALSE;
-    }
-
-    CRect m_home;
-    CEdit m_field;
-    CButton m_other;
-};
-
-TEST_F(SystemKeyboard, ThatIsNotThereLeavesThePanel) {
-    EXPECT_FALSE(TVUseSystemKeyboard(TRUE));
-    const Frame frame;
-    TVShowSIP(0);
-    panel::ExpectShown();
-    panel::Close();
+/// At the bottom of the screen.
+CRect LowPlace() {
+    return CRect(20, Screen().bottom - 120, 220, Screen().bottom);
 }
 
 TEST_F(SystemKeyboard, StandsInForThePanelAndDialogsMakeRoomForIt) {
     Install();
     ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
-    Entry dialog;
+    fx::FieldDialog dialog(LowPlace(), {10});
     const Step untilClear = [&] {
-        return Keyboard() != nullptr && RectOf(dialog).bottom <= RectOf(Keyboard()).top;
+        return Keyboard() != nullptr && dialog.WindowRect().bottom <= RectOf(Keyboard()).top;
     };
-    const Step untilHome = [&] { return RectOf(dialog) == dialog.m_home; };
-    const auto show = [&] {
-        dialog.m_field.SetFocus();
-        TVShowSIP(0);
-    };
+    const Step show = [] { TVShowSIP(0); };
     const auto look = [&] {
         EXPECT_FALSE(panel::IsVisible());
         SIPINFO info = {};
@@ -130,13 +93,15 @@ TEST_F(SystemKeyboard, StandsInForThePanelAndDialogsMakeRoomForIt) {
         EXPECT_TRUE(SipGetInfo(&info));
         EXPECT_EQ(RectOf(Keyboard()), CRect(info.rcSipRect));
     };
-    PlayAndEnd(dialog,
-               {show, untilClear, look, [] { TVCloseSIP(); }, untilHome, [] { return Keyboard() == nullptr; },
-                show, untilClear, [] { ::PostMessage(Keyboard(), WM_CLOSE, 0, 0); }, // by its own X
-                untilHome, show, untilClear,                                         // asked for again
-                [] { TVUseSystemKeyboard(FALSE), TVShowSIP(1); },
-                [] { return panel::IsVisible() && Keyboard() == nullptr; }});
-    panel::Close();
+    const auto choosePanel = [] {
+        TVUseSystemKeyboard(FALSE);
+        TVShowSIP(1);
+    };
+    dialog.Run({dialog.Enter(0), untilClear, look, [] { TVCloseSIP(); }, dialog.UntilHome(),
+                [] { return Keyboard() == nullptr; }, show, untilClear,
+                [] { ::PostMessage(Keyboard(), WM_CLOSE, 0, 0); }, // by its own X
+                dialog.UntilHome(), show, untilClear,              // asked for again
+                choosePanel, [] { return panel::IsVisible() && Keyboard() == nullptr; }});
 }
 
 /// The system's objects about the keyboard, as newer systems have them: its switch and its place. One
@@ -196,28 +161,31 @@ TEST_F(SystemKeyboard, WithASwitchIsShownByItAndItsPlaceIsThatOfTheSystem) {
         const Factory<InputPane> pane(
             {0xD5120AA3, 0x46BA, 0x44C5, {0x82, 0x2D, 0xCA, 0x80, 0x92, 0xC1, 0xFC, 0x72}});
         ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
-        Entry dialog;
-        const auto show = [&] {
-            dialog.m_field.SetFocus();
-            TVShowSIP(0);
-            TVShowSIP(1); // as from field to field
+        fx::FieldDialog dialog(LowPlace(), {10, 40});
+        const auto look = [] {
+            EXPECT_TRUE(KeyboardObject::s_bShown);
+            EXPECT_FALSE(panel::IsVisible());
         };
-        PlayAndEnd(dialog, {show, [&] { return RectOf(dialog).bottom <= Screen().bottom * 2 / 3; },
-                            [] { EXPECT_TRUE(KeyboardObject::s_bShown && !panel::IsVisible()); },
-                            [] { TVCloseSIP(); }, [&] { return RectOf(dialog) == dialog.m_home; },
-                            [] { return !KeyboardObject::s_bShown; }});
+        dialog.Run({dialog.Enter(0), dialog.Enter(1),
+                    [&] { return dialog.WindowRect().bottom <= Screen().bottom * 2 / 3; }, look,
+                    dialog.Leave(), dialog.UntilHome(), [] { return !KeyboardObject::s_bShown; }});
         EXPECT_EQ(0, KeyboardObject::s_nReferences);
     }
     ::CoUninitialize();
 }
 
-TEST_F(SystemKeyboard, ThatCannotBeStartedLeavesThePanel) {
-    m_drive.MakeFile(PROGRAM, 10); // no program
+TEST_F(SystemKeyboard, ThatIsNotThereOrCannotBeStartedLeavesThePanel) {
     const Frame frame;
-    ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
-    TVShowSIP(0);
-    panel::ExpectShown();
-    panel::Close();
+    for (const BOOL bThere : {FALSE, TRUE}) {
+        if (bThere)
+            m_drive.MakeFile(PROGRAM, 10); // no program
+        EXPECT_EQ(bThere, TVUseSystemKeyboard(TRUE));
+        TVShowSIP(0);
+        panel::ExpectShown();
+        panel::Close();
+    }
+    ::SetEnvironmentVariable(L"CommonProgramW6432", nullptr);
+    EXPECT_FALSE(TVUseSystemKeyboard(TRUE)) << "not what lies on the current drive";
 }
 
 } // namespace

@@ -105,25 +105,4 @@ TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
                    [&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); }});
 }
 
-TEST(PanelOverDialog, StaysBelowTheListThatDropsOverIt) {
-    FirstFieldDialog dlg(AddCombo);
-    COMBOBOXINFO info = {};
-    CRect list;
-    ULONGLONG nDropped = 0;
-    const auto drop = [&] {
-        for (int i = 0; i < 20; ++i)
-            dlg.m_combo.AddString(L"測点");
-        dlg.m_combo.ShowDropDown();
-        dlg.m_combo.GetComboBoxInfo(&info);
-        list = RectOf(info.hwndList);
-        nDropped = ::GetTickCount64();
-    };
-    const auto look = [&] {
-        const CRect place = panel::Place();
-        ASSERT_GT(list.bottom, place.top + 4);
-        EXPECT_EQ(info.hwndList, ::WindowFromPoint(CPoint(list.left + 4, place.top + 4)));
-    };
-    PlayWithPanel(dlg, {PanelIsSeen, drop, [&] { return ::GetTickCount64() > nDropped + 300; }, look});
-}
-
 } // namespace

@@ -35,6 +35,20 @@ inline CPoint PanelAt(int nRow, int nRows, int x) {
     return {place.left + x, place.top + place.Height() * (2 * nRow + 1) / (2 * nRows)};
 }
 
+/// A window with a field to type into, and the panel with its letters.
+struct PanelTest : testing::Test {
+    PanelTest() {
+        m_field.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 150, 20), &m_frame, 10);
+        m_field.SetFocus();
+        TVShowSIP(0);
+        Pump();
+    }
+    ~PanelTest() override { testkit::panel::Close(); }
+
+    Frame m_frame;
+    CEdit m_field;
+};
+
 // Keys that do something, of the letters and of the kana.
 inline CPoint ShiftKey() {
     return PanelAt(3, 5, 18);
