@@ -10,7 +10,6 @@ using namespace testkit;
 namespace {
 
 constexpr int IDC_EDIT = 100, IDC_COMBO = 101, IDC_OTHER = 102;
-constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;
 
 /// An edit, a combo box and a plain edit to go to.
 struct FieldStage : fx::Stage {
@@ -25,13 +24,6 @@ struct FieldStage : fx::Stage {
 
     CnEdit m_edit;
     CnComboBox m_combo;
-
-private:
-    void CreateItem(LPCTSTR pszClass, int nID, DWORD dwStyle, CRect rect) {
-        ::CreateWindowEx(0, pszClass, nullptr, VISIBLE_CHILD | dwStyle, rect.left, rect.top, rect.Width(),
-                         rect.Height(), m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(nID)), nullptr,
-                         nullptr);
-    }
 };
 
 TEST(EntryField, OptionDecidesThePanelsMode) {
@@ -48,18 +40,6 @@ TEST(EntryField, OptionDecidesThePanelsMode) {
             EXPECT_EQ(panel::IsVisible() ? panel::Title() : L"", pszTitle) << dwOption;
         }
     }
-}
-
-TEST(EntryField, ThePanelLeavesTheFocus) {
-    FieldStage stage;
-    stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1);
-    stage.Tap(stage.m_edit);
-    panel::ExpectShown();
-    EXPECT_EQ(::GetFocus(), stage.m_edit.m_hWnd);
-    stage.Type({'1', '2'});
-    EXPECT_EQ(TextOf(stage.m_edit), L"12");
-    stage.TapOther();
-    panel::ExpectHidden();
 }
 
 TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {

@@ -1,7 +1,7 @@
 // The property sheet on the device's screen.
 #include "support/TestApp.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
+#include "testkit/Steps.h"
 #include "testkit/TitleBar.h"
 
 #include "controls/nPropertyPage.h"
@@ -43,13 +43,6 @@ protected:
     BOOL OnInitDialog() override { return m_bInitResult = CnPropertySheet::OnInitDialog(); }
 };
 
-/// Gives input, lets it be handled, and expects the sheet to be still there.
-template <class Input>
-void ExpectStaysOpen(const char* pszWhat, Sheet& sheet, Input input) {
-    const auto end = [&] { sheet.EndDialog(77); };
-    EXPECT_EQ(77, Play(sheet, {[] {}, input, [] {}, end})) << pszWhat;
-}
-
 TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
     for (const DWORD dwOption : {0x0, 0x1, 0x2, 0x103}) {
         Sheet sheet(~dwOption);
@@ -62,40 +55,29 @@ TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
             EXPECT_EQ(sheet.IsWindowVisible() != FALSE, (dwOption & 0x100) == 0) << dwOption;
             // The framework has its own bar for a sheet that brings none.
             EXPECT_EQ(sheet.m_pWndEmptyCB == nullptr, (dwOption & 0x2) != 0) << dwOption;
+            EXPECT_EQ(RectOf(sheet.Bar()), CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
+            const bool bLarge = LOWORD(::SendMessage(sheet.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
+            EXPECT_EQ(bLarge, (dwOption & 0x2) != 0) << dwOption;
+            EXPECT_LE(RectOf(*sheet.GetActivePage()).bottom, RectOf(sheet.Bar()).top);
         });
     }
 }
 
-TEST(nPropertySheet, CommandBarStandsBelowThePages) {
-    Sheet sheet(CnPropertySheet::OptionCommandBar);
-    WhileOpen(sheet, [&] {
-        const CRect bar = RectOf(sheet.Bar());
-        EXPECT_EQ(bar, CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom));
-        EXPECT_EQ(::SendMessage(sheet.Bar(), TB_GETBUTTONSIZE, 0, 0) & 0xFFFF, 32);
-        EXPECT_TRUE(::IsWindowVisible(sheet.Bar()));
-        const CRect page = RectOf(*sheet.GetActivePage());
-        EXPECT_GE(page.left, 0);
-        EXPECT_LE(page.right, Screen().right);
-        EXPECT_GT(page.Width(), 200);
-        EXPECT_LE(page.bottom, bar.top);
-    });
-}
-
 TEST(nPropertySheet, NeitherKeysNorCancelNorCloseEndIt) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
-    const auto key = [&](WORD nKey) { return [=] { TypeKeys({nKey}); }; };
-    ExpectStaysOpen("Enter", sheet, key(VK_RETURN));
-    ExpectStaysOpen("Escape", sheet, key(VK_ESCAPE));
-    ExpectStaysOpen("Cancel", sheet, [&] { sheet.SendMessage(WM_COMMAND, IDCANCEL); });
-    ExpectStaysOpen("close button", sheet, [&] { pen::Tap(CPoint(sheet.Rect().right - 12, 13)); });
+    const Rows<const char*, std::function<void()>> rows = {
+        {"Enter", [] { TypeKeys({VK_RETURN}); }},
+        {"Escape", [] { TypeKeys({VK_ESCAPE}); }},
+        {"Cancel", [&] { sheet.SendMessage(WM_COMMAND, IDCANCEL); }},
+        {"close button", [&] { pen::Tap(CPoint(sheet.Rect().right - 12, 13)); }},
+    };
+    for (const auto& [what, input] : rows)
+        EXPECT_EQ(77, Play(sheet, {[] {}, input, [] {}, [&] { sheet.EndDialog(77); }})) << what;
 }
 
 TEST(nPropertySheet, OtherKeysReachThePage) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
-    EXPECT_EQ(IDOK, Play(sheet, {[&] { pen::Tap(*sheet.m_first.GetDlgItem(IDC_TEXT)); },
-                                 [&] {
-                                     TypeKeys({VK_END, '7', VK_RETURN, '8'});
-                                 },
+    EXPECT_EQ(IDOK, Play(sheet, {Tap(sheet.m_first, IDC_TEXT), Press({VK_END, '7', VK_RETURN, '8'}),
                                  [&] { TapOk(sheet); }}));
     EXPECT_EQ(L"P178", sheet.m_first.m_strText);
 }

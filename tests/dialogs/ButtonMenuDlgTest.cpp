@@ -1,9 +1,9 @@
 #include "dialogs/ButtonMenuDlg.h"
 
 #include "support/TestApp.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
-#include "testkit/TitleBar.h"
+#include "testkit/Script.h"
+#include "testkit/Steps.h"
 
 using namespace testkit;
 
@@ -26,9 +26,6 @@ struct Menu {
                 m_dlg.SetWindowPos(nullptr, 0, -nIndex * BUTTON_HEIGHT, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
             pen::Tap(*Button(nIndex));
         };
-    }
-    Step Close() {
-        return [this] { pen::Tap(FindTitleButton(m_dlg, HTCLOSE)); };
     }
 
     CUIntArray m_ids;
@@ -56,7 +53,7 @@ TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
             }
             EXPECT_EQ(nullptr, menu.Button(nEntries));
         };
-        EXPECT_EQ(IDCANCEL, Play(menu.m_dlg, {look, menu.Close()})) << nEntries;
+        EXPECT_EQ(IDCANCEL, Play(menu.m_dlg, {look, Close(menu.m_dlg)})) << nEntries;
         EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
     }
 }
@@ -69,12 +66,11 @@ TEST(ButtonMenuDlg, TappingAnEntryEndsItWithTheIndexAndANewRunForgetsIt) {
         EXPECT_EQ(nEntry, menu.m_dlg.GetMenuIndex());
     }
     menu.m_ids.RemoveAt(0); // the next run shows what the array holds then
-    const auto look = [&] {
+    WhileOpen(menu.m_dlg, [&] {
         EXPECT_EQ(L"ファイル名を付けて保存", TextOf(*menu.Button(0)));
         EXPECT_EQ(nullptr, menu.Button(2));
-    };
-    EXPECT_EQ(IDCANCEL, Play(menu.m_dlg, {look, menu.Close()}));
-    EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
+        EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
+    });
 }
 
 TEST(ButtonMenuDlg, TheLastEntryThatCanBeChosenIsTheTwentyFirst) {

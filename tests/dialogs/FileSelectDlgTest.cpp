@@ -14,15 +14,15 @@ using namespace file_select;
 
 TEST(FileSelectDlg, TitleTellsTheMode) {
     Drive drive;
-    const std::pair<int, const wchar_t*> rows[] = {{0, L"ファイルを開く"},
-                                                   {1, L"ファイル名を付けて保存"},
-                                                   {2, L"新規作成"},
-                                                   {3, L"ファイルの選択"},
-                                                   {-1, L"ファイルの選択"}};
-    for (const auto& [mode, title] : rows)
-        WhileOpen(Dialog(mode), [&title = title] { EXPECT_EQ(title, TextOf(*CWnd::GetActiveWindow())); });
-    WhileOpen(CFileSelectDlg(nullptr),
-              [] { EXPECT_EQ(L"ファイルを開く", TextOf(*CWnd::GetActiveWindow())); });
+    const auto expectTitle = [](CFileSelectDlg&& dlg, const CString& strTitle) {
+        WhileOpen(dlg, [&] { EXPECT_EQ(strTitle, TextOf(dlg)); });
+    };
+    expectTitle(CFileSelectDlg(nullptr), L"ファイルを開く");
+    expectTitle(Dialog(0), L"ファイルを開く");
+    expectTitle(Dialog(1), L"ファイル名を付けて保存");
+    expectTitle(Dialog(2), L"新規作成");
+    expectTitle(Dialog(3), L"ファイルの選択");
+    expectTitle(Dialog(-1), L"ファイルの選択");
 }
 
 TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
@@ -178,10 +178,7 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
                                                                             {TapClose, L"\\", {L"top.csv"}}};
     for (const auto& [end, folder, names] : rows) {
         Dialog dlg;
-        const auto browse = [&] {
-            dlg.SetDlgItemText(NAME, L"typed");
-            pen::Tap(*dlg.GetDlgItem(FOLDER_BUTTON));
-        };
+        const auto type = [&] { dlg.SetDlgItemText(NAME, L"typed"); };
         const auto pick = [] {
             auto* pTree = static_cast<CTreeCtrl*>(CWnd::GetActiveWindow()->GetDlgItem(1100));
             CRect rect;
@@ -198,7 +195,8 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
             EXPECT_EQ(TVGetCommonIcon(2), pButton->SetIcon(nullptr)) << "a folder";
             TapOk(dlg);
         };
-        EXPECT_EQ(IDOK, Play(dlg, {browse, pick, [&] { end(::GetActiveWindow(), {}); }, look}));
+        EXPECT_EQ(IDOK, Play(dlg, {type, Tap(dlg, FOLDER_BUTTON), pick, [&] { end(::GetActiveWindow(), {}); },
+                                   look}));
         EXPECT_EQ(folder, dlg.GetFileFolder());
     }
 }

@@ -161,9 +161,7 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
     for (const auto& [typed, reason] : rows) {
         Dialog dlg(CFileSelectDlg::ModeNew);
         const auto look = [&reason = reason] { EXPECT_NE(-1, MessageText().Find(reason)); };
-        const auto typeAgain = [&] {
-            EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()) << "to be typed again";
-        };
+        const auto typeAgain = [&] { EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()); };
         EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
         EXPECT_EQ(L"\\good.csv", dlg.GetFilePath());
     }

@@ -4,9 +4,9 @@
 #include "dialogs/FileSelectDlg.h"
 
 #include "support/TestApp.h"
-#include "testkit/Script.h"
-#include "testkit/Pen.h"
 #include "testkit/Drive.h"
+#include "testkit/Pen.h"
+#include "testkit/Steps.h"
 #include "testkit/TitleBar.h"
 
 namespace file_select {
@@ -54,11 +54,6 @@ struct Dialog : CFileSelectDlg {
         };
     }
 };
-
-/// A step that taps a button of the message in front.
-inline testkit::Step Answer(int nButton) {
-    return [nButton] { testkit::pen::Tap(*CWnd::GetActiveWindow()->GetDlgItem(nButton)); };
-}
 
 inline CString MessageText() {
     return Text(*CWnd::GetActiveWindow(), 0xFFFF);

@@ -3,57 +3,41 @@
 
 #include "support/TestApp.h"
 
-#include <set>
-
-/// Counts, while it exists, what the list views or tree views of this thread are told.
+/// Counts, while it exists, the items that come into one window class of this thread, and how often
+/// all that shows is drawn.
 struct FillWatch {
     explicit FillWatch(LPCTSTR pszClass) : m_strClass(pszClass) {
         s_pCurrent = this;
         m_hHook = ::SetWindowsHookEx(WH_CALLWNDPROC, OnMessage, nullptr, ::GetCurrentThreadId());
     }
-    ~FillWatch() {
-        ::UnhookWindowsHookEx(m_hHook);
-        s_pCurrent = nullptr;
-    }
+    ~FillWatch() { ::UnhookWindowsHookEx(m_hHook); }
 
     int nInserted = 0;
     int nInsertedWithRedraw = 0; ///< Each of them makes the control lay itself out and draw.
-    int nDrawings = 0;           ///< Of the whole control, however many items that shows.
+    int nDrawings = 0;
 
 private:
     static LRESULT CALLBACK OnMessage(int nCode, WPARAM wParam, LPARAM lParam) {
-        if (nCode == HC_ACTION)
-            s_pCurrent->Count(*reinterpret_cast<const CWPSTRUCT*>(lParam));
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        wchar_t szClass[64] = {};
+        ::GetClassName(message.hwnd, szClass, 64);
+        if (nCode == HC_ACTION && s_pCurrent->m_strClass == szClass)
+            s_pCurrent->Count(message);
         return ::CallNextHookEx(nullptr, nCode, wParam, lParam);
     }
 
     void Count(const CWPSTRUCT& message) {
-        if (message.message == WM_NOTIFY)
-            CountDrawing(*reinterpret_cast<const NMHDR*>(message.lParam), message.lParam);
-        else if (message.message == WM_SETREDRAW && message.wParam == FALSE)
-            m_paused.insert(message.hwnd);
-        else if (message.message == WM_SETREDRAW)
-            m_paused.erase(message.hwnd);
-        else if ((message.message == LVM_INSERTITEM || message.message == TVM_INSERTITEM) &&
-                 IsWatched(message.hwnd)) {
-            ++nInserted;
-            nInsertedWithRedraw += m_paused.count(message.hwnd) == 0;
-        }
-    }
-
-    void CountDrawing(const NMHDR& header, LPARAM lParam) {
-        if (header.code == NM_CUSTOMDRAW && IsWatched(header.hwndFrom))
-            nDrawings += reinterpret_cast<const NMCUSTOMDRAW*>(lParam)->dwDrawStage == CDDS_PREPAINT;
-    }
-
-    bool IsWatched(HWND hWnd) const {
-        wchar_t szClass[64];
-        return ::GetClassName(hWnd, szClass, 64) != 0 && m_strClass == szClass;
+        const bool bInsert = message.message == LVM_INSERTITEM || message.message == TVM_INSERTITEM;
+        if (message.message == WM_SETREDRAW)
+            m_bPaused = message.wParam == FALSE;
+        nInserted += bInsert;
+        nInsertedWithRedraw += bInsert && !m_bPaused;
+        nDrawings += message.message == WM_ERASEBKGND;
     }
 
     static inline FillWatch* s_pCurrent = nullptr;
 
     CString m_strClass;
     HHOOK m_hHook;
-    std::set<HWND> m_paused;
+    bool m_bPaused = false;
 };

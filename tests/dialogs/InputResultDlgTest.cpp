@@ -21,22 +21,16 @@ CString Text(CWnd& dlg, int nID) {
 }
 
 TEST(InputDlg, TextsComeAsStringsOrFromResources) {
-    CInputDlg bothIds(IDS_ERROR_CAPTION, IDS_SIZE_HEADING, nullptr);
-    CInputDlg messageId(IDS_ERROR_CAPTION, L"題", nullptr), captionId(L"文", IDS_SIZE_HEADING, nullptr);
-    CInputDlg noId(L"文", L"題", nullptr);
-    const struct {
-        CInputDlg& dlg;
-        const wchar_t* message;
-        const wchar_t* caption;
-    } rows[] = {{bothIds, L"エラー", L"サイズ"},
-                {messageId, L"エラー", L"題"},
-                {captionId, L"文", L"サイズ"},
-                {noId, L"文", L"題"}};
-    for (const auto& row : rows)
-        WhileOpen(row.dlg, [&] {
-            EXPECT_EQ(row.caption, TextOf(row.dlg));
-            EXPECT_EQ(row.message, Text(row.dlg, INPUT_MESSAGE));
+    const auto expectTexts = [](CInputDlg&& dlg, const CString& strMessage, const CString& strCaption) {
+        WhileOpen(dlg, [&] {
+            EXPECT_EQ(strCaption, TextOf(dlg));
+            EXPECT_EQ(strMessage, Text(dlg, INPUT_MESSAGE));
         });
+    };
+    expectTexts(CInputDlg(IDS_ERROR_CAPTION, IDS_SIZE_HEADING, nullptr), L"エラー", L"サイズ");
+    expectTexts(CInputDlg(IDS_ERROR_CAPTION, L"題", nullptr), L"エラー", L"題");
+    expectTexts(CInputDlg(L"文", IDS_SIZE_HEADING, nullptr), L"文", L"サイズ");
+    expectTexts(CInputDlg(L"文", L"題", nullptr), L"文", L"題");
 }
 
 TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {

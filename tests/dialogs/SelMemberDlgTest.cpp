@@ -1,11 +1,9 @@
 #include "dialogs/SelMemberDlg.h"
 
 #include "support/TestApp.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
+#include "testkit/Script.h"
 #include "testkit/TitleBar.h"
-
-#include <map>
 
 using namespace testkit;
 
@@ -18,6 +16,21 @@ const CString BLANK_TEXT = L"[ブランク]";
 /// Data that tells the members apart: the letter's, or that of a blank.
 unsigned long DataOf(wchar_t ch) {
     return ch == BLANK_SIGN ? 2 : 0xFFFFFF00 + ch;
+}
+
+/// "?" if text and data do not belong together.
+CString LetterOf(const CString& strText, unsigned long dwData) {
+    const CString str = strText == BLANK_TEXT ? CString(BLANK_SIGN) : strText;
+    return str.GetLength() == 1 && DataOf(str[0]) == dwData ? str : CString(L"?");
+}
+
+CString InList(const CPtrList& list) {
+    CString str;
+    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;) {
+        const auto& item = *static_cast<const CSelMemberItem*>(list.GetNext(pos));
+        str += LetterOf(item.m_strText, item.m_dwData);
+    }
+    return str;
 }
 
 /// A dialog whose members are letters, a blank being an asterisk.
@@ -38,26 +51,16 @@ struct Members {
         for (int i = 0; i < Box(nID).GetCount(); ++i) {
             CString strText;
             Box(nID).GetText(i, strText);
-            str += Letter(strText, static_cast<unsigned long>(Box(nID).GetItemData(i)));
-        }
-        return str;
-    }
-
-    static CString InList(const CPtrList& list) {
-        CString str;
-        for (POSITION pos = list.GetHeadPosition(); pos != nullptr;) {
-            const auto& item = *static_cast<const CSelMemberItem*>(list.GetNext(pos));
-            str += Letter(item.m_strText, item.m_dwData);
+            str += LetterOf(strText, static_cast<unsigned long>(Box(nID).GetItemData(i)));
         }
         return str;
     }
 
     /// "L1" and "R1" tap the second entry of a list, "> < ^ v" the buttons.
     void Tap(const CString& strAction) {
-        static const std::map<wchar_t, int> buttons = {
-            {L'>', 1003}, {L'<', 1004}, {L'^', 1008}, {L'v', 1009}};
-        if (const auto button = buttons.find(strAction[0]); button != buttons.end()) {
-            pen::Tap(*m_dlg.GetDlgItem(button->second));
+        constexpr int BUTTONS[] = {1003, 1004, 1008, 1009};
+        if (const int nButton = CString(L"><^v").Find(strAction[0]); nButton >= 0) {
+            pen::Tap(*m_dlg.GetDlgItem(BUTTONS[nButton]));
             return;
         }
         CListBox& box = Box(strAction[0] == L'L' ? LEFT : RIGHT);
@@ -90,12 +93,6 @@ private:
                                                   DataOf(ch));
         }
     }
-
-    /// "?" if text and data do not belong together.
-    static CString Letter(const CString& strText, unsigned long dwData) {
-        const CString str = strText == BLANK_TEXT ? CString(BLANK_SIGN) : strText;
-        return str.GetLength() == 1 && DataOf(str[0]) == dwData ? str : CString(L"?");
-    }
 };
 
 TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
@@ -118,13 +115,14 @@ TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
     };
     for (const auto& [strLeft, strRight, strActions, strLeftAfter, strRightAfter, leftSelection,
                       rightSelection] : rows) {
+        SCOPED_TRACE(Utf8(strActions));
         Members members(strLeft, strRight);
         members.Run(strActions, [&] {
-            EXPECT_EQ(strLeftAfter, members.InBox(LEFT)) << Utf8(strActions);
-            EXPECT_EQ(strRightAfter, members.InBox(RIGHT)) << Utf8(strActions);
-            EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel()) << Utf8(strActions);
+            EXPECT_EQ(strLeftAfter, members.InBox(LEFT));
+            EXPECT_EQ(strRightAfter, members.InBox(RIGHT));
+            EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel());
             const int nSelected = members.Box(RIGHT).GetCurSel();
-            EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected) << Utf8(strActions);
+            EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected);
             members.m_dlg.EndDialog(IDCANCEL);
         });
     }
@@ -132,27 +130,27 @@ TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
 
 TEST(SelMemberDlg, OkGivesTheListsBackAsTheyAreShownAndCancelTheVeryItemsGiven) {
     Members members(L"ab*", L"xy");
-    const void* const pFirst = members.m_dlg.m_listAvailable.GetHead();
-    const void* const pLast = members.m_dlg.m_listCurrent.GetTail();
+    const CPtrList &left = members.m_dlg.m_listAvailable, &right = members.m_dlg.m_listCurrent;
+    const void* const pFirst = left.GetHead();
+    const void* const pLast = right.GetTail();
     EXPECT_EQ(IDCANCEL, members.Run(L"L0 > R0 v", IDCANCEL));
-    EXPECT_EQ(pFirst, members.m_dlg.m_listAvailable.GetHead());
-    EXPECT_EQ(pLast, members.m_dlg.m_listCurrent.GetTail());
-    EXPECT_EQ(L"ab*", Members::InList(members.m_dlg.m_listAvailable));
-    EXPECT_EQ(L"xy", Members::InList(members.m_dlg.m_listCurrent));
+    EXPECT_EQ(pFirst, left.GetHead());
+    EXPECT_EQ(pLast, right.GetTail());
+    EXPECT_EQ(L"ab*", InList(left));
+    EXPECT_EQ(L"xy", InList(right));
     EXPECT_EQ(IDOK, members.Run(L"L2 > L0 > R0 v", IDOK));
-    EXPECT_EQ(L"b*", Members::InList(members.m_dlg.m_listAvailable));
-    EXPECT_EQ(L"yx*a", Members::InList(members.m_dlg.m_listCurrent));
+    EXPECT_EQ(L"b*", InList(left));
+    EXPECT_EQ(L"yx*a", InList(right));
     EXPECT_EQ(IDOK, members.Run(L"R3 <", IDOK));
-    EXPECT_EQ(L"b*a", Members::InList(members.m_dlg.m_listAvailable));
+    EXPECT_EQ(L"b*a", InList(left));
 }
 
 TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplateUnderAnyTitle) {
     for (const CString& strTitle : {CString(L"出力する項目"), CString()}) {
         CSelMemberDlg dlg(strTitle, nullptr);
         WhileOpen(dlg, [&] {
-            CRect units(0, 0, 134, 99);
+            CRect client, units(0, 0, 134, 99);
             dlg.MapDialogRect(units);
-            CRect client;
             dlg.GetClientRect(client);
             EXPECT_EQ(units, client);
             EXPECT_GE(RectOf(dlg).left, 0);

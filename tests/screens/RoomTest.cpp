@@ -45,25 +45,40 @@ struct Dialog : CnDialog {
         return pBar != nullptr && pBar->IsWindowVisible();
     }
     CWnd* GetScrollBar() const { return FromHandle(::FindWindowEx(m_hWnd, nullptr, WC_SCROLLBAR, nullptr)); }
+    void NoteHomes() {
+        for (int nID = 100; nID <= 105; ++nID)
+            m_homes[nID - 100] = RectOf(nID);
+    }
     CRect HomeOf(int nID) const { return m_homes[nID - 100]; }
+    void ExpectHomes() const {
+        for (int nID = 100; nID <= 105; ++nID)
+            EXPECT_EQ(HomeOf(nID), RectOf(nID)) << nID;
+    }
+    /// Free ground in the middle of template 211, on the screen.
+    CPoint Ground() const { return MiddleOf(m_hWnd) + CSize(AfxScale(m_hWnd, 20), 0); }
 
-    CRect m_homes[6];
+    // Steps of a script.
+    Step UntilScrollable() {
+        return [this] { return HasScrollBar(); };
+    }
+    Step Focus(int nID) {
+        return [this, nID] { GotoDlgCtrl(GetDlgItem(nID)); };
+    }
+    /// Until a control can be seen between the bars.
+    Step UntilSeen(int nID) {
+        return [this, nID] {
+            CRect client;
+            GetClientRect(client);
+            if (m_pWndEmptyCB != nullptr)
+                client.bottom -= AfxScale(m_hWnd, AFX_DEVICE_BAR_HEIGHT);
+            return RectOf(nID).top >= 0 && RectOf(nID).bottom <= client.bottom;
+        };
+    }
 
 private:
     Init m_before, m_after;
+    CRect m_homes[6];
 };
-
-/// For messages of tests.
-std::string Text(const CRect& rect) {
-    CString str;
-    str.Format(L"(%d, %d)-(%d, %d)", rect.left, rect.top, rect.right, rect.bottom);
-    return Utf8(str);
-}
-
-void NoteHomes(Dialog& dialog) {
-    for (int nID = 100; nID <= 105; ++nID)
-        dialog.m_homes[nID - 100] = dialog.RectOf(nID);
-}
 
 TEST(Anchor, SharesOutWhatTheScreenHasMoreAndNothingElseMoves) {
     struct Row {
@@ -79,9 +94,9 @@ TEST(Anchor, SharesOutWhatTheScreenHasMoreAndNothingElseMoves) {
         for (const auto& [nID, a] : ROWS)
             EXPECT_TRUE(dialog.Anchor(nID, a.nLeft, a.nTop, a.nRight, a.nBottom));
     };
-    const auto homesAndAnchors = [&](Dialog& dialog) { NoteHomes(dialog), anchor(dialog); };
+    const auto homesAndAnchors = [&](Dialog& dialog) { dialog.NoteHomes(), anchor(dialog); };
     const auto twice = [&](Dialog& dialog) {
-        NoteHomes(dialog);
+        dialog.NoteHomes();
         for (const auto& row : ROWS)
             dialog.Anchor(row.nID, 100, 0, 100, 0);
         anchor(dialog);
@@ -101,7 +116,7 @@ TEST(Anchor, SharesOutWhatTheScreenHasMoreAndNothingElseMoves) {
                 wanted.right += spare.cx * a.nRight / 100;
                 wanted.top += spare.cy * a.nTop / 100;
                 wanted.bottom += spare.cy * a.nBottom / 100;
-                EXPECT_EQ(Text(wanted), Text(pDialog->RectOf(nID))) << nID;
+                EXPECT_EQ(wanted, pDialog->RectOf(nID)) << nID;
             }
         });
 }
@@ -120,23 +135,8 @@ TEST(Anchor, ControlThatIsDestroyedOrMovedByTheProgramDoesNoHarm) {
     });
 }
 
-/// Whether a control can be seen between the bars.
-Step UntilSeen(const Dialog& dialog, int nID) {
-    return [&dialog, nID]() -> bool {
-        const CRect rect = dialog.RectOf(nID);
-        CRect client;
-        dialog.GetClientRect(client);
-        if (dialog.m_pWndEmptyCB != nullptr)
-            client.bottom -= AfxScale(dialog, AFX_DEVICE_BAR_HEIGHT);
-        return rect.top >= 0 && rect.bottom <= client.bottom;
-    };
-}
-
 TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
     Dialog dialog(211);
-    const auto focus = [&](int nID) {
-        return [&dialog, nID] { dialog.GotoDlgCtrl(dialog.GetDlgItem(nID)); };
-    };
     const auto tapDown = [&] {
         const CRect bar = testkit::RectOf(*dialog.GetScrollBar());
         pen::Tap(CPoint(bar.CenterPoint().x, bar.bottom - 4));
@@ -150,15 +150,10 @@ TEST(DialogThatIsTooHigh, ScrollsByPenAndKeepsTheFocusedFieldInView) {
         EXPECT_EQ(bar, testkit::RectOf(*dialog.GetScrollBar()));
         EXPECT_EQ(toolbar, testkit::RectOf(*dialog.m_pWndEmptyCB));
     };
-    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102),
-                        expectBarsInPlace, focus(100), UntilSeen(dialog, 100), tapDown,
-                        [&] { return dialog.RectOf(100).top < 0; }, expectBarsInPlace, focus(101),
-                        UntilSeen(dialog, 101)});
-}
-
-/// Free ground in the middle of a dialog of template 211, on the screen.
-CPoint GroundOf(const Dialog& dialog) {
-    return testkit::RectOf(dialog).CenterPoint() + CSize(AfxScale(dialog, 20), 0);
+    PlayAndEnd(dialog,
+               {dialog.UntilScrollable(), look, dialog.Focus(102), dialog.UntilSeen(102), expectBarsInPlace,
+                dialog.Focus(100), dialog.UntilSeen(100), tapDown, [&] { return dialog.RectOf(100).top < 0; },
+                expectBarsInPlace, dialog.Focus(101), dialog.UntilSeen(101)});
 }
 
 TEST(DialogThatIsTooHigh, IsDraggedByItsGround) {
@@ -185,13 +180,13 @@ TEST(DialogThatIsTooHigh, IsDraggedByItsGround) {
         pen::Move(ground);
         pen::Up(ground);
     };
-    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); },
-                        [&] { ground = GroundOf(dialog), nHome = dialog.RectOf(100).top; }, tapAndDragLittle,
-                        [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, dragField,
-                        [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, [&] { drag(ground, FAR_ENOUGH); },
-                        untilScrolled(FAR_ENOUGH), [&] { EXPECT_EQ(nullptr, ::GetCapture()); },
-                        [&] { drag(ground, -1000); }, untilScrolled(0), take, untilScrolled(FAR_ENOUGH), lose,
-                        [&] { EXPECT_EQ(nHome - FAR_ENOUGH, dialog.RectOf(100).top); }});
+    PlayAndEnd(dialog,
+               {dialog.UntilScrollable(), [&] { ground = dialog.Ground(), nHome = dialog.RectOf(100).top; },
+                tapAndDragLittle, [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, dragField,
+                [&] { EXPECT_EQ(nHome, dialog.RectOf(100).top); }, [&] { drag(ground, FAR_ENOUGH); },
+                untilScrolled(FAR_ENOUGH), [&] { EXPECT_EQ(nullptr, ::GetCapture()); },
+                [&] { drag(ground, -1000); }, untilScrolled(0), take, untilScrolled(FAR_ENOUGH), lose,
+                [&] { EXPECT_EQ(nHome - FAR_ENOUGH, dialog.RectOf(100).top); }});
 }
 
 TEST(DialogThatIsTooHigh, IsLetGoByWhateverComesBetween) {
@@ -205,17 +200,17 @@ TEST(DialogThatIsTooHigh, IsLetGoByWhateverComesBetween) {
     Keeper dialog(211);
     Dialog other(210, {}, {});
     const auto press = [&] {
-        pen::Down(GroundOf(dialog));
-        pen::Move(GroundOf(dialog) - CSize(0, 20));
+        pen::Down(dialog.Ground());
+        pen::Move(dialog.Ground() - CSize(0, 20));
     };
     const Step captured = [&] { return ::GetCapture() == dialog.m_hWnd; };
     const Step free = [] { return ::GetCapture() == nullptr; };
-    const auto lift = [&] { pen::Up(GroundOf(dialog)); };
-    PlayAndEnd(dialog, {[&] { return dialog.HasScrollBar(); }, press, captured, lift, free, press, captured,
+    const auto lift = [&] { pen::Up(dialog.Ground()); };
+    PlayAndEnd(dialog, {dialog.UntilScrollable(), press, captured, lift, free, press, captured,
                         [&] { other.DoModal(); }, free, [&] { other.EndDialog(IDOK); }, lift, free});
     Dialog destroyed(211);
     Play([&] { return destroyed.DoModal(); },
-         {[&] { return destroyed.HasScrollBar(); }, [&] { pen::Down(GroundOf(destroyed)); },
+         {destroyed.UntilScrollable(), [&] { pen::Down(destroyed.Ground()); },
           [&] { return ::GetCapture() == destroyed.m_hWnd; }, [&] { destroyed.DestroyWindow(); }});
     EXPECT_EQ(nullptr, ::GetCapture());
     pen::Up(CPoint(0, 0));
@@ -226,15 +221,12 @@ TEST(PopupThatIsTooHigh, IsCutToTheScreenAndScrolls) {
     dialog.SetOption(CnDialog::OptionPopup);
     const auto look = [&] {
         const CRect place = testkit::RectOf(dialog), area = WorkArea();
-        EXPECT_EQ(Text(area & place), Text(place));
+        EXPECT_EQ(area & place, place);
         EXPECT_EQ(area.Height(), place.Height());
         dialog.SendMessage(WM_DISPLAYCHANGE, 32, 0);
-        EXPECT_EQ(Text(place), Text(testkit::RectOf(dialog)));
+        EXPECT_EQ(place, testkit::RectOf(dialog));
     };
-    const auto focus = [&](int nID) {
-        return [&dialog, nID] { dialog.GotoDlgCtrl(dialog.GetDlgItem(nID)); };
-    };
-    const auto drag = [&] { pen::Drag(GroundOf(dialog), GroundOf(dialog) - CSize(0, 60)); };
+    const auto drag = [&] { pen::Drag(dialog.Ground(), dialog.Ground() - CSize(0, 60)); };
     const auto makeLower = [&] {
         dialog.SetWindowPos(nullptr, 0, 0, 200, 100, SWP_NOMOVE | SWP_NOZORDER);
         dialog.SendMessage(WM_DISPLAYCHANGE, 32, 0);
@@ -242,8 +234,8 @@ TEST(PopupThatIsTooHigh, IsCutToTheScreenAndScrolls) {
         EXPECT_FALSE(dialog.HasScrollBar()) << "what a program hides by its size stays hidden";
     };
     PlayAndEnd(dialog,
-               {[&] { return dialog.HasScrollBar(); }, look, focus(102), UntilSeen(dialog, 102), focus(100),
-                UntilSeen(dialog, 100), drag, [&] { return dialog.RectOf(100).bottom < 0; }, makeLower});
+               {dialog.UntilScrollable(), look, dialog.Focus(102), dialog.UntilSeen(102), dialog.Focus(100),
+                dialog.UntilSeen(100), drag, [&] { return dialog.RectOf(100).bottom < 0; }, makeLower});
 }
 
 TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {
@@ -252,15 +244,14 @@ TEST(TurnedScreen, IsCoveredAgainAndKeepsWhatTheUserHasDone) {
         CWnd& edit = *dialog.GetDlgItem(100);
         edit.SetWindowText(L"K12");
         edit.SetFocus();
-        NoteHomes(dialog);
+        dialog.NoteHomes();
         const CRect screen = WorkArea();
         for (const CSize other :
              {CSize(screen.Height(), screen.Width()), CSize(2000, 2000), CSize(100, 60)}) {
             dialog.SetWindowPos(nullptr, 0, 0, other.cx, other.cy, SWP_NOZORDER); // as it was before
             dialog.SendMessage(WM_DISPLAYCHANGE, 32, MAKELPARAM(screen.Width(), screen.Height()));
-            EXPECT_EQ(Text(screen), Text(testkit::RectOf(dialog)));
-            for (int nID = 100; nID <= 105; ++nID)
-                EXPECT_EQ(Text(dialog.HomeOf(nID)), Text(dialog.RectOf(nID))) << nID;
+            EXPECT_EQ(screen, testkit::RectOf(dialog));
+            dialog.ExpectHomes();
         }
         EXPECT_EQ(L"K12", TextOf(edit));
         EXPECT_EQ(&edit, CWnd::GetFocus());
@@ -277,7 +268,7 @@ TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
         list.SetCurSel(list.AddString(L"b"));
         edit.SetFocus();
         edit.SetSel(1, 2);
-        NoteHomes(dialog);
+        dialog.NoteHomes();
         const int nDpi = AfxGetDpi(dialog);
         const CRect window = testkit::RectOf(dialog);
         const auto change = [&](int n, LPARAM lParam) {
@@ -288,8 +279,7 @@ TEST(AnotherResolution, ScalesAllThereIsAndKeepsWhatTheUserHasDone) {
         change(0xFFFF, 0);
         EXPECT_GT(1000, AfxGetDpi(dialog));
         change(nDpi, 0);
-        for (int nID = 100; nID <= 105; ++nID)
-            EXPECT_EQ(Text(dialog.HomeOf(nID)), Text(dialog.RectOf(nID))) << "back again " << nID;
+        dialog.ExpectHomes();
         change(2 * nDpi, reinterpret_cast<LPARAM>(&window));
         EXPECT_EQ(2 * nDpi, AfxGetDpi(dialog));
         EXPECT_EQ(CSize(2 * dialog.HomeOf(103).Width(), 2 * dialog.HomeOf(103).Height()),

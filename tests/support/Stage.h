@@ -15,6 +15,13 @@ struct Stage : Frame {
         Pump();
     }
 
+    /// A control of the system, which a test attaches to an object.
+    void CreateItem(LPCTSTR pszClass, int nID, DWORD dwStyle, CRect rect, LPCTSTR pszText = L"") {
+        ::CreateWindowEx(0, pszClass, pszText, WS_CHILD | WS_VISIBLE | dwStyle, rect.left, rect.top,
+                         rect.Width(), rect.Height(), m_hWnd,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(nID)), nullptr, nullptr);
+    }
+
     void Tap(CPoint screenPoint) {
         testkit::pen::Tap(screenPoint);
         Settle();

@@ -2,14 +2,13 @@
 #include "testkit/Panel.h"
 #include "support/Stage.h"
 #include "testkit/DialogTemplate.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
+#include "testkit/Steps.h"
 
 #include "controls/nDialog.h"
 #include "survey/AngleEdit.h"
 
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 using namespace testkit;
@@ -33,8 +32,8 @@ struct OpenAngleEdit : CAngleEdit {
 /// An angle field and another one to go to.
 struct AngleStage : fx::Stage {
     explicit AngleStage(int nMode = WHOLE) {
-        CreateItem(IDC_ANGLE, 5);
-        CreateItem(IDC_OTHER, 50);
+        CreateItem(WC_EDIT, IDC_ANGLE, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 5, 155, 25));
+        CreateItem(WC_EDIT, IDC_OTHER, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 50, 155, 70));
         EXPECT_EQ(m_angle.Attach(IDC_ANGLE, this, nMode, 0), 1);
     }
     ~AngleStage() override { DestroyWindow(); } // before the field
@@ -44,12 +43,6 @@ struct AngleStage : fx::Stage {
     CString Text() const { return TextOf(m_angle); }
 
     OpenAngleEdit m_angle;
-
-private:
-    void CreateItem(int nID, int y) {
-        ::CreateWindowEx(0, WC_EDIT, nullptr, WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, 5, y, 150,
-                         20, m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(nID)), nullptr, nullptr);
-    }
 };
 
 // --- What it shows -----------------------------------------------------------------------
@@ -158,19 +151,7 @@ TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
     }
 }
 
-/// Puts a text on the clipboard.
-void Copy(const CString& str) {
-    const size_t nSize = (static_cast<size_t>(str.GetLength()) + 1) * sizeof(TCHAR);
-    const HGLOBAL hText = ::GlobalAlloc(GMEM_MOVEABLE, nSize);
-    std::memcpy(::GlobalLock(hText), str.GetString(), nSize);
-    ::GlobalUnlock(hText);
-    ASSERT_TRUE(::OpenClipboard(nullptr));
-    ::EmptyClipboard();
-    ::SetClipboardData(CF_UNICODETEXT, hText);
-    ::CloseClipboard();
-}
-
-TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
+TEST(AngleEdit, AnyTextEndsAsAnAngle) {
     const Rows<LPCTSTR, double> rows = {
         {L"", 0.0},
         {L"north", 0.0},
@@ -185,15 +166,13 @@ TEST(AngleEdit, AnyPastedTextEndsAsAnAngle) {
         {L"1e305", 0.0}, // infinite once packed
     };
     AngleStage stage;
-    for (const auto& [pszPasted, dAngle] : rows) {
+    for (const auto& [pszText, dAngle] : rows) {
         stage.m_angle.SetAngle(1.0);
         stage.Enter();
-        Copy(pszPasted);
         stage.m_angle.SetSel(0, -1);
-        stage.m_angle.Clear();
-        stage.m_angle.Paste();
+        stage.m_angle.ReplaceSel(pszText);
         stage.Leave();
-        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dAngle) << Utf8(pszPasted);
+        EXPECT_DOUBLE_EQ(stage.m_angle.GetAngle(), dAngle) << Utf8(pszText);
     }
 }
 
@@ -266,13 +245,8 @@ TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
     const auto look = [&] {
         EXPECT_EQ(L"4.15006", TextOf(dlg.m_second)) << "a tap beside the text leaves the caret there";
     };
-    PlayAndEnd(dlg, {[] {
-                         TypeKeys({'2', VK_OEM_PERIOD, '3', VK_TAB});
-                     },
-                     [] {
-                         TypeKeys({'4', VK_OEM_PERIOD, '1', '5', VK_TAB});
-                     },
-                     tap, [] { TypeKeys({'6'}); }, look});
+    PlayAndEnd(dlg, {Press({'2', VK_OEM_PERIOD, '3', VK_TAB}), Press({'4', VK_OEM_PERIOD, '1', '5', VK_TAB}),
+                     tap, Press({'6'}), look});
 }
 
 /// The panel's own handling of focus changes stays beside the conversion.
