@@ -1,13 +1,10 @@
-// Parts that programs bring along: backgrounds, pictures on buttons, arguments, bars, locks.
+// Parts that programs bring along: backgrounds, pictures on buttons, arguments, bars.
 #include "Canvas.h"
 #include "afxdialogex.h"
 #include "afxext.h"
-#include "afxmt.h"
 #include "support/Child.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Program.h"
-
-#include <thread>
 
 using namespace testkit;
 
@@ -176,60 +173,6 @@ TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
     bar.GetItemRect(3, last);
     EXPECT_NEAR(230, last.right, 3) << "the switch is at the right";
     EXPECT_EQ(CRect(0, 200 - AFX_DEVICE_BAR_HEIGHT, 230, 200) + RectOf(frame).TopLeft(), RectOf(bar));
-}
-
-TEST(Locks, AreHeldByOneAtATime) {
-    CMutex mutex;
-    CSemaphore semaphore(2, 2);
-    CEvent event(FALSE, TRUE);
-    const auto isFree = [&] { // for another thread
-        BOOL bFree = FALSE;
-        std::thread([&] { bFree = mutex.Lock(0) && mutex.Unlock(); }).join();
-        return bFree != FALSE;
-    };
-    CSingleLock lock(&mutex);
-    EXPECT_FALSE(lock.Unlock());
-    EXPECT_TRUE(lock.Lock(0));
-    EXPECT_FALSE(isFree());
-    EXPECT_TRUE(lock.Unlock());
-    EXPECT_TRUE(isFree());
-    for (const BOOL bLocked : {TRUE, TRUE, FALSE})
-        EXPECT_EQ(bLocked, semaphore.Lock(0));
-    LONG nBefore = -1;
-    EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
-    EXPECT_EQ(0, nBefore);
-
-    CSyncObject* objects[] = {&event, &mutex};
-    CMultiLock both(objects, 2);
-    EXPECT_EQ(WAIT_OBJECT_0 + 1, both.Lock(0, FALSE));
-    EXPECT_FALSE(both.IsLocked(0));
-    EXPECT_TRUE(both.IsLocked(1));
-    EXPECT_TRUE(both.Unlock());
-    EXPECT_TRUE(isFree());
-    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
-    event.SetEvent();
-    EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
-    EXPECT_TRUE(both.IsLocked(0));
-    EXPECT_FALSE(isFree());
-    EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
-}
-
-TEST(Relatives, AreFoundFromAnyWindow) {
-    Frame frame;
-    fx::Child<CWnd> outer(frame, 0, CRect(10, 10, 90, 90), 1);
-    const fx::Child<CButton> inner(outer, WS_GROUP, CRect(5, 5, 30, 30), 2);
-    const fx::Child<CButton> second(outer, 0, CRect(40, 5, 70, 30), 3);
-    CWnd popup;
-    ASSERT_TRUE(popup.CreateEx(0, WC_STATIC, L"", WS_POPUP, CRect(0, 0, 5, 5), &frame, 0));
-    const Rows<const CWnd*, const CWnd*> rows = {
-        {&second, frame.GetDescendantWindow(3)},     {&second, frame.GetDescendantWindow(3, TRUE)},
-        {nullptr, frame.GetDescendantWindow(9)},     {&frame, inner.GetParentOwner()},
-        {&frame, popup.GetTopLevelOwner()},          {&second, inner.GetNextWindow()},
-        {&inner, second.GetNextWindow(GW_HWNDPREV)},
-    };
-    int nRow = 0;
-    for (const auto& [pExpected, pFound] : rows)
-        EXPECT_EQ(pExpected, pFound) << nRow++;
 }
 
 } // namespace

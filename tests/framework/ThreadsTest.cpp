@@ -1,6 +1,5 @@
 // What a thread leaves behind when it has used the framework.
 #include "support/TestApp.h"
-#include "testkit/DialogTemplate.h"
 #include "testkit/Leftovers.h"
 
 #include "afxcmn.h"
@@ -111,6 +110,42 @@ TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
     ::GetExitCodeThread(pThread->m_hThread, &dwCode);
     EXPECT_EQ(dwCode, 7U);
     delete pThread;
+}
+
+TEST(Locks, AreHeldByOneAtATime) {
+    CMutex mutex;
+    CSemaphore semaphore(2, 2);
+    CEvent event(FALSE, TRUE);
+    const auto isFree = [&] { // for another thread
+        BOOL bFree = FALSE;
+        std::thread([&] { bFree = mutex.Lock(0) && mutex.Unlock(); }).join();
+        return bFree != FALSE;
+    };
+    CSingleLock lock(&mutex);
+    EXPECT_FALSE(lock.Unlock());
+    EXPECT_TRUE(lock.Lock(0));
+    EXPECT_FALSE(isFree());
+    EXPECT_TRUE(lock.Unlock());
+    EXPECT_TRUE(isFree());
+    for (const BOOL bLocked : {TRUE, TRUE, FALSE})
+        EXPECT_EQ(bLocked, semaphore.Lock(0));
+    LONG nBefore = -1;
+    EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
+    EXPECT_EQ(0, nBefore);
+
+    CSyncObject* objects[] = {&event, &mutex};
+    CMultiLock both(objects, 2);
+    EXPECT_EQ(WAIT_OBJECT_0 + 1, both.Lock(0, FALSE));
+    EXPECT_FALSE(both.IsLocked(0));
+    EXPECT_TRUE(both.IsLocked(1));
+    EXPECT_TRUE(both.Unlock());
+    EXPECT_TRUE(isFree());
+    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, both.Lock(0, TRUE));
+    event.SetEvent();
+    EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
+    EXPECT_TRUE(both.IsLocked(0));
+    EXPECT_FALSE(isFree());
+    EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
 }
 
 } // namespace
