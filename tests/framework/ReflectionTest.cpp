@@ -39,10 +39,14 @@ ON_NOTIFY_REFLECT_EX(-61, &ReflectingEdit::OnCodeEx)
 ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
+/// Handles whatever its control leaves to it.
 class Parent : public Frame {
 protected:
-    afx_msg void OnControl() { Log("parent"); }
-    afx_msg void OnCode(NMHDR*, LRESULT* pResult) { *pResult = Log("parent", 21); }
+    BOOL OnCmdMsg(UINT, int, void* pExtra, AFX_CMDHANDLERINFO*) override {
+        if (pExtra != nullptr)
+            *static_cast<AFX_NOTIFY*>(pExtra)->pResult = 21;
+        return Log("parent", TRUE);
+    }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
         Log("parent");
         return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
@@ -51,12 +55,6 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Parent, CWnd)
-ON_EN_UPDATE(1, &Parent::OnControl)
-ON_EN_CHANGE(1, &Parent::OnControl)
-ON_CONTROL(EN_MAXTEXT, 1, &Parent::OnControl)
-ON_NOTIFY(-60, 1, &Parent::OnCode)
-ON_NOTIFY(-61, 1, &Parent::OnCode)
-ON_NOTIFY(-62, 1, &Parent::OnCode)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 

@@ -9,23 +9,6 @@ namespace {
 
 using Thrower = void (*)();
 
-const struct {
-    const char* pszName;
-    Thrower raise;
-    LPCTSTR pszPrompt; ///< Null for none.
-} EXCEPTIONS[] = {
-    {"CException", [] { AfxThrowNotSupportedException(); }, L"この操作はできません。"},
-    {"user", [] { AfxThrowUserException(); }, nullptr},
-    {"memory", [] { AfxThrowMemoryException(); }, L"メモリーが足りません。"},
-    {"bad_alloc", [] { throw std::bad_alloc(); }, L"メモリーが足りません。"},
-    {"standard", [] { throw std::runtime_error("no fix"); }, L"no fix"},
-    {"foreign", [] { throw 5; }, L"エラーが起きました。"},
-};
-
-void RaiseMemory() {
-    throw std::bad_alloc();
-}
-
 /// Throws in one place.
 struct Form : fx::Form {
     enum Place { Nowhere, Command, Init, InitMessage, Translate, Attaching, End };
@@ -55,24 +38,33 @@ private:
 };
 
 TEST(Uncaught, IsToldWhereverTheSystemCallsAndNothingIsLeft) {
+    constexpr LPCTSTR NOTHING = nullptr;
+    const Rows<const char*, Thrower, LPCTSTR> exceptions = {
+        {"CException", [] { AfxThrowNotSupportedException(); }, L"この操作はできません。"},
+        {"user", [] { AfxThrowUserException(); }, NOTHING},
+        {"memory", [] { AfxThrowMemoryException(); }, L"メモリーが足りません。"},
+        {"bad_alloc", [] { throw std::bad_alloc(); }, L"メモリーが足りません。"},
+        {"standard", [] { throw std::runtime_error("no fix"); }, L"no fix"},
+        {"foreign", [] { throw 5; }, L"エラーが起きました。"},
+    };
     // Whether the dialog comes up all the same, and whether the user is told.
     const Rows<Form::Place, bool, bool> places = {
         {Form::Command, true, true},   {Form::Init, false, true}, {Form::InitMessage, false, true},
         {Form::Translate, true, true}, {Form::End, true, true},   {Form::Attaching, false, false}};
     Frame owner;
-    for (const auto& e : EXCEPTIONS) {
+    for (const auto& [pszName, raise, pszPrompt] : exceptions) {
         for (const auto& [place, bOpens, bTells] : places) {
-            SCOPED_TRACE(std::string(e.pszName) + " " + std::to_string(place));
-            Form form(place, e.raise, &owner);
+            SCOPED_TRACE(std::string(pszName) + " " + std::to_string(place));
+            Form form(place, raise, &owner);
             MessageRecorder recorder;
-            const auto raise = [&] {
+            const auto doAll = [&] {
                 form.PostDo();
                 form.PostMessage(WM_USER);
             };
             const auto end = [&] { form.EndDialog(6); };
-            EXPECT_EQ(bOpens ? 6 : -1, bOpens ? Play(form, {raise, end}) : Play(form, {}));
-            const bool bTold = bTells && e.pszPrompt != nullptr;
-            EXPECT_EQ(bTold ? std::vector<CString>{e.pszPrompt} : std::vector<CString>(), recorder.m_prompts);
+            EXPECT_EQ(bOpens ? 6 : -1, bOpens ? Play(form, {doAll, end}) : Play(form, {}));
+            const bool bTold = bTells && pszPrompt != NOTHING;
+            EXPECT_EQ(bTold ? std::vector<CString>{pszPrompt} : std::vector<CString>(), recorder.m_prompts);
             EXPECT_EQ(nullptr, form.m_hWnd);
             EXPECT_TRUE(owner.IsWindowEnabled());
             form.m_place = Form::Nowhere;
@@ -103,25 +95,21 @@ TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
             throw std::bad_alloc();
         }
     };
-    const auto boxes = [] {
-        int nBoxes = 0;
-        for (HWND h = nullptr; (h = ::FindWindowEx(nullptr, h, L"#32770", L"test")) != nullptr;)
-            ++nBoxes;
-        return nBoxes;
-    };
+    const auto box = [](HWND hAfter) { return ::FindWindowEx(nullptr, hAfter, L"#32770", L"test"); };
     const auto look = [&] {
-        EXPECT_EQ(1, boxes());
+        EXPECT_NE(nullptr, box(nullptr));
+        EXPECT_EQ(nullptr, box(box(nullptr)));
         form.KillTimer(1);
-        ::PostMessage(::FindWindow(L"#32770", L"test"), WM_COMMAND, IDOK, 0);
+        ::PostMessage(box(nullptr), WM_COMMAND, IDOK, 0);
     };
     EXPECT_EQ(1, Play(form, {[&] { form.SetTimer(1, 10); }, [&] { return nFailures > 10; }, look,
-                             [&] { return boxes() == 0; }, [&] { form.EndDialog(1); }}));
+                             [&] { return box(nullptr) == nullptr; }, [&] { form.EndDialog(1); }}));
 }
 
 /// The application's own way to tell needs memory that is not there.
 TEST(Uncaught, ThreadThatThrowsAgainDoesNotLetItOut) {
     fx::g_app.m_bThrowAgain = true;
-    Form form(Form::Command, RaiseMemory);
+    Form form(Form::Command, [] { throw std::bad_alloc(); });
     EXPECT_EQ(2, Play(form, {[&] { form.SendDo(); }, [&] { form.EndDialog(2); }}));
     fx::g_app.m_bThrowAgain = false;
 }

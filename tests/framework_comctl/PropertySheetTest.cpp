@@ -41,15 +41,18 @@ TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
 TEST(ModalSheet, PagesHearInOrderWhenTheUserChangesBetweenThem) {
     Sheet sheet;
     sheet.m_a.m_nNumber = 5;
+    int nCreated = 0;
+    sheet.m_hear = sheet.m_a.m_hear = sheet.m_b.m_hear = [&](UINT message, WPARAM, LPARAM) {
+        nCreated += message == WM_NCCREATE ? 1 : 0;
+        return std::optional<LRESULT>();
+    };
     const auto change = [&] {
-        EXPECT_TRUE(sheet.m_bSawCreation) << "attached before the first message";
         EXPECT_EQ(0, sheet.GetActiveIndex());
         SetNumber(sheet.m_a, L"7");
         sheet.TakeLog();
         EXPECT_TRUE(sheet.SetActivePage(1));
         EXPECT_EQ("a.kill b.init b.set ", sheet.TakeLog());
-        EXPECT_TRUE(sheet.m_a.m_bSawCreation);
-        EXPECT_TRUE(sheet.m_b.m_bSawCreation);
+        EXPECT_EQ(3, nCreated) << "all are attached before the first message";
         EXPECT_EQ(&sheet.m_b, sheet.GetActivePage());
         EXPECT_EQ(7, sheet.m_a.m_nNumber);
         sheet.m_a.m_nNumber = 8;

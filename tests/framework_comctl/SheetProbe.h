@@ -16,13 +16,12 @@ constexpr UINT ID_PAGE_GENERAL = 300, ID_PAGE_VIEW = 301, ID_PAGE_WIDE = 302, ID
 constexpr int IDC_NUMBER = 10;
 
 /// A page with a number between 0 and 100.
-struct Page : CPropertyPage {
+struct Page : Heard<CPropertyPage> {
     Page(std::string& log, const char* pszName, UINT nIDTemplate, UINT nIDCaption = 0)
-        : CPropertyPage(nIDTemplate, nIDCaption), m_log(log), m_name(pszName) {}
+        : Heard(nIDTemplate, nIDCaption), m_log(log), m_name(pszName) {}
 
     int m_nNumber = 0;
     BOOL m_bApply = TRUE, m_bCancel = TRUE;
-    bool m_bSawCreation = false;
     std::function<void()> m_onInit = [] {};
 
     BOOL OnInitDialog() override {
@@ -45,10 +44,6 @@ protected:
         DDX_Text(pDX, IDC_NUMBER, m_nNumber);
         DDV_MinMaxInt(pDX, m_nNumber, 0, 100);
     }
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        m_bSawCreation = m_bSawCreation || message == WM_NCCREATE;
-        return CPropertyPage::WindowProc(message, wParam, lParam);
-    }
 
 private:
     bool Log(const char* pszEvent) {
@@ -61,8 +56,8 @@ private:
 };
 
 /// A sheet of the pages a and b.
-struct Sheet : CPropertySheet {
-    explicit Sheet(CWnd* pParentWnd = nullptr) : CPropertySheet(L"設定", pParentWnd) {
+struct Sheet : Heard<CPropertySheet> {
+    explicit Sheet(CWnd* pParentWnd = nullptr) : Heard(L"設定", pParentWnd) {
         m_bFullScreen = TRUE;
         AddPage(&m_a);
         AddPage(&m_b);
@@ -71,7 +66,6 @@ struct Sheet : CPropertySheet {
 
     std::string m_log;
     Page m_a{m_log, "a", ID_PAGE_GENERAL}, m_b{m_log, "b", ID_PAGE_VIEW};
-    bool m_bSawCreation = false;
     std::function<void()> m_onInit = [] {};
 
     /// Taps a tab with the pen.
@@ -89,12 +83,6 @@ struct Sheet : CPropertySheet {
     BOOL OnInitDialog() override {
         m_onInit();
         return CPropertySheet::OnInitDialog();
-    }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        m_bSawCreation = m_bSawCreation || message == WM_NCCREATE;
-        return CPropertySheet::WindowProc(message, wParam, lParam);
     }
 };
 
