@@ -1,21 +1,12 @@
 #include "support/TestApp.h"
-#include "support/Rows.h"
-
-#include <gtest/gtest.h>
 
 #include "Tesuvo.h"
 
 #include "testkit/Drive.h"
 
-#include <string>
-
 using namespace testkit;
 
 namespace {
-
-std::wstring Text(const CString& text) {
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
 
 TEST(NumberedName, CountsUpTheDigitsAtTheEnd) {
     const Rows<const wchar_t*, const wchar_t*> rows = {
@@ -33,7 +24,7 @@ TEST(NumberedName, CountsUpTheDigitsAtTheEnd) {
     for (const auto& [before, next] : rows) {
         CString name = before;
         TVIncrementName(name);
-        EXPECT_EQ(Text(name), next);
+        EXPECT_EQ(next, name);
     }
 }
 
@@ -68,23 +59,23 @@ TEST(PathSplit, GivesFolderNameAndExtension) {
     for (const auto& [given, wantedFolder, wantedName, wantedExtension] : rows) {
         CString folder = L"?", name = L"?", extension = L"?";
         TVResolveFilePath(given, &folder, &name, &extension);
-        const std::wstring path = given != nullptr ? given : L"(null)";
-        EXPECT_EQ(Text(folder), wantedFolder) << path;
-        EXPECT_EQ(Text(name), wantedName) << path;
-        EXPECT_EQ(Text(extension), wantedExtension) << path;
+        SCOPED_TRACE(Utf8(given != nullptr ? given : L"(null)"));
+        EXPECT_EQ(wantedFolder, folder);
+        EXPECT_EQ(wantedName, name);
+        EXPECT_EQ(wantedExtension, extension);
     }
 }
 
 TEST(PathSplit, NeedsNeitherAllResultsNorAPathOfItsOwn) {
     CString name;
     TVResolveFilePath(L"C:\\Data\\site.csv", nullptr, &name, nullptr);
-    EXPECT_EQ(Text(name), L"site");
+    EXPECT_EQ(L"site", name);
 
     CString path = L"C:\\Data\\site.csv", extension;
     TVResolveFilePath(path, &path, &name, &extension);
-    EXPECT_EQ(Text(path), L"C:\\Data");
-    EXPECT_EQ(Text(name), L"site");
-    EXPECT_EQ(Text(extension), L"csv");
+    EXPECT_EQ(L"C:\\Data", path);
+    EXPECT_EQ(L"site", name);
+    EXPECT_EQ(L"csv", extension);
 }
 
 TEST(FileExists, TellsFilesFromEverythingElse) {
@@ -98,13 +89,13 @@ TEST(FileExists, TellsFilesFromEverythingElse) {
     for (const CString& path : {CString(L"\\測点.csv"), drive.Letter() + L"/測点.csv", CString(L"測点.csv"),
                                 CString(L".\\測点.csv"), CString(L"\\sub.csv\\..\\測点.csv"),
                                 drive.Long(L"\\測点.csv"), drive.Letter() + deep + L"\\site.csv"})
-        EXPECT_TRUE(TVCheckFileExist(path)) << Text(path);
+        EXPECT_TRUE(TVCheckFileExist(path)) << Utf8(path);
     for (const CString& path :
          {CString(L"\\sub.csv"), CString(L"\\absent.csv"), CString(L"\\absent\\測点.csv"),
           CString(L"\\*.csv"), CString(L"\\測点?csv"), CString(L"\\<|>\".csv"), drive.Root(), CString(L"\\"),
           CString(L"NUL"), CString(L"\\sub.csv\\NUL"), CString(L"?:\\測点.csv"), CString(L"\\\\.\\"),
           CString(L'a', 40'000), CString(), deep, deep + L"\\other.csv"})
-        EXPECT_FALSE(TVCheckFileExist(path)) << Text(path.Left(300));
+        EXPECT_FALSE(TVCheckFileExist(path)) << Utf8(path.Left(300));
     EXPECT_FALSE(TVCheckFileExist(nullptr));
 }
 

@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include "Tesuvo.h"
@@ -8,23 +10,18 @@
 
 namespace {
 
-struct Accepted {
-    const wchar_t* text;
-    double value;
-};
-
 constexpr double kUntouched = -7.25;
 
-void ExpectAccepted(const Accepted& row) {
-    const CString text = row.text;
+void ExpectAccepted(const std::wstring& text, double wanted) {
+    const CString str = text.c_str();
     double value = kUntouched;
-    EXPECT_TRUE(TVString2Double(&text, &value)) << std::wstring(row.text);
-    EXPECT_EQ(value, row.value) << std::wstring(row.text);
-    EXPECT_EQ(std::signbit(value), std::signbit(row.value)) << std::wstring(row.text);
+    EXPECT_TRUE(TVString2Double(&str, &value)) << text;
+    EXPECT_EQ(value, wanted) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(wanted)) << text;
 }
 
 TEST(Number, AcceptsWhatASurveyorTypes) {
-    const Accepted rows[] = {
+    const Rows<const wchar_t*, double> rows = {
         {L"0", 0.0},
         {L"12.3456", 12.3456},
         {L"+7", 7.0},
@@ -50,8 +47,8 @@ TEST(Number, AcceptsWhatASurveyorTypes) {
         {L"１ｅ２", 100.0},
         {L"-1,000e-3", -1.0},
     };
-    for (const Accepted& row : rows)
-        ExpectAccepted(row);
+    for (const auto& [text, value] : rows)
+        ExpectAccepted(text, value);
 }
 
 TEST(Number, RefusesTheRestAndLeavesTheValueAlone) {
@@ -72,7 +69,7 @@ TEST(Number, RefusesTheRestAndLeavesTheValueAlone) {
 }
 
 TEST(Number, RoundsToTheNearestDouble) {
-    const Accepted rows[] = {
+    const Rows<const wchar_t*, double> rows = {
         {L"9007199254740993", 9007199254740992.0},
         {L"9007199254740993.0000000000000000000000000000000000000001", 9007199254740994.0},
         {L"0.1000000000000000055511151231257827021181583404541015625", 0.1},
@@ -80,8 +77,8 @@ TEST(Number, RoundsToTheNearestDouble) {
         {L"1.7976931348623157e308", std::numeric_limits<double>::max()},
         {L"5e-324", std::numeric_limits<double>::denorm_min()},
     };
-    for (const Accepted& row : rows)
-        ExpectAccepted(row);
+    for (const auto& [text, value] : rows)
+        ExpectAccepted(text, value);
 }
 
 TEST(Number, StopsAtNothingHidden) {
@@ -95,7 +92,7 @@ TEST(Number, StopsAtNothingHidden) {
     const CString longText = (L"0." + zeros + L"1").c_str();
     EXPECT_FALSE(TVString2Double(&longText, &value));
     EXPECT_EQ(value, kUntouched);
-    ExpectAccepted({(zeros + L"1").c_str(), 1.0});
+    ExpectAccepted(zeros + L"1", 1.0);
 }
 
 TEST(Number, RefusesNullArguments) {

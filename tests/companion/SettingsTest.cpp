@@ -8,45 +8,41 @@
 
 namespace {
 
-constexpr wchar_t kKey[] = L"Software\\Tesuvo\\Common";
+constexpr wchar_t kOwn[] = L"Software\\Fieldkit tests\\User";
 constexpr wchar_t kDecimals[] = L"1280";
 
-/// Keeps the user's own setting and puts it back afterwards.
+std::vector<BYTE> BytesOf(DWORD value) {
+    const auto* const first = reinterpret_cast<const BYTE*>(&value);
+    return {first, first + sizeof value};
+}
+
+/// The user's own settings are elsewhere meanwhile.
 struct Settings : testing::Test {
     void SetUp() override {
-        ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &m_key,
-                                    nullptr),
-                  ERROR_SUCCESS);
-        DWORD size = sizeof m_previous;
-        m_present = ::RegGetValueW(m_key, nullptr, kDecimals, RRF_RT_REG_DWORD, nullptr, &m_previous,
-                                   &size) == ERROR_SUCCESS;
-        ::RegDeleteValueW(m_key, kDecimals);
+        HKEY user = nullptr;
+        ASSERT_EQ(::RegCreateKeyW(HKEY_CURRENT_USER, kOwn, &user), ERROR_SUCCESS);
+        ASSERT_EQ(::RegOverridePredefKey(HKEY_CURRENT_USER, user), ERROR_SUCCESS);
+        ASSERT_EQ(::RegCreateKeyW(user, L"Software\\Tesuvo\\Common", &m_key), ERROR_SUCCESS);
+        ::RegCloseKey(user);
     }
-
     void TearDown() override {
-        ::RegDeleteValueW(m_key, kDecimals);
-        if (m_present)
-            Store(kDecimals, m_previous);
         ::RegCloseKey(m_key);
+        ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, kOwn);
     }
 
-    void Store(const wchar_t* name, DWORD value) {
-        EXPECT_EQ(
-            ::RegSetValueExW(m_key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value),
-            ERROR_SUCCESS);
+    void Store(const wchar_t* name, DWORD type, const std::vector<BYTE>& bytes) {
+        const auto size = static_cast<DWORD>(bytes.size());
+        EXPECT_EQ(::RegSetValueExW(m_key, name, 0, type, bytes.data(), size), ERROR_SUCCESS);
     }
 
     HKEY m_key = nullptr;
-
-private:
-    DWORD m_previous = 0;
-    bool m_present = false;
 };
 
 TEST_F(Settings, DecimalsComeFromTheStoreWithinTheirRange) {
     const Rows<DWORD, int> rows = {{0, 0}, {1, 1}, {3, 3}, {4, 4}, {5, 2}, {0x80000000, 2}, {0xFFFFFFFF, 2}};
     for (const auto& [stored, value] : rows) {
-        Store(kDecimals, stored);
+        Store(kDecimals, REG_DWORD, BytesOf(stored));
         EXPECT_EQ(TVGetCommonRegInt(1280), value) << stored;
     }
 }
@@ -68,17 +64,14 @@ TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
         {REG_BINARY, std::vector<BYTE>(100000, 4)},
     };
     for (const auto& [type, stored] : rows) {
-        ASSERT_EQ(
-            ::RegSetValueExW(m_key, kDecimals, 0, type, stored.data(), static_cast<DWORD>(stored.size())),
-            ERROR_SUCCESS);
+        Store(kDecimals, type, stored);
         EXPECT_EQ(TVGetCommonRegInt(1280), 2) << type << ' ' << stored.size();
     }
 }
 
 TEST_F(Settings, UnknownOnesAreZeroWhateverIsStored) {
-    Store(L"1281", 3);
+    Store(L"1281", REG_DWORD, BytesOf(3));
     EXPECT_EQ(TVGetCommonRegInt(1281), 0);
-    ::RegDeleteValueW(m_key, L"1281");
     EXPECT_EQ(TVGetCommonRegInt(0), 0);
     EXPECT_EQ(TVGetCommonRegInt(-1280), 0);
 }

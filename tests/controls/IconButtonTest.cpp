@@ -29,8 +29,6 @@ struct ButtonStage : fx::Stage {
     CIconButton m_button;
 };
 
-// --- Pixels ------------------------------------------------------------------------------
-
 TEST(IconButton, IconStandsInTheMiddleOrAtTheLeftAndSinksWhenPressed) {
     const Rows<CSize, CSize, UINT, CPoint> rows = {
         {{60, 24}, {16, 16}, 0, {22, 4}},
@@ -64,21 +62,6 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     EXPECT_EQ(pressedText, text + CPoint(2, 1));
 }
 
-TEST(IconButton, FocusRectangleOnlyWithItsStyle) {
-    for (const UINT nStyle : {0U, static_cast<UINT>(CIconButton::StyleFocus)}) {
-        ButtonStage stage({60, 24}, nStyle);
-        const auto without = stage.Look();
-        stage.m_button.SetFocus();
-        Pump();
-        const CRect frame = stage.Look().Difference(without);
-        EXPECT_EQ(frame, nStyle != 0 ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0));
-        stage.SetFocus();
-        Pump();
-        CClientDC dc(&stage.m_button); // as it stands: the same drawing has taken it away
-        EXPECT_TRUE(Picture(dc, {60, 24}).Difference(without).IsRectEmpty());
-    }
-}
-
 TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
     const Rows<UINT, UINT, bool, bool> rows = {
         {ODA_DRAWENTIRE, 0, true, false},
@@ -91,39 +74,37 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
     };
     const CSize SIZE_ = {60, 24};
     constexpr COLORREF PAPER = RGB(10, 20, 30);
-    ButtonStage stage(SIZE_, CIconButton::StyleFocus);
-    CClientDC screen(&stage);
-    for (const auto& [nAction, nState, bFace, bFocus] : rows) {
-        CBitmap bitmap;
-        bitmap.CreateCompatibleBitmap(&screen, SIZE_.cx, SIZE_.cy);
-        CDC dc; // goes before the bitmap
-        dc.CreateCompatibleDC(&screen);
-        dc.SelectObject(&bitmap);
-        dc.FillSolidRect(CRect(CPoint(), SIZE_), PAPER);
-        dc.SetTextColor(RGB(1, 1, 1));
-        dc.SetBkColor(RGB(2, 2, 2));
-        DRAWITEMSTRUCT item = {};
-        item.CtlType = ODT_BUTTON;
-        item.itemAction = nAction;
-        item.itemState = nState;
-        item.hwndItem = stage.m_button;
-        item.hDC = dc;
-        item.rcItem = CRect(CPoint(), SIZE_);
-        stage.m_button.DrawItem(&item);
-        const Picture image(dc, SIZE_);
-        const std::string what = std::to_string(nAction) + ' ' + std::to_string(nState);
-        EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace) << what;
-        if (!bFace) {
-            const CRect drawn =
-                image.Around(image.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != PAPER; });
-            EXPECT_EQ(drawn, bFocus ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0)) << what;
+    for (const UINT nStyle : {static_cast<UINT>(CIconButton::StyleFocus), 0U})
+        for (const auto& [nAction, nState, bFace, bFocus] : rows) {
+            SCOPED_TRACE(std::to_string(nStyle) + ' ' + std::to_string(nAction) + ' ' +
+                         std::to_string(nState));
+            ButtonStage stage(SIZE_, nStyle);
+            CClientDC screen(&stage);
+            CBitmap bitmap;
+            bitmap.CreateCompatibleBitmap(&screen, SIZE_.cx, SIZE_.cy);
+            CDC dc; // goes before the bitmap
+            dc.CreateCompatibleDC(&screen);
+            dc.SelectObject(&bitmap);
+            dc.FillSolidRect(CRect(CPoint(), SIZE_), PAPER);
+            dc.SetTextColor(RGB(1, 1, 1));
+            dc.SetBkColor(RGB(2, 2, 2));
+            DRAWITEMSTRUCT item = {};
+            item.itemAction = nAction;
+            item.itemState = nState;
+            item.hDC = dc;
+            item.rcItem = CRect(CPoint(), SIZE_);
+            stage.m_button.DrawItem(&item);
+            const Picture image(dc, SIZE_);
+            EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace);
+            if (!bFace) {
+                const CRect drawn =
+                    image.Around(image.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != PAPER; });
+                EXPECT_EQ(drawn, bFocus && nStyle != 0 ? CRect(2, 2, 58, 22) : CRect(0, 0, 0, 0));
+            }
+            EXPECT_EQ(dc.GetTextColor(), RGB(1, 1, 1));
+            EXPECT_EQ(dc.GetBkColor(), RGB(2, 2, 2));
         }
-        EXPECT_EQ(dc.GetTextColor(), RGB(1, 1, 1)) << what;
-        EXPECT_EQ(dc.GetBkColor(), RGB(2, 2, 2)) << what;
-    }
 }
-
-// --- Stylus ------------------------------------------------------------------------------
 
 TEST(IconButton, EachTapHoweverQuickIsAClickAndFlipsAToggleButtonOnly) {
     for (const bool bToggle : {false, true}) {
@@ -152,8 +133,6 @@ TEST(IconButton, ReleaseOutsideDoesNothing) {
     stage.Drag(rect.CenterPoint(), rect.BottomRight() - CSize(1, 1));
     EXPECT_TRUE(stage.m_button.GetPush());
 }
-
-// --- State -------------------------------------------------------------------------------
 
 TEST(IconButton, PushStateBelongsToToggleButtons) {
     Frame bystander;

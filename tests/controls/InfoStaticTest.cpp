@@ -48,7 +48,8 @@ TEST_F(InfoStatic, IconStandsInTheCornerInItsOwnSize) {
     EXPECT_FALSE(icon.IsAll(icon.Rect(), YELLOW));
     const CRect differs =
         image.Around(icon.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != icon.At(p.x, p.y); });
-    EXPECT_TRUE(differs.IsRectEmpty() && image.IsAll(CRect(16, 0, SIZE_.cx, SIZE_.cy), YELLOW));
+    EXPECT_EQ(CRect(0, 0, 0, 0), differs);
+    EXPECT_TRUE(image.IsAll(CRect(16, 0, SIZE_.cx, SIZE_.cy), YELLOW));
     EXPECT_TRUE(image.IsAll(CRect(0, 16, SIZE_.cx, SIZE_.cy), YELLOW));
 }
 

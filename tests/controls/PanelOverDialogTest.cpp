@@ -5,7 +5,6 @@
 #include "testkit/Panel.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Script.h"
-#include "testkit/Pen.h"
 
 #include "controls/nComboBox.h"
 #include "controls/nDialog.h"
@@ -19,27 +18,23 @@ namespace {
 
 constexpr int IDC_EDIT = 100, IDC_COMBO = 101;
 
-/// Gives a dialog its only field.
-using AddField = void (*)(DialogTemplate&);
-
-void AddEdit(DialogTemplate& dialogTemplate) {
-    dialogTemplate.Edit(IDC_EDIT);
-}
-void AddCombo(DialogTemplate& dialogTemplate) {
-    dialogTemplate.Add(WC_COMBOBOX, L"", IDC_COMBO, CBS_DROPDOWN | WS_TABSTOP, 2, 2, 60, 120);
-}
-void AddChoice(DialogTemplate& dialogTemplate) {
-    dialogTemplate.Add(WC_COMBOBOX, L"", IDC_COMBO, CBS_DROPDOWNLIST | WS_TABSTOP, 2, 2, 60, 50);
-}
+/// The only control of a dialog.
+struct Field {
+    int nID;
+    LPCTSTR pszClass;
+    DWORD dwStyle;
+};
+constexpr Field EDIT = {IDC_EDIT, WC_EDIT, WS_BORDER}, COMBO = {IDC_COMBO, WC_COMBOBOX, CBS_DROPDOWN};
+constexpr Field CHOICE = {IDC_COMBO, WC_COMBOBOX, CBS_DROPDOWNLIST};
 
 /// A full-screen dialog with a surface of magenta.
 struct FirstFieldDialog : CnDialog {
     /// When the fields are attached; the base class shows the dialog.
     enum Order { BeforeBase, AfterBase };
 
-    explicit FirstFieldDialog(AddField addField, CWnd* pParent = nullptr, Order order = AfterBase)
+    explicit FirstFieldDialog(const Field& field, CWnd* pParent = nullptr, Order order = AfterBase)
         : CnDialog(0, pParent), m_order(order) {
-        addField(m_template);
+        m_template.Add(field.pszClass, L"", field.nID, field.dwStyle | WS_TABSTOP, 2, 2, 60, 50);
         InitModalIndirect(m_template.Get(), pParent);
         SetBKColor(fx::MAGENTA);
     }
@@ -51,12 +46,11 @@ struct FirstFieldDialog : CnDialog {
         return m_order == AfterBase ? TRUE : CnDialog::OnInitDialog();
     }
 
-    CnComboBox m_combo;
-
 private:
     Order m_order;
     DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
     CnEdit m_edit;
+    CnComboBox m_combo;
 };
 
 /// Whether the screen shows the panel in its place, and the dialog above it. What the system
@@ -77,12 +71,11 @@ void PlayWithPanel(CDialog& dialog, std::initializer_list<Step> steps) {
 }
 
 TEST(PanelOverDialog, IsSeenWhenTheDialogOpensWithItsFieldFocused) {
-    for (const AddField addField : {AddEdit, AddCombo, AddChoice}) {
+    for (const Field& field : {EDIT, COMBO, CHOICE})
         for (const auto order : {FirstFieldDialog::BeforeBase, FirstFieldDialog::AfterBase}) {
-            FirstFieldDialog dlg(addField, nullptr, order);
+            FirstFieldDialog dlg(field, nullptr, order);
             PlayWithPanel(dlg, {PanelIsSeen});
         }
-    }
 }
 
 TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
@@ -99,7 +92,7 @@ TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {
-    FirstFieldDialog first(AddEdit), second(AddCombo, &first);
+    FirstFieldDialog first(EDIT), second(COMBO, &first);
     PlayWithPanel(first,
                   {PanelIsSeen, [&] { second.DoModal(); }, PanelIsSeen, [&] { second.EndDialog(IDOK); },
                    [&] { return ::GetActiveWindow() == first.m_hWnd && PanelIsSeen(); }});

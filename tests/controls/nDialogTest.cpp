@@ -3,9 +3,8 @@
 #include "support/TestApp.h"
 #include "testkit/Picture.h"
 #include "testkit/DialogTemplate.h"
-#include "testkit/Script.h"
 #include "testkit/Pen.h"
-#include "testkit/TitleBar.h"
+#include "testkit/Steps.h"
 
 using namespace testkit;
 
@@ -34,13 +33,13 @@ private:
     DialogTemplate m_template;
 };
 
-// --- What the option word decides --------------------------------------------------------
-
 TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
     constexpr DWORD OK = CnDialog::OptionOkButton, POPUP = CnDialog::OptionPopup;
     constexpr DWORD NO_BAR = CnDialog::OptionNoCommandBar, HIDDEN = CnDialog::OptionHidden;
+    constexpr DWORD LARGE_BAR = CnDialog::OptionBarButtonSize;
     const Rows<DWORD, bool, bool, bool> rows = {
         {0, true, false, true},
+        {LARGE_BAR, true, false, true},
         {OK, true, true, true},
         {POPUP, false, false, false},
         {POPUP | OK | NO_BAR, false, true, false},
@@ -51,40 +50,20 @@ TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
         Dialog dlg(options & ~OK);
         dlg.SetOption(options & OK); // they add up
         EXPECT_EQ(full, dlg.m_bFullScreen != FALSE) << "known before the window is made";
+        dlg.m_hIcon = ::LoadIcon(nullptr, IDI_INFORMATION);
         WhileOpen(dlg, [&] {
+            EXPECT_EQ(dlg.GetIcon(TRUE), dlg.m_hIcon);
+            EXPECT_EQ(dlg.GetIcon(FALSE), dlg.m_hIcon);
             EXPECT_EQ(full, dlg.Rect() == Screen()) << options;
+            EXPECT_EQ(full, (dlg.GetStyle() & WS_MAXIMIZEBOX) != 0) << options;
             EXPECT_EQ(okButton, dlg.HasOkButton()) << options;
             EXPECT_EQ(bar, dlg.Bar() != nullptr) << options;
+            const bool bLarge = LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
+            EXPECT_EQ(options == LARGE_BAR, bLarge) << options;
             EXPECT_EQ((options & HIDDEN) == 0, dlg.IsWindowVisible() != FALSE) << options;
         });
     }
 }
-
-TEST(nDialog, FullScreenLeavesTheDeviceBarsAtTopAndBottom) {
-    for (const DWORD dwOption : {DWORD{0}, DWORD{CnDialog::OptionBarButtonSize}}) {
-        Dialog dlg(dwOption);
-        WhileOpen(dlg, [&] {
-            CRect client;
-            dlg.GetClientRect(client);
-            EXPECT_EQ(CRect(0, 0, Screen().right, Screen().bottom - 26), client);
-            EXPECT_EQ(CRect(0, Screen().bottom - 26, Screen().right, Screen().bottom), RectOf(dlg.Bar()));
-            const bool bLarge = LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
-            EXPECT_EQ(dwOption != 0, bLarge);
-            EXPECT_TRUE(dlg.GetStyle() & WS_MAXIMIZEBOX);
-        });
-    }
-}
-
-TEST(nDialog, TakesItsIconForBothSizes) {
-    Dialog dlg(CnDialog::OptionPopup);
-    dlg.m_hIcon = ::LoadIcon(nullptr, IDI_INFORMATION);
-    WhileOpen(dlg, [&] {
-        EXPECT_EQ(dlg.GetIcon(TRUE), dlg.m_hIcon);
-        EXPECT_EQ(dlg.GetIcon(FALSE), dlg.m_hIcon);
-    });
-}
-
-// --- Ending ------------------------------------------------------------------------------
 
 TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
     const DWORD dwSwallow = CnDialog::OptionSwallowKeys;
@@ -94,11 +73,8 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
                                              {dwSwallow, VK_ESCAPE, 77}};
     for (const auto& [option, key, result] : rows) {
         Dialog dlg(CnDialog::OptionPopup | option);
-        const auto type = [&] { TypeKeys({key}); };
-        int nWaited = 0;
-        const auto wait = [&] { return ++nWaited == 10; };
         const auto end = [&] { dlg.EndDialog(77); };
-        EXPECT_EQ(result, result == 77 ? Play(dlg, {type, wait, end}) : Play(dlg, {type}))
+        EXPECT_EQ(result, result == 77 ? Play(dlg, {Press({key}), [] {}, end}) : Play(dlg, {Press({key})}))
             << option << ' ' << key;
     }
 }
@@ -106,20 +82,10 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
 TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
     struct Asking : Dialog {
         using Dialog::Dialog;
-        void OnCancel() override {
-            ++m_nAsked;
-            if (m_nAsked == 2)
-                Dialog::OnCancel();
-        }
-        int m_nAsked = 0;
-    };
-    Asking dlg(CnDialog::OptionPopup);
-    const auto close = [&] { dlg.PostMessage(WM_CLOSE); };
-    EXPECT_EQ(IDCANCEL, Play(dlg, {close, [&] { return dlg.m_nAsked == 1; }, close}));
-    EXPECT_EQ(2, dlg.m_nAsked);
+        void OnCancel() override { EndDialog(77); }
+    } dlg(CnDialog::OptionPopup);
+    EXPECT_EQ(77, Play(dlg, {Close(dlg)}));
 }
-
-// --- Colour ------------------------------------------------------------------------------
 
 TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
     Dialog dlg(CnDialog::OptionPopup);
@@ -140,8 +106,6 @@ TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
         EXPECT_EQ(colorIn(IDC_EDIT), ::GetSysColor(COLOR_WINDOW));
     });
 }
-
-// --- Dragging ----------------------------------------------------------------------------
 
 /// Sends a press, a move and a release, all as client points of the dialog as it stands.
 void DragBy(Dialog& dlg, CSize offset) {

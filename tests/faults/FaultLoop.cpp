@@ -1,13 +1,11 @@
-#include "FaultLoop.h"
+#include "Faults.h"
 
-#include "FaultTable.h"
 #include "testkit/Leftovers.h"
+#include "testkit/Watchdog.h"
 
 #include <csignal>
 #include <cstdio>
 #include <ctime>
-#include <limits>
-#include <thread>
 
 using namespace testkit;
 using namespace testkit::fault;
@@ -17,7 +15,6 @@ namespace fx {
 namespace {
 
 std::atomic<int> g_nRunning = 0; ///< The call that fails at present.
-std::atomic<ULONGLONG> g_nDeadline;
 const Injection* g_pInjection = nullptr;
 
 std::string Story(const Injection& injection) {
@@ -31,12 +28,15 @@ std::string Story(const Injection& injection) {
     return story;
 }
 
-[[noreturn]] void EndProcess(const char* pszWhy) {
+void Tell(const char* pszWhy) {
     const Injection* const p = g_pInjection;
     std::printf("%s: %s\n", pszWhy, p != nullptr ? Story(*p).c_str() : "(between two runs)");
     std::fflush(stdout);
+}
+
+void EndProcess(const char* pszWhy) {
+    Tell(pszWhy);
     ::TerminateProcess(::GetCurrentProcess(), 1);
-    std::abort();
 }
 
 LONG CALLBACK OnException(EXCEPTION_POINTERS* pInfo) {
@@ -48,28 +48,18 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* pInfo) {
     case STATUS_HEAP_CORRUPTION:
         std::printf("at %s\n", WhereIs(pInfo->ExceptionRecord->ExceptionAddress).c_str());
         EndProcess("crash");
+        [[fallthrough]];
     default:
         return EXCEPTION_CONTINUE_SEARCH;
     }
 }
 
-void GiveTime() {
-    constexpr DWORD PATIENCE = 8000;
-    g_nDeadline = ::GetTickCount64() + PATIENCE;
-}
-
-/// Ends the process when it crashes, aborts or takes too long for one run. Points the calls of the
-/// DLLs here.
+/// Points the calls of the DLLs here, and tells which one had failed when the process ends.
 bool Begin() {
     for (const wchar_t* const pszModule : {L"FieldkitFx.dll", L"Fieldkit.dll", L"Tesuvo.dll"})
         Install(::GetModuleHandle(pszModule), Table());
     ::AddVectoredExceptionHandler(1, OnException);
     std::signal(SIGABRT, [](int) { EndProcess("abort"); });
-    std::thread([] {
-        for (;; ::Sleep(100))
-            if (::GetTickCount64() > g_nDeadline)
-                EndProcess("hang");
-    }).detach();
     return true;
 }
 
@@ -131,7 +121,7 @@ private:
 
     /// @return the number of calls that can fail
     int Run(int nFailing) {
-        GiveTime();
+        m_watchdog.Feed();
         Injection injection(nFailing);
         g_pInjection = &injection;
         bool bDone = false;
@@ -160,7 +150,10 @@ private:
         return injection.m_nCalls;
     }
 
+    static constexpr DWORD PATIENCE = 8; ///< Seconds a run.
+
     const Scenario& m_scenario;
+    Watchdog m_watchdog{PATIENCE, [] { Tell("hang"); }};
     Frame m_owner{CSize(220, 200)};
     MessageRecorder m_recorder;
     int m_nCalls = 0;
@@ -173,7 +166,6 @@ private:
 
 void RunLoop(const Scenario& scenario, bool bAll) {
     constexpr int RUNS = 40;
-    GiveTime();
     [[maybe_unused]] static const bool s_bBegun = Begin();
     Loop loop(scenario);
     const int nStride = bAll ? 1 : 1 + loop.Calls() / RUNS;
@@ -182,7 +174,6 @@ void RunLoop(const Scenario& scenario, bool bAll) {
     int n = bAll ? 1 : 1 + nDay % 16; // other calls each day, so that all have their turn
     while (loop.Try(n))
         n += nStride;
-    g_nDeadline = std::numeric_limits<ULONGLONG>::max();
     std::printf("%s: %d calls, every %dth failed\n", scenario.pszName, loop.Calls(), nStride);
 }
 

@@ -1,6 +1,5 @@
-#include "FaultTable.h"
+#include "Faults.h"
 
-#include "support/TestApp.h"
 #include "support/TestData.h"
 
 #include <commctrl.h>

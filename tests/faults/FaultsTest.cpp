@@ -1,6 +1,5 @@
 // Each call into the system fails once: nothing may crash, hang, be lost or be left behind.
-#include "FaultLoop.h"
-#include "FaultTable.h"
+#include "Faults.h"
 #include "support/AllDialogs.h"
 
 #include <map>

@@ -1,4 +1,4 @@
-#include "Scenarios.h"
+#include "Faults.h"
 
 #include "DialogCloser.h"
 #include "support/AllDialogs.h"
@@ -23,8 +23,6 @@ bool Open(const AnyDialog& dialog, CWnd& owner) {
     return endsWith(dialog.nCancel) && (!dialog.bOkWorks || endsWith(IDOK));
 }
 
-// --- Soft input panel ---------------------------------------------------------------------------
-
 bool UsePanel(CWnd& owner) {
     bool bGood = true;
     for (int nMode = 0; nMode <= 2; ++nMode) {
@@ -45,8 +43,6 @@ bool UsePanel(CWnd& owner) {
     owner.SetFocus();
     return bGood;
 }
-
-// --- Things without a window ----------------------------------------------------------------------
 
 bool UseImageLists(CWnd&) {
     CImageList list, copy;
@@ -106,7 +102,9 @@ bool WriteAndReadFile(CWnd&) {
     double d = 0;
     archive >> str >> n >> d;
     const std::unique_ptr<CObject> pStack(archive.ReadObject(RUNTIME_CLASS(CStringStack)));
-    EXPECT_TRUE(str == L"座標" && n == 4711 && d == 1.5) << "read without an error";
+    EXPECT_EQ(L"座標", str); // read without an error
+    EXPECT_EQ(4711, n);
+    EXPECT_EQ(1.5, d);
     return pStack != nullptr;
 }
 
@@ -141,7 +139,9 @@ bool KeepSettings(CWnd&) {
     BYTE* pRead = nullptr;
     UINT nRead = 0;
     const bool bBytes = app.GetProfileBinary(L"Faults", L"Bytes", &pRead, &nRead);
-    EXPECT_TRUE(!bBytes || (nRead == 3 && pRead[2] == 3));
+    if (bBytes) {
+        EXPECT_EQ(std::vector<BYTE>({1, 2, 3}), std::vector<BYTE>(pRead, pRead + nRead));
+    }
     delete[] pRead;
     return app.WriteProfileString(L"Faults", nullptr, nullptr) && bWritten && bRead && bBytes;
 }

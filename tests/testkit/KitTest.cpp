@@ -10,6 +10,7 @@
 #include "testkit/TitleBar.h"
 #include "testkit/Watchdog.h"
 
+#include <array>
 #include <fstream>
 #include <iterator>
 
@@ -41,17 +42,6 @@ TEST(Pen, TapThatNobodyCouldMakeIsAFailureAndNoTap) {
     Caught caught;
     TapOk(frame);
     EXPECT_EQ(caught.m_texts.size(), 1U) << "no title bar";
-}
-
-TEST(MessageRecorder, KeepsTheTextsAndAnswers) {
-    const MessageRecorder outer;
-    {
-        const MessageRecorder recorder(IDNO);
-        EXPECT_EQ(AfxMessageBox(L"?", MB_YESNO), IDNO);
-        EXPECT_EQ(recorder.m_prompts, std::vector<CString>{L"?"});
-    }
-    EXPECT_EQ(AfxMessageBox(L"!"), IDOK);
-    EXPECT_EQ(outer.m_prompts, std::vector<CString>{L"!"});
 }
 
 TEST(Picture, OfTheScreenHasTheWindowsInIt) {
@@ -112,6 +102,26 @@ TEST(Shake, FindsWhatIsLeftByEachOpening) {
     EXPECT_NE(caught.m_texts[0].find(" windows"), std::string::npos) << caught.m_texts[0];
     for (const HWND hWnd : lost)
         ::DestroyWindow(hWnd);
+}
+
+// The counters behind "leaves nothing": each kind of leftover must show in them.
+TEST(Leftovers, CountWhatIsHeld) {
+    const Frame first; // the first window of a thread brings one of the input method along
+    const Leftovers before = Leftovers::Now();
+    {
+        const Frame frame;
+        const CBrush brush(RGB(1, 2, 3));
+        const HANDLE hEvent = ::CreateEvent(nullptr, FALSE, FALSE, nullptr);
+        const auto block = std::make_unique<std::array<char, 10000>>();
+        block->fill(1);
+        const Leftovers held = Leftovers::Now();
+        EXPECT_EQ(held.nWindows, before.nWindows + 1);
+        EXPECT_GE(held.nGdiObjects, before.nGdiObjects + 1);
+        EXPECT_GE(held.nHandles, before.nHandles + 1);
+        EXPECT_GE(held.nHeapBytes, before.nHeapBytes + 10000);
+        ::CloseHandle(hEvent);
+    }
+    EXPECT_EQ(Leftovers::Now().nWindows, before.nWindows);
 }
 
 // The ends of programs that the next test starts.
