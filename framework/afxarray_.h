@@ -5,6 +5,7 @@
 #include "afxelem_.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <vector>
@@ -129,7 +130,7 @@ void CArray<TYPE, ARG_TYPE>::Insert(INT_PTR nIndex, INT_PTR nCount, Fill fill) {
         AfxThrowInvalidArgException();
     const INT_PTR nOldSize = GetSize();
     const INT_PTR nBehind = std::max<INT_PTR>(nOldSize - nIndex, 0);
-    if (nCount > static_cast<INT_PTR>(static_cast<DWORD_PTR>(-1) / 2) - std::max(nOldSize, nIndex))
+    if (nCount > INTPTR_MAX - std::max(nOldSize, nIndex))
         AfxThrowMemoryException();
     SetSize(std::max(nOldSize, nIndex) + nCount);
     TYPE* const pTail = Data() + (nOldSize - nBehind);

@@ -49,7 +49,6 @@ CArchive::ObjectTable& CArchive::Objects() {
 }
 
 void CArchive::WriteClass(const CRuntimeClass* pClassRef) {
-    CheckMode(store);
     CheckSerializable(pClassRef);
     ObjectTable& table = Objects();
     const auto known = table.stored.find(pClassRef);
@@ -67,7 +66,6 @@ void CArchive::WriteClass(const CRuntimeClass* pClassRef) {
 }
 
 CRuntimeClass* CArchive::ReadClass(const CRuntimeClass* pClassRefRequested, UINT* pSchema, DWORD* pObTag) {
-    CheckMode(load);
     if (pClassRefRequested != nullptr)
         CheckSerializable(pClassRefRequested);
     ObjectTable& table = Objects();
@@ -130,7 +128,6 @@ void CArchive::MapObject(const CObject* pOb) {
 }
 
 void CArchive::WriteObject(const CObject* pOb) {
-    CheckMode(store);
     ObjectTable& table = Objects();
     if (pOb == nullptr) {
         *this << kNullTag;

@@ -37,7 +37,6 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
     if (m_bCloseOnDelete)
         Abort();
     m_hFile = hFileNull;
-    m_bCloseOnDelete = FALSE;
     m_strFileName = path; // while there is no open file that want of memory could lose
 
     HANDLE file = hFileNull;

@@ -3,6 +3,7 @@
 #include "TextConvert.h"
 
 #include <cstring>
+#include <utility>
 
 using namespace fieldkit::detail;
 
@@ -114,15 +115,12 @@ void CStdioFile::WriteBack() {
 
 /// Makes the file as it would be without the buffer.
 void CStdioFile::Settle() {
-    if (m_bWriting) {
-        m_bWriting = false;
-        WriteBack();
-    } else if (m_nFirst != m_nLast) {
-        const LONGLONG nAhead = m_nLast - m_nFirst;
-        m_nFirst = m_nLast = 0;
-        CFile::Seek(-nAhead, current);
-    }
+    if (std::exchange(m_bWriting, false))
+        return WriteBack();
+    const LONGLONG nAhead = m_nLast - m_nFirst;
     m_nFirst = m_nLast = 0;
+    if (nAhead != 0)
+        CFile::Seek(-nAhead, current);
 }
 
 /// The next character; of a damaged one only what belongs to it is used up.
