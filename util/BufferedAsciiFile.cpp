@@ -69,22 +69,23 @@ void CBufferedAsciiFile::SettleAnyhow() noexcept {
 UINT CBufferedAsciiFile::Read(void* lpBuf, UINT nCount) {
     if (m_bWriting)
         WriteBack();
-    auto* const pTarget = static_cast<BYTE*>(lpBuf);
+    auto* pTarget = static_cast<BYTE*>(lpBuf);
     if (nCount == 1 && m_nNext != m_nEnd) { // what ReadString asks for
         *pTarget = m_pBlock[m_nNext++];
         return 1;
     }
-    for (UINT nDone = 0;;) {
-        const UINT nPiece = std::min(nCount - nDone, m_nEnd - m_nNext);
+    for (UINT nLeft = nCount;;) {
+        const UINT nPiece = std::min(nLeft, m_nEnd - m_nNext);
         if (nPiece != 0)
-            std::memcpy(pTarget + nDone, m_pBlock.get() + m_nNext, nPiece);
+            std::memcpy(pTarget, m_pBlock.get() + m_nNext, nPiece);
+        pTarget += nPiece;
         m_nNext += nPiece;
-        nDone += nPiece;
-        if (nDone == nCount)
-            return nDone;
+        nLeft -= nPiece;
+        if (nLeft == 0)
+            return nCount;
         m_nNext = m_nEnd = 0; // used up: the file is where the block ended
-        if (nCount - nDone >= kBlockSize || !ReadAhead())
-            return nDone + CFile::Read(pTarget + nDone, nCount - nDone);
+        if (nLeft >= kBlockSize || !ReadAhead())
+            return nCount - nLeft + CFile::Read(pTarget, nLeft);
     }
 }
 
