@@ -1,44 +1,18 @@
+#include "framework_base/Link.h"
 #include "support/ArchiveBytes.h"
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <memory>
+
+IMPLEMENT_SERIAL(CLink, CObject, 1)
 
 namespace {
 
 constexpr int kNone = CArchiveException::none, kEndOfFile = CArchiveException::endOfFile;
 constexpr int kBadIndex = CArchiveException::badIndex, kBadClass = CArchiveException::badClass;
 constexpr int kBadSchema = CArchiveException::badSchema;
-
-// A chain; each link owns the next one unless it leads back.
-class CLink : public CObject {
-    DECLARE_SERIAL(CLink)
-public:
-    CLink() { ++s_alive; }
-    explicit CLink(BYTE id) : m_id(id) { ++s_alive; }
-    ~CLink() override {
-        if (m_bOwnsNext)
-            delete m_pNext;
-        --s_alive;
-    }
-    void Serialize(CArchive& ar) override {
-        if (ar.IsStoring()) {
-            ar << m_id << m_pNext;
-            return;
-        }
-        ar >> m_id;
-        const int nBefore = s_alive;
-        ar >> m_pNext;
-        m_bOwnsNext = s_alive > nBefore;
-    }
-
-    static int s_alive;
-    BYTE m_id = 0;
-    CLink* m_pNext = nullptr;
-    bool m_bOwnsNext = false;
-};
-int CLink::s_alive = 0;
-IMPLEMENT_SERIAL(CLink, CObject, 1)
 
 class CVersioned : public CObject {
     DECLARE_SERIAL(CVersioned)
@@ -66,19 +40,16 @@ IMPLEMENT_DYNAMIC(CNamed, CObject)
 // Schema, length and name, as they follow the tag of a new class.
 const std::string kLinkClass = "ffff 0100 0500 434c696e6b ";
 
-int LoadChain(const std::string& hex) {
-    std::unique_ptr<CLink> owner;
+int LoadChains(const std::string& hex, int count = 1) {
     return Loaded(FromHex(hex), [&](CArchive& ar) {
-        CLink* p = nullptr;
-        ar >> p;
-        owner.reset(p);
+        for (int i = 0; i < count; ++i)
+            delete ar.ReadObject(RUNTIME_CLASS(CLink));
     });
 }
 
 TEST(ArchiveObject, RecordsCarryClassesOnceAndObjectsByNumber) {
-    CLink a(0xA1), b(0xB2);
+    CLink a(0xA1), b(0xB2, &a);
     a.m_pNext = &b;
-    b.m_pNext = &a;
     const Bytes bytes = Stored([&](CArchive& ar) {
         ar << &a << &b << static_cast<CLink*>(nullptr);
         ar.SerializeClass(RUNTIME_CLASS(CLink));
@@ -145,12 +116,14 @@ TEST(ArchiveObject, DamagedRecordsThrowAndLeaveNothingBehind) {
              {"class number of an object", kLinkClass + "01 0280", kBadIndex},
              {"object number unknown", kLinkClass + "01 0700", kBadIndex},
              {"object number of a class", kLinkClass + "01 0100", kBadIndex},
+             {"class number behind the last", kLinkClass + "01 018002 0480", kBadIndex},
+             {"object number behind the last", kLinkClass + "01 018002 0400", kBadIndex},
              {"long class number", kLinkClass + "01 ff7f ffffffff", kBadIndex},
              {"long object number", kLinkClass + "01 ff7f ffffff7f", kBadIndex},
              {"class name of 65535 bytes", "ffff 0100 ffff 434c", kEndOfFile},
          }) {
         SCOPED_TRACE(what);
-        EXPECT_EQ(cause, LoadChain(record));
+        EXPECT_EQ(cause, LoadChains(record));
         EXPECT_EQ(0, CLink::s_alive);
     }
 }
@@ -169,20 +142,20 @@ TEST(ArchiveObject, ALostObjectCannotBeReferredTo) {
               }));
 }
 
-TEST(ArchiveObject, EndlessNestingIsRefusedBothWays) {
-    std::string hex = kLinkClass + "01";
-    for (int i = 0; i < 100'000; ++i)
-        hex += "018001";
-    EXPECT_EQ(kBadIndex, LoadChain(hex));
-    EXPECT_EQ(0, CLink::s_alive);
-
-    const auto chain = std::make_unique<CLink>();
-    CLink* pLast = chain.get();
-    for (int i = 0; i < 5000; ++i, pLast = pLast->m_pNext) {
-        pLast->m_pNext = new CLink;
-        pLast->m_bOwnsNext = true;
+TEST(ArchiveObject, NestingEndsAtAThousandBothWays) {
+    for (const auto& [depth, cause] : Rows<int, int>{{1000, kNone}, {1001, kBadIndex}}) {
+        std::deque<CLink> chain;
+        std::string hex = kLinkClass;
+        for (int i = 0; i < depth; ++i) {
+            chain.emplace_back(BYTE{1}, chain.empty() ? nullptr : &chain.back());
+            hex += i == 0 ? "01" : "018001";
+        }
+        CLink beside(2);
+        EXPECT_EQ(cause, CauseOf<CArchiveException>(
+                             [&] { Stored([&](CArchive& ar) { ar << &chain.back() << &beside; }); }));
+        EXPECT_EQ(cause, LoadChains(hex + "0000 0180020000", 2));
     }
-    EXPECT_TRUE(Throws<CArchiveException>([&] { Stored([&](CArchive& ar) { ar << chain.get(); }); }));
+    EXPECT_EQ(0, CLink::s_alive);
 }
 
 TEST(ArchiveObject, EachObjectAsksForItsSchemaNumberOnce) {
@@ -192,6 +165,7 @@ TEST(ArchiveObject, EachObjectAsksForItsSchemaNumberOnce) {
                   ar << &v;
               })));
     EXPECT_EQ(kNone, Loaded(FromHex("ffff 0100 " + name + "0180 0000"), [](CArchive& ar) {
+                  EXPECT_EQ(static_cast<UINT>(-1), ar.GetObjectSchema());
                   CVersioned* pOuter = nullptr;
                   ar >> pOuter;
                   const std::unique_ptr<CVersioned> owner(pOuter);
@@ -227,6 +201,11 @@ TEST(ArchiveObject, AReferenceMustFitItsPlace) {
     EXPECT_EQ(kNone, readAnd([](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CLink)); }));
     EXPECT_EQ(kBadClass, readAnd([](CArchive& ar) { ar.ReadObject(RUNTIME_CLASS(CVersioned)); }));
     EXPECT_EQ(kBadIndex, readAnd([](CArchive& ar) { ar.ReadClass(); }));
+    Loaded(FromHex(kLinkClass), [](CArchive& ar) {
+        DWORD tag = 0;
+        ar.ReadClass(nullptr, nullptr, &tag);
+        EXPECT_EQ(0x80000000U, tag);
+    });
 }
 
 } // namespace

@@ -86,14 +86,14 @@ TEST(Archive, StringsHaveTheUnicodeMarkAndALengthOfThreeSizes) {
 
 // The length counts UTF-16 units, also where a character of the program is wider.
 TEST(Archive, CharactersBeyondTheBasicPlaneAreSurrogates) {
-    const CString text = L"\U0001F600z";
-    const char* hex = "ff fe ff 03 3d d8 00 de 7a 00";
+    const CString text = L"\U0001F600\U00010000\U0010FFFF";
+    const char* hex = "ff fe ff 06 3d d8 00 de 00 d8 00 dc ff db ff df";
     EXPECT_EQ(hex, ToHex(Stored([&](CArchive& ar) { ar << text; })));
     CString loaded;
     Loaded(FromHex(hex), [&](CArchive& ar) { ar >> loaded; });
     EXPECT_STREQ(text, loaded);
     EXPECT_EQ(sizeof(TCHAR) == 2 ? "3d d8" : "fd ff", ToHex(Stored([&](CArchive& ar) { ar << text[0]; })));
-    const char* lone = "ff fe ff 03 00 de 3d d8 3d d8";
+    const char* lone = "ff fe ff 04 7a 00 00 de 3d d8 3d d8";
     Loaded(FromHex(lone), [&](CArchive& ar) { ar >> loaded; });
     EXPECT_EQ(lone, ToHex(Stored([&](CArchive& ar) { ar << loaded; })));
 }
@@ -144,26 +144,29 @@ TEST(Archive, TheWrongDirectionThrows) {
 
 TEST(Archive, ClosingALoadedArchiveLeavesTheFileBehindTheLastByteUsed) {
     Bytes bytes = FromHex("01 02 03 04");
-    CMemFile file(bytes.data(), 4);
-    BYTE by = 0;
-    {
+    for (const UINT used : {1, 3}) {
+        CMemFile file(bytes.data(), 4);
+        BYTE read[4] = {};
+        CArchive(&file, CArchive::load).Read(read, used);
+        EXPECT_EQ(used, file.GetPosition());
         CArchive ar(&file, CArchive::load);
-        ar >> by;
+        ar >> read[0];
+        EXPECT_EQ(used + 1, read[0]);
+        ar.Flush();
+        EXPECT_TRUE(ar.IsBufferEmpty());
     }
-    EXPECT_EQ(1U, file.GetPosition());
-    EXPECT_EQ(1U, file.Read(&by, 1));
-    EXPECT_EQ(2, by);
 }
 
 TEST(Archive, TheCallersBufferIsUsed) {
     CMemFile file;
-    BYTE buffer[128] = {};
-    CArchive ar(&file, CArchive::store, sizeof(buffer), buffer);
-    ar << BYTE{9};
-    EXPECT_EQ(9, buffer[0]);
+    BYTE buffer[129] = {};
+    CArchive ar(&file, CArchive::store, 128, buffer);
+    ar.Write(Bytes(129, 9).data(), 129);
+    EXPECT_EQ(9, buffer[127]);
+    EXPECT_EQ(0, buffer[128]) << "not the caller's any more";
     ar.Close();
     ar.Close();
-    EXPECT_EQ("09", ToHex(ContentOf(file)));
+    EXPECT_EQ(Bytes(129, 9), ContentOf(file));
     CArchive(&file, CArchive::store, 1, buffer) << BYTE{8};
     EXPECT_EQ(9, buffer[0]) << "one too small is left alone";
 }
@@ -179,8 +182,11 @@ struct FullDisk : CMemFile {
 
 TEST(Archive, AWriteErrorReachesTheCallerOnce) {
     FullDisk file;
-    const auto storeAnd = [&file](auto then) {
+    CMemFile sound;
+    const auto storeAnd = [&file, &sound](auto then) {
+        CArchive kept(&sound, CArchive::store);
         CArchive ar(&file, CArchive::store);
+        kept << 1;
         ar << 1;
         then(ar);
     };
@@ -192,6 +198,7 @@ TEST(Archive, AWriteErrorReachesTheCallerOnce) {
         [&] { storeAnd([](CArchive&) { AfxThrowArchiveException(CArchiveException::badIndex); }); }));
     EXPECT_NO_THROW(storeAnd([](CArchive& ar) { ar.Abort(); }));
     EXPECT_NO_THROW(CArchive(&file, CArchive::store | CArchive::bNoFlushOnDelete) << 1);
+    EXPECT_EQ(5 * sizeof(int), sound.GetLength()) << "each was closed on its way";
     file.m_throwsNumbers = true;
     EXPECT_THROW(storeAnd([](CArchive&) { throw std::runtime_error("first"); }), std::runtime_error);
 }

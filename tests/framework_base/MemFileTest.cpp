@@ -11,7 +11,8 @@ namespace {
 
 TEST(MemFile, GrowsAndFillsGaps) {
     CMemFile file(4);
-    file.Write("abc", 3);
+    file.Write("abcxyz", 6);
+    file.SetLength(3);
     EXPECT_EQ(6U, file.Seek(3, CFile::end));
     BYTE by = 0;
     EXPECT_EQ(0U, file.Read(&by, 1));
@@ -34,6 +35,36 @@ TEST(MemFile, SeeksWithinReason) {
     EXPECT_EQ(3U, file.GetPosition());
 }
 
+/// Shows the size of its memory and how often it gives some back.
+struct Shown : CMemFile {
+    using CMemFile::CMemFile;
+    using CMemFile::m_nBufferSize;
+    void Free(BYTE* pMemory) override {
+        ++m_freed;
+        CMemFile::Free(pMemory);
+    }
+    int m_freed = 0;
+};
+
+TEST(MemFile, MemoryGrowsInStepsAndIsGivenBack) {
+    Shown file(4);
+    for (const auto& [length, size] : Rows<ULONGLONG, std::size_t>{{4, 4}, {5, 8}, {2, 8}}) {
+        file.SetLength(length);
+        EXPECT_EQ(size, file.m_nBufferSize) << length;
+    }
+    BYTE attached[1] = {};
+    for (const int freed : {1, 2}) {
+        file.Close();
+        EXPECT_EQ(freed, file.m_freed);
+        file.Attach(attached, 1);
+        file.Close();
+        EXPECT_EQ(freed, file.m_freed);
+        file.Attach(nullptr, 0, 4);
+        file.Close();
+        file.Write("x", 1);
+    }
+}
+
 TEST(MemFile, AttachedMemoryStaysTheCallers) {
     BYTE buffer[] = {1, 2, 3};
     CMemFile fixed(buffer, 3);
@@ -41,22 +72,25 @@ TEST(MemFile, AttachedMemoryStaysTheCallers) {
     fixed.SeekToEnd();
     EXPECT_THROW(fixed.Write("x", 1), CMemoryException*);
     fixed.SeekToBegin();
-    fixed.Write("x", 1);
-    EXPECT_EQ('x', buffer[0]);
-    EXPECT_EQ(0U, fixed.Read(nullptr, 0));
+    fixed.Write("xyz", 3);
+    fixed.SetLength(1);
+    fixed.SetLength(2);
+    EXPECT_EQ("78 00 7a", ToHex(Bytes(buffer, buffer + 3)));
     fixed.Attach(nullptr, 3);
     EXPECT_EQ(0U, fixed.GetLength());
+    EXPECT_EQ(0U, fixed.GetPosition());
+    EXPECT_EQ(0U, fixed.Read(nullptr, 0));
 
     CMemFile growing(static_cast<BYTE*>(std::malloc(2)), 2, 16);
-    EXPECT_EQ(0U, growing.GetLength());
-    growing.Write("abcdefgh", 8);
-    BYTE* memory = growing.Detach();
-    EXPECT_EQ(0U, growing.GetLength());
-    EXPECT_EQ(0, std::memcmp(memory, "abcdefgh", 8));
-    std::free(memory);
-    growing.Write("again", 5);
-    growing.Flush();
-    EXPECT_EQ(5U, growing.GetLength());
+    for (const char* const text : {"abcdefgh", "again"}) { // the second is in memory of its own
+        EXPECT_EQ(0U, growing.GetLength());
+        growing.Write(text, static_cast<UINT>(std::strlen(text)));
+        growing.Flush();
+        BYTE* const memory = growing.Detach();
+        EXPECT_EQ(0, std::memcmp(memory, text, std::strlen(text)));
+        std::free(memory);
+    }
+    growing.Write("x", 1);
     growing.Abort();
     EXPECT_EQ(0U, growing.GetLength());
 }

@@ -22,6 +22,8 @@ class CSquare : public CShape {
 };
 IMPLEMENT_DYNCREATE(CSquare, CShape)
 
+struct CPlain : CObject {};
+
 TEST(Object, KnowsItsClass) {
     CSquare square;
     EXPECT_STREQ("CSquare", square.GetRuntimeClass()->m_lpszClassName);
@@ -29,6 +31,11 @@ TEST(Object, KnowsItsClass) {
     EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CSquare)) && square.IsKindOf(RUNTIME_CLASS(CShape)) &&
                 square.IsKindOf(RUNTIME_CLASS(CObject)));
     EXPECT_FALSE(CShape().IsKindOf(RUNTIME_CLASS(CSquare)));
+
+    CPlain plain; // needs no class of its own
+    ASSERT_VALID(&plain);
+    EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
+    EXPECT_EQ(Bytes(), Stored([&](CArchive& ar) { plain.Serialize(ar); }));
 
     CObject* pObject = &square;
     EXPECT_EQ(&square, DYNAMIC_DOWNCAST(CSquare, pObject));
@@ -72,6 +79,7 @@ TEST(ObjectDeathTest, FailedChecksEndADebugProgram) {
     shape.m_bValid = false;
     EXPECT_DEATH(ASSERT_VALID(&shape), "Assertion failed");
     EXPECT_DEATH(ASSERT_VALID(static_cast<CShape*>(nullptr)), "Assertion failed");
+    EXPECT_DEATH(AfxAbort(), "");
 }
 
 TEST(Exception, SayWhatHappenedToWhichFile) {
@@ -97,7 +105,8 @@ TEST(Exception, SayWhatHappenedToWhichFile) {
            L"x の形式が正しくありません。");
     expect(CArchiveException(CArchiveException::bufferFull, L"x"), L"The buffer for x is full.",
            L"x を入れる場所がいっぱいです。");
-    for (const int cause : {99, -1})
+    expect(CArchiveException(CArchiveException::none), L"No error occurred.", L"エラーはありません。");
+    for (const int cause : {99, 9, -1})
         expect(CArchiveException(cause, L"x"), L"An unknown error occurred while accessing x.",
                L"x で不明なエラーが起きました。");
     expect(CMemoryException(), L"Out of memory.", L"メモリーが足りません。");
@@ -113,15 +122,6 @@ TEST(Exception, SayWhatHappenedToWhichFile) {
     EXPECT_FALSE(CMemoryException().GetErrorMessage(nullptr, 4));
     EXPECT_THROW(AfxThrowResourceException(), CResourceException*);
     EXPECT_THROW(AfxThrowUserException(), CUserException*);
-}
-
-struct CPlain : CObject {};
-
-TEST(Object, NeedsNoClassOfItsOwn) {
-    CPlain plain;
-    ASSERT_VALID(&plain);
-    EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
-    EXPECT_TRUE(Stored([&](CArchive& ar) { plain.Serialize(ar); }).empty());
 }
 
 } // namespace

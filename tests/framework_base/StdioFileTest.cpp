@@ -1,106 +1,118 @@
-#include "support/ArchiveBytes.h"
+#include "support/TempFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
+#include <cerrno>
+#include <cstdio>
 
 namespace {
 
-constexpr UINT kNew = CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone;
-const LPCTSTR kName = L"stdio.txt";
+using namespace std::string_literals;
 
-struct StdioFile : testing::Test {
-    void SetUp() override { std::filesystem::remove(kName); }
-    void TearDown() override { SetUp(); }
-    static Bytes OnDisk() {
-        CFile file(kName, CFile::modeRead | CFile::shareDenyNone);
-        return ContentOf(file);
+struct StdioFile : TempFolder {
+    static constexpr UINT kNew = kCreate | CFile::shareDenyNone;
+
+    std::string OnDisk() const { return Text(m_path); }
+    CString Line(CStdioFile& file) const {
+        CString line = L"old";
+        return file.ReadString(line) != FALSE ? line : line + L"(none)";
     }
+
+    const CString m_path = Path(L"stdio.txt");
 };
 
 TEST_F(StdioFile, LinesHaveTheirEndsInTheFile) {
-    CStdioFile file(kName, kNew);
+    CStdioFile file(m_path, kNew);
     file.WriteString(L"one\n\ntwo");
-    EXPECT_TRUE(file.GetPosition() == 10 && file.GetLength() == 10);
+    EXPECT_EQ(10U, file.GetPosition());
+    EXPECT_EQ(10U, file.GetLength());
     file.Flush();
-    EXPECT_EQ("6f 6e 65 0d 0a 0d 0a 74 77 6f", ToHex(OnDisk()));
+    EXPECT_EQ("one\r\n\r\ntwo", OnDisk());
     file.SeekToBegin();
-    CString line = L"old";
     TCHAR text[3];
     EXPECT_STREQ(L"on", file.ReadString(text, 3));
-    EXPECT_TRUE(file.GetPosition() == 2 && file.GetLength() == 10 && file.ReadString(line) && line == L"e");
+    EXPECT_EQ(2U, file.GetPosition());
+    EXPECT_EQ(10U, file.GetLength());
+    EXPECT_STREQ(L"e", Line(file));
     EXPECT_STREQ(L"\n", file.ReadString(text, 3));
     file.Write("!", 1); // where reading stopped
     EXPECT_EQ(10U, file.GetLength());
-    EXPECT_TRUE(file.ReadString(line) && line == L"wo");
+    EXPECT_STREQ(L"w", file.ReadString(text, 2));
+    file.Write("O", 1);
     file.SeekToBegin();
     char bytes[20] = {};
     EXPECT_EQ(8U, file.Read(bytes, 20));
-    EXPECT_STREQ("one\n\n!wo", bytes);
-    EXPECT_TRUE(!file.ReadString(line) && line.IsEmpty() && file.ReadString(text, 3) == nullptr);
+    EXPECT_STREQ("one\n\n!wO", bytes);
+    EXPECT_STREQ(L"(none)", Line(file));
+    EXPECT_EQ(nullptr, file.ReadString(text, 3));
+    file.WriteString(L"x");
     file.SetLength(2);
-    EXPECT_EQ("6f 6e", ToHex(OnDisk()));
+    file.Close();
+    EXPECT_EQ("on", OnDisk());
 }
 
 TEST_F(StdioFile, ReadsWhateverIsThere) {
-    for (const auto& [hex, mode, wanted] : Rows<const char*, UINT, std::vector<LPCTSTR>>{
-             {"61 0d 62 0d 0d 0a 63 0d", CFile::typeText, {L"a\rb\r", L"c\r"}},
-             {"61 0a 62", CFile::typeText, {L"a", L"b"}},
-             {"61 1a 62", CFile::typeText, {L"a"}}, // Ctrl+Z
-             {"61 00 1a 00 0d 00 0a 00 62 00 63", CFile::typeBinary, {L"a\x1A\r", L"b"}},
+    for (const auto& [bytes, mode, wanted] : Rows<std::string, UINT, std::vector<LPCTSTR>>{
+             {"a\rb\r\r\nc\r", CFile::typeText, {L"a\rb\r", L"c\r"}},
+             {"a\nb", CFile::typeText, {L"a", L"b"}},
+             {"a\x1A"
+              "b",
+              CFile::typeText,
+              {L"a"}}, // Ctrl+Z
+             {"a\0\x1A\0\x42\x30\r\0\n\0b\0c"s, CFile::typeBinary, {L"a\x1A\x3042\r", L"b"}},
 #ifdef _WIN32
-             {"82 a0 b1 0a 82 0d 0a 61", CFile::typeText, {L"\x3042\xFF71", L"\x30FB", L"a"}},
+             {"\x82\xA0\xB1\n\x82\r\na", CFile::typeText, {L"\x3042\xFF71", L"\x30FB", L"a"}},
 #else
-             {"c3 a9 e3 81 82 f0 9f 98 80 0a 62", CFile::typeText, {L"\xE9\x3042\U0001F600", L"b"}},
-             {"e3 81 0d 0a c3 41 f0 9f", CFile::typeText, {L"\xFFFD", L"\xFFFD\x41\xFFFD"}}, // damaged
+             {"\u00E9\u3042\U0001F600\nb", CFile::typeText, {L"\u00E9\u3042\U0001F600", L"b"}},
+             {"\xE3\x81\r\n\xC3\x41\xF0\x9F", CFile::typeText, {L"\xFFFD", L"\xFFFD\x41\xFFFD"}}, // damaged
+             // Trailing bytes that are too many, at every length.
+             {"\xF0\x9F\x98\x80\x80"
+              "\xE0\xA0\x80\x80"
+              "\xC3\xA9\x80"
+              "\x80\x80"
+              "\xC0\x80",
+              CFile::typeText,
+              {L"\U0001F600\xFFFD\x0800\xFFFD\xE9\xFFFD\xFFFD\xFFFD\xFFFD"}},
 #endif
          }) {
-        SCOPED_TRACE(hex);
-        const Bytes bytes = FromHex(hex);
-        CFile(kName, kNew).Write(bytes.data(), static_cast<UINT>(bytes.size()));
-        CStdioFile file(kName, CFile::modeRead | mode);
-        CString line;
-        for (const LPCTSTR expected : wanted) {
-            EXPECT_TRUE(file.ReadString(line));
-            EXPECT_STREQ(expected, line);
-        }
-        EXPECT_FALSE(file.ReadString(line));
+        CStdioFile file(Make(L"any", bytes), CFile::modeRead | mode);
+        for (const LPCTSTR line : wanted)
+            EXPECT_STREQ(line, Line(file)) << bytes;
+        EXPECT_STREQ(L"(none)", Line(file)) << bytes;
     }
 }
 
-TEST_F(StdioFile, ADamagedCharacterDoesNotPassTheCallersMemory) {
-    CFile(kName, kNew).Write("\xE3!\n", 3);
-    CStdioFile file(kName, CFile::modeRead);
-    TCHAR text[] = L"??";
-    EXPECT_EQ(text, file.ReadString(text, 2));
-    EXPECT_TRUE(text[0] > 0x7F && text[1] == L'\0');
-    EXPECT_STREQ(L"!", file.ReadString(text, 2));
-}
-
 TEST_F(StdioFile, BinaryKeepsCharactersAsTheyAre) {
-    CStdioFile file(kName, kNew | CFile::typeBinary);
+    CStdioFile file(m_path, kNew | CFile::typeBinary);
     file.WriteString(L"\xFEFFz\r\n");
     file.Write("\n", 1);
+    file.SeekToBegin();
+    char bytes[9];
+    EXPECT_EQ(9U, file.Read(bytes, 9));
+    file.Write("!", 1); // behind a buffer that is used up
     file.Close();
     file.Close();
-    EXPECT_EQ("ff fe 7a 00 0d 00 0a 00 0a", ToHex(OnDisk()));
+    EXPECT_EQ("\xFF\xFEz\0\r\0\n\0\n!"s, OnDisk());
 }
 
 TEST_F(StdioFile, OpeningAnotherLosesNothing) {
-    CStdioFile file(kName, kNew);
+    CStdioFile file(m_path, kNew);
     file.WriteString(L"kept");
     CFileException error;
-    EXPECT_FALSE(file.Open(L"none", CFile::modeRead, &error));
+    EXPECT_FALSE(file.Open(Path(L"none"), CFile::modeRead, &error));
     EXPECT_EQ(CFileException::fileNotFound, error.m_cause);
-    EXPECT_EQ("6b 65 70 74", ToHex(OnDisk()));
-    EXPECT_TRUE(file.m_hFile == CFile::hFileNull && file.Open(kName, kNew));
+    EXPECT_EQ("kept", OnDisk());
+    EXPECT_EQ(CFile::hFileNull, file.m_hFile);
+    EXPECT_TRUE(file.Open(m_path, kNew));
     file.WriteString(L"given up");
     file.Abort();
-    EXPECT_EQ("", ToHex(OnDisk()));
+    EXPECT_EQ("", OnDisk());
+    EXPECT_TRUE(file.Open(m_path, kNew));
+    file.WriteString(L"new");
+    file.Close();
+    EXPECT_EQ("new", OnDisk());
 }
 
 TEST_F(StdioFile, RefusesWhatItCannotDo) {
-    CStdioFile file(kName, kNew);
+    CStdioFile file(m_path, kNew);
     TCHAR text[2];
     EXPECT_THROW(file.WriteString(nullptr), CInvalidArgException*);
     EXPECT_THROW(file.ReadString(nullptr, 2), CInvalidArgException*);
@@ -108,57 +120,58 @@ TEST_F(StdioFile, RefusesWhatItCannotDo) {
     EXPECT_THROW(static_cast<void>(file.Duplicate()), CNotSupportedException*);
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException*);
     EXPECT_THROW(file.UnlockRange(0, 1), CNotSupportedException*);
-    EXPECT_TRUE(Throws<CFileException>([] { CStdioFile(L"none", CFile::modeRead); }));
+    EXPECT_EQ(CFileException::accessDenied, CauseOf([&] { CStdioFile(Path(L""), CFile::modeRead); }));
 }
 
 TEST_F(StdioFile, AStreamStaysTheCallersAndAsItIs) {
-    struct Row {
-        const char *mode, *before, *after; ///< what the stream writes itself, what is on disk in the end
-    };
-    for (const Row& row : {
+    const CStringA path(m_path);
+    // before: what the stream writes itself
+    for (const auto& [mode, before, after] : Rows<const char*, const char*, std::string>{
 #ifdef _WIN32
-             Row{"w", "1\n", "31 0d 0a 61 0d 0a 32 0d 0a"}, Row{"wb", "1\n", "31 0a 61 00 0a 00 32 0a"},
-             Row{"a", "", "31 0a 61 00 0a 00 32 0a 61 0d 0a 32 0d 0a"}, // behind the row before
+             {"w", "1\n", "1\r\na\r\n2"},
+             {"wb", "1\n", "1\na\0\n\0002"s},
+             {"a", "", "1\na\0\n\0002a\r\n2"s}, // behind the row before
 #else
-             Row{"w", "1\n", "31 0a 61 0d 0a 32 0a"},
-             Row{"a", "", "31 0a 61 0d 0a 32 0a 61 0d 0a 32 0a"},
+             {"w", "1\n", "1\na\r\n2"},
+             {"a", "", "1\na\r\n2a\r\n2"},
 #endif
          }) {
-        SCOPED_TRACE(row.mode);
-        std::FILE* const stream = std::fopen("stdio.txt", row.mode);
+        SCOPED_TRACE(mode);
+        std::FILE* const stream = std::fopen(path, mode);
         ASSERT_NE(nullptr, stream);
-        std::fputs(row.before, stream);
+        std::fputs(before, stream);
         {
             CStdioFile file(stream);
             EXPECT_EQ(stream, file.m_pStream);
             file.WriteString(L"a\n");
+            errno = EIO; // of something else
+            file.Flush();
         }
-        EXPECT_GE(std::fputs("2\n", stream), 0);
+        EXPECT_EQ(after, OnDisk() + "2");
+        EXPECT_GE(std::fputs("2", stream), 0);
         CStdioFile(stream).Close();
-        EXPECT_EQ(row.after, ToHex(OnDisk()));
+        EXPECT_EQ(after, OnDisk());
     }
-    CStdioFile file(std::fopen("stdio.txt", "r"));
-    CString line;
-    EXPECT_TRUE(file.ReadString(line) && line == L"1");
-    EXPECT_TRUE(Throws<CFileException>([&] {
-        file.WriteString(L"x");
-        file.Flush();
-    }));
+    std::FILE* const stream = std::fopen(CStringA(Make(L"read", "1\r\na\r\n")), "r");
+    EXPECT_EQ('1', std::fgetc(stream));
+    CStdioFile file(stream);
+    EXPECT_STREQ(L"", Line(file));
+    EXPECT_STREQ(L"a", Line(file));
+    EXPECT_TRUE(Throws<CFileException>([&] { file.WriteString(L"x"), file.Flush(); }));
     file.Abort();
-    EXPECT_TRUE(file.m_hFile == CFile::hFileNull && file.m_pStream == nullptr);
+    EXPECT_EQ(CFile::hFileNull, file.m_hFile);
+    EXPECT_EQ(nullptr, file.m_pStream);
 }
 
 TEST_F(StdioFile, LongTextsPassTheBuffer) {
-    {
-        CStdioFile file(kName, kNew);
-        for (int i = 0; i < 3; ++i)
-            file.WriteString(CString(L'x', 4095) + L"\n");
-    }
-    CStdioFile file(kName, CFile::modeRead);
-    CString line;
+    const CString line(L'x', 4095);
+    CStdioFile file(m_path, kNew);
     for (int i = 0; i < 3; ++i)
-        EXPECT_TRUE(file.ReadString(line) && line.GetLength() == 4095);
-    EXPECT_FALSE(file.ReadString(line));
+        file.WriteString(line + L"\n");
+    file.SeekToBegin();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_STREQ(line, Line(file));
+    EXPECT_STREQ(L"(none)", Line(file));
 }
 
 } // namespace

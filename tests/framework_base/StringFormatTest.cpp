@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <cwchar>
@@ -33,6 +34,7 @@ TEST(StringFormat, TextFormsMeanWideUnlessNarrowIsAsked) {
 
 TEST(StringFormat, NumbersAreTheSameEverywhere) {
     EXPECT_STREQ(L"-7|+7| 7|007|7  |7  ", Formatted(L"%d|%+d|% d|%03d|%-3d|%-03d", -7, 7, 7, 7, 7, 7));
+    EXPECT_STREQ(L"    7|0", Formatted(L"%05.0d|%d", 7, 0));
     EXPECT_STREQ(L"4294967295 ff FF 0xff 0XFF 377",
                  Formatted(L"%u %x %X %#x %#X %o", ~0U, 255, 255, 255, 255, 255));
     EXPECT_STREQ(L"0 0 010 010", Formatted(L"%#x %#X %#o %#.3o", 0, 0, 8, 8));
@@ -45,12 +47,16 @@ TEST(StringFormat, NumbersAreTheSameEverywhere) {
     EXPECT_STREQ(L"4294967295 7 8", Formatted(L"%Lu %Iu %lu", ~0U, INT_PTR{7}, 8UL));
     EXPECT_STREQ(L"3.142 -0.5 1e+20 1.5E-07", Formatted(L"%.3f %g %g %.1E", 3.14159, -0.5, 1e20, 1.5e-7));
     EXPECT_STREQ(L"1.5e+00 INF 1.5E+20 1.25", Formatted(L"%.1e %F %G %.2Lf", 1.5, HUGE_VAL, 1.5e20, 1.25L));
-    for (const LPCTSTR exact : {L"%a", L"%A"})
+    for (const auto& [exact, mark] : {std::pair{L"%a", L'x'}, {L"%A", L'X'}}) {
         EXPECT_EQ(1.5, std::wcstod(Formatted(exact, 1.5), nullptr));
+        EXPECT_EQ(1, Formatted(exact, 1.5).Find(mark));
+    }
     EXPECT_STREQ(L"  1.50|1.50  |001.50", Formatted(L"%6.2f|%-6.2lf|%06.2f", 1.5, 1.5, 1.5));
     EXPECT_STREQ(L"+1.50     | +1.", Formatted(L"%- +#010.2f|%# +4.0f", 1.5, 1.0));
     EXPECT_STREQ(L"0.50", Formatted(L"%.102f", 0.5).Left(4));
-    EXPECT_STREQ(L"inf nan", Formatted(L"%f %g", HUGE_VAL, std::abs(std::nan(""))));
+    EXPECT_STREQ(L"1.500000 2", Formatted(L"%f %.0f", 1.5, 2.0));
+    const double none = std::abs(std::nan(""));
+    EXPECT_STREQ(L"inf nan NAN", Formatted(L"%f %g %G", HUGE_VAL, none, none));
     const auto address = static_cast<INT_PTR>(0xAB);
     const CString pointer = Formatted(L"%p", reinterpret_cast<void*>(address));
     EXPECT_EQ(static_cast<int>(2 * sizeof(void*)), pointer.GetLength());
@@ -60,10 +66,13 @@ TEST(StringFormat, NumbersAreTheSameEverywhere) {
 TEST(StringFormat, OddFormatsDoNoHarm) {
     EXPECT_STREQ(L"100%", Formatted(L"%d%%", 100));
     EXPECT_STREQ(L"y\x3042", Formatted(L"%y%\x3042"));
-    EXPECT_STREQ(L"end", Formatted(L"end%"));
+    EXPECT_STREQ(L"\x0164", Formatted(L"%\x0164", 1)); // whose low byte is a d
+    EXPECT_EQ(3, Formatted(L"end%").GetLength());
     EXPECT_STREQ(L"end", Formatted(L"end%-08.3l"));
     EXPECT_STREQ(L"", Formatted(nullptr));
     EXPECT_EQ(1'000'000, Formatted(L"%99999999999999d", 1).GetLength());
+    for (const int width : {INT_MIN, INT_MAX})
+        EXPECT_EQ(1'000'000, Formatted(L"%*d", width, 1).GetLength());
 }
 
 } // namespace

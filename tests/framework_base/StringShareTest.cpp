@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <functional>
 #include <thread>
@@ -15,34 +16,34 @@ static_assert(sizeof(CString) == sizeof(void*));
 static_assert(std::is_same_v<CString, CStringT<wchar_t>> && std::is_nothrow_move_constructible_v<CString>);
 
 TEST(StringShare, ACopyKeepsItsTextWhateverHappensToTheOther) {
-    const std::pair<const char*, std::function<void(CString&)>> changes[] = {
-        {"SetAt", [](CString& s) { s.SetAt(0, L'x'); }},
-        {"GetBuffer", [](CString& s) { s.GetBuffer()[0] = L'x', s.ReleaseBuffer(); }},
-        {"ReleaseBuffer", [](CString& s) { s.ReleaseBuffer(1); }},
-        {"AppendChar", [](CString& s) { s.AppendChar(L'x'); }},
-        {"+=", [](CString& s) { s += s; }},
-        {"+ of a temporary", [](CString& s) { s = std::move(s) + L"x"; }},
-        {"MakeUpper", [](CString& s) { s.MakeUpper(); }},
-        {"MakeReverse", [](CString& s) { s.MakeReverse(); }},
-        {"Replace", [](CString& s) { s.Replace(L'a', L'b'); }},
-        {"Remove", [](CString& s) { s.Remove(L'b'); }},
-        {"Insert", [](CString& s) { s.Insert(0, L"x"); }},
-        {"Delete", [](CString& s) { s.Delete(0); }},
-        {"Trim", [](CString& s) { s.Trim(); }},
-        {"Truncate", [](CString& s) { s.Truncate(2); }},
-        {"Format", [](CString& s) { s.Format(L"<%s>", s); }},
-        {"= its own tail", [](CString& s) { s = s.GetString() + 1; }},
-        {"Preallocate", [](CString& s) { s.Preallocate(100), s.SetAt(0, L'x'); }},
-        {"LockBuffer", [](CString& s) { s.LockBuffer()[0] = L'x', s.UnlockBuffer(); }},
+    const Rows<const char*, LPCTSTR, std::function<void(CString&)>> changes = {
+        {"SetAt", L"xabcab ", [](CString& s) { s.SetAt(0, L'x'); }},
+        {"GetBuffer", L"xabcab ", [](CString& s) { s.GetBuffer()[0] = L'x', s.ReleaseBuffer(); }},
+        {"ReleaseBuffer", L" ", [](CString& s) { s.ReleaseBuffer(1); }},
+        {"AppendChar", L" abcab x", [](CString& s) { s.AppendChar(L'x'); }},
+        {"+=", L" abcab  abcab ", [](CString& s) { s += s; }},
+        {"+ of a temporary", L" abcab x", [](CString& s) { s = std::move(s) + L"x"; }},
+        {"MakeUpper", L" ABCAB ", [](CString& s) { s.MakeUpper(); }},
+        {"MakeReverse", L" bacba ", [](CString& s) { s.MakeReverse(); }},
+        {"Replace", L" bbcbb ", [](CString& s) { s.Replace(L'a', L'b'); }},
+        {"Remove", L" aca ", [](CString& s) { s.Remove(L'b'); }},
+        {"Insert", L"x abcab ", [](CString& s) { s.Insert(0, L"x"); }},
+        {"Delete", L"abcab ", [](CString& s) { s.Delete(0); }},
+        {"Trim", L"abcab", [](CString& s) { s.Trim(); }},
+        {"Truncate", L" a", [](CString& s) { s.Truncate(2); }},
+        {"Format", L"< abcab >", [](CString& s) { s.Format(L"<%s>", s); }},
+        {"= its own tail", L"abcab ", [](CString& s) { s = s.GetString() + 1; }},
+        {"Preallocate", L"xabcab ", [](CString& s) { s.Preallocate(100), s.SetAt(0, L'x'); }},
+        {"LockBuffer", L"xabcab ", [](CString& s) { s.LockBuffer()[0] = L'x', s.UnlockBuffer(); }},
     };
-    for (const auto& [what, change] : changes) {
+    for (const auto& [what, changed, change] : changes) {
         SCOPED_TRACE(what);
         const CString original = L" abcab ";
         CString copy = original;
         EXPECT_EQ(original.GetString(), copy.GetString());
         change(copy);
         EXPECT_STREQ(L" abcab ", original);
-        EXPECT_STRNE(original, copy);
+        EXPECT_STREQ(changed, copy);
         CString(copy).SetAt(0, L'?'); // what was made is shared and given back rightly again
     }
 }
@@ -104,6 +105,7 @@ TEST(StringNarrow, HasTheSameMembers) {
         EXPECT_EQ(order, CStringA(a).CompareNoCase(b)) << a << b;
     EXPECT_LT(CStringA("a").Collate("b"), 0);
     EXPECT_EQ(0, CStringA("a").CollateNoCase("A"));
+    EXPECT_LT(CStringA("a").CollateNoCase("B"), 0);
     EXPECT_STREQ(CStringA(L"AZ{[\x3042Z"), CStringA(L"az{[\x3042z").MakeUpper());
     EXPECT_STREQ(CStringA(L"az{[\x3042z"), CStringA(L"AZ{[\x3042Z").MakeLower());
     EXPECT_STREQ("\x01 \x85", CStringA(" \x01 \x85\t").Trim());
@@ -131,15 +133,18 @@ TEST(StringMembers, DoWhatTheDocumentationSays) {
     s.Truncate(9);
     s.Append(CString(L"x"));
     EXPECT_STREQ(L"abcdx", s);
-    s.GetBufferSetLength(8);
     s.ReleaseBufferSetLength(3);
     EXPECT_STREQ(L"abc", s);
     EXPECT_THROW(s.Append(L"x", INT_MAX), CMemoryException*);
-    CString none = s;
-    none.ReleaseBufferSetLength(-1);
-    EXPECT_STREQ(L"", none);
+    for (const auto& [length, text] : {std::pair{-1, L""}, {0, L""}, {1, L"a"}}) {
+        CString cut = s;
+        cut.ReleaseBufferSetLength(length);
+        EXPECT_STREQ(text, cut);
+    }
     EXPECT_LT(s.Collate(L"abd"), 0);
+    EXPECT_NE(0, s.Collate(L"ABC"));
     EXPECT_EQ(0, s.CollateNoCase(L"ABC"));
+    EXPECT_LT(s.CollateNoCase(L"ABD"), 0);
     EXPECT_EQ(3, CString::StringLength(s));
     CString::CopyCharsOverlapped(s.GetBuffer() + 1, s, 2);
     s.ReleaseBuffer();
@@ -151,6 +156,19 @@ TEST(StringMembers, DoWhatTheDocumentationSays) {
     EXPECT_LT(s.GetAllocLength(), 20);
 }
 
+TEST(StringMembers, NewCharactersAreNul) {
+    CString s;
+    s.Preallocate(20);
+    const int all = s.GetAllocLength();
+    std::fill_n(s.GetBufferSetLength(all), all, L'x');
+    s.ReleaseBufferSetLength(2);
+    const LPCTSTR text = s.GetBufferSetLength(all);
+    EXPECT_EQ(all - 2, std::count(text, text + all, L'\0'));
+    EXPECT_EQ(all, s.GetLength());
+    s.GetBufferSetLength(0);
+    EXPECT_TRUE(s.IsEmpty());
+}
+
 TEST(StringShare, SmallRoomIsKeptAndMuchIsNot) {
     for (const int nRoom : {100, 1000}) {
         const CString text = L"abc";
@@ -160,6 +178,10 @@ TEST(StringShare, SmallRoomIsKeptAndMuchIsNot) {
         EXPECT_EQ(nRoom == 1000, assigned.GetString() == text.GetString()) << nRoom;
         EXPECT_STREQ(L"abc", assigned);
     }
+    const CString much(L'x', 200);
+    CString little = L"a";
+    little = much;
+    EXPECT_EQ(much.GetString(), little.GetString()) << "there was no room for it";
     CString none; // the text of all empty strings: nothing is copied into it
     CString room;
     room.Preallocate(10);

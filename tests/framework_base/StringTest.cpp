@@ -1,5 +1,6 @@
 #include "afx.h"
 
+#include "support/Order.h"
 #include "support/Rows.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,7 @@ void ExpectAll(const std::vector<Made>& table) {
 }
 
 TEST(String, IsConstructedFromEveryKindOfText) {
+    const CString two = L"2";
     ExpectAll({{"empty", {}, L""},
                {"null", kNullText, L""},
                {"null narrow", kNullNarrow, L""},
@@ -41,6 +43,9 @@ TEST(String, IsConstructedFromEveryKindOfText) {
                {"length keeps NULs", {L"a\0b", 3}, std::wstring(L"a\0b", 3)},
                {"negative length", {L"abc", -1}, L""},
                {"sum of nothing", L"" + CString(), L""},
+               {"sum of one", L"a" + CString(), L"a"},
+               {"sum with narrow text", two + "3", L"23"},
+               {"sum with a character", two + '3', L"23"},
                {"sums", '1' + (L'2' + ("3" + (L"4" + CString(L"5") + "6"))) + '7', L"1234567"}});
 }
 
@@ -82,8 +87,8 @@ TEST(String, EditsInPlace) {
          {"insert into nothing", edited(L"", [](CString& s) { s.Insert(0, L"a"); }), L"a"},
          {"insert with room", edited(L"ac", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }),
           L"abc"},
-         {"insert itself with room", edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(1, s); }),
-          L"aabb"},
+         {"insert own tail with room",
+          edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(0, s.GetString() + 1); }), L"bab"},
          {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
          {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
          {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
@@ -98,6 +103,7 @@ TEST(String, EditsInPlace) {
          {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
          {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
          {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
+         {"trim set at both ends", edited(L"xyaxy", [](CString& s) { s.Trim(L"yx"); }), L"a"},
          {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
          {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
          {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
@@ -112,7 +118,7 @@ TEST(String, EditsInPlace) {
          {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
          {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
          {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
-         {"free extra", edited(L"ab", [](CString& s) { s.FreeExtra(); }), L"ab"},
+         {"free extra", edited(L"a", [](CString& s) { s.FreeExtra(); }), L"a"},
          {"free all", edited(L"ab", [](CString& s) { s.Truncate(0), s.FreeExtra(); }), L""},
          {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"}});
 }
@@ -138,9 +144,10 @@ TEST(String, ReplacesAndRemovesAndCounts) {
     }
     CString s = L"banana";
     EXPECT_EQ(0, s.Replace(L'a', L'a') + s.Replace(L'x', L'a') + s.Remove(L'x'));
+    EXPECT_EQ(1, s.Replace(L'b', L'c'));
     EXPECT_EQ(3, s.Replace(L'a', L'o'));
     EXPECT_EQ(2, s.Remove(L'n'));
-    EXPECT_STREQ(L"booo", s);
+    EXPECT_STREQ(L"cooo", s);
     EXPECT_EQ(1, s.Replace(s, s.GetString() + 3));
     EXPECT_STREQ(L"o", s);
 }
@@ -152,6 +159,7 @@ TEST(String, FindsFromTheStartGiven) {
     EXPECT_EQ(-1, s.Find(L'b', 5));
     EXPECT_EQ(-1, s.Find(L'b', 99));
     EXPECT_EQ(-1, s.Find(L'b', -1));
+    EXPECT_EQ(0, s.Find(L"abc"));
     EXPECT_EQ(3, s.Find(L"abc", 1));
     EXPECT_EQ(-1, s.Find(L"abcd"));
     EXPECT_EQ(-1, s.Find(nullptr));
@@ -166,21 +174,26 @@ TEST(String, FindsFromTheStartGiven) {
 
 TEST(String, Compares) {
     const CString s = L"abc";
-    EXPECT_EQ(0, s.Compare(L"abc"));
-    EXPECT_LT(s.Compare(L"abd"), 0);
-    EXPECT_GT(s.Compare(L"ab"), 0);
-    EXPECT_GT(s.Compare(nullptr), 0);
-    EXPECT_EQ(0, s.CompareNoCase(L"aBC"));
-    EXPECT_LT(s.CompareNoCase(L"ABD"), 0);
-    EXPECT_GT(s.CompareNoCase(L"AB"), 0);
-    EXPECT_LT(CString(L"_").CompareNoCase(L"A"), 0); // case is folded downwards
-
-    EXPECT_TRUE(s == L"abc" && L"abc" == s && s == CString(s) && s == "abc" && L'a' == CString(L"a"));
-    EXPECT_TRUE(s != L"abd" && L"abd" != s && s != CString() && L'a' != s);
-    EXPECT_TRUE(s != L'a' && CString(L"b") != L'a' && s < L"abd" && L"abb" < s && s < CString(L"b"));
-    EXPECT_TRUE(s > L"abb" && L"abd" > s && s > CString() && s <= L"abc" && L"abc" <= s && s <= CString(s));
-    EXPECT_TRUE(s >= L"abc" && L"abc" >= s && s >= CString(s));
-    EXPECT_FALSE(s < L"abc" || L"abc" > s || s <= L"abb" || L"abb" >= s);
+    for (const auto& [text, order] :
+         Rows<LPCTSTR, int>{{L"abc", 0}, {L"abd", -1}, {L"ab", 1}, {nullptr, 1}}) {
+        ExpectOrder(order, s.Compare(text), 0);
+        ExpectOrder(order, s, text);
+        ExpectOrder(-order, text, s);
+        ExpectOrder(order, s, CString(text));
+    }
+    for (const auto& [a, b, order] : Rows<CString, LPCTSTR, int>{{L"abc", L"aBC", 0},
+                                                                 {L"abc", L"abd", -1},
+                                                                 {L"abc", L"ABD", -1},
+                                                                 {L"abc", L"AB", 1},
+                                                                 {L"_", L"A", -1}})
+        ExpectOrder(order, a.CompareNoCase(b), 0); // case is folded downwards
+    for (const auto& [text, equal] : Rows<CString, bool>{{L"a", true}, {L"b", false}, {L"ab", false}}) {
+        EXPECT_EQ(equal, text == L'a');
+        EXPECT_EQ(equal, L'a' == text);
+        EXPECT_EQ(!equal, text != L'a');
+        EXPECT_EQ(!equal, L'a' != text);
+    }
+    EXPECT_EQ("abc", s);
 }
 
 TEST(String, IndexOutsideThrows) {

@@ -1,4 +1,5 @@
 #include "support/ArchiveBytes.h"
+#include "support/Order.h"
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,7 @@ TEST(Time, HasPartsAndText) {
     EXPECT_EQ(3000, time.Format(CString(L'x', 3000)).GetLength());
     EXPECT_STREQ(L"1970", CTime(0).FormatGmt(L"%Y"));
     EXPECT_EQ(70, CTime(0).GetGmtTm()->tm_year);
+    EXPECT_EQ(3000 - 1900, CTime(32'535'215'999).GetGmtTm()->tm_year);
     std::tm parts{};
     EXPECT_TRUE(time.GetLocalTm(&parts) == &parts && parts.tm_mday == 29);
     EXPECT_TRUE(CTime(0).GetGmtTm(&parts) == &parts && parts.tm_mday == 1);
@@ -49,31 +51,25 @@ TEST(Time, RefusesWhatIsNoTime) {
     }
 }
 
-template <class Value>
-void ExpectOrder() {
-    for (const LONGLONG n : {1, 2, 3}) {
-        const Value a(n), b(LONGLONG{2});
-        EXPECT_TRUE((a == b) == (n == 2) && (a != b) == (n != 2) && (a < b) == (n < 2) &&
-                    (a > b) == (n > 2) && (a <= b) == (n <= 2) && (a >= b) == (n >= 2))
-            << n;
-    }
-}
-
 TEST(Time, CalculatesInSeconds) {
-    ExpectOrder<CTime>();
-    ExpectOrder<CTimeSpan>();
-    CTimeSpan span(1, 2, 3, 4);
-    EXPECT_TRUE(span.GetDays() == 1 && span.GetHours() == 2 && span.GetMinutes() == 3 &&
+    for (const LONGLONG n : {1, 2, 3}) {
+        ExpectOrder(static_cast<int>(n - 2), CTime(n), CTime(LONGLONG{2}));
+        ExpectOrder(static_cast<int>(n - 2), CTimeSpan(n), CTimeSpan(LONGLONG{2}));
+    }
+    CTimeSpan span(101, 2, 3, 4);
+    EXPECT_TRUE(span.GetDays() == 101 && span.GetHours() == 2 && span.GetMinutes() == 3 &&
                 span.GetSeconds() == 4);
-    EXPECT_TRUE(span.GetTotalHours() == 26 && span.GetTotalMinutes() == 26 * 60 + 3 &&
-                span.GetTotalSeconds() == (26 * 60 + 3) * 60 + 4);
+    EXPECT_TRUE(span.GetTotalHours() == 2426 && span.GetTotalMinutes() == 2426 * 60 + 3 &&
+                span.GetTotalSeconds() == (2426 * 60 + 3) * 60 + 4);
     EXPECT_EQ(CTimeSpan(5), CTimeSpan(2) + CTimeSpan(7) - CTimeSpan(4));
     (span += CTimeSpan(10)) -= CTimeSpan(1);
-    EXPECT_STREQ(L"1d 02:03:13 %", span.Format(L"%Dd %H:%M:%S %%"));
+    EXPECT_STREQ(L"101d 02:03:13 %", span.Format(L"%Dd %H:%M:%S %%"));
     EXPECT_STREQ(L"", span.Format(LPCTSTR{nullptr}));
     EXPECT_STREQ(L"-3", CTimeSpan(-3 * 86400).Format(L"%D"));
     for (const LPCTSTR wrong : {L"%Y", L"%"})
         EXPECT_THROW(span.Format(wrong), CInvalidArgException*);
+    EXPECT_EQ(0, CTimeSpan().GetTimeSpan());
+    EXPECT_EQ(0, CTime().GetTime());
     CTime time(LONGLONG{100});
     (time += CTimeSpan(30)) -= CTimeSpan(10);
     EXPECT_EQ(CTimeSpan(20), time - CTime(LONGLONG{100}));

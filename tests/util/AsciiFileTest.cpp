@@ -1,27 +1,17 @@
 #include "util/AsciiFile.h"
 
-#include "support/Rows.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <string>
-#include <vector>
+#include "support/TempFolder.h"
 
 namespace {
 
-const CString PATH = L"ascii_file_test.txt";
-
-/// A file that is removed again afterwards.
-struct AsciiFile : testing::Test {
-    ~AsciiFile() override { std::remove("ascii_file_test.txt"); }
+struct AsciiFile : TempFolder {
+    std::vector<CString> LinesOf(const std::string& bytes) const;
 };
 
 /// What the calls give until the end; in brackets what the text holds after a refused line.
-std::vector<CString> LinesOf(const std::string& bytes) {
-    CFile(PATH, CFile::modeCreate | CFile::modeWrite).Write(bytes.data(), static_cast<UINT>(bytes.size()));
+std::vector<CString> AsciiFile::LinesOf(const std::string& bytes) const {
     CAsciiFile file;
-    EXPECT_TRUE(file.Open(PATH, CFile::modeRead));
+    EXPECT_TRUE(file.Open(Make(L"a", bytes), CFile::modeRead));
     std::vector<CString> lines;
     CString line;
     do
@@ -33,10 +23,7 @@ std::vector<CString> LinesOf(const std::string& bytes) {
 TEST_F(AsciiFile, LinesEndWithCrAndComeWithoutBlanksAndControls) {
     const std::string x(511, 'x');
     const CString strX(L'x', 511);
-    const struct {
-        std::string bytes;
-        std::vector<CString> lines;
-    } rows[] = {
+    const Rows<std::string, std::vector<CString>> rows = {
         {"AB C\r\nDE\r\nF", {L"ABC", L"DE", L"(DE)"}},
         {std::string("\rA\n\t\x01\x1F\x7F\0!\r", 10), {L"", L"A\x7F!"}},
 #ifdef _WIN32 // natively a code page has one byte a character
@@ -47,8 +34,8 @@ TEST_F(AsciiFile, LinesEndWithCrAndComeWithoutBlanksAndControls) {
         {x + "\r" + x + "ytail\r", {strX, L"(" + strX + L")", L"tail"}},
         {"", {L"()"}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.lines, LinesOf(row.bytes)) << row.bytes;
+    for (const auto& [bytes, lines] : rows)
+        EXPECT_EQ(lines, LinesOf(bytes)) << bytes;
 }
 
 TEST_F(AsciiFile, WritesLinesInTheOemCodePage) {
@@ -66,12 +53,9 @@ TEST_F(AsciiFile, WritesLinesInTheOemCodePage) {
     };
     for (const auto& [line, content] : rows) {
         CAsciiFile file;
-        ASSERT_TRUE(file.Open(PATH, CFile::modeCreate | CFile::modeReadWrite));
+        ASSERT_TRUE(file.Open(Path(L"a"), kCreate | CFile::shareDenyNone));
         file.WriteString(line);
-        std::string bytes(static_cast<size_t>(file.GetLength()), '\0');
-        file.SeekToBegin();
-        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-        EXPECT_EQ(content, bytes);
+        EXPECT_EQ(content, Text(Path(L"a")));
     }
 }
 

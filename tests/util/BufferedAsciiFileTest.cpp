@@ -1,10 +1,6 @@
 #include "util/BufferedAsciiFile.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <random>
-#include <string>
+#include "support/TempFolder.h"
 
 namespace {
 
@@ -67,13 +63,6 @@ std::string Step(CAsciiFile& file, unsigned seed) try {
     return "cause " + std::to_string(nCause) + " at " + std::to_string(file.GetPosition());
 }
 
-std::string Contents(LPCTSTR pszPath) {
-    CFile file(pszPath, CFile::modeRead);
-    std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
-    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
-}
-
 std::string LongText() {
     std::string text;
     for (unsigned i = 0; i < 3 * kBlock; ++i)
@@ -81,30 +70,29 @@ std::string LongText() {
     return text;
 }
 
-TEST(BufferedAsciiFile, ReadsOnBehindTheBlockWithoutAnother) {
+struct BufferedAsciiFile : TempFolder {};
+
+TEST_F(BufferedAsciiFile, ReadsOnBehindTheBlockWithoutAnother) {
     const std::string text = LongText();
     CBufferedAsciiFile file;
-    ASSERT_TRUE(file.Open(L"buffered.txt", CFile::modeCreate | CFile::modeReadWrite));
-    file.Write(text.data(), static_cast<UINT>(text.size()));
-    file.SeekToBegin();
-    std::string read(text.size(), '\0');
+    ASSERT_TRUE(file.Open(Make(L"a", text), CFile::modeRead));
+    std::string read(2 * kBlock + 1, '\0');
     EXPECT_EQ(1U, file.Read(read.data(), 1));
     EXPECT_EQ(2 * kBlock, file.Read(read.data() + 1, 2 * kBlock));
     EXPECT_EQ(2 * kBlock + 1, file.GetPosition());
-    EXPECT_EQ(text.substr(0, 2 * kBlock + 1), read.substr(0, 2 * kBlock + 1));
-    file.Close();
-    std::remove("buffered.txt");
+    EXPECT_EQ(text.substr(0, 2 * kBlock + 1), read);
 }
 
-TEST(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
+TEST_F(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
     const std::string start = LongText();
+    const CString plainPath = Path(L"plain"), bufferedPath = Path(L"buffered");
     for (unsigned nRun = 0; nRun < 20; ++nRun) {
         {
             CAsciiFile plain;
             CBufferedAsciiFile buffered;
-            for (auto [pFile, pszPath] :
-                 {std::pair<CAsciiFile*, LPCTSTR>(&plain, L"plain.txt"), {&buffered, L"buffered.txt"}}) {
-                ASSERT_TRUE(pFile->Open(pszPath, CFile::modeCreate | CFile::modeReadWrite));
+            for (auto [pFile, path] :
+                 {std::pair<CAsciiFile*, CString>(&plain, plainPath), {&buffered, bufferedPath}}) {
+                ASSERT_TRUE(pFile->Open(path, kCreate));
                 pFile->Write(start.data(), static_cast<UINT>(start.size()));
             }
             for (unsigned nStep = 0; nStep < 60; ++nStep)
@@ -113,10 +101,8 @@ TEST(BufferedAsciiFile, GivesInAnyOrderOfCallsWhatAnAsciiFileGives) {
             if (nRun % 2 == 0)
                 buffered.Close();
         }
-        EXPECT_EQ(Contents(L"plain.txt"), Contents(L"buffered.txt")) << nRun;
+        EXPECT_EQ(Text(plainPath), Text(bufferedPath)) << nRun;
     }
-    std::remove("plain.txt");
-    std::remove("buffered.txt");
 }
 
 } // namespace

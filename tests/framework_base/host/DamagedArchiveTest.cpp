@@ -1,87 +1,38 @@
+#include "framework_base/Link.h"
 #include "support/host/DamagedBytes.h"
 
 #include "afxcoll.h"
 #include "afxtempl.h"
 
-#include <memory>
-
 namespace {
 
-// Two references, each to nothing, to a new joint or back to an earlier one.
-class CJoint : public CObject {
-    DECLARE_SERIAL(CJoint)
-public:
-    CJoint() { ++s_made; }
-    ~CJoint() override {
-        for (const Reference& reference : m_references)
-            if (reference.owned)
-                delete reference.pJoint;
-    }
-    void Serialize(CArchive& ar) override {
-        for (Reference& reference : m_references) {
-            if (ar.IsStoring()) {
-                ar << reference.pJoint;
-                continue;
-            }
-            const int nBefore = s_made;
-            ar >> reference.pJoint;
-            reference.owned = s_made > nBefore; // else it is somebody else's
-        }
-        if (ar.IsStoring())
-            ar << m_name;
-        else
-            ar >> m_name;
-    }
-
-    struct Reference {
-        CJoint* pJoint = nullptr;
-        bool owned = false;
-    };
-    static int s_made;
-    Reference m_references[2];
-    CString m_name = L"name";
-};
-int CJoint::s_made = 0;
-IMPLEMENT_SERIAL(CJoint, CObject, 1)
-
-TEST(DamagedArchive, GraphsWithCirclesAreFreedOnce) {
-    CJoint a, b, c;
-    a.m_references[0].pJoint = &b;
-    a.m_references[1].pJoint = &c;
-    b.m_references[0].pJoint = &a;
-    b.m_references[1].pJoint = &b;
-    c.m_references[0].pJoint = &b;
-    c.m_references[1].pJoint = &a;
+TEST(DamagedArchive, CirclesAreFreedOnce) {
+    CLink a(1), c(3, &a), b(2, &c);
+    a.m_pNext = &b;
     LoadDamaged(Stored([&](CArchive& ar) { ar << &a; }),
-                [](CArchive& ar) { delete ar.ReadObject(RUNTIME_CLASS(CJoint)); });
+                [](CArchive& ar) { delete ar.ReadObject(RUNTIME_CLASS(CLink)); });
 }
 
 TEST(DamagedArchive, CollectionsAndValuesComeToAnEnd) {
-    CStringList list;
-    CStringArray strings;
-    CArray<double, double> numbers;
-    CMap<int, int, CString, LPCTSTR> map;
-    list.AddTail(L"text");
-    strings.Add(L"\x6E2C\x70B9");
-    numbers.Add(1.5);
-    map.SetAt(7, L"seven");
-    LoadDamaged(
-        Stored([&](CArchive& ar) {
+    struct Content {
+        void Serialize(CArchive& ar) {
             for (CObject* pObject : std::initializer_list<CObject*>{&list, &strings, &numbers, &map})
                 pObject->Serialize(ar);
-            ar << CString(L'x', 300) << true;
-        }),
-        [](CArchive& ar) {
-            CStringList list1;
-            CStringArray strings1;
-            CArray<double, double> numbers1;
-            CMap<int, int, CString, LPCTSTR> map1;
-            for (CObject* pObject : std::initializer_list<CObject*>{&list1, &strings1, &numbers1, &map1})
-                pObject->Serialize(ar);
-            CString text;
-            bool flag = false;
-            ar >> text >> flag;
-        });
+            ar.IsStoring() ? ar << text << flag : ar >> text >> flag;
+        }
+        CStringList list;
+        CStringArray strings;
+        CArray<double, double> numbers;
+        CMap<int, int, CString, LPCTSTR> map;
+        CString text{L'x', 300};
+        bool flag = true;
+    } content;
+    content.list.AddTail(L"text");
+    content.strings.Add(L"\x6E2C\x70B9");
+    content.numbers.Add(1.5);
+    content.map.SetAt(7, L"seven");
+    LoadDamaged(Stored([&](CArchive& ar) { content.Serialize(ar); }),
+                [](CArchive& ar) { Content().Serialize(ar); });
 }
 
 // The number of elements is what the file says; the bytes for them are few or many.

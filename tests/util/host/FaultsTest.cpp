@@ -1,11 +1,11 @@
 // What the texts utilities make of want of memory, bad disks and damaged files.
+#include "support/TempFolder.h"
 #include "support/host/DamagedBytes.h"
 #include "util/BufferedAsciiFile.h"
 #include "util/StringStack.h"
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cwchar>
 #include <memory>
 
@@ -89,12 +89,16 @@ TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
     g_converter = Converter::Sound;
 }
 
-TEST(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
+struct BufferedAsciiFileFaults : TempFolder {
+    const CString m_path = Path(L"faults.txt");
+};
+
+TEST_F(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
     const auto fail = [](long nth) { faults::FailCall(nullptr, EIO, nth); };
-    const auto use = [](bool bClose) {
+    const auto use = [this](bool bClose) {
         CBufferedAsciiFile file;
         CFileException error;
-        if (!file.Open(L"faults.txt", CFile::modeCreate | CFile::modeReadWrite, &error))
+        if (!file.Open(m_path, kCreate, &error))
             AfxThrowFileException(error.m_cause);
         file.WriteString(kLong);
         file.SeekToBegin();
@@ -113,35 +117,32 @@ TEST(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
     EXPECT_EQ(before, faults::Now());
 }
 
-TEST(BufferedAsciiFileFaults, AfterALossTheNextFileIsClean) {
-    constexpr UINT kMode = CFile::modeCreate | CFile::modeReadWrite;
+TEST_F(BufferedAsciiFileFaults, AfterALossTheNextFileIsClean) {
     CBufferedAsciiFile file;
     for (const bool bClose : {true, false}) {
-        ASSERT_TRUE(file.Open(L"faults.txt", kMode));
+        ASSERT_TRUE(file.Open(m_path, kCreate));
         file.Seek(100, CFile::begin);
         file.WriteString(L"lost");
         faults::FailCall("write", EIO);
         EXPECT_EQ(bClose ? faults::End::FileError : faults::End::Done,
                   faults::EndOf([&] { bClose ? file.Close() : file.Abort(); }));
         EXPECT_TRUE(faults::Disarm() && file.m_hFile == CFile::hFileNull);
-        EXPECT_EQ(0U, CFile(L"faults.txt", CFile::modeRead).GetLength()) << "not written a second time";
-        ASSERT_TRUE(file.Open(L"faults.txt", kMode));
+        EXPECT_EQ(0U, CFile(m_path, CFile::modeRead).GetLength()) << "not written a second time";
+        ASSERT_TRUE(file.Open(m_path, kCreate));
         CString str;
         EXPECT_TRUE(file.GetPosition() == 0 && file.GetLength() == 0 && file.ReadString(str) == 0);
         file.WriteString(L"kept");
         faults::FailCall("fsync", EIO);
         EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
-        ASSERT_TRUE(file.Open(L"faults2.txt", kMode));
+        ASSERT_TRUE(file.Open(Path(L"another"), kCreate));
         file.Close();
-        EXPECT_TRUE(file.m_hFile == CFile::hFileNull &&
-                    CFile(L"faults.txt", CFile::modeRead).GetLength() == 6);
+        EXPECT_TRUE(file.m_hFile == CFile::hFileNull && CFile(m_path, CFile::modeRead).GetLength() == 6);
     }
-    std::remove("faults2.txt");
 }
 
-TEST(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
+TEST_F(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
     CBufferedAsciiFile file;
-    ASSERT_TRUE(file.Open(L"faults.txt", CFile::modeCreate | CFile::modeReadWrite));
+    ASSERT_TRUE(file.Open(m_path, kCreate));
     file.WriteString(L"1");
     for (const int nError : {ENOSPC, EIO}) {
         faults::FailCall("write", nError);
@@ -164,10 +165,10 @@ TEST(BufferedAsciiFileFaults, WhatTheDiskDidNotTakeIsWrittenTheNextTime) {
     file.Close();
 }
 
-TEST(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
+TEST_F(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
     CBufferedAsciiFile file;
-    ASSERT_TRUE(file.Open(L"faults.txt", CFile::modeReadWrite | CFile::shareDenyNone));
-    CFile other(L"faults.txt", CFile::modeReadWrite | CFile::shareDenyNone);
+    ASSERT_TRUE(file.Open(Make(L"faults.txt", "1\r\n2\r\n"), CFile::modeReadWrite | CFile::shareDenyNone));
+    CFile other(m_path, CFile::modeReadWrite | CFile::shareDenyNone);
     char bytes[4] = {};
     file.Read(bytes, 1);
     other.Write("abc", 3);
@@ -179,7 +180,6 @@ TEST(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
     other.Seek(4, CFile::begin);
     EXPECT_EQ(1U, other.Read(bytes, 1));
     EXPECT_EQ('d', bytes[0]);
-    std::remove("faults.txt");
 }
 
 } // namespace
