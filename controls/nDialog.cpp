@@ -85,7 +85,7 @@ void CnDialog::InitFullScreen() {
     ShowWindow(SW_SHOWMAXIMIZED);
     // Showing the dialog has focused its first control. A derived class may attach that only
     // now: the focus comes again, and is noticed, when the initialisation is over.
-    if (const CWnd* pFocus = GetFocus(); pFocus != nullptr && IsChild(pFocus))
+    if (::IsChild(m_hWnd, ::GetFocus()))
         ::SetFocus(nullptr);
 }
 
@@ -208,8 +208,8 @@ void CnDialog::OnLButtonUp(UINT nFlags, CPoint point) {
         CRect place = m_rcDrag;
         // A child stands in its parent's coordinates. For a popup GetParent gives the owner,
         // whose coordinates are not the popup's.
-        if (CWnd* pParent = GetParent(); pParent != nullptr && (GetStyle() & WS_CHILD))
-            pParent->ScreenToClient(place);
+        if (GetStyle() & WS_CHILD)
+            GetParent()->ScreenToClient(place);
         ReleaseCapture();
         MoveWindow(place.left, place.top, place.Width(), place.Height(), TRUE);
         RedrawWindow(nullptr, nullptr, 0);

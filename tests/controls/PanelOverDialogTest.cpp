@@ -86,9 +86,9 @@ TEST(PanelOverDialog, IsShownWhenASheetOpensWithItsFieldFocused) {
         }
         CnEdit m_edit; // attached last of all
     } page;
-    CnPropertySheet sheet(L"設定", nullptr, 0);
+    CnPropertySheet sheet(1500, nullptr, 0); // any text of the library
     sheet.AddPage(&page);
-    PlayAndEnd(sheet, {panel::IsVisible});
+    PlayAndEnd(sheet, {panel::IsVisible, [&] { EXPECT_EQ(Screen(), RectOf(sheet)); }});
 }
 
 TEST(PanelOverDialog, IsSeenOverASecondDialogAndAgainOverTheFirst) {

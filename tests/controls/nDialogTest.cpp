@@ -215,6 +215,19 @@ TEST(nDialog, MoveWithoutContactIsNotForTheFrame) {
     PlayAndEnd(dlg, {press, lift});
 }
 
+TEST(nDialog, ChildIsDraggedWithinItsParent) {
+    Frame parent;
+    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &parent);
+    WhileOpen(dlg, [&] {
+        dlg.ModifyStyle(WS_POPUP, WS_CHILD);
+        dlg.SetParent(&parent);
+        dlg.MoveWindow(5, 5, 100, 80);
+        const CRect home = dlg.Rect();
+        DragBy(dlg, CSize(10, 20));
+        EXPECT_EQ(home + CPoint(10, 20), dlg.Rect());
+    });
+}
+
 TEST(nDialog, LiftWithoutAPressGoesToTheStoredFrameIfThereIsOne) {
     const CRect home(CPoint(20, 60), CSize(140, 100));
     Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);

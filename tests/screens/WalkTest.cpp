@@ -45,6 +45,22 @@ const auto LANGUAGES = testing::ValuesIn(fx::WalkLanguages());
 INSTANTIATE_TEST_SUITE_P(Dialogs, EveryScreen, testing::Combine(testing::ValuesIn(fx::DIALOGS), LANGUAGES));
 INSTANTIATE_TEST_SUITE_P(Modes, EveryScreen, testing::Combine(testing::ValuesIn(fx::FILE_MODES), LANGUAGES));
 
+TEST(Lists, TakeWhatTheScreenHasMore) {
+    Drive drive;
+    fx::FillDrive(drive);
+    const Rows<INT_PTR (*)(CWnd*), int> rows = {{fx::SelectFile<CFileSelectDlg::ModeSave>, 1151},
+                                                {fx::SelectFolder, 1100},
+                                                {fx::ShowLongResult, 1077}};
+    for (const auto& [open, nID] : rows) {
+        const auto look = [nList = nID] {
+            const HWND hWnd = ::GetActiveWindow();
+            EXPECT_GE(RectOf(::GetDlgItem(hWnd, nList)).right, RectOf(hWnd).right - AfxScale(hWnd, 20));
+            fx::Cancel(hWnd);
+        };
+        Play([open = open] { return open(nullptr); }, {look});
+    }
+}
+
 /// Below its field a full-screen dialog opens others while the panel stays.
 struct Behind : CnDialog {
     Behind() : CnDialog(210, nullptr) {}

@@ -72,12 +72,20 @@ inline INT_PTR OpenMenu(CWnd* pOwner) {
     return CButtonMenuDlg(1503, &ids, pOwner).DoModal();
 }
 
+inline INT_PTR SelectFolder(CWnd* pOwner) {
+    return CBrowseFolderDlg(L"\\作業", pOwner).DoModal();
+}
+
 template <class... Texts>
 INT_PTR ShowResult(CWnd* pOwner, Texts... texts) {
     CResultDlg dlg(texts..., pOwner);
     for (int i = 0; i < 3; ++i)
         dlg.AddString(L"N  -35300.123");
     return dlg.DoModal();
+}
+
+inline INT_PTR ShowLongResult(CWnd* pOwner) {
+    return ShowResult(pOwner, 1500, 1501); // identifiers make a full-screen dialog
 }
 
 inline INT_PTR AskQuestion(CWnd*) {
@@ -124,12 +132,12 @@ inline INT_PTR OpenSheet(CWnd* pOwner) {
 
 constexpr AnyDialog DIALOGS[] = {
     {"FileSave", SelectFile<CFileSelectDlg::ModeSave>},
-    {"Folder", [](CWnd* p) { return CBrowseFolderDlg(L"\\作業", p).DoModal(); }, IDCANCEL, true},
+    {"Folder", SelectFolder, IDCANCEL, true},
     {"Members", SelectMembers, IDCANCEL, true},
     {"Menu", OpenMenu, IDCANCEL, true},
     {"Input", [](CWnd* p) { return CInputDlg(L"新しい点の点名を入れてください", L"点の登録", p).DoModal(); }},
     {"Result", [](CWnd* p) { return ShowResult(p, L"3件の結果があります", L"結果"); }},
-    {"ResultFullScreen", [](CWnd* p) { return ShowResult(p, 1500, 1501); }},
+    {"ResultFullScreen", ShowLongResult},
     {"Question", AskQuestion, IDNO},
     {"Sheet", OpenSheet},
 };
