@@ -1,5 +1,6 @@
 // What the device's shell does for dialogs: full screen, the OK button in the title bar,
 // the command bar. The screen is the device's or larger.
+#include "support/Child.h"
 #include "support/Form.h"
 #include "testkit/Drive.h"
 #include "testkit/Pen.h"
@@ -129,8 +130,7 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     Frame frame;
     EXPECT_EQ(static_cast<LRESULT>(AFX_TABLET_DISABLE_PRESSANDHOLD),
               frame.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0));
-    Patient child;
-    ASSERT_TRUE(child.Create(WC_STATIC, L"", WS_CHILD, CRect(5, 5, 50, 50), &frame, 1));
+    fx::Child<Patient> child(frame, 0, CRect(5, 5, 50, 50));
     CPoint point(3, 4);
     child.ClientToScreen(&point);
     EXPECT_EQ(0, child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)));

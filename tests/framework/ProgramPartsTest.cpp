@@ -87,8 +87,7 @@ TEST(BitmapButton, ShowsThePictureOfItsState) {
     };
     fx::Canvas canvas;
     Frame frame;
-    Button button;
-    ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(3, 3, 50, 50), &frame, 1));
+    fx::Child<Button> button(frame, BS_OWNERDRAW);
     for (int i = 0; i < 4; ++i)
         button.m_bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
     button.SizeToContent();

@@ -227,12 +227,9 @@ TEST(Relatives, AreFoundFromAnyWindow) {
     const Rows<const CWnd*, const CWnd*> rows = {
         {&second, frame.GetDescendantWindow(3)},     {&second, frame.GetDescendantWindow(3, TRUE)},
         {nullptr, frame.GetDescendantWindow(9)},     {&frame, inner.GetParentOwner()},
-        {&frame, popup.GetTopLevelOwner()},          {&second, inner.GetNextWindow()},
-        {&inner, second.GetNextWindow(GW_HWNDPREV)},
-    };
-    int nRow = 0;
+        {&frame, popup.GetTopLevelOwner()},      };
     for (const auto& [pExpected, pFound] : rows)
-        EXPECT_EQ(pExpected, pFound) << nRow++;
+        EXPECT_EQ(pExpected, pFound);
 }
 
 } // namespace

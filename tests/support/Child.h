@@ -13,12 +13,12 @@ template <class Control>
 struct Child : Control {
     explicit Child(CWnd& parent, DWORD dwStyle = 0, const CRect& rect = CRect(0, 0, 150, 80), UINT nID = 1) {
         dwStyle |= WS_CHILD | WS_VISIBLE;
-        if constexpr (std::is_same_v<Control, CWnd>)
-            EXPECT_TRUE(this->Create(WC_STATIC, L"", dwStyle, rect, &parent, nID));
+        if constexpr (requires { this->Create(dwStyle, rect, &parent, nID); })
+            EXPECT_TRUE(this->Create(dwStyle, rect, &parent, nID));
         else if constexpr (requires { this->Create(L"", dwStyle, rect, &parent, nID); })
             EXPECT_TRUE(this->Create(L"", dwStyle, rect, &parent, nID));
         else
-            EXPECT_TRUE(this->Create(dwStyle, rect, &parent, nID));
+            EXPECT_TRUE(this->Create(WC_STATIC, L"", dwStyle, rect, &parent, nID));
     }
 };
 
