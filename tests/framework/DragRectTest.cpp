@@ -34,35 +34,21 @@ TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
     }
 }
 
-TEST(DragRect, AWholeDragLeavesThePictureAsItWas) {
-    struct Step {
-        CRect rect;
-        CSize size;
-        CBrush* pBrush;
-    };
+// With the same brush all the way, a dialog is dragged in tests/controls.
+TEST(DragRect, AnotherBrushAndThicknessAreTakenBackToo) {
+    fx::Canvas canvas;
+    CDC& dc = canvas.m_dc;
+    for (int i = 0; i < 40 * 40; ++i) // an inverted pixel is always seen
+        dc.SetPixel(i % 40, i / 40, RGB(6 * (i % 40), 6 * (i / 40), 100));
+    const auto before = Pixels(dc);
     CBrush white(RGB(255, 255, 255)), red(RGB(255, 0, 0));
-    const std::vector<Step> drags[] = {
-        {{{2, 2, 20, 15}, THIN, nullptr}, {{5, 3, 23, 16}, THIN, nullptr}, {{22, 20, 40, 38}, THIN, nullptr}},
-        {{{2, 2, 20, 20}, {3, 3}, &white}, {{8, 8, 35, 35}, THIN, &red}},
-    };
-    for (const std::vector<Step>& steps : drags) {
-        fx::Canvas canvas;
-        CDC& dc = canvas.m_dc;
-        for (int i = 0; i < 40 * 40; ++i) // an inverted pixel is always seen
-            dc.SetPixel(i % 40, i / 40, RGB(6 * (i % 40), 6 * (i / 40), 100));
-        const auto before = Pixels(dc);
-        dc.DrawDragRect(steps[0].rect, steps[0].size, nullptr, THIN, steps[0].pBrush);
-        EXPECT_NE(before, Pixels(dc));
-        for (size_t i = 1; i < steps.size(); ++i)
-            dc.DrawDragRect(steps[i].rect, steps[i].size, steps[i - 1].rect, steps[i - 1].size,
-                            steps[i].pBrush, steps[i - 1].pBrush);
-        const Step& last = steps.back();
-        const auto shown = Pixels(dc);
-        dc.DrawDragRect(last.rect, last.size, nullptr, THIN, last.pBrush);
-        EXPECT_EQ(before, Pixels(dc));
-        dc.DrawDragRect(last.rect, last.size, nullptr, THIN, last.pBrush);
-        EXPECT_EQ(shown, Pixels(dc)) << "only the last frame was on the screen";
-    }
+    const CRect first(2, 2, 20, 20), second(8, 8, 35, 35);
+    const CSize thick(3, 3);
+    dc.DrawDragRect(first, thick, nullptr, THIN, &white);
+    EXPECT_NE(before, Pixels(dc));
+    dc.DrawDragRect(second, THIN, first, thick, &red, &white);
+    dc.DrawDragRect(second, THIN, nullptr, THIN, &red);
+    EXPECT_EQ(before, Pixels(dc));
 }
 
 TEST(DragRect, DoesNotDependOnWhatElseIsSetInTheContext) {

@@ -1,6 +1,5 @@
 // Drawing: the state of device contexts, what appears on a bitmap, who deletes pens and brushes.
 #include "Canvas.h"
-#include "support/Child.h"
 
 #include <algorithm>
 
@@ -10,27 +9,6 @@ namespace {
 
 constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
-
-TEST(DeviceContext, PaintContextValidatesTheWindow) {
-    fx::Heard<Frame> wnd;
-    int nPaints = 0;
-    wnd.m_hear = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message != WM_PAINT)
-            return {};
-        CPaintDC dc(&wnd);
-        EXPECT_EQ(CRect(10, 10, 20, 20), CRect(dc.m_ps.rcPaint));
-        dc.FillSolidRect(0, 0, 100, 100, RED);
-        return ++nPaints;
-    };
-    wnd.ValidateRect(nullptr);
-    wnd.InvalidateRect(CRect(10, 10, 20, 20), FALSE);
-    wnd.UpdateWindow();
-    wnd.UpdateWindow();
-    EXPECT_EQ(1, nPaints);
-    CClientDC dc(&wnd);
-    EXPECT_EQ(RED, dc.GetPixel(19, 19));
-    EXPECT_NE(RED, dc.GetPixel(20, 20)) << "outside of what was invalid";
-}
 
 /// Selects an object and the previous one again.
 template <class Object>

@@ -1,7 +1,6 @@
 // Windows: which object belongs to which, who outlives whom, where they stand.
 #include "support/Child.h"
 
-#include <memory>
 #include <set>
 
 using namespace testkit;
@@ -125,36 +124,6 @@ TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
     EXPECT_FALSE(second.SubclassDlgItem(5, &frame));
 }
 
-TEST(WindowDestruction, ObjectFirstTakesItsWindowAlong) {
-    Frame frame;
-    const Foreign foreign;
-    HWND hCreated = nullptr;
-    {
-        const Child<CWnd> created(frame);
-        hCreated = created;
-        CWnd attached;
-        attached.Attach(foreign);
-    }
-    for (const HWND hWnd : {hCreated, HWND{foreign}}) {
-        EXPECT_FALSE(::IsWindow(hWnd));
-        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
-    }
-}
-
-TEST(WindowDestruction, WindowFirstEmptiesItsObjectAndThoseOfItsChildren) {
-    auto pFrame = std::make_unique<Frame>();
-    Child<CWnd> child(*pFrame), sibling(*pFrame);
-    Child<CStatic> grandchild(child);
-    const HWND hSibling = sibling;
-    ::DestroyWindow(hSibling);
-    EXPECT_EQ(nullptr, sibling.m_hWnd);
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hSibling));
-    EXPECT_FALSE(sibling.DestroyWindow());
-    pFrame.reset();
-    EXPECT_EQ(nullptr, child.m_hWnd);
-    EXPECT_EQ(nullptr, grandchild.m_hWnd);
-}
-
 TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
     int nDeleted = 0;
     Frame frame;
@@ -225,9 +194,10 @@ TEST(Relatives, AreFoundFromAnyWindow) {
     CWnd popup;
     ASSERT_TRUE(popup.CreateEx(0, WC_STATIC, L"", WS_POPUP, CRect(0, 0, 5, 5), &frame, 0));
     const Rows<const CWnd*, const CWnd*> rows = {
-        {&second, frame.GetDescendantWindow(3)},     {&second, frame.GetDescendantWindow(3, TRUE)},
-        {nullptr, frame.GetDescendantWindow(9)},     {&frame, inner.GetParentOwner()},
-        {&frame, popup.GetTopLevelOwner()},      };
+        {&second, frame.GetDescendantWindow(3)}, {&second, frame.GetDescendantWindow(3, TRUE)},
+        {nullptr, frame.GetDescendantWindow(9)}, {&frame, inner.GetParentOwner()},
+        {&frame, popup.GetTopLevelOwner()},
+    };
     for (const auto& [pExpected, pFound] : rows)
         EXPECT_EQ(pExpected, pFound);
 }
