@@ -2,6 +2,7 @@
 
 #include "testkit/detail/Png.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 
@@ -96,6 +97,17 @@ void SaveScreen() {
     const bool bSaved = Picture::OfScreen().Save(path);
     std::printf("%s: %s\n", bSaved ? "the screen then" : "cannot save the screen",
                 Utf8(path.c_str()).c_str());
+}
+
+void KeepScreen(std::string name) {
+    static int s_nPictures = 100; // so that their names are in order
+    wchar_t szFolder[MAX_PATH];
+    if (::GetEnvironmentVariable(L"FIELDKIT_PICTURES", szFolder, MAX_PATH) == 0)
+        return;
+    std::replace(name.begin(), name.end(), '/', '-');
+    const std::wstring path = szFolder + (L'\\' + std::to_wstring(++s_nPictures)) + L'-' +
+                              std::wstring(name.begin(), name.end()) + L".png";
+    Picture::OfScreen().Save(path);
 }
 
 } // namespace testkit

@@ -66,4 +66,8 @@ void SetPictureFolder(const std::wstring& folder);
 /// up to 20 of them; reporters call this for each failure. Prints where it is.
 void SaveScreen();
 
+/// Keeps what is on the screen if the environment variable FIELDKIT_PICTURES names a folder, as
+/// "101-NAME.png" and so on: all screens that a test has come by, to be looked at after it.
+void KeepScreen(std::string name);
+
 } // namespace testkit

@@ -1,5 +1,8 @@
 // The texts of the library in both of its languages.
-#include "support/Languages.h"
+#include "support/TestApp.h"
+#include "testkit/Languages.h"
+
+using namespace testkit;
 
 namespace {
 
@@ -9,8 +12,8 @@ TEST(Languages, HaveTheSameNumbersControlsAndPlaceholdersAndFit) {
         int nAtLeast; ///< So that an empty module does not pass.
     } ROWS[] = {{L"FieldkitFx.dll", 60}, {L"Fieldkit.dll", 21}, {L"Tesuvo.dll", 8}};
     for (const auto& row : ROWS) {
-        SCOPED_TRACE(fx::Utf8(row.pszModule));
-        EXPECT_GE(languages::Compare(::GetModuleHandle(row.pszModule)), row.nAtLeast);
+        SCOPED_TRACE(Utf8(row.pszModule));
+        EXPECT_LE(row.nAtLeast, CompareLanguages(::GetModuleHandle(row.pszModule), kJapanese, kEnglish));
     }
 }
 

@@ -1,11 +1,6 @@
-// A table of cases: a row a case, whose columns get their names where it is gone through.
+// The kit's tables, in the tests of the library without its namespace.
 #pragma once
 
-#include <initializer_list>
-#include <tuple>
+#include "testkit/Rows.h"
 
-///     const Rows<double, LPCTSTR> rows = {{1.5, L"1.5"}, {2, L"2"}};
-///     for (const auto& [number, text] : rows)
-/// A column must own what it holds: a list of initialisers would be gone when its row is read.
-template <class... Columns>
-using Rows = std::initializer_list<std::tuple<Columns...>>;
+using testkit::Rows;

@@ -2,9 +2,11 @@
 
 #include "TestFile.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
+
+using testkit::Rows;
 
 namespace {
 

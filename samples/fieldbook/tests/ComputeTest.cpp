@@ -5,7 +5,7 @@
 #include "points/PointFile.h"
 #include "geometry/Vector.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +15,8 @@
 void PrintTo(const CCoordinate& point, std::ostream* pOut) {
     *pOut << "N " << point.GetN() << " E " << point.GetE();
 }
+
+using testkit::Rows;
 
 namespace {
 

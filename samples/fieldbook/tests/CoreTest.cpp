@@ -7,11 +7,13 @@
 #include "screens/JournalGroups.h"
 
 #include "TestFile.h"
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+
+using testkit::Rows;
 
 namespace {
 

@@ -1,11 +1,13 @@
 #include "points/CodePage.h"
 #include "points/FileText.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
 
 using namespace std::string_literals;
+
+using testkit::Rows;
 
 namespace {
 

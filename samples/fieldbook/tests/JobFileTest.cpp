@@ -12,7 +12,7 @@
 #include "screens/SecondTap.h"
 #include "screens/Resource.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <sstream>
 

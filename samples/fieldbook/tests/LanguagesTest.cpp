@@ -1,12 +1,19 @@
 // The texts of the program in both of its languages.
-#include "support/Languages.h"
+#include "testkit/Languages.h"
 
 #include "screens/Resource.h"
+#include "testkit/Rows.h"
+#include "testkit/GTest.h"
+#include "testkit/Layout.h"
+
+#include "afxwin.h"
+
+using namespace testkit;
 
 namespace {
 
 TEST(Languages, HaveTheSameNumbersControlsAndPlaceholdersAndFit) {
-    EXPECT_GE(languages::Compare(::GetModuleHandle(nullptr)), 200);
+    EXPECT_LE(200, CompareLanguages(::GetModuleHandle(nullptr), kJapanese, kEnglish));
 }
 
 /// Fills a text with what is as long as it gets in the field.
@@ -27,19 +34,10 @@ CSize SizeOf(HWND hControl, const CString& str, int nWidth) {
     return needed.Size();
 }
 
-/// The texts of the program in a language, by number.
-std::map<UINT, CString> AllTexts(LANGID wLanguage) {
-    std::map<UINT, CString> all;
-    const HMODULE hModule = ::GetModuleHandle(nullptr);
-    for (const WORD nBlock : languages::NumbersOf(hModule, RT_STRING))
-        all.merge(languages::TextsOf(hModule, nBlock, wLanguage));
-    return all;
-}
-
 class TextsOfTheTable : public testing::TestWithParam<LANGID> {};
 
 TEST_P(TextsOfTheTable, FitWhereTheProgramPutsThem) {
-    const std::map<UINT, CString> texts = AllTexts(GetParam());
+    const std::map<UINT, CString> texts = StringsOf(::GetModuleHandle(nullptr), GetParam());
     // nControl: 0 for the title bar.
     const Rows<UINT, UINT, WORD, int> rows = {
         {IDS_LINES, IDS_AREA, IDD_REPORT, 0},
@@ -65,31 +63,29 @@ TEST_P(TextsOfTheTable, FitWhereTheProgramPutsThem) {
         {IDS_READING, IDS_SORTING, IDD_PROGRESS, 0},
     };
     for (const auto& [nFirst, nLast, nDialog, nControl] : rows) {
-        const languages::Dialog dialog(::GetModuleHandle(nullptr), nDialog, GetParam());
+        const TemplateWindow dialog(::GetModuleHandle(nullptr), nDialog, GetParam());
         for (auto it = texts.lower_bound(nFirst); it != texts.upper_bound(nLast); ++it) {
             const HWND hText = nControl != 0 ? ::GetDlgItem(dialog, nControl) : HWND(dialog);
             ::SetWindowText(hText, Filled(it->second));
-            EXPECT_TRUE(nControl != 0 ? languages::Fits(*CWnd::FromHandle(hText))
-                                      : languages::CaptionFits(dialog))
-                << "text " << it->first << ": " << fx::Utf8(Filled(it->second));
+            EXPECT_TRUE(nControl != 0 ? TextFits(hText) : dialog.TitleFits())
+                << "text " << it->first << ": " << Utf8(Filled(it->second));
         }
     }
 }
 
 /// No word is broken there, and no line is below what the field shows without being scrolled.
 TEST_P(TextsOfTheTable, FitIntoAMessage) {
-    const languages::Dialog dialog(::GetModuleHandle(nullptr), IDD_MESSAGE, GetParam());
+    const TemplateWindow dialog(::GetModuleHandle(nullptr), IDD_MESSAGE, GetParam());
     const HWND hField = ::GetDlgItem(dialog, IDC_MESSAGE);
     CRect room;
     ::GetClientRect(hField, room);
-    for (const auto& [nId, str] : AllTexts(GetParam())) {
+    for (const auto& [nId, str] : StringsOf(::GetModuleHandle(nullptr), GetParam())) {
         const CSize size = SizeOf(hField, Filled(str), room.Width());
-        EXPECT_LE(size.cx, room.Width()) << "text " << nId << ": " << fx::Utf8(str);
-        EXPECT_LE(size.cy, 8 * SizeOf(hField, L"X", room.Width()).cy)
-            << "text " << nId << ": " << fx::Utf8(str);
+        EXPECT_LE(size.cx, room.Width()) << "text " << nId << ": " << Utf8(str);
+        EXPECT_LE(size.cy, 8 * SizeOf(hField, L"X", room.Width()).cy) << "text " << nId << ": " << Utf8(str);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(In, TextsOfTheTable, testing::Values(languages::JAPANESE, languages::ENGLISH));
+INSTANTIATE_TEST_SUITE_P(In, TextsOfTheTable, testing::Values(kJapanese, kEnglish));
 
 } // namespace

@@ -3,11 +3,13 @@
 #include "plan/PlanClip.h"
 #include "plan/PlanSpace.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+using testkit::Rows;
 
 namespace {
 

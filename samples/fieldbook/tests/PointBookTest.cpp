@@ -1,8 +1,10 @@
 #include "points/PointBook.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
+
+using testkit::Rows;
 
 namespace {
 

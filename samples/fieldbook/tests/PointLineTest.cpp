@@ -1,10 +1,12 @@
 #include "points/PointLine.h"
 
-#include "support/Rows.h"
+#include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
 
 using fieldkit::survey::kNull;
+
+using testkit::Rows;
 
 namespace {
 
