@@ -36,7 +36,6 @@ CButtonMenuDlg::CButtonMenuDlg(int nTitleId, CUIntArray* pEntryIds, CWnd* pParen
 
 CButtonMenuDlg::~CButtonMenuDlg() {
     DeleteButtons(); // a dialog that was ended by neither OK nor cancel has them still
-    m_buttons.RemoveAll();
 }
 
 int CButtonMenuDlg::GetMenuIndex() const {

@@ -59,8 +59,6 @@ CSelMemberDlg::~CSelMemberDlg() = default;
 
 void CSelMemberDlg::DoDataExchange(CDataExchange* pDX) {
     CnDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, IDC_FK_MEMBER_UP, m_btnUp);
-    DDX_Control(pDX, IDC_FK_MEMBER_DOWN, m_btnDown);
     DDX_Control(pDX, IDC_FK_MEMBER_AVAILABLE, m_lbAvailable);
     DDX_Control(pDX, IDC_FK_MEMBER_CURRENT, m_lbCurrent);
 }

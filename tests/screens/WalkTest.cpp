@@ -60,8 +60,14 @@ TEST(Lists, TakeWhatTheScreenHasMore) {
                                                 {fx::ShowLongResult, 1077}};
     for (const auto& [open, nID] : rows) {
         const auto look = [nList = nID] {
-            const HWND hWnd = ::GetActiveWindow();
-            EXPECT_GE(RectOf(::GetDlgItem(hWnd, nList)).right, RectOf(hWnd).right - AfxScale(hWnd, 20));
+            const HWND hWnd = ::GetActiveWindow(), hList = ::GetDlgItem(hWnd, nList);
+            EXPECT_GE(RectOf(hList).right, RectOf(hWnd).right - AfxScale(hWnd, 20));
+            LRESULT lColumns = 0;
+            for (WPARAM nColumn = 0; nColumn < 3; ++nColumn)
+                lColumns += ::SendMessage(hList, LVM_GETCOLUMNWIDTH, nColumn, 0);
+            if (nList == 1151) {
+                EXPECT_GE(lColumns, RectOf(hList).Width() - AfxScale(hWnd, 30));
+            }
             fx::Cancel(hWnd);
         };
         Play([open = open] { return open(nullptr); }, {look});
