@@ -66,7 +66,8 @@ public:
     }
     void LimitText(long nChars = 0) { AfxSendInt(m_hWnd, EM_EXLIMITTEXT, 0, nChars); }
     long GetLimitText() const { return AfxSendInt(m_hWnd, EM_GETLIMITTEXT); }
-    /// @param dwFlags FR_... @return the first character of what is found, -1 for none
+    /// The first character of what is found, -1 for none.
+    /// @param dwFlags FR_...
     long FindText(DWORD dwFlags, FINDTEXTEX* pFindText) const {
         return AfxSendPointer(m_hWnd, EM_FINDTEXTEXW, dwFlags, pFindText);
     }

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <memory>
 
-/// A file of lines, buffered. As text (the default), lines end with \r\n in the file and with \n
+/// A file of lines, buffered. As text (the default), lines end with CR LF in the file and with LF
 /// here, Ctrl+Z ends reading, and wide text is narrow in the file: in the ANSI code page on Windows,
 /// UTF-8 elsewhere. With typeBinary the characters are written as they are, 2 bytes each.
 ///

@@ -4,8 +4,7 @@
 /// in front of the system's headers. Only macros: the resource compiler reads this too.
 #pragma once
 
-/// @def WINVER
-/// Windows 7 at least, as is what else tells the version.
+// Windows 7 at least.
 #if defined(WINVER) && WINVER < 0x0601
 #undef WINVER
 #define WINVER 0x0601

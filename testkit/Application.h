@@ -45,6 +45,7 @@ private:
 /// A top-level window at (10, 40), as an owner of dialogs and to try controls in.
 class Frame : public CWnd {
 public:
+    /// Created, and active if it is visible.
     explicit Frame(CSize size = {200, 200}, DWORD dwStyle = WS_POPUP | WS_VISIBLE);
     ~Frame() override;
 };

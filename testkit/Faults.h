@@ -48,19 +48,20 @@ private:
 
 /// One function that can fail.
 struct Point {
-    const char* pszName;
-    void* pStandIn;
-    void** ppReal;
+    const char* pszName; ///< As its module exports it.
+    void* pStandIn;      ///< What is called instead.
+    void** ppReal;       ///< Where the stand-in finds the function itself.
 };
 
 /// What is called instead of a function. Each lambda type Fail makes functions of its own.
 template <class Fail, class Counts, class R, class... A>
 struct StandIn {
-    static inline const char* s_pszName = nullptr;
-    static inline void* s_pReal = nullptr;
-    static inline std::optional<Fail> s_fail;
-    static inline std::optional<Counts> s_counts;
+    static inline const char* s_pszName = nullptr; ///< See Point.
+    static inline void* s_pReal = nullptr;         ///< The function itself.
+    static inline std::optional<Fail> s_fail;      ///< How it fails.
+    static inline std::optional<Counts> s_counts;  ///< Which of its calls can.
 
+    /// The stand-in.
     static R Call(A... args) {
         const auto real = reinterpret_cast<R (*)(A...)>(reinterpret_cast<UINT_PTR>(s_pReal));
         if ((*s_counts)(args...) && Injection::Fails(s_pszName))
@@ -106,8 +107,9 @@ Point MakePoint(const char* pszName, R (*)(A...), Fail fail, Counts counts = {})
 
 /// A function that a module imports by name.
 struct Import {
-    std::string dll, name; ///< As the module has them.
-    void** ppFunction;     ///< Where the module takes the address from.
+    std::string dll;   ///< As the module names it.
+    std::string name;  ///< Of the function.
+    void** ppFunction; ///< Where the module takes the address from.
 };
 
 /// The functions that a loaded module imports by name.

@@ -25,10 +25,12 @@ class FailurePictures : public testing::EmptyTestEventListener {
     }
 };
 
+/// The reporter for GoogleTest.
 inline void ReportToGTest(const std::string& text, const Place& place) {
     ADD_FAILURE_AT(place.pszFile, place.nLine) << text;
 }
 
+/// Sets it, and the pictures, before the tests begin.
 inline const bool g_bReportsToGTest = [] {
     SetReporter(ReportToGTest);
     testing::UnitTest::GetInstance()->listeners().Append(new FailurePictures);
