@@ -110,9 +110,10 @@ int Meet(double x1, double y1, double x2, double y2, double x3, double y3, doubl
     double discarded;
     Store(ox, oy, Unless(nParallel, px, &discarded), Unless(nParallel, py, &discarded));
     const int bMeet = static_cast<int>(nParallel) + 1;
-    if constexpr (!Segment)
+    if constexpr (Segment)
+        return bMeet & IsStrictlyInBoth(ox, x1, x2, x3, x4) & IsStrictlyInBoth(oy, y1, y2, y3, y4);
+    else
         return bMeet;
-    return bMeet & IsStrictlyInBoth(ox, x1, x2, x3, x4) & IsStrictlyInBoth(oy, y1, y2, y3, y4);
 }
 
 } // namespace
