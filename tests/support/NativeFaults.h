@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <functional>
 #include <new>
 #include <ostream>
 
@@ -57,20 +58,7 @@ End EndOf(Run run) {
 /// nothing is left of any run.
 /// @param arm FailMemory or the like
 /// @return the number of points that failed
-template <class Arm, class Run>
-long FailEach(Arm arm, Run run) {
-    for (long nth = 1;; ++nth) {
-        const Use before = Now();
-        arm(nth);
-        const End end = EndOf(run);
-        const bool failed = Disarm();
-        EXPECT_EQ(Now(), before) << "left after failure " << nth;
-        if (failed)
-            continue;
-        EXPECT_EQ(end, End::Done);
-        return nth - 1;
-    }
-}
+long FailEach(const std::function<void(long)>& arm, const std::function<void()>& run);
 
 /// Changes an object with each allocation failing in turn: it is then as it was before, and the
 /// same change works afterwards.

@@ -101,6 +101,20 @@ Use Now() {
     return g_use;
 }
 
+long FailEach(const std::function<void(long)>& arm, const std::function<void()>& run) {
+    for (long nth = 1;; ++nth) {
+        const Use before = Now();
+        arm(nth);
+        const End end = EndOf([&] { run(); });
+        const bool failed = Disarm();
+        EXPECT_EQ(Now(), before) << "left after failure " << nth;
+        if (failed)
+            continue;
+        EXPECT_EQ(end, End::Done);
+        return nth - 1;
+    }
+}
+
 std::size_t TakePeak() {
     static std::size_t s_base = 0;
     const std::size_t peak = g_peak - std::min(g_peak, s_base);
