@@ -57,9 +57,11 @@ TEST(Collections, MapsKeepTheOrderAndFindManyKeys) {
     for (int i = 0; i < 1000; i += 2)
         EXPECT_TRUE(map.RemoveKey(i * 17));
     int expected = 1;
-    for (auto* pPair = map.PGetFirstAssoc(); pPair != nullptr;
-         pPair = map.PGetNextAssoc(pPair), expected += 2)
-        EXPECT_TRUE(pPair->value == expected && map.PLookup(expected * 17) == pPair);
+    for (auto* pPair = map.PGetFirstAssoc(); pPair != nullptr; pPair = map.PGetNextAssoc(pPair)) {
+        EXPECT_EQ(expected, pPair->value);
+        EXPECT_EQ(pPair, map.PLookup(expected * 17));
+        expected += 2;
+    }
     EXPECT_EQ(1001, expected);
     EXPECT_EQ(1151U, map.GetHashTableSize()) << "17, more than doubled and odd";
     map.InitHashTable(0);

@@ -35,6 +35,7 @@ TEST(Object, KnowsItsClass) {
     CPlain plain; // needs no class of its own
     ASSERT_VALID(&plain);
     EXPECT_EQ(RUNTIME_CLASS(CObject), plain.GetRuntimeClass());
+    EXPECT_EQ(nullptr, CObject::_GetBaseClass());
     EXPECT_EQ(Bytes(), Stored([&](CArchive& ar) { plain.Serialize(ar); }));
 
     CObject* pObject = &square;

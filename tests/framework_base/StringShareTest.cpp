@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <functional>
 #include <thread>
 #include <type_traits>
 #include <vector>
@@ -14,39 +13,6 @@ namespace {
 
 static_assert(sizeof(CString) == sizeof(void*));
 static_assert(std::is_same_v<CString, CStringT<wchar_t>> && std::is_nothrow_move_constructible_v<CString>);
-
-TEST(StringShare, ACopyKeepsItsTextWhateverHappensToTheOther) {
-    const Rows<const char*, LPCTSTR, std::function<void(CString&)>> changes = {
-        {"SetAt", L"xabcab ", [](CString& s) { s.SetAt(0, L'x'); }},
-        {"GetBuffer", L"xabcab ", [](CString& s) { s.GetBuffer()[0] = L'x', s.ReleaseBuffer(); }},
-        {"ReleaseBuffer", L" ", [](CString& s) { s.ReleaseBuffer(1); }},
-        {"AppendChar", L" abcab x", [](CString& s) { s.AppendChar(L'x'); }},
-        {"+=", L" abcab  abcab ", [](CString& s) { s += s; }},
-        {"+ of a temporary", L" abcab x", [](CString& s) { s = std::move(s) + L"x"; }},
-        {"MakeUpper", L" ABCAB ", [](CString& s) { s.MakeUpper(); }},
-        {"MakeReverse", L" bacba ", [](CString& s) { s.MakeReverse(); }},
-        {"Replace", L" bbcbb ", [](CString& s) { s.Replace(L'a', L'b'); }},
-        {"Remove", L" aca ", [](CString& s) { s.Remove(L'b'); }},
-        {"Insert", L"x abcab ", [](CString& s) { s.Insert(0, L"x"); }},
-        {"Delete", L"abcab ", [](CString& s) { s.Delete(0); }},
-        {"Trim", L"abcab", [](CString& s) { s.Trim(); }},
-        {"Truncate", L" a", [](CString& s) { s.Truncate(2); }},
-        {"Format", L"< abcab >", [](CString& s) { s.Format(L"<%s>", s); }},
-        {"= its own tail", L"abcab ", [](CString& s) { s = s.GetString() + 1; }},
-        {"Preallocate", L"xabcab ", [](CString& s) { s.Preallocate(100), s.SetAt(0, L'x'); }},
-        {"LockBuffer", L"xabcab ", [](CString& s) { s.LockBuffer()[0] = L'x', s.UnlockBuffer(); }},
-    };
-    for (const auto& [what, changed, change] : changes) {
-        SCOPED_TRACE(what);
-        const CString original = L" abcab ";
-        CString copy = original;
-        EXPECT_EQ(original.GetString(), copy.GetString());
-        change(copy);
-        EXPECT_STREQ(L" abcab ", original);
-        EXPECT_STREQ(changed, copy);
-        CString(copy).SetAt(0, L'?'); // what was made is shared and given back rightly again
-    }
-}
 
 TEST(StringShare, AnOpenBufferIsNotShared) {
     CString s = L"abc";

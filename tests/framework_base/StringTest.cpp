@@ -69,58 +69,76 @@ TEST(String, ExtractsWithClampedArguments) {
                {"SpanExcluding NULL", s.SpanExcluding(nullptr), L"abcdef"}});
 }
 
-TEST(String, EditsInPlace) {
-    const auto edited = [](LPCTSTR text, const std::function<void(CString&)>& edit) {
-        CString s = text;
-        edit(s);
-        return s;
+TEST(String, EditsInPlaceWhatIsItsOwn) {
+    const Rows<const char*, LPCTSTR, LPCTSTR, std::function<void(CString&)>> rows = {
+        {"upper", L"az{AZ[`@\x3042z", L"AZ{AZ[`@\x3042Z", [](CString& s) { s.MakeUpper(); }},
+        {"lower", L"az{AZ[`@\x3042Z", L"az{az[`@\x3042z", [](CString& s) { s.MakeLower(); }},
+        {"reverse", L"abc", L"cba", [](CString& s) { s.MakeReverse(); }},
+        {"insert", L"ac", L"abc", [](CString& s) { s.Insert(1, L"b"); }},
+        {"insert character", L"ac", L"abc", [](CString& s) { s.Insert(1, L'b'); }},
+        {"insert far behind", L"a", L"ab", [](CString& s) { s.Insert(99, L"b"); }},
+        {"insert before", L"a", L"ba", [](CString& s) { s.Insert(-5, L"b"); }},
+        {"insert nothing", L"a", L"a", [](CString& s) { s.Insert(1, L""); }},
+        {"insert into nothing", L"", L"a", [](CString& s) { s.Insert(0, L"a"); }},
+        {"insert with room", L"ac", L"abc", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }},
+        {"insert own tail with room", L"ab", L"bab",
+         [](CString& s) { s.Preallocate(20), s.Insert(0, s.GetString() + 1); }},
+        {"insert itself", L"ab", L"aabb", [](CString& s) { s.Insert(1, s); }},
+        {"delete", L"abcd", L"ad", [](CString& s) { s.Delete(1, 2); }},
+        {"delete past the end", L"abcd", L"ab", [](CString& s) { s.Delete(2, INT_MAX); }},
+        {"delete behind", L"ab", L"ab", [](CString& s) { s.Delete(7); }},
+        {"delete none", L"ab", L"ab", [](CString& s) { s.Delete(0, -1); }},
+        {"trim", L"\t\x3000 a b\r\n\xA0", L"a b", [](CString& s) { s.Trim(); }},
+        {"trim nothing but blanks", L" \t", L"", [](CString& s) { s.Trim(); }},
+        {"trim left", L" a ", L"a ", [](CString& s) { s.TrimLeft(); }},
+        {"trim right", L" a ", L" a", [](CString& s) { s.TrimRight(); }},
+        {"trim right character", L"axx", L"a", [](CString& s) { s.TrimRight(L'x'); }},
+        {"trim left set", L"xyaxy", L"axy", [](CString& s) { s.TrimLeft(L"yx"); }},
+        {"trim character", L"xxaxx", L"axx", [](CString& s) { s.TrimLeft(L'x'); }},
+        {"trim character at both ends", L"xxaxx", L"a", [](CString& s) { s.Trim(L'x'); }},
+        {"trim set", L"xyaxy", L"xya", [](CString& s) { s.TrimRight(L"yx"); }},
+        {"trim set at both ends", L"xyaxy", L"a", [](CString& s) { s.Trim(L"yx"); }},
+        {"trim by itself", L"xy", L"", [](CString& s) { s.Trim(s.GetString()); }},
+        {"assign own tail", L"abc", L"bc", [](CString& s) { s = s.GetString() + 1; }},
+        {"append itself", L"ab", L"abab", [](CString& s) { s += s; }},
+        {"append own tail", L"abc", L"abcbc", [](CString& s) { s += s.GetString() + 1; }},
+        {"append", L"a", L"abc", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }},
+        {"append none", L"a", L"a", [](CString& s) { s.Append(nullptr, 2); }},
+        {"append text of the other form", L"a", L"ab", [](CString& s) { s += CStringA("b"); }},
+        {"append counted", L"a", L"abc", [](CString& s) { s.Append(L"bcd", 2); }},
+        {"assign itself", L"ab", L"ab", [](CString& s) { s = static_cast<const CString&>(s); }},
+        {"assign null", L"ab", L"", [](CString& s) { s.SetString(nullptr, 2); }},
+        {"assign none", L"ab", L"", [](CString& s) { s.SetString(L"x", -1); }},
+        {"assign narrow", L"ab", L"cd", [](CString& s) { s = "cd"; }},
+        {"assign character", L"ab", L"c", [](CString& s) { s = L'c'; }},
+        {"assign narrow character", L"ab", L"c", [](CString& s) { s = 'c'; }},
+        {"free extra", L"a", L"a", [](CString& s) { s.FreeExtra(); }},
+        {"free all", L"ab", L"", [](CString& s) { s.Truncate(0), s.FreeExtra(); }},
+        {"set at", L"abc", L"axc", [](CString& s) { s.SetAt(1, L'x'); }},
+        {"open buffer", L"abc", L"xbc", [](CString& s) { s.GetBuffer()[0] = L'x', s.ReleaseBuffer(); }},
+        {"locked buffer", L"abc", L"xbc", [](CString& s) { s.LockBuffer()[0] = L'x', s.UnlockBuffer(); }},
+        {"end buffer", L"abc", L"a", [](CString& s) { s.ReleaseBuffer(1); }},
+        {"append to a temporary", L"ab", L"abx", [](CString& s) { s = std::move(s) + L"x"; }},
+        {"replace", L"abca", L"xbcx", [](CString& s) { s.Replace(L'a', L'x'); }},
+        {"remove", L"abca", L"bc", [](CString& s) { s.Remove(L'a'); }},
+        {"delete first", L"abc", L"bc", [](CString& s) { s.Delete(0); }},
+        {"truncate", L"abc", L"ab", [](CString& s) { s.Truncate(2); }},
+        {"format itself", L"ab", L"<ab>", [](CString& s) { s.Format(L"<%s>", s); }},
+        {"set at with room", L"abc", L"xbc", [](CString& s) { s.Preallocate(100), s.SetAt(0, L'x'); }},
     };
-    ExpectAll(
-        {{"upper", edited(L"az{AZ[`@\x3042z", [](CString& s) { s.MakeUpper(); }), L"AZ{AZ[`@\x3042Z"},
-         {"lower", edited(L"az{AZ[`@\x3042Z", [](CString& s) { s.MakeLower(); }), L"az{az[`@\x3042z"},
-         {"reverse", edited(L"abc", [](CString& s) { s.MakeReverse(); }), L"cba"},
-         {"insert", edited(L"ac", [](CString& s) { s.Insert(1, L"b"); }), L"abc"},
-         {"insert character", edited(L"ac", [](CString& s) { s.Insert(1, L'b'); }), L"abc"},
-         {"insert far behind", edited(L"a", [](CString& s) { s.Insert(99, L"b"); }), L"ab"},
-         {"insert before", edited(L"a", [](CString& s) { s.Insert(-5, L"b"); }), L"ba"},
-         {"insert nothing", edited(L"a", [](CString& s) { s.Insert(1, L""); }), L"a"},
-         {"insert into nothing", edited(L"", [](CString& s) { s.Insert(0, L"a"); }), L"a"},
-         {"insert with room", edited(L"ac", [](CString& s) { s.Preallocate(20), s.Insert(1, L"b"); }),
-          L"abc"},
-         {"insert own tail with room",
-          edited(L"ab", [](CString& s) { s.Preallocate(20), s.Insert(0, s.GetString() + 1); }), L"bab"},
-         {"insert itself", edited(L"ab", [](CString& s) { s.Insert(1, s); }), L"aabb"},
-         {"delete", edited(L"abcd", [](CString& s) { s.Delete(1, 2); }), L"ad"},
-         {"delete past the end", edited(L"abcd", [](CString& s) { s.Delete(2, INT_MAX); }), L"ab"},
-         {"delete behind", edited(L"ab", [](CString& s) { s.Delete(7); }), L"ab"},
-         {"delete none", edited(L"ab", [](CString& s) { s.Delete(0, -1); }), L"ab"},
-         {"trim", edited(L"\t\x3000 a b\r\n\xA0", [](CString& s) { s.Trim(); }), L"a b"},
-         {"trim nothing but blanks", edited(L" \t", [](CString& s) { s.Trim(); }), L""},
-         {"trim left", edited(L" a ", [](CString& s) { s.TrimLeft(); }), L"a "},
-         {"trim right", edited(L" a ", [](CString& s) { s.TrimRight(); }), L" a"},
-         {"trim right character", edited(L"axx", [](CString& s) { s.TrimRight(L'x'); }), L"a"},
-         {"trim left set", edited(L"xyaxy", [](CString& s) { s.TrimLeft(L"yx"); }), L"axy"},
-         {"trim character", edited(L"xxaxx", [](CString& s) { s.TrimLeft(L'x'); }), L"axx"},
-         {"trim character at both ends", edited(L"xxaxx", [](CString& s) { s.Trim(L'x'); }), L"a"},
-         {"trim set", edited(L"xyaxy", [](CString& s) { s.TrimRight(L"yx"); }), L"xya"},
-         {"trim set at both ends", edited(L"xyaxy", [](CString& s) { s.Trim(L"yx"); }), L"a"},
-         {"trim by itself", edited(L"xy", [](CString& s) { s.Trim(s.GetString()); }), L""},
-         {"assign own tail", edited(L"abc", [](CString& s) { s = s.GetString() + 1; }), L"bc"},
-         {"append itself", edited(L"ab", [](CString& s) { s += s; }), L"abab"},
-         {"append own tail", edited(L"abc", [](CString& s) { s += s.GetString() + 1; }), L"abcbc"},
-         {"append", edited(L"a", [](CString& s) { s.Append(L"b"), s.AppendChar(L'c'); }), L"abc"},
-         {"append none", edited(L"a", [](CString& s) { s.Append(nullptr, 2); }), L"a"},
-         {"append text of the other form", edited(L"a", [](CString& s) { s += CStringA("b"); }), L"ab"},
-         {"append counted", edited(L"a", [](CString& s) { s.Append(L"bcd", 2); }), L"abc"},
-         {"assign itself", edited(L"ab", [](CString& s) { s = static_cast<const CString&>(s); }), L"ab"},
-         {"assign null", edited(L"ab", [](CString& s) { s.SetString(nullptr, 2); }), L""},
-         {"assign none", edited(L"ab", [](CString& s) { s.SetString(L"x", -1); }), L""},
-         {"assign narrow", edited(L"ab", [](CString& s) { s = "cd"; }), L"cd"},
-         {"assign character", edited(L"ab", [](CString& s) { s = L'c'; }), L"c"},
-         {"assign narrow character", edited(L"ab", [](CString& s) { s = 'c'; }), L"c"},
-         {"free extra", edited(L"a", [](CString& s) { s.FreeExtra(); }), L"a"},
-         {"free all", edited(L"ab", [](CString& s) { s.Truncate(0), s.FreeExtra(); }), L""},
-         {"set at", edited(L"abc", [](CString& s) { s.SetAt(1, L'x'); }), L"axc"}});
+    for (const auto& [what, text, expected, edit] : rows) {
+        SCOPED_TRACE(what);
+        CString own = text;
+        edit(own);
+        EXPECT_STREQ(expected, own);
+        const CString original = text;
+        CString copy = original;
+        EXPECT_EQ(original.GetString(), copy.GetString());
+        edit(copy);
+        EXPECT_STREQ(expected, copy);
+        EXPECT_STREQ(text, original);
+        CString(copy).AppendChar(L'?'); // what was made is shared and given back rightly again
+    }
 }
 
 TEST(String, TrimsTheBlanksOfEveryScript) {
