@@ -211,8 +211,11 @@ TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
 
 TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
     DerivedWnd wnd;
-    CMenu popup;
-    ASSERT_TRUE(popup.CreatePopupMenu());
+    CMenu bar, own;
+    ASSERT_TRUE(bar.CreateMenu());
+    ASSERT_TRUE(own.CreatePopupMenu());
+    bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(own.Detach()), L"popup");
+    CMenu& popup = *bar.GetSubMenu(0);
     popup.AppendMenu(MF_STRING, ID_ON, L"x");
     popup.AppendMenu(MF_SEPARATOR);
     popup.AppendMenu(MF_STRING, ID_OFF, L"off");

@@ -94,23 +94,6 @@ struct Nested : testing::Test {
     INT_PTR m_nInner = 0;
 };
 
-TEST_F(Nested, InnerDialogDisablesTheOuterOneOnly) {
-    const auto end = [&] {
-        EXPECT_FALSE(m_outer.IsWindowEnabled());
-        EXPECT_FALSE(m_owner.IsWindowEnabled());
-        m_inner.EndDialog(3);
-    };
-    const auto endOuter = [&] {
-        EXPECT_EQ(3, m_nInner);
-        EXPECT_TRUE(m_outer.IsWindowEnabled());
-        EXPECT_FALSE(m_owner.IsWindowEnabled());
-        EXPECT_EQ(m_outer.m_hWnd, ::GetActiveWindow());
-        m_outer.EndDialog(4);
-    };
-    EXPECT_EQ(4, Play(m_outer, {Open(), IsOpen(), end, endOuter}));
-    EXPECT_TRUE(m_owner.IsWindowEnabled());
-}
-
 TEST_F(Nested, EndOfTheOuterDialogWaitsForTheInnerOne) {
     EXPECT_EQ(
         4, Play(m_outer, {Open(), IsOpen(), [&] { m_outer.EndDialog(4); }, [&] { m_inner.EndDialog(3); }}));
