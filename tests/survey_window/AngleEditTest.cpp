@@ -219,6 +219,12 @@ private:
     DialogTemplate m_template{100, 80, WS_POPUP | WS_CAPTION};
 };
 
+TEST(AngleEdit, FirstFieldOfAScreenKeepsAnAngleThatNobodyTouches) {
+    AngleDialog dlg;
+    Play(dlg, {[&] { dlg.SendMessage(WM_COMMAND, IDOK); }});
+    EXPECT_DOUBLE_EQ(PI / 2, dlg.m_first.GetAngle());
+}
+
 TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
     AngleDialog dlg;
     const auto tap = [&] {
