@@ -10,6 +10,8 @@
 #include <memory>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 // fieldkit::detail::OemToWide by the name that the linker knows.
 #define OEM_TO_WIDE(prefix) prefix##_ZN8fieldkit6detail9OemToWideEPKcPwi
@@ -169,14 +171,25 @@ TEST_F(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
     CBufferedAsciiFile file;
     ASSERT_TRUE(file.Open(Make(L"faults.txt", "1\r\n2\r\n"), CFile::modeReadWrite | CFile::shareDenyNone));
     CFile other(m_path, CFile::modeReadWrite | CFile::shareDenyNone);
+    const auto isLocked = [&](ULONGLONG nPosition) {
+        const pid_t child = ::fork(); // locks are those of a process
+        if (child == 0)
+            ::_exit(faults::EndOf([&] { other.LockRange(nPosition, 1); }) == faults::End::FileError ? 1 : 0);
+        int nStatus = 0;
+        ::waitpid(child, &nStatus, 0);
+        return WEXITSTATUS(nStatus) == 1;
+    };
     char bytes[4] = {};
     file.Read(bytes, 1);
     other.Write("abc", 3);
     file.LockRange(0, 4);
+    EXPECT_TRUE(isLocked(3));
+    EXPECT_FALSE(isLocked(4));
     EXPECT_EQ(3U, file.Read(bytes, 3));
     EXPECT_STREQ("bc2", bytes);
     file.Write("d", 1);
     file.UnlockRange(0, 4);
+    EXPECT_FALSE(isLocked(3));
     other.Seek(4, CFile::begin);
     EXPECT_EQ(1U, other.Read(bytes, 1));
     EXPECT_EQ('d', bytes[0]);
