@@ -22,7 +22,7 @@ TEST(SharedIcons, AreSmallSharedPicturesThatDifferAndLetTheGroundThrough) {
     std::vector<Picture> seen;
     for (const int index : {2, 4, 5, 26, 31, 32, 39, 42}) {
         const HICON icon = TVGetCommonIcon(index);
-        ASSERT_NE(icon, nullptr) << index;
+        ASSERT_NE(nullptr, icon) << index;
         EXPECT_EQ(TVGetCommonIcon(index), icon) << index;
         const Picture onWhite = drawn(icon, fx::WHITE), onGreen = drawn(icon, kGreen);
         for (const Picture& other : seen)
@@ -42,7 +42,7 @@ TEST(SharedIcons, AreSmallSharedPicturesThatDifferAndLetTheGroundThrough) {
 
 TEST(SharedIcons, UnknownNumbersHaveNone) {
     for (const int index : {0, 1, 3, 27, 43, -2, 0x10000 + 2, 0x7FFFFFFF})
-        EXPECT_EQ(TVGetCommonIcon(index), nullptr) << index;
+        EXPECT_EQ(nullptr, TVGetCommonIcon(index)) << index;
 }
 
 } // namespace

@@ -161,7 +161,7 @@ TEST(InputPanelThreads, PanelEndsWithItsThread) {
             hPanel = panel::OfThread();
             EXPECT_TRUE(panel::IsVisible());
         }).join();
-        ASSERT_NE(hPanel, nullptr);
+        ASSERT_NE(nullptr, hPanel);
         EXPECT_FALSE(::IsWindow(hPanel));
     }
     TVCloseSIP();

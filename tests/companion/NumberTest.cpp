@@ -64,7 +64,7 @@ TEST(Number, RefusesTheRestAndLeavesTheValueAlone) {
         const CString text = row;
         double value = kUntouched;
         EXPECT_FALSE(TVString2Double(&text, &value)) << std::wstring(row);
-        EXPECT_EQ(value, kUntouched) << std::wstring(row);
+        EXPECT_EQ(kUntouched, value) << std::wstring(row);
     }
 }
 
@@ -91,7 +91,7 @@ TEST(Number, StopsAtNothingHidden) {
     const std::wstring zeros(100'000, L'0');
     const CString longText = (L"0." + zeros + L"1").c_str();
     EXPECT_FALSE(TVString2Double(&longText, &value));
-    EXPECT_EQ(value, kUntouched);
+    EXPECT_EQ(kUntouched, value);
     ExpectAccepted(zeros + L"1", 1.0);
 }
 
@@ -100,7 +100,7 @@ TEST(Number, RefusesNullArguments) {
     double value = kUntouched;
     EXPECT_FALSE(TVString2Double(nullptr, &value));
     EXPECT_FALSE(TVString2Double(&text, nullptr));
-    EXPECT_EQ(value, kUntouched);
+    EXPECT_EQ(kUntouched, value);
 }
 
 } // namespace

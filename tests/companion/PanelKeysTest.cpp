@@ -127,7 +127,7 @@ TEST_F(PanelKeys, BackspaceRepeatsWhileItIsHeld) {
     fx::PumpFor(200);
     const int nHesitant = Text().GetLength();
     if (::GetTickCount64() - nPressed < DELAY) { // a loaded machine may take longer
-        EXPECT_EQ(nHesitant, 39) << "a hesitant finger deletes one at once, and no more";
+        EXPECT_EQ(39, nHesitant) << "a hesitant finger deletes one at once, and no more";
     }
     EXPECT_TRUE(PumpUntil([this] { return Text().GetLength() < 35; }));
     pen::Up(fx::BackspaceKey());

@@ -82,7 +82,7 @@ TEST_F(PanelLook, LabelsFollowTheLanguageAndFitTheirKeys) {
     CWnd::FromHandle(panel::OfThread())->Invalidate();
     const auto letters = Look();
     TVShowSIP(2);
-    EXPECT_EQ(panel::Title(), L"Kana");
+    EXPECT_EQ(L"Kana", panel::Title());
     const auto kana = Look();
     AfxSetResourceLanguage(0);
     // The keys with words, of forty parts of the row: letters, then kana.

@@ -20,9 +20,9 @@ std::vector<BYTE> BytesOf(DWORD value) {
 struct Settings : testing::Test {
     void SetUp() override {
         HKEY user = nullptr;
-        ASSERT_EQ(::RegCreateKeyW(HKEY_CURRENT_USER, kOwn, &user), ERROR_SUCCESS);
-        ASSERT_EQ(::RegOverridePredefKey(HKEY_CURRENT_USER, user), ERROR_SUCCESS);
-        ASSERT_EQ(::RegCreateKeyW(user, L"Software\\Tesuvo\\Common", &m_key), ERROR_SUCCESS);
+        ASSERT_EQ(ERROR_SUCCESS, ::RegCreateKeyW(HKEY_CURRENT_USER, kOwn, &user));
+        ASSERT_EQ(ERROR_SUCCESS, ::RegOverridePredefKey(HKEY_CURRENT_USER, user));
+        ASSERT_EQ(ERROR_SUCCESS, ::RegCreateKeyW(user, L"Software\\Tesuvo\\Common", &m_key));
         ::RegCloseKey(user);
     }
     void TearDown() override {
@@ -33,7 +33,7 @@ struct Settings : testing::Test {
 
     void Store(const wchar_t* name, DWORD type, const std::vector<BYTE>& bytes) {
         const auto size = static_cast<DWORD>(bytes.size());
-        EXPECT_EQ(::RegSetValueExW(m_key, name, 0, type, bytes.data(), size), ERROR_SUCCESS);
+        EXPECT_EQ(ERROR_SUCCESS, ::RegSetValueExW(m_key, name, 0, type, bytes.data(), size));
     }
 
     HKEY m_key = nullptr;
@@ -48,7 +48,7 @@ TEST_F(Settings, DecimalsComeFromTheStoreWithinTheirRange) {
 }
 
 TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
-    EXPECT_EQ(TVGetCommonRegInt(1280), 2);
+    EXPECT_EQ(2, TVGetCommonRegInt(1280));
     const Rows<DWORD, std::vector<BYTE>> rows = {
         {REG_SZ, {'4', 0, 0, 0}},
         {REG_EXPAND_SZ, {'4', 0, 0, 0}},
@@ -65,15 +65,15 @@ TEST_F(Settings, DecimalsFallBackWithoutAUsableValue) {
     };
     for (const auto& [type, stored] : rows) {
         Store(kDecimals, type, stored);
-        EXPECT_EQ(TVGetCommonRegInt(1280), 2) << type << ' ' << stored.size();
+        EXPECT_EQ(2, TVGetCommonRegInt(1280)) << type << ' ' << stored.size();
     }
 }
 
 TEST_F(Settings, UnknownOnesAreZeroWhateverIsStored) {
     Store(L"1281", REG_DWORD, BytesOf(3));
-    EXPECT_EQ(TVGetCommonRegInt(1281), 0);
-    EXPECT_EQ(TVGetCommonRegInt(0), 0);
-    EXPECT_EQ(TVGetCommonRegInt(-1280), 0);
+    EXPECT_EQ(0, TVGetCommonRegInt(1281));
+    EXPECT_EQ(0, TVGetCommonRegInt(0));
+    EXPECT_EQ(0, TVGetCommonRegInt(-1280));
 }
 
 } // namespace

@@ -51,9 +51,9 @@ TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {
     ASSERT_TRUE(stage.m_combo.SubclassDlgItem(IDC_COMBO, &stage));
     EXPECT_FALSE(stage.m_edit.Attach(IDC_EDIT, &stage, SipOptionMode1)) << "it has a field already";
     stage.Tap(stage.m_edit);
-    EXPECT_EQ(panel::Title(), L"123");
+    EXPECT_EQ(L"123", panel::Title());
     stage.Tap(stage.m_combo);
-    EXPECT_EQ(panel::Title(), L"かな");
+    EXPECT_EQ(L"かな", panel::Title());
 }
 
 TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
@@ -64,9 +64,9 @@ TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     CPoint point = stage.m_edit.PosFromChar(4) + CPoint(1, 4);
     stage.m_edit.ClientToScreen(&point);
     stage.Tap(point);
-    EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(4, 4)));
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(4, 4)), stage.m_edit.GetSel());
     stage.Tap(point);
-    EXPECT_EQ(stage.m_edit.GetSel(), static_cast<DWORD>(MAKELONG(3, 6)));
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(3, 6)), stage.m_edit.GetSel());
     const CRect rect = RectOf(stage.m_combo);
     stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
     EXPECT_TRUE(stage.m_combo.GetDroppedState());

@@ -58,7 +58,7 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     const CRect pressedText = pressed.Around(inside, fx::WHITE);
     EXPECT_GE(text.left, 24); // and there is one
     EXPECT_LE(text.left, 27);
-    EXPECT_NEAR(text.CenterPoint().y, 12, 2);
+    EXPECT_NEAR(12, text.CenterPoint().y, 2);
     EXPECT_EQ(pressedText, text + CPoint(2, 1));
 }
 
@@ -129,7 +129,7 @@ TEST(IconButton, ReleaseOutsideDoesNothing) {
         stage.Drag(rect.CenterPoint(), end);
         EXPECT_FALSE(stage.m_button.GetPush()) << end.x << ' ' << end.y;
     }
-    EXPECT_EQ(stage.Count(IDC_BUTTON, BN_CLICKED), 0);
+    EXPECT_EQ(0, stage.Count(IDC_BUTTON, BN_CLICKED));
     stage.Drag(rect.CenterPoint(), rect.BottomRight() - CSize(1, 1));
     EXPECT_TRUE(stage.m_button.GetPush());
 }

@@ -61,8 +61,8 @@ TEST(Lists, PressAndHoldIsAnsweredAsDealtWith) {
     ListStage stage;
     for (const CWnd* pWnd : {static_cast<CWnd*>(&stage.m_listBox), static_cast<CWnd*>(&stage.m_list),
                              static_cast<CWnd*>(&stage.m_tree), static_cast<CWnd*>(&stage.m_spin)}) {
-        EXPECT_EQ(stage.Notify(*pWnd, NM_RECOGNIZEGESTURE), 1) << pWnd->GetDlgCtrlID();
-        EXPECT_EQ(stage.Count(pWnd->GetDlgCtrlID(), NM_RECOGNIZEGESTURE), 0) << pWnd->GetDlgCtrlID();
+        EXPECT_EQ(1, stage.Notify(*pWnd, NM_RECOGNIZEGESTURE)) << pWnd->GetDlgCtrlID();
+        EXPECT_EQ(0, stage.Count(pWnd->GetDlgCtrlID(), NM_RECOGNIZEGESTURE)) << pWnd->GetDlgCtrlID();
     }
 }
 
@@ -73,8 +73,8 @@ TEST(ListCtrl, WithoutSelectionNeitherTapNorKeysLeaveAny) {
     stage.TapItem(2);
     stage.Type({VK_UP, VK_SPACE, VK_HOME});
     EXPECT_EQ(::GetFocus(), stage.m_list.m_hWnd);
-    EXPECT_EQ(stage.m_list.GetNextItem(-1, LVNI_SELECTED), -1);
-    EXPECT_EQ(stage.m_list.GetNextItem(-1, LVNI_FOCUSED), -1);
+    EXPECT_EQ(-1, stage.m_list.GetNextItem(-1, LVNI_SELECTED));
+    EXPECT_EQ(-1, stage.m_list.GetNextItem(-1, LVNI_FOCUSED));
 }
 
 TEST(ListCtrl, FocusWithoutSelectionStaysAndWithoutTheOptionAll) {
@@ -94,10 +94,10 @@ TEST(ListCtrl, EverythingSelectedInALongListIsCleared) {
     for (int i = stage.m_list.GetItemCount(); i < ITEMS; ++i)
         stage.m_list.InsertItem(i, L"P");
     stage.m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
-    ASSERT_EQ(stage.m_list.GetSelectedCount(), static_cast<UINT>(ITEMS));
+    ASSERT_EQ(static_cast<UINT>(ITEMS), stage.m_list.GetSelectedCount());
     stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
     stage.m_list.SetItemState(7, LVIS_FOCUSED, LVIS_FOCUSED);
-    EXPECT_EQ(stage.m_list.GetSelectedCount(), 0U);
+    EXPECT_EQ(0U, stage.m_list.GetSelectedCount());
 }
 
 TEST(ListCtrl, ItemsThatRefuseToBeClearedDoNotHangIt) {
@@ -106,7 +106,7 @@ TEST(ListCtrl, ItemsThatRefuseToBeClearedDoNotHangIt) {
     stage.m_list.SetOption(CnListCtrl::OptionNoSelection);
     stage.m_list.SetItemState(0, SELECTED_AND_FOCUSED, SELECTED_AND_FOCUSED);
     stage.m_list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
-    EXPECT_EQ(stage.m_list.GetSelectedCount(), 2U);
+    EXPECT_EQ(2U, stage.m_list.GetSelectedCount());
 }
 
 } // namespace

@@ -101,8 +101,8 @@ TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
         CClientDC surface(&dlg);
         CRect client;
         dlg.GetClientRect(client);
-        EXPECT_EQ(surface.GetPixel(client.right - 2, client.bottom - 2), YELLOW);
-        EXPECT_EQ(colorIn(IDC_TEXT), YELLOW);
+        EXPECT_EQ(YELLOW, surface.GetPixel(client.right - 2, client.bottom - 2));
+        EXPECT_EQ(YELLOW, colorIn(IDC_TEXT));
         EXPECT_EQ(colorIn(IDC_EDIT), ::GetSysColor(COLOR_WINDOW));
     });
 }

@@ -10,7 +10,7 @@ struct LockedFolder {
         : m_hFolder(::CreateFile(pszFolder, FILE_LIST_DIRECTORY, 0, nullptr, OPEN_EXISTING,
                                  FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {
         WIN32_FIND_DATA entry;
-        EXPECT_EQ(::FindFirstFile(CString(pszFolder) + L"\\*", &entry), INVALID_HANDLE_VALUE);
+        EXPECT_EQ(INVALID_HANDLE_VALUE, ::FindFirstFile(CString(pszFolder) + L"\\*", &entry));
     }
     ~LockedFolder() { ::CloseHandle(m_hFolder); }
 

@@ -65,7 +65,7 @@ struct Members {
         }
         CListBox& box = Box(strAction[0] == L'L' ? LEFT : RIGHT);
         CRect rect;
-        ASSERT_NE(box.GetItemRect(strAction[1] - L'0', rect), LB_ERR);
+        ASSERT_NE(LB_ERR, box.GetItemRect(strAction[1] - L'0', rect));
         box.ClientToScreen(rect);
         pen::Tap(rect.CenterPoint());
     }

@@ -36,7 +36,7 @@ TEST(FaultTable, KnowsEveryFunctionThatTheLibraryCalls) {
             if (!import.dll.starts_with("Fieldkit") && !import.dll.starts_with("Tesuvo"))
                 used[import.name] = import.dll;
     for (const fault::Point& point : fx::Table())
-        EXPECT_EQ(used.erase(point.pszName), 1U) << point.pszName << " is not called any more";
+        EXPECT_EQ(1U, used.erase(point.pszName)) << point.pszName << " is not called any more";
     for (const auto& [name, dll] : used) // of the C runtime only what allocates can fail, which is no news
         EXPECT_TRUE(dll == "msvcrt.dll" || fx::Infallible().contains(name))
             << name << ": add it to a list in FaultTable.cpp";

@@ -97,18 +97,18 @@ END_MESSAGE_MAP()
 TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
     CWinThread* pThread =
         AfxBeginThread(RUNTIME_CLASS(AddingThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    ASSERT_NE(pThread, nullptr);
+    ASSERT_NE(nullptr, pThread);
     pThread->m_bAutoDelete = FALSE;
     pThread->ResumeThread();
     ASSERT_TRUE(g_started.Lock(10000));
     pThread->PostThreadMessage(WM_ADD, 40, 2);
     ASSERT_TRUE(CSingleLock(&g_added).Lock(10000));
-    EXPECT_EQ(g_nSum, 42);
+    EXPECT_EQ(42, g_nSum);
     pThread->PostThreadMessage(WM_QUIT, 7, 0);
-    ASSERT_EQ(::WaitForSingleObject(pThread->m_hThread, 10000), WAIT_OBJECT_0);
+    ASSERT_EQ(WAIT_OBJECT_0, ::WaitForSingleObject(pThread->m_hThread, 10000));
     DWORD dwCode = 0;
     ::GetExitCodeThread(pThread->m_hThread, &dwCode);
-    EXPECT_EQ(dwCode, 7U);
+    EXPECT_EQ(7U, dwCode);
     delete pThread;
 }
 

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -27,6 +28,9 @@ bool SameBits(double a, double b) {
 }
 bool SameBits(P a, P b) {
     return SameBits(a.x, b.x) && SameBits(a.y, b.y);
+}
+bool SameBits(const P (&a)[2], const P (&b)[2]) {
+    return SameBits(a[0], b[0]) && SameBits(a[1], b[1]);
 }
 
 /// The library's and the plain form's tolerance for the time of a test.
@@ -124,7 +128,7 @@ TEST(Shortcuts, DirectionsTellTheArcsPointsAsTheCrossedChordsDo) {
                                                         &o[0].y, &o[1].x, &o[1].y);
             ASSERT_EQ(reference::LineArc(c.p1, c.p2, c.start, c.end, c.centre, e[0], e[1]), found)
                 << "round " << round << " at tolerance " << kTolerances[tolerance];
-            ASSERT_TRUE(SameBits(o[0], e[0]) && SameBits(o[1], e[1])) << "round " << round;
+            ASSERT_TRUE(SameBits(o, e)) << "round " << round;
         }
     }
 }
@@ -149,10 +153,10 @@ TEST(Shortcuts, TangentsAreToldFromCutsAndMissesAtTheLastDigit) {
             const int points = CVector::IntersectLineArcInf(p1.x, p1.y, p2.x, p2.y, centre.x, centre.y, r,
                                                             &o[0].x, &o[0].y, &o[1].x, &o[1].y);
             ASSERT_EQ(reference::LineCircle(p1, p2, centre, r, e[0], e[1]), points) << "round " << round;
-            ASSERT_TRUE(SameBits(o[0], e[0]) && SameBits(o[1], e[1])) << "round " << round;
+            ASSERT_TRUE(SameBits(o, e)) << "round " << round;
             ++found[points];
         }
-        EXPECT_TRUE(found[0] > 0 && found[2] > 0);
+        EXPECT_LT(0, std::min(found[0], found[2]));
         EXPECT_EQ(tolerance > 0, found[1] > 0) << tolerance;
     }
 }

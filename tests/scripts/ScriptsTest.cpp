@@ -26,11 +26,11 @@ TEST(ResourceScriptTest, TextsOfAllPagesArrive) {
 
 TEST(ResourceScriptTest, WhatTheEditorKeepsForItselfIsLeftOut) {
     const HMODULE hModule = ::GetModuleHandle(nullptr);
-    EXPECT_EQ(::FindResource(hModule, MAKEINTRESOURCE(1), L"TEXTINCLUDE"), nullptr);
-    EXPECT_NE(::FindResource(hModule, MAKEINTRESOURCE(IDR_PICTURE), RT_GROUP_ICON), nullptr);
-    EXPECT_NE(::FindResource(hModule, MAKEINTRESOURCE(IDR_BAR), MAKEINTRESOURCE(241)), nullptr);
+    EXPECT_EQ(nullptr, ::FindResource(hModule, MAKEINTRESOURCE(1), L"TEXTINCLUDE"));
+    EXPECT_NE(nullptr, ::FindResource(hModule, MAKEINTRESOURCE(IDR_PICTURE), RT_GROUP_ICON));
+    EXPECT_NE(nullptr, ::FindResource(hModule, MAKEINTRESOURCE(IDR_BAR), MAKEINTRESOURCE(241)));
     // The framework's own texts are in its library, not here as well.
-    EXPECT_EQ(::FindResource(hModule, MAKEINTRESOURCE(AFX_IDP_PARSE_INT / 16 + 1), RT_STRING), nullptr);
+    EXPECT_EQ(nullptr, ::FindResource(hModule, MAKEINTRESOURCE(AFX_IDP_PARSE_INT / 16 + 1), RT_STRING));
 }
 
 struct CListsDlg : CDialog {
@@ -54,8 +54,8 @@ protected:
 
 TEST(ResourceScriptTest, ListsAreFilledAsTheEditorSays) {
     CListsDlg dlg;
-    EXPECT_EQ(dlg.DoModal(), IDOK);
-    EXPECT_STREQ(dlg.m_texts.GetString(), L"OneThreeFourFive");
+    EXPECT_EQ(IDOK, dlg.DoModal());
+    EXPECT_STREQ(L"OneThreeFourFive", dlg.m_texts.GetString());
 }
 
 } // namespace

@@ -34,7 +34,7 @@ struct AngleStage : fx::Stage {
     explicit AngleStage(int nMode = WHOLE, DWORD dwOption = 0) {
         CreateItem(WC_EDIT, IDC_ANGLE, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 5, 155, 25));
         CreateItem(WC_EDIT, IDC_OTHER, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 50, 155, 70));
-        EXPECT_EQ(m_angle.Attach(IDC_ANGLE, this, nMode, dwOption), 1);
+        EXPECT_EQ(1, m_angle.Attach(IDC_ANGLE, this, nMode, dwOption));
     }
     ~AngleStage() override { DestroyWindow(); } // before the field
 
@@ -175,27 +175,27 @@ TEST(AngleEdit, WithoutConversionFocusChangesDoNothing) {
     stage.m_angle.SetAngle(1.0);
     stage.m_angle.SetConvActive(0);
     stage.Enter();
-    EXPECT_EQ(stage.Text(), L"57\uFF9F 17' 45\"");
+    EXPECT_EQ(L"57\uFF9F 17' 45\"", stage.Text());
     stage.m_angle.SetSel(0, -1);
     stage.Type({'5'});
     stage.Leave();
-    EXPECT_EQ(stage.Text(), L"5");
-    EXPECT_EQ(stage.m_angle.GetAngle(), 1.0);
+    EXPECT_EQ(L"5", stage.Text());
+    EXPECT_EQ(1.0, stage.m_angle.GetAngle());
     stage.m_angle.SetAngle(PI / 2);
-    EXPECT_EQ(stage.Text(), L"90\uFF9F 0' 00\"") << "setting it always shows it";
+    EXPECT_EQ(L"90\uFF9F 0' 00\"", stage.Text()) << "setting it always shows it";
     stage.m_angle.SetConvActive(2);
     stage.Enter();
-    EXPECT_EQ(stage.Text(), L"90.0000");
+    EXPECT_EQ(L"90.0000", stage.Text());
 }
 
 TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
     AngleStage stage(TENTHS);
-    EXPECT_EQ(stage.Text(), L"");
-    EXPECT_EQ(stage.m_angle.Attach(999, &stage, WHOLE, 0), 0);
-    EXPECT_EQ(stage.m_angle.Attach(IDC_ANGLE, &stage, WHOLE, 0), 0) << "it has a field already";
+    EXPECT_EQ(L"", stage.Text());
+    EXPECT_EQ(0, stage.m_angle.Attach(999, &stage, WHOLE, 0));
+    EXPECT_EQ(0, stage.m_angle.Attach(IDC_ANGLE, &stage, WHOLE, 0)) << "it has a field already";
     stage.m_angle.SetAngle(Radians(1, 2, 3.4));
-    EXPECT_EQ(stage.Text(), L"1\uFF9F 2' 3\".4");
-    EXPECT_EQ(OpenAngleEdit().GetAngle(), 0.0);
+    EXPECT_EQ(L"1\uFF9F 2' 3\".4", stage.Text());
+    EXPECT_EQ(0.0, OpenAngleEdit().GetAngle());
 }
 
 /// A full-screen dialog with two angles, attached when the base class has shown it.
@@ -245,7 +245,7 @@ TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
     stage.m_angle.SetAngle(PI / 2);
     stage.Enter();
     panel::ExpectShown();
-    EXPECT_EQ(stage.Text(), L"90.0000");
+    EXPECT_EQ(L"90.0000", stage.Text());
     stage.Leave();
     panel::ExpectHidden();
 }

@@ -41,7 +41,7 @@ TEST(Pen, TapThatNobodyCouldMakeIsAFailureAndNoTap) {
     }
     Caught caught;
     TapOk(frame);
-    EXPECT_EQ(caught.m_texts.size(), 1U) << "no title bar";
+    EXPECT_EQ(1U, caught.m_texts.size()) << "no title bar";
 }
 
 TEST(Picture, OfTheScreenHasTheWindowsInIt) {
@@ -96,7 +96,7 @@ TEST(Shake, FindsWhatIsLeftByEachOpening) {
             fx::Form(pOwner).DoModal();
         },
         3, 1000);
-    ASSERT_EQ(caught.m_texts.size(), 1U);
+    ASSERT_EQ(1U, caught.m_texts.size());
     EXPECT_NE(caught.m_texts[0].find("seed 3 leaves with each 500 events: "), std::string::npos)
         << caught.m_texts[0];
     EXPECT_NE(caught.m_texts[0].find(" windows"), std::string::npos) << caught.m_texts[0];
@@ -151,9 +151,9 @@ TEST(Program, WhatDoesNotComeIsTold) {
     Caught caught;
     const Program none(L"no such program", L"");
     none.ExpectText(1, L"a"); // at once: it has failed already
-    ASSERT_EQ(caught.m_texts.size(), 2U);
-    EXPECT_EQ(caught.m_texts[0].find("cannot start "), 0U) << caught.m_texts[0];
-    EXPECT_EQ(caught.m_texts[1], "the text is not \"a\" but that of no window");
+    ASSERT_EQ(2U, caught.m_texts.size());
+    EXPECT_EQ(0U, caught.m_texts[0].find("cannot start ")) << caught.m_texts[0];
+    EXPECT_EQ("the text is not \"a\" but that of no window", caught.m_texts[1]);
 }
 
 } // namespace

@@ -48,7 +48,7 @@ TEST(Script, WhatGoesWrongIsToldAndLeavesNothingOpen) {
         } catch (int) {
             caught.m_texts.emplace_back("int");
         }
-        ASSERT_EQ(caught.m_texts.size(), 1U);
+        ASSERT_EQ(1U, caught.m_texts.size());
         EXPECT_NE(caught.m_texts[0].find(expected), std::string::npos) << caught.m_texts[0];
         Pump();
         EXPECT_EQ(Leftovers::Now().nWindows, nWindows);
@@ -61,14 +61,14 @@ TEST(Script, ReporterThatThrowsEndsTheTestAfterTheDialogsAreClosed) {
     const Reporter before = SetReporter([](const std::string&, const Place&) { throw Failed(); });
     Form form;
     EXPECT_THROW(Script().Then(Never).Run([&] { return form.DoModal(); }, SECONDS), Failed);
-    EXPECT_EQ(form.m_hWnd, nullptr);
+    EXPECT_EQ(nullptr, form.m_hWnd);
     SetReporter(before);
 }
 
 TEST(Script, FrameworkExceptionOfAStepIsTold) {
     Form form;
     EXPECT_THROW(Play(form, {AfxThrowMemoryException}), std::runtime_error);
-    EXPECT_EQ(form.m_hWnd, nullptr);
+    EXPECT_EQ(nullptr, form.m_hWnd);
 }
 
 /// The other program of the next test.
@@ -91,7 +91,7 @@ TEST(Script, NothingIsTypedIntoAnotherProgramThatIsInFront) {
     };
     std::wstring text;
     PlayAndEnd(form, {comeInFront, [] { TypeText(L"a-B"); }, [&] { text = TextOf(form.Item(Form::EDIT)); }});
-    EXPECT_EQ(text, L"a-B");
+    EXPECT_EQ(L"a-B", text);
     form.m_onInit();
 }
 

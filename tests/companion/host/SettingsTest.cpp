@@ -17,12 +17,12 @@ TEST(Settings, DecimalsComeFromTheEnvironmentWithinTheirRange) {
         EXPECT_EQ(TVGetCommonRegInt(1280), value) << stored;
     }
     ::unsetenv("TESUVO_SETTING_1280");
-    EXPECT_EQ(TVGetCommonRegInt(1280), 2);
+    EXPECT_EQ(2, TVGetCommonRegInt(1280));
 }
 
 TEST(Settings, UnknownOnesAreZeroWhateverIsStored) {
     ::setenv("TESUVO_SETTING_1281", "3", 1);
-    EXPECT_EQ(TVGetCommonRegInt(1281), 0);
+    EXPECT_EQ(0, TVGetCommonRegInt(1281));
     ::unsetenv("TESUVO_SETTING_1281");
 }
 

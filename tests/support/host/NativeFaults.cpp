@@ -110,7 +110,7 @@ long FailEach(const std::function<void(long)>& arm, const std::function<void()>&
         EXPECT_EQ(Now(), before) << "left after failure " << nth;
         if (failed)
             continue;
-        EXPECT_EQ(end, End::Done);
+        EXPECT_EQ(End::Done, end);
         return nth - 1;
     }
 }
