@@ -1,5 +1,7 @@
 #include "testkit/Drive.h"
 
+#include "atlconv.h"
+
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -45,7 +47,8 @@ std::string UnixName(const CString& strPath) {
 
 /// Wine gives no handle of such a process to wait for.
 void RunUnix(const std::string& command, const std::function<bool()>& done) {
-    CString strLine = (L"sh -c \"" + CString(command.c_str()) + L"\"");
+    CString strLine =
+        L"sh -c \"" + CString(CA2W(command.c_str(), CP_UTF8)) + L"\""; // as Wine has names of files
     STARTUPINFO startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};

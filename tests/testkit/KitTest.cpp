@@ -86,6 +86,13 @@ TEST(Picture, SavesPng) {
     EXPECT_EQ(bytes, std::string(std::begin(EXPECTED), std::end(EXPECTED)));
 }
 
+TEST(Drive, TakesManyFilesInAFolderOfAnyName) {
+    Drive drive;
+    drive.MakeFolder(L"\\測量");
+    drive.MakeMany(Drive::Files, L"\\測量", "f%.0f", 3);
+    EXPECT_NE(INVALID_FILE_ATTRIBUTES, ::GetFileAttributes(L"\\測量\\f2"));
+}
+
 TEST(Shake, FindsWhatIsLeftByEachOpening) {
     std::vector<HWND> lost;
     Caught caught;
