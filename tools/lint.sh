@@ -10,6 +10,7 @@ run_lint() {
     logged lint-scripts check_scripts
     logged lint-arrows check_arrows
     logged lint-names check_names
+    logged lint-assertions check_assertions
     logged lint-subjects check_subjects
     logged lint-members check_members
     logged lint-headers check_headers
@@ -42,6 +43,12 @@ check_names() {
     ) || true
     [[ -z $found ]] || printf 'not as CONTRIBUTING.md says:\n%s\n' "$found"
     [[ -z $found ]]
+}
+
+# The expected value first, one fact an assertion.
+check_assertions() {
+    find "${lint_folders[@]}" -path '*tests/*' \( -name '*.h' -o -name '*.cpp' \) -print0 |
+        xargs -0 python3 tools/assertions.py
 }
 
 # A subject has to fit on a line of a log. Those before this rule stay as they are.

@@ -64,7 +64,8 @@ TEST(ArchiveObject, RecordsCarryClassesOnceAndObjectsByNumber) {
                   ar >> loaded[0] >> loaded[1] >> loaded[2];
                   ar.SerializeClass(RUNTIME_CLASS(CLink));
               }));
-    ASSERT_TRUE(loaded[0] != nullptr && loaded[1] != nullptr);
+    ASSERT_NE(nullptr, loaded[0]);
+    ASSERT_NE(nullptr, loaded[1]);
     const std::unique_ptr<CLink> owner(loaded[0]);
     EXPECT_EQ(loaded[1], loaded[0]->m_pNext);
     EXPECT_EQ(loaded[0], loaded[1]->m_pNext);

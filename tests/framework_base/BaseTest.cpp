@@ -43,11 +43,14 @@ TEST(Collections, TypedOnesHoldTheirType) {
     CTypedPtrMap<CMapStringToPtr, CString, int*> map;
     map[L"a"] = &value;
     int* pFound = nullptr;
-    EXPECT_TRUE(!map.Lookup(L"b", pFound) && map.Lookup(L"a", pFound) && pFound == &value);
+    EXPECT_FALSE(map.Lookup(L"b", pFound));
+    EXPECT_TRUE(map.Lookup(L"a", pFound));
+    EXPECT_EQ(&value, pFound);
     CString key;
     pos = map.GetStartPosition();
     map.GetNextAssoc(pos, key, pFound);
-    EXPECT_TRUE(key == L"a" && pos == nullptr);
+    EXPECT_EQ(L"a", key);
+    EXPECT_EQ(nullptr, pos);
 }
 
 TEST(Collections, MapsKeepTheOrderAndFindManyKeys) {
@@ -82,7 +85,8 @@ TEST(Collections, MapsKeepTheOrderAndFindManyKeys) {
     EXPECT_EQ(&large, pointers.PLookup(&map)->value);
     CMap<CStringA, LPCSTR, int, int> narrow;
     narrow["a"] = 1;
-    EXPECT_TRUE(narrow.PLookup("b") == nullptr && narrow.PLookup("a")->value == 1);
+    EXPECT_EQ(nullptr, narrow.PLookup("b"));
+    EXPECT_EQ(1, narrow.PLookup("a")->value);
 }
 
 TEST(ArchiveLines, AreReadUpToTheirEnd) {
@@ -94,7 +98,8 @@ TEST(ArchiveLines, AreReadUpToTheirEnd) {
         CString line;
         TCHAR text[10];
         ar.SetLoadParams(), ar.SetStoreParams(); // nothing
-        EXPECT_TRUE(ar.ReadString(line) && line == L"a\x3042");
+        EXPECT_TRUE(ar.ReadString(line));
+        EXPECT_EQ(L"a\x3042", line);
         EXPECT_THROW(ar.ReadString(nullptr, 2), CInvalidArgException*);
         EXPECT_THROW(ar.ReadString(text, 0), CInvalidArgException*);
         EXPECT_STREQ(L"c", ar.ReadString(text, 2));
@@ -102,7 +107,9 @@ TEST(ArchiveLines, AreReadUpToTheirEnd) {
         CStringA narrow;
         ar >> narrow;
         EXPECT_STREQ("az", narrow);
-        EXPECT_TRUE(ar.IsBufferEmpty() && !ar.ReadString(line) && ar.ReadString(text, 10) == nullptr);
+        EXPECT_TRUE(ar.IsBufferEmpty());
+        EXPECT_FALSE(ar.ReadString(line));
+        EXPECT_EQ(nullptr, ar.ReadString(text, 10));
     });
 }
 
@@ -184,8 +191,12 @@ TEST(Diagnostics, DumpsGoToAFileOrTheTrace) {
     EXPECT_EQ(text.substr(42), testing::internal::GetCapturedStderr());
     dc.SetDepth(dc.GetDepth() + 1);
     EXPECT_EQ(1, dc.GetDepth());
-    EXPECT_TRUE(AfxIsValidAddress(bytes, 3) && AfxIsValidString(L"") && AfxIsValidString(""));
-    EXPECT_FALSE(AfxIsValidAddress(nullptr, 3) || AfxIsValidString(LPCWSTR{}) || AfxIsValidString(LPCSTR{}));
+    EXPECT_TRUE(AfxIsValidAddress(bytes, 3));
+    EXPECT_TRUE(AfxIsValidString(L""));
+    EXPECT_TRUE(AfxIsValidString(""));
+    EXPECT_FALSE(AfxIsValidAddress(nullptr, 3));
+    EXPECT_FALSE(AfxIsValidString(LPCWSTR{}));
+    EXPECT_FALSE(AfxIsValidString(LPCSTR{}));
 }
 
 TEST(Diagnostics, PiecesOfTexts) {
@@ -197,8 +208,10 @@ TEST(Diagnostics, PiecesOfTexts) {
         EXPECT_STREQ(wanted, piece);
     }
     using namespace std; // both are in reach
-    for (const int n : {1, 4})
-        EXPECT_TRUE(min(n, 2.5) == (n == 1 ? 1 : 2.5) && max(n, 2UL) == (n == 1 ? 2 : 4));
+    for (const int n : {1, 4}) {
+        EXPECT_EQ(n == 1 ? 1 : 2.5, min(n, 2.5));
+        EXPECT_TRUE(max(n, 2UL) == (n == 1 ? 2 : 4));
+    }
 }
 
 } // namespace

@@ -39,7 +39,8 @@ void Fill(CStringArray& array, LPCTSTR letters) {
 
 TEST(List, AddsInsertsAndRemovesAnywhere) {
     CStringList list(3);
-    EXPECT_TRUE(list.IsEmpty() && list.GetHeadPosition() == nullptr);
+    EXPECT_TRUE(list.IsEmpty());
+    EXPECT_EQ(nullptr, list.GetHeadPosition());
     const POSITION b = list.AddHead(L"b");
     const POSITION d = list.AddTail(L"d");
     list.AddHead("a");
@@ -71,7 +72,8 @@ TEST(List, FindsByValueAndByIndex) {
     EXPECT_EQ(list.GetTailPosition(), list.Find(L"a", first));
     EXPECT_EQ(nullptr, list.Find(L"x"));
     EXPECT_STREQ(L"b", list.GetAt(list.FindIndex(1)));
-    EXPECT_TRUE(list.FindIndex(3) == nullptr && list.FindIndex(-1) == nullptr);
+    EXPECT_EQ(nullptr, list.FindIndex(3));
+    EXPECT_EQ(nullptr, list.FindIndex(-1));
 }
 
 TEST(List, TakesListsAndItself) {
@@ -266,7 +268,8 @@ TEST(Collection, LargeOnesSurviveTheRoundTrip) {
     const auto same = [](auto& a, auto& b) {
         return std::equal(a.GetData(), a.GetData() + a.GetSize(), b.GetData(), b.GetData() + b.GetSize());
     };
-    EXPECT_TRUE(same(numbers[0], numbers[1]) && same(strings[0], strings[1]));
+    EXPECT_TRUE(same(numbers[0], numbers[1]));
+    EXPECT_TRUE(same(strings[0], strings[1]));
 }
 
 TEST(List, MissingElementsThrow) {

@@ -155,7 +155,8 @@ TEST_F(File, HandlesAreClosedByTheirOwnerOnly) {
         aborted.m_hFile = file.m_hFile;
         CFile failed(static_cast<HANDLE>(file));
         EXPECT_FALSE(failed.Open(Path(L"none"), CFile::modeRead));
-        EXPECT_TRUE(failed.m_hFile == CFile::hFileNull && failed.GetFilePath().IsEmpty());
+        EXPECT_EQ(CFile::hFileNull, failed.m_hFile);
+        EXPECT_TRUE(failed.GetFilePath().IsEmpty());
     }
     const std::unique_ptr<CFile> twin(file.Duplicate());
     EXPECT_STREQ(path, twin->GetFilePath());

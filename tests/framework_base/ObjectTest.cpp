@@ -28,8 +28,9 @@ TEST(Object, KnowsItsClass) {
     CSquare square;
     EXPECT_STREQ("CSquare", square.GetRuntimeClass()->m_lpszClassName);
     EXPECT_EQ(static_cast<int>(sizeof(CSquare)), RUNTIME_CLASS(CSquare)->m_nObjectSize);
-    EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CSquare)) && square.IsKindOf(RUNTIME_CLASS(CShape)) &&
-                square.IsKindOf(RUNTIME_CLASS(CObject)));
+    EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CSquare)));
+    EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CShape)));
+    EXPECT_TRUE(square.IsKindOf(RUNTIME_CLASS(CObject)));
     EXPECT_FALSE(CShape().IsKindOf(RUNTIME_CLASS(CSquare)));
 
     CPlain plain; // needs no class of its own
@@ -52,7 +53,8 @@ TEST(Object, IsCreatedByItsClassAndByName) {
     EXPECT_EQ(nullptr, RUNTIME_CLASS(CShape)->CreateObject());
     const std::unique_ptr<CObject> list(CRuntimeClass::CreateObject("CStringList"));
     ASSERT_NE(nullptr, list);
-    EXPECT_TRUE(list->IsKindOf(RUNTIME_CLASS(CStringList)) && list->IsSerializable());
+    EXPECT_TRUE(list->IsKindOf(RUNTIME_CLASS(CStringList)));
+    EXPECT_TRUE(list->IsSerializable());
     EXPECT_EQ(nullptr, CRuntimeClass::CreateObject("CNobody"));
     EXPECT_EQ(nullptr, CRuntimeClass::FromName(nullptr));
 }

@@ -76,7 +76,10 @@ TEST(StringNarrow, HasTheSameMembers) {
     EXPECT_STREQ(CStringA(L"az{[\x3042z"), CStringA(L"AZ{[\x3042Z").MakeLower());
     EXPECT_STREQ("\x01 \x85", CStringA(" \x01 \x85\t").Trim());
     EXPECT_STREQ("~", CStringA("\r~\n").Trim());
-    EXPECT_TRUE(s != "x" && "y" != s && CStringA("b") > "a" && "a" + CStringA("b") + L'c' == "abc");
+    EXPECT_TRUE(s != "x");
+    EXPECT_TRUE("y" != s);
+    EXPECT_TRUE(CStringA("b") > "a");
+    EXPECT_EQ("abc", "a" + CStringA("b") + L'c');
 }
 
 TEST(StringMembers, TextOfAStringIsPassedToFormats) {

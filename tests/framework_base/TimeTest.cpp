@@ -12,9 +12,13 @@ namespace {
 
 TEST(Time, HasPartsAndText) {
     const CTime time(2024, 2, 29, 13, 5, 9);
-    EXPECT_TRUE(time.GetYear() == 2024 && time.GetMonth() == 2 && time.GetDay() == 29 &&
-                time.GetHour() == 13 && time.GetMinute() == 5 && time.GetSecond() == 9 &&
-                time.GetDayOfWeek() == 5);
+    EXPECT_EQ(2024, time.GetYear());
+    EXPECT_EQ(2, time.GetMonth());
+    EXPECT_EQ(29, time.GetDay());
+    EXPECT_EQ(13, time.GetHour());
+    EXPECT_EQ(5, time.GetMinute());
+    EXPECT_EQ(9, time.GetSecond());
+    EXPECT_EQ(5, time.GetDayOfWeek());
     EXPECT_EQ(time, CTime((44 << 9 | 2 << 5 | 29) & 0xFFFF, 13 << 11 | 5 << 5 | 4) + CTimeSpan(1));
     EXPECT_EQ(2999, CTime(2999, 12, 31, 0, 0, 0).GetYear());
     for (const auto& [format, text] :
@@ -25,9 +29,12 @@ TEST(Time, HasPartsAndText) {
     EXPECT_EQ(70, CTime(0).GetGmtTm()->tm_year);
     EXPECT_EQ(3000 - 1900, CTime(32'535'215'999).GetGmtTm()->tm_year);
     std::tm parts{};
-    EXPECT_TRUE(time.GetLocalTm(&parts) == &parts && parts.tm_mday == 29);
-    EXPECT_TRUE(CTime(0).GetGmtTm(&parts) == &parts && parts.tm_mday == 1);
-    EXPECT_TRUE(time.GetLocalTm() != nullptr && time.GetLocalTm()->tm_mday == 29);
+    EXPECT_EQ(&parts, time.GetLocalTm(&parts));
+    EXPECT_EQ(29, parts.tm_mday);
+    EXPECT_EQ(&parts, CTime(0).GetGmtTm(&parts));
+    EXPECT_EQ(1, parts.tm_mday);
+    EXPECT_NE(nullptr, time.GetLocalTm());
+    EXPECT_EQ(29, time.GetLocalTm()->tm_mday);
     const CTime now = CTime::GetCurrentTime();
     EXPECT_LE(std::time(nullptr) - now.GetTime(), 60);
 }
@@ -47,7 +54,8 @@ TEST(Time, RefusesWhatIsNoTime) {
     for (const LONGLONG time : {LONGLONG{-1}, LONGLONG{32'535'216'000}, LONGLONG{INT64_MAX}}) {
         EXPECT_THROW(CTime(time).GetYear(), CInvalidArgException*);
         EXPECT_STREQ(L"", CTime(time).Format(L"%Y") + CTime(time).FormatGmt(L"%Y"));
-        EXPECT_TRUE(CTime(time).GetGmtTm() == nullptr && CTime(time).GetLocalTm() == nullptr);
+        EXPECT_EQ(nullptr, CTime(time).GetGmtTm());
+        EXPECT_EQ(nullptr, CTime(time).GetLocalTm());
     }
 }
 
@@ -57,10 +65,13 @@ TEST(Time, CalculatesInSeconds) {
         ExpectOrder(static_cast<int>(n - 2), CTimeSpan(n), CTimeSpan(LONGLONG{2}));
     }
     CTimeSpan span(101, 2, 3, 4);
-    EXPECT_TRUE(span.GetDays() == 101 && span.GetHours() == 2 && span.GetMinutes() == 3 &&
-                span.GetSeconds() == 4);
-    EXPECT_TRUE(span.GetTotalHours() == 2426 && span.GetTotalMinutes() == 2426 * 60 + 3 &&
-                span.GetTotalSeconds() == (2426 * 60 + 3) * 60 + 4);
+    EXPECT_EQ(101, span.GetDays());
+    EXPECT_EQ(2, span.GetHours());
+    EXPECT_EQ(3, span.GetMinutes());
+    EXPECT_EQ(4, span.GetSeconds());
+    EXPECT_EQ(2426, span.GetTotalHours());
+    EXPECT_EQ(2426 * 60 + 3, span.GetTotalMinutes());
+    EXPECT_EQ((2426 * 60 + 3) * 60 + 4, span.GetTotalSeconds());
     EXPECT_EQ(CTimeSpan(5), CTimeSpan(2) + CTimeSpan(7) - CTimeSpan(4));
     (span += CTimeSpan(10)) -= CTimeSpan(1);
     EXPECT_STREQ(L"101d 02:03:13 %", span.Format(L"%Dd %H:%M:%S %%"));
@@ -78,7 +89,8 @@ TEST(Time, CalculatesInSeconds) {
     CTimeSpan loadedSpan;
     Loaded(Stored([&](CArchive& ar) { ar << time << span; }),
            [&](CArchive& ar) { ar >> loaded >> loadedSpan; });
-    EXPECT_TRUE(loaded == time && loadedSpan == span);
+    EXPECT_EQ(time, loaded);
+    EXPECT_EQ(span, loadedSpan);
 }
 
 #ifndef _WIN32
@@ -89,7 +101,9 @@ TEST(Time, LocalTimeIsThatOfTheZone) {
     EXPECT_EQ(CTimeSpan(3600), CTime(2024, 10, 27, 2, 30, 0, 0) - CTime(2024, 10, 27, 2, 30, 0, 1));
     const CTime noon(2024, 7, 1, 12, 0, 0);
     EXPECT_STREQ(L"12, 10 UTC", noon.Format(L"%H, ") + noon.FormatGmt(L"%H UTC"));
-    EXPECT_TRUE(noon.GetLocalTm()->tm_hour == 12 && noon.GetGmtTm()->tm_hour == 10 && noon.GetHour() == 12);
+    EXPECT_EQ(12, noon.GetLocalTm()->tm_hour);
+    EXPECT_EQ(10, noon.GetGmtTm()->tm_hour);
+    EXPECT_EQ(12, noon.GetHour());
     EXPECT_EQ(0, CTime(1970, 1, 1, 1, 0, 0).GetTime());
     EXPECT_THROW(CTime(1970, 1, 1, 0, 59, 59), CInvalidArgException*);
     ::unsetenv("TZ");

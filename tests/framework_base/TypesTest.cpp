@@ -18,11 +18,13 @@ std::string Text(SIZE s) {
 }
 
 TEST(Types, PointsAndSizesCalculate) {
-    EXPECT_TRUE(CPoint(5, 7) == CPoint(2, 3) + CSize(3, 4) && CSize(3, 4) == CPoint(5, 7) - CPoint(2, 3));
+    EXPECT_EQ(CPoint(2, 3) + CSize(3, 4), CPoint(5, 7));
+    EXPECT_EQ(CPoint(5, 7) - CPoint(2, 3), CSize(3, 4));
     EXPECT_TRUE(CPoint(-1, -2) == -CPoint(1, 2));
     EXPECT_TRUE(CPoint(-3, 5) == CPoint(LPARAM{0x0005FFFD})); // signed words
     EXPECT_TRUE(CSize(-3, 5) == CSize(DWORD{0x0005FFFD}));
-    EXPECT_TRUE(CPoint(1, 2) != CPoint(1, 3) && CPoint(1, 2) != CPoint(2, 2));
+    EXPECT_NE(CPoint(1, 3), CPoint(1, 2));
+    EXPECT_NE(CPoint(2, 2), CPoint(1, 2));
     const POINT plainPoint = {15, 0};
     const SIZE plainSize = {0, 3};
     CPoint p(1, 1);
@@ -32,19 +34,24 @@ TEST(Types, PointsAndSizesCalculate) {
     EXPECT_TRUE(p == CPoint(11, 12));
     p += SIZE{5, 6};
     p -= POINT{1, 2};
-    EXPECT_TRUE(p == CPoint(15, 16) && p != plainPoint && CPoint() != CPoint(plainPoint));
+    EXPECT_EQ(CPoint(15, 16), p);
+    EXPECT_TRUE(p != plainPoint);
+    EXPECT_NE(CPoint(plainPoint), CPoint());
     CSize s;
     s += SIZE{5, 6};
     s -= SIZE{1, 3};
-    EXPECT_TRUE(s == CSize(CPoint(4, 3)) && s != CSize(4, 0) && s != plainSize &&
-                CSize(plainSize) == plainSize);
+    EXPECT_EQ(CSize(CPoint(4, 3)), s);
+    EXPECT_NE(CSize(4, 0), s);
+    EXPECT_TRUE(s != plainSize);
+    EXPECT_TRUE(CSize(plainSize) == plainSize);
 }
 
 TEST(Types, TemporariesHaveAnAddress) {
     const CRect rect(1, 2, 3, 4);
     const auto text = [](const CRect* p) { return Text(*p); };
     EXPECT_EQ(text(&rect), text(&CRect(1, 2, 3, 4)));
-    EXPECT_TRUE((&CPoint(5, 6))->y == 6 && (&CSize(7, 8))->cx == 7);
+    EXPECT_EQ(6, (&CPoint(5, 6))->y);
+    EXPECT_EQ(7, (&CSize(7, 8))->cx);
 }
 
 TEST(Types, RectCombinations) {
@@ -101,11 +108,18 @@ TEST(Types, RectChanges) {
     EXPECT_EQ("10 20 31 62", changed([](CRect& c) { c.BottomRight().Offset(1, 2); }));
     CRect turned(30, 60, 10, 20);
     turned.NormalizeRect();
-    EXPECT_TRUE(turned == r && r.Size() == CSize(20, 40) && r.CenterPoint() == CPoint(20, 40));
+    EXPECT_EQ(r, turned);
+    EXPECT_EQ(CSize(20, 40), r.Size());
+    EXPECT_EQ(CPoint(20, 40), r.CenterPoint());
     EXPECT_EQ("10 20 30 60", Text(r.TopLeft()) + " " + Text(r.BottomRight()));
     const RECT same = r;
-    EXPECT_TRUE(CRect(same) == r && r == same && !(r != same) && r != CRect(0, 20, 30, 60) &&
-                r != CRect(10, 0, 30, 60) && r != CRect(10, 20, 0, 60) && r != CRect(10, 20, 30, 0));
+    EXPECT_EQ(CRect(same), r);
+    EXPECT_TRUE(r == same);
+    EXPECT_FALSE(r != same);
+    EXPECT_NE(CRect(0, 20, 30, 60), r);
+    EXPECT_NE(CRect(10, 0, 30, 60), r);
+    EXPECT_NE(CRect(10, 20, 0, 60), r);
+    EXPECT_NE(CRect(10, 20, 30, 0), r);
 }
 
 TEST(Types, WhatIsAddedMovesAndMarginsGrow) {
@@ -145,11 +159,17 @@ TEST(Types, CornersAreTheRectItself) {
 
 TEST(Types, RightAndBottomLieOutside) {
     const CRect r(0, 0, 2, 3);
-    EXPECT_TRUE(r.PtInRect(CPoint(0, 0)) && r.PtInRect(CPoint(1, 2)));
-    EXPECT_FALSE(r.PtInRect(CPoint(2, 0)) || r.PtInRect(CPoint(0, 3)) || r.PtInRect(CPoint(-1, 0)) ||
-                 r.PtInRect(CPoint(0, -1)));
-    EXPECT_TRUE(CRect(1, 1, 1, 5).IsRectEmpty() && CRect(1, 1, 5, 0).IsRectEmpty() && !r.IsRectEmpty());
-    EXPECT_TRUE(CRect().IsRectNull() && !CRect(1, 1, 1, 1).IsRectNull());
+    EXPECT_TRUE(r.PtInRect(CPoint(0, 0)));
+    EXPECT_TRUE(r.PtInRect(CPoint(1, 2)));
+    EXPECT_FALSE(r.PtInRect(CPoint(2, 0)));
+    EXPECT_FALSE(r.PtInRect(CPoint(0, 3)));
+    EXPECT_FALSE(r.PtInRect(CPoint(-1, 0)));
+    EXPECT_FALSE(r.PtInRect(CPoint(0, -1)));
+    EXPECT_TRUE(CRect(1, 1, 1, 5).IsRectEmpty());
+    EXPECT_TRUE(CRect(1, 1, 5, 0).IsRectEmpty());
+    EXPECT_FALSE(r.IsRectEmpty());
+    EXPECT_TRUE(CRect().IsRectNull());
+    EXPECT_FALSE(CRect(1, 1, 1, 1).IsRectNull());
 }
 
 } // namespace

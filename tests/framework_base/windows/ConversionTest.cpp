@@ -19,7 +19,8 @@ TEST(Conversion, ClassesHoldTheText) {
     EXPECT_STREQ(kWide, CA2W("\xE3\x81\x82!", CP_UTF8));
     EXPECT_STREQ(kWide, CW2T(kWide));
     EXPECT_STREQ(kNarrow, CW2AEX<2>(kWide, 3)); // longer than its size, by the thread's page
-    EXPECT_TRUE(CA2W(nullptr).m_psz == nullptr && CA2A(nullptr).m_psz == nullptr);
+    EXPECT_EQ(nullptr, CA2W(nullptr).m_psz);
+    EXPECT_EQ(nullptr, CA2A(nullptr).m_psz);
 }
 
 TEST(Conversion, MacrosKeepAllTextsOfTheBlock) {
@@ -32,7 +33,8 @@ TEST(Conversion, MacrosKeepAllTextsOfTheBlock) {
         EXPECT_STREQ(kWide, psz);
     EXPECT_STREQ(kNarrow, pszNarrow);
     EXPECT_EQ(kWide, T2COLE(kWide));
-    EXPECT_TRUE(A2W(nullptr) == nullptr && W2CA(nullptr) == nullptr);
+    EXPECT_EQ(nullptr, A2W(nullptr));
+    EXPECT_EQ(nullptr, W2CA(nullptr));
 }
 
 TEST(Conversion, BuffersOfTheCallersSize) {

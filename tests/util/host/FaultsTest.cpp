@@ -128,17 +128,21 @@ TEST_F(BufferedAsciiFileFaults, AfterALossTheNextFileIsClean) {
         faults::FailCall("write", EIO);
         EXPECT_EQ(bClose ? faults::End::FileError : faults::End::Done,
                   faults::EndOf([&] { bClose ? file.Close() : file.Abort(); }));
-        EXPECT_TRUE(faults::Disarm() && file.m_hFile == CFile::hFileNull);
+        EXPECT_TRUE(faults::Disarm());
+        EXPECT_EQ(CFile::hFileNull, file.m_hFile);
         EXPECT_EQ(0U, CFile(m_path, CFile::modeRead).GetLength()) << "not written a second time";
         ASSERT_TRUE(file.Open(m_path, kCreate));
         CString str;
-        EXPECT_TRUE(file.GetPosition() == 0 && file.GetLength() == 0 && file.ReadString(str) == 0);
+        EXPECT_EQ(0, file.GetPosition());
+        EXPECT_EQ(0, file.GetLength());
+        EXPECT_EQ(0, file.ReadString(str));
         file.WriteString(L"kept");
         faults::FailCall("fsync", EIO);
         EXPECT_EQ(faults::End::FileError, faults::EndOf([&] { file.Flush(); }));
         ASSERT_TRUE(file.Open(Path(L"another"), kCreate));
         file.Close();
-        EXPECT_TRUE(file.m_hFile == CFile::hFileNull && CFile(m_path, CFile::modeRead).GetLength() == 6);
+        EXPECT_EQ(CFile::hFileNull, file.m_hFile);
+        EXPECT_EQ(6, CFile(m_path, CFile::modeRead).GetLength());
     }
 }
 

@@ -28,8 +28,8 @@ TEST(StringStack, FillsAComboBoxAndLeavesItsText) {
     CStringStack empty;
     combo.SetWindowText(L"typed");
     empty.SetupList(&combo);
-    EXPECT_EQ(combo.GetCount(), 0);
-    EXPECT_EQ(combo.GetWindowTextLength(), 5);
+    EXPECT_EQ(0, combo.GetCount());
+    EXPECT_EQ(5, combo.GetWindowTextLength());
 }
 
 } // namespace
