@@ -69,23 +69,22 @@ void CBufferedAsciiFile::SettleAnyhow() noexcept {
 UINT CBufferedAsciiFile::Read(void* lpBuf, UINT nCount) {
     if (m_bWriting)
         WriteBack();
-    auto* pTarget = static_cast<BYTE*>(lpBuf);
+    auto* const pTarget = static_cast<BYTE*>(lpBuf);
     if (nCount == 1 && m_nNext != m_nEnd) { // what ReadString asks for
         *pTarget = m_pBlock[m_nNext++];
         return 1;
     }
-    for (UINT nLeft = nCount;;) {
-        const UINT nPiece = std::min(nLeft, m_nEnd - m_nNext);
+    for (UINT nDone = 0;;) {
+        const UINT nPiece = std::min(nCount - nDone, m_nEnd - m_nNext);
         if (nPiece != 0)
-            std::memcpy(pTarget, m_pBlock.get() + m_nNext, nPiece);
-        pTarget += nPiece;
+            std::memcpy(pTarget + nDone, m_pBlock.get() + m_nNext, nPiece);
         m_nNext += nPiece;
-        nLeft -= nPiece;
-        if (nLeft == 0)
-            return nCount;
+        nDone += nPiece;
+        if (nDone == nCount)
+            return nDone;
         m_nNext = m_nEnd = 0; // used up: the file is where the block ended
-        if (nLeft >= kBlockSize || !ReadAhead())
-            return nCount - nLeft + CFile::Read(pTarget, nLeft);
+        if (nCount - nDone >= kBlockSize || !ReadAhead())
+            return nDone + CFile::Read(pTarget + nDone, nCount - nDone);
     }
 }
 
