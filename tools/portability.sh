@@ -13,7 +13,7 @@ run_portability() {
     build_preset clang-win64 product "${portable_tests[@]}"
     build_preset win32 all
     open_screen
-    run_programs '' short clang clang-win64
+    run_programs '' first clang clang-win64
     printf '%d passed, %d failed\n' "$passed" "$failed"
     ((failed == 0))
 }

@@ -10,14 +10,15 @@ other_screens=('320x240 96' '480x640 192' '800x480 96' '1024x768 96')
 
 # run_tests NAME: every program whose name contains NAME, the sample's too. Without a NAME
 # also what is no test program: proofs, speed, tutorial, package. Programs with windows wait
-# more than they calculate, so there are three lanes: without a screen, and two with one each. The
-# programs that look at all dialogs run on each of other_screens as well.
+# more than they calculate, so there are four lanes: without a screen, and three with one each that
+# take about as long. The programs that look at all dialogs run on each of other_screens as well.
 run_tests() {
     local built=$SECONDS lane
     start_lane native tests_without_screen "$1"
-    start_lane long tests_on_second_screen "$1"
-    run_programs "$1" short win64 sample programs
-    for lane in native long; do
+    start_lane second tests_on_second_screen "$1"
+    start_lane third tests_on_third_screen "$1"
+    run_programs "$1" first win64 sample programs
+    for lane in native second third; do
         end_lane "$lane"
     done
     if [[ -z $1 ]]; then
@@ -32,8 +33,14 @@ run_tests() {
     ((failed == 0))
 }
 
+# Wine's first start takes seconds in which the machine has nothing to do: beside the build.
+prepare_screen() {
+    open_screen
+    close_screen
+}
+
 tests_without_screen() {
-    run_programs "$1" short host arm
+    run_programs "$1" first host arm
     [[ -z $1 ]] || return 0
     make_package
     check_proofs
@@ -43,9 +50,16 @@ tests_without_screen() {
 }
 
 tests_on_second_screen() {
-    if [[ -n $(programs "$1" long win64) ]]; then
-        open_screen -second
-        run_programs "$1" long win64
+    [[ -n $(programs "$1" second sample) ]] || return 0
+    open_screen -second
+    run_programs "$1" second sample
+    close_screen
+}
+
+tests_on_third_screen() {
+    if [[ -n $(programs "$1" third win64) ]]; then
+        open_screen -third
+        run_programs "$1" third win64
         close_screen
     fi
     [[ -z $1 || screens == *"$1"* ]] || return 0
@@ -53,7 +67,7 @@ tests_on_second_screen() {
     for screen in "${other_screens[@]}"; do
         # shellcheck disable=SC2086  # size and resolution
         open_screen "-${screen%% *}" $screen
-        run_programs screens short win64 sample
+        run_programs screens first win64 sample
         close_screen
     done
 }
@@ -84,7 +98,7 @@ end_lane() {
     failed=$((failed + bad))
 }
 
-# run_programs NAME LENGTH BUILD...: the test programs of each build whose name contains NAME.
+# run_programs NAME LANE BUILD...: the test programs of each build whose name contains NAME.
 run_programs() {
     local preset program
     while read -r -u 4 preset program; do
@@ -92,18 +106,21 @@ run_programs() {
     done 4< <(programs "$@")
 }
 
-# Their builds and paths, a line each. The long ones are on the second screen, so that both take alike.
+# Their builds and paths, a line each, of a lane: those that take longest are in others than the first.
 programs() {
-    local name=$1 length=$2 preset program folder found
+    local name=$1 lane=$2 preset program folder found
     shift 2
     for preset in "$@"; do
         folder=$build/$preset/bin
         [[ $preset != sample ]] || folder=$build/fieldbook/tests
         for program in "$folder"/test_*"$name"*; do
-            [[ -x $program && $program != *.dll ]] || continue
-            found=short
-            [[ $program != *test_faults.exe && $program != *test_shake.exe ]] || found=long
-            [[ $found != "$length" ]] || printf '%s %s\n' "$preset" "$program"
+            [[ -f $program && -x $program && $program != *.dll ]] || continue
+            case $program in
+            */test_faults.exe | */test_shake.exe) found=third ;;
+            */test_fieldbook_shake.exe) found=second ;;
+            *) found=first ;;
+            esac
+            [[ $found != "$lane" ]] || printf '%s %s\n' "$preset" "$program"
         done
     done
 }

@@ -7,48 +7,61 @@
 
 #include "afxcmn.h"
 
-#include <array>
+#include <sstream>
 
 using namespace testkit;
 using fx::Caught;
 
 namespace {
 
-using Units = std::array<short, 4>; // left, top, width, height
+/// A dialog with everything that can be wrong, and a little that is not.
+DialogTemplate Faulty() {
+    DialogTemplate shape(90, 90, WS_POPUP | WS_CAPTION, L"");
+    shape.Add(WC_EDIT, L"", 1, WS_TABSTOP, 2, 2, 30, 12);
+    shape.Add(WC_STATIC, L"short", 2, 0, 40, 2, 45, 10);
+    shape.Add(WC_BUTTON, L"", 3, BS_GROUPBOX, 0, 0, 88, 18);
+    shape.Add(WC_BUTTON, L"OK", 4, 0, 20, 2, 15, 12);
+    shape.Add(WC_STATIC, L"a text of many words", 5, 0, 2, 20, 20, 8);
+    shape.Add(WC_BUTTON, L"a text of many words", 6, 0, 30, 20, 20, 12);
+    shape.Add(WC_EDIT, L"", 7, 0, 60, 20, 20, 4);
+    shape.Add(WC_LISTVIEW, L"", 8, LVS_REPORT, 2, 40, 60, 30);
+    shape.Add(WC_BUTTON, L"OK", 9, 0, 60, 84, 20, 20);
+    return shape;
+}
 
-/// A dialog of 90 x 60 units with one more control than an entry field in its upper left.
-std::string FaultsWith(LPCTSTR pszClass, LPCTSTR pszText, DWORD dwStyle, const Units& place) {
-    DialogTemplate shape(90, 60, WS_POPUP | WS_CAPTION, L"");
-    shape.Add(WC_EDIT, L"", 7, WS_TABSTOP, 2, 2, 30, 12);
-    shape.Add(pszClass, pszText, 8, dwStyle, place[0], place[1], place[2], place[3]);
-    TemplateDialog dialog(shape);
-    std::string faults = "not open";
-    WhileOpen(dialog, [&] {
-        if (CWnd* const pList = dialog.GetDlgItem(8); dwStyle == LVS_REPORT) {
-            auto& list = *static_cast<CListCtrl*>(pList);
-            list.InsertColumn(0, L"", LVCFMT_LEFT, 20);
-            list.InsertItem(0, L"123.456");
-        }
-        faults = LayoutFaults(dialog);
-    });
-    return faults;
+/// What is said of a control; nothing if it is as it should be.
+std::string LineOf(const std::string& faults, int nID) {
+    const std::string mark = ' ' + std::to_string(nID) + " \"";
+    std::istringstream lines(faults);
+    for (std::string line; std::getline(lines, line);)
+        if (line.find(mark) < line.find(" (")) // its own name stands before its place
+            return line;
+    return "";
 }
 
 TEST(Layout, EachFaultIsToldWithItsControl) {
-    const Rows<LPCTSTR, LPCTSTR, DWORD, Units, std::string> rows = {
-        {WC_STATIC, L"short", 0, {40, 20, 45, 10}, ""},
-        {WC_STATIC, L"a text of many words", 0, {40, 20, 20, 8}, "has a text that is cut off"},
-        {WC_BUTTON, L"a text of many words", 0, {40, 20, 20, 12}, "has a text that is cut off"},
-        {WC_BUTTON, L"OK", 0, {40, 50, 20, 20}, "is out of reach"},
-        {WC_BUTTON, L"OK", 0, {20, 2, 40, 12}, "is covered by Edit 7"},
-        {WC_BUTTON, L"", BS_GROUPBOX, {0, 0, 60, 20}, ""},
-        {WC_EDIT, L"", 0, {40, 20, 20, 4}, "is too low for its text"},
-        {WC_LISTVIEW, L"", LVS_REPORT, {40, 20, 45, 30}, "shortens 123.456"},
-    };
-    for (const auto& [pszClass, pszText, dwStyle, place, fault] : rows) {
-        const std::string faults = FaultsWith(pszClass, pszText, dwStyle, place);
-        EXPECT_EQ(fault.empty(), faults.empty()) << faults;
-        EXPECT_NE(std::string::npos, faults.find(fault)) << faults;
+    const DialogTemplate shape = Faulty();
+    TemplateDialog dialog(shape);
+    std::string faults;
+    WhileOpen(dialog, [&] {
+        auto& list = *static_cast<CListCtrl*>(dialog.GetDlgItem(8));
+        list.InsertColumn(0, L"", LVCFMT_LEFT, 20);
+        list.InsertItem(0, L"123.456");
+        faults = LayoutFaults(dialog);
+    });
+    const Rows<int, std::string> rows = {{1, "is covered by Button 4"},
+                                         {2, ""},
+                                         {3, ""},
+                                         {4, "is covered by Edit 1"},
+                                         {5, "has a text that is cut off"},
+                                         {6, "has a text that is cut off"},
+                                         {7, "is too low for its text"},
+                                         {8, "shortens 123.456"},
+                                         {9, "is out of reach"}};
+    for (const auto& [nID, fault] : rows) {
+        const std::string line = LineOf(faults, nID);
+        EXPECT_EQ(fault.empty(), line.empty()) << line;
+        EXPECT_NE(std::string::npos, line.find(fault)) << nID << ": " << line;
     }
 }
 
