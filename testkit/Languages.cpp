@@ -127,10 +127,8 @@ bool TemplateWindow::TitleFits() const {
     CFont font;
     font.CreateFontIndirect(&metrics.lfCaptionFont);
     CWindowDC dc(CWnd::FromHandle(m_hWnd));
-    CFont* const pOuter = dc.SelectObject(&font);
-    const int nWidth = dc.GetTextExtent(TextOf(m_hWnd).c_str()).cx;
-    dc.SelectObject(pOuter);
-    return nWidth <= kRoom;
+    dc.SelectObject(&font); // until the context is given back, before the font goes
+    return dc.GetTextExtent(TextOf(m_hWnd).c_str()).cx <= kRoom;
 }
 
 std::string TemplateWindow::Describe(bool bDesign) const {
@@ -142,10 +140,8 @@ std::string TemplateWindow::Describe(bool bDesign) const {
         LOGFONT font{};
         if (CFont* const pFont = wnd.GetFont())
             pFont->GetLogFont(&font);
-        WCHAR szClass[64] = L"";
-        ::GetClassName(hWnd, szClass, 64);
-        text << Utf8(szClass) << ' ' << wnd.GetDlgCtrlID() << std::hex << ' ' << wnd.GetStyle() << ' '
-             << wnd.GetExStyle() << std::dec << ' ' << font.lfHeight << Utf8(font.lfFaceName);
+        text << Utf8(ClassOf(hWnd).c_str()) << ' ' << wnd.GetDlgCtrlID() << std::hex << ' ' << wnd.GetStyle()
+             << ' ' << wnd.GetExStyle() << std::dec << ' ' << font.lfHeight << Utf8(font.lfFaceName);
         if (bDesign)
             text << ' ' << ::MulDiv(place.left, 4, unit.right) << ',' << ::MulDiv(place.top, 8, unit.bottom)
                  << ',' << ::MulDiv(place.Width(), 4, unit.right) << ','

@@ -14,14 +14,8 @@ namespace testkit {
 
 namespace {
 
-CString ClassOf(HWND hWnd) {
-    WCHAR szName[64] = L"";
-    ::GetClassName(hWnd, szName, 64);
-    return szName;
-}
-
 bool Is(HWND hWnd, LPCTSTR pszClass) {
-    return ClassOf(hWnd).CompareNoCase(pszClass) == 0;
+    return ::lstrcmpi(ClassOf(hWnd).c_str(), pszClass) == 0;
 }
 
 DWORD StyleOf(HWND hWnd) {
@@ -123,10 +117,9 @@ std::string LookAtText(HWND hControl) {
         return faults;
     CWnd& control = *CWnd::FromHandle(hControl);
     CClientDC dc(&control);
-    CFont* const pOuter = dc.SelectObject(control.GetFont());
+    dc.SelectObject(control.GetFont()); // until the context is given back
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
-    dc.SelectObject(pOuter);
     if (metrics.tmHeight > ClientOf(hControl).Height())
         faults += Fault(hControl, "is too low for its text", RectOf(hControl));
     return faults;
@@ -224,11 +217,10 @@ bool TextFits(HWND hControl) {
     CWnd& control = *CWnd::FromHandle(hControl);
     const CString str = TextOf(hControl).c_str();
     CClientDC dc(&control);
-    CFont* const pOuter = dc.SelectObject(control.GetFont());
+    dc.SelectObject(control.GetFont()); // until the context is given back
     CRect needed(0, 0, room.Width(), 0);
     const UINT nBreak = bButton && str.Find(L'\n') < 0 ? DT_SINGLELINE : DT_WORDBREAK;
     dc.DrawText(str, needed, DT_CALCRECT | nBreak | (!bButton && (dwStyle & SS_NOPREFIX) ? DT_NOPREFIX : 0));
-    dc.SelectObject(pOuter);
     return needed.Width() <= room.Width() && needed.Height() <= room.Height() + 1;
 }
 

@@ -9,9 +9,7 @@ namespace testkit {
 namespace {
 
 BOOL CALLBACK FindPanel(HWND hWnd, LPARAM lFound) {
-    wchar_t szName[64] = L"";
-    ::GetClassName(hWnd, szName, 64);
-    if (std::wstring(szName) != L"TesuvoInputPanel")
+    if (ClassOf(hWnd) != L"TesuvoInputPanel")
         return TRUE;
     *reinterpret_cast<HWND*>(lFound) = hWnd;
     return FALSE;

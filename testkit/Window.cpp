@@ -29,11 +29,16 @@ std::wstring TextOf(HWND hWnd) {
     return text;
 }
 
-std::string NameOf(HWND hWnd) {
+std::wstring ClassOf(HWND hWnd) {
     wchar_t szClass[64] = L"";
-    if (::GetClassName(hWnd, szClass, 64) == 0)
+    ::GetClassName(hWnd, szClass, 64);
+    return szClass;
+}
+
+std::string NameOf(HWND hWnd) {
+    std::string name = Utf8(ClassOf(hWnd).c_str());
+    if (name.empty())
         return "no window";
-    std::string name = Utf8(szClass);
     if (const int nID = ::GetDlgCtrlID(hWnd); nID != 0)
         name += ' ' + std::to_string(nID);
     return name + " \"" + Utf8(TextOf(hWnd).c_str()) + '"';

@@ -14,6 +14,9 @@ std::string Utf8(const wchar_t* psz);
 /// The text of a window or control; empty if its program does not answer within five seconds.
 std::wstring TextOf(HWND hWnd);
 
+/// The name of a window's class; empty for no window.
+std::wstring ClassOf(HWND hWnd);
+
 /// What a message of a failure says of a window: its class, its number and its text.
 std::string NameOf(HWND hWnd);
 

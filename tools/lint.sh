@@ -31,8 +31,8 @@ check_scripts() {
 check_arrows() { python3 tools/arrows.py "$root"; }
 
 # Constants, internal linkage and the companion's header in the one way of CONTRIBUTING.md. The
-# framework's public headers name things as the framework does; tests and what others wrote are left
-# alone.
+# framework's public headers name things as the framework does; tests and
+# samples/classic are left alone.
 check_names() {
     local found
     found=$(
@@ -105,7 +105,7 @@ tidy_all() {
     windows_arguments
     tidy_each "$windows" -p "$build/lint/win64" "${tidy_windows[@]/#/--extra-arg=}" || status=1
     # The samples are projects of their own, and are built against the installed headers. The classic
-    # ones are left as another house wrote them.
+    # ones keep the manner of the classic wizards.
     find samples -name '*.cpp' -not -path '*/tests/*' -not -path '*/fuzz/*' -not -path '*/classic/*' >"$windows"
     tidy_each "$windows" -- -std=c++17 "${tidy_windows[@]}" -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0601 \
         -I"$root" -I"$root/framework" -I"$root/companion" -I"$root/samples/fieldbook" || status=1

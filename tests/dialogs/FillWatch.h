@@ -19,9 +19,7 @@ struct FillWatch {
 private:
     static LRESULT CALLBACK OnMessage(int nCode, WPARAM wParam, LPARAM lParam) {
         const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-        wchar_t szClass[64] = {};
-        ::GetClassName(message.hwnd, szClass, 64);
-        if (nCode == HC_ACTION && s_pCurrent->m_strClass == szClass)
+        if (nCode == HC_ACTION && testkit::ClassOf(message.hwnd) == s_pCurrent->m_strClass.GetString())
             s_pCurrent->Count(message);
         return ::CallNextHookEx(nullptr, nCode, wParam, lParam);
     }

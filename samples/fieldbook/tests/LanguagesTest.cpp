@@ -27,10 +27,9 @@ CString Filled(CString str) {
 
 CSize SizeOf(HWND hControl, const CString& str, int nWidth) {
     CClientDC dc(CWnd::FromHandle(hControl));
-    CFont* const pOuter = dc.SelectObject(CWnd::FromHandle(hControl)->GetFont());
+    dc.SelectObject(CWnd::FromHandle(hControl)->GetFont());
     CRect needed(0, 0, nWidth, 0);
     dc.DrawText(str, needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
-    dc.SelectObject(pOuter);
     return needed.Size();
 }
 
