@@ -9,12 +9,12 @@ mutants_table='
 geometry host geometry
 survey host survey
 framework/base host framework_base fuzz_seeds
-framework/application win64 framework
+framework/application win64 framework framework_comctl
 framework/control win64 framework framework_comctl
 framework/dialog win64 framework framework_comctl
 framework/drawing win64 framework
-framework/shell win64 framework framework_comctl companion
-framework/window win64 framework
+framework/shell win64 framework framework_comctl companion screens
+framework/window win64 framework framework_comctl
 companion win64 companion
 util host util fuzz_seeds
 controls win64 controls survey_window
