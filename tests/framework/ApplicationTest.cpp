@@ -36,6 +36,43 @@ TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
     fx::g_app.m_pMainWnd = nullptr;
 }
 
+TEST(Application, ExceptionsAndNumbersOfTextsAreTold) {
+    struct Silent : CException {
+        BOOL GetErrorMessage(LPTSTR, UINT, UINT*) const override { return FALSE; }
+    } silent;
+    struct Talking : CException {
+        BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT*) const override {
+            return ::lstrcpyn(lpszError, L"own", static_cast<int>(nMaxError)) != nullptr;
+        }
+    } talking;
+    CString strText, strNone;
+    ASSERT_TRUE(strText.LoadString(40001));
+    ASSERT_TRUE(strNone.LoadString(AFX_IDP_NO_ERROR_AVAILABLE));
+    MessageRecorder told(IDRETRY);
+    EXPECT_EQ(IDRETRY, talking.ReportError(MB_OK, 40001));
+    silent.ReportError(MB_OK, 40001);
+    silent.ReportError();
+    silent.ReportError(MB_OK, 39999);
+    AfxMessageBox(40001);
+    EXPECT_EQ((std::vector<CString>{L"own", strText, strNone, strNone, strText}), told.m_prompts);
+}
+
+TEST(Application, WaitCursorIsShownAsOftenAsItIsBegun) {
+    CWinApp& app = fx::g_app;
+    const HCURSOR hBefore = ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
+    const auto shown = [] { return ::GetCursor() == ::LoadCursor(nullptr, IDC_WAIT); };
+    app.RestoreWaitCursor();
+    EXPECT_FALSE(shown());
+    app.DoWaitCursor(1);
+    EXPECT_TRUE(shown());
+    ::SetCursor(nullptr);
+    app.DoWaitCursor(0);
+    EXPECT_TRUE(shown());
+    app.DoWaitCursor(-1);
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_CROSS), ::GetCursor());
+    ::SetCursor(hBefore);
+}
+
 /// Settings of every kind, wherever they are kept.
 void ExpectSettingsAreKept(CWinApp& app) {
     EXPECT_EQ(7U, app.GetProfileInt(L"部", L"number", 7));
@@ -55,6 +92,12 @@ void ExpectSettingsAreKept(CWinApp& app) {
     ASSERT_TRUE(app.GetProfileBinary(L"部", L"bytes", &pData, &nBytes));
     EXPECT_EQ(bytes, std::vector<BYTE>(pData, pData + nBytes));
     delete[] pData;
+    for (const LPCTSTR psz : {L"ABC", L"AZ", L"@A"}) { // what is no bytes
+        EXPECT_TRUE(app.WriteProfileString(L"部", L"bytes", psz));
+        EXPECT_FALSE(app.GetProfileBinary(L"部", L"bytes", &pData, &nBytes)) << psz;
+        EXPECT_EQ(nullptr, pData);
+    }
+    EXPECT_FALSE(app.GetProfileBinary(L"部", L"missing", &pData, &nBytes));
     EXPECT_TRUE(app.WriteProfileString(L"部", nullptr, nullptr));
     EXPECT_EQ(7U, app.GetProfileInt(L"部", L"number", 7));
 }

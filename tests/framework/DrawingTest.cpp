@@ -76,9 +76,9 @@ TEST(DeviceContext, SizesHaveNoOriginAndNoDirection) {
     EXPECT_EQ(CSize(8, 3), size);
     const CSize dotsPerInch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
     CSize inch(2540, 2540);
-    dc.HIMETRICtoDP(&inch);
-    EXPECT_EQ(dotsPerInch, inch);
-    dc.DPtoHIMETRIC(&inch);
+    dc.HIMETRICtoLP(&inch);
+    EXPECT_EQ(CSize(dotsPerInch.cx * 4, dotsPerInch.cy / 4), inch);
+    dc.LPtoHIMETRIC(&inch);
     EXPECT_EQ(CSize(2540, 2540), inch);
 }
 
@@ -152,6 +152,19 @@ TEST(GdiObject, CreatingAgainDeletesWhatWasThere) {
     EXPECT_FALSE(pen.DeleteObject());
     EXPECT_TRUE(::DeleteObject(hSecond)) << "given up, so still there";
     EXPECT_FALSE(pen.Attach(nullptr));
+}
+
+TEST(GdiObject, IsMadeByItsConstructor) {
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, nullptr));
+    EXPECT_EQ(CSize(0, 0), bitmap.SetBitmapDimension(30, 40));
+    EXPECT_EQ(CSize(30, 40), bitmap.GetBitmapDimension());
+    const LOGBRUSH inside = {BS_SOLID, BLUE, 0};
+    const DWORD lengths[] = {3, 4};
+    EXPECT_TRUE(Exists(CBrush(HS_CROSS, RED)));
+    EXPECT_TRUE(Exists(CBrush(&bitmap)));
+    EXPECT_TRUE(Exists(CPen(PS_GEOMETRIC | PS_USERSTYLE, 5, &inside, 2, lengths)));
+    EXPECT_THROW(CBrush(static_cast<CBitmap*>(nullptr)), CResourceException*);
 }
 
 TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {

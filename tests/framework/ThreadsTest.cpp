@@ -112,6 +112,27 @@ TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
     delete pThread;
 }
 
+/// The code that a thread ends with.
+DWORD CodeOf(AFX_THREADPROC pfnThread) {
+    CWinThread* const pThread =
+        AfxBeginThread(pfnThread, nullptr, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    pThread->m_bAutoDelete = FALSE;
+    pThread->ResumeThread();
+    EXPECT_EQ(WAIT_OBJECT_0, ::WaitForSingleObject(pThread->m_hThread, 10000));
+    DWORD dwCode = 0;
+    ::GetExitCodeThread(pThread->m_hThread, &dwCode);
+    delete pThread;
+    return dwCode;
+}
+
+TEST(Threads, EndWithTheirCodeAlsoInTheMiddleOrByAnException) {
+    EXPECT_EQ(5U, CodeOf([](LPVOID) { return 5U; }));
+    EXPECT_EQ(6U, CodeOf([](LPVOID) { return AfxEndThread(6, FALSE), 0U; }));
+    const MessageRecorder told;
+    EXPECT_EQ(static_cast<DWORD>(-1), CodeOf([](LPVOID) -> UINT { throw std::bad_alloc(); }));
+    EXPECT_EQ(1U, told.m_prompts.size());
+}
+
 TEST(Locks, AreHeldByOneAtATime) {
     CMutex mutex;
     CSemaphore semaphore(2, 2);
@@ -132,6 +153,17 @@ TEST(Locks, AreHeldByOneAtATime) {
     LONG nBefore = -1;
     EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
     EXPECT_EQ(0, nBefore);
+
+    CCriticalSection section;
+    CSingleLock sectionLock(&section, TRUE);
+    CRITICAL_SECTION* const pSection = section;
+    BOOL bEntered = TRUE;
+    std::thread([&] { bEntered = ::TryEnterCriticalSection(pSection); }).join();
+    EXPECT_FALSE(bEntered);
+    EXPECT_TRUE(sectionLock.Unlock());
+    EXPECT_FALSE(sectionLock.IsLocked());
+    std::thread([&] { bEntered = ::TryEnterCriticalSection(pSection); }).join();
+    EXPECT_TRUE(bEntered);
 
     CSyncObject* objects[] = {&event, &mutex};
     CMultiLock both(objects, 2);
