@@ -5,11 +5,14 @@
 
 #include <cstring>
 #include <fstream>
+#include <vector>
 
 namespace {
 
 class CReach : public testing::EmptyTestEventListener {
-    void OnTestStart(const testing::TestInfo&) override { std::memset(m_pReached, 0, SIZE); }
+    // What the start reaches concerns every test.
+    void OnTestProgramStart(const testing::UnitTest&) override { m_start.assign(m_pReached, m_pReached + SIZE); }
+    void OnTestStart(const testing::TestInfo&) override { std::memcpy(m_pReached, m_start.data(), SIZE); }
     void OnTestEnd(const testing::TestInfo& test) override {
         m_file << test.test_suite_name() << '.' << test.name() << ' ' << test.result()->elapsed_time();
         for (int i = 0; i < SIZE; ++i)
@@ -20,6 +23,7 @@ class CReach : public testing::EmptyTestEventListener {
 
     static constexpr int SIZE = 1 << 16;
     unsigned char* m_pReached = fkmutant::Map();
+    std::vector<unsigned char> m_start;
     // A test may run this program once more, which writes here as well.
     std::ofstream m_file{std::string(std::getenv("MUTANT_REACH")) + ".txt", std::ios::app};
 };
