@@ -105,6 +105,10 @@ void ExpectSettingsAreKept(CWinApp& app) {
 TEST(Application, KeepsSettingsUnderItsKey) {
     fx::g_app.SetRegistryKey(L"FieldkitTest");
     ExpectSettingsAreKept(fx::g_app);
+    const HKEY hKey = fx::g_app.GetSectionKey(L"部");
+    ::RegSetValueEx(hKey, L"text", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcd"), 6);
+    EXPECT_EQ(L"abc", fx::g_app.GetProfileString(L"部", L"text")) << "written by others, without an end";
+    ::RegCloseKey(hKey);
     ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldkitTest");
 }
 
@@ -115,6 +119,8 @@ TEST(Application, KeepsSettingsInAFileWithoutAKey) {
     app.m_pszRegistryKey = nullptr;
     app.m_pszProfileName = ::_tcsdup(L"FieldkitTest.INI");
     ExpectSettingsAreKept(app);
+    EXPECT_EQ(nullptr, app.GetSectionKey(L"部"));
+    EXPECT_EQ(nullptr, app.GetAppRegistryKey());
     EXPECT_FALSE(app.WriteProfileString(L"部", L"text", L"two\nlines")) << "which no such file can keep";
     WCHAR szFolder[MAX_PATH];
     ::GetEnvironmentVariable(L"APPDATA", szFolder, MAX_PATH);

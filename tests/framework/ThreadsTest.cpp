@@ -67,13 +67,14 @@ TEST(Threads, RegisterTheSameClassesAtTheSameTime) {
 
 constexpr UINT WM_ADD = WM_APP + 1;
 
-CEvent g_started(FALSE, TRUE), g_added;
+CEvent g_started(FALSE, TRUE), g_added, g_gone;
 long g_nSum = 0;
 
 /// A thread with a message loop.
 class AddingThread : public CWinThread {
     DECLARE_DYNCREATE(AddingThread)
 public:
+    ~AddingThread() override { g_gone.SetEvent(); }
     BOOL InitInstance() override { return AfxGetThread() == this && g_started.SetEvent(); }
     BOOL ProcessMessageFilter(int code, LPMSG lpMsg) override {
         return code == MSGF_MENU && lpMsg->message == WM_ADD;
@@ -110,6 +111,12 @@ TEST(Threads, OneWithAMessageLoopTakesMessagesAndEndsOnQuit) {
     ::GetExitCodeThread(pThread->m_hThread, &dwCode);
     EXPECT_EQ(7U, dwCode);
     delete pThread;
+    EXPECT_TRUE(g_gone.Lock(0));
+    g_started.ResetEvent();
+    pThread = AfxBeginThread(RUNTIME_CLASS(AddingThread));
+    ASSERT_TRUE(g_started.Lock(10000));
+    pThread->PostThreadMessage(WM_QUIT, 0, 0);
+    EXPECT_TRUE(g_gone.Lock(10000)) << "deletes itself";
 }
 
 /// The code that a thread ends with.
@@ -177,6 +184,11 @@ TEST(Locks, AreHeldByOneAtATime) {
     EXPECT_EQ(DWORD{WAIT_OBJECT_0}, both.Lock(0, TRUE));
     EXPECT_TRUE(both.IsLocked(0));
     EXPECT_FALSE(isFree());
+    EXPECT_TRUE(both.Unlock());
+    event.ResetEvent();
+    ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
+    CSyncObject* never[] = {&event};
+    EXPECT_EQ(WAIT_OBJECT_0 + 1, CMultiLock(never, 1).Lock(10000, FALSE, QS_POSTMESSAGE)) << "a message";
     EXPECT_THROW(CMultiLock(objects, 65), CInvalidArgException*);
 }
 
