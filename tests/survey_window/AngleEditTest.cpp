@@ -24,11 +24,6 @@ double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
     return (dDegrees + dMinutes / 60 + dSeconds / 3600) * PI / 180;
 }
 
-struct OpenAngleEdit : CAngleEdit {
-    using CAngleEdit::DegToRad;
-    using CAngleEdit::RadToDMS;
-};
-
 /// An angle field and another one to go to.
 struct AngleStage : fx::Stage {
     explicit AngleStage(int nMode = WHOLE, DWORD dwOption = 0) {
@@ -42,7 +37,7 @@ struct AngleStage : fx::Stage {
     void Leave() { Tap(*GetDlgItem(IDC_OTHER)); }
     CString Text() const { return TextOf(m_angle); }
 
-    OpenAngleEdit m_angle;
+    CAngleEdit m_angle;
 };
 
 TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
@@ -57,15 +52,24 @@ TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
         {Radians(359, 59, 59.96), L"360\uFF9F 0' 00\"", L"360\uFF9F 0' 0\".0"},
         {Radians(12, 34, 59.6), L"12\uFF9F 34' 60\"", L"12\uFF9F 34' 59\".6"},
         {Radians(12, 34, 59.94), L"12\uFF9F 34' 60\"", L"12\uFF9F 34' 59\".9"},
+        {Radians(0, 0, 0.04), L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
+        {Radians(0, 0, 0.06), L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".1"},
         // The sign stands at the degrees, if there are any.
         {Radians(-0.5), L"0\uFF9F 30' 00\"", L"0\uFF9F 30' 0\".0"},
-        {Radians(-12.5), L"-12\uFF9F 30' 00\"", L"-12\uFF9F 30' 0\".0"},
+        {Radians(-12, -34, -56.7), L"-12\uFF9F 34' 57\"", L"-12\uFF9F 34' 56\".7"},
         {Radians(-0, -59, -59.96), L"-1\uFF9F 0' 00\"", L"-1\uFF9F 0' 0\".0"},
         {Radians(725, 10, 20), L"725\uFF9F 10' 20\"", L"725\uFF9F 10' 20\".0"},
         // One radian, 206264.806 seconds.
         {1.0, L"57\uFF9F 17' 45\"", L"57\uFF9F 17' 44\".8"},
         // The obliquity of the ecliptic of the epoch 2000, 84381.448 seconds.
-        {0.40909280422232897, L"23\uFF9F 26' 21\"", L"23\uFF9F 26' 21\".4"}};
+        {0.40909280422232897, L"23\uFF9F 26' 21\"", L"23\uFF9F 26' 21\".4"},
+        // Beyond the range: its end, 2147483647 tenths of a second.
+        {Radians(59652, 19, 24), L"59652\uFF9F 19' 24\"", L"59652\uFF9F 19' 24\".0"},
+        {Radians(60000), L"59652\uFF9F 19' 25\"", L"59652\uFF9F 19' 24\".7"},
+        {-1e300, L"-59652\uFF9F 19' 25\"", L"-59652\uFF9F 19' 24\".7"},
+        {INF, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
+        {-INF, L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"},
+        {std::nan(""), L"0\uFF9F 0' 00\"", L"0\uFF9F 0' 0\".0"}};
     AngleStage whole(WHOLE), tenths(TENTHS);
     for (const auto& [dAngle, pszWhole, pszTenths] : rows) {
         whole.m_angle.SetAngle(dAngle);
@@ -73,53 +77,6 @@ TEST(AngleEdit, ShowsDegreesMinutesAndSeconds) {
         tenths.m_angle.SetAngle(dAngle);
         EXPECT_EQ(tenths.Text(), pszTenths) << dAngle;
     }
-}
-
-TEST(AngleEdit, PartsOfAnAngle) {
-    const Rows<double, int, int, double> rows = {{Radians(12, 34, 56.7), 12, 34, 56.7},
-                                                 {Radians(-12, -34, -56.7), -12, 34, 56.7},
-                                                 {Radians(0, 0, 0.04), 0, 0, 0.0},
-                                                 {Radians(0, 0, 0.06), 0, 0, 0.1},
-                                                 {Radians(59652, 19, 24), 59652, 19, 24.0},
-                                                 // Beyond the range: its end, 2147483647 tenths of a second.
-                                                 {Radians(60000), 59652, 19, 24.7},
-                                                 {-1e300, -59652, 19, 24.7},
-                                                 {INF, 0, 0, 0.0},
-                                                 {-INF, 0, 0, 0.0},
-                                                 {std::nan(""), 0, 0, 0.0}};
-    OpenAngleEdit field;
-    for (const auto& [dAngle, nWantedDegree, nWantedMinute, dWantedSecond] : rows) {
-        int nDegree = 0, nMinute = 0;
-        double dSecond = 0;
-        field.RadToDMS(dAngle, &nDegree, &nMinute, &dSecond);
-        EXPECT_EQ(nDegree, nWantedDegree) << dAngle;
-        EXPECT_EQ(nMinute, nWantedMinute) << dAngle;
-        EXPECT_DOUBLE_EQ(dSecond, dWantedSecond) << dAngle;
-    }
-}
-
-TEST(AngleEdit, PackedNumberBecomesAnAngle) {
-    const struct {
-        double dPacked, dAngle;
-    } rows[] = {{0.0, 0.0},
-                {12.3456, Radians(12, 34, 56)},
-                {12.34567, Radians(12, 34, 56.7)},
-                {12.3456789, Radians(12, 34, 56.8)},
-                {12.99995, Radians(12, 99, 99.5)}, // 60 and more add up
-                {12.999996, Radians(13)},
-                {-12.3456, -Radians(12, 34, 56)},
-                {-0.3, -Radians(0, 30)},
-                {0.000004, 0.0},
-                {21474.83647, Radians(21474, 83, 64.7)},
-                // Beyond the range: its end.
-                {21475, Radians(21474, 83, 64.7)},
-                {1e300, Radians(21474, 83, 64.7)},
-                {-1.7e308, 0.0}, // infinite on the way
-                {-1e300, -Radians(21474, 83, 64.7)},
-                {std::nan(""), 0.0}};
-    OpenAngleEdit field;
-    for (const auto& row : rows)
-        EXPECT_DOUBLE_EQ(field.DegToRad(row.dPacked), row.dAngle) << row.dPacked;
 }
 
 TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
@@ -155,6 +112,14 @@ TEST(AngleEdit, AnyTextEndsAsAnAngle) {
         {L" 45.3 ", Radians(45, 30)},
         {L"１２．３４", Radians(12, 34)},
         {L"-12.3", -Radians(12, 30)},
+        {L"-0.3", -Radians(0, 30)},
+        {L"12.34567", Radians(12, 34, 56.7)},
+        {L"12.3456789", Radians(12, 34, 56.8)},
+        {L"12.99995", Radians(12, 99, 99.5)}, // 60 and more add up
+        {L"12.999996", Radians(13)},
+        {L"0.000004", 0.0},
+        {L"21474.83647", Radians(21474, 83, 64.7)},
+        {L"21475", Radians(21474, 83, 64.7)}, // beyond the range: its end
         {L"99999999999999999999", Radians(21474, 83, 64.7)},
         {L"-2147483648", -Radians(21474, 83, 64.7)},
         {L"1e305", 0.0}, // infinite once packed
@@ -195,7 +160,7 @@ TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
     EXPECT_EQ(0, stage.m_angle.Attach(IDC_ANGLE, &stage, WHOLE, 0)) << "it has a field already";
     stage.m_angle.SetAngle(Radians(1, 2, 3.4));
     EXPECT_EQ(L"1\uFF9F 2' 3\".4", stage.Text());
-    EXPECT_EQ(0.0, OpenAngleEdit().GetAngle());
+    EXPECT_EQ(0.0, CAngleEdit().GetAngle());
 }
 
 /// A full-screen dialog with two angles, attached when the base class has shown it.
