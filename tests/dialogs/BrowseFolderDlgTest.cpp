@@ -1,6 +1,5 @@
 #include "dialogs/BrowseFolderDlg.h"
 
-#include "FillWatch.h"
 #include "LockedFolder.h"
 #include "support/TestApp.h"
 #include "testkit/Script.h"
@@ -47,41 +46,29 @@ struct Dialog : CBrowseFolderDlg {
     }
 };
 
-/// The folders in the system's order, each before what is in it; links and locked ones are not entered.
-Paths Walk(const Drive& drive, const CString& strFolder = L"") {
-    Paths paths;
-    WIN32_FIND_DATA entry;
-    const HANDLE hFind = ::FindFirstFile(drive.Long(strFolder + L"\\*"), &entry);
-    for (BOOL bMore = hFind != INVALID_HANDLE_VALUE; bMore; bMore = ::FindNextFile(hFind, &entry)) {
-        const CString strName = entry.cFileName;
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || strName == L"." || strName == L"..")
-            continue;
-        paths.push_back(strFolder + L"\\" + strName);
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
-            for (const CString& strPath : Walk(drive, paths.back()))
-                paths.push_back(strPath);
-    }
-    ::FindClose(hFind);
-    return paths;
-}
-
 TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
     Drive drive;
-    for (const wchar_t* pszPath :
-         {L"\\c", L"\\a", L"\\a\\A & B", L"\\a\\points.csv", L"\\境界　点", L"\\境界　点\\ｶﾞ", L"\\𠮷野",
-          L"\\𠮷野\\か\x3099",                    // a letter of two units, a combining mark
-          L"\\dot.", L"\\dot.\\inside", L"\\...", // only the system's own form of a path can reach these
-          L"\\...\\inside", L"\\locked", L"\\locked\\inside", L"\\card"})
-        drive.MakeFolder(pszPath);
+    // Letters of two units and combining marks; names with dots, which only the system's own form of a path
+    // can reach.
+    Paths wanted = {L"\\c",        L"\\a",
+                    L"\\a\\A & B", L"\\a\\points.csv",
+                    L"\\境界　点", L"\\境界　点\\ｶﾞ",
+                    L"\\𠮷野",     L"\\𠮷野\\か\x3099",
+                    L"\\dot.",     L"\\dot.\\inside",
+                    L"\\...",      L"\\...\\inside",
+                    L"\\locked",   L"\\card"};
     CString strDeep; // longer than the system's usual limit
     for (int i = 0; i < 30; ++i)
-        drive.MakeFolder(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i % 26), 60));
+        wanted.push_back(strDeep += L"\\" + CString(static_cast<wchar_t>(L'a' + i % 26), 60));
+    for (const CString& strPath : wanted)
+        drive.MakeFolder(strPath);
     drive.MakeFile(L"\\file");
-    drive.MakeLink(L"\\a\\loop", L"\\a");
+    drive.MakeFolder(L"\\locked\\inside");
+    if (drive.MakeLink(L"\\a\\loop", L"\\a"))
+        wanted.push_back(L"\\a\\loop"); // what is behind it is not
     ::SetFileAttributes(drive.Long(L"\\card"), FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_TEMPORARY);
     const LockedFolder locked(L"\\locked");
-    const Paths wanted = Walk(drive);
-    ASSERT_GE(wanted.size(), 44U);
+    std::sort(wanted.begin(), wanted.end());
     Dialog dlg(strDeep);
     WhileOpen(dlg, [&] {
         const CTreeCtrl& tree = dlg.Tree();
@@ -90,7 +77,9 @@ TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
         EXPECT_EQ(L"\\", dlg.PathOf(hRoot));
         EXPECT_EQ(nullptr, tree.GetNextSiblingItem(hRoot));
         EXPECT_TRUE(tree.GetItemState(hRoot, TVIS_EXPANDED) & TVIS_EXPANDED);
-        EXPECT_EQ(wanted, dlg.AllPaths());
+        Paths paths = dlg.AllPaths();
+        std::sort(paths.begin(), paths.end());
+        EXPECT_EQ(wanted, paths);
         EXPECT_EQ(strDeep, dlg.PathOf(tree.GetSelectedItem()));
         CImageList* const pImages = tree.GetImageList(TVSIL_NORMAL);
         ASSERT_NE(nullptr, pImages);
@@ -164,18 +153,6 @@ TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
         EXPECT_EQ(result, Play(dlg, {tap, [&] { end(dlg, {}); }})) << what;
         EXPECT_EQ(folder, dlg.GetSelectedFolder()) << what;
     }
-}
-
-TEST(BrowseFolderDlg, FoldersComeInOneGo) {
-    constexpr int FOLDERS = 200;
-    Drive drive;
-    drive.MakeMany(Drive::Folders, L"", "%03.0f", FOLDERS);
-    FillWatch watch(WC_TREEVIEW);
-    WhileOpen(CBrowseFolderDlg(L"\\150"), [&] {
-        EXPECT_EQ(FOLDERS + 1, watch.nInserted);
-        EXPECT_EQ(0, watch.nInsertedWithRedraw);
-        EXPECT_LE(watch.nDrawings, 2);
-    });
 }
 
 TEST(BrowseFolderDlg, DerivedDialogsBuildSegmentsAndFreeThemEarly) {

@@ -1,7 +1,6 @@
 // What the file dialog lists.
 #include "FileSelectStage.h"
 
-#include "FillWatch.h"
 #include "LockedFolder.h"
 
 #include "Tesuvo.h"
@@ -199,22 +198,6 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
                                    look}));
         EXPECT_EQ(folder, dlg.GetFileFolder());
     }
-}
-
-TEST(FileSelectDlg, FilesComeInOneGo) {
-    constexpr int FILES = 200;
-    Drive drive;
-    drive.MakeMany(Drive::Files, L"", "%03.0f.csv", FILES);
-    Dialog dlg;
-    FillWatch watch(WC_LISTVIEW);
-    const auto expectOneGo = [&] {
-        EXPECT_EQ(FILES, watch.nInserted);
-        EXPECT_EQ(0, watch.nInsertedWithRedraw);
-        EXPECT_LE(watch.nDrawings, 2);
-        watch.nInserted = watch.nDrawings = 0;
-        dlg.SetFileFolder(L"\\");
-    };
-    EXPECT_EQ(IDCANCEL, Play(dlg, {expectOneGo, expectOneGo, [&] { dlg.EndDialog(IDCANCEL); }}));
 }
 
 TEST(FileSelectDlg, CardMayBeTakenOutWhileItsFilesAreShown) {

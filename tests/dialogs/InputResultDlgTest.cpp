@@ -14,17 +14,11 @@ constexpr int INPUT_MESSAGE = 1065, VALUE = 1066, LINES = 1077, RESULT_MESSAGE =
 constexpr int IDS_ERROR_CAPTION = 1500; // any text of the library serves as message or caption
 constexpr int IDS_SIZE_HEADING = 1512;
 
-CString Text(CWnd& dlg, int nID) {
-    CString str;
-    dlg.GetDlgItemText(nID, str);
-    return str;
-}
-
 TEST(InputDlg, TextsComeAsStringsOrFromResources) {
     const auto expectTexts = [](CInputDlg&& dlg, const CString& strMessage, const CString& strCaption) {
         WhileOpen(dlg, [&] {
             EXPECT_EQ(strCaption, TextOf(dlg));
-            EXPECT_EQ(strMessage, Text(dlg, INPUT_MESSAGE));
+            EXPECT_EQ(strMessage, TextOf(*dlg.GetDlgItem(INPUT_MESSAGE)));
         });
     };
     expectTexts(CInputDlg(IDS_ERROR_CAPTION, IDS_SIZE_HEADING, nullptr), L"エラー", L"サイズ");
@@ -42,7 +36,7 @@ TEST(InputDlg, AsksInTheMiddleOfItsOwnerAndGivesWhatWasTypedAfterOkOnly) {
         CInputDlg dlg(L"文", L"題", &owner);
         dlg.SetString(before);
         const auto look = [&] {
-            EXPECT_EQ(before, Text(dlg, VALUE));
+            EXPECT_EQ(before, TextOf(*dlg.GetDlgItem(VALUE)));
             EXPECT_EQ(dlg.GetDlgItem(VALUE), CWnd::GetFocus());
             EXPECT_NEAR(RectOf(owner).CenterPoint().y, RectOf(dlg).CenterPoint().y, 1);
             EXPECT_GE(RectOf(dlg).left, 0) << "not beyond the screen";
@@ -71,7 +65,7 @@ TEST(ResultDlg, ShowsItsTextsAndItsLinesInTheOrderGiven) {
                 for (size_t i = 0; i < shown.size(); ++i)
                     pList->GetText(static_cast<int>(i), shown[i]);
                 EXPECT_EQ(lines, shown);
-                EXPECT_EQ(message, Text(dlg, RESULT_MESSAGE));
+                EXPECT_EQ(message, TextOf(*dlg.GetDlgItem(RESULT_MESSAGE)));
                 EXPECT_EQ(caption, TextOf(dlg));
             });
     }
