@@ -59,8 +59,7 @@ bool PanelIsSeen() {
     if (!panel::IsVisible())
         return false;
     const CRect place = panel::Place();
-    CWindowDC screen(nullptr);
-    const Picture image(screen, CSize(place.right, place.bottom));
+    const Picture image = Picture::OfScreen();
     return image.Has(CRect(0, 0, place.right, place.top), fx::MAGENTA) && !image.Has(place, fx::MAGENTA);
 }
 

@@ -154,9 +154,7 @@ protected:
 /// Whether the left edge of the screen shows nothing but the window behind: a frame crosses it
 /// on its way, no window does.
 bool EdgeIsBlank() {
-    CWindowDC screen(nullptr);
-    const Picture image(screen, CSize(18, Screen().bottom));
-    return image.IsAll(image.Rect(), ::GetSysColor(COLOR_WINDOW));
+    return Picture::OfScreen().IsAll(CRect(0, 0, 18, Screen().bottom), ::GetSysColor(COLOR_WINDOW));
 }
 
 TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {

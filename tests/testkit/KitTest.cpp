@@ -44,33 +44,13 @@ TEST(Pen, TapThatNobodyCouldMakeIsAFailureAndNoTap) {
     EXPECT_EQ(1U, caught.m_texts.size()) << "no title bar";
 }
 
-TEST(Picture, OfTheScreenHasTheWindowsInIt) {
-    const Frame frame;
-    ::UpdateWindow(frame);
-    const CPoint middle = MiddleOf(frame);
-    const auto isSeen = [&] {
-        return Picture::OfScreen().At(middle.x, middle.y) == ::GetSysColor(COLOR_WINDOW);
-    };
-    EXPECT_TRUE(PumpUntil(isSeen)); // the display shows it in its own time
-}
-
 TEST(Picture, SavesPng) {
     const Drive drive;
-    const HDC hMemory = ::CreateCompatibleDC(nullptr);
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = 1;
-    info.bmiHeader.biHeight = -2;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* pBits = nullptr;
-    const HBITMAP hBitmap = ::CreateDIBSection(hMemory, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
-    ::SelectObject(hMemory, hBitmap);
-    ::SetPixel(hMemory, 0, 0, RGB(255, 0, 0));
-    ::SetPixel(hMemory, 0, 1, RGB(0, 0, 255));
-    const Picture picture(hMemory, {1, 2});
-    ::DeleteDC(hMemory);
-    ::DeleteObject(hBitmap);
+    Frame frame;
+    CClientDC dc(&frame);
+    dc.SetPixel(0, 0, RGB(255, 0, 0));
+    dc.SetPixel(0, 1, RGB(0, 0, 255));
+    const Picture picture(dc, {1, 2});
     EXPECT_EQ(picture.At(0, 1), RGB(0, 0, 255));
     ASSERT_TRUE(picture.Save(L"a.png"));
     EXPECT_FALSE(picture.Save(L"none\\a.png"));
