@@ -1,6 +1,6 @@
 #include "controls/IconButton.h"
 
-#include "controls/detail/SavedDC.h"
+#include "framework/detail/SavedDC.h"
 
 using namespace fieldkit::detail;
 

@@ -1,6 +1,6 @@
 #include "controls/InfoStatic.h"
 
-#include "controls/detail/SavedDC.h"
+#include "framework/detail/SavedDC.h"
 
 #include "Tesuvo.h"
 

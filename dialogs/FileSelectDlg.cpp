@@ -7,6 +7,7 @@
 #include "dialogs/detail/FolderSearch.h"
 #include "dialogs/detail/LoadText.h"
 #include "dialogs/detail/RedrawPause.h"
+#include "framework/detail/SavedDC.h"
 #include "resources/ResourceIds.h"
 
 #include <algorithm>
@@ -271,7 +272,8 @@ void CFileSelectDlg::ChooseListFont() {
     if (pDialogFont == nullptr || !pDialogFont->GetLogFont(&look))
         return;
     CClientDC dc(&m_lstFiles);
-    CFont* const pOldFont = dc.SelectObject(pDialogFont);
+    const SavedDC saved(dc);
+    dc.SelectObject(pDialogFont);
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
     look.lfWidth = metrics.tmAveCharWidth;
@@ -283,7 +285,6 @@ void CFileSelectDlg::ChooseListFont() {
         m_fontList.CreateFontIndirect(&look);
         dc.SelectObject(&m_fontList);
     }
-    dc.SelectObject(pOldFont);
     if (m_fontList.GetSafeHandle() != nullptr)
         m_lstFiles.SetFont(&m_fontList);
 }

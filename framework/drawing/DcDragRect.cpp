@@ -1,5 +1,5 @@
 // The frame that follows what the user drags.
-#include "afxwin.h"
+#include "detail/SavedDC.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ void CreateFrame(CRgn& rgn, const CDC& dc, LPCRECT lpRect, SIZE size) {
 }
 
 void InvertRegion(CDC& dc, CRgn& rgn, CBrush* pBrush) {
-    const int nSaved = dc.SaveDC();
+    const fieldkit::detail::SavedDC saved(dc);
     CRect box;
     if (dc.SelectClipRgn(&rgn, RGN_AND) != ERROR && dc.GetClipBox(box) > NULLREGION) {
         if (*pBrush == *CDC::GetHalftoneBrush()) {
@@ -52,7 +52,6 @@ void InvertRegion(CDC& dc, CRgn& rgn, CBrush* pBrush) {
         dc.SelectObject(pBrush);
         dc.PatBlt(box.left, box.top, box.Width(), box.Height(), PATINVERT);
     }
-    dc.RestoreDC(nSaved);
 }
 
 } // namespace

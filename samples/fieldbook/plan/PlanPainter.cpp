@@ -1,5 +1,7 @@
 #include "plan/PlanPainter.h"
 
+#include "plan/KeepState.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -29,19 +31,6 @@ COLORREF ColorOf(Role role) {
 int MarkReach(Role role) {
     return role == Role::Result ? 5 : 3;
 }
-
-/// Pens, brushes and fonts are deleted only when they are no longer selected.
-class CKeepState {
-public:
-    explicit CKeepState(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
-    ~CKeepState() { m_dc.RestoreDC(m_nSaved); }
-    CKeepState(const CKeepState&) = delete;
-    CKeepState& operator=(const CKeepState&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_nSaved;
-};
 
 /// Of marks that lie on each other one is drawn: of 100,000 points no more than there are places.
 class CThinning {

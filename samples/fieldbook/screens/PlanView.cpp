@@ -1,5 +1,6 @@
 #include "screens/PlanView.h"
 
+#include "plan/KeepState.h"
 #include "plan/PlanPick.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
@@ -82,12 +83,11 @@ void CPlanView::OnPaint() {
 }
 
 void CPlanView::Paint(CDC& dc) {
-    const int nSaved = dc.SaveDC();
+    const CKeepState saved(dc);
     if (m_pDrawing->IsEmpty())
         PaintEmpty(dc);
     else
         CPlanPainter(dc, GetSize(), m_scale, m_fonts).Paint(*m_pDrawing);
-    dc.RestoreDC(nSaved);
 }
 
 void CPlanView::PaintEmpty(CDC& dc) {
