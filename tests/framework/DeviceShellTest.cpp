@@ -1,5 +1,5 @@
-// What the device's shell does for dialogs: full screen, the OK button in the title bar,
-// the command bar. The screen is the device's or larger.
+// What the device's shell does for windows: the OK button in the title bar, gestures. Full screen and the
+// command bar are in tests/controls and tests/companion.
 #include "support/Child.h"
 #include "support/Form.h"
 #include "testkit/Drive.h"
@@ -10,55 +10,6 @@
 using namespace testkit;
 
 namespace {
-
-/// On the whole screen.
-struct FullDialog : CDialog {
-    FullDialog() : CDialog(300U) { m_bFullScreen = TRUE; }
-};
-
-TEST(FullScreenDialog, CoversTheWorkAreaBetweenItsBars) {
-    FullDialog dialog;
-    const auto look = [&] {
-        const CRect area = WorkArea();
-        EXPECT_EQ(area, RectOf(dialog));
-        CRect client;
-        dialog.GetClientRect(client);
-        dialog.ClientToScreen(client);
-        EXPECT_EQ(area.top + AFX_DEVICE_BAR_HEIGHT, client.top);
-        const int nBarTop = area.bottom - AFX_DEVICE_BAR_HEIGHT;
-        ASSERT_NE(nullptr, dialog.m_pWndEmptyCB);
-        EXPECT_EQ(CRect(area.left, nBarTop, area.right, area.bottom), RectOf(*dialog.m_pWndEmptyCB));
-        EXPECT_TRUE(SHDoneButton(dialog, SHDB_HIDE));
-        EXPECT_EQ(-1, FindOkButton(dialog).x);
-        EXPECT_TRUE(SHDoneButton(dialog, SHDB_SHOW));
-        TapOk(dialog);
-    };
-    EXPECT_EQ(IDOK, Play(dialog, {look}));
-    EXPECT_EQ(nullptr, dialog.m_pWndEmptyCB);
-}
-
-std::vector<BOOL> g_shown; // what the switch asked for
-
-void CALLBACK RecordShown(BOOL bShow) {
-    g_shown.push_back(bShow);
-}
-BOOL CALLBACK WasShown(LPRECT) {
-    return !g_shown.empty() && g_shown.back();
-}
-
-TEST(FullScreenDialog, SwitchInItsCommandBarShowsAndHidesThePanel) {
-    g_shown.clear();
-    const AFX_SIP_HANDLER handler = {RecordShown, WasShown};
-    const AFX_SIP_HANDLER* const pOld = AfxSetSipHandler(&handler);
-    FullDialog dialog;
-    const auto tap = [&] {
-        const CRect bar = RectOf(*dialog.m_pWndEmptyCB);
-        pen::Tap(CPoint(bar.right - 14, bar.CenterPoint().y));
-    };
-    Play(dialog, {tap, tap, [&] { dialog.EndDialog(1); }});
-    AfxSetSipHandler(pOld);
-    EXPECT_EQ((std::vector<BOOL>{TRUE, FALSE}), g_shown);
-}
 
 TEST(PopupDialog, HasAnOkButtonOnlyWithTheExtendedStyle) {
     fx::Form dialog;

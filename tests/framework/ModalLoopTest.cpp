@@ -9,58 +9,62 @@ namespace {
 
 using fx::Form;
 
-TEST(ModalDialog, EndsWithWhatEndedIt) {
-    const Rows<const char*, std::function<void(Form&)>, INT_PTR> cases = {
-        {"EndDialog", [](Form& form) { form.EndDialog(77); }, 77},
-        {"tap on OK", [](Form& form) { pen::Tap(*form.GetDlgItem(IDOK)); }, IDOK},
-        {"Enter", [](Form&) { TypeKeys({VK_RETURN}); }, IDOK},
-        {"Escape", [](Form&) { TypeKeys({VK_ESCAPE}); }, IDCANCEL},
-        {"close", [](Form& form) { form.PostMessage(WM_CLOSE); }, IDCANCEL},
+TEST(ModalDialog, EveryWayOutGivesItsResultAndEnablesTheOwner) {
+    const auto destroyWhenTold = [](Form& f) { f.m_onDo = [&f] { f.DestroyWindow(); }; };
+    // Before DoModal, and inside it.
+    const Rows<const char*, std::function<void(Form&)>, std::function<void(Form&)>, INT_PTR> cases = {
+        {"tap on OK", {}, [](Form& f) { pen::Tap(*f.GetDlgItem(IDOK)); }, IDOK},
+        {"Enter", {}, [](Form&) { TypeKeys({VK_RETURN}); }, IDOK},
+        {"Escape", {}, [](Form&) { TypeKeys({VK_ESCAPE}); }, IDCANCEL},
+        {"close", {}, [](Form& f) { f.PostMessage(WM_CLOSE); }, IDCANCEL},
+        {"destroyed by the system", {}, [](Form& f) { ::DestroyWindow(f); }, -1},
+        {"destroyed by the object", {}, [](Form& f) { f.DestroyWindow(); }, -1},
+        {"detached", {}, [](Form& f) { ::DestroyWindow(f.UnsubclassWindow()); }, -1},
+        {"ended, then destroyed", {}, [](Form& f) { f.EndDialog(5), f.DestroyWindow(); }, 5},
+        {"destroyed, then ended", {}, [](Form& f) { f.DestroyWindow(), f.EndDialog(6); }, 6},
+        {"in its own handler", destroyWhenTold, [](Form& f) { f.SendDo(); }, -1},
+        {"in a posted message", destroyWhenTold, [](Form& f) { f.PostDo(); }, -1},
+        {"ended in OnInitDialog", [](Form& f) { f.m_onInit = [&f] { f.EndDialog(7); }; }, {}, 7},
+        {"destroyed in OnInitDialog", [](Form& f) { f.m_onInit = [&f] { f.DestroyWindow(); }; }, {}, -1},
+        {"opened again by its own handler",
+         [](Form& f) {
+             f.m_onDo = [&f] {
+                 f.DestroyWindow();
+                 EXPECT_EQ(-1, f.DoModal()) << "its first loop still runs";
+             };
+         },
+         [](Form& f) { f.SendDo(); }, -1},
     };
-    Form form; // the same one again and again
-    for (const auto& [pszWay, end, nResult] : cases) {
-        EXPECT_EQ(nResult, Play(form, {[&] { end(form); }})) << pszWay;
-        EXPECT_EQ(nullptr, form.m_hWnd) << pszWay;
-    }
-}
-
-TEST(ModalDialog, IsToldWhenItIsIdleAndNeverSeenIfItsInitialisationEndsIt) {
-    int nIdle = 0;
-    bool bSeen = false;
-    Form form;
-    form.m_onMessage = [&](UINT message, WPARAM) {
-        nIdle += message == WM_KICKIDLE ? 1 : 0;
-        bSeen = bSeen || form.IsWindowVisible();
-    };
-    EXPECT_EQ(1, Play(form, {[&] { return nIdle > 0; }, [&] { form.EndDialog(1); }}));
-    EXPECT_TRUE(bSeen);
-    nIdle = 0;
-    bSeen = false;
-    form.m_onInit = [&] { form.EndDialog(5); };
-    EXPECT_EQ(5, Play(form, {}));
-    EXPECT_FALSE(bSeen);
-    EXPECT_EQ(0, nIdle);
-}
-
-TEST(ModalDialog, OwnerIsDisabledMeanwhileAndEnabledBeforeTheDialogGoes) {
     Frame owner;
     fx::Child<CEdit> field(owner);
-    for (CWnd* const pParent : {static_cast<CWnd*>(&owner), static_cast<CWnd*>(&field)}) {
-        std::optional<bool> bEnabledAtEnd;
-        Form form(pParent);
+    for (const auto& [pszWay, prepare, act, nResult] : cases) {
+        SCOPED_TRACE(pszWay);
+        bool bIdle = false, bSeen = false, bEnabledAtEnd = false;
+        Form form(&field);
         form.m_onMessage = [&](UINT message, WPARAM) {
+            bIdle = bIdle || message == WM_KICKIDLE;
+            bSeen = bSeen || form.IsWindowVisible();
             if (message == WM_DESTROY)
                 bEnabledAtEnd = owner.IsWindowEnabled() != FALSE;
         };
         field.SetFocus();
-        WhileOpen(form, [&] {
+        if (prepare)
+            prepare(form);
+        const auto go = [&] {
             EXPECT_FALSE(owner.IsWindowEnabled());
             EXPECT_EQ(owner.m_hWnd, ::GetWindow(form, GW_OWNER));
             EXPECT_EQ(form.Item(Form::EDIT), ::GetFocus());
-        });
-        EXPECT_EQ(true, bEnabledAtEnd);
+            act(form);
+        };
+        EXPECT_EQ(nResult, act ? Play(form, {[&] { return bIdle; }, go}) : Play(form, {}));
+        EXPECT_EQ(nullptr, form.m_hWnd);
+        EXPECT_EQ(act != nullptr, bIdle) << "never if its initialisation ends it";
+        EXPECT_EQ(act != nullptr, bSeen);
         EXPECT_TRUE(owner.IsWindowEnabled());
         EXPECT_EQ(field.m_hWnd, ::GetFocus()) << "as before";
+        form.m_onInit = nullptr;
+        WhileOpen(form, [] {}); // and then it works as if nothing had happened
+        EXPECT_TRUE(bEnabledAtEnd);
     }
     owner.EnableWindow(FALSE);
     WhileOpen(Form(&owner), [] {});
@@ -74,37 +78,13 @@ TEST(ModalDialog, WithoutItsTemplateFailsAndLeavesTheOwnerEnabled) {
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
-/// A dialog that opens another one.
-struct Nested : testing::Test {
-    Nested() {
-        m_outer.m_onDo = [this] {
-            m_nInner = m_inner.DoModal();
-            EXPECT_TRUE(::IsWindow(m_outer)) << "its handler still runs";
-        };
-    }
-    Step Open() {
-        return [this] { pen::Tap(*m_outer.GetDlgItem(Form::DO)); };
-    }
-    Step IsOpen() {
-        return [this] { return m_inner.m_hWnd != nullptr && m_inner.IsWindowVisible(); };
-    }
-
-    Frame m_owner;
-    Form m_outer{&m_owner}, m_inner{&m_outer};
-    INT_PTR m_nInner = 0;
-};
-
-TEST_F(Nested, EndOfTheOuterDialogWaitsForTheInnerOne) {
-    EXPECT_EQ(
-        4, Play(m_outer, {Open(), IsOpen(), [&] { m_outer.EndDialog(4); }, [&] { m_inner.EndDialog(3); }}));
-    EXPECT_EQ(3, m_nInner);
-}
-
-TEST_F(Nested, QuitEndsAllLoopsAndReachesTheOutermost) {
-    m_outer.m_onDo = [this] { m_inner.DoModal(); };
-    Play(m_outer, {Open(), IsOpen(), [] { AfxPostQuitMessage(7); }});
-    EXPECT_EQ(nullptr, m_outer.m_hWnd);
-    EXPECT_EQ(nullptr, m_inner.m_hWnd);
+TEST(ModalDialog, QuitEndsAllLoopsAndReachesTheOutermost) {
+    Form outer, inner(&outer);
+    outer.m_onDo = [&] { inner.DoModal(); };
+    const auto isOpen = [&] { return inner.m_hWnd != nullptr && inner.IsWindowVisible(); };
+    Play(outer, {[&] { outer.PostDo(); }, isOpen, [] { AfxPostQuitMessage(7); }});
+    EXPECT_EQ(nullptr, outer.m_hWnd);
+    EXPECT_EQ(nullptr, inner.m_hWnd);
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7U, msg.wParam);
