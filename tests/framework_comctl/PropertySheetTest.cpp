@@ -13,7 +13,7 @@ void SetNumber(fx::Page& page, LPCTSTR psz) {
     page.SetDlgItemText(fx::IDC_NUMBER, psz);
 }
 
-TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
+TEST(ModalSheet, EveryWayOutTellsThePagesGivesItsResultAndEnablesTheOwner) {
     constexpr const char* APPLIED = "a.kill a.apply a.ok ";
     const Rows<const char*, std::function<void(Sheet&)>, INT_PTR, const char*> rows = {
         {"OK in the title bar", [](Sheet& s) { TapOk(s); }, IDOK, APPLIED},
@@ -23,18 +23,34 @@ TEST(ModalSheet, EveryWayOutTellsThePagesAndGivesItsResult) {
         {"PressButton", [](Sheet& s) { s.PressButton(PSBTN_OK); }, IDOK, APPLIED},
         {"EndDialog of the sheet", [](Sheet& s) { s.EndDialog(77); }, 77, ""},
         {"EndDialog of a page", [](Sheet& s) { s.m_a.EndDialog(78); }, 78, ""},
+        {"destroyed by the object", [](Sheet& s) { s.DestroyWindow(); }, -1, ""},
+        {"destroyed by the system", [](Sheet& s) { ::DestroyWindow(s); }, -1, ""},
+        {"destroyed by its page", [](Sheet& s) { s.m_a.GetParent()->DestroyWindow(); }, -1, ""},
+        {"destroyed in OnInitDialog", nullptr, -1, "a.init a.set "},
     };
+    Frame owner;
+    fx::Child<CEdit> edit(owner);
     for (const auto& [pszWay, way, nResult, pszLog] : rows) {
         SCOPED_TRACE(pszWay);
-        Sheet sheet;
+        owner.SetActiveWindow();
+        edit.SetFocus();
+        Sheet sheet(&owner);
         const auto end = [&, &act = way] {
             EXPECT_EQ("a.init a.set ", sheet.TakeLog());
+            EXPECT_FALSE(owner.IsWindowEnabled());
+            EXPECT_EQ(owner.m_hWnd, ::GetParent(sheet));
             act(sheet);
         };
-        EXPECT_EQ(nResult, Play(sheet, {end}));
+        if (!way)
+            sheet.m_onInit = [&] { sheet.CPropertySheet::OnInitDialog(), sheet.DestroyWindow(); };
+        EXPECT_EQ(nResult, way ? Play(sheet, {end}) : Play(sheet, {}));
         EXPECT_EQ(pszLog, sheet.TakeLog());
         EXPECT_EQ(nullptr, sheet.m_hWnd);
         EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+        EXPECT_EQ(edit.m_hWnd, ::GetFocus());
+        sheet.m_onInit = [] {};
+        WhileOpen(sheet, [] {}); // and then it works as if nothing had happened
     }
 }
 
@@ -215,20 +231,6 @@ TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
     }
 }
 
-TEST(ModalSheet, DisablesItsOwnerAndGivesTheFocusBack) {
-    Frame frame;
-    fx::Child<CEdit> edit(frame);
-    frame.SetActiveWindow();
-    edit.SetFocus();
-    Sheet sheet(&frame);
-    WhileOpen(sheet, [&] {
-        EXPECT_FALSE(frame.IsWindowEnabled());
-        EXPECT_EQ(frame.m_hWnd, ::GetParent(sheet));
-    });
-    EXPECT_TRUE(frame.IsWindowEnabled());
-    EXPECT_EQ(edit.m_hWnd, ::GetFocus());
-}
-
 TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
     constexpr UINT ID_MENU = 0x8001, ID_BUTTON = 0x1001;
     struct Owner : Frame {
@@ -283,7 +285,7 @@ TEST(ModalSheet, WizardGoesThroughItsPagesAndFinishes) {
     EXPECT_NE(std::string::npos, sheet.TakeLog().find("b.finish"));
 }
 
-// --- The focus, and sheets that are destroyed ---------------------------------------------------
+// --- The focus ----------------------------------------------------------------------------------
 
 void TypeCtrlTab(Sheet&) {
     INPUT keys[4] = {};
@@ -329,37 +331,6 @@ TEST(SheetFocus, NeverStaysOnAPageThatIsHidden) {
             };
             EXPECT_EQ(1, Play(sheet, {change, look, [&] { sheet.EndDialog(1); }}));
         }
-    }
-}
-
-TEST(ModalSheet, DestroyedInsteadOfEndedIsOver) {
-    struct Destroying : Sheet {
-        using Sheet::Sheet;
-        BOOL OnInitDialog() override {
-            const BOOL bResult = Sheet::OnInitDialog();
-            if (m_bDestroy)
-                DestroyWindow();
-            return bResult;
-        }
-        bool m_bDestroy = false;
-    };
-    Frame owner;
-    const Rows<const char*, std::function<void(Sheet&)>> cases = {
-        {"by the object", [](Sheet& s) { s.DestroyWindow(); }},
-        {"by the system", [](Sheet& s) { ::DestroyWindow(s); }},
-        {"its page destroyed it", [](Sheet& s) { s.m_a.GetParent()->DestroyWindow(); }},
-        {"in OnInitDialog", nullptr},
-    };
-    for (const auto& [pszWay, go] : cases) {
-        SCOPED_TRACE(pszWay);
-        Destroying sheet(&owner);
-        sheet.m_bDestroy = go == nullptr;
-        EXPECT_EQ(-1, go ? Play(sheet, {[&] { go(sheet); }}) : Play(sheet, {}));
-        EXPECT_EQ(nullptr, sheet.m_hWnd);
-        EXPECT_EQ(nullptr, sheet.m_a.m_hWnd);
-        EXPECT_TRUE(owner.IsWindowEnabled());
-        sheet.m_bDestroy = false;
-        WhileOpen(sheet, [] {});
     }
 }
 

@@ -82,7 +82,7 @@ struct Sheet : Heard<CPropertySheet> {
 
     BOOL OnInitDialog() override {
         m_onInit();
-        return CPropertySheet::OnInitDialog();
+        return m_hWnd == nullptr || CPropertySheet::OnInitDialog();
     }
 };
 
