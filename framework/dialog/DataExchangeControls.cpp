@@ -159,5 +159,5 @@ void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value) {
     const int nFilled = AfxSendPointer(hWndCtrl, IPM_GETADDRESS, 0, &dwAddress);
     if (nFilled != 0 && nFilled != kFields)
         AfxRefuse(pDX, AFX_IDP_PARSE_INT);
-    value = nFilled != 0 ? dwAddress : 0;
+    value = dwAddress;
 }

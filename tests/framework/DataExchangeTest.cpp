@@ -135,6 +135,8 @@ TEST_F(DataExchange, ListSelectionGoesByIndexOrText) {
     const auto item = [&] { return m_form.m_list.GetCurSel(); };
     ExpectBothWays<int, int>(DDX_LBIndex, ID_LIST, item, {{1, 1, 1}, {-1, -1, -1}});
     ExpectBothWays<CString, int>(DDX_LBString, ID_LIST, item, {{L"no", -1, L""}, {L"be", 2, L"Beta"}});
+    ExpectBothWays<CString, int>(DDX_LBStringExact, ID_LIST, item,
+                                 {{L"alpha", 0, L"Alpha"}, {L"be", 0, L"Alpha"}});
     const auto entry = [&] { return m_form.m_dropList.GetCurSel(); };
     ExpectBothWays<int, int>(DDX_CBIndex, ID_DROPLIST, entry, {{2, 2, 2}, {0, 0, 0}});
     ExpectBothWays<CString, int>(
@@ -154,6 +156,8 @@ TEST_F(DataExchange, ComboTextComesBackAsItWasGiven) {
                                   {L"Al", -1, L"Al"},
                                   {L"", -1, L""},
                                   {L"BETA", 2, L"BETA"}}); // found without regard to case, shown as given
+    ExpectBothWays<CString, int>(DDX_CBStringExact, ID_COMBO, takeSelected,
+                                 {{L"BETA", 2, L"Beta"}, {L"Al", -1, L"Al"}});
 }
 
 TEST_F(DataExchange, CommonControlsGiveBackWhatTheyWereGiven) {
@@ -162,6 +166,7 @@ TEST_F(DataExchange, CommonControlsGiveBackWhatTheyWereGiven) {
     ExpectKept<CMonthCalCtrl>(DDX_MonthCalCtrl, CTime(2023, 4, 3, 0, 0, 0));
     ExpectKept<CIPAddressCtrl>(DDX_IPAddress, DWORD{0x7F000001});
     ExpectKept<CEdit>(DDX_Text, LONGLONG{-5000000000});
+    ExpectKept<CEdit>(DDX_Text, ULONGLONG{1} << 63);
     Child<CScrollBar> bar(m_form, 0, CRect(0, 0, 100, 20), 98);
     bar.SetScrollRange(0, 20);
     EXPECT_EQ(8, Kept(DDX_Scroll, 98, 8));
@@ -182,13 +187,15 @@ TEST_F(DataExchange, ControlIsAttachedOnce) {
 TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
     constexpr LPCTSTR PASSES = nullptr, INT_RANGE = L"-3 から 8 までの整数を入力してください。";
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    const CTime start(2024, 5, 6, 0, 0, 0), end(2024, 5, 8, 0, 0, 0);
+    CTime early(2024, 5, 5, 0, 0, 0), late(2024, 5, 9, 0, 0, 0), first = start, last = end;
     const Rows<std::function<void(CDataExchange*)>, LPCTSTR> rows = {
         {[](CDataExchange* p) { DDV_MinMaxInt(p, -3, -3, 8); }, PASSES},
         {[](CDataExchange* p) { DDV_MinMaxInt(p, 8, -3, 8); }, PASSES},
         {[](CDataExchange* p) { DDV_MinMaxInt(p, 9, -3, 8); }, INT_RANGE},
         {[](CDataExchange* p) { DDV_MinMaxLong(p, -4, -3, 8); }, INT_RANGE},
         {[](CDataExchange* p) { DDV_MinMaxShort(p, -4, -3, 8); }, INT_RANGE},
-        {[](CDataExchange* p) { DDV_MinMaxUInt(p, 4000000000U, 1, 5); },
+        {[](CDataExchange* p) { DDV_MinMaxUnsigned(p, 4000000000U, 1, 5); },
          L"1 から 5 までの整数を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxDWord(p, 4000000000U, 1, 4294967295U); }, PASSES},
         {[](CDataExchange* p) { DDV_MinMaxByte(p, 255, 1, 200); },
@@ -203,6 +210,14 @@ TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
          L"0 から 1 までの数値を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxFloat(p, 2.5F, 0, 2); },
          L"0 から 2 までの数値を入力してください。"},
+        {[&](CDataExchange* p) { DDV_MinMaxDateTime(p, first, &start, &end); }, PASSES},
+        {[&](CDataExchange* p) { DDV_MinMaxDateTime(p, last, &start, &end); }, PASSES},
+        {[&](CDataExchange* p) { DDV_MinMaxDateTime(p, early, nullptr, &end); }, PASSES},
+        {[&](CDataExchange* p) { DDV_MinMaxDateTime(p, late, &start, &end); },
+         L"05/06/24 から 05/08/24 までの整数を入力してください。"},
+        {[&](CDataExchange* p) { DDV_MinMaxMonth(p, late, &start, nullptr); }, PASSES},
+        {[&](CDataExchange* p) { DDV_MinMaxMonth(p, early, &start, nullptr); },
+         L"05/06/24 から - までの整数を入力してください。"},
         {[](CDataExchange* p) { DDV_MaxChars(p, L"三文字", 3); }, PASSES},
         {[](CDataExchange* p) { DDV_MaxChars(p, L"abcd", 3); }, L"3 文字以内で入力してください。"},
     };
@@ -222,16 +237,27 @@ TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
     }
 }
 
-TEST_F(DataExchange, RangeOfASliderIsItsLimit) {
+TEST_F(DataExchange, RangesOfSlidersAndDatesAreTheirLimits) {
     Child<CSliderCtrl> slider(m_form, 0, CRect(0, 0, 100, 20), 99);
-    m_form.m_exchange = [](CDataExchange* pDX) {
+    Child<CDateTimeCtrl> date(m_form, 0, CRect(0, 0, 100, 20), 98);
+    CTime start(2024, 5, 6, 0, 0, 0), end(2024, 5, 8, 0, 0, 0);
+    CString strDate;
+    m_form.m_exchange = [&](CDataExchange* pDX) {
         int nValue = 7;
         DDX_Slider(pDX, 99, nValue);
         DDV_MinMaxSlider(pDX, 7, 5, 9);
+        DDX_DateTimeCtrl(pDX, 98, strDate);
+        DDV_MinMaxDateTime(pDX, start, &start, &end);
     };
     EXPECT_TRUE(m_form.UpdateData(FALSE));
     EXPECT_EQ(5, slider.GetRangeMin());
     EXPECT_EQ(9, slider.GetRangeMax());
+    CTime first, last;
+    EXPECT_EQ(DWORD{GDTR_MIN | GDTR_MAX}, date.GetRange(&first, &last));
+    EXPECT_EQ(start, first);
+    EXPECT_EQ(end, last);
+    EXPECT_TRUE(m_form.UpdateData());
+    EXPECT_EQ(TextOf(date), strDate);
 }
 
 TEST_F(DataExchange, LongestTextAlsoLimitsTyping) {

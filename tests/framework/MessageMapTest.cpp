@@ -92,7 +92,10 @@ protected:
         pCmdUI->SetText(L"on");
         pCmdUI->SetCheck();
     }
-    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) {
+        pCmdUI->SetRadio();
+        pCmdUI->Enable(FALSE);
+    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -209,7 +212,7 @@ TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
     EXPECT_EQ(RGB(1, 2, 3), dc.GetTextColor()) << "the handler draws on the control's context";
 }
 
-TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
+TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
     DerivedWnd wnd;
     CMenu bar, own;
     ASSERT_TRUE(bar.CreateMenu());
@@ -223,8 +226,20 @@ TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
     CString strText;
     EXPECT_EQ(2, popup.GetMenuString(ID_ON, strText, MF_BYCOMMAND));
     EXPECT_EQ(L"on", strText);
-    EXPECT_EQ(UINT{MF_CHECKED}, popup.GetMenuState(ID_ON, MF_BYCOMMAND) & MF_CHECKED);
-    EXPECT_EQ(UINT{MF_GRAYED}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND) & MF_GRAYED);
+    EXPECT_EQ(UINT{MF_CHECKED}, popup.GetMenuState(ID_ON, MF_BYCOMMAND));
+    EXPECT_EQ(UINT{MF_CHECKED | MF_GRAYED | MFT_RADIOCHECK}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
+
+    const fx::Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
+    fx::Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
+    const fx::Child<CButton> unknown(wnd, 0, CRect(0, 18, 9, 27), 9);
+    off.SetFocus();
+    wnd.UpdateDialogControls(&wnd, TRUE);
+    EXPECT_EQ(L"on", TextOf(on));
+    EXPECT_EQ(BST_CHECKED, on.GetCheck());
+    EXPECT_EQ(BST_CHECKED, off.GetCheck());
+    EXPECT_TRUE(on.IsWindowEnabled());
+    EXPECT_FALSE(off.IsWindowEnabled());
+    EXPECT_FALSE(unknown.IsWindowEnabled()) << "nobody would handle its command";
 }
 
 /// A window with the map that lies at one place in memory, as after a change of DLLs.

@@ -142,7 +142,7 @@ TEST(FormatString, ArgumentsMayHoldAPercentSign) {
 }
 
 TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
-    Frame frame(CSize(230, 200));
+    fx::MenuOwner frame(CSize(230, 200));
     CCeCommandBar bar;
     ASSERT_TRUE(bar.Create(&frame));
     const auto ids = [&] {
@@ -168,10 +168,19 @@ TEST(CommandBar, ProgramsButtonsStandBetweenTheMenuAndTheSwitch) {
     for (int i = 0; i < 2; ++i) // the second one takes the place of what was there
         ASSERT_TRUE(bar.InsertMenuBar(310));
     EXPECT_EQ((std::vector<int>{0xE8F0, 0x8002, empty[0], empty[1]}), ids());
+    frame.SendMessage(WM_COMMAND, 0xE8F0, reinterpret_cast<LPARAM>(bar.m_hWnd));
+    EXPECT_EQ(0x8001U, frame.m_nItem) << "of its popup";
     CRect last;
     bar.GetItemRect(3, last);
     EXPECT_NEAR(230, last.right, 3) << "the switch is at the right";
     EXPECT_EQ(CRect(0, 200 - AFX_DEVICE_BAR_HEIGHT, 230, 200) + RectOf(frame).TopLeft(), RectOf(bar));
+    EXPECT_FALSE(bar.LoadToolBar(311));
+    EXPECT_TRUE(bar.LoadToolBar(312));
+    EXPECT_EQ((std::vector<int>{0xE8F0, 0x8002, 7, 0, 8, empty[0], empty[1]}), ids());
+    for (const int nButton : {2, 4}) {
+        bar.GetButton(nButton, buttons);
+        EXPECT_EQ(nButton / 2, buttons[0].iBitmap) << "after the switch's";
+    }
 }
 
 } // namespace

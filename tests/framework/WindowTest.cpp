@@ -1,6 +1,8 @@
 // Windows: which object belongs to which, who outlives whom, where they stand.
 #include "support/Child.h"
 
+#include "afxcmn.h"
+
 #include <set>
 
 using namespace testkit;
@@ -184,6 +186,57 @@ TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
     EXPECT_EQ(DWORD{WS_MINIMIZEBOX}, frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyleEx(0, WS_EX_TOPMOST | WS_EX_TOOLWINDOW));
     EXPECT_NE(0U, frame.GetExStyle() & WS_EX_TOOLWINDOW);
+}
+
+TEST(DialogItems, ListsGetTheTextsOfTheInitialisationData) {
+    Frame frame;
+    const Child<CListBox> list(frame, 0, CRect(0, 0, 50, 50), 5);
+    const Child<CComboBox> combo(frame, CBS_DROPDOWNLIST, CRect(0, 50, 50, 90), 6);
+    // Identifier, message as dialog editors have it, length, text; an identifier 0 ends them.
+    const BYTE data[] = {5, 0, 1, 4, 2, 0, 0, 0, 'a', 0, 6, 0, 3, 4, 3, 0, 0, 0, 'b', 'c', 0,
+                         5, 0, 9, 9, 1, 0, 0, 0, 0,   0, 0, 5, 0, 1, 4, 2, 0, 0, 0,   'x', 0};
+    EXPECT_TRUE(frame.ExecuteDlgInit(data, sizeof data));
+    CString strText;
+    EXPECT_EQ(1, list.GetCount());
+    list.GetText(0, strText);
+    EXPECT_EQ(L"a", strText);
+    EXPECT_EQ(1, combo.GetCount());
+    combo.GetLBText(0, strText);
+    EXPECT_EQ(L"bc", strText);
+    EXPECT_FALSE(frame.ExecuteDlgInit(data, 9)) << "cut off inside a text";
+    EXPECT_EQ(1, list.GetCount());
+}
+
+TEST(ToolTips, OneToolIsKnownTheChildThatThePenIsOn) {
+    fx::Heard<Frame> frame;
+    frame.m_hear = [&](UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
+        auto* const pInfo = reinterpret_cast<NMTTDISPINFO*>(lParam);
+        if (message == WM_NOTIFY && pInfo->hdr.code == static_cast<UINT>(TTN_NEEDTEXT))
+            pInfo->lpszText = const_cast<LPTSTR>(L"tip");
+        return {};
+    };
+    const Child<CButton> a(frame, 0, CRect(0, 0, 50, 50), 7), b(frame, 0, CRect(60, 0, 100, 50), 8);
+    frame.EnableToolTips();
+    const Rows<UINT, CPoint, const CWnd*> rows = {
+        {WM_MOUSEMOVE, {10, 10}, &a}, {WM_MOUSEMOVE, {20, 10}, &a},      {WM_KEYLAST, {70, 10}, &a},
+        {WM_MOUSELAST, {70, 10}, &b}, {WM_MOUSELAST + 1, {10, 10}, &b},  {WM_MOUSEMOVE, {55, 10}, nullptr},
+        {WM_MOUSEMOVE, {70, 10}, &b}, {WM_MOUSEMOVE, {-9, 10}, nullptr},
+    };
+    for (auto [message, point, pChild] : rows) {
+        frame.ClientToScreen(&point);
+        MSG msg = {frame, message, 0, 0, 0, point};
+        frame.PreTranslateMessage(&msg);
+        const HWND hTip = ::FindWindow(TOOLTIPS_CLASS, nullptr);
+        EXPECT_EQ(frame.m_hWnd, ::GetWindow(hTip, GW_OWNER));
+        TOOLINFO tool = {};
+        tool.cbSize = TTTOOLINFOW_V2_SIZE;
+        EXPECT_EQ(pChild != nullptr, ::SendMessage(hTip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&tool)));
+        EXPECT_EQ(reinterpret_cast<UINT_PTR>(pChild->GetSafeHwnd()), tool.uId);
+        TCHAR szText[80] = L"";
+        tool.lpszText = szText;
+        ::SendMessage(hTip, TTM_GETTEXT, 80, reinterpret_cast<LPARAM>(&tool));
+        EXPECT_STREQ(pChild != nullptr ? L"tip" : L"", szText);
+    }
 }
 
 TEST(Relatives, AreFoundFromAnyWindow) {

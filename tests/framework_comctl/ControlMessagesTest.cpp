@@ -125,26 +125,17 @@ TEST(ControlMessages, LinksHaveTextsAndStates) {
 }
 
 TEST(ControlMessages, SplitButtonOpensItsMenu) {
-    fx::Heard<Frame> frame;
-    UINT nItem = 0;
-    frame.m_hear = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_INITMENUPOPUP) {
-            nItem = ::GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0);
-            ::EndMenu();
-        }
-        return {};
-    };
+    fx::MenuOwner frame;
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
     menu.AppendMenu(MF_STRING, 77, L"x");
     CSplitButton button(&menu);
     ASSERT_TRUE(button.Create(L"s", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &frame, 1));
     fx::Notify(frame, button, 1, BCN_DROPDOWN);
-    EXPECT_EQ(77U, nItem);
-    nItem = 0;
+    EXPECT_EQ(77U, std::exchange(frame.m_nItem, 0U));
     button.SetDropDownMenu(0xFFFF, 0); // there is none
     fx::Notify(frame, button, 1, BCN_DROPDOWN);
-    EXPECT_EQ(0U, nItem);
+    EXPECT_EQ(0U, frame.m_nItem);
 }
 
 TEST(ControlMessages, RichTextHasAFormatForEachPart) {

@@ -36,6 +36,22 @@ protected:
     }
 };
 
+/// A window that closes its menus as soon as they open.
+struct MenuOwner : Frame {
+    using Frame::Frame;
+
+    UINT m_nItem = 0; ///< The first one of the last menu.
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_INITMENUPOPUP) {
+            m_nItem = ::GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0);
+            ::EndMenu();
+        }
+        return Frame::WindowProc(message, wParam, lParam);
+    }
+};
+
 /// Sends a notification as a control would. @return the answer
 inline LRESULT Notify(CWnd& parent, HWND hControl, UINT_PTR nID, int nCode) {
     NMHDR header = {hControl, nID, static_cast<UINT>(nCode)};
