@@ -83,19 +83,11 @@ protected:
     afx_msg void OnCodeRange(UINT nID, NMHDR*, LRESULT* pResult) {
         *pResult = Log("notify range " + std::to_string(nID), 6);
     }
-    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-        Log("colour", pWnd->GetDlgCtrlID(), nCtlColor);
-        pDC->SetTextColor(RGB(1, 2, 3));
-        return static_cast<HBRUSH>(::GetStockObject(LTGRAY_BRUSH));
-    }
     afx_msg void OnUpdateOn(CCmdUI* pCmdUI) {
         pCmdUI->SetText(L"on");
         pCmdUI->SetCheck();
     }
-    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) {
-        pCmdUI->SetRadio();
-        pCmdUI->Enable(FALSE);
-    }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -119,7 +111,6 @@ ON_EN_CHANGE(301, &DerivedWnd::OnChange)
 ON_CONTROL_RANGE(EN_CHANGE, 302, 305, &DerivedWnd::OnControlRange)
 ON_NOTIFY(-50, 400, &DerivedWnd::OnCode)
 ON_NOTIFY_RANGE(-51, 400, 402, &DerivedWnd::OnCodeRange)
-ON_WM_CTLCOLOR()
 ON_UPDATE_COMMAND_UI(ID_ON, OnUpdateOn)
 ON_UPDATE_COMMAND_UI(ID_OFF, OnUpdateOff)
 END_MESSAGE_MAP()
@@ -198,21 +189,7 @@ TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
     EXPECT_EQ("notify 400, notify range 402", wnd.TakeLog());
 }
 
-TEST(MessageMap, TheSevenColourMessagesReachOneHandler) {
-    DerivedWnd wnd;
-    fx::Child<CStatic> control(wnd, 0, CRect(0, 0, 5, 5), 9);
-    CClientDC dc(&control);
-    for (UINT nType = CTLCOLOR_MSGBOX; nType <= CTLCOLOR_STATIC; ++nType) {
-        wnd.TakeLog();
-        const LRESULT lResult = wnd.SendMessage(WM_CTLCOLORMSGBOX + nType, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                reinterpret_cast<LPARAM>(control.m_hWnd));
-        EXPECT_EQ("colour 9 " + std::to_string(nType), wnd.TakeLog());
-        EXPECT_EQ(::GetStockObject(LTGRAY_BRUSH), reinterpret_cast<HBRUSH>(lResult));
-    }
-    EXPECT_EQ(RGB(1, 2, 3), dc.GetTextColor()) << "the handler draws on the control's context";
-}
-
-TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
+TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
     DerivedWnd wnd;
     CMenu bar, own;
     ASSERT_TRUE(bar.CreateMenu());
@@ -227,19 +204,7 @@ TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
     EXPECT_EQ(2, popup.GetMenuString(ID_ON, strText, MF_BYCOMMAND));
     EXPECT_EQ(L"on", strText);
     EXPECT_EQ(UINT{MF_CHECKED}, popup.GetMenuState(ID_ON, MF_BYCOMMAND));
-    EXPECT_EQ(UINT{MF_CHECKED | MF_GRAYED | MFT_RADIOCHECK}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
-
-    const fx::Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
-    fx::Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
-    const fx::Child<CButton> unknown(wnd, 0, CRect(0, 18, 9, 27), 9);
-    off.SetFocus();
-    wnd.UpdateDialogControls(&wnd, TRUE);
-    EXPECT_EQ(L"on", TextOf(on));
-    EXPECT_EQ(BST_CHECKED, on.GetCheck());
-    EXPECT_EQ(BST_CHECKED, off.GetCheck());
-    EXPECT_TRUE(on.IsWindowEnabled());
-    EXPECT_FALSE(off.IsWindowEnabled());
-    EXPECT_FALSE(unknown.IsWindowEnabled()) << "nobody would handle its command";
+    EXPECT_EQ(UINT{MF_GRAYED}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
 }
 
 /// A window with the map that lies at one place in memory, as after a change of DLLs.

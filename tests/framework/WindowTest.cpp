@@ -48,8 +48,8 @@ BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
 ON_MESSAGE(WM_APP, &SelfDeleting::OnEnd)
 END_MESSAGE_MAP()
 
-TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
-    const Foreign window;
+TEST(WindowObject, IsTemporaryOfAForeignWindowUntilOneIsAttached) {
+    const Foreign window, other;
     CWnd* const pWnd = CWnd::FromHandle(window);
     ASSERT_NE(nullptr, pWnd);
     EXPECT_EQ(window, pWnd->m_hWnd);
@@ -57,17 +57,10 @@ TEST(WindowObject, ForeignWindowHasOneTemporaryObject) {
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
     EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
     CWnd::DeleteTempMap();
-    EXPECT_TRUE(::IsWindow(window));
-    EXPECT_EQ(window, CWnd::FromHandle(window)->m_hWnd);
-}
-
-TEST(WindowObject, AttachedObjectIsTheWindowsOwnUntilDetached) {
-    const Foreign window, other;
     CWnd wnd;
     EXPECT_FALSE(wnd.Attach(nullptr));
     ASSERT_TRUE(wnd.Attach(window));
     EXPECT_EQ(&wnd, CWnd::FromHandle(window));
-    EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(window));
     EXPECT_FALSE(CWnd().Attach(window)) << "two objects of one window";
     EXPECT_FALSE(wnd.Attach(other)) << "two windows of one object";
     EXPECT_EQ(window, wnd.Detach());
@@ -97,22 +90,6 @@ TEST(WindowObject, IsAttachedBeforeTheFirstMessageAlsoWithChildrenOfItsOwn) {
     ASSERT_TRUE(child.has_value());
     EXPECT_EQ(wnd.m_hWnd, ::GetParent(child->m_hWnd));
     EXPECT_EQ(&*child, CWnd::FromHandlePermanent(child->m_hWnd));
-}
-
-TEST(WindowObject, SubclassingEndsWithTheOldProcedureBack) {
-    const Foreign window;
-    const auto procedure = [&] { return ::GetWindowLongPtr(window, GWLP_WNDPROC); };
-    const LONG_PTR nBefore = procedure();
-    fx::Heard<CWnd> wnd;
-    wnd.m_hear = [](UINT message, WPARAM, LPARAM) {
-        return message == WM_APP ? std::optional<LRESULT>(7) : std::nullopt;
-    };
-    ASSERT_TRUE(wnd.SubclassWindow(window));
-    EXPECT_EQ(7, ::SendMessage(window, WM_APP, 0, 0));
-    EXPECT_EQ(7, wnd.GetWindowTextLength()) << "what the object does not handle reaches the old procedure";
-    EXPECT_EQ(window, wnd.UnsubclassWindow());
-    EXPECT_EQ(nBefore, procedure());
-    EXPECT_EQ(0, ::SendMessage(window, WM_APP, 0, 0));
 }
 
 TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
@@ -171,13 +148,6 @@ TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
     }
 }
 
-TEST(Placement, CentresOnAnotherWindowIfTold) {
-    Popup owner(CRect(0, 30, 100, 130), nullptr), other(CRect(100, 150, 200, 250), nullptr);
-    Popup popup(CRect(0, 0, 40, 20), &owner);
-    popup.CenterWindow(&other);
-    EXPECT_EQ(CRect(130, 190, 170, 210), RectOf(popup));
-}
-
 TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
     Frame frame;
     EXPECT_TRUE(frame.ModifyStyle(0, WS_MAXIMIZEBOX));
@@ -186,25 +156,6 @@ TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
     EXPECT_EQ(DWORD{WS_MINIMIZEBOX}, frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyleEx(0, WS_EX_TOPMOST | WS_EX_TOOLWINDOW));
     EXPECT_NE(0U, frame.GetExStyle() & WS_EX_TOOLWINDOW);
-}
-
-TEST(DialogItems, ListsGetTheTextsOfTheInitialisationData) {
-    Frame frame;
-    const Child<CListBox> list(frame, 0, CRect(0, 0, 50, 50), 5);
-    const Child<CComboBox> combo(frame, CBS_DROPDOWNLIST, CRect(0, 50, 50, 90), 6);
-    // Identifier, message as dialog editors have it, length, text; an identifier 0 ends them.
-    const BYTE data[] = {5, 0, 1, 4, 2, 0, 0, 0, 'a', 0, 6, 0, 3, 4, 3, 0, 0, 0, 'b', 'c', 0,
-                         5, 0, 9, 9, 1, 0, 0, 0, 0,   0, 0, 5, 0, 1, 4, 2, 0, 0, 0,   'x', 0};
-    EXPECT_TRUE(frame.ExecuteDlgInit(data, sizeof data));
-    CString strText;
-    EXPECT_EQ(1, list.GetCount());
-    list.GetText(0, strText);
-    EXPECT_EQ(L"a", strText);
-    EXPECT_EQ(1, combo.GetCount());
-    combo.GetLBText(0, strText);
-    EXPECT_EQ(L"bc", strText);
-    EXPECT_FALSE(frame.ExecuteDlgInit(data, 9)) << "cut off inside a text";
-    EXPECT_EQ(1, list.GetCount());
 }
 
 TEST(ToolTips, OneToolIsKnownTheChildThatThePenIsOn) {
