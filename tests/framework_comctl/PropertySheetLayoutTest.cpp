@@ -1,4 +1,4 @@
-// Property sheets on the device's screen.
+// Property sheets on the device's screen. What a derived class has set up by itself is in tests/controls.
 #include "SheetProbe.h"
 
 using namespace testkit;
@@ -55,58 +55,6 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     };
     Play(sheet, {first, others, last});
     EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
-}
-
-/// What a full-screen sheet class of an application does: all its own settings first, the
-/// base class last.
-struct EarlySheet : fx::Sheet {
-    explicit EarlySheet(bool bOkButton = true, bool bOwnBar = true, int nShow = SW_SHOWMAXIMIZED) {
-        m_onInit = [=, this] {
-            ModifyStyle(0, WS_MAXIMIZEBOX, SWP_NOSIZE);
-            if (bOwnBar)
-                m_bar.Create(this, 0x50002800, AFX_IDW_TOOLBAR);
-            if (!bOkButton)
-                SHDoneButton(m_hWnd, SHDB_HIDE);
-            ShowWindow(nShow);
-        };
-    }
-
-protected:
-    afx_msg void OnCancel() { m_log += "sheet.cancel "; }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    CCeCommandBar m_bar;
-};
-
-BEGIN_MESSAGE_MAP(EarlySheet, CPropertySheet)
-ON_COMMAND(IDCANCEL, &EarlySheet::OnCancel)
-END_MESSAGE_MAP()
-
-TEST(FullScreenSheet, KeepsWhatADerivedClassHasSetUpBeforeTheBaseClass) {
-    const Rows<bool, bool, int> rows = {{false, true, SW_SHOWMAXIMIZED},
-                                        {true, true, SW_SHOWMAXIMIZED},
-                                        {true, false, SW_SHOWMAXIMIZED},
-                                        {true, true, SW_HIDE}};
-    for (const auto& [bOkButton, bOwnBar, nShow] : rows) {
-        EarlySheet sheet(bOkButton, bOwnBar, nShow);
-        WhileOpen(sheet, [&, bOk = bOkButton, bOwn = bOwnBar, bVisible = nShow != SW_HIDE] {
-            EXPECT_EQ(bVisible, sheet.IsWindowVisible() != FALSE);
-            EXPECT_EQ(bOk, FindOkButton(sheet).x != -1);
-            EXPECT_EQ(bOwn, sheet.m_pWndEmptyCB == nullptr);
-            ExpectLaidOut(sheet, {&sheet.m_a});
-        });
-    }
-}
-
-TEST(FullScreenSheet, HandlerForCancelReplacesItForTheTitleBarAndTheKeyToo) {
-    EarlySheet sheet;
-    const auto look = [&] {
-        EXPECT_EQ("a.init a.set sheet.cancel sheet.cancel sheet.cancel ", sheet.TakeLog());
-        sheet.PressButton(PSBTN_OK);
-    };
-    EXPECT_EQ(IDOK, Play(sheet, {[&] { TapClose(sheet); }, [] { TypeKeys({VK_ESCAPE}); },
-                                 [&] { sheet.PressButton(PSBTN_CANCEL); }, look}));
 }
 
 TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
