@@ -201,6 +201,14 @@ TEST(DragList, ADroppedItemMovesWithItsData) {
     const CPoint first = item.CenterPoint();
     EXPECT_EQ(0, list.ItemFromPt(first));
     EXPECT_EQ(-1, list.ItemFromPt(CPoint(first.x + 500, first.y)));
+    const auto drag = [&](UINT nNotification, CPoint point) {
+        DRAGLISTINFO info = {nNotification, list, point};
+        return frame.SendMessage(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1,
+                                 reinterpret_cast<LPARAM>(&info));
+    };
+    EXPECT_EQ(TRUE, drag(DL_BEGINDRAG, first));
+    EXPECT_EQ(DL_MOVECURSOR, drag(DL_DRAGGING, first));
+    EXPECT_EQ(DL_STOPCURSOR, drag(DL_DRAGGING, first + CPoint(500, 0)));
     list.Dropped(2, first);
     CString order;
     for (int i = 0; i < list.GetCount(); ++i) {

@@ -25,6 +25,7 @@ TEST(ControlMessages, PositionsAndAddressesAreTakenApart) {
     Child<CSpinButtonCtrl> spin(frame);
     spin.SetRange(-5, 20);
     EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange(a, b); }));
+    EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange32(a, b); }));
     Child<CIPAddressCtrl> address(frame);
     address.SetAddress(192, 168, 0, 7);
     std::vector<BYTE> fields(4);
@@ -40,6 +41,9 @@ TEST(ControlMessages, TabsHaveDataAndColumnsAnOrder) {
     item.mask = TCIF_PARAM;
     ASSERT_TRUE(tabs.GetItem(0, &item));
     EXPECT_EQ(42, item.lParam);
+    EXPECT_TRUE(tabs.SetItemState(0, TCIS_HIGHLIGHTED, TCIS_HIGHLIGHTED));
+    EXPECT_EQ(DWORD{TCIS_HIGHLIGHTED}, tabs.GetItemState(0, TCIS_HIGHLIGHTED));
+    EXPECT_EQ(0U, tabs.GetItemState(0, TCIS_BUTTONPRESSED));
 
     Child<CListCtrl> list(frame, LVS_REPORT);
     list.InsertColumn(0, L"a", LVCFMT_LEFT, 30);
@@ -67,6 +71,10 @@ TEST(ControlMessages, ToolTipsBelongToControlsOrToPartsOfAWindow) {
     CToolInfo info = {};
     ASSERT_TRUE(tip.GetToolInfo(info, &frame, 3));
     EXPECT_EQ(part, CRect(info.rect));
+    tip.SetToolRect(&frame, 3, CRect(70, 70, 80, 80));
+    EXPECT_FALSE(tip.HitTest(&frame, part.CenterPoint(), &info));
+    ASSERT_TRUE(tip.HitTest(&frame, CPoint(75, 75), &info));
+    EXPECT_EQ(3U, info.uId);
     tip.DelTool(&label);
     EXPECT_EQ(1, tip.GetToolCount());
 }
@@ -80,6 +88,10 @@ TEST(ControlMessages, BarsHaveTextsAndButtons) {
     EXPECT_EQ(L"right", bar.GetText(1, &nType));
     EXPECT_EQ(SBT_POPOUT, nType);
     EXPECT_EQ(L"", bar.GetText(0));
+    int borders[3] = {}, nHorz = -1, nVert = -1, nSpacing = -1;
+    ASSERT_TRUE(bar.GetBorders(borders));
+    ASSERT_TRUE(bar.GetBorders(nHorz, nVert, nSpacing));
+    EXPECT_EQ(std::vector<int>(borders, borders + 3), (std::vector<int>{nHorz, nVert, nSpacing}));
 
     Child<CToolBarCtrl> tools(frame);
     TBBUTTON buttons[2] = {{0, 5, TBSTATE_ENABLED, 0, {}, 0, 0}, {0, 6, TBSTATE_ENABLED, 0, {}, 0, 0}};
@@ -89,18 +101,49 @@ TEST(ControlMessages, BarsHaveTextsAndButtons) {
 
 TEST(ControlMessages, DatesHaveLimitsAndSelections) {
     Frame frame;
-    const SYSTEMTIME day = {2024, 2, 4, 29, 0, 0, 0, 0}, before = {2024, 2, 2, 27, 0, 0, 0, 0};
-    SYSTEMTIME first = {}, last = {};
+    const SYSTEMTIME day = {2024, 2, 4, 29, 0, 0, 0, 0};
+    const CTime first(2024, 2, 27, 0, 0, 0), last(2024, 2, 29, 0, 0, 0);
+    SYSTEMTIME end = {};
+    CTime from, to;
     Child<CDateTimeCtrl> field(frame);
     EXPECT_TRUE(field.SetRange(nullptr, &day));
-    EXPECT_EQ(DWORD{GDTR_MAX}, field.GetRange(nullptr, &last));
-    EXPECT_EQ(29, last.wDay);
+    EXPECT_EQ(DWORD{GDTR_MAX}, field.GetRange(nullptr, &end));
+    EXPECT_EQ(29, end.wDay);
+    EXPECT_TRUE(field.SetRange(&first, static_cast<CTime*>(nullptr)));
+    EXPECT_EQ(DWORD{GDTR_MIN}, field.GetRange(&from, static_cast<CTime*>(nullptr)));
+    EXPECT_EQ(first, from);
 
     Child<CMonthCalCtrl> month(frame, MCS_MULTISELECT);
     month.SetMaxSelCount(5);
-    EXPECT_TRUE(month.SetSelRange(&before, &day));
-    EXPECT_TRUE(month.GetSelRange(&first, &last));
-    EXPECT_EQ(CPoint(27, 29), CPoint(first.wDay, last.wDay));
+    EXPECT_TRUE(month.SetSelRange(first, last));
+    EXPECT_TRUE(month.GetSelRange(from, to));
+    EXPECT_EQ(first, from);
+    EXPECT_EQ(last, to);
+    EXPECT_TRUE(month.SetRange(&first, &last));
+    EXPECT_EQ(DWORD{GDTR_MIN | GDTR_MAX}, month.GetRange(&to, &from));
+    EXPECT_EQ(first, to);
+    EXPECT_EQ(last, from);
+    EXPECT_EQ(1, month.GetMonthRange(from, to, GMR_VISIBLE));
+    EXPECT_EQ(2, from.GetMonth());
+    month.SetToday(first);
+    EXPECT_TRUE(month.GetToday(to));
+    EXPECT_EQ(first, to);
+    CRect least;
+    EXPECT_TRUE(month.SizeMinReq());
+    EXPECT_TRUE(month.GetMinReqRect(least));
+    EXPECT_EQ(least.Size(), RectOf(month).Size());
+}
+
+TEST(ControlMessages, HotKeyHasTheNamesOfItsKeys) {
+    Frame frame;
+    Child<CHotKeyCtrl> field(frame);
+    EXPECT_EQ(L"", field.GetHotKeyName());
+    field.SetHotKey(VK_F5, HOTKEYF_CONTROL | HOTKEYF_SHIFT);
+    EXPECT_EQ(L"F5", CHotKeyCtrl::GetKeyName(VK_F5, FALSE));
+    EXPECT_EQ(CHotKeyCtrl::GetKeyName(VK_CONTROL, FALSE) + L" + " + CHotKeyCtrl::GetKeyName(VK_SHIFT, FALSE) +
+                  L" + F5",
+              field.GetHotKeyName());
+    EXPECT_NE(CHotKeyCtrl::GetKeyName(VK_INSERT, FALSE), CHotKeyCtrl::GetKeyName(VK_INSERT, TRUE));
 }
 
 TEST(ControlMessages, LinksHaveTextsAndStates) {
@@ -156,6 +199,17 @@ TEST(ControlMessages, RichTextHasAFormatForEachPart) {
     CString strText;
     EXPECT_EQ(3, rich.GetTextRange(0, 3, strText));
     EXPECT_EQ(L"one", strText);
+    long nStart = 0, nEnd = 0;
+    rich.SetSel(4, 7);
+    rich.GetSel(nStart, nEnd);
+    EXPECT_EQ(CPoint(4, 7), CPoint(nStart, nEnd));
+    EXPECT_EQ(7, rich.GetTextLengthEx(GTL_NUMCHARS));
+    TCHAR szLine[9] = {};
+    EXPECT_EQ(0, rich.GetLine(0, szLine, 0));
+    EXPECT_EQ(3, rich.GetLine(0, szLine, 3));
+    EXPECT_STREQ(L"one", szLine);
+    EXPECT_GT(rich.GetCharPos(4).x, rich.GetCharPos(0).x);
+    EXPECT_EQ(rich.GetCharPos(4).y, rich.GetCharPos(0).y);
 }
 
 } // namespace
