@@ -188,6 +188,13 @@ TEST(ToolTips, OneToolIsKnownTheChildThatThePenIsOn) {
         ::SendMessage(hTip, TTM_GETTEXT, 80, reinterpret_cast<LPARAM>(&tool));
         EXPECT_STREQ(pChild != nullptr ? L"tip" : L"", szText);
     }
+    Frame other;
+    for (const auto& [bTips, hOwner] : {std::pair(FALSE, frame.m_hWnd), {TRUE, other.m_hWnd}}) {
+        other.EnableToolTips(bTips);
+        MSG msg = {other, WM_MOUSEMOVE, 0, 0, 0, MiddleOf(other)};
+        other.PreTranslateMessage(&msg);
+        EXPECT_EQ(hOwner, ::GetWindow(::FindWindow(TOOLTIPS_CLASS, nullptr), GW_OWNER));
+    }
 }
 
 TEST(Relatives, AreFoundFromAnyWindow) {
