@@ -1,10 +1,10 @@
 #include "compute/Figure.h"
 
-#include "compute/PackedAngle.h"
 #include "points/FileReplacement.h"
 #include "points/PointFile.h"
 #include "geometry/Vector.h"
 
+#include "Positions.h"
 #include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
@@ -38,13 +38,6 @@ struct Compute : testing::Test {
     CPointBook m_book;
 };
 
-CCoordinate At(double dN, double dE) {
-    CCoordinate point;
-    point.SetN(dN);
-    point.SetE(dE);
-    return point;
-}
-
 void ExpectPoints(const CResult& result, const std::vector<CCoordinate>& expected) {
     EXPECT_EQ(Verdict::Found, result.verdict);
     ASSERT_EQ(expected.size(), result.points.size());
@@ -60,33 +53,22 @@ void ExpectNone(const CResult& result, Verdict verdict) {
     EXPECT_TRUE(result.points.empty());
 }
 
-TEST_F(Compute, DiagonalsOfTheLotMeetInItsMiddle) {
-    ExpectPoints(IntersectLines(Point(L"K1"), Point(L"K3"), Point(L"K2"), Point(L"K4")), {At(-35300, 13200)});
-}
-
-TEST_F(Compute, LinesWithoutASinglePointAreTold) {
-    const CCoordinate k1 = Point(L"K1"), k2 = Point(L"K2");
+TEST_F(Compute, LinesMeetUnlessTheyAreParallel) {
+    const CCoordinate k1 = Point(L"K1"), k2 = Point(L"K2"), k3 = Point(L"K3");
+    ExpectPoints(IntersectLines(k1, k3, k2, Point(L"K4")), {At(-35300, 13200)}); // the middle of the lot
     ExpectNone(IntersectLines(k1, k2, k2, k1), Verdict::Parallel);
-    ExpectNone(IntersectLines(k1, k1, k2, Point(L"K3")), Verdict::SamePoint);
+    ExpectNone(IntersectLines(k1, k1, k2, k3), Verdict::SamePoint);
     // Running north: their slopes differ by a lot, their directions do not.
     ExpectNone(IntersectLines(At(0, 0), At(1000, 1e-5), At(0, 5), At(1000, 5.0001)), Verdict::Parallel);
 }
 
-TEST_F(Compute, WallMeetsTheCurveInItsEnd) {
+TEST_F(Compute, LineMeetsACircleTwiceOnceOrNotAtAll) {
     const CCoordinate w1 = Point(L"W1"), w2 = Point(L"W2"), centre = Point(L"CC1");
     ExpectPoints(IntersectLineCircle(w1, w2, centre, 30), {Point(L"EC"), At(-35240, 13210)});
     ExpectNone(IntersectLineCircle(w1, w2, centre, 13), Verdict::LineMisses);
     ExpectNone(IntersectLineCircle(w1, w1, centre, 30), Verdict::SamePoint);
-}
-
-TEST_F(Compute, LineThatTouchesGivesOnePointFarFromTheOriginToo) {
     // 3-4-5: the touching point lies (24, 18) from the centre, the line runs along (-18, 24).
-    const CCoordinate touch = At(-35222, 13264);
-    ExpectPoints(IntersectLineCircle(At(-35246, 13282), At(-35198, 13246), Point(L"CC1"), 30), {touch});
-}
-
-TEST_F(Compute, DistancesFromTwoTraversePointsGiveTheStones) {
-    ExpectPoints(IntersectCircles(Point(L"T1"), 40, Point(L"T2"), 30), {Point(L"境界1"), Point(L"境界2")});
+    ExpectPoints(IntersectLineCircle(At(-35246, 13282), At(-35198, 13246), centre, 30), {At(-35222, 13264)});
 }
 
 TEST_F(Compute, CirclesAreScreened) {
@@ -107,38 +89,41 @@ TEST_F(Compute, CirclesAreScreened) {
 }
 
 TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
-    double dQuarter = 0;
-    ASSERT_EQ(AngleFault::None, ParsePackedAngle(L"90.0000", dQuarter));
     const CCoordinate bc = Point(L"BC"), ec = Point(L"EC");
-    const CResult result = FindArcCentre(bc, ec, dQuarter);
-    ExpectPoints(result, {Point(L"CC1")});
-    EXPECT_NEAR(30, Distance(result.points.at(0), bc), 1e-6);
+    ExpectPoints(FindArcCentre(bc, ec, QUARTER), {Point(L"CC1")});
     // Turning right from BC, the centre is CC1 mirrored on the chord: the corner of the tangents.
-    ExpectPoints(FindArcCentre(bc, ec, -dQuarter), {Point(L"IP1")});
-    ExpectPoints(FindArcCentre(bc, ec, 2 * dQuarter), {At(-35237, 13261)});
-
+    ExpectPoints(FindArcCentre(bc, ec, -QUARTER), {Point(L"IP1")});
+    ExpectPoints(FindArcCentre(bc, ec, 2 * QUARTER), {At(-35237, 13261)});
     // 10 minutes over 50 m: (25, 25 / tan 5') along and left of the chord, from formulas of 50 digits.
     ExpectPoints(FindArcCentre(At(0, 0), At(0, 50), 10 / 60.0 / 90 * QUARTER), {At(17188.721733581, 25)});
     ExpectNone(FindArcCentre(bc, ec, 0), Verdict::BadAngle);
-    ExpectNone(FindArcCentre(bc, ec, 4 * dQuarter), Verdict::BadAngle);
-    ExpectNone(FindArcCentre(bc, bc, dQuarter), Verdict::SamePoint);
+    ExpectNone(FindArcCentre(bc, ec, 4 * QUARTER), Verdict::BadAngle);
+    ExpectNone(FindArcCentre(bc, bc, QUARTER), Verdict::SamePoint);
 }
 
-TEST_F(Compute, TangentsOfTheCurveMeetInItsCorner) {
+TEST_F(Compute, CurveOfTheRoad) {
     const CCoordinate bc = Point(L"BC"), ec = Point(L"EC"), centre = Point(L"CC1");
-    ExpectPoints(FindTangentCorners(bc, centre, ec), {Point(L"IP1")});
+    CCurve curve{};
+    ASSERT_EQ(Verdict::Found, FindCurve(bc, centre, ec, curve));
+    EXPECT_NEAR(30, curve.dRadius, 1e-9);
+    EXPECT_NEAR(QUARTER, curve.dSweep, 1e-8);
+    EXPECT_NEAR(30 * QUARTER, curve.dLength, 1e-6);
+    EXPECT_NEAR(std::tan(QUARTER / 4), curve.dBulge, 1e-8);
+    ExpectPoints({Verdict::Found, curve.corners}, {Point(L"IP1")});
 
-    // The other way round it is three quarters of a circle: two corners, both at the same
-    // distance from the centre.
-    const CResult major = FindTangentCorners(ec, centre, bc);
-    ASSERT_EQ(2U, major.points.size());
-    for (const CCoordinate& corner : major.points)
-        EXPECT_NEAR(30 / std::cos(67.5 * 3.14159265358979 / 180), Distance(centre, corner), 1e-6);
+    // The other way round it is three quarters of a circle: two corners, as far from the centre.
+    ASSERT_EQ(Verdict::Found, FindCurve(ec, centre, bc, curve));
+    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8);
+    ASSERT_EQ(2U, curve.corners.size());
+    for (const CCoordinate& corner : curve.corners)
+        EXPECT_NEAR(30 / std::cos(3 * QUARTER / 4), Distance(centre, corner), 1e-6);
 
-    ExpectNone(FindTangentCorners(bc, centre, bc), Verdict::SamePoint);
-    ExpectNone(FindTangentCorners(bc, centre, centre), Verdict::RadiusSmall);
-    // On one spoke: the directions are the same, which counts as a full turn.
-    ExpectNone(FindTangentCorners(bc, centre, At(-35249, 13252)), Verdict::NoCorner);
+    // The last end is on the spoke of the start: one direction counts as a full turn.
+    for (const auto& [end, verdict] : Rows<CCoordinate, Verdict>{{bc, Verdict::SamePoint},
+                                                                 {centre, Verdict::RadiusSmall},
+                                                                 {At(-35249, 13252), Verdict::NoCorner}})
+        EXPECT_EQ(verdict, FindCurve(bc, centre, end, curve));
+    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8) << "not written";
 }
 
 TEST_F(Compute, DirectionAndDistanceLeadToThePoint) {
@@ -177,39 +162,21 @@ TEST_F(Compute, FiguresMeetInAnyCombination) {
 }
 
 TEST_F(Compute, PointBesideALine) {
-    const struct {
-        CCoordinate point;
-        CCoordinate foot;
-        double dAlong;
-        double dToTheRight;
-    } cases[] = {
-        {At(10, 5), At(10, 0), 10, 5},
-        {At(-3, -2), At(-3, 0), -3, -2},
-        {At(40, 0), At(40, 0), 40, 0},
-    };
     COffset offset{};
-    for (const auto& c : cases) {
-        EXPECT_EQ(Verdict::Found, FindOffset(At(0, 0), At(20, 0), c.point, offset));
-        ExpectPoints({Verdict::Found, {offset.foot}}, {c.foot});
-        EXPECT_DOUBLE_EQ(c.dAlong, offset.dAlong);
-        EXPECT_DOUBLE_EQ(c.dToTheRight, offset.dToTheRight);
+    for (const auto& [dAlong, dToTheRight] : Rows<double, double>{{10, 5}, {-3, -2}, {40, 0}}) {
+        EXPECT_EQ(Verdict::Found, FindOffset(At(0, 0), At(20, 0), At(dAlong, dToTheRight), offset));
+        ExpectPoints({Verdict::Found, {offset.foot}}, {At(dAlong, 0)});
+        EXPECT_DOUBLE_EQ(dAlong, offset.dAlong);
+        EXPECT_DOUBLE_EQ(dToTheRight, offset.dToTheRight);
     }
     EXPECT_EQ(Verdict::SamePoint, FindOffset(At(1, 1), At(1, 1), At(2, 2), offset));
     EXPECT_EQ(Verdict::NoPosition, FindOffset(At(1, 1), CCoordinate(), At(2, 2), offset));
 }
 
 TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
-    const CCoordinate a = At(-35300, 13200);
-    const CCoordinate b = At(-35300, 13230);
-    const CCoordinate c = At(-35260, 13230);
-    const CCoordinate d = At(-35260, 13200);
-    const struct {
-        const char* pszCase;
-        std::vector<CCoordinate> corners;
-        double dArea;
-        double dPerimeter;
-        bool bCrosses;
-    } cases[] = {
+    const CCoordinate a = At(-35300, 13200), b = At(-35300, 13230);
+    const CCoordinate c = At(-35260, 13230), d = At(-35260, 13200);
+    const Rows<const char*, std::vector<CCoordinate>, double, double, bool> cases = {
         {"counter-clockwise", {a, b, c, d}, 1200, 140, false},
         {"clockwise", {d, c, b, a}, 1200, 140, false},
         {"a triangle", {a, b, c}, 600, 120, false},
@@ -217,12 +184,12 @@ TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
         {"sides that cross", {a, c, b, d}, 0, 180, true},
     };
     CPolygon polygon{};
-    for (const auto& example : cases) {
-        SCOPED_TRACE(example.pszCase);
-        EXPECT_EQ(Verdict::Found, MeasurePolygon(example.corners, polygon));
-        EXPECT_NEAR(example.dArea, polygon.dArea, 1e-9);
-        EXPECT_NEAR(example.dPerimeter, polygon.dPerimeter, 1e-9);
-        EXPECT_EQ(example.bCrosses, polygon.bCrosses);
+    for (const auto& [pszCase, corners, dArea, dPerimeter, bCrosses] : cases) {
+        SCOPED_TRACE(pszCase);
+        EXPECT_EQ(Verdict::Found, MeasurePolygon(corners, polygon));
+        EXPECT_NEAR(dArea, polygon.dArea, 1e-9);
+        EXPECT_NEAR(dPerimeter, polygon.dPerimeter, 1e-9);
+        EXPECT_EQ(bCrosses, polygon.bCrosses);
     }
     EXPECT_EQ(Verdict::TooFewCorners, MeasurePolygon({a, b}, polygon));
     EXPECT_EQ(Verdict::NoPosition, MeasurePolygon({a, b, CCoordinate()}, polygon));
@@ -244,24 +211,6 @@ TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
     CInverse inverse{1, 2, 0, 0, {}};
     EXPECT_FALSE(FindInverse(t1, t1, inverse));
     EXPECT_EQ(2, inverse.dDirection);
-}
-
-TEST_F(Compute, CurveOfTheRoad) {
-    const CCoordinate bc = Point(L"BC"), ec = Point(L"EC"), centre = Point(L"CC1");
-    CCurve curve{};
-    ASSERT_EQ(Verdict::Found, FindCurve(bc, centre, ec, curve));
-    EXPECT_NEAR(30, curve.dRadius, 1e-9);
-    EXPECT_NEAR(QUARTER, curve.dSweep, 1e-8);
-    EXPECT_NEAR(30 * QUARTER, curve.dLength, 1e-6);
-    EXPECT_NEAR(std::tan(QUARTER / 4), curve.dBulge, 1e-8);
-    ExpectPoints({Verdict::Found, curve.corners}, {Point(L"IP1")});
-
-    ASSERT_EQ(Verdict::Found, FindCurve(ec, centre, bc, curve));
-    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8);
-    EXPECT_EQ(2U, curve.corners.size());
-
-    EXPECT_EQ(Verdict::SamePoint, FindCurve(bc, centre, bc, curve));
-    EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8) << "not written";
 }
 
 TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
@@ -290,8 +239,6 @@ TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
     EXPECT_EQ(5, hi.GetZ());
 
     ASSERT_TRUE(Found({At(3, 4)}, lo, hi));
-    EXPECT_EQ(3, lo.GetN());
-    EXPECT_EQ(4, hi.GetE());
     EXPECT_FALSE(lo.IsExistZ());
 }
 

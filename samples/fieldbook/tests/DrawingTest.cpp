@@ -1,5 +1,7 @@
 #include "plan/Drawing.h"
 
+#include "Positions.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,13 +10,6 @@
 namespace {
 
 constexpr double TWO_PI = 6.28318530717958647692;
-
-CCoordinate At(double dN, double dE) {
-    CCoordinate point;
-    point.SetN(dN);
-    point.SetE(dE);
-    return point;
-}
 
 void ExpectExtent(const CDrawing& drawing, const CCoordinate& lo, const CCoordinate& hi) {
     CCoordinate foundLo, foundHi;

@@ -8,75 +8,62 @@ namespace {
 
 constexpr char OLD[] = "all that was measured\r\n";
 
-/// @return the cause of the exception; none if there was none
-int CauseOf(const CString& strPath, const std::function<void(CFile&)>& write) {
-    try {
-        RewriteFile(strPath, write);
-    } catch (CFileException* pError) {
-        const int nCause = pError->m_cause;
-        EXPECT_STREQ(strPath, pError->m_strFileName) << "the user knows the file by this name only";
-        pError->Delete();
-        return nCause;
-    }
-    return CFileException::none;
-}
-
 void WriteNew(CFile& file) {
     file.Write("new\r\n", 5);
 }
 
 struct FileReplacement : testing::Test {
-    void ExpectOldFileAlone() const {
-        EXPECT_EQ(OLD, m_file.Read());
-        EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
+    /// @return the cause of the exception; none if there was none
+    int CauseOf(const CString& strPath, const std::function<void(CFile&)>& write) const {
+        int nCause = CFileException::none;
+        try {
+            RewriteFile(strPath, write);
+        } catch (CFileException* pError) {
+            nCause = pError->m_cause;
+            EXPECT_STREQ(strPath, pError->m_strFileName) << "the user knows the file by this name only";
+            pError->Delete();
+        }
+        return nCause;
     }
+    bool IsNewThere() const { return CTestFile::Exists(m_file.GetPath() + L".new"); }
 
     const CTestFile m_file{L"fieldbook-replaced.txt", OLD};
 };
 
 TEST_F(FileReplacement, NewFileTakesTheOldOnesPlace) {
     RewriteFile(m_file.GetPath(), [this](CFile& file) {
-        file.Write("new\r\n", 5);
+        WriteNew(file);
         EXPECT_EQ(OLD, m_file.Read()) << "whole until the new one is complete";
     });
     EXPECT_EQ("new\r\n", m_file.Read());
-    EXPECT_FALSE(CTestFile::Exists(m_file.GetPath() + L".new"));
+    EXPECT_FALSE(IsNewThere());
 
     ::DeleteFile(m_file.GetPath());
     RewriteFile(m_file.GetPath(), WriteNew);
     EXPECT_EQ("new\r\n", m_file.Read()) << "where there was none";
 }
 
-TEST_F(FileReplacement, FullDiskLeavesTheOldFile) {
-    const int nCause = CauseOf(m_file.GetPath(), [this](CFile& file) {
-        file.Write("half", 4);
-        AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, file.GetFilePath());
-    });
-    EXPECT_EQ(CFileException::diskFull, nCause);
-    ExpectOldFileAlone();
-}
-
-TEST_F(FileReplacement, ReadOnlyFileIsLeftAlone) {
+TEST_F(FileReplacement, FileThatCannotBeReplacedIsLeftAlone) {
+    EXPECT_EQ(CFileException::diskFull, CauseOf(m_file.GetPath(), [](CFile& file) {
+                  file.Write("half", 4);
+                  AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, file.GetFilePath());
+              }));
+    EXPECT_EQ(OLD, m_file.Read());
+    EXPECT_FALSE(IsNewThere());
     ASSERT_TRUE(::SetFileAttributes(m_file.GetPath(), FILE_ATTRIBUTE_READONLY));
     EXPECT_EQ(CFileException::accessDenied, CauseOf(m_file.GetPath(), WriteNew));
-    ExpectOldFileAlone();
-}
-
-TEST_F(FileReplacement, FileThatIsOpenElsewhereIsLeftAlone) {
+    EXPECT_EQ(OLD, m_file.Read());
+    ::SetFileAttributes(m_file.GetPath(), FILE_ATTRIBUTE_NORMAL);
     {
         const CFile other(m_file.GetPath(), CFile::modeRead | CFile::shareDenyWrite);
         EXPECT_NE(CFileException::none, CauseOf(m_file.GetPath(), WriteNew));
     }
-    ExpectOldFileAlone();
-}
-
-TEST_F(FileReplacement, NameThatCannotBeUsedStopsItBeforeAnythingHappens) {
-    const CString strInTheWay = m_file.GetPath() + L".new";
-    ASSERT_TRUE(::CreateDirectory(strInTheWay, nullptr));
+    EXPECT_EQ(OLD, m_file.Read());
+    EXPECT_FALSE(IsNewThere());
+    ASSERT_TRUE(::CreateDirectory(m_file.GetPath() + L".new", nullptr));
     EXPECT_NE(CFileException::none, CauseOf(m_file.GetPath(), WriteNew));
     EXPECT_EQ(OLD, m_file.Read());
-    EXPECT_TRUE(CTestFile::Exists(strInTheWay)) << "what others have made stays";
-
+    EXPECT_TRUE(IsNewThere()) << "what others have made stays";
     EXPECT_EQ(CFileException::badPath, CauseOf(L"no such folder\\points.csv", WriteNew));
 }
 

@@ -3,6 +3,7 @@
 #include "plan/PlanClip.h"
 #include "plan/PlanSpace.h"
 
+#include "Positions.h"
 #include "testkit/Rows.h"
 
 #include <gtest/gtest.h>
@@ -16,13 +17,6 @@ namespace {
 constexpr double TWO_PI = 6.28318530717958647692;
 const CSize VIEW(240, 232);
 const CRect VIEW_RECT(0, 0, 240, 232);
-
-CCoordinate At(double dN, double dE) {
-    CCoordinate point;
-    point.SetN(dN);
-    point.SetE(dE);
-    return point;
-}
 
 void ExpectPixel(CVector pixel, double dX, double dY) {
     EXPECT_NEAR(dX, pixel.GetX(), 1e-6);

@@ -39,14 +39,11 @@ TEST_F(PointBook, NextNameIsTheFirstFreeOne) {
         EXPECT_STREQ(pszNext, m_book.NextName(pszName));
 }
 
-TEST_F(PointBook, PointIsChangedInItsPlace) {
+TEST_F(PointBook, PointIsChangedInItsPlaceAndKeepsItsMarkUnderANewName) {
     ASSERT_TRUE(m_book.Replace(L"T2", At(L"T2", 20)));
     EXPECT_STREQ(L"T1 T2 K009 ", Names());
     EXPECT_EQ(20, m_book.Find(L"T2")->GetE());
     EXPECT_TRUE(m_book.IsModified());
-}
-
-TEST_F(PointBook, PointKeepsItsPlaceAndItsMarkUnderANewName) {
     m_book.MarkUsed(L"T1");
     ASSERT_TRUE(m_book.Replace(L"T1", At(L"T7", 7)));
     EXPECT_STREQ(L"T7 T2 K009 ", Names());

@@ -3,9 +3,13 @@
 
 #include "points/FileReplacement.h"
 
+#include "testkit/Rows.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
+
+using testkit::Rows;
 
 namespace {
 
@@ -22,24 +26,15 @@ std::string Shipped(const wchar_t* pszName) {
     return ReadWholeFile(CString(FIELDBOOK_DATA) + L"/" + pszName);
 }
 
-std::string Saved(const CPointBook& book, const CLineFormat& format) {
+std::string Saved(const std::vector<CNamedPoint>& points, CLineFormat format) {
     std::string bytes;
     CString strBad;
-    CLineFormat complete = format;
-    EXPECT_TRUE(FormatFile(book.GetPoints(), complete, bytes, strBad));
+    EXPECT_TRUE(FormatFile(points, format, bytes, strBad));
     return bytes;
 }
 
 TEST(PointFile, ShippedFilesAreReadAndComeBackAsTheyWereSaved) {
-    const struct {
-        const wchar_t* pszName;
-        int nPoints;
-        const wchar_t* pszPoint;
-        double dN;
-        double dE;
-        double dZ;
-        Faults faults;
-    } cases[] = {
+    const Rows<const wchar_t*, int, const wchar_t*, double, double, double, Faults> cases = {
         {L"points.csv", 40, L"境界1", -35306.6, 13236.2, 23.994, {}},
         {L"boundary.csv", 8, L"K1", -35288, 13184, 24.512, {}},
         {L"boundary.csv", 8, L"境界7", -35290.25, fieldkit::survey::kNull, fieldkit::survey::kNull, {}},
@@ -62,34 +57,31 @@ TEST(PointFile, ShippedFilesAreReadAndComeBackAsTheyWereSaved) {
           {14, LineFault::TooFewFields},
           {16, LineFault::NotTerminated}}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.pszName);
+    for (const auto& [pszName, nPoints, pszPoint, dN, dE, dZ, faults] : cases) {
+        SCOPED_TRACE(testing::Message() << pszName);
         CPointBook book;
-        const CReadReport report = ReadPoints(DecodeText(Shipped(c.pszName)), book);
-        EXPECT_EQ(c.faults, FaultsOf(report));
-        EXPECT_EQ(c.nPoints, book.GetCount());
-        const CCoordinate* const pPoint = book.Find(c.pszPoint);
+        const CReadReport report = ReadPoints(DecodeText(Shipped(pszName)), book);
+        EXPECT_EQ(faults, FaultsOf(report));
+        EXPECT_EQ(nPoints, book.GetCount());
+        const CCoordinate* const pPoint = book.Find(pszPoint);
         ASSERT_NE(nullptr, pPoint) << "is the OEM code page 932?";
-        EXPECT_EQ(c.dN, pPoint->GetN());
-        EXPECT_EQ(c.dE, pPoint->GetE());
-        EXPECT_EQ(c.dZ, pPoint->GetZ());
+        EXPECT_EQ(dN, pPoint->GetN());
+        EXPECT_EQ(dE, pPoint->GetE());
+        EXPECT_EQ(dZ, pPoint->GetZ());
 
-        const std::string saved = Saved(book, report.format);
+        const std::string saved = Saved(book.GetPoints(), report.format);
         CPointBook again;
-        EXPECT_EQ(saved, Saved(again, ReadPoints(DecodeText(saved), again).format));
-        EXPECT_EQ(c.nPoints, again.GetCount());
+        const CReadReport reread = ReadPoints(DecodeText(saved), again);
+        EXPECT_EQ(saved, Saved(again.GetPoints(), reread.format));
+        EXPECT_EQ(nPoints, again.GetCount());
         EXPECT_TRUE(IsAsSaved(saved, report.format));
     }
 }
 
 /// One point in all these files: N 1, E 2, Z 3, code S; what is not there is left out.
 TEST(PointFile, HeadingDecidesWhatIsInAColumnAndIsKept) {
-    const struct {
-        const char* pszFile;
-        const char* pszSaved; ///< As the file if null.
-        const wchar_t* pszColumns;
-        const wchar_t* pszHeadingAsked;
-    } cases[] = {
+    // pszSaved: as the file if null
+    const Rows<const char*, const char*, const wchar_t*, const wchar_t*> cases = {
         {"name,N,E,Z\r\nP,1.000000,2.000000,3.000000\r\n", nullptr, L"PNEZ", nullptr},
         {"ID;easting;NORTHING\r\nP;2.000000;1.000000\r\n", nullptr, L"PEN", nullptr},
         {"Pt\tY (m)\tX (m)\tH[m]\tDesc\nP\t2.000000\t1.000000\t3.000000\tS\n", nullptr, L"PENZC", nullptr},
@@ -106,42 +98,36 @@ TEST(PointFile, HeadingDecidesWhatIsInAColumnAndIsKept) {
         {"name,N,E,Z\r\nA01,1.000000,2.000000,3.000000\r\nP,1.000000,2.000000,\r\n", nullptr, L"PNEZ",
          nullptr},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszFile);
+    for (const auto& [pszFile, pszSaved, pszLetters, pszHeadingAsked] : cases) {
+        SCOPED_TRACE(pszFile);
         CString strAsked;
+        const CString strColumns = pszLetters;
         CReadHelp help;
         help.chooseColumns = [&](const auto& lines, bool, std::vector<Column>& columns) {
             for (const CString& strField : lines.front())
                 strAsked += (strAsked.IsEmpty() ? L"" : L",") + strField;
-            columns = ColumnsOf(c.pszColumns);
+            columns = ColumnsOf(strColumns);
             return true;
         };
         CPointBook book;
-        const CReadReport report = ReadPoints(DecodeText(c.pszFile), book, help);
+        const CReadReport report = ReadPoints(DecodeText(pszFile), book, help);
         EXPECT_EQ(Faults(), FaultsOf(report));
-        EXPECT_TRUE(LettersOf(report.format.columns) == c.pszColumns)
-            << CStringA(LettersOf(report.format.columns)).GetString();
-        EXPECT_TRUE(strAsked == c.pszHeadingAsked);
+        EXPECT_STREQ(strColumns, LettersOf(report.format.columns));
+        EXPECT_TRUE(strAsked == pszHeadingAsked);
         const CNamedPoint* const pPoint = book.FindPoint(L"P");
         ASSERT_NE(nullptr, pPoint);
         EXPECT_EQ(1, pPoint->point.GetN());
         EXPECT_EQ(2, pPoint->point.GetE());
         EXPECT_TRUE(!pPoint->point.IsExistZ() || pPoint->point.GetZ() == 3);
-        EXPECT_TRUE(pPoint->strCode ==
-                    (CString(c.pszColumns).Find(L'C') >= 0 && !report.format.bSima ? L"S" : L""));
-        EXPECT_EQ(c.pszSaved != nullptr ? c.pszSaved : c.pszFile, Saved(book, report.format));
-        EXPECT_EQ(c.pszSaved == nullptr, IsAsSaved(c.pszFile, report.format));
+        EXPECT_STREQ((strColumns.Find(L'C') >= 0 && !report.format.bSima ? L"S" : L""), pPoint->strCode);
+        EXPECT_EQ(pszSaved != nullptr ? pszSaved : pszFile, Saved(book.GetPoints(), report.format));
+        EXPECT_EQ(pszSaved == nullptr, IsAsSaved(pszFile, report.format));
     }
 }
 
 TEST(PointFile, NoLineIsLostOrShifted) {
     const std::string point = "P,1,2\r\n";
-    const struct {
-        const char* pszCase;
-        std::string content;
-        int nPoints;
-        Faults faults;
-    } cases[] = {
+    const Rows<const char*, std::string, int, Faults> cases = {
         {"empty file", "", 0, {}},
         {"only line ends", "\r\n\r\n", 0, {}},
         {"blanks behind the last line", point + " \t\r\n \n", 1, {}},
@@ -160,11 +146,11 @@ TEST(PointFile, NoLineIsLostOrShifted) {
          {{1, LineFault::TooFewFields}, {3, LineFault::BadQuotes}}},
         {"quotes in a name", "\"a \"\"b\"\"\",1,2,3\r\n", 1, {}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszCase);
+    for (const auto& [pszCase, content, nPoints, faults] : cases) {
+        SCOPED_TRACE(pszCase);
         CPointBook book;
-        EXPECT_EQ(c.faults, FaultsOf(ReadPoints(DecodeText(c.content), book)));
-        EXPECT_EQ(c.nPoints, book.GetCount());
+        EXPECT_EQ(faults, FaultsOf(ReadPoints(DecodeText(content), book)));
+        EXPECT_EQ(nPoints, book.GetCount());
     }
 }
 
@@ -174,21 +160,17 @@ TEST(PointFile, WhatAFileHasNotGotIsAddedBehind) {
     book.Add({L"Q", CCoordinate(4, 3, 5, 3), L"STONE"});
     EXPECT_EQ("name;N;E;Z;code\r\nP;1.000000;2.000000;;\r\n"
               "Q;3.000000;4.000000;5.000000;STONE\r\n",
-              Saved(book, report.format));
+              Saved(book.GetPoints(), report.format));
     report = ReadPoints(DecodeText("A01,7,R,1,2,3,\r\nA01,9,S,1,2,,\r\n"), book);
-    EXPECT_NE(std::string::npos, Saved(book, report.format).find("A01,10,P,1.000000,2.000000,,\r\n"))
+    EXPECT_NE(std::string::npos,
+              Saved(book.GetPoints(), report.format).find("A01,10,P,1.000000,2.000000,,\r\n"))
         << "a point that is new there gets the next number";
 }
 
 TEST(PointFile, WhatWouldBeReadOtherwiseIsWrittenAnotherWay) {
     CLineFormat noHeading;
     noHeading.text = {Encoding::Utf8, LineEnd::Lf};
-    const struct {
-        const char* pszCase;
-        std::vector<CNamedPoint> points;
-        CLineFormat format;
-        const char* pszFile;
-    } cases[] = {
+    const Rows<const char*, std::vector<CNamedPoint>, CLineFormat, const char*> cases = {
         {"a mark for a name",
          {{L"\xFEFFP", CCoordinate(2, 1, 0, 1)}},
          noHeading,
@@ -198,16 +180,13 @@ TEST(PointFile, WhatWouldBeReadOtherwiseIsWrittenAnotherWay) {
          NewFormat(),
          "\xEF\xBB\xBFname,N,E,Z,code\r\n\"A01\",1.000000,2.000000,,\r\n\"a01\",1.000000,2.000000,,\r\n"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pszCase);
-        CLineFormat format = c.format;
-        std::string bytes;
-        CString strBad;
-        EXPECT_TRUE(FormatFile(c.points, format, bytes, strBad));
-        EXPECT_EQ(c.pszFile, bytes);
+    for (const auto& [pszCase, points, format, pszFile] : cases) {
+        SCOPED_TRACE(pszCase);
+        const std::string bytes = Saved(points, format);
+        EXPECT_EQ(pszFile, bytes);
         CPointBook book;
         EXPECT_EQ(Faults(), FaultsOf(ReadPoints(DecodeText(bytes), book)));
-        EXPECT_TRUE(book.FindPoint(c.points.front().strName) != nullptr);
+        EXPECT_NE(nullptr, book.FindPoint(points.front().strName));
     }
 }
 
@@ -217,20 +196,14 @@ TEST(PointFile, ExportHasTheChosenColumnsInTheirOrder) {
     CLineFormat format = NewFormat();
     format.text = {Encoding::Utf8, LineEnd::Lf};
     format.chSeparator = L';';
-    const struct {
-        const wchar_t* pszColumns;
-        bool bHeading;
-        const char* pszFile;
-    } cases[] = {
-        {L"E-Z", true, "E;;Z\n13236.200000;;23.994000\n13225.900000;;\n"},
-        {L"CN", false, "S;-35306.600000\n;-35282.400000\n"},
-    };
-    for (const auto& c : cases) {
-        format.bHeading = c.bHeading;
+    for (const auto& [pszColumns, bHeading, pszFile] : Rows<const wchar_t*, bool, const char*>{
+             {L"E-Z", true, "E;;Z\n13236.200000;;23.994000\n13225.900000;;\n"},
+             {L"CN", false, "S;-35306.600000\n;-35282.400000\n"}}) {
+        format.bHeading = bHeading;
         std::string bytes;
         CString strBad;
-        EXPECT_TRUE(FormatPoints(points, ExportFormat(ColumnsOf(c.pszColumns), format), bytes, strBad));
-        EXPECT_EQ(c.pszFile, bytes);
+        EXPECT_TRUE(FormatPoints(points, ExportFormat(ColumnsOf(pszColumns), format), bytes, strBad));
+        EXPECT_EQ(pszFile, bytes);
     }
 }
 
