@@ -10,33 +10,23 @@ namespace {
 
 using fx::Form;
 
-TEST(ModalDestroyed, OwnerTakesAllDialogsAboveItAlong) {
-    auto pOwner = std::make_unique<Frame>();
-    Form outer(pOwner.get()), inner(&outer);
-    INT_PTR nInner = 0;
-    outer.m_onDo = [&] { nInner = inner.DoModal(); };
-    inner.m_onInit = [&] { inner.PostDo(); };
-    inner.m_onDo = [&] { pOwner.reset(); };
-    EXPECT_EQ(-1, Play(outer, {[&] { outer.SendDo(); }}));
-    EXPECT_EQ(-1, nInner);
-    EXPECT_EQ(nullptr, outer.m_hWnd);
-    EXPECT_EQ(nullptr, inner.m_hWnd);
-}
-
-TEST(ModalDestroyed, OuterDialogThatGoesLeavesTheInnerOneToItsUser) {
+TEST(ModalDestroyed, OuterDialogTakesAlongWhatItOwnsAndLeavesTheRestToTheUser) {
     Frame frame;
-    Form outer;
-    Form inner(&frame); // not owned by the outer one
-    INT_PTR nInner = 0;
-    outer.m_onDo = [&] { nInner = inner.DoModal(); };
-    inner.m_onInit = [&] { inner.PostDo(); };
-    inner.m_onDo = [&] {
-        outer.DestroyWindow();
-        EXPECT_NE(nullptr, inner.m_hWnd);
-        inner.EndDialog(3);
-    };
-    EXPECT_EQ(-1, Play(outer, {[&] { outer.SendDo(); }}));
-    EXPECT_EQ(3, nInner);
+    for (const bool bOwned : {true, false}) {
+        Form outer(&frame), inner(bOwned ? static_cast<CWnd*>(&outer) : &frame);
+        INT_PTR nInner = 0;
+        outer.m_onDo = [&] { nInner = inner.DoModal(); };
+        inner.m_onInit = [&] { inner.PostDo(); };
+        inner.m_onDo = [&] {
+            outer.DestroyWindow();
+            EXPECT_EQ(bOwned, inner.m_hWnd == nullptr);
+            if (!bOwned)
+                inner.EndDialog(3);
+        };
+        EXPECT_EQ(-1, Play(outer, {[&] { outer.SendDo(); }}));
+        EXPECT_EQ(bOwned ? -1 : 3, nInner);
+        EXPECT_EQ(nullptr, inner.m_hWnd);
+    }
 }
 
 TEST(ModalDestroyed, ObjectThatItsOwnerDeletesDoesNotHang) {

@@ -44,13 +44,6 @@ TEST(Threads, LeaveNothingWhenTheyEnd) {
     EXPECT_LT(BytesAfter(THREADS), nBefore + THREADS * 16) << "less than the smallest block a thread";
 }
 
-TEST(Threads, EachHasItsOwnWaitCursor) {
-    const CWaitCursor wait;
-    const HCURSOR hMine = ::GetCursor();
-    std::thread(UseEverything).join();
-    EXPECT_EQ(::GetCursor(), hMine);
-}
-
 TEST(Threads, RegisterTheSameClassesAtTheSameTime) {
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i)

@@ -92,15 +92,18 @@ TEST(WindowObject, IsAttachedBeforeTheFirstMessageAlsoWithChildrenOfItsOwn) {
     EXPECT_EQ(&*child, CWnd::FromHandlePermanent(child->m_hWnd));
 }
 
-TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefuses) {
+TEST(WindowObject, SubclassDlgItemTakesTheItemOrRefusesAndGivesItBack) {
     Frame frame;
     const Foreign foreign(&frame);
     ::SetWindowLongPtr(foreign, GWLP_ID, 5);
+    const LONG_PTR nBefore = ::GetWindowLongPtr(foreign, GWLP_WNDPROC);
     CWnd item, second;
     EXPECT_FALSE(item.SubclassDlgItem(6, &frame));
     EXPECT_TRUE(item.SubclassDlgItem(5, &frame));
     EXPECT_EQ(foreign, item.m_hWnd);
     EXPECT_FALSE(second.SubclassDlgItem(5, &frame));
+    EXPECT_EQ(foreign, item.UnsubclassWindow());
+    EXPECT_EQ(nBefore, ::GetWindowLongPtr(foreign, GWLP_WNDPROC));
 }
 
 TEST(WindowDestruction, ObjectOnTheHeapGoesWithItsWindowOnAnyPath) {
