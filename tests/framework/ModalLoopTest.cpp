@@ -71,10 +71,15 @@ TEST(ModalDialog, EveryWayOutGivesItsResultAndEnablesTheOwner) {
     EXPECT_FALSE(owner.IsWindowEnabled()) << "as before";
 }
 
-TEST(ModalDialog, WithoutItsTemplateFailsAndLeavesTheOwnerEnabled) {
+TEST(ModalDialog, WithoutItsTemplateOrValuesFailsAndLeavesTheOwnerEnabled) {
+    struct Failing : Form {
+        using Form::Form;
+        void DoDataExchange(CDataExchange* pDX) override { pDX->Fail(); }
+    };
     Frame owner;
     CDialog dialog(54321U, &owner);
     EXPECT_EQ(-1, dialog.DoModal());
+    EXPECT_EQ(-1, Play(Failing(&owner), {}));
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 

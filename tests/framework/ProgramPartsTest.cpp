@@ -75,19 +75,51 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
     EXPECT_NE(0U, ::GetObjectType(hPicture));
     dialog.SetBackgroundImage(hPicture, CDialogEx::BACKGR_TILE, FALSE);
     EXPECT_EQ(0U, ::GetObjectType(hOwned));
+    EXPECT_TRUE(dialog.SetBackgroundImage(312, CDialogEx::BACKGR_TILE, FALSE));
+    EXPECT_EQ("......", corners()) << "a black one";
+    EXPECT_FALSE(dialog.SetBackgroundImage(311, CDialogEx::BACKGR_TILE, FALSE));
     dialog.SetBackgroundImage(static_cast<HBITMAP>(nullptr), CDialogEx::BACKGR_TILE, FALSE);
     dialog.SetBackgroundColor(static_cast<COLORREF>(-1));
     EXPECT_EQ("......", corners());
     ::DeleteObject(hPicture);
 }
 
+struct PictureButton : CBitmapButton {
+    CBitmap* const m_bitmaps[4] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
+
+    std::string Widths() const {
+        std::string widths;
+        for (const CBitmap* pBitmap : m_bitmaps) {
+            BITMAP info = {};
+            ::GetObject(pBitmap->m_hObject, sizeof info, &info);
+            widths += std::to_string(info.bmWidth) + ' ';
+        }
+        return widths;
+    }
+};
+
+TEST(BitmapButton, LoadsThePicturesThatAreThere) {
+    Frame frame;
+    ::CreateWindow(WC_BUTTON, L"FK", WS_CHILD | BS_OWNERDRAW, 0, 0, 5, 5, frame, reinterpret_cast<HMENU>(5),
+                   nullptr, nullptr);
+    PictureButton button;
+    EXPECT_FALSE(button.AutoLoad(6, &frame));
+    EXPECT_TRUE(button.AutoLoad(5, &frame));
+    EXPECT_EQ("9 0 0 8 ", button.Widths());
+    EXPECT_EQ(CSize(9, 1), RectOf(button).Size());
+    EXPECT_TRUE(button.LoadBitmaps(312, 0, 312));
+    EXPECT_EQ("32 0 32 0 ", button.Widths());
+    EXPECT_FALSE(button.LoadBitmaps(L"FKU", L"none"));
+    EXPECT_FALSE(button.LoadBitmaps(nullptr, L"FKU"));
+    button.SetWindowText(L"none");
+    button.UnsubclassWindow();
+    EXPECT_FALSE(button.AutoLoad(5, &frame));
+}
+
 TEST(BitmapButton, ShowsThePictureOfItsState) {
-    struct Button : CBitmapButton {
-        CBitmap* const m_bitmaps[4] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
-    };
     fx::Canvas canvas;
     Frame frame;
-    fx::Child<Button> button(frame, BS_OWNERDRAW);
+    fx::Child<PictureButton> button(frame, BS_OWNERDRAW);
     for (int i = 0; i < 4; ++i)
         button.m_bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
     button.SizeToContent();

@@ -22,19 +22,26 @@ TEST(CommonDialogs, ColourIsTakenWithOK) {
     EXPECT_EQ(nullptr, dialog.m_hWnd);
 }
 
-TEST(CommonDialogs, FileDialogTellsThatItIsReady) {
+TEST(CommonDialogs, FileDialogTellsThatItIsReadyAndWhereItIs) {
     struct Probe : CFileDialog {
         using CFileDialog::CFileDialog;
-        bool m_bReady = false;
+        CString m_strFolder;
         void OnInitDone() override {
-            m_bReady = true;
-            ::PostMessage(::GetParent(m_hWnd), WM_COMMAND, IDCANCEL, 0);
+            m_strFolder = GetFolderPath();
+            const HWND hDialog = ::GetParent(m_hWnd);
+            SetControlText(IDOK, L"take");
+            EXPECT_EQ(L"take", TextOf(::GetDlgItem(hDialog, IDOK)));
+            HideControl(IDCANCEL);
+            EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(hDialog, IDCANCEL)));
+            ::PostMessage(hDialog, WM_COMMAND, IDCANCEL, 0);
         }
     };
     Frame frame;
     Probe dialog(TRUE, L"txt", nullptr, OFN_HIDEREADONLY, L"Text|*.txt|All|*.*||", &frame);
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_TRUE(dialog.m_bReady);
+    TCHAR szFolder[MAX_PATH] = L"";
+    ::GetCurrentDirectory(MAX_PATH, szFolder);
+    EXPECT_EQ(szFolder, dialog.m_strFolder);
 }
 
 TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {

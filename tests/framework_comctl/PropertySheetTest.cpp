@@ -277,6 +277,8 @@ TEST(ModalSheet, WizardGoesThroughItsPagesAndFinishes) {
         sheet.PressButton(PSBTN_BACK);
     };
     const auto finish = [&] {
+        sheet.SetFinishText(L"終");
+        EXPECT_EQ(L"終", TextOf(sheet.Button(ID_WIZFINISH)));
         sheet.SetWizardButtons(PSWIZB_BACK | PSWIZB_FINISH);
         sheet.TakeLog();
         sheet.PressButton(PSBTN_FINISH);
