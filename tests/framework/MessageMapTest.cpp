@@ -87,7 +87,10 @@ protected:
         pCmdUI->SetText(L"on");
         pCmdUI->SetCheck();
     }
-    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) {
+        pCmdUI->SetRadio();
+        pCmdUI->Enable(FALSE);
+    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -189,7 +192,7 @@ TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
     EXPECT_EQ("notify 400, notify range 402", wnd.TakeLog());
 }
 
-TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
+TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
     DerivedWnd wnd;
     CMenu bar, own;
     ASSERT_TRUE(bar.CreateMenu());
@@ -204,7 +207,13 @@ TEST(MessageMap, ItemsOfAMenuAreAskedHowTheyLookBeforeItOpens) {
     EXPECT_EQ(2, popup.GetMenuString(ID_ON, strText, MF_BYCOMMAND));
     EXPECT_EQ(L"on", strText);
     EXPECT_EQ(UINT{MF_CHECKED}, popup.GetMenuState(ID_ON, MF_BYCOMMAND));
-    EXPECT_EQ(UINT{MF_GRAYED}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
+    EXPECT_EQ(UINT{MF_CHECKED | MF_GRAYED | MFT_RADIOCHECK}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
+    const fx::Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
+    const fx::Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
+    wnd.UpdateDialogControls(&wnd, TRUE);
+    EXPECT_EQ(L"on", TextOf(on));
+    EXPECT_EQ(BST_CHECKED, on.GetCheck());
+    EXPECT_EQ(BST_CHECKED, off.GetCheck());
 }
 
 /// A window with the map that lies at one place in memory, as after a change of DLLs.
