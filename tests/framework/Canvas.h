@@ -7,6 +7,8 @@
 
 namespace fx {
 
+constexpr COLORREF RED = RGB(255, 0, 0), BLUE = RGB(0, 0, 255);
+
 /// White at first.
 struct Canvas {
     explicit Canvas(int cx = 40, int cy = 40) : m_size(cx, cy) {

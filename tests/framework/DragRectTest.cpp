@@ -51,25 +51,4 @@ TEST(DragRect, AnotherBrushAndThicknessAreTakenBackToo) {
     EXPECT_EQ(before, Pixels(dc));
 }
 
-TEST(DragRect, DoesNotDependOnWhatElseIsSetInTheContext) {
-    fx::Canvas canvas;
-    CDC& dc = canvas.m_dc;
-    const CRect rect(3, 3, 20, 20);
-    dc.SetBkColor(RGB(0, 255, 0));
-    for (const COLORREF color : {RGB(255, 0, 0), RGB(0, 0, 255)}) {
-        dc.SetTextColor(color);
-        dc.DrawDragRect(rect, THIN, nullptr, THIN);
-    }
-    EXPECT_EQ(0, canvas.CountDrawn());
-    EXPECT_EQ(RGB(0, 255, 0), dc.GetBkColor()) << "and leaves it alone";
-
-    // Logical coordinates, and the application's own clipping, hold.
-    dc.IntersectClipRect(0, 0, 40, 10);
-    dc.SetViewportOrg(5, 5);
-    dc.DrawDragRect(CRect(0, 0, 20, 20), THIN, nullptr, THIN);
-    const std::string picture = canvas.Picture();
-    EXPECT_EQ(5U, picture.find('#') / 41) << "row of the frame's top";
-    EXPECT_EQ(9U, picture.rfind('#') / 41) << "last row inside the clipping";
-}
-
 } // namespace

@@ -4,33 +4,9 @@
 #include <algorithm>
 
 using namespace testkit;
+using fx::BLUE, fx::RED;
 
 namespace {
-
-constexpr COLORREF RED = RGB(255, 0, 0);
-constexpr COLORREF BLUE = RGB(0, 0, 255);
-
-/// Selects an object and the previous one again.
-template <class Object>
-void ExpectSelectedAndBack(CDC& dc, Object& object, Object* (CDC::*getCurrent)() const) {
-    Object* const pOld = dc.SelectObject(&object);
-    EXPECT_EQ(&object, (dc.*getCurrent)());
-    EXPECT_EQ(&object, dc.SelectObject(pOld));
-    EXPECT_EQ(pOld, (dc.*getCurrent)());
-}
-
-TEST(DeviceContext, SelectingGivesThePreviousObjectBack) {
-    fx::Canvas canvas;
-    CPen pen(PS_SOLID, 1, RED);
-    CBrush brush(BLUE);
-    CFont font;
-    font.CreatePointFont(90, L"System");
-    ExpectSelectedAndBack(canvas.m_dc, pen, &CDC::GetCurrentPen);
-    ExpectSelectedAndBack(canvas.m_dc, brush, &CDC::GetCurrentBrush);
-    ExpectSelectedAndBack(canvas.m_dc, font, &CDC::GetCurrentFont);
-    CPen* const pOld = canvas.m_dc.GetCurrentPen();
-    EXPECT_EQ(pOld, canvas.m_dc.SelectStockObject(WHITE_PEN));
-}
 
 TEST(DeviceContext, DrawsWhereItBelongs) {
     const CRect all(0, 0, 7, 5);
@@ -110,20 +86,6 @@ TEST(DeviceContext, AnotherContextAnswersQuestions) {
 
 bool Exists(HGDIOBJ hObject) {
     return ::GetObjectType(hObject) != 0;
-}
-
-TEST(GdiObject, OwnerDeletesItsHandleAndAForeignOneStays) {
-    HBRUSH hOwned = nullptr;
-    const HBRUSH hForeign = ::CreateSolidBrush(RGB(4, 5, 6));
-    {
-        CBrush brush(RGB(1, 2, 3));
-        hOwned = brush;
-        CBrush::FromHandle(hForeign);
-        CGdiObject::DeleteTempMap();
-    }
-    EXPECT_FALSE(Exists(hOwned));
-    EXPECT_TRUE(Exists(hForeign));
-    ::DeleteObject(hForeign);
 }
 
 TEST(GdiObject, HandleHasOneObjectOfTheClassThatFits) {

@@ -7,11 +7,9 @@
 #include "testkit/Program.h"
 
 using namespace testkit;
+using fx::BLUE, fx::RED;
 
 namespace {
-
-constexpr COLORREF RED = RGB(255, 0, 0);
-constexpr COLORREF BLUE = RGB(0, 0, 255);
 
 /// A bitmap of one colour that belongs to nobody.
 HBITMAP MakePicture(COLORREF color, int cx = 3, int cy = 2) {

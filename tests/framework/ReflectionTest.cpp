@@ -9,15 +9,13 @@ namespace {
 
 std::string g_log;
 
-template <class Result = int>
-Result Log(const char* psz, Result result = 0) {
+BOOL Log(const char* psz, BOOL bResult = FALSE) {
     g_log += g_log.empty() ? psz : std::string(", ") + psz;
-    return result;
+    return bResult;
 }
 
 struct ReflectingEdit : CEdit {
     BOOL m_bTake = TRUE; ///< What the _EX handlers answer.
-    HBRUSH m_hBrush = nullptr;
 
 protected:
     afx_msg void OnUpdate() { Log("child"); }
@@ -27,7 +25,6 @@ protected:
         *pResult = 12;
         return Log("child", m_bTake);
     }
-    afx_msg HBRUSH CtlColor(CDC*, UINT) { return Log("child", m_hBrush); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -36,27 +33,16 @@ ON_CONTROL_REFLECT(EN_UPDATE, &ReflectingEdit::OnUpdate)
 ON_CONTROL_REFLECT_EX(EN_CHANGE, &ReflectingEdit::OnChange)
 ON_NOTIFY_REFLECT(-60, &ReflectingEdit::OnCode)
 ON_NOTIFY_REFLECT_EX(-61, &ReflectingEdit::OnCodeEx)
-ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
 /// Handles whatever its control leaves to it.
-class Parent : public Frame {
-protected:
+struct Parent : Frame {
     BOOL OnCmdMsg(UINT, int, void* pExtra, AFX_CMDHANDLERINFO*) override {
         if (pExtra != nullptr)
             *static_cast<AFX_NOTIFY*>(pExtra)->pResult = 21;
         return Log("parent", TRUE);
     }
-    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-        Log("parent");
-        return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
-    }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Parent, CWnd)
-ON_WM_CTLCOLOR()
-END_MESSAGE_MAP()
 
 TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
     constexpr int UNATTACHED = -1; ///< The control has no object.
@@ -87,22 +73,6 @@ TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
         EXPECT_EQ(pszLog, g_log);
         EXPECT_EQ(lWanted, lResult);
     }
-}
-
-TEST(Reflection, ParentChoosesColoursFirstAndItsBaseClassAsksTheControl) {
-    Parent parent;
-    fx::Child<ReflectingEdit> edit(parent);
-    CClientDC dc(&edit);
-    const auto ask = [&] {
-        g_log.clear();
-        return reinterpret_cast<HBRUSH>(parent.SendMessage(
-            WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(edit.m_hWnd)));
-    };
-    edit.m_hBrush = static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
-    EXPECT_EQ(edit.m_hBrush, ask());
-    EXPECT_EQ("parent, child", g_log);
-    edit.m_hBrush = nullptr;
-    EXPECT_NE(nullptr, ask()) << "without a choice of the control the system's colour holds";
 }
 
 } // namespace
