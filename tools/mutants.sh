@@ -11,10 +11,10 @@ survey host survey
 framework/base host framework_base fuzz_seeds
 framework/application win64 framework framework_comctl
 framework/control win64 framework framework_comctl
-framework/dialog win64 framework framework_comctl
-framework/drawing win64 framework
-framework/shell win64 framework framework_comctl companion screens
-framework/window win64 framework framework_comctl
+framework/dialog win64 framework framework_comctl controls
+framework/drawing win64 framework controls
+framework/shell win64 framework framework_comctl companion screens controls
+framework/window win64 framework framework_comctl controls
 companion win64 companion
 util host util fuzz_seeds
 controls win64 controls survey_window

@@ -188,6 +188,12 @@ TEST(CheckList, StatesFollowTheirItemsAndATapChangesThem) {
     list.ResetContent();
     list.AddString(L"d");
     EXPECT_EQ(0, list.GetCheck(0));
+    list.SetCheckStyle(BS_AUTO3STATE);
+    list.SetCurSel(0);
+    for (const int nCheck : {1, 2, 0}) {
+        list.SendMessage(WM_KEYDOWN, VK_SPACE);
+        EXPECT_EQ(nCheck, list.GetCheck(0));
+    }
 }
 
 TEST(DragList, ADroppedItemMovesWithItsData) {

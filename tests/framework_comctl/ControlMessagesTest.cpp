@@ -61,13 +61,15 @@ TEST(ControlMessages, ToolTipsBelongToControlsOrToPartsOfAWindow) {
     ASSERT_TRUE(tip.Create(&frame));
     Child<CStatic> label(frame);
     const CRect part(50, 50, 60, 60);
-    EXPECT_TRUE(tip.AddTool(&label, L"label"));
+    EXPECT_TRUE(tip.AddTool(&label, 40010U));
     EXPECT_TRUE(tip.AddTool(&frame, L"part", part, 3));
     EXPECT_EQ(2, tip.GetToolCount());
-    tip.UpdateTipText(L"other", &frame, 3);
-    CString strText;
+    tip.UpdateTipText(40011U, &frame, 3);
+    CString strText, strLabel;
     tip.GetText(strText, &frame, 3);
-    EXPECT_EQ(L"other", strText);
+    EXPECT_EQ(L"測点", strText);
+    tip.GetText(strLabel, &label, 0);
+    EXPECT_EQ(L"設定", strLabel);
     CToolInfo info = {};
     ASSERT_TRUE(tip.GetToolInfo(info, &frame, 3));
     EXPECT_EQ(part, CRect(info.rect));
@@ -97,6 +99,8 @@ TEST(ControlMessages, BarsHaveTextsAndButtons) {
     TBBUTTON buttons[2] = {{0, 5, TBSTATE_ENABLED, 0, {}, 0, 0}, {0, 6, TBSTATE_ENABLED, 0, {}, 0, 0}};
     ASSERT_TRUE(tools.AddButtons(2, buttons));
     EXPECT_EQ(1, tools.CommandToIndex(6));
+    for (const UINT nID : {40010U, 40011U})
+        EXPECT_EQ(static_cast<int>(nID) - 40010, tools.AddString(nID));
 }
 
 TEST(ControlMessages, DatesHaveLimitsAndSelections) {
@@ -125,6 +129,8 @@ TEST(ControlMessages, DatesHaveLimitsAndSelections) {
     EXPECT_EQ(last, from);
     EXPECT_EQ(1, month.GetMonthRange(from, to, GMR_VISIBLE));
     EXPECT_EQ(2, from.GetMonth());
+    month.SetFirstDayOfWeek(3);
+    EXPECT_EQ(3, month.GetFirstDayOfWeek());
     month.SetToday(first);
     EXPECT_TRUE(month.GetToday(to));
     EXPECT_EQ(first, to);
@@ -179,6 +185,9 @@ TEST(ControlMessages, SplitButtonOpensItsMenu) {
     button.SetDropDownMenu(0xFFFF, 0); // there is none
     fx::Notify(frame, button, 1, BCN_DROPDOWN);
     EXPECT_EQ(0U, frame.m_nItem);
+    button.SetDropDownMenu(&menu);
+    fx::Notify(frame, button, 1, BCN_DROPDOWN);
+    EXPECT_EQ(77U, frame.m_nItem);
 }
 
 TEST(ControlMessages, RichTextHasAFormatForEachPart) {

@@ -32,10 +32,10 @@ struct Page : Heard<CPropertyPage> {
     BOOL OnSetActive() override { return Log("set") && CPropertyPage::OnSetActive(); }
     BOOL OnKillActive() override { return Log("kill") && CPropertyPage::OnKillActive(); }
     BOOL OnApply() override { return Log("apply") && m_bApply && CPropertyPage::OnApply(); }
-    BOOL OnQueryCancel() override { return m_bCancel; }
+    BOOL OnQueryCancel() override { return m_bCancel && CPropertyPage::OnQueryCancel(); }
     void OnOK() override { Log("ok"); }
     void OnCancel() override { Log("cancel"); }
-    BOOL OnWizardFinish() override { return Log("finish"); }
+    BOOL OnWizardFinish() override { return Log("finish") && CPropertyPage::OnWizardFinish(); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
