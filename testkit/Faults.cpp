@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace testkit::fault {
@@ -9,6 +10,14 @@ namespace testkit::fault {
 namespace {
 
 std::atomic<Injection*> g_pCurrent = nullptr;
+std::set<HMODULE> g_installed;
+
+HMODULE ModuleOf(const void* pAddress) {
+    HMODULE hModule = nullptr;
+    ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                        static_cast<LPCWSTR>(pAddress), &hModule);
+    return hModule;
+}
 
 } // namespace
 
@@ -57,6 +66,7 @@ std::vector<Import> ImportsOf(HMODULE hModule) {
 }
 
 void Install(HMODULE hModule, const std::vector<Point>& points) {
+    g_installed.insert(hModule);
     std::map<std::string, Point> byName;
     for (const Point& point : points)
         byName.emplace(point.pszName, point);
@@ -72,9 +82,7 @@ void Install(HMODULE hModule, const std::vector<Point>& points) {
 }
 
 std::string WhereIs(const void* pAddress) {
-    HMODULE hModule = nullptr;
-    ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                        static_cast<LPCWSTR>(pAddress), &hModule);
+    const HMODULE hModule = ModuleOf(pAddress);
     char szPath[MAX_PATH] = "?";
     ::GetModuleFileNameA(hModule, szPath, MAX_PATH);
     const std::string path = szPath;
@@ -82,6 +90,14 @@ std::string WhereIs(const void* pAddress) {
     ::wsprintfA(szOffset, "+0x%x",
                 static_cast<unsigned>(static_cast<const BYTE*>(pAddress) - reinterpret_cast<BYTE*>(hModule)));
     return path.substr(path.find_last_of('\\') + 1) + szOffset;
+}
+
+std::string TextOf(const Injection& injection) {
+    std::string text = injection.m_pszFailed != nullptr ? injection.m_pszFailed : "(nothing)";
+    for (const void* const pCaller : injection.m_callers)
+        if (g_installed.count(ModuleOf(pCaller)) != 0)
+            text += "\n    " + WhereIs(pCaller);
+    return text;
 }
 
 } // namespace testkit::fault

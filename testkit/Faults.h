@@ -121,4 +121,7 @@ void Install(HMODULE hModule, const std::vector<Point>& points);
 /// An address as module and offset, for a message.
 std::string WhereIs(const void* pAddress);
 
+/// The function that has failed and where it was called from, in the modules of Install(), for a message.
+std::string TextOf(const Injection& injection);
+
 } // namespace testkit::fault

@@ -1,35 +1,16 @@
-// Lets each call of the DLLs into the system fail, in each scenario.
+// The scenarios in which each call of the DLLs into the system fails, and the calls that can.
 #pragma once
 
 #include "support/TestApp.h"
+#include "testkit/FaultLoop.h"
 #include "testkit/Faults.h"
 
-#include <functional>
 #include <set>
 
 namespace fx {
 
-/// What is done while something fails.
-struct Scenario {
-    const char* pszName;
-    /// @param owner a window of the application, for dialogs
-    /// @return whether everything was done as usual; always true when nothing fails
-    std::function<bool(CWnd& owner)> run;
-    size_t nSystemBytes = 0; ///< What the system itself loses at most, a run.
-};
-
-/// In messages of tests.
-inline void PrintTo(const Scenario& scenario, std::ostream* os) {
-    *os << scenario.pszName;
-}
-
-std::vector<Scenario> Scenarios();
-
-/// Runs a scenario with a call failing, with another one, and so on, until it comes to its end
-/// without a failure. Each time everything must be released, and a run without a failure must work
-/// afterwards. A crash or a hang ends the program and tells which call had failed.
-/// @param bAll every call, or some of them, which change each day
-void RunLoop(const Scenario& scenario, bool bAll);
+/// What the library is used for, all of it.
+std::vector<testkit::fault::Scenario> Scenarios();
 
 /// All functions of the system that can fail, and how.
 const std::vector<fault::Point>& Table();

@@ -1,6 +1,5 @@
 #include "Faults.h"
 
-#include "DialogCloser.h"
 #include "support/AllDialogs.h"
 #include "util/AsciiFile.h"
 #include "util/StringStack.h"
@@ -14,13 +13,13 @@ namespace {
 /// Opens a dialog, goes through all that it has and ends it by Cancel, and by OK.
 /// @return whether all this worked
 bool Open(const AnyDialog& dialog, CWnd& owner) {
-    const auto endsWith = [&](INT_PTR nWanted) {
-        const DialogCloser closer(nWanted == IDOK);
-        const INT_PTR nResult = dialog.open(&owner);
-        EXPECT_TRUE(nResult == nWanted || nResult == dialog.nCancel || nResult == -1) << nResult;
-        return nResult == nWanted && closer.WasUsed();
+    const auto endsWith = [&](int nButton, INT_PTR nWanted) {
+        const INT_PTR nResult = fault::Visit([&] { return dialog.open(&owner); }, nButton);
+        EXPECT_TRUE(nResult == nWanted || nResult == dialog.nCancel || nResult == -1 || nResult == 0)
+            << nResult;
+        return nResult == nWanted;
     };
-    return endsWith(dialog.nCancel) && (!dialog.bOkWorks || endsWith(IDOK));
+    return endsWith(IDCANCEL, dialog.nCancel) && (!dialog.bOkWorks || endsWith(IDOK, IDOK));
 }
 
 bool UsePanel(CWnd& owner) {
@@ -171,9 +170,9 @@ bool StartModule(CWnd&) {
 
 } // namespace
 
-std::vector<Scenario> Scenarios() {
+std::vector<fault::Scenario> Scenarios() {
     constexpr size_t SHEET = 700; // Wine's record of a sheet whose window was refused
-    std::vector<Scenario> all = {
+    std::vector<fault::Scenario> all = {
         {"Panel", UsePanel},         {"ImageLists", UseImageLists}, {"Drawing", Draw},
         {"Files", WriteAndReadFile}, {"Text", WriteAndReadText},    {"Settings", KeepSettings},
         {"Combo", FillCombo},        {"Module", StartModule},

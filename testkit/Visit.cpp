@@ -1,30 +1,37 @@
-// The user of a dialog that may fail to open.
-#pragma once
+// The user of a dialog that may fail to open. Until it is closed nothing here needs memory, which may
+// be what fails.
+#include "testkit/FaultLoop.h"
 
-#include "support/AllDialogs.h"
+#include "afxdlgs.h"
 
 #include <cwchar>
+#include <exception>
+#include <utility>
 
-namespace fx {
+namespace testkit::fault {
+
+namespace {
 
 /// While it exists, the first dialog of the thread is used as soon as it is there, and then it and
-/// whatever is in the way, such as messages, is closed.
-struct DialogCloser {
-    /// @param bOk whether OK is tried before Cancel
-    explicit DialogCloser(bool bOk) : m_bOk(bOk) {
+/// whatever is in the way is closed.
+class CVisitor {
+public:
+    explicit CVisitor(int nButton) : m_nButton(nButton) {
         s_pCurrent = this;
         m_nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
     }
-    ~DialogCloser() {
+    ~CVisitor() {
         ::KillTimer(nullptr, m_nTimer);
         s_pCurrent = nullptr;
     }
+    CVisitor(const CVisitor&) = delete;
+    CVisitor& operator=(const CVisitor&) = delete;
 
     /// Whether a dialog was there and its use came to its end.
     bool WasUsed() const { return m_bUsed; }
 
 private:
-    static constexpr int PATIENCE = 5; ///< Ticks for a dialog to appear on the screen.
+    static constexpr int kPatience = 5; ///< Ticks for a dialog to appear on the screen.
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         try {
@@ -39,19 +46,27 @@ private:
     void OnTick() {
         HWND hDialog = nullptr;
         ::EnumThreadWindows(::GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&hDialog));
-        if (hDialog == nullptr || (!::IsWindowVisible(hDialog) && ++m_nTicks < PATIENCE))
+        if (hDialog == nullptr || (!::IsWindowVisible(hDialog) && ++m_nTicks < kPatience))
             return;
         m_nTicks = 0;
         if (!std::exchange(m_bBegun, true)) {
             ::RedrawWindow(hDialog, nullptr, nullptr,
                            RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
             m_bUsed = Use(hDialog);
-            if (m_bOk) {
+            if (m_nButton == IDOK) {
                 ::PostMessage(hDialog, WM_COMMAND, IDOK, 0);
                 return;
             }
         }
         Cancel(hDialog); // it may not obey when its own handler fails: then at the next tick
+    }
+
+    static void Cancel(HWND hDialog) {
+        const bool bNo = ::GetDlgItem(hDialog, IDCANCEL) == nullptr && ::GetDlgItem(hDialog, IDNO) != nullptr;
+        if (auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hDialog)))
+            pSheet->EndDialog(IDCANCEL); // one of the library does not know Cancel
+        else
+            ::PostMessage(hDialog, WM_COMMAND, bNo ? IDNO : IDCANCEL, 0);
     }
 
     /// Goes to each page and each control. @return whether that worked
@@ -65,7 +80,6 @@ private:
         return bGood;
     }
 
-    /// Must not throw, and so uses nothing of the library.
     static BOOL CALLBACK FindDialog(HWND hWnd, LPARAM lFound) {
         WCHAR szClass[16] = {};
         ::GetClassName(hWnd, szClass, 16);
@@ -75,12 +89,20 @@ private:
         return FALSE;
     }
 
-    static inline DialogCloser* s_pCurrent = nullptr;
+    static inline CVisitor* s_pCurrent = nullptr;
 
-    const bool m_bOk;
+    const int m_nButton;
     UINT_PTR m_nTimer = 0;
     int m_nTicks = 0;
     bool m_bBegun = false, m_bUsed = false;
 };
 
-} // namespace fx
+} // namespace
+
+INT_PTR Visit(const std::function<INT_PTR()>& open, int nButton) {
+    const CVisitor visitor(nButton);
+    const INT_PTR nResult = open();
+    return visitor.WasUsed() ? nResult : 0;
+}
+
+} // namespace testkit::fault

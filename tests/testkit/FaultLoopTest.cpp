@@ -1,0 +1,93 @@
+// What the loop over failing calls says of a program that does not stand them.
+#include "Caught.h"
+#include "support/Form.h"
+#include "testkit/FaultLoop.h"
+#include "testkit/Faults.h"
+
+using namespace testkit;
+using fx::Caught;
+
+namespace {
+
+/// An object of the system, which can be refused.
+HANDLE Make() {
+    return ::CreateSemaphoreW(nullptr, 0, 1, nullptr);
+}
+
+struct FaultLoop : testing::Test {
+    static void SetUpTestSuite() {
+        fault::Install(::GetModuleHandle(nullptr),
+                       {FAULT_POINT(CreateSemaphoreW, nullptr, ERROR_NOT_ENOUGH_MEMORY)});
+    }
+};
+
+TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
+    static bool s_bBroken;
+    const Rows<const char*, std::function<bool(CWnd&)>, std::string> rows = {
+        {"good",
+         [](CWnd&) {
+             const HANDLE hFirst = Make(), hSecond = Make();
+             for (const HANDLE h : {hFirst, hSecond})
+                 if (h != nullptr)
+                     ::CloseHandle(h);
+             return hFirst != nullptr && hSecond != nullptr;
+         },
+         ""},
+        {"throws",
+         [](CWnd&) {
+             const HANDLE h = Make();
+             if (h == nullptr)
+                 AfxThrowMemoryException();
+             return ::CloseHandle(h) != FALSE;
+         },
+         ""},
+        {"leaky",
+         [](CWnd&) {
+             const HANDLE hFirst = Make(), hSecond = Make();
+             if (hFirst != nullptr && hSecond != nullptr)
+                 return ::CloseHandle(hFirst) && ::CloseHandle(hSecond);
+             return false;
+         },
+         "leaky 1 CreateSemaphoreW\n    "},
+        {"broken",
+         [](CWnd&) {
+             const HANDLE h = Make();
+             s_bBroken = s_bBroken || h == nullptr;
+             ::CloseHandle(h);
+             return !s_bBroken;
+         },
+         "broken does not work after 1 (nothing)"},
+        {"disabled",
+         [](CWnd& owner) {
+             const HANDLE h = Make();
+             owner.EnableWindow(h != nullptr);
+             return h != nullptr && ::CloseHandle(h);
+         },
+         "disabled leaves its owner disabled 1 CreateSemaphoreW"},
+    };
+    for (const auto& [pszName, run, expected] : rows) {
+        Caught caught;
+        fault::FailEachCall({pszName, run});
+        ASSERT_EQ(expected.empty(), caught.m_texts.empty()) << pszName;
+        EXPECT_TRUE(expected.empty() || caught.m_texts[0].find(expected) != std::string::npos)
+            << testing::PrintToString(caught.m_texts);
+    }
+}
+
+TEST_F(FaultLoop, VisitsADialogAndEndsWhatIsInItsWay) {
+    const auto visit = [](int nButton, bool bQuestion) {
+        fx::Form form;
+        form.m_onOk = [&] {
+            if (bQuestion)
+                ::MessageBox(form, L"?", L"", MB_YESNO);
+            form.EndDialog(bQuestion ? 7 : IDOK);
+        };
+        return fault::Visit([&] { return form.DoModal(); }, nButton);
+    };
+    EXPECT_EQ(IDOK, visit(IDOK, false));
+    EXPECT_EQ(IDCANCEL, visit(IDCANCEL, false));
+    EXPECT_EQ(7, visit(IDOK, true));
+    EXPECT_EQ(0, fault::Visit([] { return IDOK; }, IDOK)) << "there was none";
+}
+
+} // namespace
