@@ -3,7 +3,6 @@
 #include "LockedFolder.h"
 #include "support/TestApp.h"
 #include "testkit/Script.h"
-#include "testkit/Pen.h"
 #include "testkit/Drive.h"
 #include "testkit/TitleBar.h"
 
@@ -38,12 +37,6 @@ struct Dialog : CBrowseFolderDlg {
         return paths;
     }
     Paths AllPaths() { return PathsBelow(Tree().GetRootItem()); }
-    void TapItem(HTREEITEM hItem) {
-        CRect rect;
-        ASSERT_TRUE(Tree().GetItemRect(hItem, rect, TRUE));
-        Tree().ClientToScreen(rect);
-        pen::Tap(rect.CenterPoint());
-    }
 };
 
 TEST(BrowseFolderDlg, ShowsEveryFolderWithItsPathAndImage) {
@@ -132,26 +125,6 @@ TEST(BrowseFolderDlg, SelectsTheFolderThatIsWrittenExactlyAsItsOwn) {
         };
         EXPECT_EQ(IDOK, Play(dlg, {look, [&] { TapOk(dlg); }}));
         EXPECT_EQ(CString(folder), dlg.GetSelectedFolder()) << "taken over as it was";
-    }
-}
-
-TEST(BrowseFolderDlg, PenPicksAFolderAndOkGivesIt) {
-    Drive drive;
-    drive.MakeFolder(L"\\data");
-    drive.MakeFolder(L"\\data\\site");
-    const Rows<const char*, bool, void (*)(HWND, const Place&), INT_PTR, const wchar_t*> rows = {
-        {"folder, OK", false, TapOk, IDOK, L"\\data"},
-        {"root, OK", true, TapOk, IDOK, L"\\"},
-        {"folder, close", false, TapClose, IDCANCEL, L"\\data\\site"},
-    };
-    for (const auto& [what, tapRoot, end, result, folder] : rows) {
-        Dialog dlg(L"\\data\\site");
-        const auto tap = [&] {
-            const HTREEITEM hRoot = dlg.Tree().GetRootItem();
-            dlg.TapItem(tapRoot ? hRoot : dlg.Tree().GetChildItem(hRoot));
-        };
-        EXPECT_EQ(result, Play(dlg, {tap, [&] { end(dlg, {}); }})) << what;
-        EXPECT_EQ(folder, dlg.GetSelectedFolder()) << what;
     }
 }
 

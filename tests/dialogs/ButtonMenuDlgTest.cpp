@@ -12,42 +12,60 @@ namespace {
 constexpr int TITLE = 1503, FIRST_BUTTON = 5100, BUTTON_HEIGHT = 36;
 const UINT TEXTS[] = {1513, 1514, 1515}; // texts of the library, over and over
 
-/// A menu with that many entries.
+/// A menu with that many entries, on a screen of that resolution.
 struct Menu {
-    explicit Menu(int nEntries, CWnd* pParent = nullptr) : m_dlg(TITLE, &m_ids, pParent) {
+    explicit Menu(int nEntries, CWnd* pParent = nullptr, int nDpi = USER_DEFAULT_SCREEN_DPI)
+        : m_dlg(TITLE, &m_ids, pParent) {
+        m_dlg.m_nDpi = nDpi;
         for (int i = 0; i < nEntries; ++i)
             m_ids.Add(TEXTS[i % std::ssize(TEXTS)]);
     }
     CWnd* Button(int nIndex) { return m_dlg.GetDlgItem(FIRST_BUTTON + nIndex); }
-    /// Taps a button; one of a tall menu is scrolled onto the screen, as the dialog itself does not.
-    Step Tap(int nIndex) {
-        return [this, nIndex] {
-            if (m_ids.GetSize() > 8)
-                m_dlg.SetWindowPos(nullptr, 0, -nIndex * BUTTON_HEIGHT, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-            pen::Tap(*Button(nIndex));
-        };
-    }
+
+    struct Dialog : CButtonMenuDlg {
+        using CButtonMenuDlg::CButtonMenuDlg;
+        BOOL OnInitDialog() override {
+            SendMessage(WM_DPICHANGED, MAKEWPARAM(m_nDpi, m_nDpi));
+            return CButtonMenuDlg::OnInitDialog();
+        }
+        int m_nDpi = 0;
+    };
 
     CUIntArray m_ids;
-    CButtonMenuDlg m_dlg;
+    Dialog m_dlg;
 };
 
-TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitle) {
+TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitleOrSeveralThatFitALowScreen) {
+    constexpr int SHARE = 0; // of the room
     const CString texts[] = {L"ファイルを開く", L"ファイル名を付けて保存", L"新規作成"};
-    for (const int nEntries : {0, 3, 25}) {
-        Menu menu(nEntries);
+    const Rows<int, int, int, int> rows = {{0, 96, 1, BUTTON_HEIGHT},
+                                           {3, 96, 1, BUTTON_HEIGHT},
+                                           {25, 96, 1, BUTTON_HEIGHT},
+                                           {0, 192, 1, 2 * BUTTON_HEIGHT},
+                                           {3, 192, 1, 2 * BUTTON_HEIGHT},
+                                           {5, 192, 1, SHARE},
+                                           {6, 192, 2, 2 * 24}};
+    for (const auto& [nEntries, nDpi, nColumns, nWantedHeight] : rows) {
+        Menu menu(nEntries, nullptr, nDpi);
         const auto look = [&] {
+            SCOPED_TRACE(std::to_string(nEntries) + ' ' + std::to_string(nDpi));
             EXPECT_EQ(L"インフォメーション", TextOf(menu.m_dlg));
-            CRect client;
-            menu.m_dlg.GetClientRect(client);
+            CRect frame;
+            menu.m_dlg.CalcWindowRect(frame, CWnd::adjustOutside);
+            const int nRoom = WorkArea().Height() - frame.Height();
+            const int nHeight = nWantedHeight == SHARE ? nRoom / nEntries : nWantedHeight;
+            const int nInColumn = (nEntries + nColumns - 1) / nColumns;
             CRect units(0, 0, 133, 0);
             menu.m_dlg.MapDialogRect(units);
-            EXPECT_EQ(CRect(0, 0, units.right, nEntries * BUTTON_HEIGHT), client);
+            const int nWidth = std::min<int>(units.right, (WorkArea().Width() - frame.Width()) / nColumns);
+            EXPECT_EQ(CSize(nColumns * nWidth, nInColumn * nHeight) + frame.Size(),
+                      RectOf(menu.m_dlg).Size());
             for (int i = 0; i < nEntries; ++i) {
                 ASSERT_NE(nullptr, menu.Button(i)) << i;
                 CRect rect = RectOf(*menu.Button(i));
                 menu.m_dlg.ScreenToClient(rect);
-                EXPECT_EQ(CRect(CPoint(0, i * BUTTON_HEIGHT), CSize(client.Width(), BUTTON_HEIGHT)), rect);
+                const CPoint place(i / nInColumn * nWidth, i % nInColumn * nHeight);
+                EXPECT_EQ(CRect(place, CSize(nWidth, nHeight)), rect);
                 EXPECT_EQ(texts[i % 3], TextOf(*menu.Button(i)));
                 EXPECT_TRUE(menu.Button(i)->IsWindowVisible());
             }
@@ -62,7 +80,7 @@ TEST(ButtonMenuDlg, TappingAnEntryEndsItWithTheIndexAndANewRunForgetsIt) {
     Frame owner(CSize(240, 320));
     Menu menu(3, &owner);
     for (const int nEntry : {2, 0}) {
-        EXPECT_EQ(IDOK, Play(menu.m_dlg, {menu.Tap(nEntry)}));
+        EXPECT_EQ(IDOK, Play(menu.m_dlg, {Tap(menu.m_dlg, FIRST_BUTTON + nEntry)}));
         EXPECT_EQ(nEntry, menu.m_dlg.GetMenuIndex());
     }
     menu.m_ids.RemoveAt(0); // the next run shows what the array holds then
@@ -79,7 +97,10 @@ TEST(ButtonMenuDlg, TheLastEntryThatCanBeChosenIsTheTwentyFirst) {
         EXPECT_NE(nullptr, menu.Button(24));
         EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
     };
-    EXPECT_EQ(IDOK, Play(menu.m_dlg, {menu.Tap(21), stillOpen, menu.Tap(20)}));
+    const auto choose = [&](int nEntry) {
+        return [&menu, nEntry] { menu.m_dlg.PostMessage(WM_COMMAND, FIRST_BUTTON + nEntry); };
+    };
+    EXPECT_EQ(IDOK, Play(menu.m_dlg, {choose(21), stillOpen, choose(20)}));
     EXPECT_EQ(20, menu.m_dlg.GetMenuIndex());
 }
 

@@ -11,19 +11,6 @@ namespace {
 
 using namespace file_select;
 
-TEST(FileSelectDlg, TitleTellsTheMode) {
-    Drive drive;
-    const auto expectTitle = [](CFileSelectDlg&& dlg, const CString& strTitle) {
-        WhileOpen(dlg, [&] { EXPECT_EQ(strTitle, TextOf(dlg)); });
-    };
-    expectTitle(CFileSelectDlg(nullptr), L"ファイルを開く");
-    expectTitle(Dialog(0), L"ファイルを開く");
-    expectTitle(Dialog(1), L"ファイル名を付けて保存");
-    expectTitle(Dialog(2), L"新規作成");
-    expectTitle(Dialog(3), L"ファイルの選択");
-    expectTitle(Dialog(-1), L"ファイルの選択");
-}
-
 TEST(FileSelectDlg, ListsTheFilesWhoseExtensionIsFoundInTheSubName) {
     Drive drive;
     drive.MakeFolder(L"\\data");

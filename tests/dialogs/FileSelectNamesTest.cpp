@@ -160,7 +160,10 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
         {L"..\\secret.csv", L"次の文字"}, {L"a.csv ", L"終わり"}, {L"nul", L"装置"}};
     for (const auto& [typed, reason] : rows) {
         Dialog dlg(CFileSelectDlg::ModeNew);
-        const auto look = [&reason = reason] { EXPECT_NE(-1, MessageText().Find(reason)); };
+        const auto look = [&dlg, reason = reason] {
+            EXPECT_NE(-1, MessageText().Find(reason));
+            dlg.List().SetFocus();
+        };
         const auto typeAgain = [&] { EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()); };
         EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
         EXPECT_EQ(L"\\good.csv", dlg.GetFilePath());
@@ -176,14 +179,17 @@ TEST(FileSelectNames, DialogMayBeDestroyedWhileItsMessageIsOpen) {
     }
 }
 
-TEST(FileSelectNames, OpeningEndsAtOnceWithTheNameAsItIs) {
+TEST(FileSelectNames, TitleTellsTheModeAndOpeningEndsAtOnceWithTheNameAsItIs) {
     Drive drive;
     drive.MakeFile(L"\\old.csv");
-    const Rows<int, const wchar_t*, const wchar_t*> rows = {
-        {0, L"old.csv", L"\\old.csv"}, {0, L"new", L"\\new"}, {1, L"", L""}, {3, L"old.csv", L"\\old.csv"}};
-    for (const auto& [mode, typed, path] : rows) {
+    const Rows<int, const wchar_t*, const wchar_t*, const wchar_t*> rows = {
+        {0, L"ファイルを開く", L"old.csv", L"\\old.csv"}, {0, L"ファイルを開く", L"new", L"\\new"},
+        {1, L"ファイル名を付けて保存", L"", L""},         {2, L"新規作成", L"", L""},
+        {3, L"ファイルの選択", L"old.csv", L"\\old.csv"}, {-1, L"ファイルの選択", L"", L""}};
+    for (const auto& [mode, title, typed, path] : rows) {
         Dialog dlg(mode);
-        EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed)}));
+        const auto look = [&dlg, title = title] { EXPECT_EQ(title, TextOf(dlg)); };
+        EXPECT_EQ(IDOK, Play(dlg, {look, dlg.Enter(typed)}));
         EXPECT_EQ(path, dlg.GetFilePath());
     }
 }
