@@ -34,26 +34,6 @@ TEST(FullScreenDialogAndPanel, ScrollsByJustEnoughAndBack) {
                 [] { EXPECT_FALSE(panel::IsVisible()); }});
 }
 
-TEST(FullScreenDialogAndPanel, FieldStaysUnderThePenUntilItIsLifted) {
-    FieldDialog dialog(NO_PLACE, {20, 135}); // the panel leaves a strip of the second one
-    CRect home;
-    CPoint strip;
-    const auto press = [&] {
-        fx::PumpFor(100);
-        home = dialog.FieldRect(1);
-        strip = CPoint(home.CenterPoint().x, home.top + 4);
-        ASSERT_LT(strip.y, panel::Place().top);
-        pen::Down(strip);
-    };
-    const auto lift = [&] {
-        fx::PumpFor(100);
-        EXPECT_EQ(home, dialog.FieldRect(1));
-        pen::Up(strip);
-    };
-    dialog.Run({dialog.Enter(0), UNTIL_SHOWN, press,
-                [&] { return ::GetFocus() == dialog.m_fields[1].m_hWnd; }, lift, dialog.UntilClear(1)});
-}
-
 TEST(PopupDialogAndPanel, MovesUpAsFarAsTheWorkAreaScrollsTheRestAndGoesBack) {
     // nTop: Of the field.
     const Rows<CRect, int, bool> rows = {{{20, 110, 220, 220}, 50, true}, {{20, 30, 220, 290}, 190, false}};
@@ -105,27 +85,6 @@ TEST(PopupDialogAndPanel, ButtonOfAMovedDialogIsClickedBeforeItGoesBack) {
     dialog.Run({dialog.Enter(0), dialog.UntilClear(0), [&] { pen::Down(MiddleOf(dialog.m_other)); },
                 [&] { return ::GetFocus() == dialog.m_other.m_hWnd; }, lift, dialog.UntilHome()});
     EXPECT_EQ(1, dialog.m_nClicks);
-}
-
-TEST(PopupDialogAndPanel, OwnHandlerThatKeepsTheMessageKeepsTheDialog) {
-    struct Dialog : FieldDialog {
-        using FieldDialog::FieldDialog;
-        bool m_bTold = false;
-
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message != WM_SETTINGCHANGE || wParam != SPI_SETSIPINFO)
-                return FieldDialog::WindowProc(message, wParam, lParam);
-            m_bTold = true;
-            return 0;
-        }
-    };
-    Dialog dialog(CRect(20, 150, 220, 250), {20});
-    const auto look = [&] {
-        fx::PumpFor(100);
-        EXPECT_EQ(dialog.m_home, dialog.WindowRect());
-    };
-    dialog.Run({dialog.Enter(0), [&] { return dialog.m_bTold; }, look});
 }
 
 TEST(PopupDialogAndPanel, DialogThatOpensUnderTheOpenPanelMovesTooAndItsOwnerGoesBack) {
