@@ -167,6 +167,7 @@ TEST(IconButton, RedrawsForChangesOnly) {
         {"same style", [&] { button.SetButtonStyle(CIconButton::StyleToggle); }, false},
         {"pushed", [&] { button.SetPush(TRUE); }, true},
         {"pushed again", [&] { button.SetPush(5); }, false},
+        {"released", [&] { button.SetPush(FALSE); }, true},
         {"other style", [&] { button.SetButtonStyle(0); }, true},
     };
     for (const auto& [what, change, bRedraws] : rows) {

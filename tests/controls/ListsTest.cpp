@@ -66,6 +66,21 @@ TEST(Lists, PressAndHoldIsAnsweredAsDealtWith) {
     }
 }
 
+TEST(Lists, TapsReachTheSystem) {
+    ListStage stage;
+    stage.Tap(RectOf(stage.m_listBox).TopLeft() + CSize(10, 5));
+    EXPECT_EQ(0, stage.m_listBox.GetCurSel());
+    CRect item;
+    stage.m_tree.GetItemRect(stage.m_tree.GetRootItem(), item, TRUE);
+    stage.m_tree.ClientToScreen(item);
+    stage.Tap(item.CenterPoint());
+    EXPECT_EQ(stage.m_tree.GetRootItem(), stage.m_tree.GetSelectedItem());
+    const CRect spin = RectOf(stage.m_spin);
+    stage.Tap(CPoint(spin.CenterPoint().x, spin.bottom - 5));
+    stage.Tap(CPoint(spin.CenterPoint().x, spin.top + 5));
+    EXPECT_NE(0, stage.m_spin.GetPos());
+}
+
 TEST(ListCtrl, WithoutSelectionNeitherTapNorKeysLeaveAny) {
     ListStage stage;
     stage.m_list.SetOption(CnListCtrl::OptionNoSelection);

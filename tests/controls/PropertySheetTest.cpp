@@ -75,6 +75,21 @@ TEST(nPropertySheet, NeitherKeysNorCancelNorCloseEndIt) {
         EXPECT_EQ(77, Play(sheet, {[] {}, input, [] {}, [&] { sheet.EndDialog(77); }})) << what;
 }
 
+TEST(nPropertySheet, PressesReachTheSystemWhichClosesAnOpenList) {
+    Sheet sheet;
+    WhileOpen(sheet, [&] {
+        sheet.SetActivePage(1);
+        auto& combo = *static_cast<CComboBox*>(sheet.m_second.GetDlgItem(101));
+        for (CWnd* const pWnd : {static_cast<CWnd*>(&sheet), static_cast<CWnd*>(&sheet.m_second)}) {
+            combo.SetFocus();
+            combo.ShowDropDown();
+            EXPECT_TRUE(combo.GetDroppedState());
+            pWnd->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON);
+            EXPECT_FALSE(combo.GetDroppedState());
+        }
+    });
+}
+
 TEST(nPropertySheet, OtherKeysReachThePage) {
     Sheet sheet(CnPropertySheet::OptionOkButton);
     EXPECT_EQ(IDOK, Play(sheet, {Tap(sheet.m_first, IDC_TEXT), Press({VK_END, '7', VK_RETURN, '8'}),

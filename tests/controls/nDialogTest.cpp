@@ -79,32 +79,19 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
     }
 }
 
-TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
-    struct Asking : Dialog {
-        using Dialog::Dialog;
-        void OnCancel() override { EndDialog(77); }
-    } dlg(CnDialog::OptionPopup);
-    EXPECT_EQ(77, Play(dlg, {Close(dlg)}));
-}
-
 TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
     Dialog dlg(CnDialog::OptionPopup);
-    dlg.SetBKColor(YELLOW);
-    WhileOpen(dlg, [&] {
-        dlg.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        const auto colorIn = [&](int nID) {
-            CRect rect;
-            dlg.GetDlgItem(nID)->GetClientRect(rect);
-            CClientDC dc(dlg.GetDlgItem(nID));
-            return dc.GetPixel(rect.right - 3, rect.bottom - 3);
-        };
-        CClientDC surface(&dlg);
-        CRect client;
-        dlg.GetClientRect(client);
-        EXPECT_EQ(YELLOW, surface.GetPixel(client.right - 2, client.bottom - 2));
-        EXPECT_EQ(YELLOW, colorIn(IDC_TEXT));
-        EXPECT_EQ(colorIn(IDC_EDIT), ::GetSysColor(COLOR_WINDOW));
-    });
+    for (const COLORREF color : {YELLOW, RGB(160, 255, 255)}) { // the same object may be shown again
+        dlg.SetBKColor(color);
+        WhileOpen(dlg, [&] {
+            const Picture surface = Picture::Of(dlg), text = Picture::Of(*dlg.GetDlgItem(IDC_TEXT));
+            EXPECT_EQ(color, surface.At(surface.Size().cx - 2, surface.Size().cy - 2));
+            EXPECT_EQ(color, text.At(text.Size().cx - 3, text.Size().cy - 3));
+            EXPECT_FALSE(text.Has(text.Rect(), ::GetSysColor(COLOR_WINDOW))) << "nor around the letters";
+            const Picture edit = Picture::Of(*dlg.GetDlgItem(IDC_EDIT));
+            EXPECT_EQ(::GetSysColor(COLOR_WINDOW), edit.At(edit.Size().cx - 3, edit.Size().cy - 3));
+        });
+    }
 }
 
 /// Sends a press, a move and a release, all as client points of the dialog as it stands.
@@ -176,10 +163,18 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
     bool bSeen = false; // in one row is enough: the screen may be drawn over at any time
     for (const auto& row : rows) {
         PlacedDialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag, &background);
-        const auto drag = [&] {
+        Picture home = Picture::OfScreen();
+        const auto down = [&] {
+            home = Picture::OfScreen();
             pen::Down(press);
-            pen::Move(press + CSize(-50, 40));
         };
+        const auto framed = [&] { // a dialog's edge is inverted, in a pattern
+            const Picture now = Picture::OfScreen();
+            const CRect edge(PlacedDialog::PLACE.left, press.y, PlacedDialog::PLACE.left + 1, press.y + 8);
+            return !now.Around(edge, [&](CPoint p) { return now.At(p.x, p.y) != home.At(p.x, p.y); })
+                        .IsRectEmpty();
+        };
+        const auto drag = [&] { pen::Move(press + CSize(-50, 40)); };
         const auto interrupt = [&] {
             bSeen = bSeen || !EdgeIsBlank();
             row.interrupt(dlg);
@@ -193,24 +188,10 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
             EXPECT_TRUE(EdgeIsBlank()) << row.what;
             dlg.EndDialog(IDOK);
         };
-        Play(dlg, {EdgeIsBlank, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); }, lift, look});
+        Play(dlg, {EdgeIsBlank, down, framed, drag, interrupt, [&] { pen::Move(press + CSize(-55, 50)); },
+                   lift, look});
     }
     EXPECT_TRUE(bSeen);
-}
-
-TEST(nDialog, MoveWithoutContactIsNotForTheFrame) {
-    Dialog dlg(CnDialog::OptionPopup | CnDialog::OptionDrag);
-    CRect home;
-    const auto press = [&] {
-        home = dlg.Rect();
-        dlg.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
-        dlg.PostMessage(WM_MOUSEMOVE, 0, MAKELPARAM(40, 50));
-    };
-    const auto lift = [&] {
-        dlg.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(40, 50));
-        EXPECT_EQ(home, dlg.Rect());
-    };
-    PlayAndEnd(dlg, {press, lift});
 }
 
 TEST(nDialog, ChildIsDraggedWithinItsParent) {
@@ -238,6 +219,9 @@ TEST(nDialog, LiftWithoutAPressGoesToTheStoredFrameIfThereIsOne) {
         EXPECT_EQ(lift(), home) << "never dragged";
         DragBy(dlg, CSize(30, 40));
         EXPECT_EQ(lift(), home + CPoint(30, 40));
+        dlg.MoveWindow(home + CSize(5, 5));
+        DragBy(dlg, CSize());
+        EXPECT_EQ(home + CSize(5, 5), dlg.Rect()) << "a tap";
         Dialog child(CnDialog::OptionPopup, &dlg);
         WhileOpen(child, [] {});
         dlg.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(90, 90));
