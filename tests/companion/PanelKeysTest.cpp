@@ -52,6 +52,7 @@ TEST_F(PanelKeys, TypeWhatTheyShow) {
         {Hiragana, 5, 138, 36, L" "},
         {Katakana, 0, 0, 24, L"アカサタナハマヤラワ"},
         {Katakana, 1, 0, 24, L"イキシチニヒミ*リヲ"},
+        {Katakana, 2, 0, 24, L"ウクスツヌフムユルン"},
     };
     constexpr int ROWS_OF_PAGE[] = {5, 5, 4, 6, 6}, MODE_OF_PAGE[] = {0, 0, 1, 2, 2};
     int nShown = -1;
