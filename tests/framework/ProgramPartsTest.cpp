@@ -35,7 +35,7 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
     const CSize size = client.Size();
     const auto corners = [&] {
         fx::Canvas canvas(size.cx, size.cy);
-        dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.m_dc.m_hDC));
+        EXPECT_EQ(TRUE, dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.m_dc.m_hDC)));
         std::string found;
         for (const CPoint p : {CPoint(2, 1), CPoint(size.cx - 3, 1), CPoint(2, size.cy - 2),
                                CPoint(size.cx - 3, size.cy - 2), client.CenterPoint(), CPoint(3, 2)})

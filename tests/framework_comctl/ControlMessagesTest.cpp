@@ -9,6 +9,10 @@ namespace {
 
 using fx::Child;
 
+struct ControlMessages : testing::Test {
+    fx::MenuOwner m_frame;
+};
+
 /// What a member writes into its two arguments.
 template <class Number = int, class Read>
 CPoint Pair(Read read) {
@@ -17,25 +21,23 @@ CPoint Pair(Read read) {
     return {first, second};
 }
 
-TEST(ControlMessages, PositionsAndAddressesAreTakenApart) {
-    Frame frame;
-    Child<CProgressCtrl> bar(frame);
+TEST_F(ControlMessages, PositionsAndAddressesAreTakenApart) {
+    Child<CProgressCtrl> bar(m_frame);
     bar.SetRange(-5, 20);
     EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { bar.GetRange(a, b); }));
-    Child<CSpinButtonCtrl> spin(frame);
+    Child<CSpinButtonCtrl> spin(m_frame);
     spin.SetRange(-5, 20);
     EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange(a, b); }));
     EXPECT_EQ(CPoint(-5, 20), Pair([&](int& a, int& b) { spin.GetRange32(a, b); }));
-    Child<CIPAddressCtrl> address(frame);
+    Child<CIPAddressCtrl> address(m_frame);
     address.SetAddress(192, 168, 0, 7);
     std::vector<BYTE> fields(4);
     EXPECT_EQ(4, address.GetAddress(fields[0], fields[1], fields[2], fields[3]));
     EXPECT_EQ((std::vector<BYTE>{192, 168, 0, 7}), fields);
 }
 
-TEST(ControlMessages, TabsHaveDataAndColumnsAnOrder) {
-    Frame frame;
-    Child<CTabCtrl> tabs(frame);
+TEST_F(ControlMessages, TabsHaveDataAndColumnsAnOrder) {
+    Child<CTabCtrl> tabs(m_frame);
     EXPECT_EQ(0, tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 0, L"a", 0, 42));
     TCITEM item = {};
     item.mask = TCIF_PARAM;
@@ -45,7 +47,7 @@ TEST(ControlMessages, TabsHaveDataAndColumnsAnOrder) {
     EXPECT_EQ(DWORD{TCIS_HIGHLIGHTED}, tabs.GetItemState(0, TCIS_HIGHLIGHTED));
     EXPECT_EQ(0U, tabs.GetItemState(0, TCIS_BUTTONPRESSED));
 
-    Child<CListCtrl> list(frame, LVS_REPORT);
+    Child<CListCtrl> list(m_frame, LVS_REPORT);
     list.InsertColumn(0, L"a", LVCFMT_LEFT, 30);
     list.InsertColumn(1, L"b", LVCFMT_LEFT, 40);
     int order[] = {1, 0};
@@ -55,35 +57,33 @@ TEST(ControlMessages, TabsHaveDataAndColumnsAnOrder) {
     EXPECT_EQ((std::vector<int>{1, 0, 9}), read);
 }
 
-TEST(ControlMessages, ToolTipsBelongToControlsOrToPartsOfAWindow) {
-    Frame frame;
+TEST_F(ControlMessages, ToolTipsBelongToControlsOrToPartsOfAWindow) {
     CToolTipCtrl tip;
-    ASSERT_TRUE(tip.Create(&frame));
-    Child<CStatic> label(frame);
+    ASSERT_TRUE(tip.Create(&m_frame));
+    Child<CStatic> label(m_frame);
     const CRect part(50, 50, 60, 60);
     EXPECT_TRUE(tip.AddTool(&label, 40010U));
-    EXPECT_TRUE(tip.AddTool(&frame, L"part", part, 3));
+    EXPECT_TRUE(tip.AddTool(&m_frame, L"part", part, 3));
     EXPECT_EQ(2, tip.GetToolCount());
-    tip.UpdateTipText(40011U, &frame, 3);
+    tip.UpdateTipText(40011U, &m_frame, 3);
     CString strText, strLabel;
-    tip.GetText(strText, &frame, 3);
+    tip.GetText(strText, &m_frame, 3);
     EXPECT_EQ(L"測点", strText);
     tip.GetText(strLabel, &label, 0);
     EXPECT_EQ(L"設定", strLabel);
     CToolInfo info = {};
-    ASSERT_TRUE(tip.GetToolInfo(info, &frame, 3));
+    ASSERT_TRUE(tip.GetToolInfo(info, &m_frame, 3));
     EXPECT_EQ(part, CRect(info.rect));
-    tip.SetToolRect(&frame, 3, CRect(70, 70, 80, 80));
-    EXPECT_FALSE(tip.HitTest(&frame, part.CenterPoint(), &info));
-    ASSERT_TRUE(tip.HitTest(&frame, CPoint(75, 75), &info));
+    tip.SetToolRect(&m_frame, 3, CRect(70, 70, 80, 80));
+    EXPECT_FALSE(tip.HitTest(&m_frame, part.CenterPoint(), &info));
+    ASSERT_TRUE(tip.HitTest(&m_frame, CPoint(75, 75), &info));
     EXPECT_EQ(3U, info.uId);
     tip.DelTool(&label);
     EXPECT_EQ(1, tip.GetToolCount());
 }
 
-TEST(ControlMessages, BarsHaveTextsAndButtons) {
-    Frame frame;
-    Child<CStatusBarCtrl> bar(frame);
+TEST_F(ControlMessages, BarsHaveTextsAndButtons) {
+    Child<CStatusBarCtrl> bar(m_frame);
     int edges[] = {50, -1}, nType = 0;
     ASSERT_TRUE(bar.SetParts(2, edges));
     ASSERT_TRUE(bar.SetText(L"right", 1, SBT_POPOUT));
@@ -95,7 +95,7 @@ TEST(ControlMessages, BarsHaveTextsAndButtons) {
     ASSERT_TRUE(bar.GetBorders(nHorz, nVert, nSpacing));
     EXPECT_EQ(std::vector<int>(borders, borders + 3), (std::vector<int>{nHorz, nVert, nSpacing}));
 
-    Child<CToolBarCtrl> tools(frame);
+    Child<CToolBarCtrl> tools(m_frame);
     TBBUTTON buttons[2] = {{0, 5, TBSTATE_ENABLED, 0, {}, 0, 0}, {0, 6, TBSTATE_ENABLED, 0, {}, 0, 0}};
     ASSERT_TRUE(tools.AddButtons(2, buttons));
     EXPECT_EQ(1, tools.CommandToIndex(6));
@@ -103,13 +103,12 @@ TEST(ControlMessages, BarsHaveTextsAndButtons) {
         EXPECT_EQ(static_cast<int>(nID) - 40010, tools.AddString(nID));
 }
 
-TEST(ControlMessages, DatesHaveLimitsAndSelections) {
-    Frame frame;
+TEST_F(ControlMessages, DatesHaveLimitsAndSelections) {
     const SYSTEMTIME day = {2024, 2, 4, 29, 0, 0, 0, 0};
     const CTime first(2024, 2, 27, 0, 0, 0), last(2024, 2, 29, 0, 0, 0);
     SYSTEMTIME end = {};
     CTime from, to;
-    Child<CDateTimeCtrl> field(frame);
+    Child<CDateTimeCtrl> field(m_frame);
     EXPECT_TRUE(field.SetRange(nullptr, &day));
     EXPECT_EQ(DWORD{GDTR_MAX}, field.GetRange(nullptr, &end));
     EXPECT_EQ(29, end.wDay);
@@ -117,7 +116,7 @@ TEST(ControlMessages, DatesHaveLimitsAndSelections) {
     EXPECT_EQ(DWORD{GDTR_MIN}, field.GetRange(&from, static_cast<CTime*>(nullptr)));
     EXPECT_EQ(first, from);
 
-    Child<CMonthCalCtrl> month(frame, MCS_MULTISELECT);
+    Child<CMonthCalCtrl> month(m_frame, MCS_MULTISELECT);
     month.SetMaxSelCount(5);
     EXPECT_TRUE(month.SetSelRange(first, last));
     EXPECT_TRUE(month.GetSelRange(from, to));
@@ -140,9 +139,8 @@ TEST(ControlMessages, DatesHaveLimitsAndSelections) {
     EXPECT_EQ(least.Size(), RectOf(month).Size());
 }
 
-TEST(ControlMessages, HotKeyHasTheNamesOfItsKeys) {
-    Frame frame;
-    Child<CHotKeyCtrl> field(frame);
+TEST_F(ControlMessages, HotKeyHasTheNamesOfItsKeys) {
+    Child<CHotKeyCtrl> field(m_frame);
     EXPECT_EQ(L"", field.GetHotKeyName());
     field.SetHotKey(VK_F5, HOTKEYF_CONTROL | HOTKEYF_SHIFT);
     EXPECT_EQ(L"F5", CHotKeyCtrl::GetKeyName(VK_F5, FALSE));
@@ -152,10 +150,9 @@ TEST(ControlMessages, HotKeyHasTheNamesOfItsKeys) {
     EXPECT_NE(CHotKeyCtrl::GetKeyName(VK_INSERT, FALSE), CHotKeyCtrl::GetKeyName(VK_INSERT, TRUE));
 }
 
-TEST(ControlMessages, LinksHaveTextsAndStates) {
-    Frame frame;
+TEST_F(ControlMessages, LinksHaveTextsAndStates) {
     CLinkCtrl link;
-    ASSERT_TRUE(link.Create(L"see <a id=\"a\" href=\"p.htm\">points</a>", WS_CHILD, CRect(), &frame, 1));
+    ASSERT_TRUE(link.Create(L"see <a id=\"a\" href=\"p.htm\">points</a>", WS_CHILD, CRect(), &m_frame, 1));
     CString strID, strUrl;
     EXPECT_TRUE(link.GetItemID(0, strID));
     EXPECT_EQ(L"a", strID);
@@ -173,26 +170,24 @@ TEST(ControlMessages, LinksHaveTextsAndStates) {
     EXPECT_EQ(L"", strUrl);
 }
 
-TEST(ControlMessages, SplitButtonOpensItsMenu) {
-    fx::MenuOwner frame;
+TEST_F(ControlMessages, SplitButtonOpensItsMenu) {
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
     menu.AppendMenu(MF_STRING, 77, L"x");
     CSplitButton button(&menu);
-    ASSERT_TRUE(button.Create(L"s", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &frame, 1));
-    fx::Notify(frame, button, 1, BCN_DROPDOWN);
-    EXPECT_EQ(77U, std::exchange(frame.m_nItem, 0U));
+    ASSERT_TRUE(button.Create(L"s", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &m_frame, 1));
+    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    EXPECT_EQ(77U, std::exchange(m_frame.m_nItem, 0U));
     button.SetDropDownMenu(0xFFFF, 0); // there is none
-    fx::Notify(frame, button, 1, BCN_DROPDOWN);
-    EXPECT_EQ(0U, frame.m_nItem);
+    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    EXPECT_EQ(0U, m_frame.m_nItem);
     button.SetDropDownMenu(&menu);
-    fx::Notify(frame, button, 1, BCN_DROPDOWN);
-    EXPECT_EQ(77U, frame.m_nItem);
+    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    EXPECT_EQ(77U, m_frame.m_nItem);
 }
 
-TEST(ControlMessages, RichTextHasAFormatForEachPart) {
-    Frame frame;
-    Child<CRichEditCtrl> rich(frame, ES_MULTILINE);
+TEST_F(ControlMessages, RichTextHasAFormatForEachPart) {
+    Child<CRichEditCtrl> rich(m_frame, ES_MULTILINE);
     rich.ReplaceSel(L"one two");
     CHARFORMAT bold = {}, format = {};
     bold.dwMask = CFM_BOLD;
