@@ -17,7 +17,8 @@ struct Form : fx::Form {
         : fx::Form(pParentWnd), m_place(place), m_raise(raise) {
         m_onDo = [this] {
             Raise(Command);
-            UpdateData();
+            if (m_place == Exchange)
+                OnOK();
         };
         m_onInit = [this] { Raise(Init); };
         m_onMessage = [this](UINT message, WPARAM) {
