@@ -163,9 +163,8 @@ HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID) {
 }
 
 int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
-    lpszBuf[0] = 0;
     if (nMaxBuf == 0)
-        return 0;
+        return 0; // not even room for the end
     const std::wstring_view text = FindText(AfxFindStringResourceHandle(nID), nID);
     const std::size_t nLength = text.copy(lpszBuf, nMaxBuf - 1);
     lpszBuf[nLength] = 0;

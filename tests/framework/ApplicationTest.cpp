@@ -18,7 +18,9 @@ TEST(Application, RunsUntilItsMainWindowIsDestroyed) {
 
 TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
     Frame frame;
+    fx::g_app.OnAppExit(); // nothing to close
     fx::g_app.m_pMainWnd = &frame;
+    CWnd popup;
     const Rows<UINT, WORD, int> rows = {
         {MB_OK, VK_RETURN, IDOK},
         {MB_YESNO | MB_DEFBUTTON2, VK_RETURN, IDNO},
@@ -32,6 +34,10 @@ TEST(Application, MessageBoxAnswersAndDisablesTheMainWindowMeanwhile) {
         };
         EXPECT_EQ(nAnswer, Play([nAsked = nType] { return AfxMessageBox(L"本文", nAsked); }, {answer}));
         EXPECT_TRUE(frame.IsWindowEnabled());
+        EXPECT_EQ(nAnswer,
+                  Play([&, nAsked = nType] { return frame.MessageBox(L"本文", nullptr, nAsked); }, {answer}));
+        if (popup.m_hWnd == nullptr) // above which the next box comes
+            popup.CreateEx(0, WC_STATIC, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 9, 9), &frame, 0);
     }
     fx::g_app.m_pMainWnd = nullptr;
 }
@@ -73,6 +79,22 @@ TEST(Application, WaitCursorIsShownAsOftenAsItIsBegun) {
     ::SetCursor(hBefore);
 }
 
+TEST(Application, TakesResourcesFromWhereItIsTold) {
+    const HINSTANCE hBefore = AfxGetResourceHandle(), hOther = ::GetModuleHandle(L"FieldkitFx.dll");
+    AfxSetResourceHandle(hOther);
+    EXPECT_EQ(hOther, AfxGetResourceHandle());
+    CString strText;
+    EXPECT_FALSE(strText.LoadString(40000));
+    AfxSetResourceHandle(hBefore);
+    EXPECT_TRUE(strText.LoadString(40000));
+    WNDCLASS wc = {};
+    wc.lpfnWndProc = ::DefWindowProc;
+    wc.hInstance = AfxGetInstanceHandle();
+    wc.lpszClassName = L"twice";
+    EXPECT_TRUE(AfxRegisterClass(&wc));
+    EXPECT_TRUE(AfxRegisterClass(&wc));
+}
+
 /// Settings of every kind, wherever they are kept.
 void ExpectSettingsAreKept(CWinApp& app) {
     EXPECT_EQ(7U, app.GetProfileInt(L"部", L"number", 7));
@@ -103,8 +125,14 @@ void ExpectSettingsAreKept(CWinApp& app) {
 }
 
 TEST(Application, KeepsSettingsUnderItsKey) {
+    CString strText;
+    ASSERT_TRUE(strText.LoadString(40000));
+    fx::g_app.SetRegistryKey(40000);
+    EXPECT_EQ(strText, fx::g_app.m_pszRegistryKey);
     fx::g_app.SetRegistryKey(L"FieldkitTest");
     ExpectSettingsAreKept(fx::g_app);
+    const HKEY hAll = fx::g_app.GetAppRegistryKey();
+    EXPECT_EQ(ERROR_SUCCESS, ::RegCloseKey(hAll));
     const HKEY hKey = fx::g_app.GetSectionKey(L"部");
     ::RegSetValueEx(hKey, L"text", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcd"), 6);
     EXPECT_EQ(L"abc", fx::g_app.GetProfileString(L"部", L"text")) << "written by others, without an end";

@@ -145,6 +145,8 @@ TEST(ResourceChain, ExtensionModuleIsSearchedWhileItsLinkRecordExists) {
 
 TEST(ResourceChain, TextIsCutToTheBuffer) {
     TCHAR szText[4] = {L'x', L'x', L'x', L'x'};
+    EXPECT_EQ(0, AfxLoadString(40000, szText, 0));
+    EXPECT_EQ(L'x', szText[0]);
     EXPECT_EQ(3, AfxLoadString(40000, szText, 4));
     EXPECT_STREQ(L"応用の", szText);
     EXPECT_EQ(0, AfxLoadString(41000, szText, 4));

@@ -153,6 +153,10 @@ TEST(Locks, AreHeldByOneAtATime) {
     LONG nBefore = -1;
     EXPECT_TRUE(semaphore.Unlock(2, &nBefore));
     EXPECT_EQ(0, nBefore);
+    CSingleLock counted(&semaphore, TRUE);
+    EXPECT_TRUE(counted.Unlock(1));
+    EXPECT_FALSE(counted.Unlock(1));
+    EXPECT_FALSE(semaphore.Unlock()) << "all are free";
 
     CCriticalSection section;
     CSingleLock sectionLock(&section, TRUE);
