@@ -85,9 +85,7 @@ bool PanelWindow::Create() {
     description.hInstance = CompanionModule();
     description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     description.lpszClassName = kPanelClass;
-    // Another thread's panel has perhaps registered it; a failure is none for the next time.
-    if (::RegisterClassW(&description) == 0 && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
-        return false;
+    ::RegisterClassW(&description); // another thread's panel has perhaps done it
     // A window must not outlive the code that answers its messages.
     PinCompanionModule();
     // Without an owner: a modal dialog cannot disable it.

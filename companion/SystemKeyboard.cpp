@@ -113,8 +113,6 @@ bool SystemKeyboard::IsThere() {
 }
 
 bool SystemKeyboard::Show() {
-    if (!IsThere())
-        return false;
     Open();
     if (!IsEmpty(Place()) || Toggle())
         return true;

@@ -34,6 +34,7 @@ TEST(PathSplit, GivesFolderNameAndExtension) {
         {L"C:\\site.csv", L"C:\\", L"site", L"csv"},
         {L"\\site.csv", L"\\", L"site", L"csv"},
         {L"C:site.csv", L"C:", L"site", L"csv"},
+        {L"\\:site.csv", L"\\", L":site", L"csv"},
         {L"site.csv", L"", L"site", L"csv"},
         {L"C:/Data/a.b\\site", L"C:/Data/a.b", L"site", L""},
         {L"C:\\Data\\\\site.csv", L"C:\\Data", L"site", L"csv"},

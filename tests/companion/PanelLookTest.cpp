@@ -15,7 +15,8 @@ constexpr COLORREF SHIFTED = RGB(255, 208, 96);
 struct PanelLook : fx::PanelTest {
     static Picture Look() {
         Pump();
-        return Picture::Of(*CWnd::FromHandle(panel::OfThread()));
+        CClientDC dc(CWnd::FromHandle(panel::OfThread())); // as it stands: it draws itself anew
+        return Picture(dc, panel::Place().Size());
     }
     /// Expects a key of one colour with a label in the middle of another one. @return the label's place
     static CRect ExpectKey(const Picture& image, CRect key, COLORREF cap, COLORREF label = fx::BLACK) {
