@@ -59,7 +59,7 @@ TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {
 TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     FieldStage stage;
     stage.m_edit.Attach(IDC_EDIT, &stage, 0);
-    stage.m_combo.Attach(IDC_COMBO, &stage, 0);
+    stage.m_combo.SubclassDlgItem(IDC_COMBO, &stage);
     stage.m_edit.SetWindowText(L"測点 A12");
     CPoint point = stage.m_edit.PosFromChar(4) + CPoint(1, 4);
     stage.m_edit.ClientToScreen(&point);
@@ -70,6 +70,7 @@ TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     const CRect rect = RectOf(stage.m_combo);
     stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
     EXPECT_TRUE(stage.m_combo.GetDroppedState());
+    EXPECT_FALSE(panel::IsVisible());
 }
 
 } // namespace

@@ -27,7 +27,8 @@ protected:
 
 struct Sheet : CnPropertySheet {
     explicit Sheet(DWORD dwOption = 0) : CnPropertySheet(L"設定", nullptr, 0) {
-        SetOption(dwOption);
+        if (dwOption != 0)
+            SetOption(dwOption);
         AddPage(&m_first);
         AddPage(&m_second);
     }
@@ -45,8 +46,9 @@ protected:
 
 TEST(nPropertySheet, OptionsDecideOkButtonCommandBarAndVisibility) {
     for (const DWORD dwOption : {0x0, 0x1, 0x2, 0x103}) {
-        Sheet sheet(~dwOption);
-        sheet.SetOption(dwOption); // replaced, not added
+        Sheet sheet(dwOption != 0 ? ~dwOption : 0);
+        if (dwOption != 0)
+            sheet.SetOption(dwOption); // replaced, not added
         WhileOpen(sheet, [&] {
             EXPECT_TRUE(sheet.m_bInitResult);
             EXPECT_EQ(sheet.Rect(), Screen()) << dwOption;

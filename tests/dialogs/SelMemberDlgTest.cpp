@@ -155,6 +155,7 @@ TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplateUnderAnyTitle) {
             EXPECT_EQ(units, client);
             EXPECT_GE(RectOf(dlg).left, 0);
             EXPECT_LE(RectOf(dlg).right, Screen().right);
+            EXPECT_NEAR(WorkArea().CenterPoint().y, RectOf(dlg).CenterPoint().y, 1);
             EXPECT_EQ(strTitle, TextOf(dlg));
         });
     }
