@@ -58,6 +58,7 @@ TEST(WindowObject, IsTemporaryOfAForeignWindowUntilOneIsAttached) {
     EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
     CWnd::DeleteTempMap();
     CWnd wnd;
+    CWnd* const pTemporary = CWnd::FromHandle(window); // which somebody up the stack may hold still
     EXPECT_FALSE(wnd.Attach(nullptr));
     ASSERT_TRUE(wnd.Attach(window));
     EXPECT_EQ(&wnd, CWnd::FromHandle(window));
@@ -65,6 +66,7 @@ TEST(WindowObject, IsTemporaryOfAForeignWindowUntilOneIsAttached) {
     EXPECT_FALSE(wnd.Attach(other)) << "two windows of one object";
     EXPECT_EQ(window, wnd.Detach());
     EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(nullptr, pTemporary->m_hWnd);
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
     EXPECT_TRUE(::IsWindow(window));
 }
