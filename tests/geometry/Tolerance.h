@@ -2,8 +2,6 @@
 
 #include "geometry/Vector.h"
 
-#include <cmath>
-
 /// Another tolerance for the time of a test; it is one for the whole process.
 class CToleranceScope {
 public:
@@ -15,11 +13,3 @@ public:
 
 /// What a test writes into outputs to see whether they are left alone.
 inline constexpr double kUntouched = -777.25;
-
-/// The numbers next to one.
-inline double More(double v) {
-    return std::nextafter(v, 1e9);
-}
-inline double Less(double v) {
-    return std::nextafter(v, -1e9);
-}

@@ -40,11 +40,7 @@ TEST(Coordinate, SettersKeepTheFlags) {
     CCoordinate c;
     EXPECT_EQ((Members{kNull, kNull, kNull, 0}), MembersOf(c));
     c.SetExist(0x10); // without a meaning
-    const struct {
-        int (CCoordinate::*set)(double);
-        double value;
-        Members members;
-    } steps[] = {
+    const Rows<int (CCoordinate::*)(double), double, Members> steps = {
         {&CCoordinate::SetN, 5, {5, kNull, kNull, 0x11}},
         {&CCoordinate::SetE, kNull, {5, kNull, kNull, 0x11}},
         {&CCoordinate::SetN, kNull, {kNull, kNull, kNull, 0x10}},
@@ -55,30 +51,22 @@ TEST(Coordinate, SettersKeepTheFlags) {
         {&CCoordinate::SetZ, kNull, {kNull, kNull, kNull, 0x10}},
     };
     CCoordinate copy;
-    for (const auto& step : steps) {
-        EXPECT_EQ(1, (c.*step.set)(step.value));
-        EXPECT_EQ(step.members, MembersOf(copy = c));
+    for (const auto& [set, value, members] : steps) {
+        EXPECT_EQ(1, (c.*set)(value));
+        EXPECT_EQ(members, MembersOf(copy = c));
     }
 }
 
 TEST(Coordinate, AddsAndSubtractsWhatBothHave) {
-    const struct {
-        const char* what;
-        unsigned short own, other;
-        double sum[3], difference[3]; // N, E, Z
-    } rows[] = {
-        {"any flag of the other will do, and both subtract heights", 3, 0x80, {11, 22, 4}, {9, 18, 4}},
-        {"northing and easting only", 1, 2, {11, 22, 5}, {9, 18, 5}},
-        {"height only", 2, 1, {10, 20, 4}, {10, 20, 4}},
-        {"nothing to add", 3, 0, {10, 20, 5}, {10, 20, 5}},
+    const Rows<const char*, CCoordinate, CCoordinate, Members, Members> rows = {
+        {"any flag of the other will do", {20, 10, 5, 3}, {2, 1, 1, 0x80}, {11, 22, 4, 3}, {9, 18, 4, 3}},
+        {"northing and easting only", {20, 10, 5, 1}, {2, 1, 1, 2}, {11, 22, 5, 1}, {9, 18, 5, 1}},
+        {"height only", {20, 10, 5, 2}, {2, 1, 1, 1}, {10, 20, 4, 2}, {10, 20, 4, 2}},
+        {"nothing to add", {20, 10, 5, 3}, {2, 1, 1, 0}, {10, 20, 5, 3}, {10, 20, 5, 3}},
     };
-    for (const auto& row : rows) {
-        const CCoordinate own(20, 10, 5, row.own), other(2, 1, 1, row.other);
-        const double exist = row.own;
-        EXPECT_EQ((Members{row.sum[0], row.sum[1], row.sum[2], exist}), MembersOf(own + other)) << row.what;
-        EXPECT_EQ((Members{row.difference[0], row.difference[1], row.difference[2], exist}),
-                  MembersOf(own - other))
-            << row.what;
+    for (const auto& [what, own, other, sum, difference] : rows) {
+        EXPECT_EQ(sum, MembersOf(own + other)) << what;
+        EXPECT_EQ(difference, MembersOf(own - other)) << what;
     }
 }
 
