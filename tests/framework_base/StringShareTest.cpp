@@ -59,15 +59,11 @@ TEST(StringNarrow, HasTheSameMembers) {
     EXPECT_STREQ("n|w|w|  1.2|xy", s);
     s.AppendFormat("%s%d", CStringA("!"), 7);
     EXPECT_STREQ("n|w|w|  1.2|xy!7", s);
-    const struct {
-        const char *a, *b;
-        int order;
-    } pairs[] = {{"aBc", "AbC", 0},
-                 {"a", "B", -1},
-                 {"B", "a", 1},
-                 {"a\xC3\xA4", "a\xC3\xB6", -1},
-                 {"a", "\xC3\xA4", -1}};
-    for (const auto& [a, b, order] : pairs)
+    for (const auto& [a, b, order] : Rows<LPCSTR, LPCSTR, int>{{"aBc", "AbC", 0},
+                                                               {"a", "B", -1},
+                                                               {"B", "a", 1},
+                                                               {"a\xC3\xA4", "a\xC3\xB6", -1},
+                                                               {"a", "\xC3\xA4", -1}})
         EXPECT_EQ(order, CStringA(a).CompareNoCase(b)) << a << b;
     EXPECT_LT(CStringA("a").Collate("b"), 0);
     EXPECT_EQ(0, CStringA("a").CollateNoCase("A"));

@@ -33,7 +33,6 @@ TEST(Time, HasPartsAndText) {
     EXPECT_EQ(29, parts.tm_mday);
     EXPECT_EQ(&parts, CTime(0).GetGmtTm(&parts));
     EXPECT_EQ(1, parts.tm_mday);
-    EXPECT_NE(nullptr, time.GetLocalTm());
     EXPECT_EQ(29, time.GetLocalTm()->tm_mday);
     const CTime now = CTime::GetCurrentTime();
     EXPECT_LE(std::time(nullptr) - now.GetTime(), 60);
@@ -101,9 +100,7 @@ TEST(Time, LocalTimeIsThatOfTheZone) {
     EXPECT_EQ(CTimeSpan(3600), CTime(2024, 10, 27, 2, 30, 0, 0) - CTime(2024, 10, 27, 2, 30, 0, 1));
     const CTime noon(2024, 7, 1, 12, 0, 0);
     EXPECT_STREQ(L"12, 10 UTC", noon.Format(L"%H, ") + noon.FormatGmt(L"%H UTC"));
-    EXPECT_EQ(12, noon.GetLocalTm()->tm_hour);
     EXPECT_EQ(10, noon.GetGmtTm()->tm_hour);
-    EXPECT_EQ(12, noon.GetHour());
     EXPECT_EQ(0, CTime(1970, 1, 1, 1, 0, 0).GetTime());
     EXPECT_THROW(CTime(1970, 1, 1, 0, 59, 59), CInvalidArgException*);
     ::unsetenv("TZ");

@@ -157,7 +157,6 @@ struct FaultsOfFiles : TempFolder {
         EXPECT_EQ(2U, file.Read(buffer, 2));
         EXPECT_EQ(2U, file.Read(buffer + 2, 6));
         EXPECT_STREQ("abcd", buffer);
-        EXPECT_EQ(4U, file.GetLength());
         delete file.Duplicate();
         file.Close();
         CFile::Rename(Path(L"a"), Path(L"b"));
@@ -317,10 +316,6 @@ TEST_F(FaultsOfFiles, OnlyFilesOnDiskAreOpened) {
             EXPECT_EQ(before, faults::Now());
         }
     }
-    // A handle that the caller opened is the caller's business.
-    CFile full(reinterpret_cast<HANDLE>(static_cast<std::intptr_t>(::open("/dev/full", O_WRONLY))));
-    EXPECT_EQ(CFileException::diskFull, CauseOf([&] { full.Write("x", 1); }));
-    full.Close();
     CStdioFile stream(std::fopen("/dev/full", "w")); // its buffer takes the text, the disk does not
     EXPECT_EQ(CFileException::diskFull, CauseOf([&] { stream.WriteString(L"x"), stream.Flush(); }));
     stream.Abort();
