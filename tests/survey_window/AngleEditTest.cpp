@@ -1,5 +1,4 @@
 // The angle field: what it shows, what it takes, and when.
-#include "testkit/Panel.h"
 #include "support/Stage.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Pen.h"
@@ -26,10 +25,10 @@ double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
 
 /// An angle field and another one to go to.
 struct AngleStage : fx::Stage {
-    explicit AngleStage(int nMode = WHOLE, DWORD dwOption = 0) {
+    explicit AngleStage(int nMode = WHOLE) {
         CreateItem(WC_EDIT, IDC_ANGLE, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 5, 155, 25));
         CreateItem(WC_EDIT, IDC_OTHER, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 50, 155, 70));
-        EXPECT_EQ(1, m_angle.Attach(IDC_ANGLE, this, nMode, dwOption));
+        EXPECT_EQ(1, m_angle.Attach(IDC_ANGLE, this, nMode, 0));
     }
     ~AngleStage() override { DestroyWindow(); } // before the field
 
@@ -202,17 +201,6 @@ TEST(AngleEdit, TypingReplacesWhatTheTabKeySelectedButNotWhatWasTapped) {
     };
     PlayAndEnd(dlg, {Press({'2', VK_OEM_PERIOD, '3', VK_TAB}), Press({'4', VK_OEM_PERIOD, '1', '5', VK_TAB}),
                      tap, Press({'6'}), look});
-}
-
-/// The panel's own handling of focus changes stays beside the conversion.
-TEST(AngleEdit, BringsThePanelLikeEveryEntryField) {
-    AngleStage stage(WHOLE, SipOptionMode1);
-    stage.m_angle.SetAngle(PI / 2);
-    stage.Enter();
-    panel::ExpectShown();
-    EXPECT_EQ(L"90.0000", stage.Text());
-    stage.Leave();
-    panel::ExpectHidden();
 }
 
 } // namespace
