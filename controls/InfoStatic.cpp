@@ -61,9 +61,7 @@ LRESULT CInfoStatic::OnSetText(WPARAM wParam, LPARAM lParam) {
     return lResult;
 }
 
-void CInfoStatic::OnEnable(BOOL) {
-    Invalidate(FALSE);
-}
+void CInfoStatic::OnEnable(BOOL) {} // it looks the same
 
 void CInfoStatic::OnLButtonDown(UINT, CPoint) {
     Default();

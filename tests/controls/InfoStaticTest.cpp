@@ -1,5 +1,5 @@
 // The information text, pixel by pixel.
-#include "support/TestApp.h"
+#include "support/Stage.h"
 #include "support/Colors.h"
 #include "testkit/Picture.h"
 
@@ -24,18 +24,9 @@ struct InfoStatic : testing::Test {
         return image.Around(within, [&](CPoint p) { return image.At(p.x, p.y) != background; });
     }
 
-    Frame m_frame;
+    fx::Stage m_frame;
     CInfoStatic m_text;
 };
-
-TEST_F(InfoStatic, EmptyTextIsItsColourAlone) {
-    EXPECT_TRUE(Look().IsAll(CRect(CPoint(), SIZE_), fx::WHITE));
-    m_text.SetBkColor(YELLOW);
-    EXPECT_FALSE(::GetUpdateRect(m_text, nullptr, FALSE)) << "the caller redraws";
-    EXPECT_TRUE(Look().IsAll(CRect(CPoint(), SIZE_), YELLOW));
-    m_text.SetOption(CInfoStatic::OptionIcon);
-    EXPECT_FALSE(::GetUpdateRect(m_text, nullptr, FALSE)) << "the caller redraws";
-}
 
 TEST_F(InfoStatic, IconStandsInTheCornerInItsOwnSize) {
     m_text.SetBkColor(YELLOW);
@@ -87,6 +78,11 @@ TEST_F(InfoStatic, KeepsItsLookWhenItGetsAnotherTextOrIsDisabled) {
     EXPECT_TRUE(now().Difference(wanted).IsRectEmpty()) << "disabled";
     m_text.EnableWindow(TRUE);
     EXPECT_TRUE(now().Difference(wanted).IsRectEmpty()) << "enabled";
+}
+
+TEST_F(InfoStatic, TapsReachTheSystem) {
+    m_frame.Tap(m_text);
+    EXPECT_EQ(1, m_frame.Count(1, STN_CLICKED));
 }
 
 TEST_F(InfoStatic, TextHasTheFontOfItsDialog) {
