@@ -28,6 +28,8 @@ struct NumberField {
             EXPECT_FALSE(Takes(pszText)) << Utf8(pszText);
             EXPECT_EQ(Number(99), m_value) << Utf8(pszText);
             EXPECT_EQ(std::vector<CString>{m_pszPrompt}, m_recorder.m_prompts) << Utf8(pszText);
+            EXPECT_EQ(m_form.m_first.m_hWnd, ::GetFocus());
+            EXPECT_EQ(static_cast<DWORD>(MAKELONG(0, ::lstrlen(pszText))), m_form.m_first.GetSel());
         }
     }
 
@@ -41,6 +43,7 @@ private:
     BOOL Takes(LPCTSTR pszText) {
         m_value = Number(99);
         m_form.m_first.SetWindowText(pszText);
+        m_form.m_second.SetFocus();
         return m_form.UpdateData();
     }
 
