@@ -42,10 +42,6 @@ TEST(Faults, StringsChangeWhollyOrNotAtAll) {
         const CString twin = s;
         s.SetAt(0, L'A');
     };
-    const auto tokenize = [](CString& s) {
-        int n = 0;
-        s = s.Tokenize(L"x", n) + s.Tokenize(L"x", n);
-    };
     ExpectAllOrNothing<CString>(
         [] { return std::make_unique<CString>(kLong); }, [](const CString& s) { return s; },
         {{"own copy", takeOwnCopy},
@@ -54,7 +50,6 @@ TEST(Faults, StringsChangeWhollyOrNotAtAll) {
          {"+=", [&](CString& s) { s += other; }},
          {"Insert", [](CString& s) { s.Insert(3, kLong); }},
          {"Replace", [](CString& s) { s.Replace(L"a", kLong); }},
-         {"Tokenize", tokenize},
          {"Format", [](CString& s) { s.Format(L"%s %d %hs %#40.3f %c", kLong, 5, "narrow", 1.5, L'x'); }},
          {"AppendFormat", [](CString& s) { s.AppendFormat(L"%-100d|%p", 5, nullptr); }}});
 }
