@@ -60,6 +60,7 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     EXPECT_LE(text.left, 27);
     EXPECT_NEAR(12, text.CenterPoint().y, 2);
     EXPECT_EQ(pressedText, text + CPoint(2, 1));
+    EXPECT_TRUE(pressed.Has(pressedText, fx::BLACK)) << "on black";
 }
 
 TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {

@@ -160,12 +160,10 @@ TEST(FileSelectNames, NameThatNoFileOfTheFolderCanHaveIsRefused) {
         {L"..\\secret.csv", L"次の文字"}, {L"a.csv ", L"終わり"}, {L"nul", L"装置"}};
     for (const auto& [typed, reason] : rows) {
         Dialog dlg(CFileSelectDlg::ModeNew);
-        const auto look = [&dlg, reason = reason] {
-            EXPECT_NE(-1, MessageText().Find(reason));
-            dlg.List().SetFocus();
-        };
+        const auto look = [&reason = reason] { EXPECT_NE(-1, MessageText().Find(reason)); };
         const auto typeAgain = [&] { EXPECT_EQ(dlg.GetDlgItem(NAME), CWnd::GetFocus()); };
-        EXPECT_EQ(IDOK, Play(dlg, {dlg.Enter(typed), look, Answer(IDOK), typeAgain, dlg.Enter(L"good")}));
+        EXPECT_EQ(IDOK, Play(dlg, {[&] { dlg.List().SetFocus(); }, dlg.Enter(typed), look, Answer(IDOK),
+                                   typeAgain, dlg.Enter(L"good")}));
         EXPECT_EQ(L"\\good.csv", dlg.GetFilePath());
     }
 }
