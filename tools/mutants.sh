@@ -14,7 +14,7 @@ framework/control win64 framework framework_comctl
 framework/dialog win64 framework framework_comctl controls
 framework/drawing win64 framework controls
 framework/shell win64 framework framework_comctl companion screens controls
-framework/window win64 framework framework_comctl controls
+framework/window win64 framework framework_comctl controls screens
 companion win64 companion
 util host util fuzz_seeds
 controls win64 controls survey_window

@@ -219,19 +219,23 @@ struct OfUnloadedModule : Frame {
     const AFX_MSGMAP* GetMessageMap() const override { return &m_map; }
 
     using ThisClass = OfUnloadedModule;
-    const AFX_MSGMAP_ENTRY m_first[2] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnFirst){}};
-    const AFX_MSGMAP_ENTRY m_second[2] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnSecond){}};
+    const AFX_MSGMAP_ENTRY m_first[3] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnFirst)
+                                             ON_MESSAGE(WM_NESTED, &OfUnloadedModule::OnFirst){}};
+    const AFX_MSGMAP_ENTRY m_second[3] = {ON_MESSAGE(WM_BOTH, &OfUnloadedModule::OnSecond)
+                                              ON_MESSAGE(WM_NESTED, &OfUnloadedModule::OnSecond){}};
     AFX_MSGMAP m_map = {&CWnd::GetThisMessageMap, m_first};
 };
 
 TEST(MessageMap, AnswersAreForgottenWhenADllIsUnloaded) {
     OfUnloadedModule wnd;
-    EXPECT_EQ(1, wnd.SendMessage(WM_BOTH));
+    for (const UINT message : {WM_BOTH, WM_NESTED})
+        EXPECT_EQ(1, wnd.SendMessage(message));
     wnd.m_map.lpEntries = wnd.m_second;
     const HMODULE hModule = ::LoadLibrary(L"avifil32.dll");
     ASSERT_NE(nullptr, hModule);
     ::FreeLibrary(hModule);
-    EXPECT_EQ(2, wnd.SendMessage(WM_BOTH));
+    for (const UINT message : {WM_BOTH, WM_NESTED})
+        EXPECT_EQ(2, wnd.SendMessage(message));
 }
 
 } // namespace

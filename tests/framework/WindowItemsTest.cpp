@@ -185,15 +185,19 @@ TEST(Items, AnswerForTheirParent) {
 TEST(Items, DrawnByTheirMenuAreMeasuredByIt) {
     struct Menu : CMenu {
         void MeasureItem(LPMEASUREITEMSTRUCT pItem) override { pItem->itemHeight = 33; }
-    } menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_OWNERDRAW, 5, L"");
+    };
+    std::optional<Menu> menu(std::in_place);
+    ASSERT_TRUE(menu->CreatePopupMenu());
+    const HMENU hMenu = *menu;
+    menu->AppendMenu(MF_OWNERDRAW, 5, L"");
     Frame frame;
     for (const auto& [nID, nHeight] : {std::pair(5U, 33U), {6U, 0U}}) {
         MEASUREITEMSTRUCT item = {ODT_MENU, 0, nID, 0, 0, 0};
         frame.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
         EXPECT_EQ(nHeight, item.itemHeight);
     }
+    menu.reset();
+    EXPECT_FALSE(::IsMenu(hMenu)) << "goes with its object";
 }
 
 TEST(Items, AreNotHeardWhileTheirValuesAreExchanged) {

@@ -154,10 +154,19 @@ TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
 }
 
 TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
-    Frame frame;
+    fx::Heard<Frame> frame;
+    int nPlaced = 0;
+    frame.m_hear = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        nPlaced += message == WM_WINDOWPOSCHANGED;
+        return {};
+    };
+    const CRect before = RectOf(frame);
     EXPECT_TRUE(frame.ModifyStyle(0, WS_MAXIMIZEBOX));
     EXPECT_FALSE(frame.ModifyStyle(0, WS_MAXIMIZEBOX));
+    EXPECT_EQ(0, nPlaced);
     EXPECT_TRUE(frame.ModifyStyle(WS_MAXIMIZEBOX, WS_MINIMIZEBOX, SWP_NOREDRAW));
+    EXPECT_EQ(1, nPlaced) << "its frame is another";
+    EXPECT_EQ(before, RectOf(frame));
     EXPECT_EQ(DWORD{WS_MINIMIZEBOX}, frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyleEx(0, WS_EX_TOPMOST | WS_EX_TOOLWINDOW));
     EXPECT_NE(0U, frame.GetExStyle() & WS_EX_TOOLWINDOW);

@@ -66,7 +66,7 @@ def failing(number, program, tests, options):
         for line in output.splitlines():
             if match := re.match(r"\[ RUN      \] (\S+)", line):
                 name = match[1]
-            elif match := re.search(r"([\w.]+:\d+|unknown file): Failure", line):
+            elif match := re.search(r"([\w.]+:\d+|unknown file): Failure", line[:300]):
                 found.add(f"{name} {match[1]}")
         if ended is True:
             break
