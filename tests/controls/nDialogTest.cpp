@@ -79,6 +79,14 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
     }
 }
 
+TEST(nDialog, ClosingTakesTheCancelPathOfDerivedDialogs) {
+    struct Asking : Dialog {
+        using Dialog::Dialog;
+        void OnCancel() override { EndDialog(77); }
+    } dlg(CnDialog::OptionPopup);
+    EXPECT_EQ(77, Play(dlg, {Close(dlg)}));
+}
+
 TEST(nDialog, BackgroundColourReachesSurfaceAndStaticsButNotEdits) {
     Dialog dlg(CnDialog::OptionPopup);
     for (const COLORREF color : {YELLOW, RGB(160, 255, 255)}) { // the same object may be shown again

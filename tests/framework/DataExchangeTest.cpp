@@ -153,6 +153,8 @@ TEST_F(DataExchange, RangesIncludeTheirEndsAndTellThem) {
         {[](CDataExchange* p) { DDV_MinMaxInt(p, 9, -3, 8); }, INT_RANGE},
         {[](CDataExchange* p) { DDV_MinMaxLong(p, -4, -3, 8); }, INT_RANGE},
         {[](CDataExchange* p) { DDV_MinMaxShort(p, -4, -3, 8); }, INT_RANGE},
+        {[](CDataExchange* p) { DDV_MinMaxUInt(p, 5, 1, 5); }, PASSES},
+        {[](CDataExchange* p) { DDV_MinMaxUInt(p, 0, 1, 5); }, L"1 から 5 までの整数を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxUnsigned(p, 4000000000U, 1, 5); },
          L"1 から 5 までの整数を入力してください。"},
         {[](CDataExchange* p) { DDV_MinMaxDWord(p, 4000000000U, 1, 4294967295U); }, PASSES},

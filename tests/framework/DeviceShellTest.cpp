@@ -74,6 +74,27 @@ TEST(TitleBarOk, FieldIsLeftBeforeAndEnteredAgainIfTheDialogStays) {
     }
 }
 
+TEST(TitleBarOk, CountsWithoutAFocusToo) {
+    fx::Form form;
+    form.m_bFullScreen = TRUE;
+    form.m_onOk = [&] { form.EndDialog(9); };
+    const auto tap = [&] {
+        ::SetFocus(nullptr);
+        TapOk(form);
+    };
+    EXPECT_EQ(9, Play(form, {tap}));
+}
+
+TEST(FullScreenDialog, IsWhatPlainDialogsAreIfToldSo) {
+    const DialogTemplate dialogTemplate;
+    for (const BOOL bFullScreen : {TRUE, FALSE}) {
+        AfxSetFullScreenDialogs(bFullScreen);
+        CDialog dialog;
+        ASSERT_TRUE(dialog.CreateIndirect(dialogTemplate.Get()));
+        EXPECT_EQ(bFullScreen != FALSE, WorkArea() == RectOf(dialog));
+    }
+}
+
 TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     class Patient : public CWnd {
         ULONG GetGestureStatus(CPoint ptTouch) override { return ptTouch == CPoint(3, 4) ? 0 : 1; }

@@ -114,6 +114,8 @@ TEST(GdiObject, CreatingAgainDeletesWhatWasThere) {
     EXPECT_FALSE(pen.DeleteObject());
     EXPECT_TRUE(::DeleteObject(hSecond)) << "given up, so still there";
     EXPECT_FALSE(pen.Attach(nullptr));
+    EXPECT_FALSE(CDC().Attach(nullptr));
+    EXPECT_FALSE(CMenu().Attach(nullptr));
 }
 
 TEST(GdiObject, IsMadeByItsConstructor) {

@@ -206,7 +206,9 @@ TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
     EXPECT_EQ(UINT{MF_CHECKED | MF_GRAYED | MFT_RADIOCHECK}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
     const fx::Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
     const fx::Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
+    const fx::Child<CButton> known(wnd, 0, CRect(0, 18, 9, 27), 100);
     wnd.UpdateDialogControls(&wnd, TRUE);
+    EXPECT_TRUE(known.IsWindowEnabled()) << "there is a handler for its command";
     EXPECT_EQ(L"on", TextOf(on));
     EXPECT_EQ(BST_CHECKED, on.GetCheck());
     EXPECT_EQ(BST_CHECKED, off.GetCheck());

@@ -116,6 +116,11 @@ TEST_F(ControlMessages, DatesHaveLimitsAndSelections) {
     EXPECT_EQ(DWORD{GDTR_MIN}, field.GetRange(&from, static_cast<CTime*>(nullptr)));
     EXPECT_EQ(first, from);
 
+    CMonthCalCtrl fitting;
+    ASSERT_TRUE(fitting.Create(WS_CHILD, CPoint(3, 4), &m_frame, 9));
+    CRect rect;
+    fitting.GetMinReqRect(rect);
+    EXPECT_EQ(rect.Size(), RectOf(fitting).Size());
     Child<CMonthCalCtrl> month(m_frame, MCS_MULTISELECT);
     month.SetMaxSelCount(5);
     EXPECT_TRUE(month.SetSelRange(first, last));

@@ -37,6 +37,7 @@ TEST(ModalSheet, EveryWayOutTellsThePagesGivesItsResultAndEnablesTheOwner) {
         Sheet sheet(&owner);
         const auto end = [&, &act = way] {
             EXPECT_EQ("a.init a.set ", sheet.TakeLog());
+            EXPECT_EQ(-1, sheet.DoModal()) << "it runs already";
             EXPECT_FALSE(owner.IsWindowEnabled());
             EXPECT_EQ(owner.m_hWnd, ::GetParent(sheet));
             act(sheet);
