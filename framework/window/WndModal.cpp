@@ -45,7 +45,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     const HWND hWndParent = ::GetParent(hWnd);
     bool bShow = (dwFlags & MLF_SHOWONIDLE) && !(m_nFlags & WF_SHOWSET) && !(GetStyle() & WS_VISIBLE);
     bool bIdle = true;
-    bool bQuit = false;
     LONG lIdle = 0;
     m_nModalResult = -1;
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
@@ -73,7 +72,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
         }
         if (!thread.PumpMessage()) { // WM_QUIT: end this loop, and let the outer ones see it too
             AfxPostQuitMessage(static_cast<int>(thread.m_msgCur.wParam));
-            bQuit = true;
             break;
         }
         if (thread.IsIdleMessage(&thread.m_msgCur)) {
@@ -84,7 +82,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     if (!scope.IsAlive())
         return -1;
     m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
-    return bQuit ? -1 : m_nModalResult;
+    return m_nModalResult;
 }
 
 BOOL CWnd::ContinueModal() {

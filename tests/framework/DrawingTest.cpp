@@ -144,6 +144,7 @@ TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {
 
 TEST(GdiObject, PointFontHasThePixelsOfItsPointsOnTheDevice) {
     CWindowDC screen(nullptr);
+    screen.SetViewportOrg(3, 7); // which makes no letter larger
     for (CDC* pDC : {static_cast<CDC*>(&screen), static_cast<CDC*>(nullptr)}) {
         CFont font;
         LOGFONT logFont = {};

@@ -87,7 +87,8 @@ TEST(ModalDialog, QuitEndsAllLoopsAndReachesTheOutermost) {
     Form outer, inner(&outer);
     outer.m_onDo = [&] { inner.DoModal(); };
     const auto isOpen = [&] { return inner.m_hWnd != nullptr && inner.IsWindowVisible(); };
-    Play(outer, {[&] { outer.PostDo(); }, isOpen, [] { AfxPostQuitMessage(7); }});
+    EXPECT_EQ(5, Play(outer, {[&] { outer.EndDialog(5); }}));
+    EXPECT_EQ(-1, Play(outer, {[&] { outer.PostDo(); }, isOpen, [] { AfxPostQuitMessage(7); }}));
     EXPECT_EQ(nullptr, outer.m_hWnd);
     EXPECT_EQ(nullptr, inner.m_hWnd);
     MSG msg = {};

@@ -121,8 +121,17 @@ TEST(Uncaught, HandlerThatAlwaysFailsShowsOneBoxAtATime) {
 TEST(Uncaught, ThreadThatThrowsAgainDoesNotLetItOut) {
     fx::g_app.m_bThrowAgain = true;
     Form form(Form::Command, [] { throw std::bad_alloc(); });
-    EXPECT_EQ(2, Play(form, {[&] { form.SendDo(); }, [&] { form.EndDialog(2); }}));
+    HWND hForm = nullptr;
+    const auto send = [&] {
+        hForm = form;
+        form.SendDo();
+    };
+    EXPECT_EQ(2, Play(form, {send, [&] { form.EndDialog(2); }}));
     fx::g_app.m_bThrowAgain = false;
+    const MSG& failed = fx::g_app.m_failed;
+    EXPECT_EQ(UINT{WM_COMMAND}, failed.message);
+    EXPECT_EQ(WPARAM{Form::DO}, failed.wParam);
+    EXPECT_EQ(hForm, failed.hwnd);
 }
 
 TEST(Uncaught, FailingNewIsAMemoryException) {

@@ -169,7 +169,7 @@ TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
     EXPECT_EQ(before, RectOf(frame));
     EXPECT_EQ(DWORD{WS_MINIMIZEBOX}, frame.GetStyle() & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX));
     EXPECT_TRUE(frame.ModifyStyleEx(0, WS_EX_TOPMOST | WS_EX_TOOLWINDOW));
-    EXPECT_NE(0U, frame.GetExStyle() & WS_EX_TOOLWINDOW);
+    EXPECT_EQ(DWORD{WS_EX_TOOLWINDOW}, frame.GetExStyle() & (WS_EX_TOOLWINDOW | WS_EX_CAPTIONOKBTN));
 }
 
 TEST(ToolTips, OneToolIsKnownTheChildThatThePenIsOn) {

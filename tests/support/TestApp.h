@@ -19,6 +19,7 @@ struct TestApp : Application {
     TestApp() : Application(L"test") {}
 
     LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override {
+        m_failed = *pMsg;
         if (!m_bThrowAgain)
             return CWinApp::ProcessWndProcException(e, pMsg);
         e->Delete();
@@ -26,6 +27,7 @@ struct TestApp : Application {
     }
 
     bool m_bThrowAgain = false; ///< When it is to tell of an exception.
+    MSG m_failed = {};          ///< The last message whose handler threw.
 };
 
 inline TestApp g_app;
