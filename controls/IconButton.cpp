@@ -1,9 +1,5 @@
 #include "controls/IconButton.h"
 
-#include "framework/detail/SavedDC.h"
-
-using namespace fieldkit::detail;
-
 namespace {
 
 constexpr COLORREF kPushedBackground = RGB(0, 0, 0);
@@ -77,7 +73,7 @@ void CIconButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     const UINT nState = lpDrawItemStruct->itemState;
     CRect rect(lpDrawItemStruct->rcItem);
     CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
-    const SavedDC saved(dc); // the system draws the next button with it, too
+    const AfxSavedDC saved(dc); // the system draws the next button with it, too
     if (nAction & (ODA_DRAWENTIRE | ODA_SELECT))
         DrawFace(dc, rect, (nState & ODS_SELECTED) != 0 || m_bPush);
     if (!Has(StyleFocus) || ((nState & ODS_FOCUS) == 0 && (nAction & ODA_FOCUS) == 0))

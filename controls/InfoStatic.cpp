@@ -1,10 +1,6 @@
 #include "controls/InfoStatic.h"
 
-#include "framework/detail/SavedDC.h"
-
 #include "Tesuvo.h"
-
-using namespace fieldkit::detail;
 
 namespace {
 
@@ -48,7 +44,7 @@ void CInfoStatic::OnPaint() {
     dc.SetBkColor(m_crBk);
     rect.left += AfxScale(m_hWnd, nIndent);
     // The dialog's font. A static without one has the system's, as the device context has.
-    const SavedDC saved(dc);
+    const AfxSavedDC saved(dc);
     if (CFont* const pFont = GetFont())
         dc.SelectObject(pFont);
     dc.DrawText(str, rect, DT_SINGLELINE | DT_VCENTER);
@@ -61,7 +57,8 @@ LRESULT CInfoStatic::OnSetText(WPARAM wParam, LPARAM lParam) {
     return lResult;
 }
 
-void CInfoStatic::OnEnable(BOOL) {} // it looks the same
+/// It looks the same; the system's would draw itself.
+void CInfoStatic::OnEnable(BOOL) {}
 
 void CInfoStatic::OnLButtonDown(UINT, CPoint) {
     Default();

@@ -7,7 +7,6 @@
 #include "dialogs/detail/FolderSearch.h"
 #include "dialogs/detail/LoadText.h"
 #include "dialogs/detail/RedrawPause.h"
-#include "framework/detail/SavedDC.h"
 #include "resources/ResourceIds.h"
 
 #include <algorithm>
@@ -272,7 +271,7 @@ void CFileSelectDlg::ChooseListFont() {
     if (pDialogFont == nullptr || !pDialogFont->GetLogFont(&look))
         return;
     CClientDC dc(&m_lstFiles);
-    const SavedDC saved(dc);
+    const AfxSavedDC saved(dc);
     dc.SelectObject(pDialogFont);
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);

@@ -350,3 +350,18 @@ private:
     template <class Object>
     Object* Select(HGDIOBJ hObject);
 };
+
+/// Gives a context back, at the end of its life, as it was at the beginning: attributes, clipping and
+/// selected objects. Objects that are selected meanwhile must be declared before it, so that they are
+/// deleted after it.
+class AfxSavedDC {
+public:
+    explicit AfxSavedDC(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
+    ~AfxSavedDC() { m_dc.RestoreDC(m_nSaved); }
+    AfxSavedDC(const AfxSavedDC&) = delete;
+    AfxSavedDC& operator=(const AfxSavedDC&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_nSaved;
+};

@@ -1,5 +1,5 @@
-// The user of a dialog that may fail to open. Until it is closed nothing here needs memory, which may
-// be what fails.
+// The user of a dialog that may fail to open. To find the dialog and to close it needs no memory, which
+// may be what fails.
 #include "testkit/FaultLoop.h"
 
 #include "afxdlgs.h"

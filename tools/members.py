@@ -156,7 +156,7 @@ def page(root):
     for name in sorted((name for name in found if name.startswith("C")), key=str.lower):
         base, members = found[name]
         out.append(f"**{name}**{' : ' + base if base.startswith('C') else ''}  \n{listed(filter(is_told, members))}\n")
-    out.append("## Functions\n\n" + listed(free) + "\n")
+    out.append("## Functions\n\n" + listed(free - found.keys()) + "\n")
     out.append("## Lines of message maps\n\n" + listed(lines))
     return "\n".join(out) + "\n"
 

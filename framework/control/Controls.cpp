@@ -96,8 +96,5 @@ BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask) {
 }
 
 int CScrollBar::GetScrollLimit() {
-    SCROLLINFO info = {};
-    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
-        return 0;
-    return info.nMax - std::max(static_cast<int>(info.nPage) - 1, 0);
+    return CWnd::GetScrollLimit(SB_CTL);
 }

@@ -1,5 +1,5 @@
 // The frame that follows what the user drags.
-#include "detail/SavedDC.h"
+#include "afxwin.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ void CreateFrame(CRgn& rgn, const CDC& dc, LPCRECT lpRect, SIZE size) {
 }
 
 void InvertRegion(CDC& dc, CRgn& rgn, CBrush* pBrush) {
-    const fieldkit::detail::SavedDC saved(dc);
+    const AfxSavedDC saved(dc);
     CRect box;
     if (dc.SelectClipRgn(&rgn, RGN_AND) != ERROR && dc.GetClipBox(box) > NULLREGION) {
         if (*pBrush == *CDC::GetHalftoneBrush()) {

@@ -1,7 +1,5 @@
 #include "plan/PlanPainter.h"
 
-#include "plan/KeepState.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -92,7 +90,7 @@ void CPlanPainter::Paint(const CDrawing& drawing) {
 
 void CPlanPainter::PaintLines(const CDrawing& drawing, Role role) {
     CPen pen(PS_SOLID, Px(role == Role::Result ? 2 : 1), ColorOf(role));
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&pen);
     for (const CDrawnLine& line : drawing.GetLines()) {
         CSegment seen{m_scale.ToPixel(line.start), m_scale.ToPixel(line.end)};
@@ -123,7 +121,7 @@ void CPlanPainter::PaintPieces(const std::vector<CSegment>& pieces, Role role) {
 }
 
 CRect CPlanPainter::TakeBarPlace(const CScaleBar& bar) {
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     const CSize text = m_dc.GetTextExtent(ScaleBarText(bar.dLength));
     const CSize size(std::max<int>(bar.nPixels, text.cx) + Px(5), Px(kTick) + text.cy + 1 + Px(2));
@@ -134,7 +132,7 @@ CRect CPlanPainter::TakeBarPlace(const CScaleBar& bar) {
 void CPlanPainter::PaintScaleBar(const CScaleBar& bar, const CRect& place) {
     const int nTick = Px(kTick);
     CPen pen(PS_SOLID, Px(2), kGivenColor);
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&pen);
     m_dc.FillSolidRect(place, kGroundColor);
@@ -149,7 +147,7 @@ void CPlanPainter::PaintScaleBar(const CScaleBar& bar, const CRect& place) {
 }
 
 CRect CPlanPainter::TakeArrowPlace() {
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     const CSize text = m_dc.GetTextExtent(kNorth);
     const int nReach = std::max<int>(Px(kArrowHalfWidth), text.cx / 2) + Px(2);
@@ -161,7 +159,7 @@ void CPlanPainter::PaintNorthArrow(const CRect& place) {
     const int nHalfWidth = Px(kArrowHalfWidth);
     const int nLength = Px(kArrowLength);
     CBrush brush(kGivenColor);
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&m_fonts.given);
     m_dc.SelectObject(&brush);
     m_dc.FillSolidRect(place, kGroundColor);
@@ -190,7 +188,7 @@ std::vector<const CDrawnPoint*> CPlanPainter::FindSeen(const std::vector<CDrawnP
 void CPlanPainter::PaintPoints(std::vector<const CDrawnPoint*> seen) {
     const auto firstGiven = std::stable_partition(
         seen.begin(), seen.end(), [](const CDrawnPoint* p) { return p->role == Role::Result; });
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SetBkMode(TRANSPARENT);
     // The name of a result may lie on the marks of given points and then covers them.
     PaintMarks({firstGiven, seen.end()}, Role::Given);
@@ -220,7 +218,7 @@ void CPlanPainter::PaintMarks(const std::vector<const CDrawnPoint*>& points, Rol
     CPen pen(PS_SOLID, 1, ColorOf(role));
     CBrush brush(ColorOf(role));
     CBrush ground(kGroundColor);
-    const CKeepState state(m_dc);
+    const AfxSavedDC state(m_dc);
     m_dc.SelectObject(&pen);
     CRect mark;
     for (const CDrawnPoint* pPoint : points) {

@@ -1,6 +1,5 @@
 #include "screens/PlanView.h"
 
-#include "plan/KeepState.h"
 #include "plan/PlanPick.h"
 #include "screens/Resource.h"
 #include "screens/Text.h"
@@ -83,7 +82,7 @@ void CPlanView::OnPaint() {
 }
 
 void CPlanView::Paint(CDC& dc) {
-    const CKeepState saved(dc);
+    const AfxSavedDC saved(dc);
     if (m_pDrawing->IsEmpty())
         PaintEmpty(dc);
     else
