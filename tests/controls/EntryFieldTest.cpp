@@ -1,6 +1,6 @@
 // The entry fields and the soft input panel.
 #include "testkit/Panel.h"
-#include "support/Stage.h"
+#include "support/TestApp.h"
 
 #include "controls/nComboBox.h"
 #include "controls/nEdit.h"
@@ -12,7 +12,7 @@ namespace {
 constexpr int IDC_EDIT = 100, IDC_COMBO = 101, IDC_OTHER = 102;
 
 /// An edit, a combo box and a plain edit to go to.
-struct FieldStage : fx::Stage {
+struct FieldStage : Stage {
     FieldStage() {
         CreateItem(WC_EDIT, IDC_EDIT, WS_BORDER, CRect(5, 5, 150, 25));
         CreateItem(WC_COMBOBOX, IDC_COMBO, CBS_DROPDOWN, CRect(5, 35, 150, 120));

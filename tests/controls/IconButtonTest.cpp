@@ -1,7 +1,7 @@
 // The icon button, on the screen and under the stylus.
 #include "support/Colors.h"
 #include "testkit/Picture.h"
-#include "support/Stage.h"
+#include "support/TestApp.h"
 
 #include "controls/IconButton.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int IDC_BUTTON = 1;
 
-struct ButtonStage : fx::Stage {
+struct ButtonStage : Stage {
     explicit ButtonStage(CSize size = {60, 24}, UINT nStyle = 0, LPCTSTR pszText = L"") {
         CreateItem(WC_BUTTON, IDC_BUTTON, BS_OWNERDRAW, CRect(CPoint(20, 20), size), pszText);
         EXPECT_TRUE(m_button.Attach(IDC_BUTTON, this, m_icon, static_cast<int>(nStyle)));

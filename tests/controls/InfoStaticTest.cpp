@@ -1,5 +1,5 @@
 // The information text, pixel by pixel.
-#include "support/Stage.h"
+#include "support/TestApp.h"
 #include "support/Colors.h"
 #include "testkit/Picture.h"
 
@@ -24,7 +24,7 @@ struct InfoStatic : testing::Test {
         return image.Around(within, [&](CPoint p) { return image.At(p.x, p.y) != background; });
     }
 
-    fx::Stage m_frame;
+    Stage m_frame;
     CInfoStatic m_text;
 };
 

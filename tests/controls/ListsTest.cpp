@@ -1,5 +1,5 @@
 // List box, list view, tree view and up-down control under the stylus.
-#include "support/Stage.h"
+#include "support/TestApp.h"
 
 #include "controls/nListBox.h"
 #include "controls/nListCtrl.h"
@@ -14,7 +14,7 @@ constexpr DWORD VISIBLE_CHILD = WS_CHILD | WS_VISIBLE;
 constexpr UINT SELECTED_AND_FOCUSED = LVIS_SELECTED | LVIS_FOCUSED;
 
 /// All four controls, with something in them.
-struct ListStage : fx::Stage {
+struct ListStage : Stage {
     ListStage() {
         m_listBox.Create(VISIBLE_CHILD | LBS_NOTIFY, CRect(5, 5, 105, 85), this, 1);
         m_list.Create(VISIBLE_CHILD | LVS_LIST, CRect(110, 5, 215, 85), this, 2);
@@ -47,8 +47,9 @@ TEST(Lists, PressAndHoldIsAnsweredAsDealtWith) {
     ListStage stage;
     for (const CWnd* pWnd : {static_cast<CWnd*>(&stage.m_listBox), static_cast<CWnd*>(&stage.m_list),
                              static_cast<CWnd*>(&stage.m_tree), static_cast<CWnd*>(&stage.m_spin)}) {
-        EXPECT_EQ(1, stage.Notify(*pWnd, NM_RECOGNIZEGESTURE)) << pWnd->GetDlgCtrlID();
-        EXPECT_EQ(0, stage.Count(pWnd->GetDlgCtrlID(), NM_RECOGNIZEGESTURE)) << pWnd->GetDlgCtrlID();
+        const int nID = pWnd->GetDlgCtrlID();
+        EXPECT_EQ(1, Notify(stage, *pWnd, nID, NM_RECOGNIZEGESTURE)) << nID;
+        EXPECT_EQ(0, stage.Count(nID, NM_RECOGNIZEGESTURE)) << nID;
     }
 }
 

@@ -1,5 +1,5 @@
 // Entry fields, lists, scroll bars: members that do more than send their message, and owner draw.
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
 
@@ -9,8 +9,6 @@
 using namespace testkit;
 
 namespace {
-
-using fx::Child;
 
 TEST(Controls, EditTakesASelectionInEitherFormAndGivesLinesAsFarAsTheyFit) {
     Frame frame;

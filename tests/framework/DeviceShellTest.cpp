@@ -1,6 +1,6 @@
 // What the device's shell does for windows: the OK button in the title bar, gestures. Full screen and the
 // command bar are in tests/controls and tests/companion.
-#include "support/Child.h"
+#include "support/TestApp.h"
 #include "support/Form.h"
 #include "testkit/Drive.h"
 #include "testkit/Pen.h"
@@ -102,7 +102,7 @@ TEST(Gesture, NoWindowLetsThePenWaitForPressAndHoldUnlessItSaysSo) {
     Frame frame;
     EXPECT_EQ(static_cast<LRESULT>(AFX_TABLET_DISABLE_PRESSANDHOLD),
               frame.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0));
-    fx::Child<Patient> child(frame, 0, CRect(5, 5, 50, 50));
+    Child<Patient> child(frame, 0, CRect(5, 5, 50, 50));
     CPoint point(3, 4);
     child.ClientToScreen(&point);
     EXPECT_EQ(0, child.SendMessage(AFX_WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, MAKELPARAM(point.x, point.y)));

@@ -1,7 +1,7 @@
 // A window with one control of each kind that data is exchanged with.
 #pragma once
 
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 namespace fx {
 

@@ -1,5 +1,5 @@
 // Message maps: which handler a message finds, and what it is given.
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 #include <string>
 
@@ -154,7 +154,7 @@ TEST(MessageMap, OldLongHandlerIsToldWhatItCannotHold) {
 
 TEST(MessageMap, CommandsFindTheirHandlerByIdentifierAndCode) {
     DerivedWnd wnd;
-    const fx::Child<CStatic> control(wnd);
+    const Child<CStatic> control(wnd);
     const Rows<WORD, WORD, bool, const char*, LRESULT> rows = {
         {100, 0, false, "derived command", 1},
         {101, 0, false, "base command", 1},
@@ -182,9 +182,9 @@ TEST(MessageMap, CommandsFindTheirHandlerByIdentifierAndCode) {
 
 TEST(MessageMap, NotificationsFindTheirHandlerAndGiveItsResult) {
     DerivedWnd wnd;
-    EXPECT_EQ(5, fx::Notify(wnd, nullptr, 400, -50));
-    EXPECT_EQ(6, fx::Notify(wnd, nullptr, 402, -51));
-    EXPECT_EQ(0, fx::Notify(wnd, nullptr, 403, -51));
+    EXPECT_EQ(5, Notify(wnd, nullptr, 400, -50));
+    EXPECT_EQ(6, Notify(wnd, nullptr, 402, -51));
+    EXPECT_EQ(0, Notify(wnd, nullptr, 403, -51));
     EXPECT_EQ("notify 400, notify range 402", wnd.TakeLog());
 }
 
@@ -204,9 +204,9 @@ TEST(MessageMap, ItemsOfAMenuAndControlsAreAskedHowTheyLook) {
     EXPECT_EQ(L"on", strText);
     EXPECT_EQ(UINT{MF_CHECKED}, popup.GetMenuState(ID_ON, MF_BYCOMMAND));
     EXPECT_EQ(UINT{MF_CHECKED | MF_GRAYED | MFT_RADIOCHECK}, popup.GetMenuState(ID_OFF, MF_BYCOMMAND));
-    const fx::Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
-    const fx::Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
-    const fx::Child<CButton> known(wnd, 0, CRect(0, 18, 9, 27), 100);
+    const Child<CButton> on(wnd, BS_AUTOCHECKBOX, CRect(0, 0, 9, 9), ID_ON);
+    const Child<CButton> off(wnd, BS_AUTORADIOBUTTON, CRect(0, 9, 9, 18), ID_OFF);
+    const Child<CButton> known(wnd, 0, CRect(0, 18, 9, 27), 100);
     wnd.UpdateDialogControls(&wnd, TRUE);
     EXPECT_TRUE(known.IsWindowEnabled()) << "there is a handler for its command";
     EXPECT_EQ(L"on", TextOf(on));

@@ -1,5 +1,5 @@
 // Modal dialogs: their loop, their owner, their end.
-#include "support/Child.h"
+#include "support/TestApp.h"
 #include "support/Form.h"
 #include "testkit/Pen.h"
 
@@ -36,7 +36,7 @@ TEST(ModalDialog, EveryWayOutGivesItsResultAndEnablesTheOwner) {
          [](Form& f) { f.SendDo(); }, -1},
     };
     Frame owner;
-    fx::Child<CEdit> field(owner);
+    Child<CEdit> field(owner);
     for (const auto& [pszWay, prepare, act, nResult] : cases) {
         SCOPED_TRACE(pszWay);
         bool bIdle = false, bSeen = false, bEnabledAtEnd = false;

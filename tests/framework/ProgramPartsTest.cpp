@@ -2,7 +2,7 @@
 #include "Canvas.h"
 #include "afxdialogex.h"
 #include "afxext.h"
-#include "support/Child.h"
+#include "support/MenuOwner.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Program.h"
 
@@ -42,7 +42,7 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
             found += canvas.m_dc.GetPixel(p) == RED ? 'p' : canvas.m_dc.GetPixel(p) == BLUE ? 'c' : '.';
         return found;
     };
-    fx::Child<CStatic> label(dialog);
+    Child<CStatic> label(dialog);
     CClientDC dc(&label);
     const auto expectMode = [&](int nMode, UINT nMessage) {
         dc.SetBkMode(OPAQUE);
@@ -117,7 +117,7 @@ TEST(BitmapButton, LoadsThePicturesThatAreThere) {
 TEST(BitmapButton, ShowsThePictureOfItsState) {
     fx::Canvas canvas;
     Frame frame;
-    fx::Child<PictureButton> button(frame, BS_OWNERDRAW);
+    Child<PictureButton> button(frame, BS_OWNERDRAW);
     for (int i = 0; i < 4; ++i)
         button.m_bitmaps[i]->Attach(MakePicture(RGB(50 * i, 0, 0), 9, 7));
     button.SizeToContent();

@@ -1,5 +1,5 @@
 // Notifications that come back to the control that sent them.
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 #include <string>
 
@@ -61,13 +61,13 @@ TEST(Reflection, ControlComesFirstAndDecidesWhetherTheParentHearsOfIt) {
     for (const auto& [nMessage, nCode, nTake, pszLog, lWanted] : rows) {
         SCOPED_TRACE(testing::Message() << nMessage << ' ' << nCode << ' ' << nTake);
         Parent parent;
-        fx::Child<ReflectingEdit> edit(parent);
+        Child<ReflectingEdit> edit(parent);
         const HWND hEdit = edit;
         edit.m_bTake = nTake == TRUE;
         if (nTake == UNATTACHED)
             edit.UnsubclassWindow();
         g_log.clear();
-        const LRESULT lResult = nMessage == WM_NOTIFY ? fx::Notify(parent, hEdit, 1, nCode)
+        const LRESULT lResult = nMessage == WM_NOTIFY ? Notify(parent, hEdit, 1, nCode)
                                                       : parent.SendMessage(WM_COMMAND, MAKEWPARAM(1, nCode),
                                                                            reinterpret_cast<LPARAM>(hEdit));
         EXPECT_EQ(pszLog, g_log);

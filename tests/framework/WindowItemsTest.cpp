@@ -1,12 +1,10 @@
 // What a window does with its items, its descendants and the looks of its commands.
-#include "support/Child.h"
+#include "support/TestApp.h"
 #include "support/Form.h"
 
 using namespace testkit;
 
 namespace {
-
-using fx::Child;
 
 /// An entry of a dialog's initial data, as dialog editors write it.
 std::string Entry(WORD nID, WORD nMessage, std::string_view text, DWORD dwMore = 0) {
@@ -53,8 +51,8 @@ TEST(RadioButtons, TheCheckedOneOfARangeIsTheFirst) {
 
 TEST(Descendants, GetAMessageEachOrOnlyTheNextOnes) {
     Frame frame;
-    fx::Heard<Child<CStatic>> outer(frame), second(frame);
-    fx::Heard<Child<CButton>> inner(outer);
+    Heard<Child<CStatic>> outer(frame), second(frame);
+    Heard<Child<CButton>> inner(outer);
     std::string heard;
     const auto listen = [&](auto& wnd, char ch) {
         wnd.m_hear = [&heard, ch](UINT message, WPARAM wParam, LPARAM lParam) -> std::optional<LRESULT> {
@@ -203,7 +201,7 @@ TEST(Items, DrawnByTheirMenuAreMeasuredByIt) {
 TEST(Items, AreNotHeardWhileTheirValuesAreExchanged) {
     struct Dialog : Frame {
         int m_nHeard = 0;
-        void DoDataExchange(CDataExchange*) override { fx::Notify(*this, nullptr, 5, -50); }
+        void DoDataExchange(CDataExchange*) override { Notify(*this, nullptr, 5, -50); }
         BOOL OnCmdMsg(UINT, int, void*, AFX_CMDHANDLERINFO*) override { return ++m_nHeard; }
     } dialog;
     EXPECT_TRUE(dialog.UpdateData(FALSE));
@@ -213,7 +211,7 @@ TEST(Items, AreNotHeardWhileTheirValuesAreExchanged) {
 }
 
 TEST(Creation, FailsOnceMoreOrWhenItThrows) {
-    struct Failing : fx::Heard<CWnd> {
+    struct Failing : Heard<CWnd> {
         Failing() {
             m_hear = [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
                 return message == WM_CREATE ? throw std::bad_alloc() : std::optional<LRESULT>();

@@ -1,5 +1,5 @@
 // Windows: which object belongs to which, who outlives whom, where they stand.
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
 
@@ -8,8 +8,6 @@
 using namespace testkit;
 
 namespace {
-
-using fx::Child;
 
 /// A window that the framework has not made.
 struct Foreign {
@@ -73,7 +71,7 @@ TEST(WindowObject, IsTemporaryOfAForeignWindowUntilOneIsAttached) {
 
 /// A window that makes a child while it is created itself must not lose its object to that one.
 TEST(WindowObject, IsAttachedBeforeTheFirstMessageAlsoWithChildrenOfItsOwn) {
-    struct Early : fx::Heard<CWnd> {
+    struct Early : Heard<CWnd> {
         int m_nPrepared = 0;
         void PreSubclassWindow() override { m_nPrepared += m_hWnd != nullptr ? 1 : 100; }
     };
@@ -154,7 +152,7 @@ TEST(Placement, CentresOnTheOwnerButNeverLeavesTheWorkArea) {
 }
 
 TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
-    fx::Heard<Frame> frame;
+    Heard<Frame> frame;
     int nPlaced = 0;
     frame.m_hear = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
         nPlaced += message == WM_WINDOWPOSCHANGED;
@@ -173,7 +171,7 @@ TEST(Placement, StyleChangesTellWhetherTheyChangedAnything) {
 }
 
 TEST(ToolTips, OneToolIsKnownTheChildThatThePenIsOn) {
-    fx::Heard<Frame> frame;
+    Heard<Frame> frame;
     frame.m_hear = [&](UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
         auto* const pInfo = reinterpret_cast<NMTTDISPINFO*>(lParam);
         if (message == WM_NOTIFY && pInfo->hdr.code == static_cast<UINT>(TTN_NEEDTEXT))

@@ -1,13 +1,11 @@
 // Members of the common controls that do more than send their message.
-#include "support/Child.h"
+#include "support/MenuOwner.h"
 
 #include "afxcmn.h"
 
 using namespace testkit;
 
 namespace {
-
-using fx::Child;
 
 struct ControlMessages : testing::Test {
     fx::MenuOwner m_frame;
@@ -181,13 +179,13 @@ TEST_F(ControlMessages, SplitButtonOpensItsMenu) {
     menu.AppendMenu(MF_STRING, 77, L"x");
     CSplitButton button(&menu);
     ASSERT_TRUE(button.Create(L"s", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &m_frame, 1));
-    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    Notify(m_frame, button, 1, BCN_DROPDOWN);
     EXPECT_EQ(77U, std::exchange(m_frame.m_nItem, 0U));
     button.SetDropDownMenu(0xFFFF, 0); // there is none
-    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    Notify(m_frame, button, 1, BCN_DROPDOWN);
     EXPECT_EQ(0U, m_frame.m_nItem);
     button.SetDropDownMenu(&menu);
-    fx::Notify(m_frame, button, 1, BCN_DROPDOWN);
+    Notify(m_frame, button, 1, BCN_DROPDOWN);
     EXPECT_EQ(77U, m_frame.m_nItem);
 }
 

@@ -1,5 +1,5 @@
 // List views, tree views, image lists: texts, data, places, owners.
-#include "support/Child.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
 
@@ -19,8 +19,8 @@ struct Lists : testing::Test {
     }
 
     Frame m_frame;
-    fx::Child<CListCtrl> m_list{m_frame, LVS_REPORT | LVS_SHOWSELALWAYS, CRect(0, 0, 180, 80)};
-    fx::Child<CTreeCtrl> m_tree{m_frame, TVS_HASBUTTONS, CRect(0, 80, 180, 160)};
+    Child<CListCtrl> m_list{m_frame, LVS_REPORT | LVS_SHOWSELALWAYS, CRect(0, 0, 180, 80)};
+    Child<CTreeCtrl> m_tree{m_frame, TVS_HASBUTTONS, CRect(0, 80, 180, 160)};
     HTREEITEM m_root = nullptr, m_item = nullptr, m_leaf = nullptr;
 };
 

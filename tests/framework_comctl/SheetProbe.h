@@ -1,7 +1,7 @@
 // Property sheets and pages that write down what happens to them.
 #pragma once
 
-#include "support/Child.h"
+#include "support/TestApp.h"
 #include "testkit/Script.h"
 #include "testkit/Pen.h"
 #include "testkit/TitleBar.h"

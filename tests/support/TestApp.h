@@ -1,8 +1,8 @@
 // The application of the test programs that open windows: include this in each of their files.
 #pragma once
 
-#include "testkit/Application.h"
 #include "testkit/GTest.h"
+#include "testkit/Stage.h"
 
 #include "Rows.h"
 

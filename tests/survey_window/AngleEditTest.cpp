@@ -1,5 +1,5 @@
 // The angle field: what it shows, what it takes, and when.
-#include "support/Stage.h"
+#include "support/TestApp.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Pen.h"
 #include "testkit/Steps.h"
@@ -24,7 +24,7 @@ double Radians(double dDegrees, double dMinutes = 0, double dSeconds = 0) {
 }
 
 /// An angle field and another one to go to.
-struct AngleStage : fx::Stage {
+struct AngleStage : Stage {
     explicit AngleStage(int nMode = WHOLE) {
         CreateItem(WC_EDIT, IDC_ANGLE, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 5, 155, 25));
         CreateItem(WC_EDIT, IDC_OTHER, WS_BORDER | ES_AUTOHSCROLL, CRect(5, 50, 155, 70));
