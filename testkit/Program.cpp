@@ -30,6 +30,27 @@ bool IsInFront(HWND hWnd) {
     return hWnd != nullptr && ::GetForegroundWindow() == ::GetAncestor(hWnd, GA_ROOT);
 }
 
+/// Puts the pen above a window's middle and waits until it rests there and the window answers. A window
+/// that has just come up is told where the pen was then, and a tap meanwhile would be taken for a slide.
+void HoldPenAbove(HWND hWnd) {
+    constexpr int kResting = 3;
+    int nResting = 0;
+    Until(
+        [&] {
+            const CPoint middle = MiddleOf(hWnd);
+            CPoint pen;
+            DWORD_PTR nAnswer = 0;
+            const bool bRests =
+                ::GetCursorPos(&pen) && middle == pen &&
+                ::SendMessageTimeout(hWnd, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kImpatience, &nAnswer);
+            nResting = bRests ? nResting + 1 : 0;
+            if (!bRests)
+                pen::Move(middle);
+            return nResting == kResting;
+        },
+        kImpatience);
+}
+
 } // namespace
 
 std::wstring OwnFolder() {
@@ -50,6 +71,7 @@ bool Until(const std::function<bool()>& done, DWORD nMilliseconds) {
 void FocusByTap(HWND hWnd, const Place& place) {
     if (!Until([&] { return IsInFront(hWnd); }))
         Fail("the window of " + NameOf(hWnd) + " does not come to the front", place);
+    HoldPenAbove(hWnd);
     pen::Tap(hWnd, place);
     if (!Until([&] { return HasFocus(hWnd); }))
         Fail(NameOf(hWnd) + " does not get the focus", place);
@@ -107,7 +129,8 @@ void Program::Tap(int nID, const Place& place) const {
 }
 
 void Program::Tap(HWND hWnd, const Place& place) const {
-    Until([&] { return CanBeTapped(hWnd); }, m_bFailed ? kImpatience : kPatience);
+    if (Until([&] { return CanBeTapped(hWnd); }, m_bFailed ? kImpatience : kPatience))
+        HoldPenAbove(hWnd);
     pen::Tap(hWnd, place); // which tells why it cannot be tapped
 }
 
