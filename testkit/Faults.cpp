@@ -3,7 +3,6 @@
 #include <atomic>
 #include <map>
 #include <set>
-#include <utility>
 
 namespace testkit::fault {
 
@@ -11,6 +10,7 @@ namespace {
 
 std::atomic<Injection*> g_pCurrent = nullptr;
 std::set<HMODULE> g_installed;
+std::map<void*, void**> g_standIns; ///< See Point: where each of those that are called finds its function.
 
 HMODULE ModuleOf(const void* pAddress) {
     HMODULE hModule = nullptr;
@@ -26,7 +26,17 @@ Injection::Injection(int nFailing, Extent extent) : m_nFailing(nFailing), m_exte
 }
 
 Injection::~Injection() {
+    Stop();
+}
+
+void Injection::Stop() {
     g_pCurrent = nullptr;
+}
+
+Injection::Pause::Pause() : m_pPaused(g_pCurrent.exchange(nullptr)) {}
+
+Injection::Pause::~Pause() {
+    g_pCurrent = m_pPaused;
 }
 
 bool Injection::Fails(const char* pszFunction) {
@@ -65,18 +75,30 @@ std::vector<Import> ImportsOf(HMODULE hModule) {
     return imports;
 }
 
-void Install(HMODULE hModule, const std::vector<Point>& points) {
+void Install(HMODULE hModule, const std::vector<Point>& points, const Place& place) {
+    if (hModule == nullptr) {
+        Fail("fault points for a module that is not loaded", place);
+        return;
+    }
     g_installed.insert(hModule);
     std::map<std::string, Point> byName;
     for (const Point& point : points)
         byName.emplace(point.pszName, point);
     for (const Import& import : ImportsOf(hModule)) {
-        const auto found = byName.find(import.name);
-        if (found == byName.end() || *import.ppFunction == found->second.pStandIn)
+        void* const pNow = *import.ppFunction;
+        const auto before = g_standIns.find(pNow);
+        void* const pReal = before != g_standIns.end() ? *before->second : pNow;
+        void* pNew = pReal;
+        if (const auto found = byName.find(import.name); found != byName.end()) {
+            *found->second.ppReal = pReal;
+            pNew = found->second.pStandIn;
+            g_standIns[pNew] = found->second.ppReal;
+        }
+        if (pNew == pNow)
             continue;
         DWORD dwOld = 0;
         ::VirtualProtect(import.ppFunction, sizeof(void*), PAGE_READWRITE, &dwOld);
-        *found->second.ppReal = std::exchange(*import.ppFunction, found->second.pStandIn);
+        *import.ppFunction = pNew;
         ::VirtualProtect(import.ppFunction, sizeof(void*), dwOld, &dwOld);
     }
 }

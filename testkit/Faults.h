@@ -1,12 +1,14 @@
 /// @file
 /// Lets calls that DLLs make into the system fail, one at a time, without a change to the DLLs:
 /// their tables of imported functions are pointed at functions of the test. Needs nothing of the
-/// framework.
+/// framework. "testkit/SystemFaults.h" has a table of them.
 ///
-///     const std::vector<fault::Point> points = {FAULT_POINT(CreateFileW, INVALID_HANDLE_VALUE,
-///     ERROR_DISK_FULL)}; fault::Install(::GetModuleHandle(nullptr), points); fault::Injection injection(3);
-///     // the third call fails
+///     fault::Install(::GetModuleHandle(nullptr),
+///                    {FAULT_POINT(CreateFileW, INVALID_HANDLE_VALUE, ERROR_DISK_FULL)});
+///     fault::Injection injection(3); // the third call fails
 #pragma once
+
+#include "testkit/Failure.h"
 
 #include <windows.h>
 
@@ -30,8 +32,20 @@ struct Injection {
     Injection(const Injection&) = delete;
     Injection& operator=(const Injection&) = delete;
 
-    /// No call fails any more.
-    void Stop() { m_nFailing = 0; }
+    /// No call counts or fails any more.
+    void Stop();
+
+    /// While it exists, no call counts and none fails: for what a test does itself in between.
+    class Pause {
+    public:
+        Pause();
+        ~Pause();
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
+
+    private:
+        Injection* const m_pPaused;
+    };
 
     int m_nCalls = 0;                  ///< Through fault points up to now.
     const char* m_pszFailed = nullptr; ///< The function that failed; null for none yet.
@@ -42,7 +56,7 @@ struct Injection {
 
 private:
     const DWORD m_nThread = ::GetCurrentThreadId();
-    int m_nFailing;
+    const int m_nFailing;
     const Extent m_extent;
 };
 
@@ -53,22 +67,41 @@ struct Point {
     void** ppReal;       ///< Where the stand-in finds the function itself.
 };
 
-/// What is called instead of a function. Each lambda type Fail makes functions of its own.
-template <class Fail, class Counts, class R, class... A>
-struct StandIn {
+/// What the stand-in of a function does. Each lambda type Fail makes stand-ins of its own.
+template <class Fail, class Counts, class Function>
+struct Fault {
     static inline const char* s_pszName = nullptr; ///< See Point.
     static inline void* s_pReal = nullptr;         ///< The function itself.
     static inline std::optional<Fail> s_fail;      ///< How it fails.
     static inline std::optional<Counts> s_counts;  ///< Which of its calls can.
 
-    /// The stand-in.
-    static R Call(A... args) {
-        const auto real = reinterpret_cast<R (*)(A...)>(reinterpret_cast<UINT_PTR>(s_pReal));
+    /// A call: the failure, or what the function gives.
+    template <class R, class... A>
+    static R Do(A... args) {
+        const auto real = reinterpret_cast<Function>(reinterpret_cast<UINT_PTR>(s_pReal));
         if ((*s_counts)(args...) && Injection::Fails(s_pszName))
             return static_cast<R>((*s_fail)(real, args...));
         return real(args...);
     }
 };
+
+/// What is called instead of a function, in the same way.
+template <class Fail, class Counts, class Function>
+struct StandIn;
+
+template <class Fail, class Counts, class R, class... A>
+struct StandIn<Fail, Counts, R (*)(A...)> : Fault<Fail, Counts, R (*)(A...)> {
+    /// The stand-in.
+    static R Call(A... args) { return StandIn::template Do<R, A...>(args...); }
+};
+
+#ifdef __i386__ // where the system's functions are called in another way than others
+template <class Fail, class Counts, class R, class... A>
+struct StandIn<Fail, Counts, R(WINAPI*)(A...)> : Fault<Fail, Counts, R(WINAPI*)(A...)> {
+    /// The stand-in.
+    static R WINAPI Call(A... args) { return StandIn::template Do<R, A...>(args...); }
+};
+#endif
 
 /// For calls that can fail whatever their arguments.
 struct Always {
@@ -79,27 +112,30 @@ struct Always {
     }
 };
 
+/// A function that can fail. Of the function itself only the type counts: the program need not have it.
 /// @param fail   gives the failure; called with the real function and the arguments
 /// @param counts tells by the arguments whether the call can fail
-template <class Fail, class Counts = Always, class R, class... A>
-Point MakePoint(const char* pszName, R (*)(A...), Fail fail, Counts counts = {}) {
-    using Function = StandIn<Fail, Counts, R, A...>;
-    Function::s_pszName = pszName;
-    Function::s_fail.emplace(fail);
-    Function::s_counts.emplace(counts);
-    return {pszName, reinterpret_cast<void*>(reinterpret_cast<UINT_PTR>(&Function::Call)),
-            &Function::s_pReal};
+template <class Fail, class Counts = Always, class Function>
+Point MakePoint(const char* pszName, Function*, Fail fail, Counts counts = {}) {
+    using Instead = StandIn<Fail, Counts, Function*>;
+    Instead::s_pszName = pszName;
+    Instead::s_fail.emplace(fail);
+    Instead::s_counts.emplace(counts);
+    return {pszName, reinterpret_cast<void*>(reinterpret_cast<UINT_PTR>(&Instead::Call)), &Instead::s_pReal};
 }
 
+/// MakePoint() of a function by its name. The program is not linked with the function.
+#define FAULT_POINT_OF(function, ...)                                                                        \
+    testkit::fault::MakePoint(#function, static_cast<decltype(&::function)>(nullptr), __VA_ARGS__)
 /// A function that fails without having done anything.
 #define FAULT_POINT(function, failure, error)                                                                \
-    testkit::fault::MakePoint(#function, ::function, [](auto&&...) {                                         \
+    FAULT_POINT_OF(function, [](auto&&...) {                                                                 \
         ::SetLastError(error);                                                                               \
         return failure;                                                                                      \
     })
 /// A function that has done its work when it tells its failure, as one that releases something.
 #define LATE_FAULT_POINT(function, failure, error)                                                           \
-    testkit::fault::MakePoint(#function, ::function, [](auto real, auto... args) {                           \
+    FAULT_POINT_OF(function, [](auto real, auto... args) {                                                   \
         real(args...);                                                                                       \
         ::SetLastError(error);                                                                               \
         return failure;                                                                                      \
@@ -115,8 +151,11 @@ struct Import {
 /// The functions that a loaded module imports by name.
 std::vector<Import> ImportsOf(HMODULE hModule);
 
-/// Points a module's imports at the stand-ins. This holds until the process ends.
-void Install(HMODULE hModule, const std::vector<Point>& points);
+/// Points a module's imports at the stand-ins, and those at the functions themselves that have none: so
+/// it stays until another Install of the module, to the end of the process otherwise. Points that the
+/// module does not import are passed over.
+/// @param hModule must be loaded, null is a failure
+void Install(HMODULE hModule, const std::vector<Point>& points, const Place& place = {});
 
 /// An address as module and offset, for a message.
 std::string WhereIs(const void* pAddress);

@@ -2,6 +2,8 @@
 // may be what fails.
 #include "testkit/FaultLoop.h"
 
+#include "testkit/Faults.h"
+
 #include "afxdlgs.h"
 
 #include <cwchar>
@@ -17,6 +19,7 @@ namespace {
 class CVisitor {
 public:
     explicit CVisitor(int nButton) : m_nButton(nButton) {
+        const Injection::Pause none; // of the test's own calls, or nobody would close the dialog
         s_pCurrent = this;
         m_nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
     }

@@ -2,7 +2,7 @@
 #include "Caught.h"
 #include "support/Form.h"
 #include "testkit/FaultLoop.h"
-#include "testkit/Faults.h"
+#include "testkit/SystemFaults.h"
 
 using namespace testkit;
 using fx::Caught;
@@ -72,6 +72,27 @@ TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
         EXPECT_TRUE(expected.empty() || caught.m_texts[0].find(expected) != std::string::npos)
             << testing::PrintToString(caught.m_texts);
     }
+}
+
+TEST_F(FaultLoop, TriesADialogOfThisProgramWithAllThatTheSystemRefuses) {
+    bool bMade = false;
+    const auto run = [&](CWnd& owner) {
+        fx::Form form(&owner);
+        form.m_onInit = [&] {
+            const auto pChild = std::make_unique<HWND>(
+                ::CreateWindow(L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, form, nullptr, nullptr, nullptr));
+            bMade = *pChild != nullptr;
+        };
+        return fault::Visit([&] { return form.DoModal(); }, IDOK) == IDOK && bMade;
+    };
+    fault::Install(::GetModuleHandle(nullptr), fault::SystemPoints());
+    EXPECT_EQ(3, fault::FailEachCall({"form", run})) << "a window, its memory, and the press of OK";
+    fault::Install(::GetModuleHandle(nullptr), {});
+    EXPECT_EQ(0, fault::FailEachCall({"form", run})) << "no points any more";
+    SetUpTestSuite();
+    Caught caught;
+    fault::Install(::GetModuleHandle(L"none"), fault::SystemPoints());
+    EXPECT_EQ("fault points for a module that is not loaded", caught.m_texts.at(0));
 }
 
 TEST_F(FaultLoop, VisitsADialogAndEndsWhatIsInItsWay) {
