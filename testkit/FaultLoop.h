@@ -29,9 +29,9 @@ struct Scenario {
 
 /// Runs a scenario with a call failing, with another one, and so on, until it comes to its end without
 /// a failure. Each time everything must be released (Leftovers), the owner enabled, and a run without a
-/// failure must work afterwards; an exception of the framework or std::bad_alloc may come out of it. A
-/// crash, an abort or a hang of eight seconds ends the program and tells which call had failed. Needs a
-/// testkit::Application.
+/// failure must work afterwards; an exception of the framework or of the standard library may come out of
+/// it. A crash, an abort or a hang of eight seconds ends the program and tells which call had failed.
+/// Needs a testkit::Application.
 /// @param nRuns  how many calls fail at most, evenly spread; 0 for every one
 /// @param nShift another number takes other calls, so that all have their turn: the day, for example
 /// @return how many calls can fail

@@ -48,7 +48,7 @@ TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
                  return ::CloseHandle(hFirst) && ::CloseHandle(hSecond);
              return false;
          },
-         "leaky 1 CreateSemaphoreW\n    "},
+         "leaky after call 1, CreateSemaphoreW\n    "},
         {"broken",
          [](CWnd&) {
              const HANDLE h = Make();
@@ -56,14 +56,14 @@ TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
              ::CloseHandle(h);
              return !s_bBroken;
          },
-         "broken does not work after 1 (nothing)"},
+         "broken does not work after call 1, CreateSemaphoreW\n    "},
         {"disabled",
          [](CWnd& owner) {
              const HANDLE h = Make();
              owner.EnableWindow(h != nullptr);
              return h != nullptr && ::CloseHandle(h);
          },
-         "disabled leaves its owner disabled 1 CreateSemaphoreW"},
+         "disabled leaves its owner disabled after call 1, CreateSemaphoreW"},
     };
     for (const auto& [pszName, run, expected] : rows) {
         Caught caught;

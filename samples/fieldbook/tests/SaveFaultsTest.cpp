@@ -1,5 +1,5 @@
 // Each call that saving and loading make into the system fails, for each reason that there is.
-#include "testkit/Faults.h"
+#include "testkit/DiskFaults.h"
 #include "points/History.h"
 #include "points/ChangeFile.h"
 #include "points/FileReplacement.h"
@@ -9,114 +9,16 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 using namespace testkit;
 
 namespace {
 
-using fault::Injection;
-
-struct Trouble {
-    const char* pszName;
-    DWORD dwError; ///< ERROR_SUCCESS for reads and writes that do only a part of their work.
-    Injection::Extent extent;
-};
-
-constexpr Trouble TROUBLES[] = {
-    {"full disk", ERROR_DISK_FULL, Injection::Once},
-    {"disk that stays full", ERROR_DISK_FULL, Injection::Onwards},
-    {"card not ready", ERROR_NOT_READY, Injection::Once},
-    {"pulled card", ERROR_DEVICE_REMOVED, Injection::Onwards},
-    {"file in use", ERROR_SHARING_VIOLATION, Injection::Once},
-    {"write protection", ERROR_WRITE_PROTECT, Injection::Onwards},
-    {"no memory", ERROR_NOT_ENOUGH_MEMORY, Injection::Once},
-    {"half a block", ERROR_SUCCESS, Injection::Once},
-    {"half of each block", ERROR_SUCCESS, Injection::Onwards},
-};
-
-DWORD g_dwError = ERROR_SUCCESS; ///< Why calls fail at present.
-
-template <class Result>
-Result Refuse(Result failure) {
-    ::SetLastError(g_dwError);
-    return failure;
-}
-
-bool Fails() {
-    return g_dwError != ERROR_SUCCESS;
-}
-
-std::vector<fault::Point> Points() {
-    using fault::MakePoint;
-    const auto no = [](auto real, auto... args) { return Fails() ? Refuse(FALSE) : real(args...); };
-    const auto late = [](auto real, auto... args) {
-        const BOOL bDone = real(args...);
-        return Fails() ? Refuse(FALSE) : bDone;
-    };
-    const auto half = [](auto real, HANDLE hFile, auto pBlock, DWORD dwSize, auto... rest) {
-        return Fails() ? Refuse(FALSE) : real(hFile, pBlock, std::max<DWORD>(dwSize / 2, 1), rest...);
-    };
-    const auto noFile = [](auto real, auto... args) {
-        return Fails() ? Refuse(INVALID_HANDLE_VALUE) : real(args...);
-    };
-    const auto unknown = [](auto real, auto... args) {
-        return Fails() ? Refuse(INVALID_FILE_ATTRIBUTES) : real(args...);
-    };
-    const auto noMemory = [](auto real, size_t nSize) {
-        return g_dwError == ERROR_NOT_ENOUGH_MEMORY ? nullptr : real(nSize);
-    };
-    const auto noKey = [](auto real, auto... args) {
-        return Fails() ? static_cast<LSTATUS>(g_dwError) : real(args...);
-    };
-    return {MakePoint("CreateFileW", ::CreateFileW, noFile),
-            MakePoint("GetFileAttributesW", ::GetFileAttributesW, unknown),
-            MakePoint("ReadFile", ::ReadFile, half),
-            MakePoint("WriteFile", ::WriteFile, half),
-            MakePoint("SetFilePointerEx", ::SetFilePointerEx, no),
-            MakePoint("GetFileSizeEx", ::GetFileSizeEx, no),
-            MakePoint("FlushFileBuffers", ::FlushFileBuffers, no),
-            MakePoint("CloseHandle", ::CloseHandle, late),
-            MakePoint("MoveFileExW", ::MoveFileExW, no),
-            MakePoint("DeleteFileW", ::DeleteFileW, no),
-            MakePoint("malloc", ::malloc, noMemory),
-            MakePoint("RegCreateKeyExW", ::RegCreateKeyExW, noKey),
-            MakePoint("RegSetValueExW", ::RegSetValueExW, noKey),
-            MakePoint("RegSetKeyValueW", ::RegSetKeyValueW, noKey)};
-}
-
-/// Runs something with every single call failing, for every trouble, or for one alone.
-/// @param run    tells whether it was done; it may throw
-/// @param check  is told whether it was
-void ForEveryFault(const std::function<bool()>& run, const std::function<void(bool)>& check,
-                   DWORD dwErrorAlone = ERROR_SUCCESS) {
-    for (const wchar_t* pszModule : {static_cast<LPCWSTR>(nullptr), L"FieldkitFx.dll", L"Fieldkit.dll"})
-        fault::Install(::GetModuleHandle(pszModule), Points());
-    for (const Trouble& trouble : TROUBLES) {
-        g_dwError = trouble.dwError;
-        if (dwErrorAlone != ERROR_SUCCESS && dwErrorAlone != g_dwError)
-            continue;
-        const char* pszFailed = "";
-        for (int nCall = 1; pszFailed != nullptr; ++nCall) {
-            bool bDone = false;
-            {
-                Injection injection(nCall, trouble.extent);
-                try {
-                    bDone = run();
-                } catch (CException* pError) {
-                    injection.Stop();
-                    pError->Delete();
-                } catch (const std::bad_alloc&) {
-                }
-                pszFailed = injection.m_pszFailed;
-            }
-            SCOPED_TRACE(testing::Message() << trouble.pszName << ", call " << nCall << ", "
-                                            << (pszFailed != nullptr ? pszFailed : "none failed"));
-            EXPECT_TRUE(bDone || pszFailed != nullptr);
-            check(bDone);
-        }
+struct SaveFaults : testing::Test {
+    static void SetUpTestSuite() {
+        for (const wchar_t* pszModule : {static_cast<LPCWSTR>(nullptr), L"FieldkitFx.dll", L"Fieldkit.dll"})
+            fault::Install(::GetModuleHandle(pszModule), fault::DiskPoints());
     }
-}
+};
 
 /// A file under faults: the old one or the new one, whole, and only the new one without an error.
 void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
@@ -125,8 +27,9 @@ void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
     const std::string newer = file.Read();
     ASSERT_NE(older, newer);
     file.Write(older);
-    ForEveryFault(save, [&](bool bDone) {
-        EXPECT_EQ(bDone ? newer : older, file.Read());
+    fault::FailEachDiskCall(save, [&](const fault::DiskRun& run) {
+        SCOPED_TRACE(run.text);
+        EXPECT_EQ(run.bDone ? newer : older, file.Read());
         EXPECT_TRUE(save()) << "it must work as soon as the trouble is over";
         EXPECT_EQ(newer, file.Read());
         EXPECT_FALSE(CTestFile::Exists(file.GetPath() + L".new"));
@@ -134,7 +37,7 @@ void ExpectOldOrNew(const CTestFile& file, const std::function<bool()>& save) {
     });
 }
 
-TEST(SaveFaults, PointsAreTheOldOrTheNewOnes) {
+TEST_F(SaveFaults, PointsAreTheOldOrTheNewOnes) {
     const CTestFile file(L"fieldbook-faults.csv", "P,1,2,3\r\n");
     ExpectOldOrNew(file, [&] {
         RewriteFile(file.GetPath(), std::string(10'000, 'n'));
@@ -142,7 +45,7 @@ TEST(SaveFaults, PointsAreTheOldOrTheNewOnes) {
     });
 }
 
-TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
+TEST_F(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
     const CTestFile points(L"fieldbook-faults.csv"), record(points.GetPath() + L".changes");
     ::CreateDirectory(L"own", nullptr);
     auto pFile = std::make_unique<CChangeFile>(L"own");
@@ -153,13 +56,14 @@ TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
         pFile->Append({{CPointChange::Kind::Add, 0, {}, {L"P", CCoordinate(1, 2, 3, 3)}}});
         return true;
     };
-    ForEveryFault(append, [&](bool bDone) {
+    fault::FailEachDiskCall(append, [&](const fault::DiskRun& run) {
+        SCOPED_TRACE(run.text);
         pFile.reset(); // as if it were killed
         pFile = std::make_unique<CChangeFile>(L"own");
         ASSERT_TRUE(pFile->Claim(points.GetPath()));
         const std::optional<CLeftChanges> left = pFile->FindLeft(points.GetPath(), 1);
         const size_t nLeft = left ? left->changes.size() : 0;
-        EXPECT_GE(nLeft, nRecorded + (bDone ? 1 : 0));
+        EXPECT_GE(nLeft, nRecorded + (run.bDone ? 1 : 0));
         EXPECT_LE(nLeft, nRecorded + 1);
         nRecorded = nLeft;
         if (left)
@@ -168,7 +72,7 @@ TEST(SaveFaults, ChangeThatWasRecordedIsThereAfterARestart) {
     pFile->Begin(1);
 }
 
-TEST(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
+TEST_F(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
     const CTestFile points(L"fieldbook-faults.csv"), disk(points.GetPath() + L".changes");
     ::CreateDirectory(L"own", nullptr);
     CChangeFile record(L"own");
@@ -194,7 +98,8 @@ TEST(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
         return strNames;
     };
     fresh();
-    const auto check = [&](bool) {
+    const auto check = [&](const fault::DiskRun& run) {
+        SCOPED_TRACE(run.text);
         EXPECT_TRUE(book.Add({L"Z", CCoordinate(1, 2, 3, 3)})) << "as soon as the trouble is over";
         CPointBook again;
         again.AddRead({L"A", CCoordinate(1, 2, 3, 3)});
@@ -208,11 +113,11 @@ TEST(SaveFaults, BookAndItsRecordHaveTheSameChangesWithoutMemory) {
         EXPECT_STREQ(L"A", namesOf(book)) << "all can be taken back";
         fresh();
     };
-    ForEveryFault(change, check, ERROR_NOT_ENOUGH_MEMORY);
+    fault::FailEachDiskCall(change, check, {{"no memory", ERROR_NOT_ENOUGH_MEMORY, fault::Injection::Once}});
     record.Begin(1);
 }
 
-TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
+TEST_F(SaveFaults, HistoryIsTheOldOrTheNewOne) {
     const CTestFile file(L"fieldbook-faults.dat");
     CHistory history(file.GetPath());
     history.Add(L"T1");
@@ -225,12 +130,13 @@ TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
     ASSERT_TRUE(history.Save());
     const std::string whole = file.Read();
     EXPECT_NE(whole, saved);
-    ForEveryFault(
+    fault::FailEachDiskCall(
         [&] {
             history.Load();
             return true;
         },
-        [&](bool) {
+        [&](const fault::DiskRun& run) {
+            SCOPED_TRACE(run.text);
             EXPECT_TRUE(history.Save()) << "an empty one perhaps";
             file.Write(whole);
             history.Load();
@@ -239,27 +145,29 @@ TEST(SaveFaults, HistoryIsTheOldOrTheNewOne) {
         });
 }
 
-TEST(SaveFaults, BackupIsTheOldOrTheNewOne) {
+TEST_F(SaveFaults, BackupIsTheOldOrTheNewOne) {
     const CTestFile file(L"fieldbook-faults.csv", std::string(10'000, 'n'));
     const CTestFile backup(file.GetPath() + L".bak", "older");
     ExpectOldOrNew(backup, [&] { return KeepBackup(file.GetPath()); });
 }
 
-TEST(SaveFaults, SettingsThatWereNotWrittenAreTold) {
+TEST_F(SaveFaults, SettingsThatWereNotWrittenAreTold) {
     CWinApp& app = *AfxGetApp();
     app.SetRegistryKey(L"FieldbookFaults");
     const CSettings before = LoadSettings(app);
     CSettings settings;
     settings.bTenths = 1;
     settings.strFolder = L"\\測量";
-    ForEveryFault([&] { return SaveSettings(app, settings); },
-                  [&](bool bDone) {
-                      const CSettings loaded = LoadSettings(app);
-                      EXPECT_TRUE(!bDone || (loaded.bTenths == 1 && loaded.strFolder == settings.strFolder));
-                      EXPECT_TRUE(loaded.strFolder.IsEmpty() || loaded.strFolder == settings.strFolder);
-                      EXPECT_TRUE(SaveSettings(app, settings));
-                      ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
-                  });
+    fault::FailEachDiskCall(
+        [&] { return SaveSettings(app, settings); },
+        [&](const fault::DiskRun& run) {
+            SCOPED_TRACE(run.text);
+            const CSettings loaded = LoadSettings(app);
+            EXPECT_TRUE(!run.bDone || (loaded.bTenths == 1 && loaded.strFolder == settings.strFolder));
+            EXPECT_TRUE(loaded.strFolder.IsEmpty() || loaded.strFolder == settings.strFolder);
+            EXPECT_TRUE(SaveSettings(app, settings));
+            ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
+        });
     SaveSettings(app, before); // the decimals belong to all applications
     ::RegDeleteTree(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
     ::RegDeleteKey(HKEY_CURRENT_USER, L"Software\\FieldbookFaults");
