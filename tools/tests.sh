@@ -14,6 +14,8 @@ other_screens=('320x240 96' '480x640 192' '800x480 96' '1024x768 96')
 # take about as long. The programs that look at all dialogs run on each of other_screens as well.
 run_tests() {
     local built=$SECONDS lane
+    # The same events each time, of which the first are as good as any; ./run shake has the time for more.
+    export SHAKE_EVENTS=${SHAKE_EVENTS:-1000}
     start_lane native tests_without_screen "$1"
     start_lane second tests_on_second_screen "$1"
     start_lane third tests_on_third_screen "$1"
