@@ -1,5 +1,6 @@
 // Entry fields, lists, scroll bars: members that do more than send their message, and owner draw.
 #include "support/TestApp.h"
+#include "testkit/Picture.h"
 
 #include "afxcmn.h"
 
@@ -180,7 +181,9 @@ TEST(CheckList, StatesFollowTheirItemsAndATapChangesThem) {
     EXPECT_EQ(1, frame.m_nChanged) << "the text is not the box";
     list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(0, list.GetCheck(1));
+    EXPECT_TRUE(Picture::Of(list).Has(item, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
     list.Enable(1, FALSE);
+    EXPECT_TRUE(Picture::Of(list).Has(item, ::GetSysColor(COLOR_GRAYTEXT)));
     list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(2, frame.m_nChanged);
     list.ResetContent();
@@ -222,6 +225,10 @@ TEST(DragList, ADroppedItemMovesWithItsData) {
         EXPECT_EQ(static_cast<DWORD_PTR>(text[0]), list.GetItemData(i));
     }
     EXPECT_EQ(L"cab", order);
+    list.Dropped(0, first + CPoint(0, 2 * item.Height()));
+    CString moved;
+    list.GetText(1, moved);
+    EXPECT_EQ(L"c", moved) << "before the one it was dropped on";
 }
 
 } // namespace

@@ -59,8 +59,9 @@ TEST(CommonDialogs, FontAndSearchBeginWithWhatTheyAreGiven) {
     };
     Frame frame;
     auto* const pFind = new Probe;
-    ASSERT_TRUE(pFind->Create(TRUE, L"P1", nullptr, FR_DOWN, &frame));
+    ASSERT_TRUE(pFind->Create(FALSE, L"P1", L"P2", FR_DOWN, &frame));
     EXPECT_EQ(L"P1", pFind->GetFindString());
+    EXPECT_EQ(L"P2", pFind->GetReplaceString());
     EXPECT_EQ(pFind, CFindReplaceDialog::GetNotifier(reinterpret_cast<LPARAM>(&pFind->m_fr)));
     EXPECT_EQ(pFind, CWnd::FromHandlePermanent(*pFind));
     pFind->DestroyWindow();

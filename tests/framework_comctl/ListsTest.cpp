@@ -12,7 +12,7 @@ struct Lists : testing::Test {
         m_list.InsertColumn(0, L"名前", LVCFMT_LEFT, 80);
         m_list.InsertColumn(1, L"サイズ", LVCFMT_RIGHT, 60, 1);
         for (int i = 0; i < 4; ++i)
-            m_list.InsertItem(LVIF_TEXT | LVIF_PARAM, i, L"item", 0, 0, 0, i + 33);
+            m_list.InsertItem(LVIF_TEXT | LVIF_PARAM | LVIF_IMAGE, i, L"item", 0, 0, i + 5, i + 33);
         m_root = m_tree.InsertItem(L"ﾙｰﾄ", 2, 3);
         m_item = m_tree.InsertItem(L"beta", m_root);
         m_leaf = m_tree.InsertItem(TVIF_TEXT | TVIF_PARAM, L"leaf", 0, 0, 0, 0, 77, m_item, TVI_LAST);
@@ -40,6 +40,11 @@ TEST_F(Lists, GiveTextsOfAnyLength) {
 
 TEST_F(Lists, ItemsHaveDataImagesAndState) {
     EXPECT_EQ(34U, m_list.GetItemData(1));
+    LVITEM item = {};
+    item.mask = LVIF_IMAGE;
+    item.iItem = 1;
+    EXPECT_TRUE(m_list.GetItem(&item));
+    EXPECT_EQ(6, item.iImage);
     EXPECT_EQ(0U, m_list.GetItemData(9));
     EXPECT_EQ(77U, m_tree.GetItemData(m_leaf));
     constexpr auto kWide = ~DWORD_PTR{0} / 3;
@@ -76,8 +81,10 @@ TEST_F(Lists, SelectedItemsAreWalkedOver) {
 }
 
 TEST_F(Lists, ItemsHaveTheirPlaces) {
-    CRect item, sub;
+    CRect item, label, sub;
     ASSERT_TRUE(m_list.GetItemRect(1, item, LVIR_BOUNDS));
+    ASSERT_TRUE(m_list.GetItemRect(1, label, LVIR_LABEL));
+    EXPECT_EQ(item.right - 60, label.right);
     ASSERT_TRUE(m_list.GetSubItemRect(1, 1, LVIR_BOUNDS, sub));
     EXPECT_EQ(item.left + 80, sub.left) << "right of column 0";
     EXPECT_EQ(60, sub.Width());

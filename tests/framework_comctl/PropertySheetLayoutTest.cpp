@@ -49,7 +49,10 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     const auto last = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a, &sheet.m_b, &wide, &added});
         sheet.ShowWindow(SW_SHOWMAXIMIZED);
+        CWnd* const pField = added.GetDlgItem(fx::IDC_NUMBER);
+        pField->SetFocus();
         added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
+        EXPECT_EQ(pField->m_hWnd, ::GetFocus());
         ExpectLaidOut(sheet, {&added});
         sheet.EndDialog(1);
     };

@@ -154,10 +154,12 @@ TEST(ModalSheet, TabsAreNamedByThePagesCaptionOrTemplate) {
         sheet.SetTitle(L"別の名");
         EXPECT_EQ(L"別の名", TextOf(sheet));
     });
-    CPropertySheet fromId(40010);
+    CPropertySheet fromId(40010, nullptr, 1);
+    fromId.AddPage(&sheet.m_a);
     fromId.AddPage(&named);
     ASSERT_TRUE(fromId.Create());
     EXPECT_EQ(L"設定", TextOf(fromId));
+    EXPECT_EQ(&named, fromId.GetActivePage());
 }
 
 TEST(ModalSheet, PagesCanBeChosenAddedAndRemovedBeforeAndWhileItRuns) {
@@ -233,7 +235,7 @@ TEST(ModalSheet, FailedInitialisationEndsItAndTheNextCallWorks) {
 }
 
 TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
-    constexpr UINT ID_MENU = 0x8001, ID_BUTTON = 0x1001;
+    constexpr UINT ID_MENU = 0x8000, ID_OTHER = 0x8001, ID_BUTTON = 0x7FFF;
     struct Owner : Frame {
         BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override {
             m_commands.push_back(nID);
@@ -247,7 +249,12 @@ TEST(ModelessSheet, MenuCommandsThatItDoesNotKnowReachItsOwner) {
     for (CWnd* pSource : {static_cast<CWnd*>(&sheet), static_cast<CWnd*>(&sheet.m_a)}) {
         pSource->SendMessage(WM_COMMAND, ID_MENU);
         pSource->SendMessage(WM_COMMAND, ID_BUTTON);
-        EXPECT_EQ(std::vector<UINT>{ID_MENU}, std::exchange(owner.m_commands, {}));
+        EXPECT_FALSE(pSource->OnCmdMsg(ID_OTHER, CN_COMMAND, nullptr, nullptr))
+            << "neither owner nor program";
+        CCmdUI look;
+        look.m_nID = ID_MENU;
+        EXPECT_TRUE(pSource->OnCmdMsg(ID_MENU, CN_UPDATE_COMMAND_UI, &look, nullptr));
+        EXPECT_EQ((std::vector{ID_MENU, ID_OTHER, ID_MENU}), std::exchange(owner.m_commands, {}));
     }
 }
 
