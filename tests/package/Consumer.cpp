@@ -2,7 +2,6 @@
 #include <afxwin.h>
 #include "Tesuvo.h"
 #include "dialogs/InputDlg.h"
-#include "geometry/Vector.h"
 #include "resources/ResourceIds.h"
 
 #include <cstdio>
@@ -14,12 +13,6 @@ static std::string Utf8(const CString& str) {
     char text[200] = "";
     ::WideCharToMultiByte(CP_UTF8, 0, str, -1, text, sizeof text, nullptr, nullptr);
     return text;
-}
-
-static CString LoadedText(UINT nID) {
-    CString str;
-    str.LoadString(nID);
-    return str;
 }
 
 /// Tells what it shows, and then presses its own OK button.
@@ -48,12 +41,6 @@ static BOOL CALLBACK CountName(HMODULE, LPCWSTR, LPWSTR, LONG_PTR pCount) {
 
 int main() {
     AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW);
-
-    CVector meeting;
-    CVector::IntersectLineLine(CVector(0, 0), CVector(4, 2), CVector(0, 2), CVector(4, 0), meeting, 0);
-    std::printf("intersection %.3f %.3f\n", meeting.GetX(), meeting.GetY());
-
-    std::printf("texts %s, %s\n", Utf8(LoadedText(1490)).c_str(), Utf8(LoadedText(IDS_FK_ERROR)).c_str());
 
     CSelfClosingDlg dialog;
     const bool ok = dialog.DoModal() == IDOK;

@@ -24,23 +24,6 @@ struct FaultLoop : testing::Test {
 TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
     static bool s_bBroken;
     const Rows<const char*, std::function<bool(CWnd&)>, std::string> rows = {
-        {"good",
-         [](CWnd&) {
-             const HANDLE hFirst = Make(), hSecond = Make();
-             for (const HANDLE h : {hFirst, hSecond})
-                 if (h != nullptr)
-                     ::CloseHandle(h);
-             return hFirst != nullptr && hSecond != nullptr;
-         },
-         ""},
-        {"throws",
-         [](CWnd&) {
-             const HANDLE h = Make();
-             if (h == nullptr)
-                 AfxThrowMemoryException();
-             return ::CloseHandle(h) != FALSE;
-         },
-         ""},
         {"leaky",
          [](CWnd&) {
              const HANDLE hFirst = Make(), hSecond = Make();
@@ -68,9 +51,8 @@ TEST_F(FaultLoop, TellsWhatIsLeftAndWhatNeverWorksAgain) {
     for (const auto& [pszName, run, expected] : rows) {
         Caught caught;
         fault::FailEachCall({pszName, run});
-        ASSERT_EQ(expected.empty(), caught.m_texts.empty()) << pszName;
-        EXPECT_TRUE(expected.empty() || caught.m_texts[0].find(expected) != std::string::npos)
-            << testing::PrintToString(caught.m_texts);
+        ASSERT_FALSE(caught.m_texts.empty()) << pszName;
+        EXPECT_EQ(0U, caught.m_texts[0].find(expected)) << caught.m_texts[0];
     }
 }
 
@@ -95,20 +77,14 @@ TEST_F(FaultLoop, TriesADialogOfThisProgramWithAllThatTheSystemRefuses) {
     EXPECT_EQ("fault points for a module that is not loaded", caught.m_texts.at(0));
 }
 
-TEST_F(FaultLoop, VisitsADialogAndEndsWhatIsInItsWay) {
-    const auto visit = [](int nButton, bool bQuestion) {
-        fx::Form form;
-        form.m_onOk = [&] {
-            if (bQuestion)
-                ::MessageBox(form, L"?", L"", MB_YESNO);
-            form.EndDialog(bQuestion ? 7 : IDOK);
-        };
-        return fault::Visit([&] { return form.DoModal(); }, nButton);
+TEST_F(FaultLoop, VisitOfADialogAnswersNoAndTellsThatThereWasNone) {
+    fx::Form form;
+    form.m_onOk = [&] {
+        ::MessageBox(form, L"?", L"", MB_YESNO);
+        form.EndDialog(7);
     };
-    EXPECT_EQ(IDOK, visit(IDOK, false));
-    EXPECT_EQ(IDCANCEL, visit(IDCANCEL, false));
-    EXPECT_EQ(7, visit(IDOK, true));
-    EXPECT_EQ(0, fault::Visit([] { return IDOK; }, IDOK)) << "there was none";
+    EXPECT_EQ(7, fault::Visit([&] { return form.DoModal(); }, IDOK));
+    EXPECT_EQ(0, fault::Visit([] { return IDOK; }, IDOK));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // From the questions to the journal, with the keys that a panel sends.
 #include "PenSteps.h"
 #include "screens/Computations.h"
+#include "testkit/Application.h"
 
 using namespace testkit;
 
@@ -32,8 +33,7 @@ TEST(Computations, AskForWhatTheyNeedAndWriteItDown) {
          {std::tuple(L"A", 0.0, 0.0), std::tuple(L"B", 10.0, 0.0), std::tuple(L"C", 10.0, 10.0),
           std::tuple(L"D", 0.0, 10.0), std::tuple(L"P", 5.0, 13.0)})
         job.book.Add({pszName, CCoordinate(dE, dN, 0, 1)});
-    CWnd parent;
-    parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0);
+    Frame parent(CSize(1, 1), WS_POPUP);
     CComputations computations(parent, job);
     const struct {
         const char* pszCase;
@@ -82,7 +82,6 @@ TEST(Computations, AskForWhatTheyNeedAndWriteItDown) {
         lines.resize(c.lines.size());
         EXPECT_EQ(c.lines, lines);
     }
-    parent.DestroyWindow();
 }
 
 } // namespace

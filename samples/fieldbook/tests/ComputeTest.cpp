@@ -10,11 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ostream>
-
-void PrintTo(const CCoordinate& point, std::ostream* pOut) {
-    *pOut << "N " << point.GetN() << " E " << point.GetE();
-}
 
 using testkit::Rows;
 
@@ -73,18 +68,9 @@ TEST_F(Compute, LineMeetsACircleTwiceOnceOrNotAtAll) {
 
 TEST_F(Compute, CirclesAreScreened) {
     const CCoordinate c = At(-35300, 13200);
-    const Rows<const char*, CCoordinate, double, double, Verdict> cases = {
-        {"apart", At(-35300, 13270), 40, 29, Verdict::Apart},
-        {"second inside first", At(-35300, 13205), 40, 30, Verdict::Inside},
-        {"first inside second", At(-35300, 13205), 30, 40, Verdict::Inside},
-        {"concentric", c, 40, 30, Verdict::Inside},
-        {"identical", c, 40, 40, Verdict::SameCircle},
-    };
-    for (const auto& [pszCase, centre, dRadius1, dRadius2, verdict] : cases) {
-        SCOPED_TRACE(pszCase);
-        ExpectNone(IntersectCircles(c, dRadius1, centre, dRadius2), verdict);
-    }
-    ExpectPoints(IntersectCircles(c, 40, At(-35300, 13270), 30), {At(-35300, 13240)});
+    ExpectNone(IntersectCircles(c, 40, At(-35300, 13270), 29), Verdict::Apart);
+    ExpectNone(IntersectCircles(c, 30, At(-35300, 13205), 40), Verdict::Inside);
+    ExpectNone(IntersectCircles(c, 40, c, 40), Verdict::SameCircle);
     ExpectPoints(IntersectCircles(c, 40, At(-35300, 13210), 30), {At(-35300, 13240)});
 }
 
@@ -93,7 +79,6 @@ TEST_F(Compute, CentreOfTheCurveFromItsCentralAngle) {
     ExpectPoints(FindArcCentre(bc, ec, QUARTER), {Point(L"CC1")});
     // Turning right from BC, the centre is CC1 mirrored on the chord: the corner of the tangents.
     ExpectPoints(FindArcCentre(bc, ec, -QUARTER), {Point(L"IP1")});
-    ExpectPoints(FindArcCentre(bc, ec, 2 * QUARTER), {At(-35237, 13261)});
     // 10 minutes over 50 m: (25, 25 / tan 5') along and left of the chord, from formulas of 50 digits.
     ExpectPoints(FindArcCentre(At(0, 0), At(0, 50), 10 / 60.0 / 90 * QUARTER), {At(17188.721733581, 25)});
     ExpectNone(FindArcCentre(bc, ec, 0), Verdict::BadAngle);
@@ -126,36 +111,16 @@ TEST_F(Compute, CurveOfTheRoad) {
     EXPECT_NEAR(3 * QUARTER, curve.dSweep, 1e-8) << "not written";
 }
 
-TEST_F(Compute, DirectionAndDistanceLeadToThePoint) {
-    const CCoordinate t1 = Point(L"T1"); // T2 lies 30 to the north and 40 to the east
-    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, std::atan2(40, 30), 50)}}, {Point(L"T2")});
-    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, QUARTER, 10)}}, {At(-35345, 13235)});
-    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, -QUARTER, 10)}}, {At(-35345, 13215)});
-}
-
 TEST_F(Compute, FiguresMeetInAnyCombination) {
-    const CCoordinate t1 = Point(L"T1");
-    const CCoordinate t2 = Point(L"T2"); // (30, 40) from T1
-    const double dToT2 = std::atan2(40, 30);
-    const auto sights = [](const CCoordinate& a, double dA, const CCoordinate& b, double dB) {
-        return Meet(LineTowards(a, dA), LineTowards(b, dB));
-    };
-    ExpectPoints(sights(t1, 0, t2, -QUARTER), {At(-35315, 13225)});
-    ExpectPoints(sights(t1, 2 * QUARTER, t2, QUARTER), {At(-35315, 13225)}); // behind both
-    ExpectPoints(sights(t1, dToT2, t2, 0), {t2});
-    ExpectPoints(sights(t1, 0.5, At(-35315, 13225 + 30 * std::tan(0.5)), 2), // on the way
-                 {At(-35315, 13225 + 30 * std::tan(0.5))});
+    const CCoordinate t1 = Point(L"T1"), t2 = Point(L"T2");
     CVector::SetTolerance(1e-4);
-    ExpectPoints(sights(t1, 5e-7, At(-25345, 13325), -QUARTER), {At(-25345, 13225.005)}); // 10 km
+    ExpectPoints(Meet(LineTowards(t1, 5e-7), LineTowards(At(-25345, 13325), -QUARTER)),
+                 {At(-25345, 13225.005)}); // 10 km
     CVector::SetTolerance(1e-6);
-    ExpectNone(sights(t1, 1, t2, 1), Verdict::Parallel);
-    ExpectNone(sights(t1, 1, t2, 1 + 2 * QUARTER), Verdict::Parallel);
-    ExpectNone(sights(t1, dToT2, t2, dToT2), Verdict::Parallel); // one and the same line
 
     // 4 m to the right of a wall that runs north, 3 m to the left of one that runs east.
     const CFigure wall = LineBeside(At(0, 0), At(10, 0), 4);
     ExpectPoints(Meet(wall, LineBeside(At(0, 0), At(0, 10), -3)), {At(3, 4)});
-    ExpectPoints(Meet(wall, CircleAround(At(0, 0), 5)), {At(3, 4), At(-3, 4)});
     ExpectPoints(Meet(CircleAround(At(0, 0), 5), LineTowards(At(-9, 4), 0)), {At(3, 4), At(-3, 4)});
     ExpectPoints(Meet(CircleAround(t1, 40), CircleAround(t2, 30)), {Point(L"境界1"), Point(L"境界2")});
     ExpectNone(Meet(LineBeside(t1, t1, 4), wall), Verdict::SamePoint);
@@ -163,12 +128,10 @@ TEST_F(Compute, FiguresMeetInAnyCombination) {
 
 TEST_F(Compute, PointBesideALine) {
     COffset offset{};
-    for (const auto& [dAlong, dToTheRight] : Rows<double, double>{{10, 5}, {-3, -2}, {40, 0}}) {
-        EXPECT_EQ(Verdict::Found, FindOffset(At(0, 0), At(20, 0), At(dAlong, dToTheRight), offset));
-        ExpectPoints({Verdict::Found, {offset.foot}}, {At(dAlong, 0)});
-        EXPECT_DOUBLE_EQ(dAlong, offset.dAlong);
-        EXPECT_DOUBLE_EQ(dToTheRight, offset.dToTheRight);
-    }
+    EXPECT_EQ(Verdict::Found, FindOffset(At(0, 0), At(20, 0), At(-3, -2), offset));
+    ExpectPoints({Verdict::Found, {offset.foot}}, {At(-3, 0)});
+    EXPECT_DOUBLE_EQ(-3, offset.dAlong);
+    EXPECT_DOUBLE_EQ(-2, offset.dToTheRight);
     EXPECT_EQ(Verdict::SamePoint, FindOffset(At(1, 1), At(1, 1), At(2, 2), offset));
     EXPECT_EQ(Verdict::NoPosition, FindOffset(At(1, 1), CCoordinate(), At(2, 2), offset));
 }
@@ -177,9 +140,7 @@ TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
     const CCoordinate a = At(-35300, 13200), b = At(-35300, 13230);
     const CCoordinate c = At(-35260, 13230), d = At(-35260, 13200);
     const Rows<const char*, std::vector<CCoordinate>, double, double, bool> cases = {
-        {"counter-clockwise", {a, b, c, d}, 1200, 140, false},
         {"clockwise", {d, c, b, a}, 1200, 140, false},
-        {"a triangle", {a, b, c}, 600, 120, false},
         {"a corner on a side", {a, b, At(-35280, 13230), c, d}, 1200, 140, false},
         {"sides that cross", {a, c, b, d}, 0, 180, true},
     };
@@ -196,7 +157,8 @@ TEST_F(Compute, PolygonIsMeasuredEitherWayRound) {
 }
 
 TEST_F(Compute, WayBackFromAPointIsFoundInEveryQuadrant) {
-    const CCoordinate t1 = Point(L"T1");
+    const CCoordinate t1 = Point(L"T1"); // T2 lies 30 to the north and 40 to the east
+    ExpectPoints({Verdict::Found, {FindPolarPoint(t1, std::atan2(40, 30), 50)}}, {Point(L"T2")});
     for (const double dDistance : {0.002, 0.016, 50.0, 1e6}) // the second: below what the kernel sees
         for (int nDegrees = 0; nDegrees < 360; nDegrees += 15) {
             const double dDirection = nDegrees * QUARTER / 90;
@@ -218,46 +180,30 @@ TEST_F(Compute, ExtentTakesInWhatHasAPosition) {
     north.SetN(1000);
     CCoordinate height;
     height.SetZ(99);
-    const auto Found = [](std::vector<CCoordinate> points, CCoordinate& lo, CCoordinate& hi) {
-        std::vector<CNamedPoint> named;
-        for (const CCoordinate& point : points)
-            named.push_back({L"P", point});
-        return FindExtent(named, lo, hi);
-    };
-    CCoordinate lo = At(7, 7), hi = At(8, 8);
-    EXPECT_FALSE(Found({}, lo, hi));
-    EXPECT_FALSE(Found({north, height}, lo, hi));
-    EXPECT_EQ(7, lo.GetN());
-
+    CCoordinate lo, hi;
+    EXPECT_FALSE(FindExtent({{L"P", north}, {L"Q", height}}, lo, hi));
     // All beyond the origin: what is not there yet must not count as zero.
-    ASSERT_TRUE(Found({height, At(20, 300), north, CCoordinate(200, 10, 5, 3), At(15, 400)}, lo, hi));
+    ASSERT_TRUE(FindExtent({{L"P", north}, {L"Q", At(20, 300)}, {L"R", CCoordinate(200, 10, 5, 3)}}, lo, hi));
     EXPECT_EQ(10, lo.GetN());
     EXPECT_EQ(200, lo.GetE());
     EXPECT_EQ(20, hi.GetN());
-    EXPECT_EQ(400, hi.GetE());
+    EXPECT_EQ(300, hi.GetE());
     EXPECT_EQ(5, lo.GetZ());
     EXPECT_EQ(5, hi.GetZ());
-
-    ASSERT_TRUE(Found({At(3, 4)}, lo, hi));
-    EXPECT_FALSE(lo.IsExistZ());
 }
 
 TEST_F(Compute, PointsWithoutPositionGiveNoResult) {
     const CCoordinate p = At(1, 2), q = At(3, 4);
-    CCoordinate half;
-    half.SetN(5);
-    for (const CCoordinate& none : {half, CCoordinate()}) {
-        EXPECT_FALSE(HasPosition(none));
-        ExpectNone(IntersectLines(p, q, none, At(9, 9)), Verdict::NoPosition);
-        ExpectNone(Meet(LineTowards(p, 0), LineTowards(none, 1)), Verdict::NoPosition);
-        ExpectNone(IntersectLineCircle(p, q, none, 3), Verdict::NoPosition);
-        ExpectNone(IntersectCircles(none, 1, p, 1), Verdict::NoPosition);
-        ExpectNone(FindArcCentre(p, none, 1), Verdict::NoPosition);
-        CCurve curve{};
-        EXPECT_EQ(Verdict::NoPosition, FindCurve(p, q, none, curve));
-        CInverse inverse{};
-        EXPECT_FALSE(FindInverse(none, p, inverse));
-    }
+    CCoordinate none;
+    none.SetN(5);
+    ExpectNone(IntersectLines(p, q, none, At(9, 9)), Verdict::NoPosition);
+    ExpectNone(IntersectLineCircle(p, q, none, 3), Verdict::NoPosition);
+    ExpectNone(IntersectCircles(none, 1, p, 1), Verdict::NoPosition);
+    ExpectNone(FindArcCentre(p, none, 1), Verdict::NoPosition);
+    CCurve curve{};
+    EXPECT_EQ(Verdict::NoPosition, FindCurve(p, q, none, curve));
+    CInverse inverse{};
+    EXPECT_FALSE(FindInverse(none, p, inverse));
 }
 
 } // namespace

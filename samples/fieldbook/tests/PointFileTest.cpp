@@ -1,4 +1,5 @@
 #include "points/PointFile.h"
+#include "points/PointLine.h"
 #include "points/PointSaving.h"
 
 #include "points/FileReplacement.h"
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+
+using fieldkit::survey::kNull;
 
 using testkit::Rows;
 
@@ -37,9 +40,9 @@ TEST(PointFile, ShippedFilesAreReadAndComeBackAsTheyWereSaved) {
     const Rows<const wchar_t*, int, const wchar_t*, double, double, double, Faults> cases = {
         {L"points.csv", 40, L"境界1", -35306.6, 13236.2, 23.994, {}},
         {L"boundary.csv", 8, L"K1", -35288, 13184, 24.512, {}},
-        {L"boundary.csv", 8, L"境界7", -35290.25, fieldkit::survey::kNull, fieldkit::survey::kNull, {}},
-        {L"levels.csv", 5, L"BM1", fieldkit::survey::kNull, fieldkit::survey::kNull, 25.204, {}},
-        {L"stakes.csv", 4, L"No.10+12.5", -35286.475, 13192.225, fieldkit::survey::kNull, {}},
+        {L"boundary.csv", 8, L"境界7", -35290.25, kNull, kNull, {}},
+        {L"levels.csv", 5, L"BM1", kNull, kNull, 25.204, {}},
+        {L"stakes.csv", 4, L"No.10+12.5", -35286.475, 13192.225, kNull, {}},
         {L"utf8.csv", 5, L"消火栓", -35290.735, 13228.16, 23.994, {}},
         {L"lot.sim", 4, L"K3", -35312, 13216, 24.205, {}},
         {L"points_bad.csv",
@@ -129,11 +132,8 @@ TEST(PointFile, NoLineIsLostOrShifted) {
     const std::string point = "P,1,2\r\n";
     const Rows<const char*, std::string, int, Faults> cases = {
         {"empty file", "", 0, {}},
-        {"only line ends", "\r\n\r\n", 0, {}},
         {"blanks behind the last line", point + " \t\r\n \n", 1, {}},
         {"a heading behind line 1", point + "name,N,E,Z\r\n", 1, {{2, LineFault::BadNumber}}},
-        {"CR alone", "P,1,2\rQ,1,2\r", 2, {}},
-        {"no end", point + "Q,1,2", 1, {{2, LineFault::NotTerminated}}},
         {"511 characters", "P,1,2,," + std::string(510, 'c') + "\r\n", 1, {}},
         {"512 characters", "P,1,2,," + std::string(511, 'c') + "\r\n", 0, {{1, LineFault::TooLong}}},
         {"a bad first point is no heading", "P,1o,2o,3\r\nQ,1,2\r\n", 1, {{1, LineFault::BadNumber}}},
@@ -223,6 +223,44 @@ TEST(PointFile, PointThatAFileCannotHoldIsNamed) {
         EXPECT_FALSE(FormatFile({point}, format, bytes, strBad));
         EXPECT_TRUE(strBad == point.strName);
         EXPECT_EQ("old", bytes);
+    }
+}
+
+TEST(PointLine, FieldsAreCheckedOneByOne) {
+    const CString strLongest(L'n', 64);
+    const Rows<CString, const wchar_t*, const wchar_t*, const wchar_t*, LineFault> cases = {
+        {L"P1", L"1", L"2", L"3", LineFault::None},
+        {L"P1", L"1,234.5", L"2", L" ", LineFault::None},
+        {L"P1", L"1,234", L"2", L"3", LineFault::BadNumber}, // 1.234 or 1234?
+        {L"P1", L"１，２３４", L"2", L"3", LineFault::BadNumber},
+        {L"P1", L"1", L"2m", L"3", LineFault::BadNumber},
+        {L"P1", L"1", L"2", L"-", LineFault::BadNumber},
+        {L"P1", L"1", L"-999999999.9", L"3", LineFault::None},
+        {L"P1", L"1e9", L"2", L"3", LineFault::BadNumber},
+        {L" \t ", L"1", L"2", L"3", LineFault::NoName},
+        {strLongest, L"1", L"2", L"3", LineFault::None},
+        {strLongest + L"n", L"1", L"2", L"3", LineFault::BadName},
+    };
+    for (const auto& [strName, pszN, pszE, pszZ, fault] : cases) {
+        CNamedPoint point{L"old", CCoordinate()};
+        EXPECT_EQ(fault, ParsePoint(strName, pszN, pszE, pszZ, point)) << pszN << ' ' << pszE;
+        EXPECT_EQ(fault != LineFault::None, point.strName == L"old");
+    }
+}
+
+TEST(PointLine, BlankMembersAreAbsentAndTheOthersKept) {
+    const Rows<const wchar_t*, const wchar_t*, const wchar_t*, double, double, double> cases = {
+        {L"5", L"", L"", 5, kNull, kNull},
+        {L" ", L"\t", L"7", kNull, kNull, 7},
+        {L"0", L"0", L"", 0, 0, kNull}, // zero is a value
+    };
+    for (const auto& [pszN, pszE, pszZ, dN, dE, dZ] : cases) {
+        CNamedPoint point;
+        ASSERT_EQ(LineFault::None, ParsePoint(L"境 界7", pszN, pszE, pszZ, point));
+        EXPECT_STREQ(L"境界7", point.strName);
+        EXPECT_EQ(dN, point.point.GetN());
+        EXPECT_EQ(dE, point.point.GetE());
+        EXPECT_EQ(dZ, point.point.GetZ());
     }
 }
 

@@ -4,6 +4,7 @@
 #include "../TestFile.h"
 #include "../WindowCloser.h"
 #include "screens/JobFile.h"
+#include "testkit/Application.h"
 #include "testkit/Program.h"
 
 #include <random>
@@ -40,11 +41,8 @@ CString NameOf(int nPoint) {
 /// Opens the file as it was left, with all changes. @return the number of points; -1 on failure
 int OpenLeft(CJob& job) {
     const CWindowCloser closer; // of the line that says so
-    CWnd parent;
-    parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0);
-    const bool bOpen = OpenPointsFile(job, FILE_NAME, parent);
-    parent.DestroyWindow();
-    return bOpen ? job.book.GetCount() : -1;
+    testkit::Frame parent(CSize(1, 1), WS_POPUP);
+    return OpenPointsFile(job, FILE_NAME, parent) ? job.book.GetCount() : -1;
 }
 
 /// What the killed program does: enters points and saves now and then, without end.
