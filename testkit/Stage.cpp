@@ -8,11 +8,14 @@ namespace {
 
 bool g_bTicked = false;
 
+void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    g_bTicked = true;
+}
+
 /// Until a timer's message comes, which has to wait for all input before it.
 void Settle() {
     g_bTicked = false;
-    const UINT_PTR nTimer =
-        ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) { g_bTicked = true; });
+    const UINT_PTR nTimer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
     PumpUntil([] { return g_bTicked; });
     ::KillTimer(nullptr, nTimer);
 }
