@@ -2,7 +2,7 @@
 /// Proves that a part of a program stands every failure of the system: it is done again and again, each
 /// time with another call failing.
 ///
-///     fault::Install(::GetModuleHandle(nullptr), points); // see "testkit/Faults.h"
+///     fault::Install(::GetModuleHandle(nullptr), fault::SystemPoints()); // see "testkit/SystemFaults.h"
 ///     fault::FailEachCall({"Points", [](CWnd& owner) {
 ///         CPointsDlg dlg(&owner);
 ///         return fault::Visit([&] { return dlg.DoModal(); }, IDOK) == IDOK;

@@ -118,19 +118,6 @@ struct FileReplacement : testing::Test {
     const CTestFile m_file{L"fieldbook-replaced.txt", OLD};
 };
 
-TEST_F(FileReplacement, NewFileTakesTheOldOnesPlace) {
-    RewriteFile(m_file.GetPath(), [this](CFile& file) {
-        WriteNew(file);
-        EXPECT_EQ(OLD, m_file.Read()) << "whole until the new one is complete";
-    });
-    EXPECT_EQ("new\r\n", m_file.Read());
-    EXPECT_FALSE(IsNewThere());
-
-    ::DeleteFile(m_file.GetPath());
-    RewriteFile(m_file.GetPath(), WriteNew);
-    EXPECT_EQ("new\r\n", m_file.Read()) << "where there was none";
-}
-
 TEST_F(FileReplacement, FileThatCannotBeReplacedIsLeftAlone) {
     ASSERT_TRUE(::SetFileAttributes(m_file.GetPath(), FILE_ATTRIBUTE_READONLY));
     EXPECT_EQ(CFileException::accessDenied, CauseOf(m_file.GetPath(), WriteNew));
