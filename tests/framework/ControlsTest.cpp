@@ -181,9 +181,11 @@ TEST(CheckList, StatesFollowTheirItemsAndATapChangesThem) {
     EXPECT_EQ(1, frame.m_nChanged) << "the text is not the box";
     list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(0, list.GetCheck(1));
-    EXPECT_TRUE(Picture::Of(list).Has(item, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
+    const CRect text(item.left + 25, item.top, item.right, item.bottom);
+    EXPECT_TRUE(Picture::Of(list).Has(text, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
+    EXPECT_TRUE(Picture::Of(list).Has(text - CPoint(0, item.Height()), ::GetSysColor(COLOR_WINDOWTEXT)));
     list.Enable(1, FALSE);
-    EXPECT_TRUE(Picture::Of(list).Has(item, ::GetSysColor(COLOR_GRAYTEXT)));
+    EXPECT_TRUE(Picture::Of(list).Has(text, ::GetSysColor(COLOR_GRAYTEXT)));
     list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(2, frame.m_nChanged);
     list.ResetContent();
@@ -216,19 +218,20 @@ TEST(DragList, ADroppedItemMovesWithItsData) {
     EXPECT_EQ(TRUE, drag(DL_BEGINDRAG, first));
     EXPECT_EQ(DL_MOVECURSOR, drag(DL_DRAGGING, first));
     EXPECT_EQ(DL_STOPCURSOR, drag(DL_DRAGGING, first + CPoint(500, 0)));
-    list.Dropped(2, first);
-    CString order;
-    for (int i = 0; i < list.GetCount(); ++i) {
-        CString text;
-        list.GetText(i, text);
-        order += text;
-        EXPECT_EQ(static_cast<DWORD_PTR>(text[0]), list.GetItemData(i));
+    const Rows<int, CPoint, const wchar_t*> drops = {{2, first, L"cab"},
+                                                     {0, first + CPoint(0, 2 * item.Height()), L"acb"},
+                                                     {0, first + CPoint(500, 0), L"acb"}}; // beside the list
+    for (const auto& [nItem, point, pszOrder] : drops) {
+        list.Dropped(nItem, point);
+        CString order;
+        for (int i = 0; i < list.GetCount(); ++i) {
+            CString text;
+            list.GetText(i, text);
+            order += text;
+            EXPECT_EQ(static_cast<DWORD_PTR>(text[0]), list.GetItemData(i));
+        }
+        EXPECT_EQ(pszOrder, order);
     }
-    EXPECT_EQ(L"cab", order);
-    list.Dropped(0, first + CPoint(0, 2 * item.Height()));
-    CString moved;
-    list.GetText(1, moved);
-    EXPECT_EQ(L"c", moved) << "before the one it was dropped on";
 }
 
 } // namespace
