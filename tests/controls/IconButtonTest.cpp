@@ -1,6 +1,6 @@
 // The icon button, on the screen and under the stylus.
 #include "support/Colors.h"
-#include "testkit/Picture.h"
+#include "testkit/Canvas.h"
 #include "support/TestApp.h"
 
 #include "controls/IconButton.h"
@@ -80,12 +80,8 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
             SCOPED_TRACE(std::to_string(nStyle) + ' ' + std::to_string(nAction) + ' ' +
                          std::to_string(nState));
             ButtonStage stage(SIZE_, nStyle);
-            CClientDC screen(&stage);
-            CBitmap bitmap;
-            bitmap.CreateCompatibleBitmap(&screen, SIZE_.cx, SIZE_.cy);
-            CDC dc; // goes before the bitmap
-            dc.CreateCompatibleDC(&screen);
-            dc.SelectObject(&bitmap);
+            Canvas canvas(SIZE_.cx, SIZE_.cy);
+            CDC& dc = canvas.m_dc;
             dc.FillSolidRect(CRect(CPoint(), SIZE_), PAPER);
             dc.SetTextColor(RGB(1, 1, 1));
             dc.SetBkColor(RGB(2, 2, 2));
@@ -95,7 +91,7 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
             item.hDC = dc;
             item.rcItem = CRect(CPoint(), SIZE_);
             stage.m_button.DrawItem(&item);
-            const Picture image(dc, SIZE_);
+            const Picture image = canvas.Look();
             EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace);
             if (!bFace) {
                 const CRect drawn =

@@ -9,7 +9,6 @@ using namespace testkit;
 namespace {
 
 constexpr COLORREF CYAN = RGB(0, 255, 255);
-constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr int MARKED = 3;
 
 struct MarkingList : CSelectListCtrl {
@@ -35,10 +34,10 @@ TEST(SelectList, MarkedRowIsBlackOnCyanAtItsStageOfDrawing) {
         draw.nmcd.hdr = {list.m_hWnd, 1, static_cast<UINT>(NM_CUSTOMDRAW)};
         draw.nmcd.dwDrawStage = dwStage;
         draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(nItem);
-        draw.clrText = draw.clrTextBk = RED;
+        draw.clrText = draw.clrTextBk = fx::RED;
         EXPECT_EQ(frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&draw)), lResult) << dwStage;
-        EXPECT_EQ(draw.clrText, bColored ? fx::BLACK : RED) << dwStage;
-        EXPECT_EQ(draw.clrTextBk, bColored ? CYAN : RED) << dwStage;
+        EXPECT_EQ(draw.clrText, bColored ? fx::BLACK : fx::RED) << dwStage;
+        EXPECT_EQ(draw.clrTextBk, bColored ? CYAN : fx::RED) << dwStage;
     }
 }
 

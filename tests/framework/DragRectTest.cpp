@@ -1,5 +1,6 @@
 // The frame that follows what the user drags: it shows, moves, and leaves no trace.
-#include "Canvas.h"
+#include "support/TestApp.h"
+#include "testkit/Canvas.h"
 
 using namespace testkit;
 
@@ -25,10 +26,10 @@ TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
         {{15, 15}, nullptr, 200},
     };
     for (const auto& [size, pBrush, nPixels] : rows) {
-        fx::Canvas canvas;
+        Canvas canvas;
         canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), size, nullptr, size, pBrush);
         EXPECT_EQ(nPixels, canvas.CountDrawn()) << size.cx;
-        const std::string picture = canvas.Picture();
+        const std::string picture = canvas.Text();
         EXPECT_EQ(picture.find_first_not_of(".\n"), picture.find('#'));
         EXPECT_GE(picture.find('#'), 10U * 41);
     }
@@ -36,7 +37,7 @@ TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
 
 // With the same brush all the way, a dialog is dragged in tests/controls.
 TEST(DragRect, AnotherBrushAndThicknessAreTakenBackToo) {
-    fx::Canvas canvas;
+    Canvas canvas;
     CDC& dc = canvas.m_dc;
     for (int i = 0; i < 40 * 40; ++i) // an inverted pixel is always seen
         dc.SetPixel(i % 40, i / 40, RGB(6 * (i % 40), 6 * (i / 40), 100));

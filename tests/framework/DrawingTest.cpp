@@ -1,5 +1,7 @@
 // Drawing: the state of device contexts, what appears on a bitmap, who deletes pens and brushes.
-#include "Canvas.h"
+#include "support/Colors.h"
+#include "support/TestApp.h"
+#include "testkit/Canvas.h"
 
 #include <algorithm>
 
@@ -30,16 +32,16 @@ TEST(DeviceContext, DrawsWhereItBelongs) {
          "....... ..#.... ....... ....... ......."},
     };
     for (const auto& [draw, wanted] : rows) {
-        fx::Canvas canvas(7, 5);
+        Canvas canvas(7, 5);
         draw(canvas.m_dc);
-        std::string drawn = canvas.Picture();
+        std::string drawn = canvas.Text();
         std::replace(drawn.begin(), drawn.end(), '\n', ' ');
         EXPECT_EQ(wanted + ' ', drawn);
     }
 }
 
 TEST(DeviceContext, SizesHaveNoOriginAndNoDirection) {
-    fx::Canvas canvas;
+    Canvas canvas;
     CDC& dc = canvas.m_dc;
     dc.SetMapMode(MM_ANISOTROPIC);
     dc.SetWindowExt(200, 100);
@@ -59,7 +61,7 @@ TEST(DeviceContext, SizesHaveNoOriginAndNoDirection) {
 }
 
 TEST(DeviceContext, AnotherContextAnswersQuestions) {
-    fx::Canvas drawn, asked;
+    Canvas drawn, asked;
     CDC dc;
     dc.SetOutputDC(drawn.m_dc);
     dc.SetAttribDC(asked.m_dc);

@@ -1,10 +1,12 @@
 // Parts that programs bring along: backgrounds, pictures on buttons, arguments, bars.
-#include "Canvas.h"
-#include "afxdialogex.h"
-#include "afxext.h"
+#include "support/Colors.h"
 #include "support/MenuOwner.h"
+#include "testkit/Canvas.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Program.h"
+
+#include "afxdialogex.h"
+#include "afxext.h"
 
 using namespace testkit;
 using fx::BLUE, fx::RED;
@@ -34,7 +36,7 @@ TEST(DialogEx, ColourAndPictureAreBehindItsTexts) {
     dialog.GetClientRect(client);
     const CSize size = client.Size();
     const auto corners = [&] {
-        fx::Canvas canvas(size.cx, size.cy);
+        Canvas canvas(size.cx, size.cy);
         EXPECT_EQ(TRUE, dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.m_dc.m_hDC)));
         std::string found;
         for (const CPoint p : {CPoint(2, 1), CPoint(size.cx - 3, 1), CPoint(2, size.cy - 2),
@@ -115,7 +117,7 @@ TEST(BitmapButton, LoadsThePicturesThatAreThere) {
 }
 
 TEST(BitmapButton, ShowsThePictureOfItsState) {
-    fx::Canvas canvas;
+    Canvas canvas;
     Frame frame;
     Child<PictureButton> button(frame, BS_OWNERDRAW);
     for (int i = 0; i < 4; ++i)

@@ -9,6 +9,8 @@ namespace fx {
 
 constexpr COLORREF BLACK = RGB(0, 0, 0);
 constexpr COLORREF WHITE = RGB(255, 255, 255);
+constexpr COLORREF RED = RGB(255, 0, 0);
+constexpr COLORREF BLUE = RGB(0, 0, 255);
 constexpr COLORREF MAGENTA = RGB(255, 0, 255);
 
 /// An icon that is one square of magenta.
