@@ -36,6 +36,13 @@ TEST(DialogData, FillsListsAndIsNeverReadBehindItsEnd) {
         EXPECT_EQ(pszCounts, std::to_string(listBox.GetCount()) + " " + std::to_string(comboBox.GetCount()))
             << pszName;
     }
+    DialogTemplate dialogTemplate;
+    dialogTemplate.Add(WC_LISTBOX, L"", 5, 0, 2, 2, 30, 30);
+    CDialog dialog;
+    dialog.m_bFullScreen = FALSE;
+    ASSERT_TRUE(
+        dialog.CreateIndirect(dialogTemplate.Get(), nullptr, const_cast<char*>((list + end).c_str())));
+    EXPECT_EQ(1, static_cast<CListBox*>(dialog.GetDlgItem(5))->GetCount());
 }
 
 TEST(RadioButtons, TheCheckedOneOfARangeIsTheFirst) {

@@ -30,6 +30,11 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     fx::Sheet sheet;
     fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE), added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
     sheet.AddPage(&wide);
+    bool bSized = false;
+    added.m_hear = [&](UINT message, WPARAM, LPARAM) {
+        bSized = bSized || message == WM_SIZE;
+        return std::optional<LRESULT>();
+    };
     const auto first = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a});
         EXPECT_TRUE(sheet.m_a.IsWindowVisible());
@@ -52,7 +57,9 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
         CWnd* const pField = added.GetDlgItem(fx::IDC_NUMBER);
         pField->SetFocus();
         added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
+        added.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
         EXPECT_EQ(pField->m_hWnd, ::GetFocus());
+        EXPECT_TRUE(bSized) << "and can lay itself out";
         ExpectLaidOut(sheet, {&added});
         sheet.EndDialog(1);
     };
