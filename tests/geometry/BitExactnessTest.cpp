@@ -188,13 +188,4 @@ TEST(BitExactness, ResultsAreTheSameOnEveryPlatform) {
         GTEST_SKIP() << "no results known for the trigonometry of this library, " << library;
 }
 
-#ifndef _WIN32
-// The quarter turn is a constant; the library that it was taken from must still say so.
-TEST(BitExactness, QuarterTurnIsTheMathematicsLibrarys) {
-    volatile double quarter = 1.570796327;
-    EXPECT_EQ(std::cos(quarter), CVector(1, 0).R_Normal(CVector::Left).GetX());
-    EXPECT_EQ(std::sin(quarter), CVector(1, 0).R_Normal(CVector::Left).GetY());
-}
-#endif
-
 } // namespace
