@@ -12,28 +12,19 @@ namespace {
 
 TEST(Time, HasPartsAndText) {
     const CTime time(2024, 2, 29, 13, 5, 9);
-    EXPECT_EQ(2024, time.GetYear());
-    EXPECT_EQ(2, time.GetMonth());
-    EXPECT_EQ(29, time.GetDay());
-    EXPECT_EQ(13, time.GetHour());
-    EXPECT_EQ(5, time.GetMinute());
-    EXPECT_EQ(9, time.GetSecond());
-    EXPECT_EQ(5, time.GetDayOfWeek());
+    EXPECT_EQ((std::array{2024, 2, 29, 13, 5, 9, 5}),
+              (std::array{time.GetYear(), time.GetMonth(), time.GetDay(), time.GetHour(), time.GetMinute(),
+                          time.GetSecond(), time.GetDayOfWeek()}));
     EXPECT_EQ(time, CTime((44 << 9 | 2 << 5 | 29) & 0xFFFF, 13 << 11 | 5 << 5 | 4) + CTimeSpan(1));
     EXPECT_EQ(2999, CTime(2999, 12, 31, 0, 0, 0).GetYear());
     for (const auto& [format, text] :
          {std::pair{L"%Y-%m-%d %H:%M:%S", L"2024-02-29 13:05:09"}, {L"", L""}, {LPCTSTR{nullptr}, L""}})
         EXPECT_STREQ(text, time.Format(format));
     EXPECT_EQ(3000, time.Format(CString(L'x', 3000)).GetLength());
-    EXPECT_STREQ(L"1970", CTime(0).FormatGmt(L"%Y"));
-    EXPECT_EQ(70, CTime(0).GetGmtTm()->tm_year);
     EXPECT_EQ(3000 - 1900, CTime(32'535'215'999).GetGmtTm()->tm_year);
     std::tm parts{};
-    EXPECT_EQ(&parts, time.GetLocalTm(&parts));
-    EXPECT_EQ(29, parts.tm_mday);
-    EXPECT_EQ(&parts, CTime(0).GetGmtTm(&parts));
-    EXPECT_EQ(1, parts.tm_mday);
-    EXPECT_EQ(29, time.GetLocalTm()->tm_mday);
+    EXPECT_EQ(29, time.GetLocalTm(&parts)->tm_mday);
+    EXPECT_EQ(1, CTime(0).GetGmtTm(&parts)->tm_mday);
     const CTime now = CTime::GetCurrentTime();
     EXPECT_LE(std::time(nullptr) - now.GetTime(), 60);
 }
@@ -64,10 +55,6 @@ TEST(Time, CalculatesInSeconds) {
         ExpectOrder(static_cast<int>(n - 2), CTimeSpan(n), CTimeSpan(LONGLONG{2}));
     }
     CTimeSpan span(101, 2, 3, 4);
-    EXPECT_EQ(101, span.GetDays());
-    EXPECT_EQ(2, span.GetHours());
-    EXPECT_EQ(3, span.GetMinutes());
-    EXPECT_EQ(4, span.GetSeconds());
     EXPECT_EQ(2426, span.GetTotalHours());
     EXPECT_EQ(2426 * 60 + 3, span.GetTotalMinutes());
     EXPECT_EQ((2426 * 60 + 3) * 60 + 4, span.GetTotalSeconds());
@@ -100,7 +87,6 @@ TEST(Time, LocalTimeIsThatOfTheZone) {
     EXPECT_EQ(CTimeSpan(3600), CTime(2024, 10, 27, 2, 30, 0, 0) - CTime(2024, 10, 27, 2, 30, 0, 1));
     const CTime noon(2024, 7, 1, 12, 0, 0);
     EXPECT_STREQ(L"12, 10 UTC", noon.Format(L"%H, ") + noon.FormatGmt(L"%H UTC"));
-    EXPECT_EQ(10, noon.GetGmtTm()->tm_hour);
     EXPECT_EQ(0, CTime(1970, 1, 1, 1, 0, 0).GetTime());
     EXPECT_THROW(CTime(1970, 1, 1, 0, 59, 59), CInvalidArgException*);
     ::unsetenv("TZ");

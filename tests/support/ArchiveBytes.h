@@ -53,18 +53,6 @@ Bytes Stored(Fill fill) {
     return ContentOf(file);
 }
 
-/// Whether `use()` throws that exception, which is deleted.
-template <class Exception, class Use>
-bool Throws(Use use) {
-    try {
-        use();
-        return false;
-    } catch (Exception* e) {
-        e->Delete();
-        return true;
-    }
-}
-
 /// The cause of the exception that `use()` throws, 0 if it throws none.
 template <class Exception = CFileException, class Use>
 int CauseOf(Use use) {

@@ -32,9 +32,6 @@ inline std::ostream& operator<<(std::ostream& out, const Use& use) {
 }
 Use Now();
 
-/// The most bytes in use at a time since the last call, beyond what was in use then.
-std::size_t TakePeak();
-
 enum class End { Done, NoMemory, FileError };
 
 /// Runs it to one of the ends that are allowed; anything else is not caught.
@@ -59,36 +56,5 @@ End EndOf(Run run) {
 /// @param arm FailMemory or the like
 /// @return the number of points that failed
 long FailEach(const std::function<void(long)>& arm, const std::function<void()>& run);
-
-/// Changes an object with each allocation failing in turn: it is then as it was before, and the
-/// same change works afterwards.
-/// @param make gives the object by smart pointer
-/// @param look gives what can be compared of it
-/// @return the number of allocations
-template <class Make, class Change, class Look>
-long FailEachChange(Make make, Change change, Look look) {
-    const auto untouched = make();
-    const auto old = look(*untouched);
-    change(*untouched);
-    const auto changed = look(*untouched);
-    for (long nth = 1;; ++nth) {
-        const Use before = Now();
-        bool failed = false;
-        {
-            const auto object = make();
-            FailMemory(nth);
-            const End end = EndOf([&] { change(*object); });
-            failed = Disarm();
-            if (end != End::Done) {
-                EXPECT_EQ(look(*object), old) << "changed by failure " << nth;
-                change(*object);
-            }
-            EXPECT_EQ(look(*object), changed) << "after failure " << nth;
-        }
-        EXPECT_EQ(Now(), before) << "left after failure " << nth;
-        if (!failed)
-            return nth - 1;
-    }
-}
 
 } // namespace faults

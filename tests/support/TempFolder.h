@@ -10,6 +10,10 @@
 #include <random>
 #include <string>
 #include <string_view>
+#ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 struct TempFolder : testing::Test {
     static constexpr UINT kCreate = CFile::modeCreate | CFile::modeReadWrite;
@@ -32,6 +36,27 @@ struct TempFolder : testing::Test {
         CFile file(path, CFile::modeRead | CFile::shareDenyNone);
         const Bytes bytes = ContentOf(file);
         return {bytes.begin(), bytes.end()};
+    }
+
+    /// What another user of the file is told who locks a range for a moment.
+    static int CauseOfLocking(LPCTSTR path, ULONGLONG position, ULONGLONG count) {
+        const auto lock = [&] {
+            return CauseOf([&] {
+                CFile other(path, CFile::modeReadWrite | CFile::shareDenyNone);
+                other.LockRange(position, count);
+                other.UnlockRange(position, count);
+            });
+        };
+#ifdef _WIN32
+        return lock();
+#else
+        const pid_t child = ::fork(); // locks are those of a process
+        if (child == 0)
+            ::_exit(lock());
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return WEXITSTATUS(status);
+#endif
     }
 
     const std::filesystem::path m_folder =

@@ -1,12 +1,10 @@
 #include "support/NativeFaults.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <malloc.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,7 +22,6 @@ long g_left = 0;
 bool g_failed = false;
 
 faults::Use g_use;
-std::size_t g_bytes = 0, g_peak = 0;
 
 bool FailsNow(Kind kind, const char* call) {
     if (g_kind != kind || (g_call != nullptr && std::strcmp(g_call, call) != 0) || --g_left != 0)
@@ -35,8 +32,6 @@ bool FailsNow(Kind kind, const char* call) {
 
 void* Counted(void* memory) {
     g_use.blocks += 1;
-    g_bytes += malloc_usable_size(memory);
-    g_peak = std::max(g_peak, g_bytes);
     return memory;
 }
 
@@ -51,7 +46,6 @@ void Release(void* memory) {
     if (memory == nullptr)
         return;
     g_use.blocks -= 1;
-    g_bytes -= malloc_usable_size(memory);
     std::free(memory);
 }
 
@@ -113,13 +107,6 @@ long FailEach(const std::function<void(long)>& arm, const std::function<void()>&
         EXPECT_EQ(End::Done, end);
         return nth - 1;
     }
-}
-
-std::size_t TakePeak() {
-    static std::size_t s_base = 0;
-    const std::size_t peak = g_peak - std::min(g_peak, s_base);
-    g_peak = s_base = g_bytes;
-    return peak;
 }
 
 } // namespace faults

@@ -1,17 +1,13 @@
-// What the texts utilities make of want of memory, bad disks and damaged files.
+// What the texts utilities make of want of memory and bad disks.
+#include "support/NativeFaults.h"
 #include "support/TempFolder.h"
-#include "support/host/DamagedBytes.h"
 #include "util/BufferedAsciiFile.h"
-#include "util/StringStack.h"
 
 #include <cerrno>
 #include <csignal>
 #include <cwchar>
-#include <memory>
 
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 // fieldkit::detail::OemToWide by the name that the linker knows.
 #define OEM_TO_WIDE(prefix) prefix##_ZN8fieldkit6detail9OemToWideEPKcPwi
@@ -43,42 +39,15 @@ private:
     void (*m_pfnBefore)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
-Bytes Archived(CStringStack& stack) {
-    return Stored([&](CArchive& ar) { stack.Serialize(ar); });
-}
+struct BufferedAsciiFileFaults : TempFolder {
+    const CString m_path = Path(L"faults.txt");
+};
 
-TEST(StringStackFaults, AddingChangesAllOrNothing) {
-    for (const int tail : {0, 1})
-        EXPECT_GT(faults::FailEachChange(
-                      [&] {
-                          auto pStack = std::make_unique<CStringStack>(tail, 2);
-                          pStack->Add(L"first", 0);
-                          pStack->Add(L"a text that is longer than any small string 1", 1);
-                          return pStack;
-                      },
-                      [&](CStringStack& stack) { stack.Add(kLong, tail); }, Archived),
-                  0);
-}
-
-TEST(StringStackFaults, LoadingLeaksNothingAndTakesWhatTheFileHas) {
-    CStringStack stack;
-    stack.Add(kLong, 0);
-    const Bytes bytes = Archived(stack);
-    const auto load = [](CArchive& ar) { CStringStack().Serialize(ar); };
-    EXPECT_GT(faults::FailEach(faults::FailMemory, [&] { Loaded(bytes, load); }), 3);
-    EXPECT_LT(LoadWithoutLoss(FromHex("ff ff ff 7f ff fe ff 00"), load), 10'000U);
-}
-
-TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
-    CMemFile content;
-    struct CGiven : CAsciiFile {
-        explicit CGiven(CFile& file) : m_file(file) {}
-        UINT Read(void* lpBuf, UINT nCount) override { return m_file.Read(lpBuf, nCount); }
-        CFile& m_file;
-    } file(content);
-    content.Write("old1\r\n", 6);
+TEST_F(BufferedAsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
+    CAsciiFile file;
+    ASSERT_TRUE(file.Open(Make(L"faults.txt", "old1\r\n"), CFile::modeRead));
     const auto read = [&] {
-        content.SeekToBegin();
+        file.SeekToBegin();
         CString str = kLong;
         EXPECT_EQ(1, file.ReadString(str));
         return str;
@@ -90,10 +59,6 @@ TEST(AsciiFileFaults, ReadingLeaksNothingAndTrustsNoConverter) {
     EXPECT_STREQ(L"", read());
     g_converter = Converter::Sound;
 }
-
-struct BufferedAsciiFileFaults : TempFolder {
-    const CString m_path = Path(L"faults.txt");
-};
 
 TEST_F(BufferedAsciiFileFaults, EachFailureIsTheCallersAndNothingIsLeft) {
     const auto fail = [](long nth) { faults::FailCall(nullptr, EIO, nth); };
@@ -175,25 +140,17 @@ TEST_F(BufferedAsciiFileFaults, AroundALockTheFileIsAsOthersSeeIt) {
     CBufferedAsciiFile file;
     ASSERT_TRUE(file.Open(Make(L"faults.txt", "1\r\n2\r\n"), CFile::modeReadWrite | CFile::shareDenyNone));
     CFile other(m_path, CFile::modeReadWrite | CFile::shareDenyNone);
-    const auto isLocked = [&](ULONGLONG nPosition) {
-        const pid_t child = ::fork(); // locks are those of a process
-        if (child == 0)
-            ::_exit(faults::EndOf([&] { other.LockRange(nPosition, 1); }) == faults::End::FileError ? 1 : 0);
-        int nStatus = 0;
-        ::waitpid(child, &nStatus, 0);
-        return WEXITSTATUS(nStatus) == 1;
-    };
     char bytes[4] = {};
     file.Read(bytes, 1);
     other.Write("abc", 3);
     file.LockRange(0, 4);
-    EXPECT_TRUE(isLocked(3));
-    EXPECT_FALSE(isLocked(4));
+    EXPECT_EQ(CFileException::lockViolation, CauseOfLocking(m_path, 3, 1));
+    EXPECT_EQ(CFileException::none, CauseOfLocking(m_path, 4, 1));
     EXPECT_EQ(3U, file.Read(bytes, 3));
     EXPECT_STREQ("bc2", bytes);
     file.Write("d", 1);
     file.UnlockRange(0, 4);
-    EXPECT_FALSE(isLocked(3));
+    EXPECT_EQ(CFileException::none, CauseOfLocking(m_path, 3, 1));
     other.Seek(4, CFile::begin);
     EXPECT_EQ(1U, other.Read(bytes, 1));
     EXPECT_EQ('d', bytes[0]);
