@@ -3,8 +3,6 @@
 #include "testkit/TitleBar.h"
 #include "testkit/Pen.h"
 
-#include <thread>
-
 using namespace testkit;
 
 namespace {
@@ -141,20 +139,6 @@ TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
     EXPECT_TRUE(panel::IsVisible()) << "there is still something to type into";
     next.DestroyWindow();
     panel::ExpectHidden();
-}
-
-TEST(InputPanelThreads, PanelEndsWithItsThread) {
-    for (int round = 0; round < 2; ++round) {
-        HWND hPanel = nullptr;
-        std::thread([&hPanel] {
-            TVShowSIP(1);
-            hPanel = panel::OfThread();
-            EXPECT_TRUE(panel::IsVisible());
-        }).join();
-        ASSERT_NE(nullptr, hPanel);
-        EXPECT_FALSE(::IsWindow(hPanel));
-    }
-    TVCloseSIP();
 }
 
 } // namespace

@@ -117,20 +117,6 @@ TEST(IconButton, EachTapHoweverQuickIsAClickAndFlipsAToggleButtonOnly) {
     }
 }
 
-TEST(IconButton, ReleaseOutsideDoesNothing) {
-    ButtonStage stage({60, 24}, CIconButton::StyleToggle);
-    const CRect rect = RectOf(stage.m_button);
-    // The right and bottom edges are outside already.
-    for (const CPoint end : {CPoint(rect.right, rect.top + 5), CPoint(rect.left + 5, rect.bottom),
-                             rect.BottomRight() + CSize(30, 30), rect.TopLeft() - CSize(3, 3)}) {
-        stage.Drag(rect.CenterPoint(), end);
-        EXPECT_FALSE(stage.m_button.GetPush()) << end.x << ' ' << end.y;
-    }
-    EXPECT_EQ(0, stage.Count(IDC_BUTTON, BN_CLICKED));
-    stage.Drag(rect.CenterPoint(), rect.BottomRight() - CSize(1, 1));
-    EXPECT_TRUE(stage.m_button.GetPush());
-}
-
 TEST(IconButton, PushStateBelongsToToggleButtons) {
     Frame bystander;
     bystander.RedrawWindow();

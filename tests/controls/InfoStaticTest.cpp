@@ -85,16 +85,4 @@ TEST_F(InfoStatic, TapsReachTheSystem) {
     EXPECT_EQ(1, m_frame.Count(1, STN_CLICKED));
 }
 
-TEST_F(InfoStatic, TextHasTheFontOfItsDialog) {
-    m_text.SetWindowText(L"H");
-    CFont font;
-    font.CreatePointFont(60, L"IPAPGothic");
-    m_text.SetFont(&font);
-    const CRect small = Ink(Look(), fx::WHITE, CRect(CPoint(), SIZE_));
-    CFont large;
-    large.CreatePointFont(140, L"IPAPGothic");
-    m_text.SetFont(&large);
-    EXPECT_GT(Ink(Look(), fx::WHITE, CRect(CPoint(), SIZE_)).Height(), small.Height() + 4);
-}
-
 } // namespace

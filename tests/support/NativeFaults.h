@@ -32,6 +32,9 @@ inline std::ostream& operator<<(std::ostream& out, const Use& use) {
 }
 Use Now();
 
+/// The largest block of memory that was asked for since the last call.
+std::size_t TakeLargest();
+
 enum class End { Done, NoMemory, FileError };
 
 /// Runs it to one of the ends that are allowed; anything else is not caught.

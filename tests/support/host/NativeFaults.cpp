@@ -1,10 +1,12 @@
 #include "support/NativeFaults.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,6 +25,8 @@ bool g_failed = false;
 
 faults::Use g_use;
 
+std::size_t g_largest = 0;
+
 bool FailsNow(Kind kind, const char* call) {
     if (g_kind != kind || (g_call != nullptr && std::strcmp(g_call, call) != 0) || --g_left != 0)
         return false;
@@ -35,8 +39,13 @@ void* Counted(void* memory) {
     return memory;
 }
 
+bool FailsToAllocate(std::size_t size) {
+    g_largest = std::max(g_largest, size);
+    return FailsNow(Kind::Memory, "");
+}
+
 void* Allocate(std::size_t size) {
-    void* const memory = FailsNow(Kind::Memory, "") ? nullptr : __real_malloc(size != 0 ? size : 1);
+    void* const memory = FailsToAllocate(size) ? nullptr : __real_malloc(size != 0 ? size : 1);
     if (memory == nullptr)
         throw std::bad_alloc();
     return Counted(memory);
@@ -95,6 +104,10 @@ Use Now() {
     return g_use;
 }
 
+std::size_t TakeLargest() {
+    return std::exchange(g_largest, 0);
+}
+
 long FailEach(const std::function<void(long)>& arm, const std::function<void()>& run) {
     for (long nth = 1;; ++nth) {
         const Use before = Now();
@@ -141,10 +154,10 @@ ssize_t __real_read(int fd, void* buffer, std::size_t count);
 ssize_t __real_write(int fd, const void* buffer, std::size_t count);
 
 void* __wrap_malloc(std::size_t size) {
-    return FailsNow(Kind::Memory, "") ? nullptr : __real_malloc(size);
+    return FailsToAllocate(size) ? nullptr : __real_malloc(size);
 }
 void* __wrap_realloc(void* memory, std::size_t size) {
-    return FailsNow(Kind::Memory, "") ? nullptr : __real_realloc(memory, size);
+    return FailsToAllocate(size) ? nullptr : __real_realloc(memory, size);
 }
 
 int __wrap_snprintf(char* target, std::size_t size, const char* format, ...) {
