@@ -70,18 +70,6 @@ TEST(Controls, ListsGiveTextsAndDataOfTheirItems) {
     EXPECT_TRUE(bOutside);
 }
 
-TEST(Controls, ScrollBarsLimitLeavesRoomForThePage) {
-    Frame frame;
-    Child<CScrollBar> bar(frame, SBS_HORZ);
-    bar.SetScrollRange(5, 50);
-    EXPECT_EQ(50, bar.GetScrollLimit());
-    SCROLLINFO info = {};
-    info.fMask = SIF_PAGE;
-    info.nPage = 11;
-    EXPECT_TRUE(bar.SetScrollInfo(&info));
-    EXPECT_EQ(40, bar.GetScrollLimit());
-}
-
 using Items = std::set<UINT>;
 
 /// A control of any class that notes which items it was asked to draw.

@@ -99,10 +99,13 @@ TEST(Descendants, ChildIsCentredInItsParentOrOnASibling) {
 
 TEST(ScrollLimit, LeavesRoomForThePage) {
     Frame frame(CSize(200, 200), WS_POPUP | WS_VSCROLL);
+    Child<CScrollBar> bar(frame, SBS_HORZ);
     for (const auto& [nPage, nLimit] : {std::pair(0U, 100), {1U, 100}, {11U, 90}}) {
         SCROLLINFO info = {0, SIF_RANGE | SIF_PAGE, 0, 100, nPage, 0, 0};
         frame.SetScrollInfo(SB_VERT, &info);
+        bar.SetScrollInfo(&info);
         EXPECT_EQ(nLimit, frame.GetScrollLimit(SB_VERT)) << nPage;
+        EXPECT_EQ(nLimit, bar.GetScrollLimit()) << nPage;
     }
     EXPECT_EQ(0, CWnd().GetScrollLimit(SB_VERT));
 }

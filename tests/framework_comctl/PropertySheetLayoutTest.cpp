@@ -87,18 +87,6 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
     });
 }
 
-TEST(PopupSheet, KeepsTheSystemsLayoutWithItsButtons) {
-    fx::Sheet sheet;
-    sheet.m_bFullScreen = FALSE;
-    const auto look = [&] {
-        EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
-        EXPECT_EQ(-1, FindOkButton(sheet).x);
-        EXPECT_TRUE(sheet.ShowsButton(IDOK));
-        ::SendMessage(sheet.Button(IDOK), BM_CLICK, 0, 0);
-    };
-    EXPECT_EQ(IDOK, Play(sheet, {look}));
-}
-
 TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
     fx::Sheet sheet;
     sheet.m_bFullScreen = FALSE;
