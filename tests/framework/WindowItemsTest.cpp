@@ -101,9 +101,9 @@ TEST(ScrollLimit, LeavesRoomForThePage) {
     Frame frame(CSize(200, 200), WS_POPUP | WS_VSCROLL);
     Child<CScrollBar> bar(frame, SBS_HORZ);
     for (const auto& [nPage, nLimit] : {std::pair(0U, 100), {1U, 100}, {11U, 90}}) {
-        SCROLLINFO info = {0, SIF_RANGE | SIF_PAGE, 0, 100, nPage, 0, 0};
+        SCROLLINFO info = {0, SIF_RANGE | SIF_PAGE, 0, 100, nPage, 0, 0}, own = info;
         frame.SetScrollInfo(SB_VERT, &info);
-        bar.SetScrollInfo(&info);
+        bar.SetScrollInfo(&own);
         EXPECT_EQ(nLimit, frame.GetScrollLimit(SB_VERT)) << nPage;
         EXPECT_EQ(nLimit, bar.GetScrollLimit()) << nPage;
     }
