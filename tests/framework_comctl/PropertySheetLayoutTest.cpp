@@ -30,11 +30,6 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
     fx::Sheet sheet;
     fx::Page wide(sheet.m_log, "wide", fx::ID_PAGE_WIDE), added(sheet.m_log, "added", fx::ID_PAGE_VIEW);
     sheet.AddPage(&wide);
-    bool bSized = false;
-    added.m_hear = [&](UINT message, WPARAM, LPARAM) {
-        bSized = bSized || message == WM_SIZE;
-        return std::optional<LRESULT>();
-    };
     const auto first = [&] {
         ExpectLaidOut(sheet, {&sheet.m_a});
         EXPECT_TRUE(sheet.m_a.IsWindowVisible());
@@ -59,7 +54,6 @@ TEST(FullScreenSheet, GivesItsPagesTheAreaBetweenTheBars) {
         added.MoveWindow(0, 0, 50, 50); // as systems do that keep the place of their own layout
         added.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
         EXPECT_EQ(pField->m_hWnd, ::GetFocus());
-        EXPECT_TRUE(bSized) << "and can lay itself out";
         ExpectLaidOut(sheet, {&added});
         sheet.EndDialog(1);
     };
@@ -85,6 +79,26 @@ TEST(FullScreenSheet, WizardKeepsItsButtonsOnTheScreenAndHasNoOkButton) {
         }
         EXPECT_EQ(RectOf(sheet.Button(ID_WIZNEXT)), RectOf(sheet.Button(ID_WIZFINISH)));
     });
+}
+
+TEST(PopupSheet, KeepsTheSystemsLayoutWithItsButtons) {
+    fx::Sheet sheet;
+    sheet.m_bFullScreen = FALSE;
+    bool bSized = false;
+    const auto look = [&] {
+        EXPECT_EQ(nullptr, sheet.m_pWndEmptyCB);
+        EXPECT_EQ(-1, FindOkButton(sheet).x);
+        EXPECT_TRUE(sheet.ShowsButton(IDOK));
+        sheet.m_a.m_hear = [&](UINT message, WPARAM, LPARAM) {
+            bSized = bSized || message == WM_SIZE;
+            return std::optional<LRESULT>();
+        };
+        sheet.m_a.MoveWindow(0, 0, 50, 50);
+        EXPECT_TRUE(bSized) << "a page can lay itself out";
+        EXPECT_EQ(CSize(50, 50), RectOf(sheet.m_a).Size());
+        ::SendMessage(sheet.Button(IDOK), BM_CLICK, 0, 0);
+    };
+    EXPECT_EQ(IDOK, Play(sheet, {look}));
 }
 
 TEST(PopupSheet, ModelessOneHasNoButtonsAndEndsBelowItsTabs) {
