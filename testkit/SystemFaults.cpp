@@ -18,10 +18,9 @@ std::optional<LRESULT> Refusal(UINT nMessage) {
     switch (nMessage) {
     case LB_ADDSTRING:
     case LB_INSERTSTRING:
-        return LB_ERRSPACE;
     case CB_ADDSTRING:
     case CB_INSERTSTRING:
-        return CB_ERRSPACE;
+        return LB_ERRSPACE; // which CB_ERRSPACE is too
     case LVM_INSERTCOLUMNW:
     case LVM_INSERTITEMW:
         return -1;
