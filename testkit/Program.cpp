@@ -30,8 +30,8 @@ bool IsInFront(HWND hWnd) {
     return hWnd != nullptr && ::GetForegroundWindow() == ::GetAncestor(hWnd, GA_ROOT);
 }
 
-/// Puts the pen above a window's middle and waits until it rests there and the window answers. A window
-/// that has just come up is told where the pen was then, and a tap meanwhile would be taken for a slide.
+/// Puts the pen above a window's middle and waits until it rests there and the window answers. While a
+/// window comes up the system still tells where the pen was before, and a tap of that moment can be lost.
 void HoldPenAbove(HWND hWnd) {
     constexpr int kResting = 3;
     int nResting = 0;
