@@ -1,6 +1,5 @@
 // The soft input panel as a window: when it comes and goes, and what it leaves alone.
 #include "support/PanelKeys.h"
-#include "testkit/TitleBar.h"
 #include "testkit/Pen.h"
 
 using namespace testkit;
