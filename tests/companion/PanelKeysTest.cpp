@@ -1,6 +1,6 @@
 // Typing on the soft input panel with the pen.
 #include "support/PanelKeys.h"
-#include "support/Form.h"
+#include "testkit/Form.h"
 
 using namespace testkit;
 

@@ -1,8 +1,8 @@
 // What the device's shell does for windows: the OK button in the title bar, gestures. Full screen and the
 // command bar are in tests/controls and tests/companion.
 #include "support/TestApp.h"
-#include "support/Form.h"
 #include "testkit/Drive.h"
+#include "testkit/Form.h"
 #include "testkit/Pen.h"
 #include "testkit/Program.h"
 #include "testkit/TitleBar.h"

@@ -1,5 +1,6 @@
 // Keys in dialogs whose focus is where the system's search for dialog keys never comes by.
-#include "support/Form.h"
+#include "support/TestApp.h"
+#include "testkit/Form.h"
 
 using namespace testkit;
 

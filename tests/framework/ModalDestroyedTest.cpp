@@ -1,5 +1,6 @@
 // Modal dialogs whose windows go without having been ended.
-#include "support/Form.h"
+#include "support/TestApp.h"
+#include "testkit/Form.h"
 
 #include <memory>
 #include <thread>

@@ -1,6 +1,6 @@
 // Modal dialogs: their loop, their owner, their end.
 #include "support/TestApp.h"
-#include "support/Form.h"
+#include "testkit/Form.h"
 #include "testkit/Pen.h"
 
 using namespace testkit;

@@ -1,5 +1,6 @@
 // Exceptions that nobody catches, and memory that runs out.
-#include "support/Form.h"
+#include "support/TestApp.h"
+#include "testkit/Form.h"
 
 #include <stdexcept>
 

@@ -1,6 +1,6 @@
 // What a window does with its items, its descendants and the looks of its commands.
 #include "support/TestApp.h"
-#include "support/Form.h"
+#include "testkit/Form.h"
 
 using namespace testkit;
 

@@ -1,7 +1,7 @@
 // What the loop over failing calls says of a program that does not stand them.
 #include "Caught.h"
-#include "support/Form.h"
 #include "testkit/FaultLoop.h"
+#include "testkit/Form.h"
 #include "testkit/SystemFaults.h"
 
 using namespace testkit;

@@ -1,7 +1,7 @@
 // The rest of the kit, used as one who has read nothing uses it.
 #include "Caught.h"
-#include "support/Form.h"
 #include "testkit/Drive.h"
+#include "testkit/Form.h"
 #include "testkit/Leftovers.h"
 #include "testkit/Pen.h"
 #include "testkit/Picture.h"

@@ -1,7 +1,7 @@
 // What the kit says of dialogs that nobody could use, and of languages that are not alike.
 #include "Caught.h"
-#include "support/Form.h"
 #include "testkit/DialogTemplate.h"
+#include "testkit/Form.h"
 #include "testkit/Languages.h"
 #include "testkit/Layout.h"
 

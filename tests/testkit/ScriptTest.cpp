@@ -1,6 +1,6 @@
 // Scripts that go wrong: each ends with a clear text, and nothing stays open.
 #include "Caught.h"
-#include "support/Form.h"
+#include "testkit/Form.h"
 #include "testkit/Leftovers.h"
 #include "testkit/Pen.h"
 #include "testkit/Program.h"
