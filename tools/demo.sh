@@ -50,7 +50,7 @@ build_sample() {
 build_programs() {
     logged configure-programs cmake -S "$root/tests/programs" -B "$build/programs" -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
-        -DCMAKE_PREFIX_PATH="$build/win64/install" -DCMAKE_BUILD_TYPE=Release
+        -DCMAKE_PREFIX_PATH="$build/win64/install" -DPROGRAMS_GOOGLETEST="$build/win64/lib" -DCMAKE_BUILD_TYPE=Release
     logged build-programs ninja -C "$build/programs" -j"$(nproc)"
 }
 
