@@ -8,8 +8,6 @@ count_instructions() {
     logged configure-counts cmake -S "$root/bench/kernel" -B "$kernel" -G Ninja
     logged build-counts ninja -C "$kernel" -j"$(nproc)" kernel_instructions
     count_instructions_of kernel "$kernel"
-    # The package's library has been built already.
-    logged configure-linux configure_preset linux
     logged build-portable ninja -C "$build/linux" -j"$(nproc)" portable_instructions
     count_instructions_of portable "$build/linux"
 }

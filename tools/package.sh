@@ -12,32 +12,33 @@ run_package() {
 }
 
 make_package() {
-    local tree
-    tree=$package_folder/$(package_name)
+    make_windows_package
+    make_native_package
+}
+
+make_windows_package() {
     logged configure-win64-static configure_preset win64-static
     logged build-win64-static ninja -C "$build/win64-static" -j"$(nproc)" fieldkit winmain testkit
+    logged package assemble "$package_folder/$(package_name)"
+}
+
+make_native_package() {
     logged configure-linux configure_preset linux
     logged build-linux ninja -C "$build/linux" -j"$(nproc)" fieldkit
-    rm -rf "$package_folder"
-    mkdir -p "$package_folder"
-    logged package assemble "$tree"
     logged package-linux assemble_native "$package_folder/$(native_name)"
 }
 
-package_version() {
-    sed -n 's/^CMAKE_PROJECT_VERSION:[A-Z]*=//p' "$build/win64/CMakeCache.txt"
-}
-
 package_name() {
-    printf 'Fieldkit-%s-win64' "$(package_version)"
+    printf 'Fieldkit-%s-win64' "$(library_version)"
 }
 
 native_name() {
-    printf 'Fieldkit-%s-linux-%s' "$(package_version)" "$(uname -m)"
+    printf 'Fieldkit-%s-linux-%s' "$(library_version)" "$(uname -m)"
 }
 
 assemble() {
     local tree=$1
+    rm -rf "$tree"
     cmake --install "$build/win64-static" --prefix "$tree"
     cmake --install "$build/win64" --prefix "$tree"
     # Beside the DLLs, so that it starts with a double click.
@@ -50,6 +51,7 @@ assemble() {
 }
 
 assemble_native() {
+    rm -rf "$1"
     cmake --install "$build/linux" --prefix "$1"
     cp "$root/LICENSE" "$1/"
     cp "$root/docs/native.md" "$1/README.md"
@@ -75,23 +77,31 @@ foreign_dlls() {
     printf '%s' "${names:-nothing but Windows}" | tr '\n' ' '
 }
 
+package_test=$build/package-test
+
 # An outside project, built against the unpacked zip with both kinds of library. Needs the package.
 build_package_test() {
-    local work=$build/package-test tree
+    local work=$package_test/windows tree
     tree=$work/$(package_name)
     rm -rf "$work"
     mkdir -p "$work"
     logged unpack-package unpack "$work"
     logged build-consumer build_consumer "$tree" "$work/cmake"
     logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
-    tree=$work/$(native_name)
-    logged unpack-linux tar -C "$work" -xzf "$package_folder/$(native_name).tar.gz"
-    logged build-native build_native_consumer "$tree" "$work"
 }
 
-# Runs what build_package_test has built. Needs the screen.
+# The same project without Windows, which has less.
+build_native_package_test() {
+    local work=$package_test/linux
+    rm -rf "$work"
+    mkdir -p "$work"
+    logged unpack-linux tar -C "$work" -xzf "$package_folder/$(native_name).tar.gz"
+    logged build-native build_native_consumer "$work/$(native_name)" "$work"
+}
+
+# Runs what both have built. Needs the screen.
 test_package() {
-    local work=$build/package-test
+    local work=$package_test/windows native=$package_test/linux
     local start=$EPOCHREALTIME bad=0 good=0 part tests=$root/tests/package expected
     expected=$tests/consumer.txt
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
@@ -99,11 +109,11 @@ test_package() {
     check_hardened "${files[@]/#/$work/cmake/}"
     check_small "$work"/cmake/{Fieldkit,FieldkitFx,Tesuvo}.dll
     for part in geometry survey; do
-        check "$tests/$part.txt" "$work/native/$part"
-        check "$tests/$part.txt" "$work/native-pkgconf/$part"
+        check "$tests/$part.txt" "$native/cmake/$part"
+        check "$tests/$part.txt" "$native/pkgconf/$part"
         check "$tests/$part.txt" "$work/cmake/$part.exe"
     done
-    check "$tests/views.txt" "$work/native/views.gdb"
+    check "$tests/views.txt" "$native/cmake/views.gdb"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$tests/english.txt" "$work/cmake/english.exe"
@@ -130,22 +140,22 @@ unpack() {
 build_consumer() {
     cmake -S "$root/tests/package" -B "$2" -G Ninja -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_TOOLCHAIN_FILE="$root/cmake/x86_64-w64-mingw32.cmake" \
-        -DCMAKE_PREFIX_PATH="$1" -DEXPECTED_VERSION="$(package_version)"
+        -DCMAKE_PREFIX_PATH="$1" -DEXPECTED_VERSION="$(library_version)"
     ninja -C "$2"
     cp "$1"/bin/*.dll "$1"/bin/fieldbook.exe "$2/"
 }
 
-# build_native_consumer TREE WORK: the same project without Windows, which has less.
+# build_native_consumer TREE WORK: with both ways to find the library.
 build_native_consumer() {
     local part flags
-    cmake -S "$root/tests/package" -B "$2/native" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_PREFIX_PATH="$1" \
-        -DEXPECTED_VERSION="$(package_version)"
-    ninja -C "$2/native"
-    mkdir -p "$2/native-pkgconf"
+    cmake -S "$root/tests/package" -B "$2/cmake" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_PREFIX_PATH="$1" \
+        -DEXPECTED_VERSION="$(library_version)"
+    ninja -C "$2/cmake"
+    mkdir -p "$2/pkgconf"
     for part in Geometry Survey; do
         flags=$(PKG_CONFIG_LIBDIR=$1/lib/pkgconfig pkg-config --cflags --libs "fieldkit-${part,,}")
         # shellcheck disable=SC2086  # a list of options
-        g++ "$root/tests/package/$part.cpp" $flags -o "$2/native-pkgconf/${part,,}"
+        g++ "$root/tests/package/$part.cpp" $flags -o "$2/pkgconf/${part,,}"
     done
 }
 
@@ -166,7 +176,7 @@ build_with_pkgconf() {
 # the licence's copyright line.
 versions_expected() {
     local file version copyright
-    version=$(package_version)
+    version=$(library_version)
     copyright=$(grep '^Copyright' "$root/LICENSE")
     for file in "$@"; do
         printf '%s %s|%s|%s|Fieldkit|Fieldkit|%s\n' "$file" "$version" "$version" "$version" "$copyright"

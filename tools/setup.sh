@@ -8,7 +8,7 @@ packages=(
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
 # shellcheck disable=SC2034  # for ./run
-test_packages=(g++-arm-linux-gnueabi qemu-user valgrind pkgconf gdb python3)
+test_packages=(g++-arm-linux-gnueabi qemu-user valgrind pkgconf gdb python3 gappa)
 
 # Wine takes the code page from the locale: with any other one it is not 932 and
 # Japanese file contents are misread.
