@@ -30,7 +30,8 @@ list(JOIN FIELDKIT_EXACT " " FIELDKIT_EXACT_FLAGS) # for pkg-config
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
 if(FIELDKIT_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # Of what debuggers want to know reports name the lines.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=address,undefined)
 endif()
 

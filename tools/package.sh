@@ -79,8 +79,9 @@ foreign_dlls() {
 
 package_test=$build/package-test
 
-# An outside project, built against the unpacked zip with both kinds of library. Needs the package.
-build_package_test() {
+# An outside project, built against the unpacked zip with both kinds of library. Needs the package
+# and the screen.
+test_package() {
     local work=$package_test/windows tree
     tree=$work/$(package_name)
     rm -rf "$work"
@@ -88,32 +89,47 @@ build_package_test() {
     logged unpack-package unpack "$work"
     logged build-consumer build_consumer "$tree" "$work/cmake"
     logged build-pkgconf build_with_pkgconf "$tree" "$work/pkgconf"
+    run_consumer package check_consumer "$work"
 }
 
 # The same project without Windows, which has less.
-build_native_package_test() {
+test_native_package() {
     local work=$package_test/linux
     rm -rf "$work"
     mkdir -p "$work"
     logged unpack-linux tar -C "$work" -xzf "$package_folder/$(native_name).tar.gz"
     logged build-native build_native_consumer "$work/$(native_name)" "$work"
+    run_consumer linux check_native_consumer "$work"
 }
 
-# Runs what both have built. Needs the screen.
-test_package() {
-    local work=$package_test/windows native=$package_test/linux
-    local start=$EPOCHREALTIME bad=0 good=0 part tests=$root/tests/package expected
+# run_consumer LABEL COMMAND...: adds what the command counts in "good" and "bad".
+run_consumer() {
+    local start=$EPOCHREALTIME bad=0 good=0
+    "${@:2}"
+    passed=$((passed + good))
+    failed=$((failed + bad))
+    printf '%-6s %-20s %5d passed, %d failed (%s s)\n' "$1" consumer: "$good" "$bad" "$(seconds_since "$start")"
+}
+
+check_native_consumer() {
+    local work=$1 part tests=$root/tests/package
+    for part in geometry survey; do
+        check "$tests/$part.txt" "$work/cmake/$part"
+        check "$tests/$part.txt" "$work/pkgconf/$part"
+    done
+    check "$tests/views.txt" "$work/cmake/views.gdb"
+}
+
+check_consumer() {
+    local work=$1 part tests=$root/tests/package expected
     expected=$tests/consumer.txt
     local files=(Fieldkit.dll FieldkitFx.dll Tesuvo.dll fieldbook.exe)
     versions_expected "${files[@]}" >"$work/versions.txt"
     check_hardened "${files[@]/#/$work/cmake/}"
     check_small "$work"/cmake/{Fieldkit,FieldkitFx,Tesuvo}.dll
     for part in geometry survey; do
-        check "$tests/$part.txt" "$native/cmake/$part"
-        check "$tests/$part.txt" "$native/pkgconf/$part"
         check "$tests/$part.txt" "$work/cmake/$part.exe"
     done
-    check "$tests/views.txt" "$native/cmake/views.gdb"
     check "$expected" "$work/cmake/shared.exe"
     check "$expected" "$work/cmake/static.exe"
     check "$tests/english.txt" "$work/cmake/english.exe"
@@ -127,9 +143,6 @@ test_package() {
     printf 'exit 42\n' >"$work/exit.txt"
     check "$work/exit.txt" "$work/cmake/shared_window.exe"
     check "$work/exit.txt" "$work/cmake/static_window.exe"
-    passed=$((passed + good))
-    failed=$((failed + bad))
-    printf '%-6s %-20s %5d passed, %d failed (%s s)\n' package consumer: "$good" "$bad" "$(seconds_since "$start")"
 }
 
 unpack() {
