@@ -1,7 +1,9 @@
 // The rest of the kit, used as one who has read nothing uses it.
 #include "Caught.h"
+#include "testkit/Canvas.h"
 #include "testkit/Drive.h"
 #include "testkit/Form.h"
+#include "testkit/KeptPicture.h"
 #include "testkit/Leftovers.h"
 #include "testkit/Pen.h"
 #include "testkit/Picture.h"
@@ -64,6 +66,26 @@ TEST(Picture, SavesPng) {
         0x00, 0xff, 0x00, 0x00, 0x00, 0x00, 0x00, 0xff, 0x08, 0x00, 0x01, 0xff, 0xf0, 0xe2, 0x8c, 0xde,
         0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4e, 0x44, 0xae, 0x42, 0x60, 0x82};
     EXPECT_EQ(bytes, std::string(std::begin(EXPECTED), std::end(EXPECTED)));
+}
+
+TEST(KeptPicture, IsComparedAndOnlyReplacedIfSomebodySaysSo) {
+    Canvas canvas(3, 2);
+    const auto faults = [&](LPCWSTR pszPath) { return PictureFaults(canvas.Look(), pszPath); };
+    const auto keep = [&](LPCWSTR pszPath) {
+        ::SetEnvironmentVariable(L"FIELDKIT_KEEP_PICTURES", L"1");
+        const std::string result = faults(pszPath);
+        ::SetEnvironmentVariable(L"FIELDKIT_KEEP_PICTURES", nullptr);
+        return result;
+    };
+    ::DeleteFile(L"dot.txt");
+    EXPECT_EQ("there is no dot.txt, see dot.txt.now in the current folder", faults(L"dot.txt"));
+    EXPECT_EQ("none\\dot.txt cannot be written", keep(L"none\\dot.txt"));
+    EXPECT_EQ("", keep(L"dot.txt"));
+    EXPECT_EQ("", faults(L"dot.txt"));
+    canvas.m_dc.SetPixel(1, 1, RGB(0x12, 0x34, 0x56));
+    EXPECT_EQ("not as in dot.txt from line 2 on, see dot.txt.now in the current folder", faults(L"dot.txt"));
+    std::ifstream now("dot.txt.now");
+    EXPECT_EQ(". FFFFFF\n# 123456\n\n...\n.#.\n", std::string(std::istreambuf_iterator<char>(now), {}));
 }
 
 TEST(Drive, TakesManyFilesInAFolderOfAnyName) {
