@@ -105,7 +105,7 @@ void CCeCommandBar::AddButton(int nPos, UINT nID, int iImage, BYTE fsState, LPCT
     button.iBitmap = iImage;
     button.idCommand = static_cast<int>(nID);
     button.fsState = fsState;
-    button.fsStyle = pszText != nullptr ? BTNS_BUTTON | BTNS_AUTOSIZE : BTNS_BUTTON;
+    button.fsStyle = nID != kIdGap ? BTNS_BUTTON | BTNS_AUTOSIZE : BTNS_BUTTON;
     button.iString = reinterpret_cast<INT_PTR>(pszText);
     SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(nPos), reinterpret_cast<LPARAM>(&button));
 }
@@ -158,7 +158,10 @@ int CCeCommandBar::AddBitmap(int, UINT nBitmapID) {
 
 BOOL CCeCommandBar::InsertButton(int nIndex, LPTBBUTTON lpButton) {
     const int nPos = std::clamp(nIndex, 0, static_cast<int>(CommandToIndex(kIdGap)));
-    if (!CToolBarCtrl::InsertButton(nPos, lpButton))
+    // Otherwise each would be as wide as the longest text of the menu, and the switch off the screen.
+    TBBUTTON button = *lpButton;
+    button.fsStyle |= BTNS_AUTOSIZE;
+    if (!CToolBarCtrl::InsertButton(nPos, &button))
         return FALSE;
     Reposition();
     return TRUE;
