@@ -1,8 +1,10 @@
 // Every dialog of the library on the screen that the program has been started on.
 #include "support/AllDialogs.h"
+#include "support/TestData.h"
 
 #include "testkit/Languages.h"
 #include "testkit/Layout.h"
+#include "testkit/Looks.h"
 #include "testkit/Panel.h"
 #include "testkit/Picture.h"
 #include "testkit/Script.h"
@@ -12,6 +14,8 @@ using namespace testkit;
 
 namespace {
 
+Looks g_looks(testdata::WidePath("look/screens-" + std::to_string(Screen().Width()) + ".txt"));
+
 /// A dialog in a language.
 struct EveryScreen : testing::TestWithParam<std::tuple<fx::AnyDialog, LANGID>> {
     void SetUp() override { AfxSetResourceLanguage(std::get<LANGID>(GetParam())); }
@@ -19,29 +23,31 @@ struct EveryScreen : testing::TestWithParam<std::tuple<fx::AnyDialog, LANGID>> {
 };
 
 /// Of each page of a sheet, or of any other window.
-std::string FaultsOfPages(HWND hWnd) {
+std::string FaultsOfPages(HWND hWnd, const std::string& name) {
     auto* const pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hWnd));
     std::string faults;
     for (int nPage = 0; nPage < (pSheet != nullptr ? pSheet->GetPageCount() : 1); ++nPage) {
         if (pSheet != nullptr)
             pSheet->SetActivePage(nPage);
         faults += LayoutFaults(hWnd);
-        KeepScreen(testing::UnitTest::GetInstance()->current_test_info()->name());
+        KeepScreen(name);
+        EXPECT_EQ("", g_looks.Faults(name + '-' + std::to_string(nPage), hWnd));
         faults += PanelFaults(hWnd);
     }
     return faults;
 }
 
 TEST_P(EveryScreen, ShowsAllItHas) {
+    const auto& [dialog, language] = GetParam();
     Drive drive;
     fx::FillDrive(drive);
     std::string faults = "not open";
     const auto look = [&] { // in one step: another would come while this one waits
         const HWND hWnd = ::GetActiveWindow();
-        faults = FaultsOfPages(hWnd);
+        faults = FaultsOfPages(hWnd, dialog.pszName + (language == kEnglish ? std::string("-en") : ""));
         fx::Cancel(hWnd);
     };
-    Play([] { return std::get<fx::AnyDialog>(GetParam()).open(nullptr); }, {look});
+    Play([&open = dialog.open] { return open(nullptr); }, {look});
     EXPECT_EQ("", faults);
 }
 
@@ -51,6 +57,16 @@ const auto LANGUAGES =
     testing::ValuesIn(Screen().Width() <= 320 ? std::vector{kJapanese, kEnglish} : std::vector{kJapanese});
 INSTANTIATE_TEST_SUITE_P(Dialogs, EveryScreen, testing::Combine(testing::ValuesIn(fx::DIALOGS), LANGUAGES));
 INSTANTIATE_TEST_SUITE_P(Modes, EveryScreen, testing::Combine(testing::ValuesIn(fx::FILE_MODES), LANGUAGES));
+
+TEST(Controls, LookAsTheyDid) {
+    for (const fx::AnyDialog& dialog : fx::CONTROLS) {
+        const auto look = [&] {
+            EXPECT_EQ("", g_looks.Faults(dialog.pszName, ::GetActiveWindow()));
+            fx::Cancel(::GetActiveWindow());
+        };
+        Play([&] { return dialog.open(nullptr); }, {look});
+    }
+}
 
 TEST(Lists, TakeWhatTheScreenHasMore) {
     Drive drive;

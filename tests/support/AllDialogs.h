@@ -34,8 +34,14 @@ inline void PrintTo(const AnyDialog& dialog, std::ostream* os) {
 inline void FillDrive(Drive& drive) {
     for (const wchar_t* psz : {L"\\作業", L"\\作業\\A", L"\\作業\\A\\B", L"\\測量"})
         drive.MakeFolder(psz);
-    for (const wchar_t* psz : {L"1", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"測点"})
-        drive.MakeFile(CString(L"\\作業\\") + psz + L".csv", 123456);
+    for (const wchar_t* psz : {L"1", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"測点"}) {
+        const CString file = CString(L"\\作業\\") + psz + L".csv";
+        drive.MakeFile(file, 123456);
+        CFileStatus status;
+        CFile::GetStatus(file, status);
+        status.m_mtime = CTime(2026, 4, 1, 9, 30, 0); // the list shows it
+        CFile::SetStatus(file, status);
+    }
 }
 
 template <int MODE>

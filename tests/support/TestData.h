@@ -18,4 +18,10 @@ inline std::ifstream Open(const std::string& name) {
     return file;
 }
 
+/// For what opens files by wide names; Z: is Wine's name for the root.
+inline std::wstring WidePath(const std::string& name) {
+    const std::string path = "Z:" FIELDKIT_TEST_DATA "/" + name;
+    return {path.begin(), path.end()};
+}
+
 } // namespace testdata
