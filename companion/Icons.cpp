@@ -61,7 +61,7 @@ HICON MakeIcon(Bytes picture, int size) {
 
 HICON TVGetCommonIcon(int nIndex) {
     // A number beyond 16 bits would be taken for the address of a name.
-    if (nIndex <= 0 || nIndex > 0xFFFF)
+    if (nIndex != static_cast<WORD>(nIndex))
         return nullptr;
     constexpr int kIconSize = 16;
     const int size = AfxScale(::GetActiveWindow(), kIconSize);

@@ -21,7 +21,6 @@ constexpr COLORREF kShiftedKey = RGB(255, 208, 96);
 void MakeFont(CFont& font, LONG height) {
     LOGFONTW description{};
     description.lfHeight = -height;
-    description.lfWeight = FW_NORMAL;
     description.lfCharSet = DEFAULT_CHARSET;
     std::copy(std::begin(kFontName), std::end(kFontName), description.lfFaceName);
     font.CreateFontIndirect(&description);
@@ -112,10 +111,10 @@ void fieldkit::detail::DrawPanel(CDC& target, CSize panel, const std::vector<Pan
     MakeFont(characters, std::min(first.Height() * 3 / 4, first.Width()));
     MakeFont(words, std::min(first.Height() * 3 / 5, first.Width() / 2));
     MakeFont(marks, first.Height() * 3 / 2);
-    for (size_t at = 0; at < keys.size(); ++at) {
-        const wchar_t code = keys[at].code;
-        dc.SelectObject(IsWord(code) ? &words : IsSoundMark(code) ? &marks : &characters);
-        DrawKey(dc, keys[at], static_cast<int>(at) == look.pressed, look);
+    int at = 0;
+    for (const PanelKey& key : keys) {
+        dc.SelectObject(IsWord(key.code) ? &words : IsSoundMark(key.code) ? &marks : &characters);
+        DrawKey(dc, key, at++ == look.pressed, look);
     }
     target.BitBlt(0, 0, panel.cx, panel.cy, &dc, 0, 0, SRCCOPY);
 }

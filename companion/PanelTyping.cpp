@@ -1,5 +1,6 @@
 #include "companion/detail/PanelTyping.h"
 
+#include <iterator>
 #include <string>
 
 using namespace fieldkit::detail;
@@ -7,13 +8,15 @@ using namespace fieldkit::detail;
 namespace {
 
 void Send(WORD key, WORD scan, DWORD flags) {
-    INPUT inputs[2] = {};
-    inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
-    inputs[0].ki.wVk = inputs[1].ki.wVk = key;
-    inputs[0].ki.wScan = inputs[1].ki.wScan = scan;
-    inputs[0].ki.dwFlags = flags;
-    inputs[1].ki.dwFlags = flags | KEYEVENTF_KEYUP;
-    ::SendInput(2, inputs, sizeof(INPUT));
+    INPUT press{};
+    press.type = INPUT_KEYBOARD;
+    press.ki.wVk = key;
+    press.ki.wScan = scan;
+    press.ki.dwFlags = flags;
+    INPUT lift = press;
+    lift.ki.dwFlags |= KEYEVENTF_KEYUP;
+    INPUT inputs[] = {press, lift};
+    ::SendInput(std::size(inputs), inputs, sizeof press);
 }
 
 /// 0 if there is none, if text is selected, or if the window is no entry field: any other answers

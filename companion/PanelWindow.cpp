@@ -151,7 +151,6 @@ void PanelWindow::Hide() {
     m_shift = Shift::Off;
     ::ShowWindow(m_window, SW_HIDE);
     m_keyboard.Hide();
-    m_system = false;
     Announce();
 }
 
@@ -218,8 +217,7 @@ void PanelWindow::Announce() {
 }
 
 void PanelWindow::Tell(HWND window) {
-    if (window != nullptr && ::IsWindow(window))
-        ::SendMessageW(window, WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
+    ::SendMessageW(window, WM_SETTINGCHANGE, SPI_SETSIPINFO, 0); // does nothing if it has gone
 }
 
 // --- Messages --------------------------------------------------------------------------------
@@ -246,42 +244,42 @@ LRESULT PanelWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
         return AFX_TABLET_DISABLE_PRESSANDHOLD; // a key that is held must know at once
     case WM_LBUTTONDOWN:
         OnPress(point);
-        return 0;
+        break;
     case WM_MOUSEMOVE:
         OnMove(point);
-        return 0;
+        break;
     case WM_LBUTTONUP:
         OnLift();
-        return 0;
+        break;
     case WM_CAPTURECHANGED:
         Release();
-        return 0;
+        break;
     case WM_TIMER:
         OnTimer(wParam);
-        return 0;
+        break;
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
         OnPaint();
-        return 0;
+        break;
     case WM_ANNOUNCE:
         Watch();
-        return 0;
+        break;
     case WM_DISPLAYCHANGE:
         if (m_shown)
             ShowAgain();
-        return 0;
+        break;
     case WM_CLOSE:
         Close();
-        return 0;
+        break;
     case WM_NCDESTROY:
         m_keyboard.Hide();
         *this = PanelWindow();
-        break;
+        [[fallthrough]];
     default:
-        break;
+        return ::DefWindowProcW(window, message, wParam, lParam);
     }
-    return ::DefWindowProcW(window, message, wParam, lParam);
+    return 0;
 }
 
 void PanelWindow::OnTimer(UINT_PTR timer) {

@@ -21,8 +21,7 @@ std::size_t NextSlash(View path, std::size_t from) {
 
 /// Length of a root that begins with a server's and a share's name.
 std::size_t ShareLength(View path, std::size_t server) {
-    const auto afterServer = NextSlash(path, server);
-    return afterServer == path.size() ? afterServer : NextSlash(path, afterServer + 1);
+    return NextSlash(path, NextSlash(path, server) + 1);
 }
 
 std::size_t DriveLength(View path) {
