@@ -1,6 +1,8 @@
 #include "support/TestApp.h"
-#include "support/Colors.h"
-#include "testkit/Picture.h"
+#include "support/TestData.h"
+#include "testkit/Canvas.h"
+#include "testkit/DialogTemplate.h"
+#include "testkit/KeptPicture.h"
 
 #include "Tesuvo.h"
 
@@ -8,20 +10,24 @@ using namespace testkit;
 
 namespace {
 
-TEST(SharedIcons, AreSharedPicturesThatDiffer) {
-    Frame frame;
-    CClientDC dc(&frame);
-    std::vector<Picture> seen;
-    for (const int index : {2, 4, 5, 26, 31, 32, 39, 42}) {
-        const HICON icon = TVGetCommonIcon(index);
-        ASSERT_NE(nullptr, icon) << index;
-        EXPECT_EQ(TVGetCommonIcon(index), icon) << index;
-        dc.FillSolidRect(0, 0, 16, 16, fx::WHITE);
-        EXPECT_TRUE(::DrawIconEx(dc, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL));
-        const Picture drawn(dc, CSize(16, 16));
-        for (const Picture& other : seen)
-            EXPECT_FALSE(other.Difference(drawn).IsRectEmpty()) << index << " looks like another one";
-        seen.push_back(drawn);
+TEST(SharedIcons, AreSharedPicturesOfTheResolution) {
+    const DialogTemplate shape(50, 50, WS_POPUP | WS_VISIBLE);
+    CDialog dialog;
+    dialog.CreateIndirect(shape.Get());
+    for (const int nDpi : {96, 120, 300}) {
+        dialog.SetActiveWindow();
+        dialog.SendMessage(WM_DPICHANGED, MAKEWPARAM(nDpi, nDpi));
+        const int nSize = AfxScale(dialog.m_hWnd, 16);
+        Canvas canvas(8 * nSize, nSize);
+        int x = 0;
+        for (const int index : {2, 4, 5, 26, 31, 32, 39, 42}) {
+            const HICON icon = TVGetCommonIcon(index);
+            EXPECT_EQ(TVGetCommonIcon(index), icon) << index;
+            EXPECT_TRUE(::DrawIconEx(canvas.m_dc, x, 0, icon, 0, 0, 0, nullptr, DI_NORMAL)) << index;
+            x += nSize;
+        }
+        const std::string file = "look/icons-" + std::to_string(nDpi) + ".txt";
+        EXPECT_EQ("", PictureFaults(canvas.Look(), testdata::WidePath(file)));
     }
 }
 

@@ -14,7 +14,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         SIPINFO info = {};
         info.cbSize = sizeof info;
-        if (message == WM_SETTINGCHANGE && wParam == SPI_SETSIPINFO && SipGetInfo(&info))
+        if (message == WM_SETTINGCHANGE && wParam == SPI_SETSIPINFO && lParam == 0 && SipGetInfo(&info))
             m_told.push_back(info.fdwFlags & SIPF_ON);
         return Frame::WindowProc(message, wParam, lParam);
     }
@@ -39,6 +39,9 @@ struct InputPanel : testing::Test {
 };
 
 TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
+    CEdit field; // tells nobody
+    field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 90, 100, 110), &m_frame, 13);
+    field.SetFocus();
     const CRect area = WorkArea();
     const int nBottom = area.bottom - AFX_DEVICE_BAR_HEIGHT;
     TVShowSIP(1);
@@ -53,6 +56,9 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
         EXPECT_EQ(CRect(area.left, nBottom - 125, area.right, nBottom), panel::Place());
         EXPECT_NE(0, ::GetWindowLongPtr(hPanel, GWL_EXSTYLE) & WS_EX_TOPMOST);
     }
+    ::SetCursor(nullptr);
+    ::SendMessage(hPanel, WM_SETCURSOR, reinterpret_cast<WPARAM>(hPanel), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_ARROW), ::GetCursor());
     const CRect home = panel::Place();
     ::MoveWindow(hPanel, 0, 0, 50, 50, FALSE);
     EXPECT_EQ(0, ::SendMessage(hPanel, WM_DISPLAYCHANGE, 32, 0));
@@ -63,10 +69,23 @@ TEST_F(InputPanel, ShowsTheModeAndComesAndGoes) {
     TVCloseSIP();
     fx::PumpFor(50);
     EXPECT_FALSE(panel::IsVisible());
+    ::Sleep(150);
+    MSG msg;
+    EXPECT_FALSE(::PeekMessage(&msg, hPanel, WM_TIMER, WM_TIMER, PM_NOREMOVE))
+        << "no watch while it is hidden";
     ::DestroyWindow(hPanel);
     TVCloseSIP();
     EXPECT_EQ(nullptr, panel::OfThread());
+    SIPINFO info = {};
+    info.cbSize = sizeof info;
+    EXPECT_TRUE(SipGetInfo(&info));
+    EXPECT_EQ(SIPF_OFF | SIPF_DOCKED, info.fdwFlags);
+    EXPECT_TRUE(SipShowIM(SIPF_ON));
+    EXPECT_EQ(L"ABC", panel::Title());
     TVShowSIP(2);
+    Pump();
+    pen::Tap(fx::PanelAt(0, 6, 12));
+    EXPECT_TRUE(PumpUntil([&] { return TextOf(field) == L"あ"; })) << "hiragana";
     EXPECT_TRUE(panel::IsVisible()) << "made anew";
     EXPECT_EQ(L"かな", panel::Title());
 }
@@ -136,8 +155,17 @@ TEST_F(InputPanel, GoesWithTheFieldThatHasTheFocus) {
     field.DestroyWindow();
     fx::PumpFor(250);
     EXPECT_TRUE(panel::IsVisible()) << "there is still something to type into";
+    m_button.SetFocus();
+    fx::PumpFor(250);
     next.DestroyWindow();
+    fx::PumpFor(250);
+    EXPECT_TRUE(panel::IsVisible()) << "the focus was not there any more";
+    m_button.DestroyWindow();
+    m_frame.SetFocus();
     panel::ExpectHidden();
+    TVShowSIP(0);
+    fx::PumpFor(150);
+    EXPECT_TRUE(panel::IsVisible()) << "what had gone before does not count";
 }
 
 } // namespace

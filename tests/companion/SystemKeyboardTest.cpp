@@ -97,11 +97,28 @@ TEST_F(SystemKeyboard, StandsInForThePanelAndDialogsMakeRoomForIt) {
         TVUseSystemKeyboard(FALSE);
         TVShowSIP(1);
     };
-    dialog.Run({dialog.Enter(0), untilClear, look, [] { TVCloseSIP(); }, dialog.UntilHome(),
-                [] { return Keyboard() == nullptr; }, show, untilClear,
-                [] { ::PostMessage(Keyboard(), WM_CLOSE, 0, 0); }, // by its own X
-                dialog.UntilHome(), show, untilClear,              // asked for again
-                choosePanel, [] { return panel::IsVisible() && Keyboard() == nullptr; }});
+    const Step untilPanel = [] { return panel::IsVisible() && Keyboard() == nullptr; };
+    const auto closeByItsX = [] { ::PostMessage(Keyboard(), WM_CLOSE, 0, 0); };
+    dialog.Run({dialog.Enter(0),
+                untilClear,
+                look,
+                [] { TVCloseSIP(); },
+                dialog.UntilHome(),
+                [] { return Keyboard() == nullptr; },
+                show,
+                untilClear,
+                closeByItsX,
+                dialog.UntilHome(),
+                show,
+                untilClear,
+                choosePanel,
+                untilPanel,
+                [] { TVUseSystemKeyboard(TRUE); },
+                show,
+                untilClear,
+                look,
+                choosePanel,
+                untilPanel});
 }
 
 /// The system's objects about the keyboard, as newer systems have them: its switch and its place. One
@@ -160,6 +177,7 @@ TEST_F(SystemKeyboard, WithASwitchIsShownByItAndItsPlaceIsThatOfTheSystem) {
             {0x4CE576FA, 0x83DC, 0x4F88, {0x95, 0x1C, 0x9D, 0x07, 0x82, 0xB4, 0xE3, 0x76}});
         const Factory<InputPane> pane(
             {0xD5120AA3, 0x46BA, 0x44C5, {0x82, 0x2D, 0xCA, 0x80, 0x92, 0xC1, 0xFC, 0x72}});
+        ::DestroyWindow(panel::OfThread()); // so that all is made anew
         ASSERT_TRUE(TVUseSystemKeyboard(TRUE));
         fx::FieldDialog dialog(LowPlace(), {10, 40});
         const auto look = [] {
