@@ -151,6 +151,7 @@ void PanelWindow::Hide() {
     m_shift = Shift::Off;
     ::ShowWindow(m_window, SW_HIDE);
     m_keyboard.Hide();
+    m_system = false;
     Announce();
 }
 
