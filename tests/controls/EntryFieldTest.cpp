@@ -58,7 +58,7 @@ TEST(EntryField, FailedAttachStoresTheOptionAllTheSame) {
 
 TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     FieldStage stage;
-    stage.m_edit.Attach(IDC_EDIT, &stage, 0);
+    stage.m_edit.SubclassDlgItem(IDC_EDIT, &stage);
     stage.m_combo.SubclassDlgItem(IDC_COMBO, &stage);
     stage.m_edit.SetWindowText(L"測点 A12");
     CPoint point = stage.m_edit.PosFromChar(4) + CPoint(1, 4);
@@ -67,6 +67,7 @@ TEST(EntryField, TapsStillPlaceTheCaretSelectAWordAndDropTheList) {
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(4, 4)), stage.m_edit.GetSel());
     stage.Tap(point);
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(3, 6)), stage.m_edit.GetSel());
+    EXPECT_FALSE(panel::IsVisible());
     const CRect rect = RectOf(stage.m_combo);
     stage.Tap(CPoint(rect.right - 5, rect.CenterPoint().y));
     EXPECT_TRUE(stage.m_combo.GetDroppedState());

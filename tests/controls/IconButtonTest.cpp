@@ -54,6 +54,7 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     const auto released = stage.Look();
     stage.m_button.SetState(TRUE);
     const auto pressed = stage.Look();
+    EXPECT_NE(released.At(1, 1), pressed.At(1, 1)) << "the frame";
     const CRect text = released.Around(inside, ::GetSysColor(COLOR_BTNTEXT));
     const CRect pressedText = pressed.Around(inside, fx::WHITE);
     EXPECT_GE(text.left, 24); // and there is one

@@ -16,10 +16,11 @@ constexpr COLORREF YELLOW = RGB(255, 255, 160);
 /// A dialog of 60 x 40 units with a static text, an edit field and an OK button.
 struct Dialog : CnDialog {
     explicit Dialog(DWORD dwOption, CWnd* pOwner = nullptr) : CnDialog(0, pOwner) {
-        constexpr DWORD STYLE = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+        constexpr DWORD STYLE = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
         m_template = DialogTemplate(60, 40, STYLE, L"題名");
         m_template.Add(WC_STATIC, L"M", IDC_TEXT, SS_LEFT, 2, 2, 20, 10);
-        m_template.Add(WC_EDIT, L"", IDC_EDIT, WS_TABSTOP, 2, 14, 40, 10);
+        m_template.Add(WC_EDIT, L"", IDC_EDIT, WS_TABSTOP | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN, 2,
+                       14, 40, 10);
         m_template.Add(WC_BUTTON, L"OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 2, 26, 30, 12);
         InitModalIndirect(m_template.Get(), pOwner);
         SetOption(dwOption);
@@ -57,6 +58,7 @@ TEST(nDialog, OptionsDecideScreenTitleBarAndVisibility) {
             EXPECT_EQ(full, dlg.Rect() == Screen()) << options;
             EXPECT_EQ(full, (dlg.GetStyle() & WS_MAXIMIZEBOX) != 0) << options;
             EXPECT_EQ(okButton, dlg.HasOkButton()) << options;
+            EXPECT_TRUE(dlg.GetExStyle() & WS_EX_DLGMODALFRAME) << options;
             EXPECT_EQ(bar, dlg.Bar() != nullptr) << options;
             const bool bLarge = LOWORD(::SendMessage(dlg.Bar(), TB_GETBUTTONSIZE, 0, 0)) == 32;
             EXPECT_EQ(options == LARGE_BAR, bLarge) << options;
@@ -73,8 +75,13 @@ TEST(nDialog, SwallowsEnterAndEscapeOnlyWhenAsked) {
                                              {dwSwallow, VK_ESCAPE, 77}};
     for (const auto& [option, key, result] : rows) {
         Dialog dlg(CnDialog::OptionPopup | option);
-        const auto end = [&] { dlg.EndDialog(77); };
-        EXPECT_EQ(result, result == 77 ? Play(dlg, {Press({key}), [] {}, end}) : Play(dlg, {Press({key})}))
+        const auto focus = [&, nID = option == 0 ? IDOK : IDC_EDIT] { dlg.GetDlgItem(nID)->SetFocus(); };
+        const auto end = [&] {
+            EXPECT_EQ(L"", TextOf(*dlg.GetDlgItem(IDC_EDIT))) << "not the field's either";
+            dlg.EndDialog(77);
+        };
+        EXPECT_EQ(result, result == 77 ? Play(dlg, {focus, Press({key}), [] {}, end})
+                                       : Play(dlg, {focus, Press({key})}))
             << option << ' ' << key;
     }
 }
@@ -182,6 +189,7 @@ TEST(nDialog, PenDragsTheDialogAndLeavesNoTraceOfTheFrame) {
         const auto lift = [&] {
             EXPECT_TRUE(EdgeIsBlank() || row.moved != CSize()) << row.what;
             pen::Up(press + CSize(-40, 60));
+            pen::Move(press + CSize(-60, 50)); // without contact
         };
         const auto look = [&] {
             EXPECT_EQ(PlacedDialog::PLACE + row.moved, dlg.Rect()) << row.what;

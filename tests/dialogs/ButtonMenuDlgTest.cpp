@@ -79,8 +79,15 @@ TEST(ButtonMenuDlg, IsAColumnOfButtonsUnderItsTitleOrSeveralThatFitALowScreen) {
 TEST(ButtonMenuDlg, TappingAnEntryEndsItWithTheIndexAndANewRunForgetsIt) {
     Frame owner(CSize(240, 320));
     Menu menu(3, &owner);
+    menu.m_dlg.m_hIcon = ::LoadIcon(nullptr, IDI_INFORMATION);
+    EXPECT_EQ(-1, menu.m_dlg.GetMenuIndex());
     for (const int nEntry : {2, 0}) {
-        EXPECT_EQ(IDOK, Play(menu.m_dlg, {Tap(menu.m_dlg, FIRST_BUTTON + nEntry)}));
+        const auto look = [&] {
+            EXPECT_EQ(menu.m_dlg.m_hIcon, menu.m_dlg.GetIcon(TRUE));
+            EXPECT_NEAR(RectOf(owner).CenterPoint().y, RectOf(menu.m_dlg).CenterPoint().y, 1);
+            EXPECT_EQ(menu.Button(0), CWnd::GetFocus());
+        };
+        EXPECT_EQ(IDOK, Play(menu.m_dlg, {look, Tap(menu.m_dlg, FIRST_BUTTON + nEntry)}));
         EXPECT_EQ(nEntry, menu.m_dlg.GetMenuIndex());
     }
     menu.m_ids.RemoveAt(0); // the next run shows what the array holds then

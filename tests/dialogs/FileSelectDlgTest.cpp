@@ -179,6 +179,7 @@ TEST(FileSelectDlg, FolderButtonChangesTheFolderAndKeepsTheName) {
             EXPECT_EQ(L"typed", Text(dlg, NAME));
             auto* const pButton = static_cast<CIconButton*>(dlg.GetDlgItem(FOLDER_BUTTON));
             EXPECT_EQ(TVGetCommonIcon(2), pButton->SetIcon(nullptr)) << "a folder";
+            EXPECT_FALSE(pButton->GetPush()) << "it does not stay down";
             TapOk(dlg);
         };
         EXPECT_EQ(IDOK, Play(dlg, {type, Tap(dlg, FOLDER_BUTTON), pick, [&] { end(::GetActiveWindow(), {}); },

@@ -67,6 +67,8 @@ TEST(ResultDlg, ShowsItsTextsAndItsLinesInTheOrderGiven) {
                 EXPECT_EQ(lines, shown);
                 EXPECT_EQ(message, TextOf(*dlg.GetDlgItem(RESULT_MESSAGE)));
                 EXPECT_EQ(caption, TextOf(dlg));
+                EXPECT_NEAR((bFullScreen ? Screen() : WorkArea()).CenterPoint().y,
+                            RectOf(dlg).CenterPoint().y, 1);
             });
     }
 }

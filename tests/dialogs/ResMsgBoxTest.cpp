@@ -145,22 +145,39 @@ TEST(ResMsgBox, LinesBreakBetweenCharactersAsTheyAreSeen) {
         return WhileOpen([&] { return box.InformationMsgBox(strText); }, IDOK).strText;
     };
     // pszNotFirst: In a line.
-    const Rows<CString, CString, const wchar_t*> rows = {{L"x", L"\xD867\xDE3D", L"\n\xDE3D"},
-                                                         {L"", L"か\x3099", L"\n\x3099"},
-                                                         {L"", L"か。", L"\n。"},
-                                                         {L"", L"か、", L"\n、"}};
-    for (const auto& [strBefore, strRepeated, pszNotFirst] : rows) {
-        CString strText = strBefore;
-        for (int i = 0; i < 60; ++i)
-            strText += strRepeated;
-        const CString strShown = shown(strText);
-        EXPECT_EQ(strText, Joined(strShown));
-        EXPECT_GT(strShown.GetLength(), strText.GetLength());
-        EXPECT_EQ(-1, strShown.Find(pszNotFirst));
-    }
+    const Rows<CString, const wchar_t*> rows = {
+        {L"\xD867\xDE3D", L"\n\xDE3D"}, {L"か\x3099", L"\n\x3099"}, {L"か。", L"\n。"}, {L"か、", L"\n、"}};
+    for (const CString strBefore : {L"", L"x", L"か"}) // which shifts the ends of the lines
+        for (const auto& [strRepeated, pszNotFirst] : rows) {
+            CString strText = strBefore;
+            for (int i = 0; i < 60; ++i)
+                strText += strRepeated;
+            const CString strShown = shown(strText);
+            EXPECT_EQ(strText, Joined(strShown));
+            EXPECT_GT(strShown.GetLength(), strText.GetLength());
+            EXPECT_EQ(-1, strShown.Find(pszNotFirst));
+        }
+    EXPECT_EQ(L"x \n", shown(L"x " + CString(L'a', 60)).Left(3));
     EXPECT_EQ(CString(L'a', 20) + L" \n" + CString(L'b', 25),
               shown(CString(L'a', 20) + L" " + CString(L'b', 25)));
     EXPECT_EQ(L" a", shown(L" " + CString(L'a', 60)).Left(2)) << "no line of a blank alone";
+}
+
+TEST(ResMsgBox, OfTooManyLinesTheFirstAndTheLastFourAreShown) {
+    const auto numbers = [](int nFirst, int nLast) {
+        CString str;
+        for (int i = nFirst; i <= nLast; ++i)
+            str.AppendFormat(L"%d\n", i);
+        return str + L"?";
+    };
+    const auto shown = [](const CString& strText) {
+        return WhileOpen([&] { return CResMsgBox().InformationMsgBox(strText); }, IDOK).strText;
+    };
+    CString strMany = shown(numbers(1, 99));
+    const int nBreaks = strMany.Remove(L'\n');
+    EXPECT_EQ(Joined(numbers(1, nBreaks - 4).TrimRight(L'?') + L"…" + numbers(97, 99)), strMany);
+    EXPECT_EQ(numbers(1, nBreaks), shown(numbers(1, nBreaks))) << "as many as there is room for";
+    EXPECT_NE(numbers(1, nBreaks + 1), shown(numbers(1, nBreaks + 1))) << "and not more";
 }
 
 } // namespace

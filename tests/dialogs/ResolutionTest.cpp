@@ -37,11 +37,7 @@ TEST(Resolution, IconsAndFontsFollowIt) {
         });
     WhileOpen(files, [&] {
         DoubleResolution(files);
-        LOGFONT look = {};
-        files.List().GetFont()->GetLogFont(&look);
-        LOGFONT wanted = {};
-        files.GetFont()->GetLogFont(&wanted);
-        EXPECT_EQ(wanted.lfWidth, look.lfWidth) << "now there is room for it";
+        EXPECT_EQ(files.GetFont(), files.List().GetFont()) << "now there is room for it";
     });
     CBrowseFolderDlg folders(L"\\", nullptr);
     WhileOpen(folders, [&] {

@@ -121,6 +121,8 @@ TEST(SelMemberDlg, ButtonsMoveTheSelectedMember) {
             EXPECT_EQ(strLeftAfter, members.InBox(LEFT));
             EXPECT_EQ(strRightAfter, members.InBox(RIGHT));
             EXPECT_EQ(leftSelection, members.Box(LEFT).GetCurSel());
+            for (const int nID : {1008, 1009})
+                EXPECT_FALSE(static_cast<CIconButton*>(members.m_dlg.GetDlgItem(nID))->GetPush());
             const int nSelected = members.Box(RIGHT).GetCurSel();
             EXPECT_EQ(rightSelection, rightSelection == ANY ? ANY : nSelected);
             members.m_dlg.EndDialog(IDCANCEL);
@@ -143,6 +145,7 @@ TEST(SelMemberDlg, OkGivesTheListsBackAsTheyAreShownAndCancelTheVeryItemsGiven) 
     EXPECT_EQ(L"yx*a", InList(right));
     EXPECT_EQ(IDOK, members.Run(L"R3 <", IDOK));
     EXPECT_EQ(L"b*a", InList(left));
+    EXPECT_EQ(0U, CSelMemberItem().m_dwData) << "the caller's own are no blanks";
 }
 
 TEST(SelMemberDlg, FitsOnTheScreenWithAllOfItsTemplateUnderAnyTitle) {
