@@ -44,7 +44,7 @@ struct Dialog : CFileSelectDlg {
         CRect rect;
         List().GetItemRect(static_cast<int>(it - names.begin()), rect, LVIR_LABEL);
         List().ClientToScreen(rect);
-        testkit::pen::Tap(CPoint(rect.left + 120, rect.CenterPoint().y)); // on its time: all of a row counts
+        testkit::pen::Tap(CPoint(rect.left + 10, rect.CenterPoint().y));
     }
     /// A step that puts a name into the field and taps OK.
     testkit::Step Enter(LPCTSTR pszName) {
