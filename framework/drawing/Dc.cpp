@@ -11,8 +11,7 @@ IMPLEMENT_DYNCREATE(CDC, CObject)
 // --- Ownership ----------------------------------------------------------------------------
 
 CDC::~CDC() {
-    if (m_hDC != nullptr)
-        DeleteDC();
+    DeleteDC();
 }
 
 // Built as CWnd::GetSafeHwnd is.

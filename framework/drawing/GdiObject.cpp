@@ -13,8 +13,7 @@ IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
 IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
 
 CGdiObject::~CGdiObject() {
-    if (m_hObject != nullptr)
-        DeleteObject();
+    DeleteObject();
 }
 
 // Built as CWnd::GetSafeHwnd is.

@@ -19,19 +19,25 @@ std::vector<COLORREF> Pixels(const CDC& dc) {
 TEST(DragRect, IsAFrameOfTheGivenThicknessWithHalfOfItsPixels) {
     CBrush white(RGB(255, 255, 255));
     const Rows<CSize, CBrush*, int> rows = {
-        {{1, 1}, nullptr, 38},    // 20 x 20 less 18 x 18, halved
-        {{1, 1}, &white, 76},     // all of them by a brush without a pattern
-        {{2, 3}, nullptr, 88},    // sides 2, top and bottom 3
-        {{10, 10}, nullptr, 200}, // the sides meet: all of it
-        {{15, 15}, nullptr, 200},
+        {{1, 1}, nullptr, 42},    // 20 x 24 less 18 x 22, halved
+        {{1, 1}, &white, 84},     // all of them by a brush without a pattern
+        {{2, 3}, nullptr, 96},    // sides 2, top and bottom 3
+        {{10, 10}, nullptr, 240}, // the sides meet: all of it
+        {{15, 15}, nullptr, 240},
     };
     for (const auto& [size, pBrush, nPixels] : rows) {
         Canvas canvas;
-        canvas.m_dc.DrawDragRect(CRect(10, 10, 30, 30), size, nullptr, size, pBrush);
+        canvas.m_dc.SetViewportOrg(2, 1);
+        canvas.m_dc.SetTextColor(RGB(255, 0, 0)); // the frame's are its own
+        canvas.m_dc.SetBkColor(RGB(0, 0, 255));
+        canvas.m_dc.DrawDragRect(CRect(8, 9, 28, 33), size, nullptr, size, pBrush);
         EXPECT_EQ(nPixels, canvas.CountDrawn()) << size.cx;
         const std::string picture = canvas.Text();
         EXPECT_EQ(picture.find_first_not_of(".\n"), picture.find('#'));
         EXPECT_GE(picture.find('#'), 10U * 41);
+        for (size_t i = picture.find('#'); pBrush == nullptr && i != std::string::npos;
+             i = picture.find('#', i + 1))
+            EXPECT_EQ(picture.find('#') % 2, i % 2) << "every second pixel, in turn";
     }
 }
 

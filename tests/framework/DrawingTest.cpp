@@ -26,7 +26,7 @@ TEST(DeviceContext, DrawsWhereItBelongs) {
     };
     const Rows<std::function<void(CDC&)>, std::string> rows = {
         {solid, "....... ..##... ..##... ....... ......."},
-        {[](CDC& dc) { dc.Draw3dRect(1, 1, 5, 3, 0, RED); }, "....... .####x. .#...x. .xxxxx. ......."},
+        {[](CDC& dc) { dc.Draw3dRect(2, 1, 5, 3, 0, RED); }, "....... ..####x ..#...x ..xxxxx ......."},
         {scroll, "#...... ..#.... ....... ....... ......."},
         {[&](CDC& dc) { dc.DrawState(CPoint(1, 1), CSize(3, 1), &picture, DSS_NORMAL); },
          "....... ..#.... ....... ....... ......."},
@@ -53,11 +53,11 @@ TEST(DeviceContext, SizesHaveNoOriginAndNoDirection) {
     dc.DPtoLP(&size);
     EXPECT_EQ(CSize(8, 3), size);
     const CSize dotsPerInch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
-    CSize inch(2540, 2540);
-    dc.HIMETRICtoLP(&inch);
-    EXPECT_EQ(CSize(dotsPerInch.cx * 4, dotsPerInch.cy / 4), inch);
-    dc.LPtoHIMETRIC(&inch);
-    EXPECT_EQ(CSize(2540, 2540), inch);
+    CSize inches(254000, 254000);
+    dc.HIMETRICtoLP(&inches);
+    EXPECT_EQ(CSize(dotsPerInch.cx * 400, dotsPerInch.cy * 25), inches);
+    dc.LPtoHIMETRIC(&inches);
+    EXPECT_EQ(CSize(254000, 254000), inches);
 }
 
 TEST(DeviceContext, AnotherContextAnswersQuestions) {
@@ -71,17 +71,50 @@ TEST(DeviceContext, AnotherContextAnswersQuestions) {
     EXPECT_EQ(BLUE, asked.m_dc.GetTextColor());
     EXPECT_EQ(-1, dc.SaveDC());
     dc.SelectStockObject(BLACK_BRUSH);
-    dc.MoveTo(1, 1);
+    dc.MoveTo(0, 1);
     dc.LineTo(4, 1);
     EXPECT_EQ(CPoint(4, 1), dc.GetCurrentPosition());
-    EXPECT_EQ(3, drawn.CountDrawn());
+    EXPECT_EQ(4, drawn.CountDrawn());
     EXPECT_EQ(0, asked.CountDrawn());
     EXPECT_TRUE(dc.RestoreDC(-1));
     EXPECT_EQ(::GetStockObject(WHITE_BRUSH), asked.m_dc.GetCurrentBrush()->m_hObject);
+    asked.m_dc.SaveDC();
+    EXPECT_FALSE(dc.RestoreDC(-1)) << "only one of them was saved";
     CString strFace;
     EXPECT_GT(dc.GetTextFace(strFace), 0);
     dc.ReleaseOutputDC();
     dc.ReleaseAttribDC();
+}
+
+TEST(DeviceContext, GoesWithItsObject) {
+    HDC hFirst = nullptr, hLast = nullptr;
+    {
+        CDC dc, given;
+        EXPECT_TRUE(dc.CreateCompatibleDC(nullptr));
+        hFirst = dc;
+        EXPECT_TRUE(dc.CreateCompatibleDC(&dc));
+        EXPECT_EQ(0U, ::GetObjectType(hFirst));
+        hLast = dc;
+        EXPECT_EQ(&dc, CDC::FromHandle(hLast));
+        given.Attach(dc.Detach());
+        EXPECT_EQ(&given, CDC::FromHandle(hLast));
+        EXPECT_EQ(nullptr, dc.m_hAttribDC);
+        given.Detach();
+        EXPECT_NE(&given, CDC::FromHandle(hLast));
+        EXPECT_EQ(hLast, CDC::FromHandle(hLast)->m_hAttribDC);
+        dc.Attach(hLast);
+    }
+    EXPECT_EQ(0U, ::GetObjectType(hLast));
+    Frame frame;
+    HDC all[3] = {};
+    {
+        CClientDC client(&frame);
+        CWindowDC window(&frame);
+        CPaintDC paint(&frame);
+        all[0] = client, all[1] = window, all[2] = paint;
+    }
+    for (const HDC hDC : all)
+        EXPECT_EQ(nullptr, ::WindowFromDC(hDC)) << "given back";
 }
 
 // --- Pens, brushes, fonts -----------------------------------------------------------------------
@@ -106,15 +139,21 @@ TEST(GdiObject, HandleHasOneObjectOfTheClassThatFits) {
 }
 
 TEST(GdiObject, CreatingAgainDeletesWhatWasThere) {
-    CPen pen(PS_SOLID, 1, RGB(9, 9, 9));
+    CPen pen(PS_SOLID, 3, RGB(9, 9, 9));
     const HPEN hFirst = pen;
+    LOGPEN look = {};
+    pen.GetLogPen(&look);
+    EXPECT_EQ(3, look.lopnWidth.x);
     ASSERT_TRUE(pen.CreatePen(PS_DASH, 1, RGB(8, 8, 8)));
     EXPECT_FALSE(Exists(hFirst));
     const HPEN hSecond = pen;
     EXPECT_EQ(hSecond, pen.Detach());
+    EXPECT_NE(&pen, CGdiObject::FromHandle(hSecond));
     EXPECT_EQ(nullptr, pen.Detach());
     EXPECT_FALSE(pen.DeleteObject());
-    EXPECT_TRUE(::DeleteObject(hSecond)) << "given up, so still there";
+    EXPECT_TRUE(CPen::FromHandle(hSecond)->DeleteObject()) << "given up, so still there";
+    const HGDIOBJ hGone = CPen(PS_DASH, 1, RED).m_hObject;
+    EXPECT_FALSE(Exists(hGone));
     EXPECT_FALSE(pen.Attach(nullptr));
     EXPECT_FALSE(CDC().Attach(nullptr));
     EXPECT_FALSE(CMenu().Attach(nullptr));
@@ -133,6 +172,15 @@ TEST(GdiObject, IsMadeByItsConstructor) {
     EXPECT_THROW(CBrush(static_cast<CBitmap*>(nullptr)), CResourceException*);
 }
 
+TEST(GdiObject, RegionIsCombinedOfTwoOthers) {
+    CRgn all, top, rest;
+    all.CreateRectRgn(0, 0, 5, 5);
+    top.CreateRectRgn(0, 0, 5, 2);
+    rest.CreateRectRgn(0, 0, 1, 1);
+    rest.CombineRgn(&all, &top, RGN_DIFF);
+    EXPECT_TRUE(rest.PtInRegion(3, 3));
+}
+
 TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {
     CBrush last;
     {
@@ -147,12 +195,17 @@ TEST(GdiObject, StockObjectHasSeveralOwnersWithoutHarm) {
 TEST(GdiObject, PointFontHasThePixelsOfItsPointsOnTheDevice) {
     CWindowDC screen(nullptr);
     screen.SetViewportOrg(3, 7); // which makes no letter larger
+    screen.SetMapMode(MM_ANISOTROPIC);
+    screen.SetWindowExt(CSize(2, 2));
     for (CDC* pDC : {static_cast<CDC*>(&screen), static_cast<CDC*>(nullptr)}) {
         CFont font;
         LOGFONT logFont = {};
         ASSERT_TRUE(font.CreatePointFont(180, L"A face name that is longer than thirty-two characters", pDC));
         font.GetLogFont(&logFont);
-        EXPECT_EQ(-screen.GetDeviceCaps(LOGPIXELSY) / 4, logFont.lfHeight) << "18 of 72 points in an inch";
+        const int nUnits = pDC != nullptr ? 2 : 1; // for a pixel
+        EXPECT_EQ(-nUnits * screen.GetDeviceCaps(LOGPIXELSY) / 4, logFont.lfHeight)
+            << "18 of 72 points in an inch";
+        EXPECT_EQ(DEFAULT_CHARSET, logFont.lfCharSet);
         EXPECT_EQ(L"A face name that is longer than", CString(logFont.lfFaceName));
     }
 }

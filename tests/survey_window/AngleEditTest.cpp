@@ -35,6 +35,12 @@ struct AngleStage : Stage {
     void Enter() { Tap(m_angle); }
     void Leave() { Tap(*GetDlgItem(IDC_OTHER)); }
     CString Text() const { return TextOf(m_angle); }
+    static HWND WithCaret() {
+        GUITHREADINFO info = {};
+        info.cbSize = sizeof info;
+        ::GetGUIThreadInfo(0, &info);
+        return info.hwndCaret;
+    }
 
     CAngleEdit m_angle;
 };
@@ -94,6 +100,7 @@ TEST(AngleEdit, EntersAsANumberAndLeavesAsDegrees) {
         stage.m_angle.SetAngle(dAngle);
         stage.Enter();
         EXPECT_EQ(stage.Text(), pszEntered);
+        EXPECT_EQ(stage.m_angle, stage.WithCaret());
         EXPECT_EQ(stage.m_angle.GetAngle(), dAngle) << "nothing has been typed yet";
         stage.Leave();
         EXPECT_EQ(stage.Text(), pszLeft);
@@ -148,8 +155,10 @@ TEST(AngleEdit, WithoutConversionFocusChangesDoNothing) {
     stage.m_angle.SetAngle(PI / 2);
     EXPECT_EQ(L"90\uFF9F 0' 00\"", stage.Text()) << "setting it always shows it";
     stage.m_angle.SetConvActive(2);
-    stage.Enter();
+    stage.m_angle.SetSel(0, 0);
+    stage.m_angle.SetFocus();
     EXPECT_EQ(L"90.0000", stage.Text());
+    EXPECT_EQ(MAKELONG(7, 7), static_cast<LONG>(stage.m_angle.GetSel())) << "nothing is selected";
 }
 
 TEST(AngleEdit, AttachShowsNothingAndFailureKeepsTheMode) {
