@@ -4,7 +4,7 @@
 
 mutants_folder=$build/mutants
 
-# Each folder or file, the build that has its tests, and those tests.
+# Each folder or file, the build that has its tests, and those tests, "@" the screen if it is another.
 mutants_table='
 geometry host geometry
 survey host survey
@@ -13,7 +13,7 @@ framework/application win64 framework framework_comctl
 framework/control win64 framework framework_comctl
 framework/dialog win64 framework framework_comctl controls
 framework/drawing win64 framework controls
-framework/shell win64 framework framework_comctl companion screens controls
+framework/shell win64 framework framework_comctl companion screens controls screens@480x640 screens@320x240
 framework/window win64 framework framework_comctl controls screens
 companion win64 companion
 util host util fuzz_seeds
@@ -39,14 +39,15 @@ run_mutants() {
 }
 
 declare -A mutants_built=()
+screens=()
 
 mutants_of() {
-    local folder=$1 preset=$2 name=${1//\//_} programs=("${@:3}") all=("${@:3}") workers through=()
+    local folder=$1 preset=$2 name=${1//\//_} programs=("${@:3}") all=("${@:3}") through=()
     if [[ $preset == win64 ]]; then
         # These folders share a build, which takes minutes.
         name=windows
-        mapfile -t all < <(awk '$2 == "win64" { for (i = 3; i <= NF; ++i) print $i }' <<<"$rows" | sort -u)
-        [[ -n $screen_pid ]] || open_screen
+        mapfile -t all < <(awk '$2 == "win64" { for (i = 3; i <= NF; ++i) print $i }' <<<"$rows" | sed 's/@.*//' | sort -u)
+        ((${#screens[@]} > 0)) || open_screens
     fi
     local own=$mutants_folder/$name
     mkdir -p "$own"
@@ -55,11 +56,9 @@ mutants_of() {
         mutants_built[$name]=yes
     fi
     programs=("${programs[@]/#/$own/tree/build/$preset/bin/test_}")
-    workers=$(nproc)
     if [[ $preset == win64 ]]; then
-        programs=("${programs[@]/%/.exe}")
-        through+=(--through wine --folder "$folder")
-        workers=1 # the windows of two programs would take the focus from each other
+        mapfile -t programs < <(printf '%s\n' "${programs[@]}" | sed 's/@\|$/.exe&/')
+        through+=(--through wine --folder "$folder" "${screens[@]/#/--screens=}")
     fi
     logged "reach-${folder//\//_}" see_reach "$preset" "${programs[@]}"
     case $how in
@@ -67,8 +66,25 @@ mutants_of() {
     [1-9]*) through+=(--one-in "$how") ;;
     esac
     printf '%s\n' "$folder:"
-    in_wine /usr/bin/python3 "$root/tools/mutants/judge.py" "${through[@]}" --workers "$workers" \
+    in_wine /usr/bin/python3 "$root/tools/mutants/judge.py" "${through[@]}" --workers "$(nproc)" \
         --explained "$root/tools/mutants/explained.txt" "$own/faults.json" "${programs[@]}" 2>&1 </dev/null
+}
+
+# Programs with windows wait more than they calculate, and on one screen they would take the focus from
+# each other.
+open_screens() {
+    local i screen own
+    open_screen # its prefix is what the others are made from
+    for ((i = 2 * $(nproc); i > 0; --i)); do
+        own=
+        for screen in "$device_screen 96" "${other_screens[@]}"; do
+            [[ "$device_screen 96 $mutants_table" == *"${screen%% *}"[[:space:]]* ]] || continue
+            # shellcheck disable=SC2086  # size and resolution
+            open_screen "-mutants$i-${screen%% *}" $screen
+            own+=" $screen_size $DISPLAY $WINEPREFIX"
+        done
+        screens+=("$own")
+    done
 }
 
 # What gets faults in one build, by commas: the folder and what else its tests are for, or all
@@ -121,14 +137,21 @@ build_mutants() {
 
 # see_reach PRESET PROGRAM...: which tests get to which faults, PROGRAM.reached.txt.
 see_reach() {
-    local preset=$1 program
+    local preset=$1 program size display folder
     shift
     for program in "$@"; do
         head -c 65536 /dev/zero >"$program.reached"
         rm -f "$program.reached.txt"
         case $preset in
         host) MUTANT_REACH=$program.reached "$program" ;;
-        win64) MUTANT_REACH=Z:$program.reached in_wine timeout -k 5 900 wine "$program" ;;
+        win64)
+            size=$device_screen
+            [[ $program != *@* ]] || size=${program#*@}
+            # Of the first worker's screens.
+            read -r display folder < <(grep -o "$size [^ ]* [^ ]*" <<<"${screens[0]}" | cut -d ' ' -f 2-)
+            MUTANT_REACH=Z:$program.reached DISPLAY=$display WINEPREFIX=$folder \
+                in_wine timeout -k 5 900 wine "${program%@*}"
+            ;;
         esac
     done
 }

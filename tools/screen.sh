@@ -8,7 +8,7 @@ first_prefix=$build/wine
 prefix=$first_prefix
 system_font=/usr/share/wine/fonts/vgasys.fon
 screen_pid=
-wine_started=
+opened=() # process and prefix of each screen
 
 # A screen of the run's own, also on a desktop: the same size and depth
 # everywhere, and no window manager that places the windows. A second one of another NAME has a
@@ -24,6 +24,7 @@ open_screen() {
     Xvfb -displayfd 3 -screen 0 "${screen_size}x24" -nolisten tcp -noreset \
         3>"$number" >"$build/xvfb${1:-}.log" 2>&1 9>&- &
     screen_pid=$!
+    opened+=("$screen_pid $prefix")
     wait_until 20 screen_is_up "$number" || die "Xvfb did not start, see build/xvfb.log"
     DISPLAY=:$(<"$number")
     export DISPLAY
@@ -41,7 +42,6 @@ close_when_over() {
 open_wine() {
     export WINEPREFIX=$prefix WINEDEBUG=-all
     export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
-    wine_started=yes
     # A run that was killed may have left its server, bound to a screen that is gone.
     [[ ! -d $prefix ]] || wineserver -k 9>&- || true
     cmp -s <(screen_settings) "$prefix/device.reg" || logged make-wine-prefix make_prefix
@@ -97,14 +97,18 @@ add_marlett() {
     cp "$unpacked/usr/share/wine/fonts/marlett.ttf" "$prefix/drive_c/windows/Fonts/"
 }
 
-# Ends what this run started, and only that.
-close_screen() {
+forget_screens() {
     trap - EXIT
-    if [[ -n $wine_started && -d $prefix ]]; then
-        wineserver -k 9>&- || true
-    fi
-    if [[ -n $screen_pid ]]; then
-        kill "$screen_pid" 2>/dev/null || true
-        wait "$screen_pid" 2>/dev/null || true
-    fi
+    opened=()
+}
+
+# Ends what this run started, all screens, and only that.
+close_screen() {
+    local screen
+    for screen in "${opened[@]}"; do
+        [[ ! -d ${screen#* } ]] || WINEPREFIX=${screen#* } wineserver -k 9>&- || true
+        kill "${screen%% *}" 2>/dev/null || true
+        wait "${screen%% *}" 2>/dev/null || true
+    done
+    forget_screens
 }

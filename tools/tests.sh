@@ -93,7 +93,7 @@ declare -A lanes=()
 start_lane() {
     local log=$build/lane-$1.log
     (
-        trap - EXIT # what is open is the caller's
+        forget_screens # they are the caller's
         "${@:2}"
         printf '%d %d\n' "$passed" "$failed"
     ) >"$log" 2>&1 &

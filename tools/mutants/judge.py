@@ -1,6 +1,7 @@
 """Activates one planted fault after the other and runs the tests that reach its place.
 
-What a program's tests reach is in PROGRAM.reached.txt, written by Reach.cpp. EXPLAINED has the
+What a program's tests reach is in PROGRAM.reached.txt, written by Reach.cpp. A PROGRAM may be followed
+by "@" and the size of the screen that it runs on. EXPLAINED has the
 faults that make no difference a test could see, a line "file | function | kind | code | reason"
 each; * stands for all functions, kinds or codes. Prints the survivors, and how many of how many
 were found. With --each all tests run that reach a fault, not just up to the first that finds it,
@@ -12,6 +13,7 @@ import collections
 import concurrent.futures
 import json
 import os
+import queue
 import re
 import signal
 import subprocess
@@ -42,26 +44,39 @@ def explains(pattern, fault):
     return all(part in ("*", own) for part, own in zip(pattern, here))
 
 
+def read_screens(words):
+    """The environment of each size; the usual one has no name."""
+    places = {size: {"DISPLAY": display, "WINEPREFIX": prefix}
+              for size, display, prefix in zip(words[::3], words[1::3], words[2::3])}
+    return dict(places, **{"": next(iter(places.values()), {})})
+
+
 def find(fault, tests, options):
     """The assertions that fail, test and line each; the first of them do without --each."""
     reaching = [test for test in tests if fault["number"] in test[3]]
     found = set()
-    for some in (reaching[:FIRST], reaching[FIRST:]):
-        for program in sorted({test[1] for test in some}):
-            own = [test for test in some if test[1] == program]
-            found |= failing(fault["number"], program, own, options)
-            if found and not options.each:
-                return found
-    return found
+    place = options.places.get()
+    try:
+        for some in (reaching[:FIRST], reaching[FIRST:]):
+            for program in sorted({test[1] for test in some}):
+                own = [test for test in some if test[1] == program]
+                found |= failing(fault["number"], program, own, place, options)
+                if found and not options.each:
+                    return found
+        return found
+    finally:
+        options.places.put(place)
 
 
-def failing(number, program, tests, options):
+def failing(number, program, tests, place, options):
     found = set()
+    path, _, size = program.partition("@")
+    settings = dict(place[size], MUTANT=str(number))
     while tests:
         limit = (20 if options.through else 5) + 10 * sum(test[0] for test in tests) / 1000
-        arguments = [program, "--gtest_filter=" + ":".join(test[2] for test in tests)]
+        arguments = [path, "--gtest_filter=" + ":".join(test[2] for test in tests)]
         arguments += [] if options.each else ["--gtest_fail_fast"]
-        ended, output = run(options.through + arguments, number, limit)
+        ended, output = run(options.through + arguments, settings, limit)
         name = ""
         for line in output.splitlines():
             if match := re.match(r"\[ RUN      \] (\S+)", line):
@@ -79,11 +94,11 @@ def failing(number, program, tests, options):
     return found
 
 
-def run(arguments, number, limit):
+def run(arguments, settings, limit):
     """Whether the program comes to its end, None if it hangs, and what it has said."""
     # In a folder of its own: programs that run at the same time use files of the same names.
     with tempfile.TemporaryFile() as output, tempfile.TemporaryDirectory() as folder:
-        process = subprocess.Popen(arguments, env=dict(os.environ, MUTANT=str(number), TMPDIR=folder), cwd=folder,
+        process = subprocess.Popen(arguments, env=dict(os.environ, TMPDIR=folder, **settings), cwd=folder,
                                    stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
                                    start_new_session=True)
         try:
@@ -126,6 +141,8 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--through", action="append", default=[])
     parser.add_argument("--workers", type=int, default=1)
+    parser.add_argument("--screens", action="append",
+                        help="of a worker: size, display and Wine prefix of each, the first is the usual one")
     parser.add_argument("--explained", required=True)
     parser.add_argument("--each", help="where the assertions that fail are written, as JSON")
     parser.add_argument("--folder", default="", help="faults of files whose names begin so")
@@ -137,10 +154,13 @@ def main():
               if fault["file"].startswith(options.folder) and zlib.crc32(fault["key"].encode()) % options.one_in == 0]
     tests = read_tests(options.programs)
     explained = read_explained(options.explained)
+    options.places = queue.SimpleQueue()
+    for screens in options.screens or [""] * options.workers:
+        options.places.put(read_screens(screens.split()))
     found = []
     used = []
     survivors = 0
-    with concurrent.futures.ThreadPoolExecutor(options.workers) as pool:
+    with concurrent.futures.ThreadPoolExecutor(options.places.qsize()) as pool:
         for fault, places in zip(faults, pool.map(lambda fault: find(fault, tests, options), faults)):
             found.append(places)
             patterns = [pattern for pattern in explained if explains(pattern, fault)]
