@@ -15,10 +15,10 @@ framework/dialog win64 framework framework_comctl controls
 framework/drawing win64 framework controls
 framework/shell win64 framework framework_comctl companion screens controls screens@480x640 screens@320x240
 framework/window win64 framework framework_comctl controls screens
-companion win64 companion
+companion win64 companion screens
 util host util fuzz_seeds
-controls win64 controls survey_window
-dialogs win64 dialogs
+controls win64 controls survey_window screens screens@800x480
+dialogs win64 dialogs screens screens@800x480 screens@320x240
 survey/AngleEdit.cpp win64 survey_window
 '
 
@@ -140,6 +140,7 @@ see_reach() {
     local preset=$1 program size display folder
     shift
     for program in "$@"; do
+        cd "${program%/*}" || return # where files may land
         head -c 65536 /dev/zero >"$program.reached"
         rm -f "$program.reached.txt"
         case $preset in

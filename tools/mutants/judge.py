@@ -98,7 +98,9 @@ def run(arguments, settings, limit):
     """Whether the program comes to its end, None if it hangs, and what it has said."""
     # In a folder of its own: programs that run at the same time use files of the same names.
     with tempfile.TemporaryFile() as output, tempfile.TemporaryDirectory() as folder:
-        process = subprocess.Popen(arguments, env=dict(os.environ, TMPDIR=folder, **settings), cwd=folder,
+        # Wine has a folder for temporary files in its prefix; in another TMPDIR it would start all over.
+        settings = settings if "WINEPREFIX" in settings else dict(settings, TMPDIR=folder)
+        process = subprocess.Popen(arguments, env=dict(os.environ, **settings), cwd=folder,
                                    stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
                                    start_new_session=True)
         try:
