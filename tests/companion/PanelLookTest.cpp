@@ -1,6 +1,6 @@
 // What the soft input panel shows.
 #include "support/PanelKeys.h"
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 #include "support/TestData.h"
 #include "testkit/KeptPicture.h"
 
@@ -73,7 +73,7 @@ TEST_F(PanelLook, LabelsFollowTheLanguageAndFitTheirKeys) {
         {&kana, 104, 0, 5},    {&kana, 104, 5, 10},    {&kana, 104, 10, 15},    {&kana, 104, 23, 29}};
     for (const auto& [pImage, nTop, nLeft, nRight] : keys) {
         CRect key(nLeft * 6, nTop, nRight * 6, 125);
-        const CRect ink = pImage->Around(key, fx::BLACK);
+        const CRect ink = pImage->Around(key, BLACK);
         key.DeflateRect(2, 2, 1, 1);
         EXPECT_FALSE(ink.IsRectEmpty());
         EXPECT_EQ(ink & key, ink) << nLeft << " of row " << nTop;

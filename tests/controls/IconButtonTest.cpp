@@ -1,5 +1,5 @@
 // The icon button, on the screen and under the stylus.
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 #include "testkit/Canvas.h"
 #include "support/TestApp.h"
 
@@ -21,11 +21,11 @@ struct ButtonStage : Stage {
     Picture Look() { return Picture::Of(m_button); }
     CRect IconPlace() {
         const auto image = Look();
-        return image.Around(image.Rect(), fx::MAGENTA);
+        return image.Around(image.Rect(), MAGENTA);
     }
     bool AwaitsRedraw() const { return ::GetUpdateRect(m_button, nullptr, FALSE) != FALSE; }
 
-    fx::SquareIcon m_icon;
+    SquareIcon m_icon;
     CIconButton m_button;
 };
 
@@ -56,12 +56,12 @@ TEST(IconButton, TextStandsBesideTheIconAndIsWhiteWhenPressed) {
     const auto pressed = stage.Look();
     EXPECT_NE(released.At(1, 1), pressed.At(1, 1)) << "the frame";
     const CRect text = released.Around(inside, ::GetSysColor(COLOR_BTNTEXT));
-    const CRect pressedText = pressed.Around(inside, fx::WHITE);
+    const CRect pressedText = pressed.Around(inside, WHITE);
     EXPECT_GE(text.left, 24); // and there is one
     EXPECT_LE(text.left, 27);
     EXPECT_NEAR(12, text.CenterPoint().y, 2);
     EXPECT_EQ(pressedText, text + CPoint(2, 1));
-    EXPECT_TRUE(pressed.Has(pressedText, fx::BLACK)) << "on black";
+    EXPECT_TRUE(pressed.Has(pressedText, BLACK)) << "on black";
 }
 
 TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
@@ -93,7 +93,7 @@ TEST(IconButton, EachActionDrawsItsPartAndRestoresTheContext) {
             item.rcItem = CRect(CPoint(), SIZE_);
             stage.m_button.DrawItem(&item);
             const Picture image = canvas.Look();
-            EXPECT_EQ(image.Has(image.Rect(), fx::MAGENTA), bFace);
+            EXPECT_EQ(image.Has(image.Rect(), MAGENTA), bFace);
             if (!bFace) {
                 const CRect drawn =
                     image.Around(image.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != PAPER; });
@@ -122,7 +122,7 @@ TEST(IconButton, PushStateBelongsToToggleButtons) {
     Frame bystander;
     bystander.RedrawWindow();
     CIconButton button; // without a window, it touches no other
-    const fx::SquareIcon icon;
+    const SquareIcon icon;
     button.SetIcon(icon);
     button.SetPush(TRUE);
     EXPECT_FALSE(button.GetPush());
@@ -140,7 +140,7 @@ TEST(IconButton, PushStateBelongsToToggleButtons) {
 TEST(IconButton, RedrawsForChangesOnly) {
     ButtonStage stage({60, 24}, CIconButton::StyleToggle);
     CIconButton& button = stage.m_button;
-    const fx::SquareIcon other;
+    const SquareIcon other;
     SIZE size = {8, 8};
     const Rows<const char*, std::function<void()>, bool> rows = {
         {"same icon", [&] { EXPECT_EQ(button.SetIcon(stage.m_icon), stage.m_icon); }, false},

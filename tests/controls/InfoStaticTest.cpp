@@ -1,6 +1,6 @@
 // The information text, pixel by pixel.
 #include "support/TestApp.h"
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 #include "testkit/Picture.h"
 
 #include "controls/InfoStatic.h"
@@ -28,22 +28,6 @@ struct InfoStatic : testing::Test {
     CInfoStatic m_text;
 };
 
-TEST_F(InfoStatic, IconStandsInTheCornerInItsOwnSize) {
-    m_text.SetBkColor(YELLOW);
-    m_text.SetOption(CInfoStatic::OptionIcon);
-    const auto image = Look();
-    CClientDC screen(&m_frame);
-    screen.FillSolidRect(0, 0, 16, 16, YELLOW);
-    ::DrawIconEx(screen, 0, 0, TVGetCommonIcon(39), 16, 16, 0, nullptr, DI_NORMAL);
-    const Picture icon(screen, {16, 16});
-    EXPECT_FALSE(icon.IsAll(icon.Rect(), YELLOW));
-    const CRect differs =
-        image.Around(icon.Rect(), [&](CPoint p) { return image.At(p.x, p.y) != icon.At(p.x, p.y); });
-    EXPECT_EQ(CRect(0, 0, 0, 0), differs);
-    EXPECT_TRUE(image.IsAll(CRect(16, 0, SIZE_.cx, SIZE_.cy), YELLOW));
-    EXPECT_TRUE(image.IsAll(CRect(0, 16, SIZE_.cx, SIZE_.cy), YELLOW));
-}
-
 TEST_F(InfoStatic, TextIsIndentedBehindTheIconAndCentredOnItsColour) {
     m_text.SetBkColor(YELLOW);
     m_text.SetWindowText(L"H情報H");
@@ -51,8 +35,8 @@ TEST_F(InfoStatic, TextIsIndentedBehindTheIconAndCentredOnItsColour) {
     EXPECT_GE(plain.left, 2);
     EXPECT_LE(plain.left, 4);
     EXPECT_NEAR(plain.CenterPoint().y, SIZE_.cy / 2, 2);
-    EXPECT_TRUE(Look().Has(plain, fx::BLACK));
-    EXPECT_FALSE(Look().Has(plain, fx::WHITE)) << "nothing but its colour behind the text";
+    EXPECT_TRUE(Look().Has(plain, BLACK));
+    EXPECT_FALSE(Look().Has(plain, WHITE)) << "nothing but its colour behind the text";
     m_text.SetOption(CInfoStatic::OptionIcon);
     EXPECT_EQ(Ink(Look(), YELLOW, CRect(16, 0, SIZE_.cx, SIZE_.cy)), plain + CPoint(14, 0));
     m_text.SetOption(0xFFFFFFFE);

@@ -1,6 +1,6 @@
 // Full-screen dialogs whose first field brings up the soft input panel while they open.
 #include "support/TestApp.h"
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 #include "testkit/Picture.h"
 #include "testkit/Panel.h"
 #include "testkit/DialogTemplate.h"
@@ -36,7 +36,7 @@ struct FirstFieldDialog : CnDialog {
         : CnDialog(0, pParent), m_order(order) {
         m_template.Add(field.pszClass, L"", field.nID, field.dwStyle | WS_TABSTOP, 2, 2, 60, 50);
         InitModalIndirect(m_template.Get(), pParent);
-        SetBKColor(fx::MAGENTA);
+        SetBKColor(MAGENTA);
     }
     BOOL OnInitDialog() override {
         if (m_order == AfterBase)
@@ -60,7 +60,7 @@ bool PanelIsSeen() {
         return false;
     const CRect place = panel::Place();
     const Picture image = Picture::OfScreen();
-    return image.Has(CRect(0, 0, place.right, place.top), fx::MAGENTA) && !image.Has(place, fx::MAGENTA);
+    return image.Has(CRect(0, 0, place.right, place.top), MAGENTA) && !image.Has(place, MAGENTA);
 }
 
 /// Runs the steps and ends the dialog; the panel goes with the dialog's field.

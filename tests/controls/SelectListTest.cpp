@@ -1,6 +1,6 @@
 // The highlighted rows of a list view.
 #include "support/TestApp.h"
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 
 #include "controls/SelectListCtrl.h"
 
@@ -34,10 +34,10 @@ TEST(SelectList, MarkedRowIsBlackOnCyanAtItsStageOfDrawing) {
         draw.nmcd.hdr = {list.m_hWnd, 1, static_cast<UINT>(NM_CUSTOMDRAW)};
         draw.nmcd.dwDrawStage = dwStage;
         draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(nItem);
-        draw.clrText = draw.clrTextBk = fx::RED;
+        draw.clrText = draw.clrTextBk = RED;
         EXPECT_EQ(frame.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&draw)), lResult) << dwStage;
-        EXPECT_EQ(draw.clrText, bColored ? fx::BLACK : fx::RED) << dwStage;
-        EXPECT_EQ(draw.clrTextBk, bColored ? CYAN : fx::RED) << dwStage;
+        EXPECT_EQ(draw.clrText, bColored ? BLACK : RED) << dwStage;
+        EXPECT_EQ(draw.clrTextBk, bColored ? CYAN : RED) << dwStage;
     }
 }
 

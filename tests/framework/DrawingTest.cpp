@@ -1,12 +1,11 @@
 // Drawing: the state of device contexts, what appears on a bitmap, who deletes pens and brushes.
-#include "support/Colors.h"
+#include "testkit/Colors.h"
 #include "support/TestApp.h"
 #include "testkit/Canvas.h"
 
 #include <algorithm>
 
 using namespace testkit;
-using fx::BLUE, fx::RED;
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Parts that programs bring along: backgrounds, pictures on buttons, arguments, bars.
-#include "support/Colors.h"
-#include "support/MenuOwner.h"
+#include "testkit/Colors.h"
+#include "support/TestApp.h"
 #include "testkit/Canvas.h"
 #include "testkit/DialogTemplate.h"
 #include "testkit/Program.h"
@@ -9,7 +9,6 @@
 #include "afxext.h"
 
 using namespace testkit;
-using fx::BLUE, fx::RED;
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Members of the common controls that do more than send their message.
-#include "support/MenuOwner.h"
+#include "support/TestApp.h"
 
 #include "afxcmn.h"
 

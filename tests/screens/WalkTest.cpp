@@ -68,28 +68,6 @@ TEST(Controls, LookAsTheyDid) {
     }
 }
 
-TEST(Lists, TakeWhatTheScreenHasMore) {
-    Drive drive;
-    fx::FillDrive(drive);
-    const Rows<INT_PTR (*)(CWnd*), int> rows = {{fx::SelectFile<CFileSelectDlg::ModeSave>, 1151},
-                                                {fx::SelectFolder, 1100},
-                                                {fx::ShowLongResult, 1077}};
-    for (const auto& [open, nID] : rows) {
-        const auto look = [nList = nID] {
-            const HWND hWnd = ::GetActiveWindow(), hList = ::GetDlgItem(hWnd, nList);
-            EXPECT_GE(RectOf(hList).right, RectOf(hWnd).right - AfxScale(hWnd, 20));
-            LRESULT lColumns = 0;
-            for (WPARAM nColumn = 0; nColumn < 3; ++nColumn)
-                lColumns += ::SendMessage(hList, LVM_GETCOLUMNWIDTH, nColumn, 0);
-            if (nList == 1151) {
-                EXPECT_GE(lColumns, RectOf(hList).Width() - AfxScale(hWnd, 30));
-            }
-            fx::Cancel(hWnd);
-        };
-        Play([open = open] { return open(nullptr); }, {look});
-    }
-}
-
 /// Below its field a full-screen dialog opens others while the panel stays.
 struct Behind : CnDialog {
     Behind() : CnDialog(210, nullptr) {}
@@ -117,20 +95,11 @@ TEST(Panel, ButtonsOfPopupsAndQuestionsStayClearOfIt) {
         TVShowSIP(0); // it may have gone with the field of the dialog
         nAnswer = fx::AskQuestion(nullptr);
     };
-    PlayAndEnd(behind, {UntilClear(105), [&] { input.DoModal(); }, UntilClear(IDCANCEL), TapIn(IDCANCEL), ask,
-                        UntilClear(IDNO), TapIn(IDNO)});
+    const auto look = [] { EXPECT_EQ("", g_looks.Faults("panel", panel::OfThread())); };
+    PlayAndEnd(behind, {UntilClear(105), look, [&] { input.DoModal(); }, UntilClear(IDCANCEL),
+                        TapIn(IDCANCEL), ask, UntilClear(IDNO), TapIn(IDNO)});
     EXPECT_EQ(IDNO, nAnswer);
     panel::Close();
-}
-
-TEST(SharedIcons, AreDrawnForTheScreensResolution) {
-    ICONINFO info = {};
-    ASSERT_TRUE(::GetIconInfo(TVGetCommonIcon(TVICON_FOLDER), &info));
-    BITMAP bitmap = {};
-    ::GetObject(info.hbmColor, sizeof bitmap, &bitmap);
-    EXPECT_EQ(AfxScale(nullptr, 16), bitmap.bmWidth);
-    ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
 }
 
 } // namespace

@@ -32,4 +32,19 @@ struct TestApp : Application {
 
 inline TestApp g_app;
 
+/// The first item of the menu that a Heard window is about to open; its window closes it at once.
+struct MenuOwner : Heard<Frame> {
+    explicit MenuOwner(CSize size = {200, 200}) : Heard(size) {
+        m_hear = [this](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+            if (message == WM_INITMENUPOPUP) {
+                m_nItem = ::GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0);
+                ::EndMenu();
+            }
+            return std::nullopt;
+        };
+    }
+
+    UINT m_nItem = 0;
+};
+
 } // namespace fx

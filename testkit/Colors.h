@@ -1,11 +1,12 @@
-// Colors that tests look for, and an icon to look for.
+/// @file
+/// Colors that tests of drawing look for, and an icon to look for.
 #pragma once
 
 #include "afxwin.h"
 
 #include <vector>
 
-namespace fx {
+namespace testkit {
 
 constexpr COLORREF BLACK = RGB(0, 0, 0);
 constexpr COLORREF WHITE = RGB(255, 255, 255);
@@ -13,8 +14,9 @@ constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
 constexpr COLORREF MAGENTA = RGB(255, 0, 255);
 
-/// An icon that is one square of magenta.
+/// An icon that is one square of magenta, as long as this object.
 struct SquareIcon {
+    /// @param nSize its width and height, in pixels
     explicit SquareIcon(int nSize = 16) {
         CBitmap mask; // all 0: nothing shines through
         const std::vector<BYTE> bits(static_cast<size_t>(nSize * nSize), 0);
@@ -32,4 +34,4 @@ private:
     HICON m_hIcon = nullptr;
 };
 
-} // namespace fx
+} // namespace testkit
