@@ -28,7 +28,7 @@ Looks::Looks(const std::wstring& path) : m_path(path) {
 Looks::~Looks() {
     std::string text;
     for (const auto& [name, sum] : m_now)
-        text += name + ' ' + sum + '\n';
+        text.append(name).append(1, ' ').append(sum).append(1, '\n');
     detail::WriteKept(detail::IsKeeping() ? m_path : detail::NameOfNow(m_path), text);
 }
 
